@@ -1,0 +1,63 @@
+// The boundary between the endpoint and the operating system's datagram sockets.
+//
+// Beyond this boundary a socket address is the host's own sockaddr; on this side it is a record in
+// the BSD layout (addresses/SocketAddressRecord.h). Every operation is one system call, keeps its
+// result convention (-1 and errno for a failure), and does not retry.
+//
+// The class is the real adapter and the seam in one: tests derive from it to play a system that
+// fails. Threading: keeps no state; any thread.
+
+#pragma once
+
+#include "support/ByteRange.h"
+
+#include <sys/types.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
+namespace kx {
+
+// Flags of a socket wrapper (EndpointSocket in UDPEcho.h).
+inline constexpr std::uint32_t kCFSocketCloseOnInvalidate = 128;
+
+class DatagramSystemCalls {
+public:
+    virtual ~DatagramSystemCalls() = default;
+
+    // socket(2): AF_INET, SOCK_DGRAM, protocol 0. The descriptor, or -1.
+    virtual int socket();
+
+    // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family fails with
+    // EAFNOSUPPORT.
+    virtual int bind(int descriptor, ByteView addressRecord);
+    virtual int connect(int descriptor, ByteView addressRecord);
+
+    // fcntl(2) with F_GETFL and F_SETFL. The flags or 0, or -1.
+    virtual int statusFlags(int descriptor);
+    virtual int setStatusFlags(int descriptor, int flags);
+
+    // setsockopt(2): SO_BROADCAST at level SOL_SOCKET, the 4-byte integer 1. 0, or -1.
+    virtual int enableBroadcast(int descriptor);
+
+    // sendto(2) of the whole of `data`, flags 0; without address on a connected socket when
+    // `addressRecord` is empty. The bytes sent, or -1.
+    virtual ssize_t sendTo(int descriptor, ByteView data, ByteView addressRecord);
+
+    // recvfrom(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
+    // received, or -1. On success `sender` holds the sender's record.
+    virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender);
+
+    // getsockname(2) and getpeername(2) as records; absent when the call fails.
+    virtual std::optional<Bytes> localAddress(int descriptor);
+    virtual std::optional<Bytes> peerAddress(int descriptor);
+
+    // close(2). 0, or -1.
+    virtual int close(int descriptor);
+
+    // The flags that a new socket wrapper starts with.
+    virtual std::uint32_t socketFlags() { return kCFSocketCloseOnInvalidate; }
+};
+
+} // namespace kx

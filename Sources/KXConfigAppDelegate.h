@@ -1,0 +1,147 @@
+// The controller: the one object that decides what the application does.
+//
+// It is the delegate of the application, of the main window, of the UDP endpoint and of the parameter
+// table, and the data source of the one-row edit table. It talks to controls (Outlets.h) and services
+// through interfaces, so it knows no screen and no operating system.
+//
+// Threading: everything on the main thread; each operation runs to completion before the next event.
+// Ownership: the controller owns what its fields hold; controls and services belong to whoever made
+// it and must outlive it. Failures of the network go to the event log and nothing stops the program;
+// data that breaks its own format is abandoned with a line in the system log.
+
+#pragma once
+
+#include "KXParameterEntry.h"
+#include "Outlets.h"
+#include "System Configuration/NetworkInterfaces.h"
+#include "UDPEcho.h"
+#include "UnitParameters.h"
+#include "support/TextFormat.h"
+#include "support/WallClock.h"
+#include "tables/TableViewDataSource.h"
+
+#include <chrono>
+#include <cstdint>
+#include <initializer_list>
+#include <list>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+class KXConfigAppDelegate final : public UDPEchoDelegate, public TableViewDataSource {
+public:
+    struct Services {
+        RunLoop& runLoop;
+        HostResolver& hostResolver;
+        DatagramSystemCalls& systemCalls;
+        const WallClock& wallClock;
+        Application& application;
+        NetworkInterfaces* networkInterfaces; // null: the host's configuration is not read
+    };
+
+    // The unit registry: units by the text of their serial number, in ascending order.
+    using Registry = std::map<std::string, UnitRecord, std::less<>>;
+
+    KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
+
+    // --- Lifecycle (KXConfigAppDelegate.cpp) ---
+
+    // Fills the interface pop-up, discovers, and prepares the option command.
+    void applicationDidFinishLaunching();
+
+    // Stops the endpoint and releases everything. No delayed call runs after it.
+    void applicationWillTerminate();
+
+    // Closing the main window ends the application.
+    void windowWillClose();
+
+    // --- Actions of the controls ---
+
+    void interfaceSelect();           // takes over address and mask; sends and logs nothing
+    void udpPortSelect();             // discovers on the chosen port
+    void discoverButton();            // restarts the listener and broadcasts a parameter request
+    void unitSelectPopUp();           // shows the chosen unit
+    void reloadUnitParameterButton(); // asks the selected unit, or every unit, for its parameters
+    void optionCommandPopUp();        // prepares the text of an option command
+    bool sendOptionButton();          // sends it; false when nothing was sent
+    void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
+    void logDrawerButton();           // opens or closes the event log drawer
+
+    // The parameter table's selection changed: copies the row into the edit row.
+    void tableViewSelectionDidChange();
+
+    // --- The edit table's values: always one row, the columns of KXParameterEntry ---
+
+    int numberOfRowsInTableView() override;
+    std::optional<PropertyListValue> tableViewObjectValueForTableColumnRow(const TableColumn& column,
+                                                                           int row) override;
+    void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
+                                                  const TableColumn& column, int row) override;
+
+    // --- The endpoint's events ---
+
+    void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
+                                       const Bytes& address) override;
+    void echoDidReceiveError(UDPEcho& echo, const Error& error) override;
+    void echoDidSendDataToAddress(UDPEcho& echo, const Bytes& data, const Bytes& address) override;
+    void echoDidFailToSendDataToAddressError(UDPEcho& echo, const Bytes& data, const Bytes& address,
+                                             const Error& error) override;
+    void echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) override;
+    void echoDidStopWithError(UDPEcho& echo, const Error& error) override;
+
+    // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
+
+    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520. False
+    // when nothing was sent: a text is absent, there is no listener, or the command is not ASCII.
+    bool sendCommandToAddress(const std::optional<std::string>& command,
+                              const std::optional<std::string>& address);
+
+    // Sends a command to the selected unit; false also when its address is not known.
+    bool sendCommand(const std::optional<std::string>& command);
+
+    // --- Event log (KXConfigAppDelegate_EventLog.cpp) ---
+
+    // Appends one entry. An entry begins with its own line break.
+    void appendString(std::string_view text);
+
+    // --- What the fields hold, to be read by tests and fronts ---
+
+    const std::string& eventLog() const { return logText; }
+    const Registry& devices() const { return _devicesD; }
+    const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
+    const std::shared_ptr<UDPEcho>& udpListener() const { return _udpListener; }
+
+private:
+    void didStartListenerWithAddress(const Bytes& address);
+    void restartListener();
+    void discoverComplete();
+    void setSelectedUnit(const std::optional<std::string>& key);
+    void didReceiveDataFromAddress(ByteView data, const Bytes& address);
+    std::string unitParameters(ByteView list);
+    std::uint32_t directedBroadcastAddress() const;
+    std::uint32_t unitRequestAddress() const;
+    std::uint16_t unitRequestPort() const;
+    const UnitRecord* selectedRecord() const;
+    void sendRequest(std::string_view command);
+    void sendThroughListener(const Bytes& data, const Bytes& address);
+    void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
+    void performAfterDelay(std::chrono::milliseconds delay, void (KXConfigAppDelegate::*operation)());
+
+    MainWindowOutlets _outlets;
+    Services _services;
+
+    std::string logText;
+    std::shared_ptr<UDPEcho> _udpListener;
+    std::uint32_t localAddress = 0; // host byte order; 0: no interface has been chosen
+    std::uint32_t localMask = 0;
+    Registry _devicesD;
+    std::optional<std::string> _selectedUnit;
+    KXParameterEntry _editTableEntry;
+    std::list<RunLoop::Handle> _delayedCalls;
+};
+
+} // namespace kx

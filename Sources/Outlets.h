@@ -1,0 +1,127 @@
+// The controls that the controller talks to, each as the few operations that it needs.
+//
+// Main thread only. The controller never owns a control. No operation calls back into the
+// controller from inside itself, with one exception: Window::makeFirstResponder() and endEditing()
+// may hand a half-typed value to the table's data source. In particular, selecting an item from
+// code does not run a pop-up's action.
+
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kx {
+
+class GXArrayTable;
+
+// A pop-up button: a list of titles of which one is selected.
+class PopUpButton {
+public:
+    virtual ~PopUpButton() = default;
+
+    virtual void removeAllItems() = 0;
+
+    // Appends one item for each title, in order. No two items have equal titles: an item that
+    // already has the title is replaced, and the new one stands at the end. When nothing was
+    // selected, the first item becomes selected; otherwise the selected title stays selected.
+    virtual void addItemsWithTitles(const std::vector<std::string>& titles) = 0;
+
+    // Does nothing when there is no such item.
+    virtual void selectItemAtIndex(int index) = 0;
+
+    // Selects nothing when there is no such item.
+    virtual void selectItemWithTitle(std::string_view title) = 0;
+
+    // Absent when nothing is selected, as in an empty pop-up.
+    virtual std::optional<std::string> titleOfSelectedItem() const = 0;
+
+    virtual void setEnabled(bool enabled) = 0;
+};
+
+class TextField {
+public:
+    virtual ~TextField() = default;
+
+    virtual void setStringValue(std::string_view text) = 0;
+    virtual std::string stringValue() const = 0;
+};
+
+// A table view; its values come from its TableViewDataSource, which whoever makes the view
+// connects.
+class TableView {
+public:
+    virtual ~TableView() = default;
+
+    // Asks the data source for everything again. The selection is kept by row number as far as the
+    // rows still exist.
+    virtual void reloadData() = 0;
+
+    // The index of the selected row, -1 when none is selected.
+    virtual int selectedRow() const = 0;
+};
+
+// The view of the event log.
+class TextView {
+public:
+    virtual ~TextView() = default;
+
+    virtual void setString(std::string_view text) = 0;
+
+    // Replaces the empty range at the end of the text.
+    virtual void insertAtEnd(std::string_view text) = 0;
+
+    // Scrolls so that the end of the text is visible.
+    virtual void scrollEndToVisible() = 0;
+};
+
+enum class DrawerState { closed = 0, opening = 1, open = 2, closing = 3 };
+
+class Drawer {
+public:
+    virtual ~Drawer() = default;
+
+    // open() and close() may take their time: the state is then opening or closing meanwhile.
+    virtual void open() = 0;
+    virtual void close() = 0;
+    virtual DrawerState state() const = 0;
+};
+
+class Window {
+public:
+    virtual ~Window() = default;
+
+    // Ends any edit in progress by taking the keyboard focus; false when the edit refuses to end.
+    virtual bool makeFirstResponder() = 0;
+
+    // Ends every edit in the window by force, storing what was typed.
+    virtual void endEditing() = 0;
+};
+
+class Application {
+public:
+    virtual ~Application() = default;
+
+    // Asks the application to end. The loop runs on until its current event has been handled.
+    virtual void terminate() = 0;
+};
+
+// The main window's controls, under their object names. All are set before launch. The log's button
+// and its scroll view belong to the window alone: no code of the controller reads them.
+struct MainWindowOutlets {
+    Window* window = nullptr;
+    PopUpButton* interfacePopUp = nullptr;
+    PopUpButton* udpPortPopUp = nullptr;
+    PopUpButton* unitSelectPopUp = nullptr;
+    TextField* unitIDField = nullptr;
+    TableView* unitParameterTableView = nullptr;
+    GXArrayTable* unitParameterTable = nullptr;  // the data source of unitParameterTableView
+    TableView* editParameterTableView = nullptr; // its data source is the controller
+    PopUpButton* optionCommandPopUp = nullptr;
+    TextField* optionCommandField = nullptr;
+    Drawer* eventLogDrawer = nullptr;
+    TextView* logTextView = nullptr;
+};
+
+} // namespace kx

@@ -1,0 +1,40 @@
+// What the controller needs to know of the host's network interfaces.
+//
+// A title is what a person chooses by: a name, a blank and the interface in parentheses. A service
+// identifier names the configured network service behind it; one that begins with "=" stands for an
+// interface of the kernel that no service covers. Main thread only.
+
+#pragma once
+
+#include "support/PropertyListValue.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kx {
+
+class NetworkInterfaces {
+public:
+    virtual ~NetworkInterfaces() = default;
+
+    // The titles of the configured services and of the kernel interfaces that are up, in the order in
+    // which they are to be offered; absent when there are none. When `serviceIDs` is not null, it
+    // receives the service identifiers, parallel to the titles; it is not written when the result is
+    // absent.
+    virtual std::optional<std::vector<std::string>>
+    bsdTitlesAndServiceIDs(std::vector<std::string>* serviceIDs) = 0;
+
+    // The identifier of the configured service on an interface, by the interface's name in the
+    // system; absent when there is none.
+    virtual std::optional<std::string> serviceIDForInterface(std::string_view bsdName) = 0;
+
+    // One entry of a service's data, for example ("IPv4", "Addresses"); absent when the service, the
+    // dictionary or the entry does not exist.
+    virtual std::optional<PropertyListValue>
+    serviceDataForDictionaryNameKey(std::string_view serviceID, std::string_view dictionaryName,
+                                    std::string_view key) = 0;
+};
+
+} // namespace kx

@@ -1,0 +1,186 @@
+// An IPv4 UDP endpoint driven by the run loop.
+//
+// It owns one datagram socket and tells a delegate everything that happens on it. Two modes:
+//
+//   server   startServerOnPort(): bound to 0.0.0.0 and the port; every datagram that is sent names
+//            its destination (_sendDataToAddress()).
+//   client   startConnectedToHostNamePort(): resolves a host name, connects to the first IPv4
+//            address that accepts, and sends to that peer (sendData()).
+//
+// The endpoint has no protocol: a datagram is one buffer of bytes and a socket address. It sets no
+// socket option; its owner may, through nativeSocket().
+//
+// Threading: everything, callbacks included, on the thread of the run loop. Sends and reads never
+// block. One datagram is read for each readable event, so a flood on this socket cannot keep other
+// events waiting.
+//
+// Ownership: hold it by std::shared_ptr. It keeps itself alive while it reports a stop, so the
+// delegate may release it there. The delegate is not owned; clear it or outlive the endpoint. Run
+// loop, resolver and system calls must outlive it too.
+//
+// Errors: what the network does wrong reaches the delegate as an Error; sends and reads that fail
+// do not stop the endpoint. What the caller does wrong breaks a contract and ends the process
+// (support/Require.h, source path "Sources/UDPEcho"). The contracts are named at the operations.
+
+#pragma once
+
+#include "DatagramSystemCalls.h"
+#include "support/ByteRange.h"
+#include "support/Error.h"
+#include "support/HostResolver.h"
+#include "support/RunLoop.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace kx {
+
+class UDPEcho;
+
+// Receives the events of an endpoint. Every method is optional. All calls are synchronous, made
+// from inside the endpoint's own operation or run-loop callback. Addresses are socket address
+// records in the BSD layout (addresses/SocketAddressRecord.h).
+class UDPEchoDelegate {
+public:
+    virtual ~UDPEchoDelegate() = default;
+
+    // A datagram of at least one byte was read.
+    virtual void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
+                                               const Bytes& address);
+
+    // A read failed; the endpoint goes on. A datagram without bytes counts as EPIPE.
+    virtual void echoDidReceiveError(UDPEcho& echo, const Error& error);
+
+    // A datagram was sent whole.
+    virtual void echoDidSendDataToAddress(UDPEcho& echo, const Bytes& data, const Bytes& address);
+
+    // A send failed; the endpoint goes on. A send of nothing counts as EPIPE.
+    virtual void echoDidFailToSendDataToAddressError(UDPEcho& echo, const Bytes& data,
+                                                     const Bytes& address, const Error& error);
+
+    // The endpoint started: with its local address as a server, with the peer's as a client.
+    virtual void echoDidStartWithAddress(UDPEcho& echo, const Bytes& address);
+
+    // The endpoint stopped because of an error; never after stop(). It may be released here.
+    virtual void echoDidStopWithError(UDPEcho& echo, const Error& error);
+};
+
+// What a plain callback is given to find its object by.
+class CallbackInfo {
+public:
+    virtual ~CallbackInfo() = default;
+};
+
+enum class SocketCallbackType { none = 0, read = 1, accept = 2, data = 3, connect = 4 };
+enum class HostInfoType { addresses = 0, names = 1, reachability = 2 };
+
+// A descriptor with its watch on the run loop. Destroying it ends the watch and, with
+// kCFSocketCloseOnInvalidate among its flags, closes the descriptor.
+class EndpointSocket {
+public:
+    EndpointSocket(DatagramSystemCalls& systemCalls, int descriptor);
+    ~EndpointSocket();
+    EndpointSocket(const EndpointSocket&) = delete;
+    EndpointSocket& operator=(const EndpointSocket&) = delete;
+
+    int native() const { return _descriptor; }
+    std::uint32_t flags() const { return _flags; }
+    void setSource(RunLoop::Handle source) { _source = std::move(source); }
+
+private:
+    DatagramSystemCalls& _systemCalls;
+    int _descriptor;
+    std::uint32_t _flags;
+    RunLoop::Handle _source;
+};
+
+class UDPEcho final : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
+public:
+    UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
+
+    // Stops without a word to the delegate.
+    ~UDPEcho() override;
+    UDPEcho(const UDPEcho&) = delete;
+    UDPEcho& operator=(const UDPEcho&) = delete;
+
+    // True in server mode and when stopped: there is no host name.
+    bool isServer() const { return !_hostName.has_value(); }
+
+    // The port in host byte order; 0 when stopped.
+    std::size_t port() const { return _port; }
+    void setPort(std::size_t port) { _port = port; }
+
+    // Client mode: the name being resolved or connected to. Otherwise absent.
+    const std::optional<std::string>& hostName() const { return _hostName; }
+    void setHostName(std::optional<std::string> hostName) { _hostName = std::move(hostName); }
+
+    // Client mode, connected: the peer's record. Otherwise absent.
+    const std::optional<Bytes>& hostAddress() const { return _hostAddress; }
+    void setHostAddress(std::optional<Bytes> address) { _hostAddress = std::move(address); }
+
+    UDPEchoDelegate* delegate() const { return _delegate; }
+    void setDelegate(UDPEchoDelegate* delegate) { _delegate = delegate; }
+
+    // The socket's descriptor, for socket options. Only while started and connected.
+    int nativeSocket() const;
+
+    // Starts as a server on a port in host byte order and reports echoDidStartWithAddress() before
+    // it returns; when the socket cannot be set up, reports echoDidStopWithError() instead and
+    // stays stopped. Contracts: "(port > 0) && (port < 65536)", "self.port == 0".
+    void startServerOnPort(std::size_t port);
+
+    // Starts as a client: resolves, then connects, then reports echoDidStartWithAddress(). Every
+    // failure reports echoDidStopWithError(), from inside this call when the resolution cannot
+    // start. Contracts: "hostName != nil", "(port > 0) && (port < 65536)", "self.port == 0",
+    // "self->_cfHost == NULL", "self->_cfHost != NULL".
+    void startConnectedToHostNamePort(const std::optional<std::string>& hostName, std::size_t port);
+
+    // Client mode: sends one datagram to the peer. Contract: "NO" unless connected.
+    void sendData(const std::optional<Bytes>& data);
+
+    // Sends one datagram: to `address` in server mode, to the peer without one in client mode.
+    // Reports echoDidSendDataToAddress() or echoDidFailToSendDataToAddressError() before it
+    // returns. Contracts: "data != nil", "(addr != nil) == self.isServer",
+    // "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", "sock >= 0".
+    void _sendDataToAddress(const std::optional<Bytes>& data, const std::optional<Bytes>& address);
+
+    // Stops and releases everything, silently. Does nothing when stopped.
+    void stop();
+
+    // The plain functions registered with the socket's watch and with the resolver; each checks
+    // that it is called for the endpoint's own socket or resolution, then acts.
+    friend void SocketReadCallback(const EndpointSocket* socket, SocketCallbackType type,
+                                   const Bytes* address, const void* data, CallbackInfo* info);
+    friend void HostResolveCallback(const HostResolver::Request* host, HostInfoType typeInfo,
+                                    const HostResolution& resolution, CallbackInfo* info);
+
+private:
+    bool _setupSocketConnectedToAddressPortError(const std::optional<Bytes>& address,
+                                                 std::size_t port, std::optional<Error>& error);
+    void _hostResolutionDone(const HostResolution& resolution);
+    void _stopHostResolution();
+    void _readData();
+    void _stopWithError(const std::optional<Error>& error);
+    void _stopWithStreamError(const StreamError& streamError);
+
+    RunLoop& _runLoop;
+    HostResolver& _hostResolver;
+    DatagramSystemCalls& _systemCalls;
+
+    UDPEchoDelegate* _delegate = nullptr;
+    std::optional<std::string> _hostName;
+    std::optional<Bytes> _hostAddress;
+    std::size_t _port = 0;
+    std::unique_ptr<HostResolver::Request> _cfHost;
+    std::unique_ptr<EndpointSocket> _cfSocket;
+};
+
+void SocketReadCallback(const EndpointSocket* socket, SocketCallbackType type, const Bytes* address,
+                        const void* data, CallbackInfo* info);
+void HostResolveCallback(const HostResolver::Request* host, HostInfoType typeInfo,
+                         const HostResolution& resolution, CallbackInfo* info);
+
+} // namespace kx

@@ -1,0 +1,63 @@
+// Name resolution that reports on the run loop and can be cancelled.
+//
+// Threading: operations and the report run on the thread of the run loop that the adapter was made
+// with. The report never comes from inside startResolution().
+//
+// Ownership: the returned object stands for the resolution. Destroying it cancels: no report comes
+// after that. It may be destroyed from inside its own report, and must not outlive the resolver.
+
+#pragma once
+
+#include "support/ByteRange.h"
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+// Who failed while resolving. Domain 0 means no error.
+enum StreamErrorDomain : int {
+    kCFStreamErrorDomainNone = 0,
+    kCFStreamErrorDomainPOSIX = 1,  // code is a value of errno(3)
+    kCFStreamErrorDomainNetDB = 12, // code is an EAI_... value of getaddrinfo(3)
+};
+
+struct StreamError {
+    int domain = kCFStreamErrorDomainNone;
+    int code = 0;
+};
+
+// What a resolution ended with. `addresses` are socket address records (see
+// addresses/SocketAddressRecord.h) in the resolver's order, of any family and with port 0; absent
+// when there is no answer.
+struct HostResolution {
+    StreamError error;
+    std::optional<std::vector<Bytes>> addresses;
+};
+
+class HostResolver {
+public:
+    class Request {
+    public:
+        virtual ~Request() = default;
+
+    protected:
+        Request() = default;
+        Request(const Request&) = delete;
+        Request& operator=(const Request&) = delete;
+    };
+    using Report = std::function<void(const HostResolution&)>;
+
+    virtual ~HostResolver() = default;
+
+    // Starts to resolve the addresses of `hostName` and reports exactly once, unless cancelled.
+    // Null when it could not be started; `startError` then says why. `startError` is not written
+    // otherwise.
+    virtual std::unique_ptr<Request> startResolution(const std::string& hostName, Report report,
+                                                     StreamError& startError) = 0;
+};
+
+} // namespace kx

@@ -1,0 +1,30 @@
+// The system log: where diagnostics go that are not for the user's event log.
+//
+// One sink serves the whole process, because the code that writes to it (contract checks, container
+// base classes, parsers) has no owner who could hand it one. Until a sink is installed, lines go to
+// standard error. Main thread only, except that the contract checks may write from any thread just
+// before they end the process.
+
+#pragma once
+
+#include <string_view>
+
+namespace kx {
+
+class SystemLog {
+public:
+    virtual ~SystemLog() = default;
+
+    // Writes one line; `line` has no line break at its end. Never fails: a log that cannot be
+    // written is no reason to stop, and there is nowhere to report it.
+    virtual void write(std::string_view line) = 0;
+};
+
+// Makes `log` the process's sink and returns the one before it; null means standard error. The
+// caller keeps ownership and must install another sink before it destroys this one.
+SystemLog* installSystemLog(SystemLog* log);
+
+// Writes one line to the installed sink.
+void logToSystem(std::string_view line);
+
+} // namespace kx

@@ -1,0 +1,36 @@
+// What a table view asks of the object that holds its values.
+
+#pragma once
+
+#include "support/PropertyListValue.h"
+
+#include <optional>
+#include <string>
+
+namespace kx {
+
+// A column as a data source knows it: the key of the values that it shows.
+struct TableColumn {
+    std::string identifier;
+};
+
+// Main thread only. The view keeps a plain reference: a data source must outlive its view or be
+// taken from it. The view asks again after TableView::reloadData(), never on its own account when
+// the values change.
+class TableViewDataSource {
+public:
+    virtual ~TableViewDataSource() = default;
+
+    // The number of rows, 0 or more.
+    virtual int numberOfRowsInTableView() = 0;
+
+    // The value of a cell; absent shows as an empty cell.
+    virtual std::optional<PropertyListValue>
+    tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) = 0;
+
+    // Takes over what the user typed into a cell.
+    virtual void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
+                                                          const TableColumn& column, int row) = 0;
+};
+
+} // namespace kx

@@ -1,0 +1,15 @@
+# One place for the language level, the warnings and the sanitizers of every target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+
+add_library(kxwarnings INTERFACE)
+target_compile_options(kxwarnings INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+
+if(KX_SANITIZE)
+    add_compile_options(-fsanitize=${KX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_link_options(-fsanitize=${KX_SANITIZE})
+endif()
