@@ -1,13 +1,13 @@
 // The controller: the one object that decides what the application does.
 //
-// It is the delegate of the application, of the main window, of the UDP endpoint and of the parameter
-// table, and the data source of the one-row edit table. It talks to controls (Outlets.h) and services
-// through interfaces, so it knows no screen and no operating system.
+// It is the delegate of the application, of the main window, of the UDP endpoint and of the
+// parameter table, and the data source of the one-row edit table. It talks to controls (Outlets.h)
+// and services through interfaces, so it knows no screen and no operating system.
 //
-// Threading: everything on the main thread; each operation runs to completion before the next event.
-// Ownership: the controller owns what its fields hold; controls and services belong to whoever made
-// it and must outlive it. Failures of the network go to the event log and nothing stops the program;
-// data that breaks its own format is abandoned with a line in the system log.
+// Threading: everything on the main thread; each operation runs to completion before the next
+// event. Ownership: the controller owns what its fields hold; controls and services belong to
+// whoever made it and must outlive it. Failures of the network go to the event log and nothing
+// stops the program; data that breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -77,8 +77,8 @@ public:
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
 
     int numberOfRowsInTableView() override;
-    std::optional<PropertyListValue> tableViewObjectValueForTableColumnRow(const TableColumn& column,
-                                                                           int row) override;
+    std::optional<PropertyListValue>
+    tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
@@ -95,8 +95,9 @@ public:
 
     // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
 
-    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520. False
-    // when nothing was sent: a text is absent, there is no listener, or the command is not ASCII.
+    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520.
+    // False when nothing was sent: a text is absent, there is no listener, or the command is not
+    // ASCII.
     bool sendCommandToAddress(const std::optional<std::string>& command,
                               const std::optional<std::string>& address);
 
@@ -129,7 +130,8 @@ private:
     void sendRequest(std::string_view command);
     void sendThroughListener(const Bytes& data, const Bytes& address);
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
-    void performAfterDelay(std::chrono::milliseconds delay, void (KXConfigAppDelegate::*operation)());
+    void performAfterDelay(std::chrono::milliseconds delay,
+                           void (KXConfigAppDelegate::*operation)());
 
     MainWindowOutlets _outlets;
     Services _services;
