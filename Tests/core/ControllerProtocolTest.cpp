@@ -252,9 +252,8 @@ TEST_F(ControllerProtocol, MissingSerialTagGivesTheShortLine) {
 
 TEST_F(ControllerProtocol, ZeroBytesOfAUnitIDReachTheLog) {
     EXPECT_EQ(logOf(replyHeader({'A', 'B', 'C', 0, 0, 0}, serialOfSeven)).at(0),
-              std::string("Received command: ^^<U> unit:ABC\0\0\0 "
-                          "serial:0A 0B 0C 0D 0E 0F cidString:$",
-                          69));
+              "Received command: ^^<U> unit:ABC" + std::string(3, '\0') +
+                  " serial:0A 0B 0C 0D 0E 0F cidString:$");
 }
 
 TEST_F(ControllerProtocol, ParameterReplyIsLoggedValueByValueAndStored) {
