@@ -27,13 +27,12 @@ int main(int argc, char* argv[]) {
     kx::QtApplication application;
 
     kx::MainWindow window;
-    kx::KXConfigAppDelegate controller(
-        window.outlets(), {.runLoop = runLoop,
-                           .hostResolver = hostResolver,
-                           .systemCalls = systemCalls,
-                           .wallClock = wallClock,
-                           .application = application,
-                           .networkInterfaces = nullptr});
+    kx::KXConfigAppDelegate controller(window.outlets(), {.runLoop = runLoop,
+                                                          .hostResolver = hostResolver,
+                                                          .systemCalls = systemCalls,
+                                                          .wallClock = wallClock,
+                                                          .application = application,
+                                                          .networkInterfaces = nullptr});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

@@ -8,7 +8,6 @@
 #include "tables/TableViewDataSource.h"
 
 #include <QAbstractTableModel>
-
 #include <vector>
 
 namespace kx {

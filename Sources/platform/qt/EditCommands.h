@@ -6,9 +6,9 @@
 
 namespace kx {
 
-// Puts on the clipboard what is selected in the control: text, the cells of a table's row with a tab
-// between them, or a pop-up's title. Leaves the clipboard alone when nothing is selected. `control`
-// may be null.
+// Puts on the clipboard what is selected in the control: text, the cells of a table's row with a
+// tab between them, or a pop-up's title. Leaves the clipboard alone when nothing is selected.
+// `control` may be null.
 void copySelection(QWidget* control);
 
 // Selects the whole text of the control, if it holds text. `control` may be null.

@@ -72,9 +72,9 @@ MainWindow::MainWindow(QWidget* parent)
     connectPopUps();
     connectMenus();
     connectTables();
-    _controls->eventLogDrawer.setStateAction(
-        [this](DrawerState state) { drawerDidChange(state); });
+    _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
     showQuietLine({});
+    keepEmptyStatesReadable();
     fitToContent();
 }
 
@@ -115,6 +115,13 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         return true;
     }
     return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        keepEmptyStatesReadable();
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -208,6 +215,19 @@ void MainWindow::fitToContent() {
     _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
     const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
     resize(wanted.boundedTo(screen()->availableGeometry().size()));
+}
+
+// What an empty or disabled pop-up says is a message, not a faded choice.
+void MainWindow::keepEmptyStatesReadable() {
+    QColor dimmed = palette().color(QPalette::Active, QPalette::ButtonText);
+    dimmed.setAlphaF(0.65F);
+    for (QComboBox* popUp : {_ui->interfacePopUp, _ui->unitSelectPopUp}) {
+        QPalette readable;
+        readable.setColor(QPalette::Disabled, QPalette::ButtonText, dimmed);
+        readable.setColor(QPalette::Disabled, QPalette::Text, dimmed);
+        readable.setColor(QPalette::PlaceholderText, dimmed);
+        popUp->setPalette(readable);
+    }
 }
 
 void MainWindow::perform(Action action) {

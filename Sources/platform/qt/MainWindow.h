@@ -1,7 +1,7 @@
 // The main window: the controls of Resources/MainWindow.ui, wired to the controller.
 //
-// It owns every control, the adapters that the controller sees them through, and the table that feeds
-// the parameter table. It decides nothing of the application; what it adds is the desktop's
+// It owns every control, the adapters that the controller sees them through, and the table that
+// feeds the parameter table. It decides nothing of the application; what it adds is the desktop's
 // manners: keyboard, menus, and a quiet line that says why a press of a button had no effect.
 //
 // Threading: main thread only. Ownership: the controller is not owned and must be taken away again
@@ -12,7 +12,6 @@
 #include "Outlets.h"
 
 #include <QMainWindow>
-
 #include <memory>
 
 namespace kx {
@@ -33,8 +32,8 @@ public:
     // The controls as the controller knows them. They live as long as the window.
     MainWindowOutlets outlets();
 
-    // From now on what the user does runs the controller's actions, closing the window included, and
-    // the edit row shows the controller's values.
+    // From now on what the user does runs the controller's actions, closing the window included,
+    // and the edit row shows the controller's values.
     void connectActions(KXConfigAppDelegate& controller);
 
     // From now on nothing reaches the controller any more.
@@ -43,6 +42,7 @@ public:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -55,6 +55,7 @@ private:
     void connectMenus();
     void connectTables();
     void fitToContent();
+    void keepEmptyStatesReadable();
 
     void perform(Action action);
     void sendOption();

@@ -7,6 +7,13 @@
 
 namespace kx {
 
+namespace {
+
+// Wide enough for the longest name and a text of four address widths beside it.
+constexpr int preferredCharacters = 72;
+
+} // namespace
+
 ParameterTableView::ParameterTableView(QWidget* parent)
     : QTableView(parent) {
     setShowGrid(false);
@@ -37,6 +44,11 @@ void ParameterTableView::setPlaceholderText(const QString& text) {
     viewport()->update();
 }
 
+void ParameterTableView::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    updateGeometry(); // the header's height depends on the model's titles
+}
+
 void ParameterTableView::beginTyping() {
     const QModelIndex cell = firstEditableCell();
     if (cell.isValid()) {
@@ -61,7 +73,7 @@ bool ParameterTableView::showsPlaceholder() const {
 }
 
 QSize ParameterTableView::sizeHint() const {
-    return {QTableView::sizeHint().width(), heightForRows(_preferredRows)};
+    return {preferredCharacters * fontMetrics().averageCharWidth(), heightForRows(_preferredRows)};
 }
 
 QSize ParameterTableView::minimumSizeHint() const {

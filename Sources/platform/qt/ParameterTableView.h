@@ -35,6 +35,7 @@ public:
     // Whether the placeholder is shown: no cell holds a text and none is being edited.
     bool showsPlaceholder() const;
 
+    void setModel(QAbstractItemModel* model) override;
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;
 

@@ -3,7 +3,6 @@
 #include <QLayout>
 #include <QScreen>
 #include <QStyle>
-
 #include <algorithm>
 #include <utility>
 

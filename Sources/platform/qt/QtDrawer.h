@@ -1,10 +1,11 @@
 // The drawer at the lower edge of the window.
 //
-// The drawer is a pane of a vertical splitter, below the window's content. Opening it makes the window
-// taller as far as the screen has room, and takes the rest from the content; closing gives back what
-// the window grew by. The user may drag the splitter; the height is kept for the next time. What is in the
-// drawer slides in and out within the time that the style gives to animations; where that is none, or the
-// window is not shown, the drawer opens and closes at once. The widgets must outlive it.
+// The drawer is a pane of a vertical splitter, below the window's content. Opening it makes the
+// window taller as far as the screen has room, and takes the rest from the content; closing gives
+// back what the window grew by. The user may drag the splitter; the height is kept for the next
+// time. What is in the drawer slides in and out within the time that the style gives to animations;
+// where that is none, or the window is not shown, the drawer opens and closes at once. The widgets
+// must outlive it.
 
 #pragma once
 
@@ -12,7 +13,6 @@
 
 #include <QSplitter>
 #include <QVariantAnimation>
-
 #include <functional>
 
 namespace kx {

@@ -1,8 +1,8 @@
 // A pop-up button over a combo box, with the rules of Outlets.h.
 //
-// Takes over the items that the interface description gave the combo box, and keeps the one selected
-// that was. From then on the items belong to this object: nobody else changes them. The combo box
-// must outlive it. Costs grow with the number of titles, not with its square.
+// Takes over the items that the interface description gave the combo box, and keeps the one
+// selected that was. From then on the items belong to this object: nobody else changes them. The
+// combo box must outlive it. Costs grow with the number of titles, not with its square.
 
 #pragma once
 

@@ -1,10 +1,9 @@
 #include "platform/qt/QtRunLoop.h"
 
-#include <QSocketNotifier>
-#include <QTimer>
-
 #include <fcntl.h>
 
+#include <QSocketNotifier>
+#include <QTimer>
 #include <algorithm>
 #include <limits>
 #include <utility>

@@ -1,8 +1,8 @@
 // The run loop over Qt's event loop.
 //
-// Threading: belongs to the thread that makes it, which needs a QCoreApplication. Callbacks run from
-// that thread's event loop, nested loops (menus, dialogues) included. At rest nothing wakes up: a
-// watch is a socket notifier, a delayed call one single-shot timer.
+// Threading: belongs to the thread that makes it, which needs a QCoreApplication. Callbacks run
+// from that thread's event loop, nested loops (menus, dialogues) included. At rest nothing wakes
+// up: a watch is a socket notifier, a delayed call one single-shot timer.
 
 #pragma once
 

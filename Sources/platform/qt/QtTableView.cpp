@@ -1,7 +1,6 @@
 #include "platform/qt/QtTableView.h"
 
 #include <QItemSelectionModel>
-
 #include <utility>
 
 namespace kx {
@@ -20,11 +19,12 @@ QtTableView::QtTableView(QTableView& view, std::vector<QtTableColumn> columns)
     view.setModel(&_model);
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(QAbstractItemView::SingleSelection);
-    QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &_model, [this] {
-        if (!_reloading && _selectionAction) {
-            _selectionAction();
-        }
-    });
+    QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &_model,
+                     [this] {
+                         if (!_reloading && _selectionAction) {
+                             _selectionAction();
+                         }
+                     });
 }
 
 void QtTableView::setDataSource(TableViewDataSource* dataSource) {

@@ -9,7 +9,6 @@
 #include "platform/qt/DataSourceTableModel.h"
 
 #include <QTableView>
-
 #include <functional>
 
 namespace kx {

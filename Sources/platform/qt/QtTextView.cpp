@@ -3,6 +3,7 @@
 #include "platform/qt/QtText.h"
 
 #include <QFontDatabase>
+#include <QFontMetricsF>
 #include <QScrollBar>
 #include <QTextCursor>
 
@@ -11,6 +12,7 @@ namespace kx {
 QtTextView::QtTextView(QPlainTextEdit& textEdit)
     : _textEdit(textEdit) {
     textEdit.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    textEdit.setTabStopDistance(4 * QFontMetricsF(textEdit.font()).horizontalAdvance(' '));
     textEdit.setUndoRedoEnabled(false);
 }
 

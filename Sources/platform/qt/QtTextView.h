@@ -1,7 +1,7 @@
 // The event log's view over a plain text widget.
 //
-// Sets the system's fixed-width font. What the user has selected stays selected while text arrives at
-// the end. The widget must outlive it.
+// Sets the system's fixed-width font. What the user has selected stays selected while text arrives
+// at the end. The widget must outlive it.
 
 #pragma once
 
