@@ -60,10 +60,9 @@ public:
         note(echo, {EchoEvent::started, &echo, {}, address}, {}, address);
     }
     void echoDidStopWithError(UDPEcho& echo, const Error& error) override {
+        const Error reported = error;
         note(echo, {EchoEvent::stopped, &echo, {}, {}, error});
-        if (events.back().error != error) {
-            ADD_FAILURE() << "the error changed under the delegate's hands";
-        }
+        EXPECT_EQ(error, reported) << "the error changed under the delegate's hands";
     }
 
 private:

@@ -76,11 +76,11 @@ public:
     void echoDidReceiveDataFromAddress(UDPEcho&, const Bytes& data, const Bytes& from) override {
         received.push_back(data);
         senders.push_back(from);
-        onEvent();
+        actOnEvent();
     }
     void echoDidReceiveError(UDPEcho&, const Error& error) override {
         receiveErrors.push_back(error);
-        onEvent();
+        actOnEvent();
     }
     void echoDidSendDataToAddress(UDPEcho&, const Bytes& data, const Bytes&) override {
         sent.push_back(data);
@@ -91,11 +91,18 @@ public:
     }
     void echoDidStartWithAddress(UDPEcho&, const Bytes& address) override {
         startAddresses.push_back(address);
-        onEvent();
+        actOnEvent();
     }
     void echoDidStopWithError(UDPEcho&, const Error& error) override {
         stopErrors.push_back(error);
-        onEvent();
+        actOnEvent();
+    }
+
+private:
+    // A copy: the action may replace itself.
+    void actOnEvent() {
+        const auto action = onEvent;
+        action();
     }
 };
 
