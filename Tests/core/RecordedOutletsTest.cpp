@@ -1,7 +1,8 @@
 // The recorded controls keep the rules that the real ones keep.
 
-#include "contracts/OutletsContract.h"
 #include "doubles/RecordedOutlets.h"
+
+#include "contracts/OutletsContract.h"
 
 namespace kx {
 
