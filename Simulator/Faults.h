@@ -21,7 +21,8 @@ struct FaultPlan {
     unsigned duplicatePercent = 0;     // leaves twice
     unsigned reorderPercent = 0;       // waits kOvertakingTime, so that later ones overtake
     unsigned malformPercent = 0;       // leaves with wrong bytes
-    std::optional<std::size_t> truncatedLength; // every reply is cut to so many bytes
+    std::optional<std::size_t> truncatedLength =
+        std::nullopt; // every reply is cut to so many bytes
     std::uint64_t seed = 1;
 };
 
