@@ -44,7 +44,7 @@ struct MainWindow::Controls {
         , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
-        , eventLogDrawer(*ui.splitter, *ui.eventLogDrawer, *ui.logScrollView)
+        , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView) {
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
