@@ -79,8 +79,8 @@ public:
                 dispatch(std::move(answers));
             }
             dispatch(_network.unsolicitedReplies(_flood.take(Clock::now())));
-            while (const auto due = _delayed.takeDue(Clock::now()))
-                _link.send(*due);
+            for (const Bytes& due : _delayed.takeDue(Clock::now()))
+                _link.send(due);
         }
     }
 
