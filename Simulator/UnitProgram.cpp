@@ -22,7 +22,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// At most about 50 MB of frames wait; 10,000 units can be 20 answers behind.
+// At most about 60 MB of frames wait; 10,000 units can be 20 answers behind.
 constexpr std::size_t kMostDelayedFrames = 200'000;
 
 // A descriptor that is readable once the process has been asked to end.
