@@ -28,7 +28,7 @@ void appendEntries(benchmark::State& state, bool drawerIsOpen) {
     ManualRunLoop runLoop;
     ScriptedHostResolver resolver;
     ScriptedSystemCalls systemCalls;
-    const FixedWallClock wallClock;
+    const FixedWallClock wallClock(2026, 3, 5, 14, 7, 0);
     RecordedApplication application;
     MainWindow window;
     KXConfigAppDelegate controller(

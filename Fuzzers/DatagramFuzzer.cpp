@@ -37,13 +37,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ManualRunLoop runLoop;
     ScriptedHostResolver resolver;
     ScriptedSystemCalls systemCalls;
-    const FixedWallClock wallClock;
+    const FixedWallClock wallClock(2026, 3, 5, 14, 7, 0);
     RecordedApplication application;
-    RecordedOutlets outlets;
-    outlets.udpPortPopUp.addItemsWithTitles({"3520"});
-    outlets.optionCommandPopUp.addItemsWithTitles({"V  Version"});
+    RecordedMainWindow window;
     KXConfigAppDelegate controller(
-        outlets.outlets(), {runLoop, resolver, systemCalls, wallClock, application, nullptr});
+        window.outlets(), {runLoop, resolver, systemCalls, wallClock, application, nullptr, {}});
     controller.applicationDidFinishLaunching();
 
     const Bytes sender = dataForAddress(0xC0000202, 3520);
