@@ -105,7 +105,10 @@ private:
         }
         const auto tag = text(21, 3);
         if (tag == "<M>") {
-            return decodeList(*cid);
+            std::string display;
+            const bool isWhole = decodeList(display);
+            cid = display;
+            return isWhole;
         }
         if (tag && tag->substr(0, 2) == "ok") {
             _outcome.log = "\nRequest unit parameters with address: 255.255.255.255"
