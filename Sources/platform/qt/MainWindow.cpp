@@ -171,7 +171,7 @@ void MainWindow::connectPopUps() {
 }
 
 void MainWindow::connectMenus() {
-    const auto connectToButton = [this](QAction* action, QPushButton* button) {
+    const auto connectToButton = [](QAction* action, QPushButton* button) {
         connect(action, &QAction::triggered, button, &QPushButton::click);
     };
     connectToButton(_ui->discoverAction, _ui->discoverButton);
