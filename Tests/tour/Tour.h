@@ -4,8 +4,8 @@
 // It knows the program from outside, as controls with object names, and reaches it through the
 // window system's own events. Main thread only; run() waits in nested event loops.
 //
-// Environment: KX_TOUR_UNITS, the number of units expected; KX_TOUR_PICTURES, the folder for
-// pictures, none when absent.
+// Environment: KX_TOUR_UNITS, the number of units expected, 0 for a tour that picks none;
+// KX_TOUR_PICTURES, the folder for pictures, none when absent.
 
 #pragma once
 
