@@ -36,6 +36,7 @@ public:
 
     std::vector<EchoEvent::Kind> kinds() const {
         std::vector<EchoEvent::Kind> result;
+        result.reserve(events.size());
         for (const auto& event : events) {
             result.push_back(event.kind);
         }
@@ -60,9 +61,9 @@ public:
         note(echo, {EchoEvent::started, &echo, {}, address}, {}, address);
     }
     void echoDidStopWithError(UDPEcho& echo, const Error& error) override {
-        const Error reported = error;
-        note(echo, {EchoEvent::stopped, &echo, {}, {}, error});
-        EXPECT_EQ(error, reported) << "the error changed under the delegate's hands";
+        const EchoEvent event{EchoEvent::stopped, &echo, {}, {}, error};
+        note(echo, event);
+        EXPECT_EQ(event.error, error) << "the error changed under the delegate's hands";
     }
 
 private:
@@ -125,7 +126,7 @@ protected:
     // The one event since the last call of this.
     EchoEvent onlyEvent() {
         EXPECT_EQ(delegate.events.size(), 1U);
-        const auto event = delegate.events.empty() ? EchoEvent{} : delegate.events.back();
+        auto event = delegate.events.empty() ? EchoEvent{} : delegate.events.back();
         delegate.events.clear();
         return event;
     }
@@ -136,7 +137,7 @@ protected:
         EXPECT_EQ(echo->hostAddress(), std::nullopt);
         EXPECT_TRUE(echo->isServer());
         EXPECT_EQ(echo->nativeSocket(), -1);
-        EXPECT_EQ(resolver.pendingCount(), 0U);
+        EXPECT_EQ(resolver.requestCount(), 0U);
         EXPECT_EQ(loop.watchCount(), 0U);
         expectEverySocketClosedOnce();
     }

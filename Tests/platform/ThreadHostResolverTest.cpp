@@ -118,7 +118,7 @@ TEST(ThreadHostResolver, TheReportComesOnTheThreadOfTheLoop) {
     ASSERT_TRUE(request->startResolution(
         [&](const HostResolution& resolution) {
             reportThread = std::this_thread::get_id();
-            addresses = resolution.addresses.value();
+            addresses = resolution.addresses.value_or(addresses);
         },
         error));
     ASSERT_TRUE(runLoopUntil(loop, [&] { return !addresses.empty(); }));
