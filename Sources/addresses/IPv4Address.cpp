@@ -2,7 +2,6 @@
 
 #include "addresses/AppendBuffer.h"
 #include "addresses/CharacterClass.h"
-#include "support/TextEncoding.h"
 
 #include <algorithm>
 #include <array>
@@ -66,10 +65,8 @@ std::int32_t prefixLengthOfMask(std::uint32_t mask) {
 } // namespace
 
 std::uint32_t ipForString(std::string_view text) {
-    // The first limit counts characters, the second bytes: a text within the first may still be too
-    // long for the second.
-    const std::size_t length = lengthInCharacters(text);
-    if (length == 0 || length > longestAddressText || text.size() > longestAddressText) {
+    // In bytes, which no text has fewer of than characters: this covers the limit on those too.
+    if (text.empty() || text.size() > longestAddressText) {
         return 0;
     }
     std::array<char, longestAddressText + 1> buffer{};

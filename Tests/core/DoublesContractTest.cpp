@@ -135,8 +135,10 @@ TEST(ScriptedHostResolver, RemembersWhatWasStartedAndWhatWasCancelled) {
     EXPECT_EQ(resolver.startedNames(), (std::vector<std::string>{"answered", "cancelled"}));
     resolver.reportAnswers();
     EXPECT_EQ(resolver.pendingCount(), 1U);
+    EXPECT_EQ(resolver.requestCount(), 2U);
     answered.reset();
     cancelled.reset();
+    EXPECT_EQ(resolver.requestCount(), 0U);
     EXPECT_EQ(resolver.cancelledNames(), std::vector<std::string>{"cancelled"});
 }
 

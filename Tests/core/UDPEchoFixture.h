@@ -137,7 +137,7 @@ protected:
         EXPECT_EQ(echo->hostAddress(), std::nullopt);
         EXPECT_TRUE(echo->isServer());
         EXPECT_EQ(echo->nativeSocket(), -1);
-        EXPECT_EQ(resolver.pendingCount(), 0U);
+        EXPECT_EQ(resolver.requestCount(), 0U);
         EXPECT_EQ(loop.watchCount(), 0U);
         expectEverySocketClosedOnce();
     }

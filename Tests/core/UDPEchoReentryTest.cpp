@@ -20,7 +20,7 @@ protected:
     void expectReleased() {
         EXPECT_TRUE(observed.expired());
         EXPECT_EQ(loop.watchCount(), 0U);
-        EXPECT_EQ(resolver.pendingCount(), 0U);
+        EXPECT_EQ(resolver.requestCount(), 0U);
         expectEverySocketClosedOnce();
     }
 

@@ -61,14 +61,20 @@ public:
     const std::vector<std::string>& cancelledNames() const { return _cancelledNames; }
     std::size_t pendingCount() const { return _pending.size(); }
 
+    // How many requests exist, also those that are not started or have reported.
+    std::size_t requestCount() const { return _requestCount; }
+
 private:
     class ScriptedRequest final : public Request {
     public:
         ScriptedRequest(ScriptedHostResolver& resolver, std::string hostName)
             : _resolver(resolver)
-            , _hostName(std::move(hostName)) {}
+            , _hostName(std::move(hostName)) {
+            ++_resolver._requestCount;
+        }
 
         ~ScriptedRequest() override {
+            --_resolver._requestCount;
             if (std::erase(_resolver._pending, this) > 0) {
                 _resolver._cancelledNames.push_back(_hostName);
             }
@@ -105,6 +111,7 @@ private:
     std::vector<std::string> _startedNames;
     std::vector<std::string> _cancelledNames;
     std::optional<StreamError> _startError;
+    std::size_t _requestCount = 0;
     bool _makesNoRequests = false;
 };
 

@@ -70,6 +70,17 @@ TEST(GXIndexTable, RemovingAMiddleRowLeavesTheCount) {
     EXPECT_EQ(table.count(), 8);
 }
 
+TEST(GXIndexTable, RemovingAnyOtherRowOfACopyLeavesItsOwnCount) {
+    GXIndexTable table;
+    setRows(table, {3, 5});
+    const auto copy = table.copy();
+    copy->removeObjectAtIndex(3);
+    EXPECT_EQ(copy->count(), 0);
+    setRows(*copy, {0});
+    copy->removeObjectAtIndex(0);
+    EXPECT_EQ(copy->count(), 6) << "the last row of the copy: recomputed from what is left";
+}
+
 TEST(GXIndexTable, StoringReplacesTheEntryOfTheRow) {
     GXIndexTable table;
     setRows(table, {2});
