@@ -33,8 +33,6 @@ namespace kx {
 
 using Titles = std::vector<std::string>;
 
-// --- Pop-up button ---
-
 template<class Trait>
 class PopUpButtonContract : public ::testing::Test {
 protected:
@@ -150,8 +148,6 @@ REGISTER_TYPED_TEST_SUITE_P(
     SelectingAnUnknownTitleSelectsNothing, AddingToAPopUpWithoutSelectionSelectsTheFirstItem,
     RemovingAllItemsRemovesTheSelection, KeepsTitlesInUTF8, IsEnabledUntilItIsDisabled);
 
-// --- Text field ---
-
 template<class Trait>
 class TextFieldContract : public ::testing::Test {
 protected:
@@ -179,8 +175,6 @@ TYPED_TEST_P(TextFieldContract, EmptyTextReplacesWhatWasThere) {
 
 REGISTER_TYPED_TEST_SUITE_P(TextFieldContract, IsEmptyAtFirst, GivesBackTheTextThatWasSet,
                             EmptyTextReplacesWhatWasThere);
-
-// --- Table view ---
 
 // Rows that a test changes at will; the view must not notice before it is told to reload.
 class ListedRows final : public TableViewDataSource {
@@ -295,8 +289,6 @@ REGISTER_TYPED_TEST_SUITE_P(TableViewContract, ShowsNoRowsOfAnEmptySource,
                             ReloadKeepsTheSelectionOfARowThatStillExists,
                             ReloadDropsTheSelectionOfARowThatIsGone, GivesWhatIsTypedToItsSource);
 
-// --- Text view ---
-
 template<class Trait>
 class TextViewContract : public ::testing::Test {
 protected:
@@ -343,8 +335,6 @@ TYPED_TEST_P(TextViewContract, ScrollingShowsTheEndOfALongText) {
 REGISTER_TYPED_TEST_SUITE_P(TextViewContract, IsEmptyAtFirst, InsertsAtTheEndExactlyWhatItIsGiven,
                             SettingTheTextReplacesAllOfIt, KeepsLineBreaksTabsAndBlanks,
                             ScrollingShowsTheEndOfALongText);
-
-// --- Drawer ---
 
 template<class Trait>
 class DrawerContract : public ::testing::Test {

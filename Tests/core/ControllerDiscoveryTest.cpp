@@ -234,8 +234,6 @@ TEST_F(ControllerDiscovery, UnitWithoutAUnitIDShowsAnEmptyField) {
     EXPECT_EQ(window.unitIDField.stringValue(), "");
 }
 
-// --- Reload ---
-
 TEST_F(ControllerDiscovery, ReloadAsksTheSelectedUnitAndLogsNoCommand) {
     discover({unitWithSerial(5)});
     const auto length = controller.eventLog().size();
@@ -287,8 +285,6 @@ TEST_F(ControllerDiscovery, ReloadOfAUnitAtAddressZeroTriesIt) {
     controller.reloadUnitParameterButton();
     EXPECT_EQ(lastSent(), "0.0.0.0:3520 ^^IdX");
 }
-
-// --- Row chosen ---
 
 TEST_F(ControllerDiscovery, ChosenRowIsCopiedIntoTheEditRow) {
     discover({unitWithSerial(5)});

@@ -27,8 +27,6 @@ const Bytes serialOfSeven{0x0A, 0x0B, 0x0C, 0x0D, 0x0E, 0x0F};
 
 } // namespace
 
-// --- Sending ---
-
 TEST_F(ControllerProtocol, CommandGoesToTheSelectedUnitOnItsDevicePort) {
     discover({SampleUnit()});
     const auto length = controller.eventLog().size();
@@ -139,8 +137,6 @@ TEST_F(ControllerProtocol, PercentSignsOfACommandAreLoggedAsTheyAre) {
     controller.sendCommandToAddress("^^Id%@ %d", "10.0.0.7");
     EXPECT_EQ(logSince(length).at(0), "Send to: 10.0.0.7 command: ^^Id%@ %d");
 }
-
-// --- Receiving ---
 
 TEST_F(ControllerProtocol, FourBytesAreAShortPacket) {
     EXPECT_EQ(logOf(textBytes("^^<U")), Lines{"Ignoring short packet"});
