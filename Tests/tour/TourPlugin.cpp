@@ -7,6 +7,20 @@
 
 namespace kx {
 
+namespace {
+
+QtMessageHandler handlerBefore = nullptr;
+
+// The offscreen platform says at each picture what it cannot do; that is no news of the tour.
+void dropWordsOfThePlatform(QtMsgType type, const QMessageLogContext& context,
+                            const QString& text) {
+    if (!text.startsWith("This plugin does not support")) {
+        handlerBefore(type, context, text);
+    }
+}
+
+} // namespace
+
 class TourPlugin final : public QGenericPlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "kxtour.json")
@@ -14,6 +28,7 @@ class TourPlugin final : public QGenericPlugin {
 public:
     // Called while the application object is being made, so the tour waits for the event loop.
     QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
+        handlerBefore = qInstallMessageHandler(dropWordsOfThePlatform);
         auto* const start = new QTimer;
         QObject::connect(start, &QTimer::timeout, start, [] { Tour().run(); });
         start->setSingleShot(true);

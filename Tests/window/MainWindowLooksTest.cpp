@@ -72,7 +72,7 @@ TEST_F(MainWindowTest, WithoutInterfacesThePopUpSaysSoAndIsDisabled) {
 TEST_F(MainWindowTest, BeforeAUnitAnsweredEveryEmptyControlSaysSo) {
     launch();
     EXPECT_EQ(selected("unitSelectPopUp"), "(none)");
-    EXPECT_EQ(control<QComboBox>("unitSelectPopUp").placeholderText(), "No unit has answered yet");
+    EXPECT_EQ(control<QComboBox>("unitSelectPopUp").placeholderText(), "No units listed");
     EXPECT_EQ(control<QLineEdit>("unitIDField").text(), "");
     auto& parameters = control<ParameterTableView>("unitParameterTableView");
     auto& editRow = control<ParameterTableView>("editParameterTableView");
