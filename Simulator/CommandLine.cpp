@@ -14,9 +14,10 @@ unsigned numberOf(std::string_view text, unsigned low, unsigned high) {
     unsigned value = 0;
     const char* const end = text.data() + text.size();
     const std::from_chars_result result = std::from_chars(text.data(), end, value);
-    if (result.ec != std::errc() || result.ptr != end || value < low || value > high)
+    if (result.ec != std::errc() || result.ptr != end || value < low || value > high) {
         throw UsageFailure("needs a number from " + std::to_string(low) + " to " +
                            std::to_string(high) + ", not \"" + std::string(text) + '"');
+    }
     return value;
 }
 
@@ -28,8 +29,9 @@ Network networkOf(const std::string& text) {
     const std::size_t slash = text.find('/');
     in_addr address{};
     if (slash == std::string::npos ||
-        ::inet_pton(AF_INET, text.substr(0, slash).c_str(), &address) != 1)
+        ::inet_pton(AF_INET, text.substr(0, slash).c_str(), &address) != 1) {
         throw UsageFailure("needs a network such as 192.0.2.0/24, not \"" + text + '"');
+    }
     const unsigned prefixLength = numberOf(text.substr(slash + 1), 8, 30);
     const IPv4 base = ntohl(address.s_addr);
     return {.base = base & (~IPv4{0} << (32 - prefixLength)), .prefixLength = prefixLength};
@@ -44,16 +46,16 @@ struct Option {
     void (*apply)(CommandLine&, const std::string&);
 };
 
-constexpr Option kOptions[] = {
+constexpr Option optionTable[] = {
     {"--link", "NAME", "the link that the units are on; default kx1",
      [](CommandLine& line, const std::string& value) { line.link = value; }},
     {"--count", "N", "how many units; default 3",
      [](CommandLine& line, const std::string& value) {
-         line.count = numberOf(value, 1, kHighestUnitNumber);
+         line.count = numberOf(value, 1, highestUnitNumber);
      }},
     {"--first", "N", "the number of the first unit; default 1",
      [](CommandLine& line, const std::string& value) {
-         line.first = numberOf(value, 1, kHighestUnitNumber);
+         line.first = numberOf(value, 1, highestUnitNumber);
      }},
     {"--network", "ADDRESS/LENGTH", "the units' network; default 192.0.2.0/24",
      [](CommandLine& line, const std::string& value) { line.network = networkOf(value); }},
@@ -94,11 +96,13 @@ constexpr Option kOptions[] = {
 };
 
 void applyOption(CommandLine& line, std::string_view name, const char* value) {
-    const auto option = std::ranges::find(kOptions, name, &Option::name);
-    if (option == std::end(kOptions))
+    const auto option = std::ranges::find(optionTable, name, &Option::name);
+    if (option == std::end(optionTable)) {
         throw UsageFailure("unknown option " + std::string(name));
-    if (value == nullptr)
+    }
+    if (value == nullptr) {
         throw UsageFailure(std::string(name) + " needs a value");
+    }
     try {
         option->apply(line, value);
     } catch (const UsageFailure& failure) {
@@ -108,10 +112,12 @@ void applyOption(CommandLine& line, std::string_view name, const char* value) {
 
 void checkUnitNumbers(const CommandLine& line) {
     const unsigned highest = line.first + line.count - 1;
-    if (highest > kHighestUnitNumber)
-        throw UsageFailure("unit numbers end at " + std::to_string(kHighestUnitNumber));
-    if (!networkHoldsUnits(line.network, highest))
+    if (highest > highestUnitNumber) {
+        throw UsageFailure("unit numbers end at " + std::to_string(highestUnitNumber));
+    }
+    if (!networkHoldsUnits(line.network, highest)) {
         throw UsageFailure("--network is too small for so many units");
+    }
 }
 
 } // namespace
@@ -134,10 +140,10 @@ std::string helpText() {
     std::string text = "Usage: kxunits [option value]...\n\n"
                        "Plays small networked units on a virtual link. Ends on SIGINT or "
                        "SIGTERM.\n\n";
-    constexpr std::size_t kHelpColumn = 28;
-    for (const Option& option : kOptions) {
+    constexpr std::size_t helpColumn = 28;
+    for (const Option& option : optionTable) {
         std::string left = "  " + std::string(option.name) + ' ' + std::string(option.value);
-        left.resize(std::max(kHelpColumn, left.size() + 1), ' ');
+        left.resize(std::max(helpColumn, left.size() + 1), ' ');
         text += left + std::string(option.help) + '\n';
     }
     text += "  --help                    this text\n"

@@ -11,13 +11,14 @@ namespace kx::simulator {
 namespace {
 
 std::string hexOf(ByteView bytes, std::string_view separator = "") {
-    constexpr std::string_view kDigits = "0123456789ABCDEF";
+    constexpr std::string_view digitCharacters = "0123456789ABCDEF";
     std::string text;
     for (const std::uint8_t byte : bytes) {
-        if (!text.empty())
+        if (!text.empty()) {
             text += separator;
-        text += kDigits[byte >> 4];
-        text += kDigits[byte & 0x0F];
+        }
+        text += digitCharacters[byte >> 4];
+        text += digitCharacters[byte & 0x0F];
     }
     return text;
 }
@@ -25,8 +26,9 @@ std::string hexOf(ByteView bytes, std::string_view separator = "") {
 std::string dotted(IPv4 address) {
     std::string text;
     for (unsigned shift = 32; shift != 0; shift -= 8) {
-        if (!text.empty())
+        if (!text.empty()) {
             text += '.';
+        }
         text += std::to_string(address >> (shift - 8) & 0xFF);
     }
     return text;
@@ -36,16 +38,18 @@ std::string dotted(IPv4 address) {
 
 CommandRecord::CommandRecord(const std::string& path)
     : _descriptor(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644)) {
-    if (_descriptor < 0)
+    if (_descriptor < 0) {
         throw std::system_error(errno, std::generic_category(), path);
+    }
 }
 
 CommandRecord::CommandRecord()
     : _descriptor(STDOUT_FILENO) {}
 
 CommandRecord::~CommandRecord() {
-    if (_descriptor != STDOUT_FILENO)
+    if (_descriptor != STDOUT_FILENO) {
         ::close(_descriptor);
+    }
 }
 
 void CommandRecord::addCommand(const SimulatedUnit& unit, const Datagram& datagram) {
@@ -70,10 +74,11 @@ void CommandRecord::flush() {
     std::string_view rest = _lines;
     while (!rest.empty()) {
         const ssize_t written = ::write(_descriptor, rest.data(), rest.size());
-        if (written >= 0)
+        if (written >= 0) {
             rest.remove_prefix(static_cast<std::size_t>(written));
-        else if (errno != EINTR)
+        } else if (errno != EINTR) {
             throw std::system_error(errno, std::generic_category(), "write the record");
+        }
     }
     _lines.clear();
 }

@@ -8,14 +8,14 @@
 namespace kx::simulator {
 
 // A unit's number has five decimal digits at most.
-inline constexpr unsigned kHighestUnitNumber = 99'999;
+inline constexpr unsigned highestUnitNumber = 99'999;
 
 struct Network {
     IPv4 base = 0;
     unsigned prefixLength = 24;
 };
 
-// The settings of unit `number`, 1 to kHighestUnitNumber:
+// The settings of unit `number`, 1 to highestUnitNumber:
 //
 //   hardware address   02:4B:58 and the number in three bytes
 //   serial number      4B 58 00 and the number in three bytes

@@ -6,7 +6,7 @@ namespace kx::simulator {
 
 namespace {
 
-constexpr std::size_t kLongestNoise = 200;
+constexpr std::size_t longestNoise = 200;
 
 } // namespace
 
@@ -15,18 +15,22 @@ Faults::Faults(const FaultPlan& plan)
     , _random(plan.seed) {}
 
 std::vector<Delivery> Faults::deliveriesOf(Bytes reply) {
-    if (strikes(_plan.losePercent))
+    if (strikes(_plan.losePercent)) {
         return {};
-    if (strikes(_plan.malformPercent))
+    }
+    if (strikes(_plan.malformPercent)) {
         damage(reply);
-    if (_plan.truncatedLength && reply.size() > *_plan.truncatedLength)
+    }
+    if (_plan.truncatedLength && reply.size() > *_plan.truncatedLength) {
         reply.resize(*_plan.truncatedLength);
+    }
 
     std::vector<Delivery> deliveries(strikes(_plan.duplicatePercent) ? 2 : 1);
     for (Delivery& delivery : deliveries) {
         delivery.delay = _plan.late;
-        if (strikes(_plan.reorderPercent))
-            delivery.delay += kOvertakingTime;
+        if (strikes(_plan.reorderPercent)) {
+            delivery.delay += overtakingTime;
+        }
         delivery.payload = reply;
     }
     return deliveries;
@@ -56,10 +60,10 @@ void Faults::damage(Bytes& reply) {
         reply.resize(below(reply.size()));
         break;
     case 2:
-        std::generate_n(std::back_inserter(reply), 1 + below(kLongestNoise), noise);
+        std::generate_n(std::back_inserter(reply), 1 + below(longestNoise), noise);
         break;
     default:
-        reply.resize(below(kLongestNoise + 1));
+        reply.resize(below(longestNoise + 1));
         std::ranges::generate(reply, noise);
         break;
     }

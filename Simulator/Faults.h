@@ -19,14 +19,14 @@ struct FaultPlan {
     std::chrono::milliseconds late{0}; // every reply leaves this much later
     unsigned losePercent = 0;          // never leaves
     unsigned duplicatePercent = 0;     // leaves twice
-    unsigned reorderPercent = 0;       // waits kOvertakingTime, so that later ones overtake
+    unsigned reorderPercent = 0;       // waits overtakingTime, so that later ones overtake
     unsigned malformPercent = 0;       // leaves with wrong bytes
     std::optional<std::size_t> truncatedLength =
         std::nullopt; // every reply is cut to so many bytes
     std::uint64_t seed = 1;
 };
 
-inline constexpr std::chrono::milliseconds kOvertakingTime{50};
+inline constexpr std::chrono::milliseconds overtakingTime{50};
 
 // A reply as it leaves, `delay` after the unit made it.
 struct Delivery {

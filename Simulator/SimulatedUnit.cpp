@@ -7,9 +7,9 @@ namespace kx::simulator {
 
 namespace {
 
-constexpr std::string_view kCommandPrefix = "^^Id";
-constexpr std::string_view kVersionText = "simulated unit 1.0\r";
-constexpr std::size_t kParameterReplyLength = 81;
+constexpr std::string_view commandPrefix = "^^Id";
+constexpr std::string_view versionText = "simulated unit 1.0\r";
+constexpr std::size_t parameterReplyLength = 81;
 
 void appendText(Bytes& bytes, std::string_view text) {
     bytes.insert(bytes.end(), text.begin(), text.end());
@@ -19,36 +19,42 @@ void appendText(Bytes& bytes, std::string_view text) {
 std::optional<std::uint64_t> numberOf(std::string_view text, std::size_t digits, int base) {
     std::uint64_t value = 0;
     const char* const end = text.data() + text.size();
-    if (digits == 0 || text.size() != digits)
+    if (digits == 0 || text.size() != digits) {
         return std::nullopt;
+    }
     const std::from_chars_result result = std::from_chars(text.data(), end, value, base);
-    if (result.ec != std::errc() || result.ptr != end)
+    if (result.ec != std::errc() || result.ptr != end) {
         return std::nullopt;
+    }
     return value;
 }
 
 template<typename Number>
 bool setNumber(Number& setting, std::string_view argument) {
     const auto value = numberOf(argument, sizeof(Number) * 2, 16);
-    if (value)
+    if (value) {
         setting = static_cast<Number>(*value);
+    }
     return value.has_value();
 }
 
 bool setBytes(SixBytes& setting, std::string_view argument) {
     const auto value = numberOf(argument, setting.size() * 2, 16);
-    if (value)
+    if (value) {
         setting = sixBytesOf(*value);
+    }
     return value.has_value();
 }
 
 // A text that is shorter than six bytes stands at the left, as it was typed.
 bool setUnitID(SixBytes& setting, std::string_view argument) {
-    if (argument.size() % 2 != 0 || argument.size() > setting.size() * 2)
+    if (argument.size() % 2 != 0 || argument.size() > setting.size() * 2) {
         return false;
+    }
     std::string padded(argument);
-    if (!padded.empty())
+    if (!padded.empty()) {
         padded.resize(setting.size() * 2, '0');
+    }
     return setBytes(setting, padded);
 }
 
@@ -58,8 +64,9 @@ bool isBetween(std::optional<std::uint64_t> value, std::uint64_t low, std::uint6
 
 // The year is not told, so February may have 29 days.
 std::uint64_t longestMonth(std::optional<std::uint64_t> month) {
-    if (month == 2)
+    if (month == 2) {
         return 29;
+    }
     return month == 4 || month == 6 || month == 9 || month == 11 ? 30 : 31;
 }
 
@@ -73,21 +80,27 @@ std::optional<Bytes> SimulatedUnit::answer(ByteView command) {
     // Kept in a text of its own: the argument is compared and parsed as characters below.
     const std::string text(command.begin(), command.end());
     std::string_view rest = text;
-    if (!rest.starts_with(kCommandPrefix) || rest.size() == kCommandPrefix.size())
+    if (!rest.starts_with(commandPrefix) || rest.size() == commandPrefix.size()) {
         return std::nullopt;
-    rest.remove_prefix(kCommandPrefix.size());
+    }
+    rest.remove_prefix(commandPrefix.size());
 
-    if (rest == "V\r")
-        return textReply(kVersionText);
-    if (rest.starts_with("-Z"))
+    if (rest == "V\r") {
+        return textReply(versionText);
+    }
+    if (rest.starts_with("-Z")) {
         return setClock(rest) ? std::optional(textReply("ok\r")) : std::nullopt;
+    }
 
-    if (rest.ends_with('\r'))
+    if (rest.ends_with('\r')) {
         rest.remove_suffix(1);
-    if (rest == "X")
+    }
+    if (rest == "X") {
         return parameterReply();
-    if (rest.empty() || !apply(rest.front(), rest.substr(1)))
+    }
+    if (rest.empty() || !apply(rest.front(), rest.substr(1))) {
         return std::nullopt;
+    }
     return textReply("ok\r");
 }
 
@@ -110,8 +123,9 @@ bool SimulatedUnit::apply(char letter, std::string_view argument) {
     case 'S':
         return setBytes(_settings.serial, argument);
     case 'Z':
-        if (argument.empty())
+        if (argument.empty()) {
             _settings = _factory;
+        }
         return argument.empty();
     default:
         return false;
@@ -119,21 +133,23 @@ bool SimulatedUnit::apply(char letter, std::string_view argument) {
 }
 
 bool SimulatedUnit::setClock(std::string_view option) {
-    constexpr std::size_t kLength = 11; // -Z, eight digits, the carriage return
-    if (option.size() != kLength || option.back() != '\r')
+    constexpr std::size_t clockOptionLength = 11; // -Z, eight digits, the carriage return
+    if (option.size() != clockOptionLength || option.back() != '\r') {
         return false;
+    }
     const std::string_view digits = option.substr(2, 8);
     const auto pair = [&](std::size_t offset) { return numberOf(digits.substr(offset, 2), 2, 10); };
     const bool isTime = isBetween(pair(0), 1, 12) && isBetween(pair(2), 1, longestMonth(pair(0))) &&
                         isBetween(pair(4), 0, 23) && isBetween(pair(6), 0, 59);
-    if (isTime)
+    if (isTime) {
         _clock = digits;
+    }
     return isTime;
 }
 
 Bytes SimulatedUnit::replyHeader() const {
     Bytes reply;
-    reply.reserve(kParameterReplyLength);
+    reply.reserve(parameterReplyLength);
     appendText(reply, "^^<U>");
     appendBytes(reply, _settings.unitID);
     appendText(reply, "<S>");

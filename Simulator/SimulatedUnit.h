@@ -30,14 +30,14 @@
 namespace kx::simulator {
 
 // Every unit listens on this port besides its own device port.
-inline constexpr std::uint16_t kCommonPort = 3520;
+inline constexpr std::uint16_t commonPort = 3520;
 
 struct UnitSettings {
     HardwareAddress hardwareAddress{};
     IPv4 address = 0;
     IPv4 destinationAddress = 0;
-    std::uint16_t destinationPort = kCommonPort;
-    std::uint16_t devicePort = kCommonPort;
+    std::uint16_t destinationPort = commonPort;
+    std::uint16_t devicePort = commonPort;
     SixBytes unitID{};
     HardwareAddress destinationHardwareAddress{};
     SixBytes serial{};
@@ -55,7 +55,7 @@ public:
     const std::string& clock() const { return _clock; }
 
     bool listensOnPort(std::uint16_t port) const {
-        return port == kCommonPort || port == _settings.devicePort;
+        return port == commonPort || port == _settings.devicePort;
     }
 
     // The reply to `command`; nothing when the command is malformed.

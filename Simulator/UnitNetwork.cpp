@@ -10,8 +10,9 @@ std::vector<std::size_t> unitsAt(const std::set<std::pair<Address, std::size_t>>
                                  const Address& address) {
     std::vector<std::size_t> units;
     for (auto entry = index.lower_bound({address, 0});
-         entry != index.end() && entry->first == address; ++entry)
+         entry != index.end() && entry->first == address; ++entry) {
         units.push_back(entry->second);
+    }
     return units;
 }
 
@@ -29,17 +30,19 @@ UnitNetwork::UnitNetwork(std::vector<SimulatedUnit> units, const FaultPlan& plan
 
 std::vector<OutgoingFrame> UnitNetwork::receive(ByteView frame, UdpChecksum checksum) {
     Frames frames;
-    if (const auto request = readArpRequest(frame))
+    if (const auto request = readArpRequest(frame)) {
         answerRequest(*request, frames);
-    else if (const auto datagram = readDatagram(frame, checksum))
+    } else if (const auto datagram = readDatagram(frame, checksum)) {
         deliver(*datagram, frames);
+    }
     return frames;
 }
 
 std::vector<OutgoingFrame> UnitNetwork::unsolicitedReplies(std::size_t count) {
     Frames frames;
-    if (!_lastCommand || _units.empty())
+    if (!_lastCommand || _units.empty()) {
         return frames;
+    }
     for (; count != 0; --count) {
         addReply(_nextUnsolicited, *_lastCommand, _units[_nextUnsolicited].parameterReply(),
                  frames);
@@ -51,31 +54,37 @@ std::vector<OutgoingFrame> UnitNetwork::unsolicitedReplies(std::size_t count) {
 void UnitNetwork::answerRequest(const ArpRequest& request, Frames& frames) const {
     for (const std::size_t unit : unitsAt(_byAddress, request.target)) {
         const HardwareAddress& hardware = _units[unit].settings().hardwareAddress;
-        if (request.destination == kBroadcastHardware || request.destination == hardware)
+        if (request.destination == broadcastHardware || request.destination == hardware) {
             frames.push_back({{}, arpReplyFrame(request, hardware)});
+        }
     }
 }
 
 void UnitNetwork::deliver(const Datagram& datagram, Frames& frames) {
-    if (datagram.destination.hardware == kBroadcastHardware) {
-        for (std::size_t unit = 0; unit < _units.size(); ++unit)
+    if (datagram.destination.hardware == broadcastHardware) {
+        for (std::size_t unit = 0; unit < _units.size(); ++unit) {
             deliverToUnit(unit, datagram, frames);
+        }
         return;
     }
-    for (const std::size_t unit : unitsAt(_byHardware, datagram.destination.hardware))
+    for (const std::size_t unit : unitsAt(_byHardware, datagram.destination.hardware)) {
         deliverToUnit(unit, datagram, frames);
+    }
 }
 
 void UnitNetwork::deliverToUnit(std::size_t unit, const Datagram& datagram, Frames& frames) {
-    if (!_units[unit].listensOnPort(datagram.destination.port))
+    if (!_units[unit].listensOnPort(datagram.destination.port)) {
         return;
-    if (_observer)
+    }
+    if (_observer) {
         _observer(_units[unit], datagram);
+    }
 
     const UnitSettings before = _units[unit].settings();
     std::optional<Bytes> reply = _units[unit].answer(datagram.payload);
-    if (!reply)
+    if (!reply) {
         return;
+    }
     moveUnit(unit, before, frames);
     addReply(unit, datagram, std::move(*reply), frames);
     _lastCommand = datagram;
@@ -94,8 +103,9 @@ void UnitNetwork::addReply(std::size_t unit, const Datagram& command, Bytes repl
 
 void UnitNetwork::moveUnit(std::size_t unit, const UnitSettings& before, Frames& frames) {
     const UnitSettings& now = _units[unit].settings();
-    if (now.hardwareAddress == before.hardwareAddress && now.address == before.address)
+    if (now.hardwareAddress == before.hardwareAddress && now.address == before.address) {
         return;
+    }
     _byHardware.erase({before.hardwareAddress, unit});
     _byHardware.emplace(now.hardwareAddress, unit);
     _byAddress.erase({before.address, unit});

@@ -23,7 +23,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 // At most about 60 MB of frames wait; 10,000 units can be 20 answers behind.
-constexpr std::size_t kMostDelayedFrames = 200'000;
+constexpr std::size_t mostDelayedFrames = 200'000;
 
 // A descriptor that is readable once the process has been asked to end.
 class EndRequest {
@@ -35,8 +35,9 @@ public:
         ::sigaddset(&signals, SIGTERM);
         ::sigprocmask(SIG_BLOCK, &signals, nullptr);
         _descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC);
-        if (_descriptor < 0)
+        if (_descriptor < 0) {
             throw std::system_error(errno, std::generic_category(), "watch for signals");
+        }
     }
     ~EndRequest() { ::close(_descriptor); }
     EndRequest(const EndRequest&) = delete;
@@ -51,8 +52,9 @@ private:
 std::vector<SimulatedUnit> unitsOf(const CommandLine& line) {
     std::vector<SimulatedUnit> units;
     units.reserve(line.count);
-    for (unsigned number = line.first; number < line.first + line.count; ++number)
+    for (unsigned number = line.first; number < line.first + line.count; ++number) {
         units.emplace_back(factorySettings(number, line.network));
+    }
     return units;
 }
 
@@ -79,8 +81,9 @@ public:
                 dispatch(std::move(answers));
             }
             dispatch(_network.unsolicitedReplies(_flood.take(Clock::now())));
-            for (const Bytes& due : _delayed.takeDue(Clock::now()))
+            for (const Bytes& due : _delayed.takeDue(Clock::now())) {
                 _link.send(due);
+            }
         }
     }
 
@@ -93,17 +96,20 @@ private:
         const std::optional<timespec> longest = timeToNextDue();
         const int ready =
             ::ppoll(watched, std::size(watched), longest ? &*longest : nullptr, nullptr);
-        if (ready < 0 && errno != EINTR)
+        if (ready < 0 && errno != EINTR) {
             throw std::system_error(errno, std::generic_category(), "wait for frames");
+        }
         return watched[0].revents == 0;
     }
 
     std::optional<timespec> timeToNextDue() const {
         std::optional<TimePoint> due = _delayed.nextDue();
-        if (const auto flood = _flood.nextDue())
+        if (const auto flood = _flood.nextDue()) {
             due = due ? std::min(*due, *flood) : *flood;
-        if (!due)
+        }
+        if (!due) {
             return std::nullopt;
+        }
         using std::chrono::nanoseconds;
         using std::chrono::seconds;
         const nanoseconds left = std::max(nanoseconds::zero(), nanoseconds(*due - Clock::now()));
@@ -117,10 +123,11 @@ private:
     void dispatch(std::vector<OutgoingFrame> frames) {
         const TimePoint now = Clock::now();
         for (OutgoingFrame& frame : frames) {
-            if (frame.delay == frame.delay.zero())
+            if (frame.delay == frame.delay.zero()) {
                 _link.send(frame.bytes);
-            else
+            } else {
                 _delayed.add(now + frame.delay, std::move(frame.bytes));
+            }
         }
     }
 
@@ -129,15 +136,16 @@ private:
     PacketLink _link;
     UnitNetwork _network;
     Pace _flood;
-    DelayedFrames _delayed{kMostDelayedFrames};
+    DelayedFrames _delayed{mostDelayedFrames};
 };
 
 void play(const CommandLine& line, CommandRecord& record) {
     UnitLoop loop(line, record);
     std::cout << "ready: " << line.count << " units on " << line.link << std::endl;
     loop.run();
-    for (const SimulatedUnit& unit : loop.network().units())
+    for (const SimulatedUnit& unit : loop.network().units()) {
         record.addFinalState(unit);
+    }
     record.flush();
 }
 

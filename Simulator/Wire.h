@@ -20,12 +20,13 @@ using HardwareAddress = SixBytes;
 // First dotted segment in the most significant byte.
 using IPv4 = std::uint32_t;
 
-inline constexpr HardwareAddress kBroadcastHardware{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
+inline constexpr HardwareAddress broadcastHardware{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
 
 // The lowest `width` bytes of `value`, most significant first, at the end of `bytes`.
 inline void appendNumber(Bytes& bytes, std::uint64_t value, std::size_t width) {
-    for (std::size_t shift = width * 8; shift != 0; shift -= 8)
+    for (std::size_t shift = width * 8; shift != 0; shift -= 8) {
         bytes.push_back(static_cast<std::uint8_t>(value >> (shift - 8)));
+    }
 }
 
 inline void appendBytes(Bytes& bytes, ByteView more) {
@@ -35,8 +36,9 @@ inline void appendBytes(Bytes& bytes, ByteView more) {
 // The number in `width` bytes at `offset`. The caller has checked that they are there.
 inline std::uint64_t numberAt(ByteView bytes, std::size_t offset, std::size_t width) {
     std::uint64_t value = 0;
-    for (const std::uint8_t byte : bytes.subspan(offset, width))
+    for (const std::uint8_t byte : bytes.subspan(offset, width)) {
         value = value << 8 | byte;
+    }
     return value;
 }
 
@@ -46,8 +48,9 @@ inline std::uint16_t shortAt(ByteView bytes, std::size_t offset) {
 
 inline SixBytes sixBytesOf(std::uint64_t value) {
     SixBytes result{};
-    for (auto byte = result.rbegin(); byte != result.rend(); ++byte, value >>= 8)
+    for (auto byte = result.rbegin(); byte != result.rend(); ++byte, value >>= 8) {
         *byte = static_cast<std::uint8_t>(value);
+    }
     return result;
 }
 

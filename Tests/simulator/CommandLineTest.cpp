@@ -60,8 +60,9 @@ TEST(CommandLine, HelpWinsOverWhatFollows) {
 TEST(CommandLine, HelpNamesEveryOption) {
     for (const char* option :
          {"--link", "--count", "--first", "--network", "--late", "--lose", "--duplicate",
-          "--reorder", "--truncate", "--malform", "--flood", "--seed", "--record", "--help"})
+          "--reorder", "--truncate", "--malform", "--flood", "--seed", "--record", "--help"}) {
         EXPECT_NE(helpText().find("\n  " + std::string(option) + ' '), std::string::npos) << option;
+    }
 }
 
 TEST(CommandLine, ComplaintsNameTheOption) {

@@ -13,7 +13,7 @@
 namespace kx::simulator {
 namespace {
 
-constexpr Network kNetwork{.base = 0xC0000200, .prefixLength = 24};
+constexpr Network networkAddress{.base = 0xC0000200, .prefixLength = 24};
 
 class CommandRecordTest : public testing::Test {
 protected:
@@ -26,7 +26,7 @@ protected:
     }
 
     const std::string _path = testing::TempDir() + "a record with blanks";
-    SimulatedUnit _unit{factorySettings(2, kNetwork)};
+    SimulatedUnit _unit{factorySettings(2, networkAddress)};
 };
 
 TEST_F(CommandRecordTest, CommandIsALineOfSerialDestinationAndBytes) {

@@ -12,15 +12,16 @@ namespace {
 
 using std::chrono::milliseconds;
 
-const Bytes kReply = bytesOfText("a reply of some twenty bytes");
+const Bytes replyText = bytesOfText("a reply of some twenty bytes");
 
 // What happens to `count` equal replies, as one list.
 std::vector<Delivery> deliveriesOf(const FaultPlan& plan, int count) {
     Faults faults(plan);
     std::vector<Delivery> all;
     for (; count != 0; --count) {
-        for (Delivery& delivery : faults.deliveriesOf(kReply))
+        for (Delivery& delivery : faults.deliveriesOf(replyText)) {
             all.push_back(std::move(delivery));
+        }
     }
     return all;
 }
@@ -36,7 +37,7 @@ TEST(Faults, WithoutAPlanEveryReplyLeavesOnceAndAtOnce) {
     ASSERT_EQ(deliveries.size(), 100U);
     for (const Delivery& delivery : deliveries) {
         EXPECT_EQ(delivery.delay, milliseconds(0));
-        EXPECT_EQ(delivery.payload, kReply);
+        EXPECT_EQ(delivery.payload, replyText);
     }
 }
 
@@ -56,16 +57,18 @@ TEST(Faults, ShareOfLostRepliesIsAboutThePercentage) {
 TEST(Faults, DuplicatesAreEqualAndFollowEachOther) {
     const auto deliveries = deliveriesOf({.duplicatePercent = 100}, 10);
     ASSERT_EQ(deliveries.size(), 20U);
-    for (const Delivery& delivery : deliveries)
-        EXPECT_EQ(delivery.payload, kReply);
+    for (const Delivery& delivery : deliveries) {
+        EXPECT_EQ(delivery.payload, replyText);
+    }
 }
 
 TEST(Faults, OvertakenRepliesWaitBesidesBeingLate) {
     std::set<milliseconds> delays;
     for (const Delivery& delivery :
-         deliveriesOf({.late = milliseconds(10), .reorderPercent = 50}, 100))
+         deliveriesOf({.late = milliseconds(10), .reorderPercent = 50}, 100)) {
         delays.insert(delivery.delay);
-    EXPECT_EQ(delays, (std::set{milliseconds(10), milliseconds(10) + kOvertakingTime}));
+    }
+    EXPECT_EQ(delays, (std::set{milliseconds(10), milliseconds(10) + overtakingTime}));
 }
 
 TEST(Faults, TruncatedRepliesKeepTheirBeginning) {
@@ -73,7 +76,7 @@ TEST(Faults, TruncatedRepliesKeepTheirBeginning) {
     ASSERT_EQ(cut.size(), 1U);
     EXPECT_EQ(cut[0].payload, bytesOfText("a rep"));
     EXPECT_TRUE(deliveriesOf({.truncatedLength = 0}, 1)[0].payload.empty());
-    EXPECT_EQ(deliveriesOf({.truncatedLength = 500}, 1)[0].payload, kReply);
+    EXPECT_EQ(deliveriesOf({.truncatedLength = 500}, 1)[0].payload, replyText);
 }
 
 TEST(Faults, MalformedRepliesAreShorterLongerOrOfOtherBytes) {
@@ -81,11 +84,11 @@ TEST(Faults, MalformedRepliesAreShorterLongerOrOfOtherBytes) {
     bool longer = false;
     bool otherBytes = false;
     for (const Delivery& delivery : deliveriesOf({.malformPercent = 100}, 500)) {
-        EXPECT_NE(delivery.payload, kReply);
-        EXPECT_LE(delivery.payload.size(), kReply.size() + 200);
-        shorter |= delivery.payload.size() < kReply.size();
-        longer |= delivery.payload.size() > kReply.size();
-        otherBytes |= delivery.payload.size() == kReply.size();
+        EXPECT_NE(delivery.payload, replyText);
+        EXPECT_LE(delivery.payload.size(), replyText.size() + 200);
+        shorter |= delivery.payload.size() < replyText.size();
+        longer |= delivery.payload.size() > replyText.size();
+        otherBytes |= delivery.payload.size() == replyText.size();
     }
     EXPECT_TRUE(shorter);
     EXPECT_TRUE(longer);

@@ -14,15 +14,18 @@ namespace kx::simulator {
 inline Bytes bytesOfHex(std::string_view text) {
     std::string digits;
     for (const char character : text) {
-        if (character != ' ' && character != '\n')
+        if (character != ' ' && character != '\n') {
             digits += character;
+        }
     }
-    if (digits.size() % 2 != 0)
+    if (digits.size() % 2 != 0) {
         throw std::invalid_argument("an odd number of digits");
+    }
     Bytes bytes;
-    for (std::size_t index = 0; index < digits.size(); index += 2)
+    for (std::size_t index = 0; index < digits.size(); index += 2) {
         bytes.push_back(
             static_cast<std::uint8_t>(std::stoul(digits.substr(index, 2), nullptr, 16)));
+    }
     return bytes;
 }
 

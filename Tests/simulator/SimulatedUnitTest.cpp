@@ -10,20 +10,20 @@
 namespace kx::simulator {
 namespace {
 
-constexpr Network kNetwork{.base = 0xC0000200, .prefixLength = 24};
+constexpr Network networkAddress{.base = 0xC0000200, .prefixLength = 24};
 
-constexpr std::string_view kFirstReply = "5E5E 3C553E 000000000001 3C533E 4B5800000001 24"
-                                         "3C4D3E 024B58000001"
-                                         "3C493E C000020B"
-                                         "3C443E C0000201"
-                                         "3C543E 0DC0"
-                                         "3C503E 2710"
-                                         "3C553E 000000000001"
-                                         "3C433E 020000000001"
-                                         "3C533E 4B5800000001";
+constexpr std::string_view firstReply = "5E5E 3C553E 000000000001 3C533E 4B5800000001 24"
+                                        "3C4D3E 024B58000001"
+                                        "3C493E C000020B"
+                                        "3C443E C0000201"
+                                        "3C543E 0DC0"
+                                        "3C503E 2710"
+                                        "3C553E 000000000001"
+                                        "3C433E 020000000001"
+                                        "3C533E 4B5800000001";
 
 SimulatedUnit firstUnit() {
-    return SimulatedUnit(factorySettings(1, kNetwork));
+    return SimulatedUnit(factorySettings(1, networkAddress));
 }
 
 Bytes acknowledgement(std::string_view unitID = "000000000001",
@@ -44,7 +44,7 @@ TEST(SimulatedUnit, AnswersTheParameterRequestWith81Bytes) {
     const std::optional<Bytes> reply = unit.answer(bytesOfText("^^IdX"));
     ASSERT_TRUE(reply);
     EXPECT_EQ(reply->size(), 81U);
-    EXPECT_EQ(*reply, bytesOfHex(kFirstReply));
+    EXPECT_EQ(*reply, bytesOfHex(firstReply));
 }
 
 TEST(SimulatedUnit, LaysEverySettingAtItsOffset) {
@@ -106,15 +106,16 @@ TEST(SimulatedUnit, ShortUnitIDStandsAtTheLeft) {
 TEST(SimulatedUnit, TakesACommandThatEndsWithACarriageReturn) {
     EXPECT_EQ(unitAfter("^^IdP2711\r").settings().devicePort, 10001);
     SimulatedUnit unit = firstUnit();
-    EXPECT_EQ(unit.answer(bytesOfText("^^IdX\r")), bytesOfHex(kFirstReply));
+    EXPECT_EQ(unit.answer(bytesOfText("^^IdX\r")), bytesOfHex(firstReply));
 }
 
 TEST(SimulatedUnit, RestoreBringsBackEverySetting) {
     SimulatedUnit unit = firstUnit();
     for (const std::string_view command :
          {"^^IdU4142", "^^IdM020000000009", "^^IdI0A000007", "^^IdD0A000001", "^^IdT0DC1",
-          "^^IdP0050", "^^IdC020000000008", "^^IdS000000000009"})
+          "^^IdP0050", "^^IdC020000000008", "^^IdS000000000009"}) {
         ASSERT_TRUE(unit.answer(bytesOfText(command)));
+    }
     ASSERT_NE(unit.settings(), firstUnit().settings());
 
     EXPECT_EQ(unit.answer(bytesOfText("^^IdZ")), acknowledgement());
@@ -148,8 +149,9 @@ TEST(SimulatedUnit, IgnoresATimeThatDoesNotExist) {
     SimulatedUnit unit = firstUnit();
     for (const std::string_view time :
          {"00011200", "13011200", "01001200", "01321200", "04311200", "02301200", "01012400",
-          "01011260", "0101120", "010112000", "+1011200", "0101 200", ""})
+          "01011260", "0101120", "010112000", "+1011200", "0101 200", ""}) {
         EXPECT_FALSE(unit.answer(bytesOfText("^^Id-Z" + std::string(time) + "\r"))) << time;
+    }
     EXPECT_FALSE(unit.answer(bytesOfText("^^Id-Z03051407")));
     EXPECT_EQ(unit.clock(), "");
 }
@@ -189,8 +191,9 @@ TEST(SimulatedUnit, IgnoresMalformedCommands) {
                                            "^^IdC12",
                                            "^^IdS1",
                                            "^^IdP2711\r\r",
-                                           "^^Idx"})
+                                           "^^Idx"}) {
         EXPECT_FALSE(unit.answer(bytesOfText(command))) << command;
+    }
     EXPECT_EQ(unit.settings(), firstUnit().settings());
 }
 
@@ -209,8 +212,9 @@ TEST(SimulatedUnit, WhateverIsSentTheSettingsCanBeRead) {
         for (int round = 0; round < 50; ++round) {
             Bytes command = bytesOfText("^^Id");
             command.resize(length);
-            for (std::size_t index = round % 2 == 0 ? 0 : 4; index < length; ++index)
+            for (std::size_t index = round % 2 == 0 ? 0 : 4; index < length; ++index) {
                 command[index] = static_cast<std::uint8_t>(random());
+            }
             unit.answer(command);
             ASSERT_EQ(unit.parameterReply().size(), 81U);
         }
@@ -227,7 +231,9 @@ TEST(FactorySettings, FollowFromTheNumber) {
 }
 
 TEST(FactorySettings, UnitIDIsANumberOrAText) {
-    const auto unitID = [](unsigned number) { return factorySettings(number, kNetwork).unitID; };
+    const auto unitID = [](unsigned number) {
+        return factorySettings(number, networkAddress).unitID;
+    };
     EXPECT_EQ(unitID(1), (SixBytes{0, 0, 0, 0, 0, 1}));
     EXPECT_EQ(unitID(255), (SixBytes{0, 0, 0, 0, 0, 255}));
     EXPECT_EQ(unitID(2), (SixBytes{'U', '0', '0', '0', '0', '2'}));
@@ -236,16 +242,16 @@ TEST(FactorySettings, UnitIDIsANumberOrAText) {
 }
 
 TEST(FactorySettings, EveryThirdUnitTakesCommandsOnTheCommonPortOnly) {
-    EXPECT_EQ(factorySettings(1, kNetwork).devicePort, 10000);
-    EXPECT_EQ(factorySettings(2, kNetwork).devicePort, 10000);
-    EXPECT_EQ(factorySettings(3, kNetwork).devicePort, 3520);
+    EXPECT_EQ(factorySettings(1, networkAddress).devicePort, 10000);
+    EXPECT_EQ(factorySettings(2, networkAddress).devicePort, 10000);
+    EXPECT_EQ(factorySettings(3, networkAddress).devicePort, 3520);
 }
 
 TEST(FactorySettings, UnitsStayBelowTheDirectedBroadcastAddress) {
-    EXPECT_TRUE(networkHoldsUnits(kNetwork, 244));
-    EXPECT_FALSE(networkHoldsUnits(kNetwork, 245));
+    EXPECT_TRUE(networkHoldsUnits(networkAddress, 244));
+    EXPECT_FALSE(networkHoldsUnits(networkAddress, 245));
     EXPECT_TRUE(networkHoldsUnits({.base = 0x0A000000, .prefixLength = 16}, 10'000));
-    EXPECT_TRUE(networkHoldsUnits({.base = 0x0A000000, .prefixLength = 8}, kHighestUnitNumber));
+    EXPECT_TRUE(networkHoldsUnits({.base = 0x0A000000, .prefixLength = 8}, highestUnitNumber));
 }
 
 } // namespace

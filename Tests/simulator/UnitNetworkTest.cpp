@@ -11,23 +11,24 @@
 namespace kx::simulator {
 namespace {
 
-constexpr HardwareAddress kHost{0x02, 0, 0, 0, 0, 0x01};
-constexpr IPv4 kHostAddress = 0x0A000001;
-constexpr Network kNetwork{.base = 0x0A000000, .prefixLength = 16};
+constexpr HardwareAddress hostHardware{0x02, 0, 0, 0, 0, 0x01};
+constexpr IPv4 hostAddress = 0x0A000001;
+constexpr Network networkAddress{.base = 0x0A000000, .prefixLength = 16};
 
 std::vector<SimulatedUnit> units(unsigned count) {
     std::vector<SimulatedUnit> all;
-    for (unsigned number = 1; number <= count; ++number)
-        all.emplace_back(factorySettings(number, kNetwork));
+    for (unsigned number = 1; number <= count; ++number) {
+        all.emplace_back(factorySettings(number, networkAddress));
+    }
     return all;
 }
 
 HardwareAddress hardwareOf(unsigned number) {
-    return factorySettings(number, kNetwork).hardwareAddress;
+    return factorySettings(number, networkAddress).hardwareAddress;
 }
 
 IPv4 addressOf(unsigned number) {
-    return factorySettings(number, kNetwork).address;
+    return factorySettings(number, networkAddress).address;
 }
 
 class UnitNetworkTest : public testing::Test {
@@ -41,20 +42,20 @@ protected:
 
     std::vector<OutgoingFrame> send(const HardwareAddress& hardware, IPv4 address,
                                     std::string_view command, std::uint16_t port = 3520) {
-        return _network->receive(datagramFrame({.source = {kHost, kHostAddress, 3521},
+        return _network->receive(datagramFrame({.source = {hostHardware, hostAddress, 3521},
                                                 .destination = {hardware, address, port},
                                                 .payload = bytesOfText(command)}),
                                  UdpChecksum::complete);
     }
 
     std::vector<OutgoingFrame> broadcast(std::string_view command) {
-        return send(kBroadcastHardware, 0xFFFFFFFF, command);
+        return send(broadcastHardware, 0xFFFFFFFF, command);
     }
 
     // The ARP answers to a question for `address` that was sent to `hardware`.
     std::vector<OutgoingFrame> ask(IPv4 address,
-                                   const HardwareAddress& hardware = kBroadcastHardware) {
-        Bytes frame = arpAnnouncementFrame(kHost, address);
+                                   const HardwareAddress& hardware = broadcastHardware) {
+        Bytes frame = arpAnnouncementFrame(hostHardware, address);
         std::ranges::copy(hardware, frame.begin());
         return _network->receive(frame, UdpChecksum::complete);
     }
@@ -63,8 +64,9 @@ protected:
     static Datagram onlyDatagram(const std::vector<OutgoingFrame>& frames) {
         std::vector<Datagram> datagrams;
         for (const OutgoingFrame& frame : frames) {
-            if (auto datagram = readDatagram(frame.bytes, UdpChecksum::complete))
+            if (auto datagram = readDatagram(frame.bytes, UdpChecksum::complete)) {
                 datagrams.push_back(std::move(*datagram));
+            }
         }
         EXPECT_EQ(datagrams.size(), 1U);
         return datagrams.empty() ? Datagram{} : datagrams.front();
@@ -91,8 +93,8 @@ TEST_F(UnitNetworkTest, RepliesGoToTheSenderFromThePortThatItUsed) {
     play(1);
     const Datagram reply = onlyDatagram(send(hardwareOf(1), addressOf(1), "^^IdX", 10000));
     EXPECT_EQ(reply.source.port, 10000);
-    EXPECT_EQ(reply.destination.hardware, kHost);
-    EXPECT_EQ(reply.destination.address, kHostAddress);
+    EXPECT_EQ(reply.destination.hardware, hostHardware);
+    EXPECT_EQ(reply.destination.address, hostAddress);
     EXPECT_EQ(reply.destination.port, 3521);
 }
 
@@ -100,7 +102,7 @@ TEST_F(UnitNetworkTest, OnlyTheAddressedUnitAnswers) {
     play(3);
     EXPECT_EQ(onlyDatagram(send(hardwareOf(2), addressOf(2), "^^IdX")).source.hardware,
               hardwareOf(2));
-    EXPECT_TRUE(send(kHost, addressOf(2), "^^IdX").empty());
+    EXPECT_TRUE(send(hostHardware, addressOf(2), "^^IdX").empty());
 }
 
 TEST_F(UnitNetworkTest, OtherPortsAreNotHeard) {
@@ -129,24 +131,24 @@ TEST_F(UnitNetworkTest, ArpQuestionForAnotherUnitsEarIsNotAnswered) {
 
 TEST_F(UnitNetworkTest, UnitIsReachedAtAnAddressThatItDoesNotHoldAndMovesThere) {
     play(2);
-    constexpr IPv4 kNew = 0xC0A80114;
-    const auto frames = send(hardwareOf(1), kNew, "^^IdIC0A80114");
+    constexpr IPv4 newAddress = 0xC0A80114;
+    const auto frames = send(hardwareOf(1), newAddress, "^^IdIC0A80114");
     const Datagram reply = onlyDatagram(frames);
-    EXPECT_EQ(reply.source.address, kNew);
+    EXPECT_EQ(reply.source.address, newAddress);
     EXPECT_EQ(ByteView(reply.payload).last(3)[0], 'o');
-    EXPECT_EQ(frames.front().bytes, arpAnnouncementFrame(hardwareOf(1), kNew));
+    EXPECT_EQ(frames.front().bytes, arpAnnouncementFrame(hardwareOf(1), newAddress));
 
     EXPECT_TRUE(ask(addressOf(1)).empty());
-    EXPECT_EQ(ask(kNew).size(), 1U);
+    EXPECT_EQ(ask(newAddress).size(), 1U);
 }
 
 TEST_F(UnitNetworkTest, UnitIsFoundUnderItsNewHardwareAddress) {
     play(2);
-    constexpr HardwareAddress kNew{0x02, 0, 0, 0, 0, 0xAA};
+    constexpr HardwareAddress newAddress{0x02, 0, 0, 0, 0, 0xAA};
     EXPECT_EQ(onlyDatagram(send(hardwareOf(1), addressOf(1), "^^IdM0200000000AA")).source.hardware,
-              kNew);
+              newAddress);
     EXPECT_TRUE(send(hardwareOf(1), addressOf(1), "^^IdX").empty());
-    EXPECT_EQ(onlyDatagram(send(kNew, addressOf(1), "^^IdX")).payload.size(), 81U);
+    EXPECT_EQ(onlyDatagram(send(newAddress, addressOf(1), "^^IdX")).payload.size(), 81U);
 }
 
 TEST_F(UnitNetworkTest, RestoredUnitIsBackAtItsFirstAddresses) {
@@ -210,8 +212,9 @@ TEST_F(UnitNetworkTest, TenThousandUnitsAnswerOneBroadcastAndAreEachFound) {
     EXPECT_EQ(broadcast("^^IdX").size(), 10'000U);
     EXPECT_EQ(onlyDatagram(send(hardwareOf(10'000), addressOf(10'000), "^^IdX")).source.address,
               addressOf(10'000));
-    for (unsigned number = 1; number <= 10'000; ++number)
+    for (unsigned number = 1; number <= 10'000; ++number) {
         ASSERT_EQ(ask(addressOf(number)).size(), 1U);
+    }
     // One and the same address for all is the worst that can happen to an index.
     EXPECT_EQ(broadcast("^^IdIC0A80114").size(), 20'000U);
     EXPECT_EQ(ask(0xC0A80114).size(), 10'000U);
@@ -220,16 +223,17 @@ TEST_F(UnitNetworkTest, TenThousandUnitsAnswerOneBroadcastAndAreEachFound) {
 TEST_F(UnitNetworkTest, ForeignFramesOfEveryLengthDoNoHarm) {
     play(3);
     std::mt19937 random(1);
-    const Bytes request = datagramFrame({.source = {kHost, kHostAddress, 3521},
-                                         .destination = {kBroadcastHardware, 0xFFFFFFFF, 3520},
+    const Bytes request = datagramFrame({.source = {hostHardware, hostAddress, 3521},
+                                         .destination = {broadcastHardware, 0xFFFFFFFF, 3520},
                                          .payload = bytesOfText("^^IdX")});
     for (std::size_t length = 0; length <= 200; ++length) {
         Bytes frame = request;
         frame.resize(length);
         _network->receive(frame, UdpChecksum::pending);
         for (int round = 0; round < 20; ++round) {
-            for (std::size_t index = 14; index < length; ++index)
+            for (std::size_t index = 14; index < length; ++index) {
                 frame[index] = static_cast<std::uint8_t>(random());
+            }
             EXPECT_TRUE(_network->receive(frame, UdpChecksum::complete).empty());
         }
     }
