@@ -16,18 +16,20 @@
 
 namespace kx {
 
-// The address that a dotted text names, or 0. Deliberately forgiving:
-// - Spaces, ",", "-", tabs and carriage returns in front are skipped; a line feed is not.
-// - A segment is up to 3 decimal digits, or "0x" (lower case) and up to 2 hexadecimal digits; an
-// empty
-//   segment is 0. Segments are not range-checked: one above 255 spills into the one before it.
-// - Whatever follows the fourth segment is ignored.
+// The address that a dotted text names, or 0. Deliberately forgiving: spaces, ",", "-", tabs and
+// carriage returns in front are skipped (a line feed is not), and whatever follows the fourth
+// segment is ignored.
+//
+// A segment is up to 3 decimal digits, or "0x" (lower case) and up to 2 hexadecimal digits; one
+// without digits is 0. Segments are not range-checked: what exceeds 255 is OR'ed into the segment
+// before, and lost in front of the first.
+//
 // 0 also for a text of no or more than 254 characters, and for one that is longer than 254 bytes in
 // UTF-8.
 std::uint32_t ipForString(std::string_view text);
 
 // Reads one segment as above at `position` of a NUL-terminated buffer, advances `position` by the
-// characters read, and stores their number in `consumed`. No digit reads as 0.
+// characters read ("0x" included), and stores their number in `consumed`. No digit reads as 0.
 std::uint32_t ipSegmentFromBuf(const char* buffer, std::int32_t& position, std::int32_t& consumed);
 
 // The same with up to 10 decimal digits. A value beyond 32 bits wraps.
@@ -36,8 +38,8 @@ std::uint32_t ipSegment1FromBuf(const char* buffer, std::int32_t& position, std:
 // "a.b.c.d" without zero padding.
 std::string stringForIP(std::uint32_t address);
 
-// "a.b.c.d/n", with n the position of the mask's lowest set bit; "a.b.c.d" for a mask of 0. The
-// lowest set bit alone decides, so a mask with holes still gets a prefix length.
+// "a.b.c.d/n", with n the position of the mask's least significant set bit; "a.b.c.d" for a mask of
+// 0. That bit alone decides, so a mask with holes still gets a prefix length.
 std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask);
 
 // The prefix length of a dotted mask as decimal text, by the same rule. Absent for an absent text
@@ -49,8 +51,7 @@ std::optional<std::string> prefixForMaskStr(const std::optional<std::string>& ma
 std::uint8_t FindRightBit(std::uint32_t value, std::uint8_t prefixLength);
 
 // The position of the first set bit at or to the right of position `start`, up to 32; 0 when there
-// is none. Position 0 is tested as position 32, the least significant bit, and a hit there returns
-// 0.
+// is none. A start of 0 tests the least significant bit first, and a hit there returns 0 as well.
 std::uint8_t FindLeftBit(std::uint32_t value, std::uint8_t start);
 
 } // namespace kx

@@ -39,9 +39,10 @@ Bytes dataForAddress(std::uint32_t address, std::uint16_t port);
 Bytes dataForAddress6(const IPv6Octets& address, std::uint16_t port);
 
 // Takes a record apart and returns its family, or 0 for a record of another family, of no bytes, or
-// too short for its family. Writes `address` for an IPv4 record and sets it to 0 for result 0;
-// writes `address6` for an IPv6 record only; writes `port`, unless it is null, in every case (0 for
-// result 0). The length byte of the record is not looked at.
+// one that ends before its address does. Writes `address` for an IPv4 record and sets it to 0 for
+// result 0; writes `address6` for an IPv6 record only; writes `port`, unless it is null, in every
+// case (0 for result 0). The length byte of the record is not looked at, nor is what follows the
+// address.
 int addressForData(ByteView record, std::uint32_t& address, IPv6Octets& address6,
                    std::uint16_t* port);
 

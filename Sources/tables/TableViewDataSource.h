@@ -28,9 +28,11 @@ public:
     virtual std::optional<PropertyListValue>
     tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) = 0;
 
-    // Takes over what the user typed into a cell.
-    virtual void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
-                                                          const TableColumn& column, int row) = 0;
+    // Takes over what the user typed into a cell. Does nothing unless overridden: a source that
+    // cannot be edited.
+    virtual void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& /*value*/,
+                                                          const TableColumn& /*column*/,
+                                                          int /*row*/) {}
 };
 
 } // namespace kx

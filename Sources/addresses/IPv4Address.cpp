@@ -1,0 +1,145 @@
+#include "addresses/IPv4Address.h"
+
+#include "addresses/AppendBuffer.h"
+#include "addresses/CharacterClass.h"
+#include "support/TextEncoding.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+namespace kx {
+
+namespace {
+
+constexpr std::size_t longestAddressText = 254;
+
+// Room for the longest text, "255.255.255.255/32", and what appends may occupy of it.
+constexpr std::size_t formattedTextRoom = 32;
+constexpr std::uint32_t formattedTextCapacity = 31;
+
+std::uint32_t readSegment(const char* buffer, std::int32_t& position, std::int32_t& consumed,
+                          int mostDecimalDigits) {
+    constexpr int mostHexDigits = 2;
+    const char* const start = buffer + position;
+    const char* next = start;
+    std::uint32_t value = 0;
+    if (next[0] == '0' && next[1] == 'x') {
+        next += 2;
+        for (int i = 0; i < mostHexDigits && isHexDigit(*next); ++i) {
+            value = value * 16 + hexDigitValue(*next++);
+        }
+    } else {
+        for (int i = 0; i < mostDecimalDigits && isDigit(*next); ++i) {
+            value = value * 10 + hexDigitValue(*next++);
+        }
+    }
+    consumed = static_cast<std::int32_t>(next - start);
+    position += consumed;
+    return value;
+}
+
+bool isSkippedInFront(char character) {
+    return character == ' ' || character == ',' || character == '-' || character == '\t' ||
+           character == '\r';
+}
+
+// Separators fit because appends stay within the capacity, one byte below the room.
+void appendSeparator(AppendBuffer& buffer, char separator) {
+    buffer.bytes[buffer.offset++] = separator;
+}
+
+void appendAddress(AppendBuffer& buffer, std::uint32_t address) {
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        appendInt(buffer, static_cast<std::int32_t>((address >> shift) & 0xFFU));
+        if (shift > 0) {
+            appendSeparator(buffer, '.');
+        }
+    }
+}
+
+// The lowest set bit alone decides, so a mask with holes still gets a prefix length.
+std::int32_t prefixLengthOfMask(std::uint32_t mask) {
+    return 32 - std::countr_zero(mask);
+}
+
+} // namespace
+
+std::uint32_t ipForString(std::string_view text) {
+    // The first limit counts characters, the second bytes: a text within the first may still be too
+    // long for the second.
+    const std::size_t length = lengthInCharacters(text);
+    if (length == 0 || length > longestAddressText || text.size() > longestAddressText) {
+        return 0;
+    }
+    std::array<char, longestAddressText + 1> buffer{};
+    text.copy(buffer.data(), longestAddressText);
+
+    std::int32_t position = 0;
+    while (isSkippedInFront(buffer[static_cast<std::size_t>(position)])) {
+        ++position;
+    }
+    std::uint32_t address = 0;
+    for (int segment = 1; segment <= 4; ++segment) {
+        std::int32_t consumed = 0;
+        const std::uint32_t value = ipSegmentFromBuf(buffer.data(), position, consumed);
+        address = (address << 8U) | value;
+        if (segment < 4 && buffer[static_cast<std::size_t>(position++)] != '.') {
+            return 0;
+        }
+    }
+    return address;
+}
+
+std::uint32_t ipSegmentFromBuf(const char* buffer, std::int32_t& position, std::int32_t& consumed) {
+    return readSegment(buffer, position, consumed, 3);
+}
+
+std::uint32_t ipSegment1FromBuf(const char* buffer, std::int32_t& position,
+                                std::int32_t& consumed) {
+    return readSegment(buffer, position, consumed, 10);
+}
+
+std::string stringForIP(std::uint32_t address) {
+    return stringForNetNumber(address, 0);
+}
+
+std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask) {
+    std::array<char, formattedTextRoom> room{};
+    AppendBuffer buffer{room.data(), 0, formattedTextCapacity, 0};
+    appendAddress(buffer, address);
+    if (mask != 0) {
+        appendSeparator(buffer, '/');
+        appendInt(buffer, prefixLengthOfMask(mask));
+    }
+    return {room.data(), buffer.offset};
+}
+
+std::optional<std::string> prefixForMaskStr(const std::optional<std::string>& maskText) {
+    const std::uint32_t mask = maskText ? ipForString(*maskText) : 0;
+    if (mask == 0) {
+        return std::nullopt;
+    }
+    return std::to_string(prefixLengthOfMask(mask));
+}
+
+std::uint8_t FindRightBit(std::uint32_t value, std::uint8_t prefixLength) {
+    for (std::uint8_t position = std::min<std::uint8_t>(prefixLength, 32); position > 0;
+         --position) {
+        if (((value >> (32U - position)) & 1U) != 0) {
+            return position;
+        }
+    }
+    return 0;
+}
+
+std::uint8_t FindLeftBit(std::uint32_t value, std::uint8_t start) {
+    for (std::uint8_t position = start; position <= 32; ++position) {
+        if (((value >> ((32U - position) % 32U)) & 1U) != 0) {
+            return position;
+        }
+    }
+    return 0;
+}
+
+} // namespace kx

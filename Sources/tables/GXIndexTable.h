@@ -1,0 +1,100 @@
+// Entries by row number, with holes, shown in a table view.
+//
+// The count is one more than the highest row ever stored and not removed since, so rows without an
+// entry count as well. It belongs to the table and not to the dictionary: a table that was copied,
+// decoded or given another dictionary keeps the count that it had, 0 when new, until rows are set.
+//
+// Row numbers are compared as unsigned 32-bit values: a negative one lies above all others. Rows
+// are meant to be 0 and more; after a negative one the count is of no use.
+//
+// Ownership: the table owns its dictionary, which its copies share, so that a change through either
+// is seen by both. The delegate is not owned. Main thread only.
+
+#pragma once
+
+#include "tables/GXStateEntry.h"
+#include "tables/GXTableDelegate.h"
+#include "tables/TableViewDataSource.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace kx {
+
+// Entries by row number.
+using EntryRows = std::map<std::int32_t, std::shared_ptr<GXStateEntry>>;
+
+class GXIndexTable : public TableViewDataSource {
+public:
+    GXIndexTable() = default;
+    GXIndexTable(const GXIndexTable&) = delete;
+    GXIndexTable& operator=(const GXIndexTable&) = delete;
+
+    GXTableDelegate* delegate() const { return _delegate; }
+    void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
+
+    // The dictionary itself, never null. Setting shares the given one and leaves the count as it
+    // is; null sets a new, empty dictionary.
+    const std::shared_ptr<EntryRows>& tableDictionary() const { return mTableDictionary; }
+    void setTableDictionary(std::shared_ptr<EntryRows> dictionary);
+
+    std::int32_t count() const { return mCount; }
+
+    // "Table = ", then each entry's description followed by ";", in row order.
+    std::string description() const;
+
+    // Stores in the row, in place of the entry that was there. Does nothing without an entry.
+    void setObjectAtIndex(std::shared_ptr<GXStateEntry> entry, std::int32_t index);
+
+    // The entry of the row, null for a hole.
+    virtual std::shared_ptr<GXStateEntry> objectAtIndex(std::int32_t index) const;
+
+    // Empties the row. When it was the last one, the count goes down to the highest row that is
+    // left.
+    void removeObjectAtIndex(std::int32_t index);
+
+    void removeAllObjects();
+
+    // A hook for subclasses that keep the view up to date. Abstract here: writes a line to the
+    // system log.
+    virtual void updateTable();
+
+    // Writes the dictionary as one object. False, with nothing written, when the entries' values
+    // are nested too deep to be read again.
+    bool encodeWithCoder(PropertyListEncoder& coder) const;
+
+    // Takes over a new dictionary from the next object of `coder`. The bytes hold the entries'
+    // fields but not their classes, so the caller says the class. False when there is no such
+    // object, it is no dictionary of rows, or the class refuses an entry; the table keeps the
+    // dictionary that it had.
+    bool initWithCoder(PropertyListDecoder& coder, const EntryClass& entryClass);
+
+    // A new table of the receiver's class, with count 0, that shares the receiver's dictionary.
+    std::shared_ptr<GXIndexTable> copy() const;
+
+    // What stands for the table when it travels to another process: itself, so it travels by copy.
+    GXIndexTable& replacementObjectForPortCoder() { return *this; }
+
+    // --- The values of a table view: one row for each row number below the count ---
+
+    int numberOfRowsInTableView() override;
+
+    // The value of the row's entry for the column's identifier, absent for a hole. Throws what the
+    // entry throws.
+    std::optional<PropertyListValue>
+    tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
+
+protected:
+    // A new, empty table of the receiver's class, for copy(). Every subclass overrides it.
+    virtual std::shared_ptr<GXIndexTable> newInstance() const;
+
+private:
+    std::shared_ptr<EntryRows> mTableDictionary = std::make_shared<EntryRows>();
+    std::int32_t mCount = 0;
+    GXTableDelegate* _delegate = nullptr;
+};
+
+} // namespace kx
