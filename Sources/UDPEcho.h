@@ -97,7 +97,7 @@ private:
     RunLoop::Handle _source;
 };
 
-class UDPEcho final : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
+class UDPEcho : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
 public:
     UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
 
@@ -124,7 +124,7 @@ public:
     UDPEchoDelegate* delegate() const { return _delegate; }
     void setDelegate(UDPEchoDelegate* delegate) { _delegate = delegate; }
 
-    // The socket's descriptor, for socket options. Only while started and connected.
+    // The socket's descriptor, for socket options; -1 while there is no socket.
     int nativeSocket() const;
 
     // Starts as a server on a port in host byte order and reports echoDidStartWithAddress() before
@@ -157,14 +157,41 @@ public:
     friend void HostResolveCallback(const HostResolver::Request* host, HostInfoType typeInfo,
                                     const HostResolution& resolution, CallbackInfo* info);
 
-private:
+protected:
+    // The steps of the operations above. They are not for owners; derived classes may take them one
+    // by one.
+
+    // Creates the socket, binds it to `port` (no address) or connects it to `address` at `port`,
+    // and watches it. On failure false, and the reason in `error` unless that is null.
+    // Contracts: "(address == nil) == self.isServer",
+    // "(address == nil) || ([address length] <= sizeof(struct sockaddr_storage))", "port < 65536",
+    // "self->_cfSocket == NULL", "NO" (an address of more than 16 bytes),
+    // "addr.sin_family == AF_INET",
+    // "CFSocketGetSocketFlags(self->_cfSocket) & kCFSocketCloseOnInvalidate", "rls != NULL",
+    // "junk == 0", "(err == 0) == (self->_cfSocket != NULL)".
     bool _setupSocketConnectedToAddressPortError(const std::optional<Bytes>& address,
-                                                 std::size_t port, std::optional<Error>& error);
+                                                 std::size_t port, std::optional<Error>* error);
+
+    // Connects to the first IPv4 address that accepts, and reports the start or the stop.
+    // Contracts: "self.port != 0", "self->_cfHost != NULL", "self->_cfSocket == NULL",
+    // "self.hostAddress == nil", "addrLen >= sizeof(struct sockaddr)", "hostAddress != NULL".
     void _hostResolutionDone(const HostResolution& resolution);
+
+    // Ends the resolution, if one is in progress, without a report.
     void _stopHostResolution();
+
+    // Reads one datagram and reports it. Contracts: "sock >= 0", "dataObj != nil",
+    // "addrObj != nil".
     void _readData();
+
+    // Stops, then reports the error. Contract: "error != nil".
     void _stopWithError(const std::optional<Error>& error);
     void _stopWithStreamError(const StreamError& streamError);
+
+private:
+    int _openSocket(int& sock, const std::optional<Bytes>& address, std::size_t port);
+    void _scheduleSocket(int sock);
+    std::optional<Error> _connectToFirstOf(const std::vector<Bytes>& addresses);
 
     RunLoop& _runLoop;
     HostResolver& _hostResolver;

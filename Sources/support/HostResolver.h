@@ -3,8 +3,9 @@
 // Threading: operations and the report run on the thread of the run loop that the adapter was made
 // with. The report never comes from inside startResolution().
 //
-// Ownership: the returned object stands for the resolution. Destroying it cancels: no report comes
-// after that. It may be destroyed from inside its own report, and must not outlive the resolver.
+// Ownership: a Request stands for one resolution. Destroying it cancels: no report comes after
+// that. It may be destroyed from inside its own report; the report's callable and the resolution
+// that it is given live until the call has returned. A request must not outlive its resolver.
 
 #pragma once
 
@@ -40,24 +41,27 @@ struct HostResolution {
 
 class HostResolver {
 public:
+    using Report = std::function<void(const HostResolution&)>;
+
     class Request {
     public:
         virtual ~Request() = default;
+
+        // Starts to resolve the addresses of the request's name and reports exactly once, unless
+        // cancelled. False when it could not be started; `startError` then says why, and no report
+        // comes. `startError` is not written otherwise. Once for each request.
+        virtual bool startResolution(Report report, StreamError& startError) = 0;
 
     protected:
         Request() = default;
         Request(const Request&) = delete;
         Request& operator=(const Request&) = delete;
     };
-    using Report = std::function<void(const HostResolution&)>;
 
     virtual ~HostResolver() = default;
 
-    // Starts to resolve the addresses of `hostName` and reports exactly once, unless cancelled.
-    // Null when it could not be started; `startError` then says why. `startError` is not written
-    // otherwise.
-    virtual std::unique_ptr<Request> startResolution(const std::string& hostName, Report report,
-                                                     StreamError& startError) = 0;
+    // A request for the addresses of `hostName`, not started yet. Never null.
+    virtual std::unique_ptr<Request> requestForHostName(const std::string& hostName) = 0;
 };
 
 } // namespace kx

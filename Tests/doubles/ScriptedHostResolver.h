@@ -1,0 +1,112 @@
+// A host resolver whose answers the test writes.
+//
+// A request waits until the test calls reportAnswers(), which plays the turn of the run loop in
+// which answers arrive.
+
+#pragma once
+
+#include "support/HostResolver.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class ScriptedHostResolver final : public HostResolver {
+public:
+    std::unique_ptr<Request> requestForHostName(const std::string& hostName) override {
+        if (_makesNoRequests) {
+            return nullptr;
+        }
+        return std::make_unique<ScriptedRequest>(*this, hostName);
+    }
+
+    // What a name resolves to; a name without an answer never gets a report.
+    void setAnswer(const std::string& hostName, HostResolution resolution) {
+        _answers[hostName] = std::move(resolution);
+    }
+    void setAddresses(const std::string& hostName, std::vector<Bytes> addresses) {
+        setAnswer(hostName, {{}, std::move(addresses)});
+    }
+    void setError(const std::string& hostName, StreamError error) {
+        setAnswer(hostName, {error, std::nullopt});
+    }
+
+    // From now on resolutions cannot be started, for this reason.
+    void refuseToStart(StreamError error) { _startError = error; }
+
+    // From now on there are not even requests: what a real resolver never does.
+    void makeNoRequests() { _makesNoRequests = true; }
+
+    // Reports to each pending request whose name has an answer, in the order in which they started.
+    void reportAnswers() {
+        const auto requests = _pending;
+        for (auto* request : requests) {
+            const bool isStillPending = std::count(_pending.begin(), _pending.end(), request) > 0;
+            if (isStillPending && _answers.count(request->hostName()) > 0) {
+                std::erase(_pending, request);
+                request->report(_answers[request->hostName()]);
+            }
+        }
+    }
+
+    // The names whose resolution started, and those whose request was destroyed before its report.
+    const std::vector<std::string>& startedNames() const { return _startedNames; }
+    const std::vector<std::string>& cancelledNames() const { return _cancelledNames; }
+    std::size_t pendingCount() const { return _pending.size(); }
+
+private:
+    class ScriptedRequest final : public Request {
+    public:
+        ScriptedRequest(ScriptedHostResolver& resolver, std::string hostName)
+            : _resolver(resolver)
+            , _hostName(std::move(hostName)) {}
+
+        ~ScriptedRequest() override {
+            if (std::erase(_resolver._pending, this) > 0) {
+                _resolver._cancelledNames.push_back(_hostName);
+            }
+        }
+
+        bool startResolution(Report report, StreamError& startError) override {
+            if (_resolver._startError) {
+                startError = *_resolver._startError;
+                return false;
+            }
+            _report = std::move(report);
+            _resolver._pending.push_back(this);
+            _resolver._startedNames.push_back(_hostName);
+            return true;
+        }
+
+        const std::string& hostName() const { return _hostName; }
+
+        // Moved and copied to the stack, since the report may destroy this request or change the
+        // script.
+        void report(const HostResolution& answer) {
+            const auto report = std::move(_report);
+            const auto resolution = answer;
+            report(resolution);
+        }
+
+    private:
+        ScriptedHostResolver& _resolver;
+        std::string _hostName;
+        Report _report;
+    };
+
+    std::map<std::string, HostResolution> _answers;
+    std::vector<ScriptedRequest*> _pending;
+    std::vector<std::string> _startedNames;
+    std::vector<std::string> _cancelledNames;
+    std::optional<StreamError> _startError;
+    bool _makesNoRequests = false;
+};
+
+} // namespace kx
