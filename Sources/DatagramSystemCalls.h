@@ -26,11 +26,12 @@ class DatagramSystemCalls {
 public:
     virtual ~DatagramSystemCalls() = default;
 
-    // socket(2): AF_INET, SOCK_DGRAM, protocol 0. The descriptor, or -1.
+    // socket(2): AF_INET, SOCK_DGRAM, protocol 0. The descriptor, or -1. Tools that the process
+    // starts do not inherit it.
     virtual int socket();
 
     // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family fails with
-    // EAFNOSUPPORT.
+    // EAFNOSUPPORT, one that is too short for its family with EINVAL; so it is with sendTo().
     virtual int bind(int descriptor, ByteView addressRecord);
     virtual int connect(int descriptor, ByteView addressRecord);
 
@@ -46,10 +47,12 @@ public:
     virtual ssize_t sendTo(int descriptor, ByteView data, ByteView addressRecord);
 
     // recvfrom(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
-    // received, or -1. On success `sender` holds the sender's record.
+    // received, or -1. On success `sender` holds the sender's record, and is empty for a sender of
+    // another family than IPv4.
     virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender);
 
-    // getsockname(2) and getpeername(2) as records; absent when the call fails.
+    // getsockname(2) and getpeername(2) as records; absent when the call fails, and empty for
+    // another family than IPv4.
     virtual std::optional<Bytes> localAddress(int descriptor);
     virtual std::optional<Bytes> peerAddress(int descriptor);
 

@@ -1,13 +1,13 @@
 // The controller: the one object that decides what the application does.
 //
-// It is the delegate of the application, of the main window, of the UDP endpoint and of the parameter
-// table, and the data source of the one-row edit table. It talks to controls (Outlets.h) and services
-// through interfaces, so it knows no screen and no operating system.
+// It is the delegate of the application, of the main window, of the UDP endpoint and of the
+// parameter table, and the data source of the one-row edit table. It talks to controls (Outlets.h)
+// and services through interfaces, so it knows no screen and no operating system.
 //
-// Threading: everything on the main thread; each operation runs to completion before the next event.
-// Ownership: the controller owns what its fields hold; controls and services belong to whoever made
-// it and must outlive it. Failures of the network go to the event log and nothing stops the program;
-// data that breaks its own format is abandoned with a line in the system log.
+// Threading: everything on the main thread; each operation runs to completion before the next
+// event. Ownership: the controller owns what its fields hold; controls and services belong to
+// whoever made it and must outlive it. Failures of the network go to the event log and nothing
+// stops the program; data that breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -21,7 +21,9 @@
 #include "tables/TableViewDataSource.h"
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <initializer_list>
 #include <list>
 #include <map>
@@ -41,6 +43,9 @@ public:
         const WallClock& wallClock;
         Application& application;
         NetworkInterfaces* networkInterfaces; // null: the host's configuration is not read
+
+        // Opens the help at an anchor; false when there is no such page. Empty: there is no help.
+        std::function<bool(std::string_view anchor)> openHelpAnchor = {};
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.
@@ -70,6 +75,7 @@ public:
     bool sendOptionButton();          // sends it; false when nothing was sent
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
     void logDrawerButton();           // opens or closes the event log drawer
+    void myHelp();                    // opens the help at its index
 
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
@@ -77,8 +83,8 @@ public:
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
 
     int numberOfRowsInTableView() override;
-    std::optional<PropertyListValue> tableViewObjectValueForTableColumnRow(const TableColumn& column,
-                                                                           int row) override;
+    std::optional<PropertyListValue>
+    tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
@@ -95,8 +101,9 @@ public:
 
     // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
 
-    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520. False
-    // when nothing was sent: a text is absent, there is no listener, or the command is not ASCII.
+    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520.
+    // False when nothing was sent: a text is absent, there is no listener, or the command is not
+    // ASCII.
     bool sendCommandToAddress(const std::optional<std::string>& command,
                               const std::optional<std::string>& address);
 
@@ -110,26 +117,38 @@ public:
 
     // --- What the fields hold, to be read by tests and fronts ---
 
+    Window* window() const { return _outlets.window; }
+    void setWindow(Window* window) { _outlets.window = window; }
+
     const std::string& eventLog() const { return logText; }
     const Registry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const std::shared_ptr<UDPEcho>& udpListener() const { return _udpListener; }
 
 private:
+    void restartListener(std::size_t port);
+    void stopListener();
     void didStartListenerWithAddress(const Bytes& address);
-    void restartListener();
-    void discoverComplete();
-    void setSelectedUnit(const std::optional<std::string>& key);
-    void didReceiveDataFromAddress(ByteView data, const Bytes& address);
-    std::string unitParameters(ByteView list);
+    std::uint32_t firstAddressOfService(const std::optional<std::string>& serviceID,
+                                        std::string_view key) const;
     std::uint32_t directedBroadcastAddress() const;
+
+    const UnitRecord* selectedRecord() const;
+    std::optional<std::string_view> selectedValue(UnitParameter parameter) const;
     std::uint32_t unitRequestAddress() const;
     std::uint16_t unitRequestPort() const;
-    const UnitRecord* selectedRecord() const;
-    void sendRequest(std::string_view command);
+    void sendRequest(std::string_view command, std::uint32_t target, std::uint16_t port);
     void sendThroughListener(const Bytes& data, const Bytes& address);
+
+    void didReceiveDataFromAddress(ByteView data, const Bytes& address);
+    std::string unitParameters(ByteView list);
+
+    void discoverComplete();
+    void setSelectedUnit(const std::optional<std::string>& key);
+
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
-    void performAfterDelay(std::chrono::milliseconds delay, void (KXConfigAppDelegate::*operation)());
+    void performAfterDelay(std::chrono::milliseconds delay,
+                           void (KXConfigAppDelegate::*operation)());
 
     MainWindowOutlets _outlets;
     Services _services;
@@ -140,7 +159,7 @@ private:
     std::uint32_t localMask = 0;
     Registry _devicesD;
     std::optional<std::string> _selectedUnit;
-    KXParameterEntry _editTableEntry;
+    std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

@@ -1,0 +1,219 @@
+#include "CommandProtocol.h"
+
+#include "addresses/CharacterClass.h"
+#include "addresses/IPv4Address.h"
+#include "support/TextEncoding.h"
+
+#include <array>
+#include <cstddef>
+
+namespace kx {
+
+namespace {
+
+static_assert(parameterRequestCommand.starts_with(commandPrefix));
+static_assert(restoreCommand.starts_with(commandPrefix));
+
+constexpr std::string_view upperHexDigits = "0123456789ABCDEF";
+constexpr std::string_view unitIDTag = "<U>";
+constexpr std::string_view serialTag = "<S>";
+constexpr std::string_view parameterListTag = "<M>";
+constexpr std::string_view acknowledgementPrefix = "ok";
+constexpr std::string_view payloadMarker = "$";
+constexpr std::string_view clockOption = "-Z";
+constexpr std::uint8_t replyMarker = '^';
+
+constexpr std::size_t shortestReply = 5;
+constexpr std::size_t replyTagOffset = 2;
+constexpr std::size_t unitIDOffset = 5;
+constexpr std::size_t serialTagOffset = 11;
+constexpr std::size_t serialOffset = 14;
+constexpr std::size_t payloadMarkerOffset = 20;
+constexpr std::size_t payloadOffset = 21;
+constexpr std::size_t tagLength = 3;
+constexpr std::size_t identityLength = 6;
+
+std::string withoutCharacter(std::string_view text, char unwanted) {
+    std::string result(text);
+    std::erase(result, unwanted);
+    return result;
+}
+
+// A negative number shows as the 32 bits that hold it.
+std::string hexNumber(std::int32_t number, std::size_t leastDigits) {
+    std::string result;
+    for (auto rest = static_cast<std::uint32_t>(number); rest != 0; rest >>= 4U) {
+        result.insert(result.begin(), upperHexDigits[rest & 0xFU]);
+    }
+    if (result.size() < leastDigits) {
+        result.insert(0, leastDigits - result.size(), '0');
+    }
+    return result;
+}
+
+std::string commandText(char letter, std::string_view argument) {
+    std::string result(commandPrefix);
+    result += letter;
+    result += argument;
+    return result;
+}
+
+bool isText(const std::optional<std::string>& text, std::string_view expected) {
+    return text.has_value() && *text == expected;
+}
+
+void takePayload(ByteView datagram, Reply& reply) {
+    if (!isText(stringForDataSubrange(datagram, payloadMarkerOffset, payloadMarker.size()),
+                payloadMarker)) {
+        return;
+    }
+    const auto tag = stringForDataSubrange(datagram, payloadOffset, tagLength);
+    if (isText(tag, parameterListTag)) {
+        reply.payloadKind = PayloadKind::parameterList;
+        reply.payload = datagram.subspan(payloadOffset);
+    } else if (tag.has_value() && tag->starts_with(acknowledgementPrefix)) {
+        reply.payloadKind = PayloadKind::acknowledgement;
+    } else {
+        reply.payloadKind = PayloadKind::other;
+        reply.payload = datagram.subspan(payloadMarkerOffset);
+    }
+}
+
+} // namespace
+
+std::string macAddressArgument(std::string_view typed) {
+    return withoutCharacter(typed, ':');
+}
+
+std::string ipAddressArgument(std::string_view typed) {
+    return hexNumber(static_cast<std::int32_t>(ipForString(typed)), 8);
+}
+
+std::string destinationPortArgument(std::string_view typed) {
+    const std::int32_t port = integerValue(typed);
+    const bool isAllowed = port >= defaultUnitPort && port <= lastDestinationPort;
+    return hexNumber(isAllowed ? port : defaultUnitPort, 4);
+}
+
+std::string devicePortArgument(std::string_view typed) {
+    return hexNumber(integerValue(typed), 4);
+}
+
+std::optional<std::string> unitIDArgument(std::string_view typed) {
+    const ByteView bytes = bytesOfText(typed);
+    if (!isValidUTF8(bytes)) {
+        return std::nullopt;
+    }
+    if (!typed.empty() && isDigit(typed.front())) {
+        return hexNumber(integerValue(typed), 2 * identityLength);
+    }
+    return hexStringForData(bytes, "");
+}
+
+std::string serialNumberArgument(std::string_view typed) {
+    return withoutCharacter(typed, ' ');
+}
+
+std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed) {
+    switch (parameter) {
+    case UnitParameter::internalMACAddress:
+        return commandText('M', macAddressArgument(typed));
+    case UnitParameter::internalIPAddress:
+        return commandText('I', ipAddressArgument(typed));
+    case UnitParameter::destinationIPAddress:
+        return commandText('D', ipAddressArgument(typed));
+    case UnitParameter::destinationPortNumber:
+        return commandText('T', destinationPortArgument(typed));
+    case UnitParameter::devicePortNumber:
+        return commandText('P', devicePortArgument(typed));
+    case UnitParameter::destinationMACAddress:
+        return commandText('C', macAddressArgument(typed));
+    case UnitParameter::serialNumber:
+        return commandText('S', serialNumberArgument(typed));
+    case UnitParameter::unitID:
+        break;
+    }
+    const auto argument = unitIDArgument(typed);
+    return argument.has_value() ? std::optional(commandText('U', *argument)) : std::nullopt;
+}
+
+std::string optionCommand(std::string_view text) {
+    std::string result(commandPrefix);
+    result += text;
+    result += '\r';
+    return result;
+}
+
+std::string optionTextForTitle(std::string_view title, const std::tm& now) {
+    const std::string_view text = title.substr(0, title.find("  "));
+    if (!text.starts_with(clockOption)) {
+        return std::string(text);
+    }
+    std::array<char, 16> date{};
+    const std::size_t length = std::strftime(date.data(), date.size(), "%m%d%H%M", &now);
+    return std::string(clockOption).append(date.data(), length);
+}
+
+std::uint16_t unitPortForText(std::optional<std::string_view> devicePort) {
+    if (!devicePort.has_value() || devicePort->empty()) {
+        return defaultUnitPort;
+    }
+    return static_cast<std::uint16_t>(integerValue(*devicePort));
+}
+
+std::optional<std::string> unitIDforData(ByteView data) {
+    const ByteView bytes = subrange(data, 0, identityLength);
+    const ByteView leading = bytes.first(identityLength - 1);
+    for (const std::uint8_t byte : leading) {
+        if (byte != 0) {
+            return textFromUTF8(bytes);
+        }
+    }
+    return std::to_string(bytes.back());
+}
+
+std::string hexStringForData(ByteView data, std::string_view separator) {
+    std::string result;
+    result.reserve(data.size() * (2 + separator.size()));
+    std::array<char, 2> digits{};
+    for (const std::uint8_t byte : data) {
+        if (!result.empty()) {
+            result += separator;
+        }
+        writeHexDigits(digits.data(), byte);
+        result.append(digits.data(), digits.size());
+    }
+    return result;
+}
+
+std::string serialNumberText(ByteView data) {
+    return hexStringForData(data, " ");
+}
+
+char* writeHexDigits(char* digits, std::uint8_t byte) {
+    digits[0] = upperHexDigits[byte >> 4U];
+    digits[1] = upperHexDigits[byte & 0xFU];
+    return digits + 2;
+}
+
+PacketKind packetKindOfDatagram(ByteView datagram) {
+    if (datagram.size() < shortestReply) {
+        return PacketKind::tooShort;
+    }
+    return datagram.front() == replyMarker ? PacketKind::reply : PacketKind::unknown;
+}
+
+Reply replyFromDatagram(ByteView datagram) {
+    Reply reply;
+    reply.tag = stringForDataSubrange(datagram, replyTagOffset, tagLength);
+    if (isText(reply.tag, unitIDTag)) {
+        reply.unitID = unitIDforData(subrange(datagram, unitIDOffset, identityLength));
+    }
+    if (isText(stringForDataSubrange(datagram, serialTagOffset, tagLength), serialTag)) {
+        reply.serialNumber = serialNumberText(subrange(datagram, serialOffset, identityLength));
+    }
+    takePayload(datagram, reply);
+    return reply;
+}
+
+} // namespace kx

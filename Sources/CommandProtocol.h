@@ -1,0 +1,127 @@
+// The wire format between the application and its units, in both directions.
+//
+// A command is ASCII text: "^^Id", one letter, an argument; no length, no checksum. A reply is a
+// header of 21 bytes and a payload:
+//
+//   offset 0   reply marker, "^"; the byte after it is never looked at
+//          2   reply tag, 3 bytes, for example "<U>"
+//          5   unit ID, 6 bytes, when the reply tag is "<U>"
+//         11   serial tag, 3 bytes
+//         14   serial number, 6 bytes, when the serial tag is "<S>"
+//         20   payload marker; the payload counts only behind "$"
+//         21   payload: a parameter list ("<M>..."), an acknowledgement ("ok..."), or any text
+//
+// Everything here is pure: texts and bytes in, values out, no state, any thread. Texts are UTF-8.
+
+#pragma once
+
+#include "UnitParameters.h"
+#include "support/ByteRange.h"
+
+#include <cstdint>
+#include <ctime>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+inline constexpr std::uint16_t defaultUnitPort = 3520;
+inline constexpr std::uint16_t lastDestinationPort = 3523;
+inline constexpr std::string_view allOnesBroadcastAddress = "255.255.255.255";
+
+inline constexpr std::string_view commandPrefix = "^^Id";
+
+// Commands without an argument.
+inline constexpr std::string_view parameterRequestCommand = "^^IdX";
+inline constexpr std::string_view restoreCommand = "^^IdZ";
+
+// --- The arguments of the edit commands, made from what a person typed ---
+//
+// The conversions are loose on purpose: separators are removed wherever they stand, and nothing is
+// checked for its length or for being hexadecimal. Numbers are read as integerValue() reads them.
+
+// The typed text without its colons, for MAC addresses.
+std::string macAddressArgument(std::string_view typed);
+
+// Eight hexadecimal digits, first octet first; "00000000" for what does not parse.
+std::string ipAddressArgument(std::string_view typed);
+
+// "0DC0" to "0DC3"; every port outside 3520 to 3523 counts as 3520.
+std::string destinationPortArgument(std::string_view typed);
+
+// At least four hexadecimal digits, with no check of the range, unlike the destination port: more
+// above 65535, eight for a negative number.
+std::string devicePortArgument(std::string_view typed);
+
+// For a text that begins with a digit, its number as twelve hexadecimal digits; for any other the
+// two hexadecimal digits of each byte, however many there are. Absent when the text is not UTF-8.
+std::optional<std::string> unitIDArgument(std::string_view typed);
+
+// The typed text without its blanks.
+std::string serialNumberArgument(std::string_view typed);
+
+// --- Command texts ---
+
+// The command that gives a parameter the value that a person typed. Absent when there is none: for
+// a unit ID that is not UTF-8. Whether an empty text is worth a command is the caller's business.
+std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed);
+
+// The free-form command: the whole text as it stands, and a carriage return.
+std::string optionCommand(std::string_view text);
+
+// The text that the title of an option stands for: what comes before its first two blanks in a row;
+// for a title that begins with "-Z", "-Z" and month, day, hour and minute of `now`, two digits
+// each.
+std::string optionTextForTitle(std::string_view title, const std::tm& now);
+
+// The port to which a unit's commands go, by its "device Port number" text: the low 16 bits of the
+// number, or 3520 for an absent or an empty text.
+std::uint16_t unitPortForText(std::optional<std::string_view> devicePort);
+
+// --- Identities and bytes as text ---
+
+// A unit ID of six bytes: the decimal value of the last byte when the five before it are zero,
+// otherwise the six bytes as UTF-8, zero bytes included. Absent when they are not UTF-8. Throws
+// RangeFailure for fewer than six bytes; further bytes are not looked at.
+std::optional<std::string> unitIDforData(ByteView data);
+
+// Two upper-case hexadecimal digits for each byte, joined by `separator`; empty for no bytes.
+std::string hexStringForData(ByteView data, std::string_view separator);
+
+// The text form of a serial number, by which units are known: hexStringForData() with a blank.
+std::string serialNumberText(ByteView data);
+
+// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns what follows them.
+char* writeHexDigits(char* digits, std::uint8_t byte);
+
+// --- Replies ---
+
+enum class PacketKind {
+    tooShort, // fewer than 5 bytes
+    unknown,  // does not begin with the reply marker
+    reply,
+};
+
+enum class PayloadKind {
+    none,            // no payload marker
+    parameterList,   // behind the marker stands "<M>"
+    acknowledgement, // behind the marker stands "ok" and one more byte
+    other,
+};
+
+struct Reply {
+    std::optional<std::string> tag;    // absent when it is not UTF-8
+    std::optional<std::string> unitID; // absent also without the tag "<U>"
+    std::optional<std::string> serialNumber;
+    PayloadKind payloadKind = PayloadKind::none;
+    ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
+};
+
+PacketKind packetKindOfDatagram(ByteView datagram);
+
+// Takes apart a datagram of the kind `reply`; the payload looks into it. Throws RangeFailure when a
+// field that its tag announces, unit ID or serial number, is cut short.
+Reply replyFromDatagram(ByteView datagram);
+
+} // namespace kx

@@ -1,0 +1,124 @@
+#include "DatagramSystemCalls.h"
+
+#include "addresses/SocketAddressRecord.h"
+
+#include <fcntl.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+
+namespace kx {
+
+namespace {
+
+// The host's own form of an IPv4 record. Absent, with errno set, for any other record.
+std::optional<sockaddr_in> hostAddress(ByteView record) {
+    if (familyOfRecord(record) != addressFamilyIPv4) {
+        errno = EAFNOSUPPORT;
+        return std::nullopt;
+    }
+    std::uint32_t address = 0;
+    IPv6Octets unused{};
+    std::uint16_t port = 0;
+    if (addressForData(record, address, unused, &port) == 0) {
+        errno = EINVAL; // shorter than its family
+        return std::nullopt;
+    }
+    sockaddr_in result{};
+    result.sin_family = AF_INET;
+    result.sin_port = htons(port);
+    result.sin_addr.s_addr = htonl(address);
+    return result;
+}
+
+// The record of an address that the system named; empty for one that is not IPv4.
+Bytes recordOf(const sockaddr_storage& storage, socklen_t length) {
+    if (length < sizeof(sockaddr_in) || storage.ss_family != AF_INET) {
+        return {};
+    }
+    sockaddr_in address{};
+    std::memcpy(&address, &storage, sizeof address);
+    return dataForAddress(ntohl(address.sin_addr.s_addr), ntohs(address.sin_port));
+}
+
+// What getsockname(2) or getpeername(2) says.
+std::optional<Bytes> nameOf(int descriptor, int (*nameCall)(int, sockaddr*, socklen_t*)) {
+    sockaddr_storage storage{};
+    socklen_t length = sizeof storage;
+    if (nameCall(descriptor, reinterpret_cast<sockaddr*>(&storage), &length) != 0) {
+        return std::nullopt;
+    }
+    return recordOf(storage, length);
+}
+
+} // namespace
+
+int DatagramSystemCalls::socket() {
+    return ::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+}
+
+int DatagramSystemCalls::bind(int descriptor, ByteView addressRecord) {
+    const auto address = hostAddress(addressRecord);
+    return address
+               ? ::bind(descriptor, reinterpret_cast<const sockaddr*>(&*address), sizeof *address)
+               : -1;
+}
+
+int DatagramSystemCalls::connect(int descriptor, ByteView addressRecord) {
+    const auto address = hostAddress(addressRecord);
+    return address ? ::connect(descriptor, reinterpret_cast<const sockaddr*>(&*address),
+                               sizeof *address)
+                   : -1;
+}
+
+int DatagramSystemCalls::statusFlags(int descriptor) {
+    return ::fcntl(descriptor, F_GETFL);
+}
+
+int DatagramSystemCalls::setStatusFlags(int descriptor, int flags) {
+    return ::fcntl(descriptor, F_SETFL, flags);
+}
+
+int DatagramSystemCalls::enableBroadcast(int descriptor) {
+    const std::int32_t on = 1;
+    return ::setsockopt(descriptor, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
+}
+
+ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data, ByteView addressRecord) {
+    if (addressRecord.empty()) {
+        return ::sendto(descriptor, data.data(), data.size(), 0, nullptr, 0);
+    }
+    const auto address = hostAddress(addressRecord);
+    return address ? ::sendto(descriptor, data.data(), data.size(), 0,
+                              reinterpret_cast<const sockaddr*>(&*address), sizeof *address)
+                   : -1;
+}
+
+ssize_t DatagramSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
+                                         Bytes& sender) {
+    sockaddr_storage storage{};
+    socklen_t length = sizeof storage;
+    const ssize_t received = ::recvfrom(descriptor, buffer.data(), buffer.size(), 0,
+                                        reinterpret_cast<sockaddr*>(&storage), &length);
+    if (received >= 0) {
+        sender = recordOf(storage, length);
+    }
+    return received;
+}
+
+std::optional<Bytes> DatagramSystemCalls::localAddress(int descriptor) {
+    return nameOf(descriptor, ::getsockname);
+}
+
+std::optional<Bytes> DatagramSystemCalls::peerAddress(int descriptor) {
+    return nameOf(descriptor, ::getpeername);
+}
+
+int DatagramSystemCalls::close(int descriptor) {
+    return ::close(descriptor);
+}
+
+} // namespace kx

@@ -1,0 +1,171 @@
+#include "KXConfigAppDelegate.h"
+
+#include "CommandProtocol.h"
+#include "System Configuration/InterfaceTitles.h"
+#include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
+#include "support/LocalizedText.h"
+#include "support/SystemLog.h"
+#include "support/TextEncoding.h"
+
+#include <cerrno>
+
+namespace kx {
+
+KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services)
+    : _outlets(outlets)
+    , _services(services) {}
+
+void KXConfigAppDelegate::applicationDidFinishLaunching() {
+    localAddress = 0;
+    logText.clear();
+    _outlets.eventLogDrawer->close();
+
+    _outlets.interfacePopUp->removeAllItems();
+    const auto titles = _services.networkInterfaces != nullptr
+                            ? _services.networkInterfaces->bsdTitlesAndServiceIDs(nullptr)
+                            : std::nullopt;
+    if (titles.has_value()) {
+        _outlets.interfacePopUp->addItemsWithTitles(*titles);
+    } else {
+        _outlets.interfacePopUp->addItemsWithTitles({localizedText("No configured interfaces")});
+        _outlets.interfacePopUp->setEnabled(false);
+    }
+
+    _udpListener.reset();
+    _devicesD.clear();
+    _selectedUnit.reset();
+    _editTableEntry = std::make_shared<KXParameterEntry>();
+    discoverButton();
+    optionCommandPopUp();
+}
+
+void KXConfigAppDelegate::applicationWillTerminate() {
+    _delayedCalls.clear();
+    logText.clear();
+    stopListener();
+    _devicesD.clear();
+    _selectedUnit.reset();
+    _editTableEntry.reset();
+}
+
+void KXConfigAppDelegate::windowWillClose() {
+    _services.application.terminate();
+}
+
+void KXConfigAppDelegate::interfaceSelect() {
+    const auto title = _outlets.interfacePopUp->titleOfSelectedItem();
+    const auto serviceID =
+        title.has_value() && _services.networkInterfaces != nullptr
+            ? _services.networkInterfaces->serviceIDForInterface(bsdNameForTitle(*title))
+            : std::nullopt;
+    localAddress = firstAddressOfService(serviceID, "Addresses");
+    localMask = firstAddressOfService(serviceID, "SubnetMasks");
+}
+
+// 0 for whatever is missing or does not parse: broadcasts then go to every link.
+std::uint32_t
+KXConfigAppDelegate::firstAddressOfService(const std::optional<std::string>& serviceID,
+                                           std::string_view key) const {
+    if (!serviceID.has_value()) {
+        return 0;
+    }
+    const auto value =
+        _services.networkInterfaces->serviceDataForDictionaryNameKey(*serviceID, "IPv4", key);
+    const PropertyList* const addresses = value.has_value() ? value->list() : nullptr;
+    const std::string* const first =
+        addresses != nullptr && !addresses->empty() ? addresses->front().text() : nullptr;
+    return first != nullptr ? ipForString(*first) : 0;
+}
+
+std::uint32_t KXConfigAppDelegate::directedBroadcastAddress() const {
+    return localAddress != 0 ? localAddress | ~localMask : ipForString(allOnesBroadcastAddress);
+}
+
+void KXConfigAppDelegate::udpPortSelect() {
+    discoverButton();
+}
+
+void KXConfigAppDelegate::myHelp() {
+    if (_services.openHelpAnchor) {
+        _services.openHelpAnchor("index");
+    }
+}
+
+void KXConfigAppDelegate::restartListener(std::size_t port) {
+    stopListener();
+    _udpListener =
+        std::make_shared<UDPEcho>(_services.runLoop, _services.hostResolver, _services.systemCalls);
+    _udpListener->setDelegate(this);
+    _udpListener->startServerOnPort(port);
+}
+
+void KXConfigAppDelegate::stopListener() {
+    if (_udpListener != nullptr) {
+        _udpListener->stop();
+        _udpListener.reset();
+    }
+}
+
+void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
+    appendMessage("\nUDP listener did start. ");
+    std::uint32_t ip = 0;
+    IPv6Octets ip6{};
+    std::uint16_t port = 0;
+    if (addressForData(address, ip, ip6, &port) == addressFamilyIPv4) {
+        appendMessage("%@:%d", {stringForIP(ip), port});
+    }
+    if (_services.systemCalls.enableBroadcast(_udpListener->nativeSocket()) != 0) {
+        appendMessage("\nError setting SO_BROADCAST %s", {posixErrorText(errno)});
+        return;
+    }
+    sendRequest(parameterRequestCommand, directedBroadcastAddress(), defaultUnitPort);
+}
+
+void KXConfigAppDelegate::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
+    if (&echo != _udpListener.get()) {
+        return;
+    }
+    try {
+        didStartListenerWithAddress(address);
+    } catch (const PlatformException& exception) {
+        logToSystem(
+            filledText("Exception during echo:didStartWithAddress: %@", {exception.reason()}));
+    }
+}
+
+void KXConfigAppDelegate::echoDidReceiveError(UDPEcho& /*echo*/, const Error& error) {
+    appendMessage("\nUDP did receive error.");
+    appendMessage("\n  %@", {error.localizedDescription()});
+}
+
+void KXConfigAppDelegate::echoDidSendDataToAddress(UDPEcho& echo, const Bytes& /*data*/,
+                                                   const Bytes& /*address*/) {
+    if (&echo == _udpListener.get()) {
+        appendMessage("\nUDP server did send data.");
+    }
+}
+
+void KXConfigAppDelegate::echoDidFailToSendDataToAddressError(UDPEcho& /*echo*/,
+                                                              const Bytes& /*data*/,
+                                                              const Bytes& /*address*/,
+                                                              const Error& error) {
+    appendMessage("\nUDP failed to send data.");
+    appendMessage("\n  %@", {error.localizedDescription()});
+}
+
+void KXConfigAppDelegate::echoDidStopWithError(UDPEcho& /*echo*/, const Error& error) {
+    appendMessage("\nUDP did stop with error.");
+    appendMessage("\n  %@", {error.localizedDescription()});
+}
+
+void KXConfigAppDelegate::performAfterDelay(std::chrono::milliseconds delay,
+                                            void (KXConfigAppDelegate::*operation)()) {
+    const auto call = _delayedCalls.emplace(_delayedCalls.end());
+    *call = _services.runLoop.callOnceAfter(delay, [this, call, operation] {
+        _delayedCalls.erase(call);
+        (this->*operation)();
+    });
+}
+
+} // namespace kx

@@ -1,0 +1,75 @@
+#include "CommandProtocol.h"
+#include "KXConfigAppDelegate.h"
+#include "support/TextEncoding.h"
+#include "tables/GXArrayTable.h"
+
+#include <vector>
+
+namespace kx {
+
+using namespace std::chrono_literals;
+
+void KXConfigAppDelegate::discoverButton() {
+    const auto port = integerValue(_outlets.udpPortPopUp->titleOfSelectedItem().value_or(""));
+    logText.clear();
+    _outlets.logTextView->setString("");
+    appendMessage("[Begin Discover]");
+    _outlets.unitSelectPopUp->removeAllItems();
+    restartListener(static_cast<std::size_t>(port));
+    performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
+}
+
+void KXConfigAppDelegate::discoverComplete() {
+    std::vector<std::string> serials;
+    serials.reserve(_devicesD.size());
+    for (const auto& [serial, record] : _devicesD) {
+        serials.push_back(serial);
+    }
+    _outlets.unitSelectPopUp->addItemsWithTitles(serials);
+    if (_selectedUnit.has_value()) {
+        _outlets.unitSelectPopUp->selectItemWithTitle(*_selectedUnit);
+    } else {
+        _outlets.unitSelectPopUp->selectItemAtIndex(0);
+    }
+    unitSelectPopUp();
+}
+
+void KXConfigAppDelegate::unitSelectPopUp() {
+    setSelectedUnit(_outlets.unitSelectPopUp->titleOfSelectedItem());
+}
+
+void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
+    _selectedUnit = key;
+    _outlets.unitIDField->setStringValue(selectedValue(UnitParameter::unitID).value_or(""));
+    _outlets.unitParameterTable->removeAllObjects();
+    for (const UnitParameter parameter : allUnitParameters) {
+        const auto value = selectedValue(parameter);
+        if (value.has_value()) {
+            auto entry = std::make_shared<KXParameterEntry>();
+            entry->setParameterName(std::string(nameOfUnitParameter(parameter)));
+            entry->setParameterValue(std::string(*value));
+            _outlets.unitParameterTable->addObject(std::move(entry));
+        }
+    }
+    _outlets.unitParameterTableView->reloadData();
+}
+
+void KXConfigAppDelegate::reloadUnitParameterButton() {
+    sendRequest(parameterRequestCommand, unitRequestAddress(), unitRequestPort());
+}
+
+void KXConfigAppDelegate::tableViewSelectionDidChange() {
+    const int row = _outlets.unitParameterTableView->selectedRow();
+    if (row < 0 || _editTableEntry == nullptr) {
+        return;
+    }
+    const auto entry = _outlets.unitParameterTable->objectAtIndex(row);
+    for (const auto key :
+         {KXParameterEntry::parameterNameKey, KXParameterEntry::parameterValueKey}) {
+        _editTableEntry->setValueForKey(entry != nullptr ? entry->valueForKey(key) : std::nullopt,
+                                        key);
+    }
+    _outlets.editParameterTableView->reloadData();
+}
+
+} // namespace kx

@@ -1,0 +1,34 @@
+#include "KXConfigAppDelegate.h"
+#include "support/LocalizedText.h"
+
+namespace kx {
+
+void KXConfigAppDelegate::appendString(std::string_view text) {
+    logText += text;
+    if (_outlets.eventLogDrawer->state() != DrawerState::closed) {
+        _outlets.logTextView->insertAtEnd(text);
+        _outlets.logTextView->scrollEndToVisible();
+    }
+}
+
+void KXConfigAppDelegate::appendMessage(std::string_view key,
+                                        std::initializer_list<FormatArgument> arguments) {
+    appendString(filledText(localizedText(key), arguments));
+}
+
+void KXConfigAppDelegate::logDrawerButton() {
+    switch (_outlets.eventLogDrawer->state()) {
+    case DrawerState::closed:
+        _outlets.eventLogDrawer->open();
+        _outlets.logTextView->setString(logText);
+        break;
+    case DrawerState::open:
+        _outlets.eventLogDrawer->close();
+        break;
+    case DrawerState::opening:
+    case DrawerState::closing:
+        break;
+    }
+}
+
+} // namespace kx

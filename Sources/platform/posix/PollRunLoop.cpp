@@ -1,0 +1,115 @@
+#include "platform/posix/PollRunLoop.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace kx {
+
+using std::chrono::milliseconds;
+
+// What a handle holds: the removal of its entry.
+class PollRunLoop::Registration final : public Source {
+public:
+    explicit Registration(std::function<void()> end)
+        : _end(std::move(end)) {}
+    ~Registration() override { _end(); }
+
+private:
+    std::function<void()> _end;
+};
+
+// Entries are extracted rather than erased: what a callback holds may end registrations in turn,
+// and must not do so while the map is being changed.
+
+RunLoop::Handle PollRunLoop::watchForReading(int descriptor, std::function<void()> readable) {
+    const auto order = _nextOrder++;
+    _watches.emplace(
+        order, Watch{descriptor, std::make_shared<std::function<void()>>(std::move(readable))});
+    return std::make_unique<Registration>([this, order] { _watches.extract(order); });
+}
+
+RunLoop::Handle PollRunLoop::callOnceAfter(milliseconds delay, std::function<void()> call) {
+    const CallKey key{Clock::now() + std::max(delay, milliseconds(0)), _nextOrder++};
+    _calls.emplace(key, std::move(call));
+    return std::make_unique<Registration>([this, key] { _calls.extract(key); });
+}
+
+void PollRunLoop::run() {
+    _running = true;
+    while (_running) {
+        runOnce();
+    }
+}
+
+void PollRunLoop::stop() {
+    _running = false;
+}
+
+bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
+    const auto ready = readyWatches(pollTimeout(longestWait));
+    const CallKey latest{Clock::now(), _nextOrder - 1}; // what callbacks ask for comes after it
+    const bool hasRead = callReadable(ready);
+    const bool hasCalled = callDue(latest);
+    return hasRead || hasCalled;
+}
+
+// Rounded up: a wait that ends just before the due time would turn the loop for nothing.
+int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
+    auto wait = longestWait;
+    if (!_calls.empty()) {
+        const auto untilDue =
+            std::chrono::ceil<milliseconds>(_calls.begin()->first.first - Clock::now());
+        wait = std::min(untilDue, wait.value_or(milliseconds::max()));
+    }
+    if (!wait.has_value()) {
+        return -1;
+    }
+    return static_cast<int>(
+        std::clamp<milliseconds::rep>(wait->count(), 0, std::numeric_limits<int>::max()));
+}
+
+// An interrupted poll is a turn in which nothing can be read.
+std::vector<std::uint64_t> PollRunLoop::readyWatches(int timeout) const {
+    std::vector<pollfd> descriptors;
+    descriptors.reserve(_watches.size());
+    for (const auto& [order, watch] : _watches) {
+        descriptors.push_back({watch.descriptor, POLLIN, 0});
+    }
+    std::vector<std::uint64_t> ready;
+    if (::poll(descriptors.data(), static_cast<nfds_t>(descriptors.size()), timeout) <= 0) {
+        return ready;
+    }
+    auto polled = descriptors.begin();
+    for (const auto& [order, watch] : _watches) {
+        if (polled->revents != 0) {
+            ready.push_back(order);
+        }
+        ++polled;
+    }
+    return ready;
+}
+
+bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
+    bool hasCalled = false;
+    for (const auto order : ready) {
+        const auto watch = _watches.find(order); // another callback may have ended it
+        if (watch != _watches.end()) {
+            const auto readable = watch->second.readable;
+            (*readable)();
+            hasCalled = true;
+        }
+    }
+    return hasCalled;
+}
+
+bool PollRunLoop::callDue(const CallKey& latest) {
+    bool hasCalled = false;
+    while (!_calls.empty() && _calls.begin()->first <= latest) {
+        const auto due = _calls.extract(_calls.begin());
+        due.mapped()();
+        hasCalled = true;
+    }
+    return hasCalled;
+}
+
+} // namespace kx

@@ -1,0 +1,68 @@
+// A run loop over poll(2), for programs and tests without a toolkit.
+//
+// The contract of support/RunLoop.h on the monotonic clock. A turn waits until a descriptor can be
+// read or a call falls due, at rest for as long as that takes; it then calls the watches of the
+// descriptors that can be read and the calls that were due, each once. A descriptor with a pending
+// error or a hang-up counts as one that can be read, since a read of it does not block.
+//
+// Threading: one thread, which is the one that runs it; nothing wakes it from another one but a
+// watched descriptor.
+
+#pragma once
+
+#include "support/RunLoop.h"
+
+#include <poll.h>
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class PollRunLoop final : public RunLoop {
+public:
+    PollRunLoop() = default;
+    PollRunLoop(const PollRunLoop&) = delete;
+    PollRunLoop& operator=(const PollRunLoop&) = delete;
+
+    Handle watchForReading(int descriptor, std::function<void()> readable) override;
+    Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) override;
+
+    // Runs turns until stop() is called.
+    void run();
+
+    // Ends run() when the present turn is over. Without effect while run() is not running.
+    void stop();
+
+    // Runs one turn, which waits no longer than `longestWait`; absent: for as long as it takes.
+    // False when the wait ended without anything to call.
+    bool runOnce(std::optional<std::chrono::milliseconds> longestWait = std::nullopt);
+
+private:
+    using Clock = std::chrono::steady_clock;
+    using CallKey = std::pair<Clock::time_point, std::uint64_t>; // due time, order of request
+    class Registration;
+
+    struct Watch {
+        int descriptor;
+        std::shared_ptr<std::function<void()>> readable; // shared with the running call
+    };
+
+    int pollTimeout(std::optional<std::chrono::milliseconds> longestWait) const;
+    std::vector<std::uint64_t> readyWatches(int timeout) const;
+    bool callReadable(const std::vector<std::uint64_t>& ready);
+    bool callDue(const CallKey& latest);
+
+    bool _running = false;
+    std::uint64_t _nextOrder = 1;
+    std::map<std::uint64_t, Watch> _watches; // by order of request
+    std::map<CallKey, std::function<void()>> _calls;
+};
+
+} // namespace kx

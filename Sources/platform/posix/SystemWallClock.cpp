@@ -1,0 +1,12 @@
+#include "platform/posix/SystemWallClock.h"
+
+namespace kx {
+
+std::tm SystemWallClock::localTime() const {
+    const std::time_t now = std::time(nullptr);
+    std::tm result{};
+    ::localtime_r(&now, &result);
+    return result;
+}
+
+} // namespace kx

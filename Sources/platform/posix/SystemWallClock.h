@@ -1,0 +1,14 @@
+// The host's own clock and time zone.
+
+#pragma once
+
+#include "support/WallClock.h"
+
+namespace kx {
+
+class SystemWallClock final : public WallClock {
+public:
+    std::tm localTime() const override;
+};
+
+} // namespace kx
