@@ -20,13 +20,14 @@ std::optional<sockaddr_in> hostAddress(ByteView record) {
         errno = EAFNOSUPPORT;
         return std::nullopt;
     }
+    if (record.size() < ipv4RecordLength) {
+        errno = EINVAL;
+        return std::nullopt;
+    }
     std::uint32_t address = 0;
     IPv6Octets unused{};
     std::uint16_t port = 0;
-    if (addressForData(record, address, unused, &port) == 0) {
-        errno = EINVAL; // shorter than its family
-        return std::nullopt;
-    }
+    addressForData(record, address, unused, &port);
     sockaddr_in result{};
     result.sin_family = AF_INET;
     result.sin_port = htons(port);

@@ -25,7 +25,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     const auto titles = _services.networkInterfaces != nullptr
                             ? _services.networkInterfaces->bsdTitlesAndServiceIDs(nullptr)
                             : std::nullopt;
-    if (titles.has_value()) {
+    if (titles.has_value() && !titles->empty()) {
         _outlets.interfacePopUp->addItemsWithTitles(*titles);
     } else {
         _outlets.interfacePopUp->addItemsWithTitles({localizedText("No configured interfaces")});

@@ -6,18 +6,20 @@ namespace {
 
 std::string listDescription(const PropertyList& list) {
     std::string result = "(";
+    std::string_view separator;
     for (const auto& element : list) {
-        result += result.size() > 1 ? ", " : "";
-        result += element.description();
+        result.append(separator).append(element.description());
+        separator = ", ";
     }
     return result + ")";
 }
 
 std::string dictionaryDescription(const PropertyDictionary& dictionary) {
     std::string result = "{";
+    std::string_view separator;
     for (const auto& [key, value] : dictionary) {
-        result += result.size() > 1 ? "; " : "";
-        result += key + " = " + value.description();
+        result.append(separator).append(key).append(" = ").append(value.description());
+        separator = "; ";
     }
     return result + "}";
 }

@@ -1,6 +1,7 @@
 #include "support/SystemLog.h"
 
 #include <cstdio>
+#include <string>
 #include <utility>
 
 namespace kx {
@@ -20,7 +21,9 @@ void logToSystem(std::string_view line) {
         installedLog->write(line);
         return;
     }
-    std::fprintf(stderr, "%.*s\n", static_cast<int>(line.size()), line.data());
+    std::string text(line);
+    text += '\n';
+    std::fwrite(text.data(), 1, text.size(), stderr);
 }
 
 } // namespace kx

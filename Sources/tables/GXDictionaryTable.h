@@ -33,8 +33,8 @@ public:
     GXTableDelegate* delegate() const { return _delegate; }
     void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
 
-    // The dictionary itself, never null. Setting shares the given one; null sets a new, empty
-    // dictionary.
+    // The dictionary itself, never null and without null entries. Setting shares the given one;
+    // null sets a new, empty dictionary.
     const std::shared_ptr<EntryDictionary>& tableDictionary() const { return _tableDictionary; }
     void setTableDictionary(std::shared_ptr<EntryDictionary> dictionary);
 

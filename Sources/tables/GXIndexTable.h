@@ -1,8 +1,8 @@
 // Entries by row number, with holes, shown in a table view.
 //
 // The count is one more than the highest row ever stored and not removed since, so rows without an
-// entry count as well. It belongs to the table and not to the dictionary: a table that was copied,
-// decoded or given another dictionary keeps the count that it had, 0 when new, until rows are set.
+// entry count as well. It belongs to the table and not to the dictionary: a table given another
+// dictionary keeps the count that it had, and a copied or decoded one counts 0 until rows are set.
 //
 // Row numbers are compared as unsigned 32-bit values: a negative one lies above all others. Rows
 // are meant to be 0 and more; after a negative one the count is of no use.
@@ -36,8 +36,8 @@ public:
     GXTableDelegate* delegate() const { return _delegate; }
     void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
 
-    // The dictionary itself, never null. Setting shares the given one and leaves the count as it
-    // is; null sets a new, empty dictionary.
+    // The dictionary itself, never null and without null entries. Setting shares the given one and
+    // leaves the count as it is; null sets a new, empty dictionary.
     const std::shared_ptr<EntryRows>& tableDictionary() const { return mTableDictionary; }
     void setTableDictionary(std::shared_ptr<EntryRows> dictionary);
 
@@ -66,10 +66,10 @@ public:
     // are nested too deep to be read again.
     bool encodeWithCoder(PropertyListEncoder& coder) const;
 
-    // Takes over a new dictionary from the next object of `coder`. The bytes hold the entries'
-    // fields but not their classes, so the caller says the class. False when there is no such
-    // object, it is no dictionary of rows, or the class refuses an entry; the table keeps the
-    // dictionary that it had.
+    // Takes over a new dictionary from the next object of `coder`; the count is 0 then. The bytes
+    // hold the entries' fields but not their classes, so the caller says the class. False when
+    // there is no such object, it is no dictionary of rows, or the class refuses an entry; the
+    // table keeps the dictionary that it had.
     bool initWithCoder(PropertyListDecoder& coder, const EntryClass& entryClass);
 
     // A new table of the receiver's class, with count 0, that shares the receiver's dictionary.

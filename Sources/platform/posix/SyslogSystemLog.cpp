@@ -2,14 +2,13 @@
 
 #include <syslog.h>
 
-#include <cstdio>
 #include <utility>
 
 namespace kx {
 
 SyslogSystemLog::SyslogSystemLog(std::string programName)
     : _programName(std::move(programName)) {
-    ::openlog(_programName.c_str(), LOG_PID, LOG_USER);
+    ::openlog(_programName.c_str(), LOG_PID | LOG_PERROR, LOG_USER);
 }
 
 SyslogSystemLog::~SyslogSystemLog() {
@@ -18,9 +17,7 @@ SyslogSystemLog::~SyslogSystemLog() {
 
 // The line goes in as an argument, never as the format: it can hold bytes of foreign datagrams.
 void SyslogSystemLog::write(std::string_view line) {
-    const int length = static_cast<int>(line.size());
-    ::syslog(LOG_NOTICE, "%.*s", length, line.data());
-    std::fprintf(stderr, "%.*s\n", length, line.data());
+    ::syslog(LOG_NOTICE, "%.*s", static_cast<int>(line.size()), line.data());
 }
 
 } // namespace kx

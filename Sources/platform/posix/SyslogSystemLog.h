@@ -14,7 +14,7 @@ namespace kx {
 
 class SyslogSystemLog final : public SystemLog {
 public:
-    // `programName` heads each line in the log.
+    // `programName` and the process's number head each line: "kxconfig[123]: LINE".
     explicit SyslogSystemLog(std::string programName);
     ~SyslogSystemLog() override;
     SyslogSystemLog(const SyslogSystemLog&) = delete;

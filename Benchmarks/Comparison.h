@@ -1,0 +1,16 @@
+// Comparisons: two benchmarks that do the same thing in two ways, run interleaved in one process and
+// printed as the ratio of their times.
+
+#pragma once
+
+#include <string>
+
+namespace kx {
+
+// Adds a row to the table: the time of the benchmark named `ours` divided by that of `reference`.
+// Called at static initialisation, beside the benchmarks.
+struct Comparison {
+    Comparison(std::string what, std::string ours, std::string reference);
+};
+
+} // namespace kx

@@ -1,0 +1,151 @@
+// Receiving datagrams over loopback through the endpoint, on both run loops, beside a bare loop of
+// epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
+//
+// Each round sends a batch that fits into the receive buffer and times only its reception.
+
+#include "Comparison.h"
+#include "UDPEcho.h"
+#include "addresses/SocketAddressRecord.h"
+#include "platform/posix/PollRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
+
+#include "doubles/ScriptedHostResolver.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <arpa/inet.h>
+#include <netinet/in.h>
+#include <sys/epoll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <array>
+#include <chrono>
+#include <functional>
+
+namespace kx {
+
+namespace {
+
+constexpr int batch = 128;
+constexpr std::uint16_t port = 35200;
+constexpr std::uint32_t loopbackAddress = 0x7F000001;
+
+// Sends from a socket of its own to the port on loopback.
+class Sender {
+public:
+    Sender() : _socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+        _address.sin_family = AF_INET;
+        _address.sin_port = htons(port);
+        _address.sin_addr.s_addr = htonl(loopbackAddress);
+    }
+    ~Sender() { ::close(_socket); }
+    Sender(const Sender&) = delete;
+    Sender& operator=(const Sender&) = delete;
+
+    void sendBatch() const {
+        const std::array<char, 81> datagram{};
+        for (int i = 0; i < batch; ++i) {
+            ::sendto(_socket, datagram.data(), datagram.size(), 0,
+                     reinterpret_cast<const sockaddr*>(&_address), sizeof _address);
+        }
+    }
+
+private:
+    int _socket;
+    sockaddr_in _address{};
+};
+
+class Counter final : public UDPEchoDelegate {
+public:
+    void echoDidReceiveDataFromAddress(UDPEcho&, const Bytes& data, const Bytes&) override {
+        benchmark::DoNotOptimize(data.data());
+        ++received;
+    }
+    int received = 0;
+};
+
+// Times `receiveBatch`, which returns when a whole batch has arrived.
+void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch) {
+    const Sender sender;
+    for (auto _ : state) {
+        sender.sendBatch();
+        const auto begin = std::chrono::steady_clock::now();
+        receiveBatch();
+        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
+        state.SetIterationTime(time.count());
+    }
+    state.SetItemsProcessed(state.iterations() * batch);
+}
+
+void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
+                            const std::function<void()>& oneTurn) {
+    ScriptedHostResolver resolver;
+    DatagramSystemCalls systemCalls;
+    Counter counter;
+    const auto echo = std::make_shared<UDPEcho>(runLoop, resolver, systemCalls);
+    echo->setDelegate(&counter);
+    echo->startServerOnPort(port);
+    if (echo->port() == 0) {
+        state.SkipWithError("the port is taken");
+        return;
+    }
+    timeBatches(state, [&] {
+        const int wanted = counter.received + batch;
+        while (counter.received < wanted) {
+            oneTurn();
+        }
+    });
+}
+
+void receiveBare(benchmark::State& state) {
+    const int sock = ::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(port);
+    const int poller = ::epoll_create1(EPOLL_CLOEXEC);
+    epoll_event event{EPOLLIN, {}};
+    if (::bind(sock, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
+        ::epoll_ctl(poller, EPOLL_CTL_ADD, sock, &event) != 0) {
+        state.SkipWithError("the port is taken");
+    } else {
+        timeBatches(state, [&] {
+            std::array<char, 65536> buffer; // NOLINT: filled by the system
+            for (int received = 0; received < batch; ++received) {
+                ::epoll_wait(poller, &event, 1, -1);
+                sockaddr_storage sender{};
+                socklen_t length = sizeof sender;
+                ::recvfrom(sock, buffer.data(), buffer.size(), 0,
+                           reinterpret_cast<sockaddr*>(&sender), &length);
+                benchmark::DoNotOptimize(buffer.data());
+            }
+        });
+    }
+    ::close(poller);
+    ::close(sock);
+}
+BENCHMARK(receiveBare)->UseManualTime();
+
+void receiveOnPollLoop(benchmark::State& state) {
+    PollRunLoop runLoop;
+    receiveThroughEndpoint(state, runLoop, [&] { runLoop.runOnce(); });
+}
+BENCHMARK(receiveOnPollLoop)->UseManualTime();
+
+void receiveOnQtLoop(benchmark::State& state) {
+    QtRunLoop runLoop;
+    receiveThroughEndpoint(state, runLoop,
+                           [] { QApplication::processEvents(QEventLoop::WaitForMoreEvents); });
+}
+BENCHMARK(receiveOnQtLoop)->UseManualTime();
+
+const Comparison pollComparison("receive through the endpoint on the poll loop, beside bare epoll",
+                                "receiveOnPollLoop", "receiveBare");
+const Comparison qtComparison("receive through the endpoint on the Qt loop, beside bare epoll",
+                              "receiveOnQtLoop", "receiveBare");
+
+} // namespace
+
+} // namespace kx

@@ -1,0 +1,104 @@
+// Runs every benchmark several times, interleaved, and prints the comparisons as ratios.
+
+#include "Comparison.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+namespace {
+
+struct Row {
+    std::string what;
+    std::string ours;
+    std::string reference;
+};
+
+std::vector<Row>& rows() {
+    static std::vector<Row> table;
+    return table;
+}
+
+// Keeps the time of each repetition, beside what the console shows.
+class RepetitionReporter final : public benchmark::ConsoleReporter {
+public:
+    void ReportRuns(const std::vector<Run>& reports) override {
+        for (const Run& run : reports) {
+            if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
+                _times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
+            }
+        }
+        ConsoleReporter::ReportRuns(reports);
+    }
+
+    // The ratio of each repetition of ours to the one of the reference that ran in the same round,
+    // in ascending order. Empty when one of them did not run.
+    std::vector<double> ratios(const Row& row) const {
+        const auto ours = _times.find(row.ours);
+        const auto reference = _times.find(row.reference);
+        if (ours == _times.end() || reference == _times.end()) {
+            return {};
+        }
+        std::vector<double> result;
+        const std::size_t rounds = std::min(ours->second.size(), reference->second.size());
+        for (std::size_t i = 0; i < rounds; ++i) {
+            result.push_back(ours->second[i] / reference->second[i]);
+        }
+        std::sort(result.begin(), result.end());
+        return result;
+    }
+
+private:
+    std::map<std::string, std::vector<double>> _times;
+};
+
+void printTable(const RepetitionReporter& reporter) {
+    std::printf("\n| What | Median ratio | Least | Most |\n|---|---|---|---|\n");
+    for (const Row& row : rows()) {
+        const auto ratios = reporter.ratios(row);
+        if (!ratios.empty()) {
+            std::printf("| %s | %.2f | %.2f | %.2f |\n", row.what.c_str(),
+                        ratios[ratios.size() / 2], ratios.front(), ratios.back());
+        }
+    }
+}
+
+} // namespace
+
+Comparison::Comparison(std::string what, std::string ours, std::string reference) {
+    rows().push_back({std::move(what), std::move(ours), std::move(reference)});
+}
+
+} // namespace kx
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+
+    std::vector<char*> arguments(argv, argv + argc);
+    std::array<std::string, 3> defaults{"--benchmark_repetitions=9",
+                                        "--benchmark_enable_random_interleaving=true",
+                                        "--benchmark_min_time=0.05"};
+    for (std::size_t i = 0; i < defaults.size(); ++i) {
+        arguments.insert(arguments.begin() + 1 + static_cast<std::ptrdiff_t>(i),
+                         defaults[i].data());
+    }
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data())) {
+        return 2;
+    }
+    kx::RepetitionReporter reporter;
+    benchmark::RunSpecifiedBenchmarks(&reporter);
+    kx::printTable(reporter);
+    return 0;
+}

@@ -1,0 +1,48 @@
+// What the units heard, and how they ended, as lines of text that a test can search.
+//
+// Two kinds of line, fields separated by single blanks:
+//
+//   4B5800000001 192.0.2.11 3520 5E5E496458
+//       a datagram that a unit took: the unit's serial number when it arrived, the destination IP
+//       address and port, the bytes
+//   state 4B5800000001 hardware=02:4B:58:00:00:01 address=192.0.2.11 destination=192.0.2.1
+//   destination-port=3520 device-port=10000 unit-id=000000000001
+//   destination-hardware=02:00:00:00:00:01 clock=-
+//       a unit's settings at the end, on one line; a clock that was never set is "-"
+//
+// Lines are kept until flush(), which appends them with one system call as long as the system takes
+// them whole, so that several programs may share one file. Threading: one thread.
+
+#pragma once
+
+#include "Simulator/Frame.h"
+#include "Simulator/SimulatedUnit.h"
+
+#include <string>
+
+namespace kx::simulator {
+
+class CommandRecord {
+public:
+    // Appends to the file at `path`, which is made when it is missing. Throws std::system_error.
+    explicit CommandRecord(const std::string& path);
+
+    // Appends to standard output.
+    CommandRecord();
+
+    ~CommandRecord();
+    CommandRecord(const CommandRecord&) = delete;
+    CommandRecord& operator=(const CommandRecord&) = delete;
+
+    void addCommand(const SimulatedUnit& unit, const Datagram& datagram);
+    void addFinalState(const SimulatedUnit& unit);
+
+    // Throws std::system_error when the lines cannot be written.
+    void flush();
+
+private:
+    int _descriptor;
+    std::string _lines;
+};
+
+} // namespace kx::simulator

@@ -1,0 +1,156 @@
+#include "Simulator/UnitProgram.h"
+
+#include "Simulator/CommandRecord.h"
+#include "Simulator/DelayedFrames.h"
+#include "Simulator/Pace.h"
+#include "Simulator/PacketLink.h"
+#include "Simulator/UnitNetwork.h"
+
+#include <poll.h>
+#include <sys/signalfd.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <iostream>
+#include <system_error>
+
+namespace kx::simulator {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+// At most about 50 MB of frames wait; 10,000 units can be 20 answers behind.
+constexpr std::size_t kMostDelayedFrames = 200'000;
+
+// A descriptor that is readable once the process has been asked to end.
+class EndRequest {
+public:
+    EndRequest() {
+        sigset_t signals;
+        ::sigemptyset(&signals);
+        ::sigaddset(&signals, SIGINT);
+        ::sigaddset(&signals, SIGTERM);
+        ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+        _descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC);
+        if (_descriptor < 0)
+            throw std::system_error(errno, std::generic_category(), "watch for signals");
+    }
+    ~EndRequest() { ::close(_descriptor); }
+    EndRequest(const EndRequest&) = delete;
+    EndRequest& operator=(const EndRequest&) = delete;
+
+    int descriptor() const { return _descriptor; }
+
+private:
+    int _descriptor = -1;
+};
+
+std::vector<SimulatedUnit> unitsOf(const CommandLine& line) {
+    std::vector<SimulatedUnit> units;
+    units.reserve(line.count);
+    for (unsigned number = line.first; number < line.first + line.count; ++number)
+        units.emplace_back(factorySettings(number, line.network));
+    return units;
+}
+
+class UnitLoop {
+public:
+    UnitLoop(const CommandLine& line, CommandRecord& record)
+        : _record(record)
+        , _link(line.link)
+        , _network(unitsOf(line), line.faults,
+                   [&record](const SimulatedUnit& unit, const Datagram& datagram) {
+                       record.addCommand(unit, datagram);
+                   })
+        , _flood(line.floodPerSecond, Clock::now()) {}
+
+    void run() {
+        while (waitForWork()) {
+            // One frame a turn: what it causes leaves before the next one is read, so that a burst
+            // waits in the socket, which bounds it.
+            if (const auto frame = _link.receive()) {
+                std::vector<OutgoingFrame> answers =
+                    _network.receive(frame->bytes, frame->checksum);
+                // Before the answers leave: who has seen a reply finds its command in the record.
+                _record.flush();
+                dispatch(std::move(answers));
+            }
+            dispatch(_network.unsolicitedReplies(_flood.take(Clock::now())));
+            while (const auto due = _delayed.takeDue(Clock::now()))
+                _link.send(*due);
+        }
+    }
+
+    const UnitNetwork& network() const { return _network; }
+
+private:
+    // False when the end was asked for.
+    bool waitForWork() {
+        pollfd watched[] = {{_end.descriptor(), POLLIN, 0}, {_link.descriptor(), POLLIN, 0}};
+        const std::optional<timespec> longest = timeToNextDue();
+        const int ready =
+            ::ppoll(watched, std::size(watched), longest ? &*longest : nullptr, nullptr);
+        if (ready < 0 && errno != EINTR)
+            throw std::system_error(errno, std::generic_category(), "wait for frames");
+        return watched[0].revents == 0;
+    }
+
+    std::optional<timespec> timeToNextDue() const {
+        std::optional<TimePoint> due = _delayed.nextDue();
+        if (const auto flood = _flood.nextDue())
+            due = due ? std::min(*due, *flood) : *flood;
+        if (!due)
+            return std::nullopt;
+        using std::chrono::nanoseconds;
+        using std::chrono::seconds;
+        const nanoseconds left = std::max(nanoseconds::zero(), nanoseconds(*due - Clock::now()));
+        const seconds whole = std::chrono::floor<seconds>(left);
+        timespec time{};
+        time.tv_sec = static_cast<time_t>(whole.count());
+        time.tv_nsec = static_cast<long>((left - whole).count());
+        return time;
+    }
+
+    void dispatch(std::vector<OutgoingFrame> frames) {
+        const TimePoint now = Clock::now();
+        for (OutgoingFrame& frame : frames) {
+            if (frame.delay == frame.delay.zero())
+                _link.send(frame.bytes);
+            else
+                _delayed.add(now + frame.delay, std::move(frame.bytes));
+        }
+    }
+
+    CommandRecord& _record;
+    EndRequest _end;
+    PacketLink _link;
+    UnitNetwork _network;
+    Pace _flood;
+    DelayedFrames _delayed{kMostDelayedFrames};
+};
+
+void play(const CommandLine& line, CommandRecord& record) {
+    UnitLoop loop(line, record);
+    std::cout << "ready: " << line.count << " units on " << line.link << std::endl;
+    loop.run();
+    for (const SimulatedUnit& unit : loop.network().units())
+        record.addFinalState(unit);
+    record.flush();
+}
+
+} // namespace
+
+void playUnits(const CommandLine& line) {
+    if (line.recordPath) {
+        CommandRecord record(*line.recordPath);
+        play(line, record);
+    } else {
+        CommandRecord record;
+        play(line, record);
+    }
+}
+
+} // namespace kx::simulator

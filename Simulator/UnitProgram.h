@@ -1,0 +1,14 @@
+// The loop of kxunits: frames from the link to the units, and theirs back when their time has come.
+
+#pragma once
+
+#include "Simulator/CommandLine.h"
+
+namespace kx::simulator {
+
+// Plays the units that `line` describes until SIGINT or SIGTERM, then writes their final states.
+// Blocks these signals for the process. Throws std::system_error when the link or the record cannot
+// be used.
+void playUnits(const CommandLine& line);
+
+} // namespace kx::simulator

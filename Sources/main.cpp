@@ -1,0 +1,49 @@
+// KXConfig: wires the core to the platform and runs it.
+
+#include "KXConfigAppDelegate.h"
+#include "platform/posix/SyslogSystemLog.h"
+#include "platform/posix/SystemWallClock.h"
+#include "platform/posix/ThreadHostResolver.h"
+#include "platform/qt/MainWindow.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/QtLocalizedText.h"
+#include "platform/qt/QtRunLoop.h"
+
+#include <QApplication>
+
+int main(int argc, char* argv[]) {
+    QApplication qtApplication(argc, argv);
+    QApplication::setApplicationName("KXConfig");
+
+    kx::SyslogSystemLog systemLog("kxconfig");
+    kx::installSystemLog(&systemLog);
+    const kx::QtLocalizedText localizedText;
+    kx::installLocalizedText(&localizedText);
+
+    kx::QtRunLoop runLoop;
+    kx::ThreadHostResolver hostResolver(runLoop);
+    kx::DatagramSystemCalls systemCalls;
+    const kx::SystemWallClock wallClock;
+    kx::QtApplication application;
+
+    kx::MainWindow window;
+    kx::KXConfigAppDelegate controller(window.outlets(), {.runLoop = runLoop,
+                                                          .hostResolver = hostResolver,
+                                                          .systemCalls = systemCalls,
+                                                          .wallClock = wallClock,
+                                                          .application = application,
+                                                          .networkInterfaces = nullptr});
+    window.connectActions(controller);
+    QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
+        window.disconnectActions();
+        controller.applicationWillTerminate();
+    });
+
+    window.show();
+    controller.applicationDidFinishLaunching();
+    const int result = QApplication::exec();
+
+    kx::installLocalizedText(nullptr);
+    kx::installSystemLog(nullptr);
+    return result;
+}

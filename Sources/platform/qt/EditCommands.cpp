@@ -1,0 +1,56 @@
+#include "platform/qt/EditCommands.h"
+
+#include <QAbstractItemView>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace kx {
+
+namespace {
+
+QString selectedCells(const QAbstractItemView& view) {
+    QStringList texts;
+    for (const QModelIndex& cell : view.selectionModel()->selectedIndexes()) {
+        texts.append(cell.data().toString());
+    }
+    return texts.join('\t');
+}
+
+QString selectedText(QWidget* control) {
+    if (const auto* field = qobject_cast<QLineEdit*>(control)) {
+        return field->selectedText();
+    }
+    if (const auto* view = qobject_cast<QAbstractItemView*>(control)) {
+        return selectedCells(*view);
+    }
+    if (const auto* popUp = qobject_cast<QComboBox*>(control)) {
+        return popUp->currentText();
+    }
+    return {};
+}
+
+} // namespace
+
+void copySelection(QWidget* control) {
+    if (auto* text = qobject_cast<QPlainTextEdit*>(control)) {
+        text->copy();
+        return;
+    }
+    const QString selected = selectedText(control);
+    if (!selected.isEmpty()) {
+        QGuiApplication::clipboard()->setText(selected);
+    }
+}
+
+void selectAll(QWidget* control) {
+    if (auto* field = qobject_cast<QLineEdit*>(control)) {
+        field->selectAll();
+    } else if (auto* text = qobject_cast<QPlainTextEdit*>(control)) {
+        text->selectAll();
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,265 @@
+#include "platform/qt/MainWindow.h"
+
+#include "KXConfigAppDelegate.h"
+#include "KXParameterEntry.h"
+#include "platform/qt/EditCommands.h"
+#include "platform/qt/QtDrawer.h"
+#include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtTableView.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QtTextField.h"
+#include "platform/qt/QtTextView.h"
+#include "platform/qt/QtWindow.h"
+#include "support/TextEncoding.h"
+#include "tables/GXArrayTable.h"
+#include "ui_MainWindow.h"
+
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QScreen>
+
+namespace kx {
+
+namespace {
+
+std::vector<QtTableColumn> parameterColumns(bool valueIsEditable) {
+    return {
+        {{std::string(KXParameterEntry::parameterNameKey)}, MainWindow::tr("Parameter"), false},
+        {{std::string(KXParameterEntry::parameterValueKey)},
+         MainWindow::tr("Value"),
+         valueIsEditable},
+    };
+}
+
+} // namespace
+
+struct MainWindow::Controls {
+    Controls(MainWindow& mainWindow, Ui::MainWindow& ui)
+        : window(mainWindow)
+        , interfacePopUp(*ui.interfacePopUp)
+        , udpPortPopUp(*ui.udpPortPopUp)
+        , unitSelectPopUp(*ui.unitSelectPopUp)
+        , unitIDField(*ui.unitIDField)
+        , unitParameterTableView(*ui.unitParameterTableView, parameterColumns(false))
+        , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
+        , optionCommandPopUp(*ui.optionCommandPopUp)
+        , optionCommandField(*ui.optionCommandField)
+        , eventLogDrawer(*ui.splitter, *ui.eventLogDrawer, *ui.logScrollView)
+        , logTextView(*ui.logTextView) {
+        unitParameterTableView.setDataSource(&unitParameterTable);
+    }
+
+    GXArrayTable unitParameterTable;
+    QtWindow window;
+    QtPopUpButton interfacePopUp;
+    QtPopUpButton udpPortPopUp;
+    QtPopUpButton unitSelectPopUp;
+    QtTextField unitIDField;
+    QtTableView unitParameterTableView;
+    QtTableView editParameterTableView;
+    QtPopUpButton optionCommandPopUp;
+    QtTextField optionCommandField;
+    QtDrawer eventLogDrawer;
+    QtTextView logTextView;
+};
+
+MainWindow::MainWindow(QWidget* parent)
+    : QMainWindow(parent)
+    , _ui(std::make_unique<Ui::MainWindow>()) {
+    _ui->setupUi(this);
+    _controls = std::make_unique<Controls>(*this, *_ui);
+    connectButtons();
+    connectPopUps();
+    connectMenus();
+    connectTables();
+    _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
+    showQuietLine({});
+    keepEmptyStatesReadable();
+    fitToContent();
+}
+
+MainWindow::~MainWindow() = default;
+
+MainWindowOutlets MainWindow::outlets() {
+    MainWindowOutlets outlets;
+    outlets.window = &_controls->window;
+    outlets.interfacePopUp = &_controls->interfacePopUp;
+    outlets.udpPortPopUp = &_controls->udpPortPopUp;
+    outlets.unitSelectPopUp = &_controls->unitSelectPopUp;
+    outlets.unitIDField = &_controls->unitIDField;
+    outlets.unitParameterTableView = &_controls->unitParameterTableView;
+    outlets.unitParameterTable = &_controls->unitParameterTable;
+    outlets.editParameterTableView = &_controls->editParameterTableView;
+    outlets.optionCommandPopUp = &_controls->optionCommandPopUp;
+    outlets.optionCommandField = &_controls->optionCommandField;
+    outlets.eventLogDrawer = &_controls->eventLogDrawer;
+    outlets.logTextView = &_controls->logTextView;
+    return outlets;
+}
+
+void MainWindow::connectActions(KXConfigAppDelegate& controller) {
+    _controller = &controller;
+    _controls->editParameterTableView.setDataSource(&controller);
+}
+
+void MainWindow::disconnectActions() {
+    _controller = nullptr;
+    _controls->editParameterTableView.setDataSource(nullptr);
+}
+
+bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
+    // Scrolling the content must not choose another unit or port on the way.
+    const auto* popUp = qobject_cast<QComboBox*>(watched);
+    if (popUp != nullptr && event->type() == QEvent::Wheel && !popUp->hasFocus()) {
+        event->ignore();
+        return true;
+    }
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void MainWindow::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        keepEmptyStatesReadable();
+    }
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+    event->accept();
+    perform(&KXConfigAppDelegate::windowWillClose);
+}
+
+// Return presses the button that has the keyboard, sends the command being typed, and otherwise
+// presses the default button. Qt does so by itself in dialogues only.
+void MainWindow::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (!isReturn || !isPlain) {
+        QMainWindow::keyPressEvent(event);
+        return;
+    }
+    QAbstractButton* button = qobject_cast<QAbstractButton*>(focusWidget());
+    if (focusWidget() == _ui->optionCommandField) {
+        button = _ui->sendOptionButton;
+    }
+    (button != nullptr ? button : _ui->discoverButton)->click();
+}
+
+void MainWindow::connectButtons() {
+    const auto connectButton = [this](QPushButton* button, Action action) {
+        connect(button, &QPushButton::clicked, this, [this, action] { perform(action); });
+    };
+    connectButton(_ui->discoverButton, &KXConfigAppDelegate::discoverButton);
+    connectButton(_ui->reloadButton, &KXConfigAppDelegate::reloadUnitParameterButton);
+    connectButton(_ui->restoreButton, &KXConfigAppDelegate::restoreDefaultSettings);
+    connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
+    connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
+    connect(_ui->sendOptionButton, &QPushButton::clicked, this, [this] { sendOption(); });
+}
+
+void MainWindow::connectPopUps() {
+    // activated() is what the user does; a selection made by code does not emit it.
+    const auto connectPopUp = [this](QComboBox* popUp, Action action) {
+        connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
+        popUp->setFocusPolicy(Qt::StrongFocus);
+        popUp->installEventFilter(this);
+    };
+    connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
+    connectPopUp(_ui->udpPortPopUp, &KXConfigAppDelegate::udpPortSelect);
+    connectPopUp(_ui->unitSelectPopUp, &KXConfigAppDelegate::unitSelectPopUp);
+    connectPopUp(_ui->optionCommandPopUp, &KXConfigAppDelegate::optionCommandPopUp);
+}
+
+void MainWindow::connectMenus() {
+    const auto connectToButton = [this](QAction* action, QPushButton* button) {
+        connect(action, &QAction::triggered, button, &QPushButton::click);
+    };
+    connectToButton(_ui->discoverAction, _ui->discoverButton);
+    connectToButton(_ui->reloadAction, _ui->reloadButton);
+    connectToButton(_ui->applyAction, _ui->applyButton);
+    connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
+    connectToButton(_ui->restoreAction, _ui->restoreButton);
+    connectToButton(_ui->helpAction, _ui->helpButton);
+    connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
+        perform(&KXConfigAppDelegate::logDrawerButton);
+        drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
+    });
+    connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
+    connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
+    connect(_ui->selectAllAction, &QAction::triggered, this, [this] { selectAll(focusWidget()); });
+}
+
+void MainWindow::connectTables() {
+    ParameterTableView* parameters = _ui->unitParameterTableView;
+    ParameterTableView* editRow = _ui->editParameterTableView;
+    editRow->setSelectionMode(QAbstractItemView::NoSelection);
+    _controls->unitParameterTableView.setSelectionAction(
+        [this] { perform(&KXConfigAppDelegate::tableViewSelectionDidChange); });
+    connect(parameters, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
+    connect(editRow, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
+
+    // The two tables read as one: their columns stay in line.
+    connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
+            [editRow](int section, int, int width) {
+                if (section == 0) {
+                    editRow->setColumnWidth(0, width);
+                }
+            });
+    const QString widest = QStringLiteral("destination Port number");
+    const int padding = 3 * fontMetrics().averageCharWidth();
+    parameters->setColumnWidth(0, fontMetrics().horizontalAdvance(widest) + padding);
+}
+
+// The scroll area around the content would otherwise ask for a small part of it only.
+void MainWindow::fitToContent() {
+    _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
+    const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
+    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+}
+
+// What an empty or disabled pop-up says is a message, not a faded choice.
+void MainWindow::keepEmptyStatesReadable() {
+    QColor dimmed = palette().color(QPalette::Active, QPalette::ButtonText);
+    dimmed.setAlphaF(0.65F);
+    for (QComboBox* popUp : {_ui->interfacePopUp, _ui->unitSelectPopUp}) {
+        QPalette readable;
+        readable.setColor(QPalette::Disabled, QPalette::ButtonText, dimmed);
+        readable.setColor(QPalette::Disabled, QPalette::Text, dimmed);
+        readable.setColor(QPalette::PlaceholderText, dimmed);
+        popUp->setPalette(readable);
+    }
+}
+
+void MainWindow::perform(Action action) {
+    if (_controller != nullptr) {
+        showQuietLine({});
+        (_controller->*action)();
+    }
+}
+
+void MainWindow::sendOption() {
+    if (_controller == nullptr || _controller->sendOptionButton()) {
+        showQuietLine({});
+    } else if (!_controller->selectedUnit().has_value()) {
+        showQuietLine(tr("Not sent: no unit is selected."));
+    } else if (!asciiBytes(utf8Text(_ui->optionCommandField->text())).has_value()) {
+        showQuietLine(tr("Not sent: a command can hold ASCII characters only."));
+    } else {
+        showQuietLine(tr("Not sent: the address of the unit is not known."));
+    }
+}
+
+void MainWindow::showQuietLine(const QString& text) {
+    _ui->quietLine->setText(text);
+    _ui->quietLine->setVisible(!text.isEmpty());
+}
+
+void MainWindow::drawerDidChange(DrawerState state) {
+    const bool isOut = state == DrawerState::opening || state == DrawerState::open;
+    _ui->eventLogAction->setChecked(isOut);
+    if (!isOut && _ui->logTextView->hasFocus()) {
+        _ui->logDrawerButton->setFocus();
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,148 @@
+#include "platform/qt/ParameterTableView.h"
+
+#include <QEvent>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QPainter>
+
+namespace kx {
+
+namespace {
+
+// Wide enough for the longest name and a text of four address widths beside it.
+constexpr int preferredCharacters = 72;
+
+} // namespace
+
+ParameterTableView::ParameterTableView(QWidget* parent)
+    : QTableView(parent) {
+    setShowGrid(false);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setCornerButtonEnabled(false);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    verticalHeader()->hide();
+    horizontalHeader()->setStretchLastSection(true);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setSectionsClickable(false);
+    fitRowsToFont();
+    connect(this, &QAbstractItemView::doubleClicked, this, &ParameterTableView::rowChosen);
+}
+
+void ParameterTableView::setPreferredRows(int rows) {
+    _preferredRows = rows;
+    updateGeometry();
+}
+
+void ParameterTableView::setMinimumRows(int rows) {
+    _minimumRows = rows;
+    updateGeometry();
+}
+
+void ParameterTableView::setPlaceholderText(const QString& text) {
+    _placeholderText = text;
+    viewport()->update();
+}
+
+void ParameterTableView::setModel(QAbstractItemModel* model) {
+    QTableView::setModel(model);
+    updateGeometry(); // the header's height depends on the model's titles
+}
+
+void ParameterTableView::beginTyping() {
+    const QModelIndex cell = firstEditableCell();
+    if (cell.isValid()) {
+        setFocus();
+        setCurrentIndex(cell);
+        edit(cell);
+    }
+}
+
+bool ParameterTableView::showsPlaceholder() const {
+    if (model() == nullptr || state() == EditingState) {
+        return false;
+    }
+    for (int row = 0; row < model()->rowCount(); ++row) {
+        for (int column = 0; column < model()->columnCount(); ++column) {
+            if (!model()->index(row, column).data().toString().isEmpty()) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+QSize ParameterTableView::sizeHint() const {
+    return {preferredCharacters * fontMetrics().averageCharWidth(), heightForRows(_preferredRows)};
+}
+
+QSize ParameterTableView::minimumSizeHint() const {
+    return {QTableView::minimumSizeHint().width(), heightForRows(_minimumRows)};
+}
+
+void ParameterTableView::changeEvent(QEvent* event) {
+    QTableView::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
+        fitRowsToFont();
+        updateGeometry();
+    }
+}
+
+void ParameterTableView::focusInEvent(QFocusEvent* event) {
+    // Whoever comes by keyboard wants the cell that takes their typing, not the one beside it.
+    const QModelIndex cell = firstEditableCell();
+    if (cell.isValid()) {
+        setCurrentIndex(cell);
+    }
+    QTableView::focusInEvent(event);
+}
+
+void ParameterTableView::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isReturn && event->modifiers().testFlag(Qt::ControlModifier)) {
+        event->ignore();
+    } else if (isReturn && currentIndex().isValid()) {
+        emit rowChosen();
+    } else {
+        QTableView::keyPressEvent(event);
+    }
+}
+
+void ParameterTableView::paintEvent(QPaintEvent* event) {
+    QTableView::paintEvent(event);
+    if (!showsPlaceholder()) {
+        return;
+    }
+    QColor dimmed = palette().color(QPalette::Text);
+    dimmed.setAlphaF(0.6F);
+    QPainter painter(viewport());
+    painter.setPen(dimmed);
+    const int margin = fontMetrics().averageCharWidth();
+    painter.drawText(viewport()->rect().adjusted(margin, 0, -margin, 0),
+                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, _placeholderText);
+}
+
+QModelIndex ParameterTableView::firstEditableCell() const {
+    if (model() != nullptr && model()->rowCount() > 0) {
+        for (int column = 0; column < model()->columnCount(); ++column) {
+            const QModelIndex cell = model()->index(0, column);
+            if (cell.flags().testFlag(Qt::ItemIsEditable)) {
+                return cell;
+            }
+        }
+    }
+    return {};
+}
+
+int ParameterTableView::heightForRows(int rows) const {
+    const int header = horizontalHeader()->isHidden() ? 0 : horizontalHeader()->sizeHint().height();
+    return header + rows * verticalHeader()->defaultSectionSize() + 2 * frameWidth();
+}
+
+void ParameterTableView::fitRowsToFont() {
+    const int padding = fontMetrics().height() / 2;
+    verticalHeader()->setMinimumSectionSize(fontMetrics().height());
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + padding);
+}
+
+} // namespace kx

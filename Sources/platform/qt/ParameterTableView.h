@@ -1,0 +1,61 @@
+// A table of parameters as the main window shows it: rows of name and value, sized in rows.
+//
+// Shows a short text in place of the cells while there is nothing in them. Tab leaves the table;
+// Return and a double click choose a row (a table of text alone has no other use for them, and
+// the window's default button must not be pressed from inside a table).
+
+#pragma once
+
+#include <QTableView>
+
+namespace kx {
+
+class ParameterTableView final : public QTableView {
+    Q_OBJECT
+    Q_PROPERTY(int preferredRows READ preferredRows WRITE setPreferredRows)
+    Q_PROPERTY(int minimumRows READ minimumRows WRITE setMinimumRows)
+    Q_PROPERTY(QString placeholderText READ placeholderText WRITE setPlaceholderText)
+
+public:
+    explicit ParameterTableView(QWidget* parent = nullptr);
+
+    // The rows that the table wants to show, and the fewest that it is worth showing with.
+    int preferredRows() const { return _preferredRows; }
+    void setPreferredRows(int rows);
+    int minimumRows() const { return _minimumRows; }
+    void setMinimumRows(int rows);
+
+    QString placeholderText() const { return _placeholderText; }
+    void setPlaceholderText(const QString& text);
+
+    // Opens the editor of the first editable cell and gives it the keyboard. Does nothing when no
+    // cell can be edited.
+    void beginTyping();
+
+    // Whether the placeholder is shown: no cell holds a text and none is being edited.
+    bool showsPlaceholder() const;
+
+    void setModel(QAbstractItemModel* model) override;
+    QSize sizeHint() const override;
+    QSize minimumSizeHint() const override;
+
+signals:
+    void rowChosen();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    QModelIndex firstEditableCell() const;
+    int heightForRows(int rows) const;
+    void fitRowsToFont();
+
+    int _preferredRows = 8;
+    int _minimumRows = 4;
+    QString _placeholderText;
+};
+
+} // namespace kx

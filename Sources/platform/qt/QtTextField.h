@@ -1,0 +1,23 @@
+// A text field over a line edit. The line edit must outlive it.
+
+#pragma once
+
+#include "Outlets.h"
+
+#include <QLineEdit>
+
+namespace kx {
+
+class QtTextField final : public TextField {
+public:
+    explicit QtTextField(QLineEdit& lineEdit)
+        : _lineEdit(lineEdit) {}
+
+    void setStringValue(std::string_view text) override;
+    std::string stringValue() const override;
+
+private:
+    QLineEdit& _lineEdit;
+};
+
+} // namespace kx

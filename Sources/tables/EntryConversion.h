@@ -1,0 +1,40 @@
+// What the tables share: entries as plain dictionaries, and entries as property-list values for
+// coding.
+//
+// A null entry is a hole. Main thread only, like the tables.
+
+#pragma once
+
+#include "tables/GXStateEntry.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace kx {
+
+// Adds the entry under its own key. A hole and an entry without a key are left out.
+void addEntryUnderItsKey(EntryDictionary& dictionary, const std::shared_ptr<GXStateEntry>& entry);
+
+// The entries' dictionaries under the same keys as the entries.
+DictionaryOfDictionaries dictionariesOfEntries(const EntryDictionary& entries);
+
+// The entries that the class makes of the dictionaries, in order, without what it refuses.
+EntryArray entriesOfDictionaries(const DictionaryArray& dictionaries, const EntryClass& entryClass);
+EntryArray entriesOfDictionaries(const DictionaryOfDictionaries& dictionaries,
+                                 const EntryClass& entryClass);
+
+// The fields of an entry that is not a hole, as a value.
+PropertyListValue codedEntry(const GXStateEntry& entry);
+
+// The entry that the class makes of a value that codedEntry() made; null when it is no such value
+// or the class refuses it.
+std::shared_ptr<GXStateEntry> decodedEntry(const PropertyListValue& value,
+                                           const EntryClass& entryClass);
+
+// The cell of a table view for an entry: its value for the column's identifier, absent for a hole.
+// Throws what the entry throws.
+std::optional<PropertyListValue> cellValue(const std::shared_ptr<GXStateEntry>& entry,
+                                           std::string_view identifier);
+
+} // namespace kx

@@ -1,0 +1,302 @@
+#include "CommandProtocol.h"
+
+#include "UnitReplies.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+std::string edit(UnitParameter parameter, std::string_view typed) {
+    return editCommand(parameter, typed).value_or("(no command)");
+}
+
+std::string identity(const Bytes& data) {
+    return unitIDforData(data).value_or("(no text)");
+}
+
+std::tm localTime(int month, int day, int hour, int minute) {
+    std::tm time{};
+    time.tm_mon = month - 1;
+    time.tm_mday = day;
+    time.tm_hour = hour;
+    time.tm_min = minute;
+    return time;
+}
+
+std::string textOf(ByteView bytes) {
+    return {bytes.begin(), bytes.end()};
+}
+
+} // namespace
+
+TEST(CommandProtocol, DefaultPortIsHexadecimal0DC0) {
+    EXPECT_EQ(defaultUnitPort, 0x0DC0);
+}
+
+TEST(CommandProtocol, RequestsHaveNoArgument) {
+    EXPECT_EQ(parameterRequestCommand, "^^IdX");
+    EXPECT_EQ(restoreCommand, "^^IdZ");
+}
+
+TEST(EditCommand, DestinationPortWithinItsRangeIsSent) {
+    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3520"), "^^IdT0DC0");
+    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3521"), "^^IdT0DC1");
+    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3523"), "^^IdT0DC3");
+}
+
+TEST(EditCommand, DestinationPortOutsideItsRangeBecomes3520) {
+    for (const char* typed : {"3524", "3519", "80", "-1", "70000", "port", "-3521"}) {
+        EXPECT_EQ(edit(UnitParameter::destinationPortNumber, typed), "^^IdT0DC0") << typed;
+    }
+}
+
+TEST(EditCommand, DevicePortIsNotChecked) {
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "80"), "^^IdP0050");
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "10001"), "^^IdP2711");
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "70000"), "^^IdP11170");
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "-1"), "^^IdPFFFFFFFF");
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "port"), "^^IdP0000");
+}
+
+TEST(EditCommand, NumbersAreReadAsFarAsTheirDigitsGo) {
+    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, " 3521 or so"), "^^IdT0DC1");
+    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "99999999999"), "^^IdP7FFFFFFF");
+}
+
+TEST(EditCommand, UnitIDThatBeginsWithADigitIsANumberOfTwelveDigits) {
+    EXPECT_EQ(edit(UnitParameter::unitID, "12"), "^^IdU00000000000C");
+    EXPECT_EQ(edit(UnitParameter::unitID, "7"), "^^IdU000000000007");
+    EXPECT_EQ(edit(UnitParameter::unitID, "7AB"), "^^IdU000000000007");
+    EXPECT_EQ(edit(UnitParameter::unitID, "0"), "^^IdU000000000000");
+    EXPECT_EQ(edit(UnitParameter::unitID, "99999999999"), "^^IdU00007FFFFFFF");
+}
+
+TEST(EditCommand, AnyOtherUnitIDIsItsBytesHoweverManyThereAre) {
+    EXPECT_EQ(edit(UnitParameter::unitID, "AB"), "^^IdU4142");
+    EXPECT_EQ(edit(UnitParameter::unitID, "seventh"), "^^IdU736576656E7468");
+    EXPECT_EQ(edit(UnitParameter::unitID, "\xC3\x84"), "^^IdUC384");
+    EXPECT_EQ(edit(UnitParameter::unitID, "-1"), "^^IdU2D31");
+    EXPECT_EQ(edit(UnitParameter::unitID, " 5"), "^^IdU2035");
+}
+
+TEST(EditCommand, UnitIDThatIsNotUTF8GivesNoCommand) {
+    EXPECT_EQ(editCommand(UnitParameter::unitID, "\xFFunit"), std::nullopt);
+    EXPECT_EQ(editCommand(UnitParameter::unitID, "5\xFF"), std::nullopt);
+}
+
+TEST(EditCommand, SerialNumberLosesItsBlanksWhereverTheyStand) {
+    EXPECT_EQ(edit(UnitParameter::serialNumber, "00 1A 2B 3C 4D 5E"), "^^IdS001A2B3C4D5E");
+    EXPECT_EQ(edit(UnitParameter::serialNumber, " 0  0\t:x "), "^^IdS00\t:x");
+}
+
+TEST(EditCommand, MACAddressesLoseTheirColonsAndKeepTheirCase) {
+    EXPECT_EQ(edit(UnitParameter::internalMACAddress, "00:1a:2B:3c:4D:5e"), "^^IdM001a2B3c4D5e");
+    EXPECT_EQ(edit(UnitParameter::internalMACAddress, "001A2B3C4D5E"), "^^IdM001A2B3C4D5E");
+    EXPECT_EQ(edit(UnitParameter::destinationMACAddress, "00:0A:0B:0C:0D:0E"), "^^IdC000A0B0C0D0E");
+    EXPECT_EQ(edit(UnitParameter::destinationMACAddress, "::no mac"), "^^IdCno mac");
+}
+
+TEST(EditCommand, AddressesAreEightDigitsFirstOctetFirst) {
+    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "192.168.1.10"), "^^IdIC0A8010A");
+    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "10.0.0.7"), "^^IdI0A000007");
+    EXPECT_EQ(edit(UnitParameter::destinationIPAddress, "192.168.1.20"), "^^IdDC0A80114");
+}
+
+TEST(EditCommand, AddressThatDoesNotParseIsEightZeros) {
+    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "nowhere"), "^^IdI00000000");
+    EXPECT_EQ(edit(UnitParameter::destinationIPAddress, "1.2.3"), "^^IdD00000000");
+}
+
+TEST(OptionCommand, WrapsTheWholeTextAndEndsWithACarriageReturn) {
+    EXPECT_EQ(optionCommand("V"), "^^IdV\r");
+    EXPECT_EQ(optionCommand("V").size(), 6U);
+    EXPECT_EQ(optionCommand(""), "^^Id\r");
+    EXPECT_EQ(optionCommand(" a  b "), "^^Id a  b \r");
+}
+
+TEST(OptionTitle, IsCutBeforeItsFirstTwoBlanks) {
+    EXPECT_EQ(optionTextForTitle("V  Version", localTime(3, 5, 14, 7)), "V");
+    EXPECT_EQ(optionTextForTitle("A B   C  D", localTime(3, 5, 14, 7)), "A B");
+    EXPECT_EQ(optionTextForTitle("  described only", localTime(3, 5, 14, 7)), "");
+}
+
+TEST(OptionTitle, WithoutTwoBlanksIsUsedWhole) {
+    EXPECT_EQ(optionTextForTitle("Q status", localTime(3, 5, 14, 7)), "Q status");
+    EXPECT_EQ(optionTextForTitle("", localTime(3, 5, 14, 7)), "");
+}
+
+TEST(OptionTitle, ClockOptionBecomesTheDateInEightDigits) {
+    EXPECT_EQ(optionTextForTitle("-Z  Set clock", localTime(11, 15, 23, 47)), "-Z11152347");
+    EXPECT_EQ(optionTextForTitle("-Z  Set clock", localTime(3, 5, 14, 7)), "-Z03051407");
+    EXPECT_EQ(optionTextForTitle("-Z", localTime(1, 1, 0, 0)), "-Z01010000");
+}
+
+TEST(OptionTitle, ClockOptionLosesWhatFollowsIt) {
+    EXPECT_EQ(optionTextForTitle("-Zebra x", localTime(12, 31, 23, 59)), "-Z12312359");
+}
+
+TEST(OptionTitle, OnlyTheBeginningMakesAClockOption) {
+    EXPECT_EQ(optionTextForTitle("V -Z", localTime(3, 5, 14, 7)), "V -Z");
+    EXPECT_EQ(optionTextForTitle("-z", localTime(3, 5, 14, 7)), "-z");
+}
+
+TEST(UnitPort, IsTheDefaultWithoutAText) {
+    EXPECT_EQ(unitPortForText(std::nullopt), 3520);
+    EXPECT_EQ(unitPortForText(""), 3520);
+}
+
+TEST(UnitPort, IsTheNumberCutTo16Bits) {
+    EXPECT_EQ(unitPortForText("3521"), 3521);
+    EXPECT_EQ(unitPortForText("70000"), 4464);
+    EXPECT_EQ(unitPortForText("-1"), 65535);
+    EXPECT_EQ(unitPortForText("none"), 0);
+}
+
+TEST(UnitIDText, IsTheLastByteWhenTheOthersAreZero) {
+    EXPECT_EQ(identity({0, 0, 0, 0, 0, 7}), "7");
+    EXPECT_EQ(identity({0, 0, 0, 0, 0, 0}), "0");
+    EXPECT_EQ(identity({0, 0, 0, 0, 0, 255}), "255");
+}
+
+TEST(UnitIDText, KeepsZeroBytesOfAText) {
+    EXPECT_EQ(identity({'A', 'B', 'C', 0, 0, 0}), std::string("ABC\0\0\0", 6));
+    EXPECT_EQ(identity({0, 0, 0, 0, 'A', 0}), std::string("\0\0\0\0A\0", 6));
+}
+
+TEST(UnitIDText, ReadsUTF8AndNothingElse) {
+    EXPECT_EQ(identity({'n', 0xC3, 0xA4, 'h', 'e', 'r'}), "n\xC3\xA4her");
+    EXPECT_EQ(unitIDforData(Bytes{0xFF, 'B', 'C', 'D', 'E', 'F'}), std::nullopt);
+    EXPECT_EQ(unitIDforData(Bytes{'A', 'B', 'C', 'D', 'E', 0xC3}), std::nullopt);
+}
+
+TEST(UnitIDText, NeedsSixBytes) {
+    EXPECT_THROW(unitIDforData(Bytes{0, 0, 0, 0, 0}), RangeFailure);
+}
+
+TEST(HexString, JoinsUpperCasePairs) {
+    EXPECT_EQ(hexStringForData(Bytes{0x00, 0x1A, 0xFF}, ":"), "00:1A:FF");
+    EXPECT_EQ(hexStringForData(Bytes{0x0A, 0xB0}, ""), "0AB0");
+    EXPECT_EQ(hexStringForData(Bytes{0x01, 0x02}, ", "), "01, 02");
+    EXPECT_EQ(hexStringForData(Bytes{0x01}, ":"), "01");
+    EXPECT_EQ(hexStringForData(Bytes{}, ":"), "");
+}
+
+TEST(SerialNumberText, HasABlankBetweenBytes) {
+    EXPECT_EQ(serialNumberText(Bytes{0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E}), "00 1A 2B 3C 4D 5E");
+}
+
+TEST(DataSubrangeText, IsAbsentBeyondTheEnd) {
+    const Bytes data = textBytes("abcde");
+    EXPECT_EQ(stringForDataSubrange(data, 3, 2), "de");
+    EXPECT_EQ(stringForDataSubrange(data, 4, 2), std::nullopt);
+}
+
+TEST(PacketKind, FourBytesAreTooShortWhateverTheyHold) {
+    EXPECT_EQ(packetKindOfDatagram(Bytes{}), PacketKind::tooShort);
+    EXPECT_EQ(packetKindOfDatagram(textBytes("^^<U")), PacketKind::tooShort);
+    EXPECT_EQ(packetKindOfDatagram(textBytes("abcd")), PacketKind::tooShort);
+}
+
+TEST(PacketKind, OnlyTheFirstByteMakesAReply) {
+    EXPECT_EQ(packetKindOfDatagram(textBytes("^^<X>")), PacketKind::reply);
+    EXPECT_EQ(packetKindOfDatagram(textBytes("^?<X>")), PacketKind::reply);
+    EXPECT_EQ(packetKindOfDatagram(textBytes("?^<X>")), PacketKind::unknown);
+}
+
+TEST(ReplyHeader, GivesTagUnitIDAndSerialNumber) {
+    const Bytes datagram = SampleUnit().reply();
+    const Reply reply = replyFromDatagram(datagram);
+    EXPECT_EQ(reply.tag, "<U>");
+    EXPECT_EQ(reply.unitID, "42");
+    EXPECT_EQ(reply.serialNumber, "01 02 03 04 05 06");
+    EXPECT_EQ(reply.payloadKind, PayloadKind::parameterList);
+    EXPECT_EQ(textOf(reply.payload), textOf(SampleUnit().parameterList()));
+}
+
+TEST(ReplyHeader, OfFiveBytesHasOnlyATag) {
+    const Bytes datagram = textBytes("^^<X>");
+    const Reply reply = replyFromDatagram(datagram);
+    EXPECT_EQ(reply.tag, "<X>");
+    EXPECT_EQ(reply.unitID, std::nullopt);
+    EXPECT_EQ(reply.serialNumber, std::nullopt);
+    EXPECT_EQ(reply.payloadKind, PayloadKind::none);
+}
+
+TEST(ReplyHeader, UnitIDCutShortIsARangeFailure) {
+    const Bytes whole = textBytes("^^<U>ABCDEF");
+    for (std::size_t length = 5; length < whole.size(); ++length) {
+        EXPECT_THROW(replyFromDatagram(ByteView(whole).first(length)), RangeFailure) << length;
+    }
+    EXPECT_EQ(replyFromDatagram(whole).unitID, "ABCDEF");
+}
+
+TEST(ReplyHeader, SerialNumberCutShortIsARangeFailureUnderEveryTag) {
+    for (const char* tag : {"<U>", "<X>"}) {
+        const Bytes whole = joined(
+            {textBytes("^^"), item(tag, textBytes("ABCDEF")), item("<S>", {1, 2, 3, 4, 5, 6})});
+        for (std::size_t length = 14; length < whole.size(); ++length) {
+            EXPECT_THROW(replyFromDatagram(ByteView(whole).first(length)), RangeFailure) << length;
+        }
+        EXPECT_EQ(replyFromDatagram(whole).serialNumber, "01 02 03 04 05 06");
+    }
+}
+
+TEST(ReplyHeader, SerialTagCutShortIsNoSerialNumber) {
+    for (std::size_t length = 11; length < 14; ++length) {
+        const Bytes whole = textBytes("^^<U>ABCDEF<S>");
+        const Reply reply = replyFromDatagram(ByteView(whole).first(length));
+        EXPECT_EQ(reply.unitID, "ABCDEF");
+        EXPECT_EQ(reply.serialNumber, std::nullopt);
+    }
+}
+
+TEST(ReplyHeader, UnitIDIsReadOnlyUnderItsTag) {
+    for (const char* tag : {"<u>", "<X>", " U>"}) {
+        const Bytes datagram = joined({textBytes("^^"), item(tag, textBytes("ABCDEF"))});
+        EXPECT_EQ(replyFromDatagram(datagram).unitID, std::nullopt) << tag;
+    }
+}
+
+TEST(ReplyHeader, TagThatIsNotUTF8IsAbsent) {
+    const Bytes datagram = joined({textBytes("^^"), {0xFF, 'U', '>'}});
+    EXPECT_EQ(replyFromDatagram(datagram).tag, std::nullopt);
+}
+
+TEST(ReplyPayload, CountsOnlyBehindItsMarker) {
+    Bytes datagram = SampleUnit().reply();
+    datagram[20] = '#';
+    EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::none);
+}
+
+TEST(ReplyPayload, AcknowledgementHasAFreeThirdByte) {
+    for (const char* payload : {"ok\r", "ok!", "okay"}) {
+        const Bytes datagram = joined({SampleUnit().header(), textBytes(payload)});
+        EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::acknowledgement);
+    }
+}
+
+TEST(ReplyPayload, AcknowledgementIsLowerCaseAndThreeBytesOfText) {
+    for (const Bytes& payload :
+         {textBytes("ok"), textBytes("OK\r"), textBytes(" ok"), Bytes{'o', 'k', 0xFF}}) {
+        const Bytes datagram = joined({SampleUnit().header(), payload});
+        EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::other);
+    }
+}
+
+TEST(ReplyPayload, AnythingElseIsTakenFromItsMarkerOn) {
+    const Bytes datagram = joined({SampleUnit().header(), textBytes("hello")});
+    const Reply reply = replyFromDatagram(datagram);
+    EXPECT_EQ(reply.payloadKind, PayloadKind::other);
+    EXPECT_EQ(textOf(reply.payload), "$hello");
+}
+
+TEST(ReplyPayload, MayBeTheMarkerAlone) {
+    const Bytes datagram = SampleUnit().header();
+    const Reply reply = replyFromDatagram(datagram);
+    EXPECT_EQ(reply.payloadKind, PayloadKind::other);
+    EXPECT_EQ(textOf(reply.payload), "$");
+}
+
+} // namespace kx

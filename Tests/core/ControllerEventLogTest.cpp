@@ -1,0 +1,138 @@
+// The event log and its drawer.
+
+#include "ControllerFixture.h"
+#include "support/LocalizedText.h"
+
+namespace kx {
+
+namespace {
+
+class ControllerEventLog : public ControllerTest {
+protected:
+    ControllerEventLog() {
+        launch();
+        window.eventLogDrawer.setState(DrawerState::closed);
+    }
+};
+
+// Every text in capitals, so that an untranslated one stands out.
+class ShoutedText final : public LocalizedText {
+public:
+    ShoutedText()
+        : _previous(installLocalizedText(this)) {}
+    ~ShoutedText() override { installLocalizedText(_previous); }
+    ShoutedText(const ShoutedText&) = delete;
+    ShoutedText& operator=(const ShoutedText&) = delete;
+
+    std::string textForKey(std::string_view key) const override {
+        std::string text(key);
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            const bool isPlaceholder = i > 0 && text[i - 1] == '%';
+            if (!isPlaceholder && text[i] >= 'a' && text[i] <= 'z') {
+                text[i] = static_cast<char>(text[i] - 'a' + 'A');
+            }
+        }
+        return text;
+    }
+
+private:
+    const LocalizedText* _previous;
+};
+
+} // namespace
+
+TEST_F(ControllerEventLog, ClosedDrawerKeepsTextFromTheView) {
+    window.logTextView.setString("");
+    controller.appendString("\nquiet");
+    EXPECT_EQ(window.logTextView.text(), "");
+    EXPECT_EQ(log().back(), "quiet");
+    EXPECT_EQ(window.logTextView.scrollCount(), 0);
+}
+
+TEST_F(ControllerEventLog, OpeningTheDrawerShowsTheWholeLogAtOnce) {
+    controller.appendString("\nquiet");
+    controller.logDrawerButton();
+    EXPECT_EQ(window.eventLogDrawer.state(), DrawerState::opening);
+    EXPECT_EQ(window.logTextView.text(), controller.eventLog());
+    EXPECT_EQ(log().back(), "quiet");
+}
+
+TEST_F(ControllerEventLog, TextReachesTheViewInEveryStateButClosed) {
+    for (const DrawerState state :
+         {DrawerState::opening, DrawerState::open, DrawerState::closing}) {
+        window.eventLogDrawer.setState(state);
+        window.logTextView.setString("");
+        const int inserted = window.logTextView.insertCount();
+        const int scrolled = window.logTextView.scrollCount();
+        controller.appendString("\nshown");
+        EXPECT_EQ(window.logTextView.text(), "\nshown");
+        EXPECT_TRUE(window.logTextView.isEndVisible());
+        EXPECT_EQ(window.logTextView.insertCount(), inserted + 1);
+        EXPECT_EQ(window.logTextView.scrollCount(), scrolled + 1);
+    }
+}
+
+TEST_F(ControllerEventLog, OpenDrawerIsClosed) {
+    window.eventLogDrawer.setState(DrawerState::open);
+    window.logTextView.setString("as it was");
+    controller.logDrawerButton();
+    EXPECT_EQ(window.eventLogDrawer.state(), DrawerState::closing);
+    EXPECT_EQ(window.logTextView.text(), "as it was");
+}
+
+TEST_F(ControllerEventLog, MovingDrawerIsLeftAlone) {
+    for (const DrawerState state : {DrawerState::opening, DrawerState::closing}) {
+        window.eventLogDrawer.setState(state);
+        window.logTextView.setString("as it was");
+        controller.logDrawerButton();
+        EXPECT_EQ(window.eventLogDrawer.state(), state);
+        EXPECT_EQ(window.logTextView.text(), "as it was");
+    }
+}
+
+TEST_F(ControllerEventLog, EveryEntryAfterADiscoverStandsOnItsOwnLine) {
+    controller.discoverButton();
+    controller.appendString("\none");
+    controller.appendString("\n  two");
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Request unit parameters with address: 255.255.255.255",
+                            "UDP server did send data.", "one", "  two"}));
+}
+
+TEST_F(ControllerEventLog, EveryMessageIsLookedUpByItsEnglishText) {
+    const ShoutedText shouted;
+    launch();
+    receive(textBytes("^^<"));
+    receive(textBytes("other"));
+    receive(SampleUnit().acknowledgement());
+    systemCalls.failNext(Operation::sendTo, EACCES);
+    controller.sendCommandToAddress("^^IdX", "10.0.0.7");
+    systemCalls.failNext(Operation::receiveFrom, EACCES);
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    EXPECT_EQ(
+        log(),
+        (Lines{"[BEGIN DISCOVER]", "UDP LISTENER DID START. 0.0.0.0:3520",
+               "REQUEST UNIT PARAMETERS WITH ADDRESS: 255.255.255.255", "UDP SERVER DID SEND DATA.",
+               "UDP LISTENER DID RECEIVE DATA. LENGTH: 3", "IGNORING SHORT PACKET",
+               "UDP LISTENER DID RECEIVE DATA. LENGTH: 5", "IGNORING UNKNOWN PACKET, PREFIX != ^^",
+               "UDP LISTENER DID RECEIVE DATA. LENGTH: 24",
+               "REQUEST UNIT PARAMETERS WITH ADDRESS: 255.255.255.255", "UDP SERVER DID SEND DATA.",
+               "RECEIVED COMMAND: ^^<U> UNIT:42 SERIAL:01 02 03 04 05 06 CIDSTRING:",
+               "SEND TO: 10.0.0.7 COMMAND: ^^IdX", "UDP FAILED TO SEND DATA.",
+               "  " + posixErrorText(EACCES), "UDP DID RECEIVE ERROR.",
+               "  " + posixErrorText(EACCES)}));
+    EXPECT_EQ(window.interfacePopUp.titles(), Titles{"NO CONFIGURED INTERFACES"});
+}
+
+TEST_F(ControllerEventLog, MessagesOfAFailedStartAreLookedUpToo) {
+    const ShoutedText shouted;
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    controller.discoverButton();
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(log(), (Lines{"[BEGIN DISCOVER]", "UDP DID STOP WITH ERROR.",
+                            "  " + posixErrorText(EADDRINUSE),
+                            "REQUEST UNIT PARAMETERS WITH ADDRESS: 255.255.255.255",
+                            "UDP FAILED TO SEND DATA.", "  THE UDP LISTENER IS NOT RUNNING."}));
+}
+
+} // namespace kx

@@ -1,0 +1,142 @@
+// The controller with recorded controls, a scripted network and a manual clock.
+
+#pragma once
+
+#include "KXConfigAppDelegate.h"
+#include "UnitReplies.h"
+#include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
+#include "doubles/FixedWallClock.h"
+#include "doubles/ManualRunLoop.h"
+#include "doubles/RecordedOutlets.h"
+#include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedNetworkInterfaces.h"
+#include "doubles/ScriptedSystemCalls.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+using namespace std::chrono_literals;
+using Operation = ScriptedSystemCalls::Operation;
+
+using Lines = std::vector<std::string>;
+using Titles = std::vector<std::string>;
+
+inline Lines linesOf(const std::string& text) {
+    Lines lines{""};
+    for (const char character : text) {
+        if (character == '\n') {
+            lines.emplace_back();
+        } else {
+            lines.back() += character;
+        }
+    }
+    return lines;
+}
+
+// Rows as "name = value", in order.
+inline Lines linesOf(const std::vector<RecordedTableView::Row>& rows) {
+    Lines lines;
+    for (const auto& row : rows) {
+        lines.push_back(row.at("parameterName") + " = " + row.at("parameterValue"));
+    }
+    return lines;
+}
+
+class ControllerTest : public ::testing::Test {
+protected:
+    ControllerTest() { window.editParameterTableView.setDataSource(&controller); }
+
+    void launch() { controller.applicationDidFinishLaunching(); }
+
+    // A datagram arrives at the listener's socket.
+    void receive(const Bytes& datagram) {
+        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        runLoop.makeReadable(systemCalls.lastDescriptor());
+    }
+
+    // A unit answers a discovery that is then completed, which selects the first unit.
+    void discover(const std::vector<SampleUnit>& units) {
+        controller.discoverButton();
+        for (const auto& unit : units) {
+            receive(unit.reply());
+        }
+        runLoop.advanceBy(2000ms);
+    }
+
+    // Everything sent, as "address:port text"; a carriage return shows as "\r".
+    Lines sent() const {
+        Lines lines;
+        for (const auto& datagram : systemCalls.sentDatagrams()) {
+            lines.push_back(destination(datagram.address) + " " + readable(datagram.data));
+        }
+        return lines;
+    }
+
+    std::string lastSent() const {
+        const Lines all = sent();
+        return all.empty() ? "(nothing)" : all.back();
+    }
+
+    Lines log() const { return linesOf(controller.eventLog()); }
+
+    // What was logged since the log had `length` bytes, without the first line break.
+    Lines logSince(std::size_t length) const {
+        const std::string& text = controller.eventLog();
+        return length >= text.size() ? Lines{} : linesOf(text.substr(length + 1));
+    }
+
+    std::string value(const std::string& serial, std::string_view name) const {
+        const auto found = controller.devices().find(serial);
+        return found != controller.devices().end()
+                   ? found->second.valueForName(name).value_or("(absent)")
+                   : "(no such unit)";
+    }
+
+    std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
+
+    Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
+    Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }
+
+    RecordedSystemLog systemLog;
+    ManualRunLoop runLoop;
+    ScriptedHostResolver hostResolver;
+    ScriptedSystemCalls systemCalls;
+    FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
+    RecordedApplication application;
+    ScriptedNetworkInterfaces interfaces;
+    RecordedMainWindow window;
+    std::vector<std::string> helpAnchors;
+    KXConfigAppDelegate controller{window.outlets(),
+                                   {runLoop, hostResolver, systemCalls, wallClock, application,
+                                    &interfaces, [this](std::string_view anchor) {
+                                        helpAnchors.emplace_back(anchor);
+                                        return true;
+                                    }}};
+
+private:
+    static std::string destination(const Bytes& record) {
+        std::uint32_t address = 0;
+        IPv6Octets address6{};
+        std::uint16_t port = 0;
+        addressForData(record, address, address6, &port);
+        return stringForIP(address) + ":" + std::to_string(port);
+    }
+
+    static std::string readable(const Bytes& data) {
+        std::string text(data.begin(), data.end());
+        if (!text.empty() && text.back() == '\r') {
+            text.replace(text.size() - 1, 1, "\\r");
+        }
+        return text;
+    }
+};
+
+} // namespace kx

@@ -1,0 +1,404 @@
+// Launch, interface and port choice, the listener's events, help and the end.
+
+#include "ControllerFixture.h"
+#include "support/LocalizedText.h"
+
+namespace kx {
+
+namespace {
+
+class ControllerLifecycle : public ControllerTest {
+protected:
+    // Chooses the interface that the pop-up offers and gives back where a discovery then goes.
+    std::string broadcastAfterChoosing(const std::string& address, const std::string& mask) {
+        interfaces.addService("Ethernet", "eth0", address, mask);
+        launch();
+        window.interfacePopUp.selectItemWithTitle("Ethernet (eth0)");
+        controller.interfaceSelect();
+        controller.discoverButton();
+        return lastSent();
+    }
+};
+
+} // namespace
+
+TEST_F(ControllerLifecycle, LaunchOffersTheInterfacesInTheirOrder) {
+    interfaces.addTitle("Wi-Fi (wlan0)", "b");
+    interfaces.addTitle("Ethernet (eth0)", "a");
+    window.interfacePopUp.addItemsWithTitles({"left over"});
+    launch();
+    EXPECT_EQ(window.interfacePopUp.titles(), (Titles{"Wi-Fi (wlan0)", "Ethernet (eth0)"}));
+    EXPECT_TRUE(window.interfacePopUp.isEnabled());
+}
+
+TEST_F(ControllerLifecycle, LaunchWithoutInterfacesSaysSoAndDiscoversAllTheSame) {
+    launch();
+    EXPECT_EQ(window.interfacePopUp.titles(), Titles{"No configured interfaces"});
+    EXPECT_FALSE(window.interfacePopUp.isEnabled());
+    EXPECT_EQ(sent(), Lines{"255.255.255.255:3520 ^^IdX"});
+}
+
+TEST_F(ControllerLifecycle, LaunchWorksWithoutAnyKnowledgeOfTheHostsNetwork) {
+    KXConfigAppDelegate blind(window.outlets(), {runLoop, hostResolver, systemCalls, wallClock,
+                                                 application, nullptr, nullptr});
+    blind.applicationDidFinishLaunching();
+    EXPECT_EQ(window.interfacePopUp.titles(), Titles{"No configured interfaces"});
+    blind.interfaceSelect();
+    blind.myHelp();
+    blind.reloadUnitParameterButton();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, LaunchClosesTheDrawer) {
+    window.eventLogDrawer.setState(DrawerState::open);
+    launch();
+    EXPECT_EQ(window.eventLogDrawer.state(), DrawerState::closing);
+}
+
+TEST_F(ControllerLifecycle, LaunchPreparesTheOptionCommand) {
+    launch();
+    EXPECT_EQ(window.optionCommandField.stringValue(), "V");
+}
+
+TEST_F(ControllerLifecycle, LaunchSelectsNoUnit) {
+    launch();
+    EXPECT_EQ(controller.selectedUnit(), std::nullopt);
+    EXPECT_TRUE(controller.devices().empty());
+}
+
+TEST_F(ControllerLifecycle, FirstBroadcastGoesEverywhereBecauseNoInterfaceIsChosen) {
+    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+    launch();
+    EXPECT_EQ(sent(), Lines{"255.255.255.255:3520 ^^IdX"});
+}
+
+TEST_F(ControllerLifecycle, BroadcastFollowsTheChosenInterface) {
+    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.0"), "192.168.1.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, BroadcastUnderAFullMaskGoesToTheInterfaceItself) {
+    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.255"), "192.168.1.20:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, BroadcastUnderAnEmptyMaskGoesEverywhere) {
+    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "0.0.0.0"), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, ChoosingAnInterfaceSendsAndLogsNothing) {
+    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+    launch();
+    const Lines before = log();
+    controller.interfaceSelect();
+    EXPECT_EQ(log(), before);
+    EXPECT_EQ(sent().size(), 1U);
+    EXPECT_EQ(systemCalls.count(Operation::socket), 1U);
+}
+
+TEST_F(ControllerLifecycle, InterfaceWithoutAnAddressFallsBackToEverywhere) {
+    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+    interfaces.addTitle("Tunnel (tun0)", "=tun0");
+    launch();
+    window.interfacePopUp.selectItemAtIndex(0);
+    controller.interfaceSelect();
+    window.interfacePopUp.selectItemAtIndex(1);
+    controller.interfaceSelect();
+    controller.discoverButton();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, ConfigurationOfAnUnexpectedShapeReadsAsNoAddress) {
+    const std::vector<PropertyListValue> shapes{"192.168.1.20", PropertyList{}, PropertyList{5},
+                                                PropertyList{"not an address"},
+                                                PropertyDictionary{{"0", "192.168.1.20"}}};
+    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+    launch();
+    for (const auto& shape : shapes) {
+        interfaces.setData("service-eth0", "IPv4", "Addresses", shape);
+        controller.interfaceSelect();
+        controller.discoverButton();
+        EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX") << shape.description();
+    }
+}
+
+TEST_F(ControllerLifecycle, MissingMaskCountsAsAnEmptyOne) {
+    interfaces.addTitle("Ethernet (eth0)", "a");
+    interfaces.setService("eth0", "a");
+    interfaces.setData("a", "IPv4", "Addresses", PropertyList{"192.168.1.20"});
+    launch();
+    controller.interfaceSelect();
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, InterfaceIsFoundByItsNameInTheTitle) {
+    interfaces.addTitle("Office (2nd floor) (eth1:1)", "x");
+    interfaces.setService("eth1", "service-eth1");
+    interfaces.setData("service-eth1", "IPv4", "Addresses", PropertyList{"10.1.2.3", "10.9.9.9"});
+    interfaces.setData("service-eth1", "IPv4", "SubnetMasks", PropertyList{"255.255.0.0"});
+    launch();
+    controller.interfaceSelect();
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(lastSent(), "10.1.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, LaunchForgetsAnEarlierAddress) {
+    broadcastAfterChoosing("192.168.1.20", "255.255.255.0");
+    launch();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, AnotherPortRestartsTheListenerOnIt) {
+    launch();
+    const int firstSocket = systemCalls.lastDescriptor();
+    const auto firstListener = controller.udpListener();
+    window.udpPortPopUp.selectItemWithTitle("3522");
+    controller.udpPortSelect();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3522",
+                            "Request unit parameters with address: 255.255.255.255",
+                            "UDP server did send data."}));
+    EXPECT_EQ(systemCalls.closeCount(firstSocket), 1U);
+    EXPECT_NE(controller.udpListener(), firstListener);
+    EXPECT_EQ(controller.udpListener()->port(), 3522U);
+    EXPECT_EQ(firstListener->port(), 0U);
+}
+
+TEST_F(ControllerLifecycle, BroadcastUsesPort3520WhateverPortIsListenedOnOrUnitSelected) {
+    launch();
+    discover({SampleUnit()}); // its device port is 10000
+    ASSERT_EQ(selectedUnit(), "01 02 03 04 05 06");
+    window.udpPortPopUp.selectItemWithTitle("3523");
+    controller.udpPortSelect();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerLifecycle, BroadcastIsAllowedBeforeItIsSent) {
+    launch();
+    std::vector<Operation> order;
+    for (const auto& call : systemCalls.calls()) {
+        if (call.operation == Operation::enableBroadcast || call.operation == Operation::sendTo) {
+            EXPECT_EQ(call.descriptor, systemCalls.lastDescriptor());
+            order.push_back(call.operation);
+        }
+    }
+    EXPECT_EQ(order, (std::vector{Operation::enableBroadcast, Operation::sendTo}));
+}
+
+TEST_F(ControllerLifecycle, RefusedBroadcastIsLoggedAndNothingIsSent) {
+    systemCalls.failNext(Operation::enableBroadcast, EPERM);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Error setting SO_BROADCAST " + posixErrorText(EPERM)}));
+    EXPECT_EQ(sent(), Lines{});
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
+}
+
+TEST_F(ControllerLifecycle, PortThatIsTakenIsLogged) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP did stop with error.",
+                            "  " + posixErrorText(EADDRINUSE)}));
+    EXPECT_EQ(sent(), Lines{});
+    ASSERT_NE(controller.udpListener(), nullptr);
+    EXPECT_EQ(controller.udpListener()->port(), 0U);
+}
+
+TEST_F(ControllerLifecycle, DiscoverRecoversFromATakenPort) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    controller.discoverButton();
+    EXPECT_EQ(log().at(1), "UDP listener did start. 0.0.0.0:3520");
+}
+
+TEST_F(ControllerLifecycle, ListenerOfAnotherFamilyHasNoAddressInTheLog) {
+    launch();
+    const auto length = controller.eventLog().size();
+    controller.echoDidStartWithAddress(*controller.udpListener(), dataForAddress6({}, 3520));
+    EXPECT_EQ(logSince(length), (Lines{"UDP listener did start. ",
+                                       "Request unit parameters with address: 255.255.255.255",
+                                       "UDP server did send data."}));
+}
+
+TEST_F(ControllerLifecycle, StartOfAnotherEndpointIsIgnored) {
+    launch();
+    const Lines before = log();
+    UDPEcho stranger(runLoop, hostResolver, systemCalls);
+    controller.echoDidStartWithAddress(stranger, dataForAddress(0, 3520));
+    EXPECT_EQ(log(), before);
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerLifecycle, SendOfAnotherEndpointIsNotLogged) {
+    launch();
+    const Lines before = log();
+    UDPEcho stranger(runLoop, hostResolver, systemCalls);
+    controller.echoDidSendDataToAddress(stranger, {}, {});
+    EXPECT_EQ(log(), before);
+}
+
+TEST_F(ControllerLifecycle, ErrorsOfEveryEndpointAreLogged) {
+    launch();
+    const auto length = controller.eventLog().size();
+    UDPEcho stranger(runLoop, hostResolver, systemCalls);
+    controller.echoDidReceiveError(stranger, posixError(ECONNREFUSED));
+    controller.echoDidFailToSendDataToAddressError(stranger, {}, {}, posixError(ENETUNREACH));
+    controller.echoDidStopWithError(stranger, posixError(EACCES));
+    EXPECT_EQ(logSince(length),
+              (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED),
+                     "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH),
+                     "UDP did stop with error.", "  " + posixErrorText(EACCES)}));
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
+}
+
+TEST_F(ControllerLifecycle, FailedReadIsLoggedAndTheListenerGoesOn) {
+    launch();
+    const auto length = controller.eventLog().size();
+    systemCalls.failNext(Operation::receiveFrom, ECONNREFUSED);
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    EXPECT_EQ(logSince(length),
+              (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED)}));
+    receive(SampleUnit().reply());
+    EXPECT_EQ(controller.devices().size(), 1U);
+}
+
+TEST_F(ControllerLifecycle, EmptyDatagramIsLoggedAsAnError) {
+    launch();
+    const auto length = controller.eventLog().size();
+    receive({});
+    EXPECT_EQ(logSince(length), (Lines{"UDP did receive error.", "  " + posixErrorText(EPIPE)}));
+}
+
+TEST_F(ControllerLifecycle, FailedBroadcastIsLogged) {
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Request unit parameters with address: 255.255.255.255",
+                            "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH)}));
+}
+
+TEST_F(ControllerLifecycle, SendOfNoBytesCountsAsFailed) {
+    systemCalls.giveNext(Operation::sendTo, 0);
+    launch();
+    EXPECT_EQ(log().back(), "  " + posixErrorText(EPIPE));
+}
+
+TEST_F(ControllerLifecycle, StoppedListenerStaysUntilTheNextRestart) {
+    systemCalls.failNext(Operation::bind, EACCES);
+    launch();
+    const auto stopped = controller.udpListener();
+    controller.interfaceSelect();
+    controller.reloadUnitParameterButton();
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(controller.udpListener(), stopped);
+}
+
+TEST_F(ControllerLifecycle, SendingThroughAStoppedListenerIsAFailedSend) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    const auto length = controller.eventLog().size();
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(logSince(length),
+              (Lines{"Request unit parameters with address: 255.255.255.255",
+                     "UDP failed to send data.", "  The UDP listener is not running."}));
+    EXPECT_EQ(sent(), Lines{});
+}
+
+namespace {
+
+// Fails for one message, as a broken translation might.
+class BrokenText final : public LocalizedText {
+public:
+    explicit BrokenText(bool withPlatformException)
+        : _withPlatformException(withPlatformException)
+        , _previous(installLocalizedText(this)) {}
+    ~BrokenText() override { installLocalizedText(_previous); }
+    BrokenText(const BrokenText&) = delete;
+    BrokenText& operator=(const BrokenText&) = delete;
+
+    std::string textForKey(std::string_view key) const override {
+        if (key != "\nRequest unit parameters with address: %@") {
+            return std::string(key);
+        }
+        if (_withPlatformException) {
+            throw PlatformException("no such text");
+        }
+        throw std::logic_error("a mistake in the program");
+    }
+
+private:
+    bool _withPlatformException;
+    const LocalizedText* _previous;
+};
+
+} // namespace
+
+TEST_F(ControllerLifecycle, ExceptionWhileTheListenerStartsGoesToTheSystemLog) {
+    const BrokenText broken(true);
+    launch();
+    EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didStartWithAddress: no such text"});
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520"}));
+    EXPECT_EQ(sent(), Lines{});
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
+}
+
+TEST_F(ControllerLifecycle, OtherExceptionsArePassedOn) {
+    const BrokenText broken(false);
+    EXPECT_THROW(launch(), std::logic_error);
+}
+
+TEST_F(ControllerLifecycle, ClosingTheWindowEndsTheApplication) {
+    launch();
+    controller.windowWillClose();
+    EXPECT_EQ(application.terminateCount(), 1);
+}
+
+TEST_F(ControllerLifecycle, HelpOpensAtItsIndex) {
+    controller.myHelp();
+    EXPECT_EQ(helpAnchors, Lines{"index"});
+}
+
+TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
+    launch();
+    discover({SampleUnit()});
+    const int socket = systemCalls.lastDescriptor();
+    controller.applicationWillTerminate();
+    EXPECT_EQ(controller.eventLog(), "");
+    EXPECT_EQ(controller.udpListener(), nullptr);
+    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_EQ(controller.selectedUnit(), std::nullopt);
+    EXPECT_EQ(systemCalls.closeCount(socket), 1U);
+    EXPECT_EQ(runLoop.watchCount(), 0U);
+}
+
+TEST_F(ControllerLifecycle, TerminationCancelsDelayedCalls) {
+    launch();
+    controller.restoreDefaultSettings();
+    EXPECT_EQ(runLoop.pendingCallCount(), 2U);
+    controller.applicationWillTerminate();
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+    const auto before = sent().size();
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(sent().size(), before);
+    EXPECT_EQ(window.unitSelectPopUp.titles(), Titles{});
+}
+
+TEST_F(ControllerLifecycle, EditTableStaysAnswerableAfterTheEnd) {
+    launch();
+    controller.applicationWillTerminate();
+    window.editParameterTableView.typeIntoCell(0, "parameterValue", "late");
+    window.editParameterTableView.reloadData();
+    EXPECT_EQ(editRows(), Lines{" = "});
+}
+
+TEST_F(ControllerLifecycle, DestructionEndsEverythingThatWasStarted) {
+    {
+        KXConfigAppDelegate brief(window.outlets(), {runLoop, hostResolver, systemCalls, wallClock,
+                                                     application, nullptr, nullptr});
+        brief.applicationDidFinishLaunching();
+        EXPECT_EQ(runLoop.pendingCallCount(), 1U);
+    }
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+    EXPECT_EQ(runLoop.watchCount(), 0U);
+    EXPECT_TRUE(systemCalls.openDescriptors().empty());
+}
+
+} // namespace kx

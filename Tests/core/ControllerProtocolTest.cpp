@@ -1,0 +1,338 @@
+// Commands out, replies in.
+
+#include "ControllerFixture.h"
+
+namespace kx {
+
+namespace {
+
+class ControllerProtocol : public ControllerTest {
+protected:
+    ControllerProtocol() { launch(); }
+
+    // What a datagram makes the log say, without the line that counts its bytes.
+    Lines logOf(const Bytes& datagram) {
+        const auto length = controller.eventLog().size();
+        receive(datagram);
+        Lines lines = logSince(length);
+        EXPECT_EQ(lines.at(0),
+                  "UDP listener did receive data. Length: " + std::to_string(datagram.size()));
+        lines.erase(lines.begin());
+        return lines;
+    }
+};
+
+const Bytes unitSeven{0, 0, 0, 0, 0, 7};
+const Bytes serialOfSeven{0x0A, 0x0B, 0x0C, 0x0D, 0x0E, 0x0F};
+
+} // namespace
+
+// --- Sending ---
+
+TEST_F(ControllerProtocol, CommandGoesToTheSelectedUnitOnItsDevicePort) {
+    discover({SampleUnit()});
+    const auto length = controller.eventLog().size();
+    EXPECT_TRUE(controller.sendCommand("^^IdP2711"));
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^IdP2711");
+    EXPECT_EQ(logSince(length),
+              (Lines{"Send to: 192.168.1.10 command: ^^IdP2711", "UDP server did send data."}));
+}
+
+TEST_F(ControllerProtocol, CommandToAnotherAddressStillUsesTheSelectedUnitsPort) {
+    discover({SampleUnit()});
+    EXPECT_TRUE(controller.sendCommandToAddress("^^IdI0A000007", "10.0.0.7"));
+    EXPECT_EQ(lastSent(), "10.0.0.7:10000 ^^IdI0A000007");
+}
+
+TEST_F(ControllerProtocol, CommandWithoutASelectedUnitGoesToTheDefaultPort) {
+    EXPECT_TRUE(controller.sendCommandToAddress("^^IdX", "10.0.0.7"));
+    EXPECT_EQ(lastSent(), "10.0.0.7:3520 ^^IdX");
+}
+
+TEST_F(ControllerProtocol, AddressIsLoggedAsItWasGiven) {
+    const auto length = controller.eventLog().size();
+    controller.sendCommandToAddress("^^IdX", " 0x0A.0.0.7 and more");
+    EXPECT_EQ(logSince(length).at(0), "Send to:  0x0A.0.0.7 and more command: ^^IdX");
+    EXPECT_EQ(lastSent(), "10.0.0.7:3520 ^^IdX");
+}
+
+TEST_F(ControllerProtocol, AddressThatDoesNotParseIsTriedAsZero) {
+    systemCalls.failNext(Operation::sendTo, EINVAL);
+    const auto length = controller.eventLog().size();
+    EXPECT_TRUE(controller.sendCommandToAddress("^^IdX", "nowhere"));
+    EXPECT_EQ(logSince(length), (Lines{"Send to: nowhere command: ^^IdX",
+                                       "UDP failed to send data.", "  " + posixErrorText(EINVAL)}));
+    EXPECT_EQ(lastSent(), "0.0.0.0:3520 ^^IdX");
+}
+
+TEST_F(ControllerProtocol, NothingIsSentOrLoggedWithoutASelectedUnit) {
+    const auto before = controller.eventLog();
+    EXPECT_FALSE(controller.sendCommand("^^IdX"));
+    EXPECT_EQ(controller.eventLog(), before);
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, NothingIsSentToAUnitWithoutAnAddress) {
+    receive(joined(
+        {SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6}), item("<S>", serialOfSeven)}));
+    runLoop.advanceBy(2000ms);
+    ASSERT_EQ(selectedUnit(), "0A 0B 0C 0D 0E 0F");
+    const auto before = controller.eventLog();
+    EXPECT_FALSE(controller.sendCommand("^^IdX"));
+    EXPECT_EQ(controller.eventLog(), before);
+}
+
+TEST_F(ControllerProtocol, AbsentTextsSendAndLogNothing) {
+    const auto before = controller.eventLog();
+    EXPECT_FALSE(controller.sendCommandToAddress(std::nullopt, "10.0.0.7"));
+    EXPECT_FALSE(controller.sendCommandToAddress("^^IdX", std::nullopt));
+    EXPECT_FALSE(controller.sendCommand(std::nullopt));
+    EXPECT_EQ(controller.eventLog(), before);
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, NothingIsSentOrLoggedWithoutAListener) {
+    controller.applicationWillTerminate();
+    EXPECT_FALSE(controller.sendCommandToAddress("^^IdX", "10.0.0.7"));
+    EXPECT_EQ(controller.eventLog(), "");
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, RequestWithoutAListenerIsLoggedAllTheSame) {
+    controller.applicationWillTerminate();
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(controller.eventLog(), "\nRequest unit parameters with address: 255.255.255.255");
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, CommandThatIsNotASCIIIsNeitherLoggedNorSent) {
+    discover({SampleUnit()});
+    const auto before = controller.eventLog();
+    const auto count = sent().size();
+    EXPECT_FALSE(controller.sendCommand("^^IdM\xC3\x84"));
+    EXPECT_EQ(controller.eventLog(), before);
+    EXPECT_EQ(sent().size(), count);
+}
+
+TEST_F(ControllerProtocol, CommandThroughAStoppedListenerIsAFailedSend) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    controller.discoverButton();
+    const auto length = controller.eventLog().size();
+    EXPECT_TRUE(controller.sendCommandToAddress("^^IdX", "10.0.0.7"));
+    EXPECT_EQ(logSince(length),
+              (Lines{"Send to: 10.0.0.7 command: ^^IdX", "UDP failed to send data.",
+                     "  The UDP listener is not running."}));
+}
+
+TEST_F(ControllerProtocol, FailedSendIsLoggedAfterItsCommand) {
+    discover({SampleUnit()});
+    systemCalls.failNext(Operation::sendTo, EHOSTUNREACH);
+    const auto length = controller.eventLog().size();
+    EXPECT_TRUE(controller.sendCommand("^^IdX"));
+    EXPECT_EQ(logSince(length),
+              (Lines{"Send to: 192.168.1.10 command: ^^IdX", "UDP failed to send data.",
+                     "  " + posixErrorText(EHOSTUNREACH)}));
+}
+
+TEST_F(ControllerProtocol, PercentSignsOfACommandAreLoggedAsTheyAre) {
+    const auto length = controller.eventLog().size();
+    controller.sendCommandToAddress("^^Id%@ %d", "10.0.0.7");
+    EXPECT_EQ(logSince(length).at(0), "Send to: 10.0.0.7 command: ^^Id%@ %d");
+}
+
+// --- Receiving ---
+
+TEST_F(ControllerProtocol, FourBytesAreAShortPacket) {
+    EXPECT_EQ(logOf(textBytes("^^<U")), Lines{"Ignoring short packet"});
+    EXPECT_EQ(logOf(textBytes("x")), Lines{"Ignoring short packet"});
+}
+
+TEST_F(ControllerProtocol, FiveBytesWithoutTheMarkerAreUnknown) {
+    EXPECT_EQ(logOf(textBytes("x^<U>")), Lines{"Ignoring unknown packet, prefix != ^^"});
+}
+
+TEST_F(ControllerProtocol, SecondByteIsNotLookedAt) {
+    EXPECT_EQ(logOf(textBytes("^x<X>")), Lines{"Received command: ^^<X>"});
+}
+
+TEST_F(ControllerProtocol, OwnBroadcastIsLoggedLikeAnyDatagram) {
+    EXPECT_EQ(logOf(textBytes("^^IdX")), Lines{"Received command: ^^IdX"});
+}
+
+TEST_F(ControllerProtocol, TagAloneOfAUnitIsARangeFailure) {
+    EXPECT_EQ(logOf(textBytes("^^<U>")), Lines{});
+    EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
+                                       "range {5, 6} exceeds data length 5"});
+    EXPECT_TRUE(controller.devices().empty());
+}
+
+TEST_F(ControllerProtocol, SerialNumberCutShortIsARangeFailure) {
+    EXPECT_EQ(logOf(textBytes("^^<U>ABCDEF<S>12345")), Lines{});
+    EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
+                                       "range {14, 6} exceeds data length 19"});
+}
+
+TEST_F(ControllerProtocol, ItemCutShortStoresNothingAndKeepsTheEarlierRecord) {
+    discover({SampleUnit()});
+    const auto before = controller.devices();
+    Bytes datagram = SampleUnit().reply();
+    datagram.pop_back(); // the serial number has five bytes left
+    datagram[36] = 99;   // and the address is another
+    EXPECT_EQ(logOf(datagram), Lines{});
+    EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
+                                       "range {3, 6} exceeds data length 8"});
+    EXPECT_EQ(controller.devices(), before);
+    EXPECT_EQ(value("01 02 03 04 05 06", internalIPAddressName), "192.168.1.10");
+}
+
+TEST_F(ControllerProtocol, OtherTagsAreLoggedAlone) {
+    EXPECT_EQ(logOf(textBytes("^^<X>")), Lines{"Received command: ^^<X>"});
+}
+
+TEST_F(ControllerProtocol, TagThatIsNotUTF8ShowsAsNull) {
+    EXPECT_EQ(logOf({'^', '^', 0xFF, 'U', '>'}), Lines{"Received command: ^^(null)"});
+}
+
+TEST_F(ControllerProtocol, HeaderAloneIsLoggedWithUnitAndSerial) {
+    Bytes datagram = replyHeader(unitSeven, serialOfSeven);
+    datagram.pop_back();
+    EXPECT_EQ(logOf(datagram),
+              Lines{"Received command: ^^<U> unit:7 serial:0A 0B 0C 0D 0E 0F cidString:"});
+}
+
+TEST_F(ControllerProtocol, AcknowledgementReloadsBeforeItIsLogged) {
+    EXPECT_EQ(
+        logOf(joined({replyHeader(unitSeven, serialOfSeven), textBytes("ok\r")})),
+        (Lines{"Request unit parameters with address: 255.255.255.255", "UDP server did send data.",
+               "Received command: ^^<U> unit:7 serial:0A 0B 0C 0D 0E 0F cidString:"}));
+    EXPECT_EQ(sent().size(), 2U);
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerProtocol, AcknowledgementAsksTheSelectedUnitWhoeverSentIt) {
+    discover({SampleUnit()});
+    receive(joined({replyHeader(unitSeven, serialOfSeven), textBytes("ok\r")}));
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^IdX");
+}
+
+TEST_F(ControllerProtocol, AcknowledgementCountsUnderEveryTag) {
+    Bytes datagram = joined({replyHeader(unitSeven, serialOfSeven), textBytes("ok!")});
+    datagram[3] = 'X';
+    EXPECT_EQ(logOf(datagram), (Lines{"Request unit parameters with address: 255.255.255.255",
+                                      "UDP server did send data.", "Received command: ^^<X>"}));
+}
+
+TEST_F(ControllerProtocol, OtherPayloadIsShownFromItsMarkerOn) {
+    EXPECT_EQ(logOf(joined({replyHeader(unitSeven, serialOfSeven), textBytes("hello")})),
+              Lines{"Received command: ^^<U> unit:7 serial:0A 0B 0C 0D 0E 0F cidString:$hello"});
+}
+
+TEST_F(ControllerProtocol, AcknowledgementOfTwoBytesIsNone) {
+    EXPECT_EQ(logOf(joined({replyHeader(unitSeven, serialOfSeven), textBytes("ok")})),
+              Lines{"Received command: ^^<U> unit:7 serial:0A 0B 0C 0D 0E 0F cidString:$ok"});
+    EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, PayloadThatIsNotUTF8ShowsAsNull) {
+    EXPECT_EQ(logOf(joined({replyHeader(unitSeven, serialOfSeven), {'a', 'b', 0xFF}})),
+              Lines{"Received command: ^^<U> unit:7 serial:0A 0B 0C 0D 0E 0F cidString:(null)"});
+}
+
+TEST_F(ControllerProtocol, UnitIDThatIsNotUTF8GivesTheShortLine) {
+    EXPECT_EQ(
+        logOf(joined({replyHeader({0xFF, 1, 2, 3, 4, 5}, serialOfSeven), textBytes("hello")})),
+        Lines{"Received command: ^^<U>"});
+}
+
+TEST_F(ControllerProtocol, MissingSerialTagGivesTheShortLine) {
+    Bytes datagram = replyHeader(unitSeven, serialOfSeven);
+    datagram[12] = 's';
+    EXPECT_EQ(logOf(datagram), Lines{"Received command: ^^<U>"});
+}
+
+TEST_F(ControllerProtocol, ZeroBytesOfAUnitIDReachTheLog) {
+    EXPECT_EQ(logOf(replyHeader({'A', 'B', 'C', 0, 0, 0}, serialOfSeven)).at(0),
+              "Received command: ^^<U> unit:ABC" + std::string(3, '\0') +
+                  " serial:0A 0B 0C 0D 0E 0F cidString:$");
+}
+
+TEST_F(ControllerProtocol, ParameterReplyIsLoggedValueByValueAndStored) {
+    EXPECT_EQ(logOf(SampleUnit().reply()),
+              (Lines{"Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:",
+                     "\tinternal MAC address: 00:1A:2B:3C:4D:5E",
+                     "\tinternal IP address: 192.168.1.10", "\tdestination IP address: 192.168.1.1",
+                     "\tdestination Port number: 3520", "\tdevice Port number: 10000",
+                     "\tunit ID: 42", "\tdestination MAC address: 00:0A:0B:0C:0D:0E",
+                     "\tserial number: 01 02 03 04 05 06"}));
+    ASSERT_EQ(controller.devices().size(), 1U);
+    const UnitRecord& record = controller.devices().at("01 02 03 04 05 06");
+    EXPECT_EQ(record.names().size(), 8U);
+    EXPECT_EQ(record.valueForName(unitIDName), "42");
+}
+
+TEST_F(ControllerProtocol, RegistryTakesSerialAndUnitFromTheListNotTheHeader) {
+    logOf(joined({replyHeader(unitSeven, serialOfSeven), SampleUnit().parameterList()}));
+    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "42");
+    EXPECT_EQ(controller.devices().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, ParameterListUnderAnotherTagIsStoredThoughNotShown) {
+    Bytes datagram = SampleUnit().reply();
+    datagram[3] = 'X';
+    EXPECT_EQ(logOf(datagram), Lines{"Received command: ^^<X>"});
+    EXPECT_EQ(controller.devices().size(), 1U);
+}
+
+TEST_F(ControllerProtocol, ListWithoutASerialNumberIsShownAndNotStored) {
+    EXPECT_EQ(logOf(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6})})),
+              (Lines{"Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:",
+                     "\tinternal MAC address: 01:02:03:04:05:06"}));
+    EXPECT_TRUE(controller.devices().empty());
+}
+
+TEST_F(ControllerProtocol, ListThatDoesNotBeginWithTheMACAddressIsText) {
+    const Bytes list = item("<S>", textBytes("ABCDEF"));
+    EXPECT_EQ(logOf(joined({SampleUnit().header(), list})).at(0),
+              "Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:$<S>ABCDEF");
+    EXPECT_TRUE(controller.devices().empty());
+}
+
+TEST_F(ControllerProtocol, CarriageReturnBehindTheListChangesNothing) {
+    receive(joined({SampleUnit().reply(), textBytes("\r")}));
+    EXPECT_EQ(value("01 02 03 04 05 06", serialNumberName), "01 02 03 04 05 06");
+}
+
+TEST_F(ControllerProtocol, LaterReplyReplacesTheRecordWhole) {
+    discover({SampleUnit()});
+    receive(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6}),
+                    item("<S>", SampleUnit().serial)}));
+    const UnitRecord& record = controller.devices().at("01 02 03 04 05 06");
+    EXPECT_EQ(record.names().size(), 2U);
+    EXPECT_EQ(parameterRows(), (Lines{"internal MAC address = 01:02:03:04:05:06",
+                                      "serial number = 01 02 03 04 05 06"}));
+}
+
+TEST_F(ControllerProtocol, MissingUnitIDInTheListShowsAsNull) {
+    SampleUnit unit;
+    unit.unitID = {0xC0, 0, 0, 0, 0, 0};
+    const Lines lines =
+        logOf(joined({replyHeader(unitSeven, serialOfSeven), unit.parameterList()}));
+    EXPECT_EQ(lines.at(6), "\tunit ID: (null)");
+    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "(absent)");
+}
+
+TEST_F(ControllerProtocol, DatagramOfAStaleEndpointIsIgnoredSilently) {
+    const auto stale = controller.udpListener();
+    controller.discoverButton();
+    const auto before = controller.eventLog();
+    controller.echoDidReceiveDataFromAddress(*stale, SampleUnit().reply(), {});
+    EXPECT_EQ(controller.eventLog(), before);
+    EXPECT_TRUE(controller.devices().empty());
+}
+
+TEST_F(ControllerProtocol, SenderOfADatagramDoesNotMatter) {
+    controller.echoDidReceiveDataFromAddress(*controller.udpListener(), SampleUnit().reply(), {});
+    EXPECT_EQ(value("01 02 03 04 05 06", internalIPAddressName), "192.168.1.10");
+}
+
+} // namespace kx

@@ -1,0 +1,171 @@
+// Datagrams that no well-behaved unit sends leave the log and the registry exactly as the rules
+// say, and the program running.
+
+#include "ControllerFixture.h"
+#include "PlainDecoder.h"
+
+#include <random>
+
+namespace kx {
+
+namespace {
+
+class ForeignDatagrams : public ControllerTest {
+protected:
+    ForeignDatagrams() { launch(); }
+
+    // Delivers a datagram and compares all that it changed with what the rules say. No unit is ever
+    // selected here, because no discovery completes.
+    void expectOutcome(const Bytes& datagram) {
+        const PlainOutcome expected = PlainDecoder::outcomeOf(datagram);
+        const auto logLength = controller.eventLog().size();
+        const auto systemLogCount = systemLog.lines().size();
+
+        controller.echoDidReceiveDataFromAddress(*controller.udpListener(), datagram, {});
+
+        ASSERT_EQ(controller.eventLog().substr(logLength),
+                  "\nUDP listener did receive data. Length: " + std::to_string(datagram.size()) +
+                      expected.log);
+        ASSERT_EQ(systemLog.lines().size(), systemLogCount + (expected.isAbandoned ? 1 : 0));
+        if (expected.isAbandoned) {
+            ASSERT_TRUE(systemLog.lines().back().starts_with(
+                "Exception during echo:didReceiveData:fromAddress: range {"));
+        }
+        if (expected.record.has_value()) {
+            registry[expected.record->at("serial number")] = *expected.record;
+            changed = expected.record->at("serial number");
+        }
+        ASSERT_EQ(controller.devices().size(), registry.size());
+        if (!changed.empty()) {
+            ASSERT_EQ(plain(controller.devices().at(changed)), registry.at(changed));
+        }
+    }
+
+    void expectWholeRegistry() {
+        for (const auto& [serial, record] : controller.devices()) {
+            ASSERT_EQ(plain(record), registry.at(serial));
+        }
+    }
+
+    static PlainRecord plain(const UnitRecord& record) {
+        PlainRecord result;
+        for (const auto name : record.names()) {
+            result[std::string(name)] = record.valueForName(name).value_or("");
+        }
+        return result;
+    }
+
+    std::map<std::string, PlainRecord> registry;
+    std::string changed; // the serial number that was stored last
+};
+
+// `length` bytes: a beginning, and then a pattern over and over.
+Bytes filled(const Bytes& beginning, const Bytes& pattern, std::size_t length) {
+    Bytes result = beginning;
+    while (result.size() < length) {
+        result.insert(result.end(), pattern.begin(), pattern.end());
+    }
+    result.resize(length);
+    return result;
+}
+
+Bytes cut(Bytes bytes, std::size_t length) {
+    bytes.resize(length);
+    return bytes;
+}
+
+Bytes withByte(Bytes bytes, std::size_t offset, unsigned value) {
+    bytes[offset] = static_cast<std::uint8_t>(value);
+    return bytes;
+}
+
+} // namespace
+
+TEST_F(ForeignDatagrams, OfEveryLengthAndSeveralFillings) {
+    const SampleUnit unit;
+    const std::vector<std::pair<Bytes, Bytes>> fillings{
+        {{}, {0x00}},
+        {{}, {0xFF}},
+        {{}, textBytes("^")},
+        {{}, textBytes("^^<U>")},
+        {unit.header(), textBytes("text ")},
+        {unit.header(), {0xC3, 0xA4}}, // valid UTF-8 at every other length
+        {unit.header(), item("<M>", unit.internalMAC)},
+        {unit.header(), unit.parameterList()},
+        {unit.reply(), item("<O>", unit.serial)},
+        {unit.acknowledgement(), {0x00}},
+    };
+    for (const auto& [beginning, pattern] : fillings) {
+        for (std::size_t length = 0; length <= 2000; ++length) {
+            expectOutcome(filled(beginning, pattern, length));
+            ASSERT_FALSE(HasFatalFailure()) << "length " << length;
+        }
+        controller.discoverButton();
+    }
+    expectWholeRegistry();
+    receive(unit.reply());
+    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "42");
+}
+
+TEST_F(ForeignDatagrams, RepliesCutAtEveryLength) {
+    const SampleUnit unit;
+    const std::vector<Bytes> replies{
+        unit.reply(), unit.acknowledgement(), joined({unit.header(), textBytes("hello")}),
+        joined({textBytes("^^"), item("<X>", unit.unitID), item("<S>", unit.serial), textBytes("$"),
+                unit.parameterList()})};
+    for (const Bytes& reply : replies) {
+        for (std::size_t length = 0; length <= reply.size(); ++length) {
+            expectOutcome(filled(Bytes(reply.begin(), reply.begin() + static_cast<long>(length)),
+                                 {}, length));
+            ASSERT_FALSE(HasFatalFailure()) << "length " << length;
+        }
+    }
+}
+
+TEST_F(ForeignDatagrams, ReplyIsStoredAtItsFullLengthAlone) {
+    const Bytes reply = SampleUnit().reply();
+    for (std::size_t length = 1; length < reply.size(); ++length) {
+        receive(cut(reply, length));
+        ASSERT_TRUE(controller.devices().empty()) << length;
+    }
+    receive(reply);
+    EXPECT_EQ(controller.devices().size(), 1U);
+}
+
+TEST_F(ForeignDatagrams, RepliesWithAnySingleByteChanged) {
+    const Bytes reply = SampleUnit().reply();
+    for (std::size_t offset = 0; offset < reply.size(); ++offset) {
+        for (unsigned byte = 0; byte < 256; ++byte) {
+            expectOutcome(withByte(reply, offset, byte));
+            ASSERT_FALSE(HasFatalFailure()) << "offset " << offset << " value " << byte;
+        }
+        controller.discoverButton();
+    }
+    expectWholeRegistry();
+}
+
+TEST_F(ForeignDatagrams, RandomItemsBehindAHeader) {
+    // Tags with the lengths of their values; one of them is unknown.
+    const std::vector<std::pair<const char*, unsigned>> tags{
+        {"<M>", 6}, {"<I>", 4}, {"<D>", 4}, {"<T>", 2}, {"<P>", 2},
+        {"<U>", 6}, {"<C>", 6}, {"<O>", 6}, {"<S>", 6}, {"<X>", 6}};
+    std::mt19937 random(20231115); // the same bytes in every run
+    for (int repeat = 0; repeat < 3000; ++repeat) {
+        Bytes datagram = joined({SampleUnit().header(), item("<M>", SampleUnit().internalMAC)});
+        for (auto count = random() % 12; count > 0; --count) {
+            const auto& [tag, length] = tags[random() % tags.size()];
+            const bool isCutShort = random() % 16 == 0;
+            Bytes value(isCutShort ? random() % length : length);
+            for (auto& byte : value) {
+                byte = static_cast<std::uint8_t>(random());
+            }
+            datagram = joined({datagram, item(tag, value)});
+        }
+        expectOutcome(datagram);
+        ASSERT_FALSE(HasFatalFailure()) << "repeat " << repeat;
+    }
+    EXPECT_GT(registry.size(), 100U);
+    expectWholeRegistry();
+}
+
+} // namespace kx

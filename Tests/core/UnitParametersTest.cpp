@@ -1,0 +1,232 @@
+#include "UnitParameters.h"
+
+#include "UnitReplies.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+namespace {
+
+std::string value(const UnitRecord& record, std::string_view name) {
+    return record.valueForName(name).value_or("(absent)");
+}
+
+std::ptrdiff_t linesIn(const std::string& text) {
+    return std::count(text.begin(), text.end(), '\n');
+}
+
+using Names = std::vector<std::string_view>;
+
+} // namespace
+
+TEST(UnitParameterNames, AreTheEightNamesInTableOrder) {
+    Names names;
+    for (const UnitParameter parameter : allUnitParameters) {
+        names.push_back(nameOfUnitParameter(parameter));
+    }
+    EXPECT_EQ(names, (Names{"destination IP address", "destination MAC address",
+                            "destination Port number", "device Port number", "internal IP address",
+                            "internal MAC address", "serial number", "unit ID"}));
+}
+
+TEST(UnitParameterNames, AreFoundByTheirExactText) {
+    for (const UnitParameter parameter : allUnitParameters) {
+        EXPECT_EQ(unitParameterForName(nameOfUnitParameter(parameter)), parameter);
+    }
+    EXPECT_EQ(unitParameterForName("Unit ID"), std::nullopt);
+    EXPECT_EQ(unitParameterForName(""), std::nullopt);
+}
+
+TEST(UnitRecord, HasNothingAtFirst) {
+    const UnitRecord record;
+    EXPECT_EQ(record.names(), Names{});
+    EXPECT_EQ(value(record, unitIDName), "(absent)");
+    EXPECT_EQ(value(record, "no such name"), "(absent)");
+}
+
+TEST(UnitRecord, KeepsAnEmptyTextApartFromNone) {
+    UnitRecord record;
+    record.setValue(UnitParameter::devicePortNumber, "");
+    EXPECT_EQ(value(record, devicePortNumberName), "");
+    EXPECT_EQ(record.names(), Names{devicePortNumberName});
+}
+
+TEST(UnitRecord, ReplacesAndRemovesValues) {
+    UnitRecord record;
+    record.setValue(UnitParameter::internalIPAddress, "192.168.1.10");
+    record.setValue(UnitParameter::internalIPAddress, "10.0.0.7");
+    EXPECT_EQ(value(record, internalIPAddressName), "10.0.0.7");
+    record.removeValue(UnitParameter::internalIPAddress);
+    EXPECT_EQ(value(record, internalIPAddressName), "(absent)");
+    EXPECT_EQ(record, UnitRecord());
+}
+
+TEST(UnitRecord, ListsItsNamesInTableOrder) {
+    UnitRecord record;
+    record.setValue(UnitParameter::unitID, "42");
+    record.setValue(UnitParameter::destinationPortNumber, "3520");
+    record.setValue(UnitParameter::destinationIPAddress, "192.168.1.1");
+    EXPECT_EQ(record.names(),
+              (Names{"destination IP address", "destination Port number", "unit ID"}));
+}
+
+TEST(UnitRecord, ComparesByItsTextsAlone) {
+    UnitRecord left;
+    UnitRecord right;
+    left.setValue(UnitParameter::unitID, "a longer text");
+    left.setValue(UnitParameter::unitID, "42");
+    right.setValue(UnitParameter::unitID, "42");
+    EXPECT_EQ(left, right);
+    right.setValue(UnitParameter::unitID, "43");
+    EXPECT_NE(left, right);
+    right.removeValue(UnitParameter::unitID);
+    EXPECT_NE(left, right);
+}
+
+TEST(UnitRecord, KeepsZeroBytes) {
+    UnitRecord record;
+    const std::string text("ABC\0\0\0", 6);
+    record.setValue(UnitParameter::unitID, text);
+    EXPECT_EQ(record.valueForName(unitIDName), text);
+}
+
+TEST(UnitRecordDeathTest, TakesNoTextThatIsLongerThanAnyValue) {
+    UnitRecord record;
+    record.setValue(UnitParameter::unitID, std::string(17, 'x'));
+    EXPECT_EQ(record.valueForName(unitIDName), std::string(17, 'x'));
+    EXPECT_DEATH(record.setValue(UnitParameter::unitID, std::string(18, 'x')),
+                 "text.size\\(\\) <= longestText");
+}
+
+TEST(UnitParameterList, WithEveryItemGivesEveryValue) {
+    const auto decoded = decodeUnitParameters(SampleUnit().parameterList());
+    EXPECT_EQ(value(decoded.record, internalMACAddressName), "00:1A:2B:3C:4D:5E");
+    EXPECT_EQ(value(decoded.record, internalIPAddressName), "192.168.1.10");
+    EXPECT_EQ(value(decoded.record, destinationIPAddressName), "192.168.1.1");
+    EXPECT_EQ(value(decoded.record, destinationPortNumberName), "3520");
+    EXPECT_EQ(value(decoded.record, devicePortNumberName), "10000");
+    EXPECT_EQ(value(decoded.record, unitIDName), "42");
+    EXPECT_EQ(value(decoded.record, destinationMACAddressName), "00:0A:0B:0C:0D:0E");
+    EXPECT_EQ(value(decoded.record, serialNumberName), "01 02 03 04 05 06");
+    EXPECT_EQ(decoded.displayText, "\n\tinternal MAC address: 00:1A:2B:3C:4D:5E"
+                                   "\n\tinternal IP address: 192.168.1.10"
+                                   "\n\tdestination IP address: 192.168.1.1"
+                                   "\n\tdestination Port number: 3520"
+                                   "\n\tdevice Port number: 10000"
+                                   "\n\tunit ID: 42"
+                                   "\n\tdestination MAC address: 00:0A:0B:0C:0D:0E"
+                                   "\n\tserial number: 01 02 03 04 05 06");
+}
+
+TEST(UnitParameterList, OfASampleReplyIsSixtyBytesBehindTheHeader) {
+    EXPECT_EQ(SampleUnit().reply().size(), 81U);
+    EXPECT_EQ(SampleUnit().header().size(), 21U);
+}
+
+TEST(UnitParameterList, MayBeEmpty) {
+    const auto decoded = decodeUnitParameters({});
+    EXPECT_EQ(decoded.record, UnitRecord());
+    EXPECT_EQ(decoded.displayText, "");
+}
+
+TEST(UnitParameterList, ShowsPortsUnsigned) {
+    const auto decoded =
+        decodeUnitParameters(joined({item("<T>", {0xFF, 0xFF}), item("<P>", {0x00, 0x00})}));
+    EXPECT_EQ(value(decoded.record, destinationPortNumberName), "65535");
+    EXPECT_EQ(value(decoded.record, devicePortNumberName), "0");
+}
+
+TEST(UnitParameterList, TakesEveryAddressAsItIs) {
+    const auto decoded = decodeUnitParameters(
+        joined({item("<I>", {255, 255, 255, 255}), item("<D>", {0, 0, 0, 0})}));
+    EXPECT_EQ(value(decoded.record, internalIPAddressName), "255.255.255.255");
+    EXPECT_EQ(value(decoded.record, destinationIPAddressName), "0.0.0.0");
+}
+
+TEST(UnitParameterList, TakesItemsInAnyOrder) {
+    const auto decoded = decodeUnitParameters(
+        joined({item("<S>", {1, 2, 3, 4, 5, 6}), item("<M>", {1, 2, 3, 4, 5, 6})}));
+    EXPECT_EQ(decoded.displayText, "\n\tserial number: 01 02 03 04 05 06"
+                                   "\n\tinternal MAC address: 01:02:03:04:05:06");
+}
+
+TEST(UnitParameterList, EndsQuietlyAtAnUnknownTag) {
+    for (const char* tag : {"<X>", "<m>", "<M]", "[M>", " <M"}) {
+        const auto decoded = decodeUnitParameters(joined(
+            {item("<T>", {0x0D, 0xC0}), item(tag, {1, 2, 3, 4, 5, 6}), item("<P>", {0, 80})}));
+        EXPECT_EQ(decoded.displayText, "\n\tdestination Port number: 3520") << tag;
+        EXPECT_EQ(decoded.record.names(), Names{destinationPortNumberName}) << tag;
+    }
+}
+
+TEST(UnitParameterList, EndsQuietlyAtOneOrTwoBytesMore) {
+    for (const char* rest : {"\r", "\r\n", "<M"}) {
+        const auto decoded =
+            decodeUnitParameters(joined({SampleUnit().parameterList(), textBytes(rest)}));
+        EXPECT_EQ(decoded.record, decodeUnitParameters(SampleUnit().parameterList()).record);
+    }
+}
+
+TEST(UnitParameterList, ShowsTheUninterpretedItemAndDoesNotKeepIt) {
+    const auto decoded = decodeUnitParameters(item("<O>", {1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(decoded.displayText, "\n\t<O>: 01:02:03:04:05:06");
+    EXPECT_EQ(decoded.record, UnitRecord());
+}
+
+TEST(UnitParameterList, KeepsTheLaterOfTwoItemsAndShowsBoth) {
+    const auto decoded =
+        decodeUnitParameters(joined({item("<I>", {10, 0, 0, 1}), item("<I>", {10, 0, 0, 2})}));
+    EXPECT_EQ(value(decoded.record, internalIPAddressName), "10.0.0.2");
+    EXPECT_EQ(decoded.displayText, "\n\tinternal IP address: 10.0.0.1"
+                                   "\n\tinternal IP address: 10.0.0.2");
+}
+
+TEST(UnitParameterList, LeavesOutAUnitIDThatIsNotUTF8) {
+    const Bytes notText{0xFF, 1, 2, 3, 4, 5};
+    const auto decoded = decodeUnitParameters(item("<U>", notText));
+    EXPECT_EQ(decoded.displayText, "\n\tunit ID: (null)");
+    EXPECT_EQ(decoded.record, UnitRecord());
+
+    const auto replaced =
+        decodeUnitParameters(joined({item("<U>", {0, 0, 0, 0, 0, 42}), item("<U>", notText)}));
+    EXPECT_EQ(replaced.displayText, "\n\tunit ID: 42\n\tunit ID: (null)");
+    EXPECT_EQ(replaced.record, UnitRecord());
+}
+
+TEST(UnitParameterList, ItemCutShortIsARangeFailure) {
+    for (const auto& [tag, length] : std::vector<std::pair<const char*, std::size_t>>{{"<M>", 6},
+                                                                                      {"<I>", 4},
+                                                                                      {"<D>", 4},
+                                                                                      {"<T>", 2},
+                                                                                      {"<P>", 2},
+                                                                                      {"<U>", 6},
+                                                                                      {"<C>", 6},
+                                                                                      {"<O>", 6},
+                                                                                      {"<S>", 6}}) {
+        for (std::size_t present = 0; present < length; ++present) {
+            const Bytes list = joined({item("<P>", {0, 80}), item(tag, Bytes(present, 1))});
+            EXPECT_THROW(decodeUnitParameters(list), RangeFailure) << tag << present;
+        }
+        const Bytes whole = item(tag, Bytes(length, 1));
+        EXPECT_EQ(linesIn(decodeUnitParameters(whole).displayText), 1) << tag;
+    }
+}
+
+TEST(UnitParameterList, MayHoldFarMoreItemsThanThereAreParameters) {
+    Bytes list;
+    for (int repeat = 0; repeat < 400; ++repeat) {
+        const Bytes one = item("<T>", {0x0D, static_cast<std::uint8_t>(repeat)});
+        list.insert(list.end(), one.begin(), one.end());
+    }
+    const auto decoded = decodeUnitParameters(list);
+    EXPECT_EQ(linesIn(decoded.displayText), 400);
+    EXPECT_EQ(value(decoded.record, destinationPortNumberName), std::to_string(0x0D00 + 399 % 256));
+}
+
+} // namespace kx

@@ -1,0 +1,65 @@
+#include "support/Require.h"
+
+#include "doubles/RecordedSystemLog.h"
+#include "support/SystemLog.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <cstdio>
+#include <source_location>
+#include <string>
+
+namespace kx {
+namespace {
+
+// A contract as modules state it, with the place of the check to compare the report with.
+std::source_location checkPort(int port) {
+    const auto here = std::source_location::current();
+    require(port > 0, "(port > 0) && (port < 65536)", "Sources/UDPEcho");
+    return here;
+}
+
+std::string reportOfBrokenContract() {
+    const std::string function = checkPort(1).function_name();
+    return "Assertion failed: ((port > 0) && (port < 65536)), function " + function +
+           ", Sources/UDPEcho";
+}
+
+TEST(Require, KeptContractSaysNothing) {
+    const RecordedSystemLog log;
+    checkPort(3520);
+    EXPECT_TRUE(log.lines().empty());
+}
+
+TEST(Require, ReportNamesTheFunctionThatChecks) {
+    EXPECT_NE(reportOfBrokenContract().find("checkPort"), std::string::npos);
+}
+
+TEST(RequireDeathTest, BrokenContractWritesOneLineAndAborts) {
+    const auto breakContract = [] {
+        installSystemLog(nullptr);
+        checkPort(0);
+    };
+    EXPECT_EXIT(breakContract(), testing::KilledBySignal(SIGABRT),
+                testing::Eq(reportOfBrokenContract() + "\n"));
+}
+
+TEST(RequireDeathTest, BrokenContractIsReportedToTheInstalledSink) {
+    class Marked final : public SystemLog {
+    public:
+        void write(std::string_view line) override {
+            std::fprintf(stderr, "<%s>", std::string(line).c_str());
+        }
+    };
+    const auto breakContract = [] {
+        Marked marked;
+        installSystemLog(&marked);
+        checkPort(0);
+    };
+    EXPECT_EXIT(breakContract(), testing::KilledBySignal(SIGABRT),
+                testing::Eq("<" + reportOfBrokenContract() + ">"));
+}
+
+} // namespace
+} // namespace kx

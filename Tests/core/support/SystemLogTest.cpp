@@ -1,0 +1,69 @@
+#include "support/SystemLog.h"
+
+#include "doubles/RecordedSystemLog.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kx {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+// Whatever was the process's log is out of the way while this lives.
+class NoSystemLog {
+public:
+    NoSystemLog()
+        : _previous(installSystemLog(nullptr)) {}
+    ~NoSystemLog() { installSystemLog(_previous); }
+    NoSystemLog(const NoSystemLog&) = delete;
+    NoSystemLog& operator=(const NoSystemLog&) = delete;
+
+private:
+    SystemLog* _previous;
+};
+
+TEST(SystemLog, LinesGoToTheInstalledSink) {
+    const RecordedSystemLog log;
+    logToSystem("first");
+    logToSystem("");
+    EXPECT_EQ(log.lines(), (Lines{"first", ""}));
+}
+
+TEST(SystemLog, OnlyTheInnermostSinkReceives) {
+    const RecordedSystemLog outer;
+    {
+        const RecordedSystemLog inner;
+        logToSystem("inner");
+        EXPECT_EQ(inner.lines(), Lines{"inner"});
+    }
+    logToSystem("outer");
+    EXPECT_EQ(outer.lines(), Lines{"outer"});
+}
+
+TEST(SystemLog, InstallingReturnsTheSinkBefore) {
+    const NoSystemLog quiet;
+    RecordedSystemLog log;
+    EXPECT_EQ(installSystemLog(nullptr), &log);
+    EXPECT_EQ(installSystemLog(&log), nullptr);
+}
+
+TEST(SystemLog, LinesGoToStandardErrorWithoutASink) {
+    const NoSystemLog quiet;
+    testing::internal::CaptureStderr();
+    logToSystem(std::string_view("a 100% line, cut").substr(0, 11));
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a 100% line\n");
+}
+
+TEST(SystemLog, LineWithAZeroByteIsWrittenWhole) {
+    using namespace std::string_literals;
+    const NoSystemLog quiet;
+    testing::internal::CaptureStderr();
+    logToSystem("a\0b"s);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\0b\n"s);
+}
+
+} // namespace
+} // namespace kx

@@ -1,0 +1,263 @@
+// The main window's controls in memory: they keep the rules of Outlets.h and let a test read what a
+// person would see, and do what a person would do.
+
+#pragma once
+
+#include "Outlets.h"
+#include "tables/GXArrayTable.h"
+#include "tables/TableViewDataSource.h"
+
+#include <algorithm>
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class RecordedPopUpButton final : public PopUpButton {
+public:
+    RecordedPopUpButton() = default;
+    explicit RecordedPopUpButton(const std::vector<std::string>& titles) {
+        RecordedPopUpButton::addItemsWithTitles(titles);
+    }
+
+    void removeAllItems() override {
+        _titles.clear();
+        _selected.reset();
+    }
+
+    void addItemsWithTitles(const std::vector<std::string>& titles) override {
+        for (const auto& title : titles) {
+            std::erase(_titles, title);
+            _titles.push_back(title);
+        }
+        if (!_selected.has_value()) {
+            selectItemAtIndex(0);
+        }
+    }
+
+    void selectItemAtIndex(int index) override {
+        if (index >= 0 && index < static_cast<int>(_titles.size())) {
+            _selected = _titles[static_cast<std::size_t>(index)];
+        }
+    }
+
+    void selectItemWithTitle(std::string_view title) override {
+        const bool exists = std::find(_titles.begin(), _titles.end(), title) != _titles.end();
+        _selected = exists ? std::optional<std::string>(title) : std::nullopt;
+    }
+
+    std::optional<std::string> titleOfSelectedItem() const override { return _selected; }
+
+    void setEnabled(bool enabled) override { _isEnabled = enabled; }
+
+    const std::vector<std::string>& titles() const { return _titles; }
+    bool isEnabled() const { return _isEnabled; }
+
+private:
+    std::vector<std::string> _titles;
+    std::optional<std::string> _selected;
+    bool _isEnabled = true;
+};
+
+class RecordedTextField final : public TextField {
+public:
+    void setStringValue(std::string_view text) override { _text = text; }
+    std::string stringValue() const override { return _text; }
+
+private:
+    std::string _text;
+};
+
+// Asks its data source only in reloadData(), and shows what it was told then.
+class RecordedTableView final : public TableView {
+public:
+    using Row = std::map<std::string, std::string>; // a cell's text by its column's identifier
+
+    // May be null, and is then connected later.
+    explicit RecordedTableView(TableViewDataSource* dataSource)
+        : _dataSource(dataSource) {}
+
+    void setDataSource(TableViewDataSource* dataSource) { _dataSource = dataSource; }
+
+    void reloadData() override {
+        ++_reloadCount;
+        _rows.clear();
+        for (int row = 0; row < _dataSource->numberOfRowsInTableView(); ++row) {
+            Row cells;
+            for (const char* const identifier : {"parameterName", "parameterValue"}) {
+                const auto value =
+                    _dataSource->tableViewObjectValueForTableColumnRow({identifier}, row);
+                cells[identifier] = value.has_value() ? value->description() : std::string();
+            }
+            _rows.push_back(std::move(cells));
+        }
+        if (_selectedRow >= static_cast<int>(_rows.size())) {
+            _selectedRow = -1;
+        }
+    }
+
+    int selectedRow() const override { return _selectedRow; }
+
+    // -1 selects nothing.
+    void selectRow(int row) { _selectedRow = row; }
+
+    // What a person does who types into a cell and ends the edit.
+    void typeIntoCell(int row, const std::string& identifier, const std::string& text) {
+        _dataSource->tableViewSetObjectValueForTableColumnRow(text, {identifier}, row);
+    }
+
+    const std::vector<Row>& rows() const { return _rows; }
+    int reloadCount() const { return _reloadCount; }
+
+private:
+    TableViewDataSource* _dataSource;
+    std::vector<Row> _rows;
+    int _selectedRow = -1;
+    int _reloadCount = 0;
+};
+
+class RecordedTextView final : public TextView {
+public:
+    void setString(std::string_view text) override {
+        _text = text;
+        _isEndVisible = false;
+    }
+
+    void insertAtEnd(std::string_view text) override {
+        _text += text;
+        _isEndVisible = false;
+        ++_insertCount;
+    }
+
+    void scrollEndToVisible() override {
+        _isEndVisible = true;
+        ++_scrollCount;
+    }
+
+    const std::string& text() const { return _text; }
+    bool isEndVisible() const { return _isEndVisible; }
+    int insertCount() const { return _insertCount; }
+    int scrollCount() const { return _scrollCount; }
+
+private:
+    std::string _text;
+    bool _isEndVisible = true;
+    int _insertCount = 0;
+    int _scrollCount = 0;
+};
+
+// Moves only when the test says so: open() and close() begin a movement, finishMoving() ends it.
+class RecordedDrawer final : public Drawer {
+public:
+    void open() override {
+        if (_state != DrawerState::open) {
+            _state = DrawerState::opening;
+        }
+    }
+    void close() override {
+        if (_state != DrawerState::closed) {
+            _state = DrawerState::closing;
+        }
+    }
+    DrawerState state() const override { return _state; }
+
+    void finishMoving() {
+        if (_state == DrawerState::opening) {
+            _state = DrawerState::open;
+        } else if (_state == DrawerState::closing) {
+            _state = DrawerState::closed;
+        }
+    }
+
+    void setState(DrawerState state) { _state = state; }
+
+private:
+    DrawerState _state = DrawerState::closed;
+};
+
+class RecordedWindow final : public Window {
+public:
+    bool makeFirstResponder() override {
+        if (_editRefusesToEnd) {
+            return false;
+        }
+        commitEdit();
+        return true;
+    }
+
+    void endEditing() override {
+        ++_endEditingCount;
+        commitEdit();
+    }
+
+    // An edit is open; `commit` stores what was typed, once, when the edit ends.
+    void beginEdit(std::function<void()> commit, bool refusesToEnd) {
+        _commit = std::move(commit);
+        _editRefusesToEnd = refusesToEnd;
+    }
+
+    int endEditingCount() const { return _endEditingCount; }
+
+private:
+    void commitEdit() {
+        const auto commit = std::exchange(_commit, nullptr);
+        _editRefusesToEnd = false;
+        if (commit) {
+            commit();
+        }
+    }
+
+    std::function<void()> _commit;
+    bool _editRefusesToEnd = false;
+    int _endEditingCount = 0;
+};
+
+class RecordedApplication final : public Application {
+public:
+    void terminate() override { ++_terminateCount; }
+
+    int terminateCount() const { return _terminateCount; }
+
+private:
+    int _terminateCount = 0;
+};
+
+// All controls of the main window, with the ports and options that the real one offers.
+struct RecordedMainWindow {
+    RecordedWindow window;
+    RecordedPopUpButton interfacePopUp;
+    RecordedPopUpButton udpPortPopUp{{"3520", "3521", "3522", "3523"}};
+    RecordedPopUpButton unitSelectPopUp;
+    RecordedTextField unitIDField;
+    GXArrayTable unitParameterTable;
+    RecordedTableView unitParameterTableView{&unitParameterTable};
+    RecordedTableView editParameterTableView{nullptr}; // to be connected to the controller
+    RecordedPopUpButton optionCommandPopUp{{"V  Version", "-Z  Set clock"}};
+    RecordedTextField optionCommandField;
+    RecordedDrawer eventLogDrawer;
+    RecordedTextView logTextView;
+
+    MainWindowOutlets outlets() {
+        MainWindowOutlets outlets;
+        outlets.window = &window;
+        outlets.interfacePopUp = &interfacePopUp;
+        outlets.udpPortPopUp = &udpPortPopUp;
+        outlets.unitSelectPopUp = &unitSelectPopUp;
+        outlets.unitIDField = &unitIDField;
+        outlets.unitParameterTableView = &unitParameterTableView;
+        outlets.unitParameterTable = &unitParameterTable;
+        outlets.editParameterTableView = &editParameterTableView;
+        outlets.optionCommandPopUp = &optionCommandPopUp;
+        outlets.optionCommandField = &optionCommandField;
+        outlets.eventLogDrawer = &eventLogDrawer;
+        outlets.logTextView = &logTextView;
+        return outlets;
+    }
+};
+
+} // namespace kx

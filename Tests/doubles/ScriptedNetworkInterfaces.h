@@ -1,0 +1,80 @@
+// The host's network interfaces as a test wants them.
+
+#pragma once
+
+#include "System Configuration/NetworkInterfaces.h"
+
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class ScriptedNetworkInterfaces final : public NetworkInterfaces {
+public:
+    // Appends an interface to those that are offered. `serviceID` is the identifier that belongs to
+    // the title.
+    void addTitle(std::string title, std::string serviceID) {
+        _titles.push_back(std::move(title));
+        _serviceIDs.push_back(std::move(serviceID));
+    }
+
+    // Says which configured service an interface has.
+    void setService(std::string bsdName, std::string serviceID) {
+        _services[std::move(bsdName)] = std::move(serviceID);
+    }
+
+    void setData(std::string serviceID, std::string dictionaryName, std::string key,
+                 PropertyListValue value) {
+        _data.insert_or_assign({std::move(serviceID), std::move(dictionaryName), std::move(key)},
+                               std::move(value));
+    }
+
+    // A configured service with one IPv4 address, the usual case, in one call.
+    void addService(const std::string& name, const std::string& bsdName, const std::string& address,
+                    const std::string& mask) {
+        const std::string serviceID = "service-" + bsdName;
+        addTitle(name + " (" + bsdName + ")", serviceID);
+        setService(bsdName, serviceID);
+        setData(serviceID, "IPv4", "Addresses", PropertyList{address});
+        setData(serviceID, "IPv4", "SubnetMasks", PropertyList{mask});
+    }
+
+    std::optional<std::vector<std::string>>
+    bsdTitlesAndServiceIDs(std::vector<std::string>* serviceIDs) override {
+        if (_titles.empty()) {
+            return std::nullopt;
+        }
+        if (serviceIDs != nullptr) {
+            *serviceIDs = _serviceIDs;
+        }
+        return _titles;
+    }
+
+    std::optional<std::string> serviceIDForInterface(std::string_view bsdName) override {
+        const auto found = _services.find(bsdName);
+        return found != _services.end() ? std::optional(found->second) : std::nullopt;
+    }
+
+    std::optional<PropertyListValue>
+    serviceDataForDictionaryNameKey(std::string_view serviceID, std::string_view dictionaryName,
+                                    std::string_view key) override {
+        const auto found =
+            _data.find({std::string(serviceID), std::string(dictionaryName), std::string(key)});
+        return found != _data.end() ? std::optional(found->second) : std::nullopt;
+    }
+
+private:
+    using DataKey = std::tuple<std::string, std::string, std::string>;
+
+    std::vector<std::string> _titles;
+    std::vector<std::string> _serviceIDs;
+    std::map<std::string, std::string, std::less<>> _services;
+    std::map<DataKey, PropertyListValue> _data;
+};
+
+} // namespace kx

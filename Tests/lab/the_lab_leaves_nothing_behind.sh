@@ -1,0 +1,96 @@
+#!/usr/bin/env bash
+# The lab seen from outside: what it passes on, and what is left when it has ended.
+set -euo pipefail
+here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+# shellcheck source=Tests/lab/expectations.sh
+source "$here/expectations.sh"
+skip_without_namespaces
+
+lab=$(readlink -f -- "$here/../../scripts/lab")
+scratch=$(mktemp -d)
+trap 'rm -rf -- "$scratch"' EXIT
+mkdir -- "$scratch/a name with blanks" "$scratch/temporary"
+export TMPDIR=$scratch/temporary
+record="$scratch/a name with blanks/the record"
+
+# Run inside the lab: leaves the process and the namespaces of the lab in the file `traces`.
+# shellcheck disable=SC2016
+leave_traces='
+    read -ra children <"/proc/$PPID/task/$PPID/children"
+    for child in "${children[@]}"; do
+        [[ $(<"/proc/$child/comm") != kxunits ]] || units=$child
+    done
+    printf "%s\n" "$units" "$(readlink "/proc/$units/ns/net")" "$(readlink /proc/self/ns/net)" \
+        >"$1.new"
+    mv "$1.new" "$1"
+    eval "$2"'
+
+has_traces() { [[ -e $scratch/traces ]]; }
+
+nothing_runs() {
+    local units namespaces
+    { read -r units; mapfile -t namespaces; } <"$scratch/traces"
+    ! kill -0 "$units" 2>/dev/null || return 1
+    local process
+    for process in /proc/[0-9]*/ns/net; do
+        local namespace
+        namespace=$(readlink "$process" 2>/dev/null) || continue
+        [[ $namespace != "${namespaces[0]}" && $namespace != "${namespaces[1]}" ]] || return 1
+    done
+}
+
+expect_nothing_left() {
+    has_traces || fail "$1: the command did not run"
+    nothing_runs || fail "$1: a process or a namespace is left: $(<"$scratch/traces")"
+    expect_equal "$1: temporary files" '' "$(ls -A -- "$TMPDIR")"
+    rm -- "$scratch/traces"
+}
+
+# The status of a lab that runs `$1` in the shell.
+status_of() {
+    local status=0
+    "$lab" --record "$record" -- bash -c "$leave_traces" - "$scratch/traces" "$1" || status=$?
+    printf '%s' "$status"
+}
+
+expect_equal 'the status of a command that succeeds' 0 "$(status_of true)"
+expect_nothing_left 'after success'
+expect_equal 'the status of a command that fails' 7 "$(status_of 'exit 7')"
+expect_nothing_left 'after failure'
+# shellcheck disable=SC2016
+expect_equal 'the status of a command that a signal ends' 137 \
+    "$(status_of 'kill -KILL $$' 2>/dev/null)"
+expect_nothing_left 'after a signal to the command'
+expect_equal 'states in the record of the last run' 3 "$(grep -c '^state ' "$record")"
+
+# A signal to the lab alone reaches the command, and the lab ends in order.
+for signal in TERM INT KILL; do
+    env --default-signal=INT "$lab" --record "$record" -- \
+        bash -c "$leave_traces" - "$scratch/traces" 'exec sleep 50' 2>/dev/null &
+    lab_pid=$!
+    eventually has_traces || fail "the command did not start before SIG$signal"
+    kill "-$signal" "$lab_pid"
+    status=0
+    wait "$lab_pid" 2>/dev/null || status=$?
+    expect_equal "the status after SIG$signal" "$((128 + $(kill -l "$signal")))" "$status"
+    # A lab that was killed cannot clean up; what it started ends by itself.
+    if [[ $signal == KILL ]]; then
+        eventually nothing_runs || fail 'a process is left after SIGKILL'
+        rm -rf -- "$scratch/traces" "${TMPDIR:?}"/*
+    else
+        expect_nothing_left "after SIG$signal"
+        expect_equal "states in the record after SIG$signal" 3 "$(grep -c '^state ' "$record")"
+    fi
+done
+
+# Units that cannot start are a failure of the lab, not of the command.
+status=0
+"$lab" --units-options '--nonsense 1' -- touch "$scratch/ran" 2>/dev/null || status=$?
+expect_equal 'the status when the units do not start' 125 "$status"
+[[ ! -e $scratch/ran ]] || fail 'the command ran without units'
+expect_equal 'temporary files after a failed start' '' "$(ls -A -- "$TMPDIR")"
+
+# The programs may lie in a folder whose name has blanks.
+ln -s -- "${KX_BUILD_DIR:-$here/../../build/dev}" "$scratch/a name with blanks/build"
+KX_BUILD_DIR="$scratch/a name with blanks/build" "$lab" -- true ||
+    fail 'a build folder with blanks in its name is not found'

@@ -1,0 +1,89 @@
+#include "PollLoopDriver.h"
+#include "contracts/PipeDescriptors.h"
+#include "contracts/RunLoopContract.h"
+
+namespace kx {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::steady_clock;
+
+class PollRunLoopTrait {
+public:
+    RunLoop& runLoop() { return _loop; }
+    int newDescriptor() { return _pipes.newDescriptor(); }
+    void setReadable(int descriptor, bool readable) { _pipes.setReadable(descriptor, readable); }
+    bool runUntil(const std::function<bool()>& condition) { return runLoopUntil(_loop, condition); }
+    void runFor(milliseconds time) { runLoopFor(_loop, time); }
+    std::chrono::nanoseconds now() { return steady_clock::now().time_since_epoch(); }
+
+private:
+    PipeDescriptors _pipes;
+    PollRunLoop _loop;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopContract, PollRunLoopTrait);
+
+} // namespace
+
+TEST(PollRunLoop, RunsUntilItIsStopped) {
+    PollRunLoop loop;
+    int turns = 0;
+    RunLoop::Handle call;
+    std::function<void()> again = [&] {
+        if (++turns == 3) {
+            loop.stop();
+        }
+        call = loop.callOnceAfter(milliseconds(0), again);
+    };
+    call = loop.callOnceAfter(milliseconds(0), again);
+    loop.run();
+    EXPECT_EQ(turns, 3);
+}
+
+TEST(PollRunLoop, AStopBeforeTheRunIsWithoutEffect) {
+    PollRunLoop loop;
+    bool wasCalled = false;
+    loop.stop();
+    const auto call = loop.callOnceAfter(milliseconds(1), [&] {
+        wasCalled = true;
+        loop.stop();
+    });
+    loop.run();
+    EXPECT_TRUE(wasCalled);
+}
+
+TEST(PollRunLoop, ATurnWaitsNoLongerThanItIsTold) {
+    PollRunLoop loop;
+    int calls = 0;
+    const auto call = loop.callOnceAfter(std::chrono::hours(1), [&] { ++calls; });
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(loop.runOnce(milliseconds(5)));
+    EXPECT_FALSE(loop.runOnce(milliseconds(-5)));
+    EXPECT_LT(steady_clock::now() - start, std::chrono::seconds(2));
+    EXPECT_EQ(calls, 0);
+}
+
+TEST(PollRunLoop, AWaitForADueTimeIsOneTurn) {
+    PollRunLoop loop;
+    int calls = 0;
+    const auto call = loop.callOnceAfter(milliseconds(20), [&] { ++calls; });
+    EXPECT_TRUE(loop.runOnce());
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(PollRunLoop, AHangUpCountsAsReadable) {
+    PollRunLoop loop;
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    int calls = 0;
+    auto watch = loop.watchForReading(ends[0], [&] { ++calls; });
+    ::close(ends[1]);
+    EXPECT_TRUE(loop.runOnce(std::chrono::seconds(5)));
+    EXPECT_EQ(calls, 1);
+    watch.reset();
+    ::close(ends[0]);
+}
+
+} // namespace kx

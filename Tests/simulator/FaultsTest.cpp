@@ -1,0 +1,108 @@
+#include "Simulator/Faults.h"
+
+#include "simulator/Literals.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+namespace kx::simulator {
+namespace {
+
+using std::chrono::milliseconds;
+
+const Bytes kReply = bytesOfText("a reply of some twenty bytes");
+
+// What happens to `count` equal replies, as one list.
+std::vector<Delivery> deliveriesOf(const FaultPlan& plan, int count) {
+    Faults faults(plan);
+    std::vector<Delivery> all;
+    for (; count != 0; --count) {
+        for (Delivery& delivery : faults.deliveriesOf(kReply))
+            all.push_back(std::move(delivery));
+    }
+    return all;
+}
+
+bool same(const std::vector<Delivery>& left, const std::vector<Delivery>& right) {
+    return std::ranges::equal(left, right, [](const Delivery& one, const Delivery& other) {
+        return one.delay == other.delay && one.payload == other.payload;
+    });
+}
+
+TEST(Faults, WithoutAPlanEveryReplyLeavesOnceAndAtOnce) {
+    const auto deliveries = deliveriesOf({}, 100);
+    ASSERT_EQ(deliveries.size(), 100U);
+    for (const Delivery& delivery : deliveries) {
+        EXPECT_EQ(delivery.delay, milliseconds(0));
+        EXPECT_EQ(delivery.payload, kReply);
+    }
+}
+
+TEST(Faults, LateRepliesWaitAsLongAsTold) {
+    const auto deliveries = deliveriesOf({.late = milliseconds(2500)}, 1);
+    ASSERT_EQ(deliveries.size(), 1U);
+    EXPECT_EQ(deliveries[0].delay, milliseconds(2500));
+}
+
+TEST(Faults, ShareOfLostRepliesIsAboutThePercentage) {
+    EXPECT_EQ(deliveriesOf({.losePercent = 100}, 1000).size(), 0U);
+    const std::size_t left = deliveriesOf({.losePercent = 30}, 1000).size();
+    EXPECT_GT(left, 650U);
+    EXPECT_LT(left, 750U);
+}
+
+TEST(Faults, DuplicatesAreEqualAndFollowEachOther) {
+    const auto deliveries = deliveriesOf({.duplicatePercent = 100}, 10);
+    ASSERT_EQ(deliveries.size(), 20U);
+    for (const Delivery& delivery : deliveries)
+        EXPECT_EQ(delivery.payload, kReply);
+}
+
+TEST(Faults, OvertakenRepliesWaitBesidesBeingLate) {
+    std::set<milliseconds> delays;
+    for (const Delivery& delivery :
+         deliveriesOf({.late = milliseconds(10), .reorderPercent = 50}, 100))
+        delays.insert(delivery.delay);
+    EXPECT_EQ(delays, (std::set{milliseconds(10), milliseconds(10) + kOvertakingTime}));
+}
+
+TEST(Faults, TruncatedRepliesKeepTheirBeginning) {
+    const auto cut = deliveriesOf({.truncatedLength = 5}, 1);
+    ASSERT_EQ(cut.size(), 1U);
+    EXPECT_EQ(cut[0].payload, bytesOfText("a rep"));
+    EXPECT_TRUE(deliveriesOf({.truncatedLength = 0}, 1)[0].payload.empty());
+    EXPECT_EQ(deliveriesOf({.truncatedLength = 500}, 1)[0].payload, kReply);
+}
+
+TEST(Faults, MalformedRepliesAreShorterLongerOrOfOtherBytes) {
+    bool shorter = false;
+    bool longer = false;
+    bool otherBytes = false;
+    for (const Delivery& delivery : deliveriesOf({.malformPercent = 100}, 500)) {
+        EXPECT_NE(delivery.payload, kReply);
+        EXPECT_LE(delivery.payload.size(), kReply.size() + 200);
+        shorter |= delivery.payload.size() < kReply.size();
+        longer |= delivery.payload.size() > kReply.size();
+        otherBytes |= delivery.payload.size() == kReply.size();
+    }
+    EXPECT_TRUE(shorter);
+    EXPECT_TRUE(longer);
+    EXPECT_TRUE(otherBytes);
+}
+
+TEST(Faults, EqualSeedsGiveEqualFaults) {
+    FaultPlan plan{.losePercent = 20,
+                   .duplicatePercent = 20,
+                   .reorderPercent = 20,
+                   .malformPercent = 20,
+                   .seed = 7};
+    const auto first = deliveriesOf(plan, 200);
+    EXPECT_TRUE(same(first, deliveriesOf(plan, 200)));
+    plan.seed = 8;
+    EXPECT_FALSE(same(first, deliveriesOf(plan, 200)));
+}
+
+} // namespace
+} // namespace kx::simulator
