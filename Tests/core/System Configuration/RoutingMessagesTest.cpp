@@ -1,10 +1,12 @@
 #include "System Configuration/RoutingMessages.h"
+
 #include "doubles/GuardedBytes.h"
 #include "doubles/RoutingMessageBuilder.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <bit>
 #include <random>
 
 namespace kx {
@@ -270,7 +272,7 @@ TEST(RoutingMessages, NoTruncationOfAListIsReadBeyondItsEnd) {
 TEST(RoutingMessages, NoChangedByteOfAListIsReadBeyondItsEnd) {
     const auto builder = severalMessages();
     for (std::size_t i = 0; i < builder.bytes().size(); ++i) {
-        for (const std::uint8_t value : {0, 1, 4, 14, 18, 127, 255}) {
+        for (const std::uint8_t value : Bytes{0, 1, 4, 14, 18, 127, 255}) {
             auto bytes = builder.bytes();
             bytes[i] = value;
             readAll(bytes);

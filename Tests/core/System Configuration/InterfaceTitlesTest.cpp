@@ -60,6 +60,9 @@ TEST(InterfaceTitles, TheSystemsNameOfATitleIsThatOfItsIdentifier) {
     EXPECT_EQ(bsdNameForTitle("Ethernet (en0)"), "en0");
     EXPECT_EQ(bsdNameForTitle("en0:1"), "en0");
     EXPECT_EQ(bsdNameForTitle("12:00 (en0)"), "en0");
+    EXPECT_EQ(bsdNameForTitle("Home (office) (wlan0)"), "wlan0");
+    EXPECT_EQ(bsdNameForTitle("Ethernet ("), "");
+    EXPECT_EQ(bsdNameForTitle("Ethernet ()"), "");
     EXPECT_EQ(bsdNameForTitle(""), "");
 }
 
