@@ -1,5 +1,5 @@
-// Comparisons: two benchmarks that do the same thing in two ways, run interleaved in one process and
-// printed as the ratio of their times.
+// Comparisons: two benchmarks that do the same thing in two ways, run interleaved in one process
+// and printed as the ratio of their times.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// Decoding the 81-byte reply's parameter list, beside the code that one would write first: a map from
-// name to text, and a stream for each text.
+// Decoding the 81-byte reply's parameter list, beside the code that one would write first: a map
+// from name to text, and a stream for each text.
 
 #include "Comparison.h"
 #include "UnitParameters.h"
@@ -14,11 +14,11 @@ namespace kx {
 
 namespace {
 
-const Bytes parameterList = {
-    '<', 'M', '>', 0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E, '<', 'I', '>', 192,  168,  1,
-    10,  '<', 'D', '>',  192,  168,  1,    1,    '<',  'T', '>', 0x0D, 0xC0, '<',  'P',
-    '>', 0x27, 0x10, '<', 'U', '>', 0,    0,    0,    0,   0,   0x2A, '<', 'C',  '>',
-    0x00, 0x0A, 0x0B, 0x0C, 0x0D, 0x0E, '<', 'S', '>', 1,   2,   3,    4,   5,    6};
+const Bytes parameterList = {'<',  'M',  '>',  0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E, '<',  'I',  '>',
+                             192,  168,  1,    10,   '<',  'D',  '>',  192,  168,  1,    1,    '<',
+                             'T',  '>',  0x0D, 0xC0, '<',  'P',  '>',  0x27, 0x10, '<',  'U',  '>',
+                             0,    0,    0,    0,    0,    0x2A, '<',  'C',  '>',  0x00, 0x0A, 0x0B,
+                             0x0C, 0x0D, 0x0E, '<',  'S',  '>',  1,    2,    3,    4,    5,    6};
 
 struct PlainUnit {
     std::map<std::string, std::string> record;
@@ -53,9 +53,9 @@ std::string plainText(char tag, const std::string& value) {
 
 PlainUnit plainDecode(const Bytes& list) {
     static const std::map<std::string, std::pair<std::string, std::size_t>> items = {
-        {"<M>", {"internal MAC address", 6}},   {"<I>", {"internal IP address", 4}},
-        {"<D>", {"destination IP address", 4}}, {"<T>", {"destination Port number", 2}},
-        {"<P>", {"device Port number", 2}},     {"<U>", {"unit ID", 6}},
+        {"<M>", {"internal MAC address", 6}},    {"<I>", {"internal IP address", 4}},
+        {"<D>", {"destination IP address", 4}},  {"<T>", {"destination Port number", 2}},
+        {"<P>", {"device Port number", 2}},      {"<U>", {"unit ID", 6}},
         {"<C>", {"destination MAC address", 6}}, {"<S>", {"serial number", 6}}};
     PlainUnit unit;
     std::string rest(list.begin(), list.end());
@@ -90,8 +90,8 @@ void decode(benchmark::State& state) {
 }
 BENCHMARK(decode);
 
-const Comparison comparison("decode the 81-byte reply, beside std::string and std::map code", "decode",
-                            "decodePlainly");
+const Comparison comparison("decode the 81-byte reply, beside std::string and std::map code",
+                            "decode", "decodePlainly");
 
 } // namespace
 

@@ -6,7 +6,6 @@
 #include <QGenericPlugin>
 #include <QTimer>
 #include <QWidget>
-
 #include <chrono>
 #include <cstdio>
 

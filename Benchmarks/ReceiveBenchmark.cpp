@@ -6,21 +6,18 @@
 #include "Comparison.h"
 #include "UDPEcho.h"
 #include "addresses/SocketAddressRecord.h"
+#include "doubles/ScriptedHostResolver.h"
 #include "platform/posix/PollRunLoop.h"
 #include "platform/qt/QtRunLoop.h"
 
-#include "doubles/ScriptedHostResolver.h"
-
-#include <benchmark/benchmark.h>
-
-#include <QApplication>
-
 #include <arpa/inet.h>
+#include <benchmark/benchmark.h>
 #include <netinet/in.h>
 #include <sys/epoll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <QApplication>
 #include <array>
 #include <chrono>
 #include <functional>
@@ -36,7 +33,8 @@ constexpr std::uint32_t loopbackAddress = 0x7F000001;
 // Sends from a socket of its own to the port on loopback.
 class Sender {
 public:
-    Sender() : _socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
+    Sender()
+        : _socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
         _address.sin_family = AF_INET;
         _address.sin_port = htons(port);
         _address.sin_addr.s_addr = htonl(loopbackAddress);

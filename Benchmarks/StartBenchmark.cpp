@@ -1,11 +1,10 @@
-// From the start of the process to the first paint of its window, for the application and for an empty
-// window with the same controls. Each runs off screen in a network namespace of its own, where its
-// first broadcast reaches nobody.
+// From the start of the process to the first paint of its window, for the application and for an
+// empty window with the same controls. Each runs off screen in a network namespace of its own,
+// where its first broadcast reaches nobody.
 
 #include "Comparison.h"
 
 #include <benchmark/benchmark.h>
-
 #include <sched.h>
 #include <sys/wait.h>
 #include <unistd.h>

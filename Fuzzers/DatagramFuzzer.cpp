@@ -37,13 +37,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     ManualRunLoop runLoop;
     ScriptedHostResolver resolver;
     ScriptedSystemCalls systemCalls;
-    const FixedWallClock wallClock;
+    const FixedWallClock wallClock(2026, 3, 5, 14, 7, 0);
     RecordedApplication application;
-    RecordedOutlets outlets;
-    outlets.udpPortPopUp.addItemsWithTitles({"3520"});
-    outlets.optionCommandPopUp.addItemsWithTitles({"V  Version"});
-    KXConfigAppDelegate controller(outlets.outlets(), {runLoop, resolver, systemCalls, wallClock,
-                                                       application, nullptr});
+    RecordedMainWindow window;
+    KXConfigAppDelegate controller(
+        window.outlets(), {runLoop, resolver, systemCalls, wallClock, application, nullptr, {}});
     controller.applicationDidFinishLaunching();
 
     const Bytes sender = dataForAddress(0xC0000202, 3520);
@@ -56,7 +54,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     runLoop.advanceBy(std::chrono::seconds(3));
 
-    promise(controller.devices().size() <= datagrams.size(), "a datagram registers one unit at most");
+    promise(controller.devices().size() <= datagrams.size(),
+            "a datagram registers one unit at most");
     promise(controller.selectedUnit().has_value() == !controller.devices().empty(),
             "a completed discovery selects a unit when there is one");
     controller.applicationWillTerminate();

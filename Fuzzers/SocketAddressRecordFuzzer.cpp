@@ -14,8 +14,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (family == addressFamilyIPv4) {
         std::uint32_t againAddress = 0;
         std::uint16_t againPort = 0;
-        promise(addressForData(dataForAddress(address, port), againAddress, address6,
-                               &againPort) == addressFamilyIPv4,
+        promise(addressForData(dataForAddress(address, port), againAddress, address6, &againPort) ==
+                    addressFamilyIPv4,
                 "a rebuilt record has the same family");
         promise(address == againAddress && port == againPort, "a rebuilt record says the same");
     } else if (family == addressFamilyIPv6) {

@@ -18,10 +18,13 @@ std::optional<TimePoint> DelayedFrames::nextDue() const {
     return _frames.begin()->first;
 }
 
-std::optional<Bytes> DelayedFrames::takeDue(TimePoint now) {
-    if (_frames.empty() || _frames.begin()->first > now)
-        return std::nullopt;
-    return std::move(_frames.extract(_frames.begin()).mapped());
+std::vector<Bytes> DelayedFrames::takeDue(TimePoint now) {
+    const auto end = _frames.upper_bound(now);
+    std::vector<Bytes> due;
+    for (auto frame = _frames.begin(); frame != end; ++frame)
+        due.push_back(std::move(frame->second));
+    _frames.erase(_frames.begin(), end);
+    return due;
 }
 
 } // namespace kx::simulator

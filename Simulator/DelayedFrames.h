@@ -24,8 +24,8 @@ public:
     // When the next frame leaves; nothing when none waits.
     std::optional<TimePoint> nextDue() const;
 
-    // The next frame that is due at `now`, taken out; nothing when there is none.
-    std::optional<Bytes> takeDue(TimePoint now);
+    // The frames that are due at `now`, taken out.
+    std::vector<Bytes> takeDue(TimePoint now);
 
 private:
     std::size_t _capacity;

@@ -22,7 +22,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// At most about 50 MB of frames wait; 10,000 units can be 20 answers behind.
+// At most about 60 MB of frames wait; 10,000 units can be 20 answers behind.
 constexpr std::size_t kMostDelayedFrames = 200'000;
 
 // A descriptor that is readable once the process has been asked to end.
@@ -79,8 +79,8 @@ public:
                 dispatch(std::move(answers));
             }
             dispatch(_network.unsolicitedReplies(_flood.take(Clock::now())));
-            while (const auto due = _delayed.takeDue(Clock::now()))
-                _link.send(*due);
+            for (const Bytes& due : _delayed.takeDue(Clock::now()))
+                _link.send(due);
         }
     }
 

@@ -98,19 +98,19 @@ void UDPEcho::startServerOnPort(std::size_t port) {
     _port = port;
     if (_delegate != nullptr) {
         const auto localAddress = _systemCalls.localAddress(nativeSocket());
-        require(localAddress.has_value(), "localAddress != NULL", sourcePath);
-        _delegate->echoDidStartWithAddress(*this, *localAddress);
+        _delegate->echoDidStartWithAddress(
+            *this, requireValue(localAddress, "localAddress != NULL", sourcePath));
     }
 }
 
 void UDPEcho::startConnectedToHostNamePort(const std::optional<std::string>& hostName,
                                            std::size_t port) {
-    require(hostName.has_value(), "hostName != nil", sourcePath);
+    const std::string& name = requireValue(hostName, "hostName != nil", sourcePath);
     require((port > 0) && (port < 65536), "(port > 0) && (port < 65536)", sourcePath);
     require(_port == 0, "self.port == 0", sourcePath);
     require(_cfHost == nullptr, "self->_cfHost == NULL", sourcePath);
 
-    _cfHost = _hostResolver.requestForHostName(*hostName);
+    _cfHost = _hostResolver.requestForHostName(name);
     require(_cfHost != nullptr, "self->_cfHost != NULL", sourcePath);
 
     const auto report = [this, host = _cfHost.get()](const HostResolution& resolution) {
@@ -122,7 +122,7 @@ void UDPEcho::startConnectedToHostNamePort(const std::optional<std::string>& hos
         _stopWithStreamError(streamError);
         return;
     }
-    _hostName = hostName;
+    _hostName = name;
     _port = port;
 }
 
@@ -195,17 +195,16 @@ void UDPEcho::_hostResolutionDone(const HostResolution& resolution) {
         _hostAddress = _systemCalls.peerAddress(nativeSocket());
         require(_hostAddress.has_value(), "hostAddress != NULL", sourcePath);
     }
-    if (!_hostAddress.has_value() && !error.has_value()) {
-        error = Error{std::string(kCFErrorDomainCFNetwork), kCFHostErrorHostNotFound, std::nullopt};
-    }
-    if (error.has_value()) {
-        _stopWithError(error);
+    const std::optional<Bytes> hostAddress = _hostAddress; // the delegate may stop the endpoint
+    if (!hostAddress.has_value()) {
+        const Error notFound{std::string(kCFErrorDomainCFNetwork), kCFHostErrorHostNotFound,
+                             std::nullopt};
+        _stopWithError(error.value_or(notFound));
         return;
     }
     _stopHostResolution();
     if (_delegate != nullptr) {
-        const Bytes hostAddress = *_hostAddress; // the delegate may stop the endpoint
-        _delegate->echoDidStartWithAddress(*this, hostAddress);
+        _delegate->echoDidStartWithAddress(*this, *hostAddress);
     }
 }
 
@@ -235,7 +234,7 @@ void UDPEcho::sendData(const std::optional<Bytes>& data) {
 
 void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
                                  const std::optional<Bytes>& address) {
-    require(data.has_value(), "data != nil", sourcePath);
+    const Bytes& bytes = requireValue(data, "data != nil", sourcePath);
     require(address.has_value() == isServer(), "(addr != nil) == self.isServer", sourcePath);
     require(!address.has_value() || address->size() <= longestRecordLength,
             "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", sourcePath);
@@ -243,25 +242,26 @@ void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
     require(sock >= 0, "sock >= 0", sourcePath);
 
     // A copy, since the delegate may stop the endpoint.
-    const std::optional<Bytes> addr = address.has_value() ? address : _hostAddress;
-    require(addr.has_value(), "addr != nil", sourcePath);
+    const std::optional<Bytes> destination = address.has_value() ? address : _hostAddress;
+    const Bytes& addr = requireValue(destination, "addr != nil", sourcePath);
 
-    const ByteView destination = address.has_value() ? ByteView(*address) : ByteView();
-    const ssize_t bytesWritten = _systemCalls.sendTo(sock, *data, destination);
+    // A connected socket is given no address.
+    const ByteView addressToSend = address.has_value() ? ByteView(addr) : ByteView();
+    const ssize_t bytesWritten = _systemCalls.sendTo(sock, bytes, addressToSend);
     int err = 0;
     if (bytesWritten < 0) {
         err = errno;
     } else if (bytesWritten == 0) {
         err = EPIPE;
     } else {
-        require(static_cast<std::size_t>(bytesWritten) == data->size(),
+        require(static_cast<std::size_t>(bytesWritten) == bytes.size(),
                 "(NSUInteger) bytesWritten == [data length]", sourcePath);
     }
 
     if (_delegate != nullptr && err == 0) {
-        _delegate->echoDidSendDataToAddress(*this, *data, *addr);
+        _delegate->echoDidSendDataToAddress(*this, bytes, addr);
     } else if (_delegate != nullptr) {
-        _delegate->echoDidFailToSendDataToAddressError(*this, *data, *addr, posixError(err));
+        _delegate->echoDidFailToSendDataToAddressError(*this, bytes, addr, posixError(err));
     }
 }
 
@@ -273,11 +273,11 @@ void UDPEcho::_readData() {
     Bytes sender;
     const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, sender);
     if (bytesRead > 0) {
-        const auto dataObj = copyOfBytes(buffer, static_cast<std::size_t>(bytesRead));
-        require(dataObj.has_value(), "dataObj != nil", sourcePath);
+        const auto copy = copyOfBytes(buffer, static_cast<std::size_t>(bytesRead));
+        const Bytes& dataObj = requireValue(copy, "dataObj != nil", sourcePath);
         require(!sender.empty(), "addrObj != nil", sourcePath);
         if (_delegate != nullptr) {
-            _delegate->echoDidReceiveDataFromAddress(*this, *dataObj, sender);
+            _delegate->echoDidReceiveDataFromAddress(*this, dataObj, sender);
         }
         return;
     }
@@ -302,11 +302,11 @@ void UDPEcho::_stopHostResolution() {
 }
 
 void UDPEcho::_stopWithError(const std::optional<Error>& error) {
-    require(error.has_value(), "error != nil", sourcePath);
+    const Error& reason = requireValue(error, "error != nil", sourcePath);
     stop();
     if (_delegate != nullptr) {
         const auto self = shared_from_this(); // the delegate may release the endpoint
-        _delegate->echoDidStopWithError(*this, *error);
+        _delegate->echoDidStopWithError(*this, reason);
     }
 }
 

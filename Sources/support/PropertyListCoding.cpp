@@ -136,7 +136,7 @@ private:
             }
             elements.push_back(std::move(*element));
         }
-        return std::optional<PropertyListValue>(std::move(elements));
+        return PropertyListValue(std::move(elements));
     }
 
     std::optional<PropertyListValue> dictionary(int nestingLeft) {
@@ -156,7 +156,7 @@ private:
             }
             elements.emplace_hint(elements.end(), std::move(*key), std::move(*element));
         }
-        return std::optional<PropertyListValue>(std::move(elements));
+        return PropertyListValue(std::move(elements));
     }
 
     ByteView _rest;

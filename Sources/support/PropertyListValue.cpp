@@ -26,6 +26,12 @@ std::string dictionaryDescription(const PropertyDictionary& dictionary) {
 
 } // namespace
 
+PropertyListValue::~PropertyListValue() = default;
+PropertyListValue::PropertyListValue(const PropertyListValue& other) = default;
+PropertyListValue::PropertyListValue(PropertyListValue&& other) noexcept = default;
+PropertyListValue& PropertyListValue::operator=(const PropertyListValue& other) = default;
+PropertyListValue& PropertyListValue::operator=(PropertyListValue&& other) noexcept = default;
+
 std::string PropertyListValue::description() const {
     if (const auto* asText = text()) {
         return *asText;

@@ -10,6 +10,7 @@
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -37,6 +38,14 @@ public:
         : _value(std::move(list)) {} // NOLINT
     PropertyListValue(PropertyDictionary dictionary)
         : _value(std::move(dictionary)) {} // NOLINT
+
+    // Out of line: inlined into every user, the variant's own are large, and compilers warn there
+    // of the kinds that it does not hold.
+    ~PropertyListValue();
+    PropertyListValue(const PropertyListValue& other);
+    PropertyListValue(PropertyListValue&& other) noexcept;
+    PropertyListValue& operator=(const PropertyListValue& other);
+    PropertyListValue& operator=(PropertyListValue&& other) noexcept;
 
     // The value as the given kind, or null when it is of another kind. The pointer lives as long as
     // this value is neither destroyed nor assigned to.

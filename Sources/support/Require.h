@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <optional>
 #include <source_location>
 #include <string_view>
 
@@ -16,5 +17,15 @@ namespace kx {
 // `sourcePath` names the module, for example "Sources/UDPEcho". May be called from any thread.
 void require(bool condition, std::string_view expression, std::string_view sourcePath,
              std::source_location location = std::source_location::current());
+
+// The value of an optional that must have one, under the same conditions. The result lives as long
+// as `optional` does.
+template<typename Value>
+const Value& requireValue(const std::optional<Value>& optional, std::string_view expression,
+                          std::string_view sourcePath,
+                          std::source_location location = std::source_location::current()) {
+    require(optional.has_value(), expression, sourcePath, location);
+    return *optional; // NOLINT(bugprone-unchecked-optional-access): checked in the line above
+}
 
 } // namespace kx

@@ -85,9 +85,10 @@ bool GXArrayTable::removeObjectAtIndex(std::int32_t index) {
 }
 
 void GXArrayTable::removeObject(const std::shared_ptr<GXStateEntry>& entry) {
-    // A copy, because the argument may be the array's own element.
-    if (const auto removed = entry) {
-        std::erase(*_tableArray, removed);
+    // By address, because the argument may be the array's own element and change while it erases.
+    if (const auto* removed = entry.get()) {
+        std::erase_if(*_tableArray,
+                      [removed](const auto& element) { return element.get() == removed; });
     }
 }
 

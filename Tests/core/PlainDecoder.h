@@ -6,7 +6,7 @@
 #include "support/ByteRange.h"
 #include "support/TextEncoding.h"
 
-#include <cstdio>
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -44,11 +44,12 @@ private:
     }
 
     std::string hex(std::size_t from, const std::string& separator) const {
+        static const std::string digits = "0123456789ABCDEF";
         std::string result;
         for (std::size_t i = from; i < from + 6; ++i) {
-            char pair[3];
-            std::snprintf(pair, sizeof pair, "%02X", _datagram[i]);
-            result += (i == from ? "" : separator) + pair;
+            result += i == from ? "" : separator;
+            result += digits[_datagram[i] / 16U];
+            result += digits[_datagram[i] % 16U];
         }
         return result;
     }
@@ -105,7 +106,10 @@ private:
         }
         const auto tag = text(21, 3);
         if (tag == "<M>") {
-            return decodeList(*cid);
+            std::string display;
+            const bool isWhole = decodeList(display);
+            cid = display;
+            return isWhole;
         }
         if (tag && tag->substr(0, 2) == "ok") {
             _outcome.log = "\nRequest unit parameters with address: 255.255.255.255"

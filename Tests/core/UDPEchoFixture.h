@@ -36,6 +36,7 @@ public:
 
     std::vector<EchoEvent::Kind> kinds() const {
         std::vector<EchoEvent::Kind> result;
+        result.reserve(events.size());
         for (const auto& event : events) {
             result.push_back(event.kind);
         }
@@ -60,10 +61,9 @@ public:
         note(echo, {EchoEvent::started, &echo, {}, address}, {}, address);
     }
     void echoDidStopWithError(UDPEcho& echo, const Error& error) override {
-        note(echo, {EchoEvent::stopped, &echo, {}, {}, error});
-        if (events.back().error != error) {
-            ADD_FAILURE() << "the error changed under the delegate's hands";
-        }
+        const EchoEvent event{EchoEvent::stopped, &echo, {}, {}, error};
+        note(echo, event);
+        EXPECT_EQ(event.error, error) << "the error changed under the delegate's hands";
     }
 
 private:
@@ -126,7 +126,7 @@ protected:
     // The one event since the last call of this.
     EchoEvent onlyEvent() {
         EXPECT_EQ(delegate.events.size(), 1U);
-        const auto event = delegate.events.empty() ? EchoEvent{} : delegate.events.back();
+        auto event = delegate.events.empty() ? EchoEvent{} : delegate.events.back();
         delegate.events.clear();
         return event;
     }

@@ -87,12 +87,11 @@ private:
 
         const std::string& hostName() const { return _hostName; }
 
-        // Moved and copied to the stack, since the report may destroy this request or change the
-        // script.
-        void report(const HostResolution& answer) {
+        // Taken to the stack, since the report may destroy this request or change the script.
+        void report(HostResolution resolution) {
             const auto report = std::move(_report);
-            const auto resolution = answer;
-            report(resolution);
+            const HostResolution given = std::move(resolution);
+            report(given);
         }
 
     private:

@@ -17,11 +17,10 @@ TEST(DelayedFrames, LeaveByTimeAndThenInTheirOrder) {
     frames.add(kStart + milliseconds(10), {1});
     frames.add(kStart + milliseconds(20), {3});
     EXPECT_EQ(frames.nextDue(), kStart + milliseconds(10));
-    EXPECT_EQ(frames.takeDue(kStart), std::nullopt);
-    EXPECT_EQ(frames.takeDue(kStart + milliseconds(10)), Bytes{1});
-    EXPECT_EQ(frames.takeDue(kStart + milliseconds(19)), std::nullopt);
-    EXPECT_EQ(frames.takeDue(kStart + seconds(1)), Bytes{2});
-    EXPECT_EQ(frames.takeDue(kStart + seconds(1)), Bytes{3});
+    EXPECT_EQ(frames.takeDue(kStart + milliseconds(9)), std::vector<Bytes>{});
+    EXPECT_EQ(frames.takeDue(kStart + milliseconds(10)), std::vector<Bytes>{{1}});
+    EXPECT_EQ(frames.takeDue(kStart + milliseconds(19)), std::vector<Bytes>{});
+    EXPECT_EQ(frames.takeDue(kStart + seconds(1)), (std::vector<Bytes>{{2}, {3}}));
     EXPECT_EQ(frames.nextDue(), std::nullopt);
 }
 
@@ -30,7 +29,7 @@ TEST(DelayedFrames, BeyondTheCapacityAreLost) {
     EXPECT_TRUE(frames.add(kStart, {1}));
     EXPECT_TRUE(frames.add(kStart, {2}));
     EXPECT_FALSE(frames.add(kStart, {3}));
-    EXPECT_EQ(frames.takeDue(kStart), Bytes{1});
+    EXPECT_EQ(frames.takeDue(kStart), (std::vector<Bytes>{{1}, {2}}));
     EXPECT_TRUE(frames.add(kStart, {4}));
 }
 

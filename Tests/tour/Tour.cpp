@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QTableView>
 #include <QTest>
 #include <algorithm>
@@ -199,6 +200,10 @@ Control& Tour::control(const char* objectName) const {
 
 // Through the window system's events, so that what lies on top of the widget gets the click.
 void Tour::click(QWidget& widget, QPoint position) {
+    auto& content = control<QScrollArea>("contentArea");
+    if (content.widget()->isAncestorOf(&widget)) {
+        content.ensureWidgetVisible(&widget);
+    }
     QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
                       widget.mapTo(_window, position));
 }

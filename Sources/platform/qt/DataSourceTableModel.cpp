@@ -17,8 +17,9 @@ void DataSourceTableModel::setDataSource(TableViewDataSource* dataSource) {
 }
 
 void DataSourceTableModel::reload() {
-    std::vector<Row> rows;
     const int count = _dataSource != nullptr ? _dataSource->numberOfRowsInTableView() : 0;
+    std::vector<Row> rows;
+    rows.reserve(static_cast<std::size_t>(count));
     for (int row = 0; row < count; ++row) {
         rows.push_back(rowFromDataSource(row));
     }

@@ -44,7 +44,7 @@ struct MainWindow::Controls {
         , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
-        , eventLogDrawer(*ui.splitter, *ui.eventLogDrawer, *ui.logScrollView)
+        , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView) {
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
@@ -171,7 +171,7 @@ void MainWindow::connectPopUps() {
 }
 
 void MainWindow::connectMenus() {
-    const auto connectToButton = [this](QAction* action, QPushButton* button) {
+    const auto connectToButton = [](QAction* action, QPushButton* button) {
         connect(action, &QAction::triggered, button, &QPushButton::click);
     };
     connectToButton(_ui->discoverAction, _ui->discoverButton);

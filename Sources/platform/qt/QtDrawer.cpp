@@ -8,8 +8,9 @@
 
 namespace kx {
 
-QtDrawer::QtDrawer(QSplitter& splitter, QWidget& drawer, QWidget& panel)
+QtDrawer::QtDrawer(QSplitter& splitter, QWidget& content, QWidget& drawer, QWidget& panel)
     : _splitter(splitter)
+    , _content(content)
     , _drawer(drawer)
     , _panel(panel)
     , _height(drawer.sizeHint().height()) {
@@ -85,17 +86,21 @@ void QtDrawer::slid() {
 
 void QtDrawer::makeRoom() {
     QWidget* window = _drawer.window();
-    const int contentHeight = _splitter.height();
-    const int wanted = _height + _splitter.handleWidth();
     const bool canGrow = window->isVisible() && !window->isMaximized() && !window->isFullScreen();
     const int room =
         window->screen()->availableGeometry().bottom() - window->frameGeometry().bottom();
+    const int wanted = _height + _splitter.handleWidth();
     _grownBy = canGrow ? std::clamp(room, 0, wanted) : 0;
+
+    const int panes = _splitter.height() + _grownBy - _splitter.handleWidth();
+    const int spare = panes - _content.minimumSizeHint().height();
+    const int least = _drawer.minimumSizeHint().height();
+    const int height = std::clamp(spare, std::min(least, _height), _height);
 
     _drawer.show();
     window->resize(window->width(), window->height() + _grownBy);
     window->layout()->activate();
-    _splitter.setSizes({contentHeight + _grownBy - wanted, _height});
+    _splitter.setSizes({panes - height, height});
 }
 
 void QtDrawer::giveRoomBack() {

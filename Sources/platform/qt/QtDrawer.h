@@ -19,9 +19,9 @@ namespace kx {
 
 class QtDrawer final : public Drawer {
 public:
-    // `drawer` is the last pane of `splitter`; `panel`, its only child, is what slides. The drawer
-    // starts closed.
-    QtDrawer(QSplitter& splitter, QWidget& drawer, QWidget& panel);
+    // `splitter` has two panes: one around `content`, and `drawer`, whose only child `panel` is
+    // what slides. The drawer starts closed.
+    QtDrawer(QSplitter& splitter, QWidget& content, QWidget& drawer, QWidget& panel);
 
     void open() override;
     void close() override;
@@ -39,6 +39,7 @@ private:
     void giveRoomBack();
 
     QSplitter& _splitter;
+    QWidget& _content;
     QWidget& _drawer;
     QWidget& _panel;
     DrawerState _state = DrawerState::closed;

@@ -4,6 +4,7 @@
 
 #include <QListView>
 #include <QSet>
+#include <ranges>
 
 namespace kx {
 
@@ -38,12 +39,12 @@ void QtPopUpButton::addItemsWithTitles(const std::vector<std::string>& titles) {
             reversed.append(title);
         }
     };
-    for (auto title = titles.rbegin(); title != titles.rend(); ++title) {
-        keepFirst(qtText(*title));
+    for (const std::string& title : titles | std::views::reverse) {
+        keepFirst(qtText(title));
     }
     const QStringList before = _titles.stringList();
-    for (auto title = before.rbegin(); title != before.rend(); ++title) {
-        keepFirst(*title);
+    for (const QString& title : before | std::views::reverse) {
+        keepFirst(title);
     }
 
     const QStringList after(reversed.rbegin(), reversed.rend());

@@ -1,6 +1,7 @@
 #include "support/Error.h"
 
 #include "support/LocalizedText.h"
+#include "support/TextFormat.h"
 
 #include <gtest/gtest.h>
 
@@ -44,7 +45,7 @@ TEST(Error, DescriptionIsInTheUsersLanguage) {
     class Brackets final : public LocalizedText {
     public:
         std::string textForKey(std::string_view key) const override {
-            return "[" + std::string(key) + "]";
+            return filledText("[%@]", {key});
         }
     };
     const Brackets brackets;

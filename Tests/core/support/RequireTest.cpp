@@ -2,6 +2,7 @@
 
 #include "doubles/RecordedSystemLog.h"
 #include "support/SystemLog.h"
+#include "support/TextFormat.h"
 
 #include <gtest/gtest.h>
 
@@ -21,9 +22,9 @@ std::source_location checkPort(int port) {
 }
 
 std::string reportOfBrokenContract() {
-    const std::string function = checkPort(1).function_name();
-    return "Assertion failed: ((port > 0) && (port < 65536)), function " + function +
-           ", Sources/UDPEcho";
+    return filledText(
+        "Assertion failed: ((port > 0) && (port < 65536)), function %@, Sources/UDPEcho",
+        {checkPort(1).function_name()});
 }
 
 TEST(Require, KeptContractSaysNothing) {
@@ -58,7 +59,7 @@ TEST(RequireDeathTest, BrokenContractIsReportedToTheInstalledSink) {
         checkPort(0);
     };
     EXPECT_EXIT(breakContract(), testing::KilledBySignal(SIGABRT),
-                testing::Eq("<" + reportOfBrokenContract() + ">"));
+                testing::Eq(filledText("<%@>", {reportOfBrokenContract()})));
 }
 
 } // namespace

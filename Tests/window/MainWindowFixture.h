@@ -1,0 +1,136 @@
+// The real window and the real controller, with a scripted network and a manual clock.
+
+#pragma once
+
+#include "KXConfigAppDelegate.h"
+#include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
+#include "core/UnitReplies.h"
+#include "doubles/FixedWallClock.h"
+#include "doubles/ManualRunLoop.h"
+#include "doubles/RecordedOutlets.h"
+#include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedNetworkInterfaces.h"
+#include "doubles/ScriptedSystemCalls.h"
+#include "platform/qt/MainWindow.h"
+#include "support/Require.h"
+
+#include <gtest/gtest.h>
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTableView>
+#include <QTest>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class MainWindowTest : public ::testing::Test {
+protected:
+    MainWindowTest() { window.connectActions(controller); }
+    ~MainWindowTest() override { window.disconnectActions(); }
+
+    void launch() {
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        controller.applicationDidFinishLaunching();
+    }
+
+    void launchWithInterface() {
+        interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+        launch();
+    }
+
+    // Two units answer a discovery, which is then completed.
+    void launchWithTwoUnits() {
+        launchWithInterface();
+        SampleUnit second;
+        second.serial.back() = 7;
+        second.unitID.back() = 43;
+        receive(SampleUnit().reply());
+        receive(second.reply());
+        runLoop.advanceBy(std::chrono::seconds(2));
+    }
+
+    void receive(const Bytes& datagram) {
+        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        runLoop.makeReadable(systemCalls.lastDescriptor());
+    }
+
+    template<class Control>
+    Control& control(const char* objectName) {
+        auto* const found = window.findChild<Control*>(objectName);
+        require(found != nullptr, objectName, "Tests/window");
+        return *found;
+    }
+
+    void click(const char* button) {
+        QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(window.windowHandle(), key, modifiers);
+    }
+    void clickCell(const char* table, int row, int column) {
+        auto& view = control<QTableView>(table);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
+                          view.visualRect(view.model()->index(row, column)).center());
+    }
+
+    // Nothing is selected: "(none)".
+    std::string selected(const char* popUp) {
+        const auto& comboBox = control<QComboBox>(popUp);
+        return comboBox.currentIndex() < 0 ? "(none)" : comboBox.currentText().toStdString();
+    }
+    std::string cell(const char* table, int row, int column) {
+        return control<QTableView>(table)
+            .model()
+            ->index(row, column)
+            .data()
+            .toString()
+            .toStdString();
+    }
+    std::string quietLine() {
+        const auto& line = control<QLabel>("quietLine");
+        return line.isVisible() ? line.text().toStdString() : "(none)";
+    }
+
+    // The commands sent since the last call, without their addresses.
+    std::vector<std::string> newlySent() {
+        std::vector<std::string> texts;
+        const auto sent = systemCalls.sentDatagrams();
+        for (; _sentBefore < sent.size(); ++_sentBefore) {
+            const Bytes& data = sent[_sentBefore].data;
+            texts.emplace_back(data.begin(), data.end());
+        }
+        return texts;
+    }
+
+    bool drawerComesToRest() {
+        return QTest::qWaitFor([this] {
+            const DrawerState state = window.outlets().eventLogDrawer->state();
+            return state == DrawerState::open || state == DrawerState::closed;
+        });
+    }
+
+    RecordedSystemLog systemLog;
+    ManualRunLoop runLoop;
+    ScriptedHostResolver hostResolver;
+    ScriptedSystemCalls systemCalls;
+    FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
+    RecordedApplication application;
+    ScriptedNetworkInterfaces interfaces;
+    MainWindow window;
+    KXConfigAppDelegate controller{
+        window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
+                                                        wallClock, application, &interfaces}};
+
+private:
+    std::size_t _sentBefore = 0;
+};
+
+} // namespace kx

@@ -1,0 +1,188 @@
+#include "contracts/OutletsContract.h"
+#include "platform/qt/EditCommands.h"
+#include "platform/qt/ParameterTableView.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtTableView.h"
+#include "platform/qt/QtTextField.h"
+#include "platform/qt/QtTextView.h"
+
+#include <QClipboard>
+#include <QFontInfo>
+#include <QGuiApplication>
+#include <QSignalSpy>
+#include <QTest>
+#include <QTimer>
+#include <chrono>
+
+namespace kx {
+
+namespace {
+
+std::vector<QtTableColumn> columns() {
+    return {{{"parameterName"}, "Parameter", false}, {{"parameterValue"}, "Value", true}};
+}
+
+} // namespace
+
+TEST(QtPopUpButton, TakesOverTheItemsOfTheInterfaceDescription) {
+    QComboBox comboBox;
+    comboBox.addItems({"3520", "3521", "3522"});
+    comboBox.setCurrentIndex(1);
+    QtPopUpButton popUp(comboBox);
+    EXPECT_EQ(comboBox.count(), 3);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), "3521");
+}
+
+TEST(QtPopUpButton, SelectingFromCodeRunsNoAction) {
+    QComboBox comboBox;
+    QtPopUpButton popUp(comboBox);
+    const QSignalSpy actions(&comboBox, &QComboBox::activated);
+    popUp.addItemsWithTitles({"one", "two"});
+    popUp.selectItemAtIndex(1);
+    popUp.selectItemWithTitle("one");
+    popUp.removeAllItems();
+    EXPECT_EQ(actions.count(), 0);
+}
+
+TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
+    std::vector<std::string> titles;
+    for (int unit = 0; unit < 65'536; ++unit) {
+        titles.push_back("4B 58 00 00 " + std::to_string(unit));
+    }
+    QComboBox comboBox;
+    QtPopUpButton popUp(comboBox);
+    const auto start = std::chrono::steady_clock::now();
+    popUp.addItemsWithTitles(titles);
+    popUp.addItemsWithTitles(titles); // each replaces its equal
+    for (const std::string& title : titles) {
+        popUp.selectItemWithTitle(title);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+    EXPECT_EQ(comboBox.count(), 65'536);
+    EXPECT_EQ(popUp.titleOfSelectedItem(), titles.back());
+}
+
+TEST(QtTextField, ALongTextShowsItsBeginning) {
+    QLineEdit lineEdit;
+    QtTextField field(lineEdit);
+    field.setStringValue(std::string(500, 'x'));
+    EXPECT_EQ(lineEdit.cursorPosition(), 0);
+}
+
+TEST(QtTextView, UsesAFixedWidthFont) {
+    QPlainTextEdit textEdit;
+    const QtTextView view(textEdit);
+    EXPECT_TRUE(QFontInfo(textEdit.font()).fixedPitch());
+}
+
+TEST(QtTextView, WhatIsSelectedStaysSelectedWhileTextArrives) {
+    QPlainTextEdit textEdit;
+    QtTextView view(textEdit);
+    view.setString("[Begin Discover]\nUDP listener did start. ");
+    QTextCursor cursor = textEdit.textCursor();
+    cursor.setPosition(1);
+    cursor.setPosition(6, QTextCursor::KeepAnchor);
+    textEdit.setTextCursor(cursor);
+    view.insertAtEnd("0.0.0.0:3520");
+    view.scrollEndToVisible();
+    EXPECT_EQ(textEdit.textCursor().selectedText(), "Begin");
+}
+
+TEST(QtTableView, TheUsersSelectionRunsTheActionAndAReloadDoesNot) {
+    ListedRows source;
+    source.rows = {{{"parameterName", "a"}}, {{"parameterName", "b"}}};
+    QTableView view;
+    QtTableView table(view, columns());
+    table.setDataSource(&source);
+    int actions = 0;
+    table.setSelectionAction([&] { ++actions; });
+    view.selectRow(1);
+    EXPECT_EQ(actions, 1);
+    source.rows.pop_back();
+    table.reloadData();
+    EXPECT_EQ(table.selectedRow(), -1);
+    EXPECT_EQ(actions, 1);
+}
+
+TEST(QtTableView, WithoutADataSourceThereAreNoRows) {
+    ListedRows source;
+    source.rows = {{{"parameterName", "a"}}};
+    QTableView view;
+    QtTableView table(view, columns());
+    table.reloadData();
+    EXPECT_EQ(view.model()->rowCount(), 0);
+    table.setDataSource(&source);
+    EXPECT_EQ(view.model()->rowCount(), 1);
+    table.setDataSource(nullptr);
+    EXPECT_EQ(view.model()->rowCount(), 0);
+}
+
+TEST(QtTableView, ChangedValuesShowOnlyAfterAReload) {
+    ListedRows source;
+    source.rows = {{{"parameterName", "a"}}};
+    QTableView view;
+    QtTableView table(view, columns());
+    table.setDataSource(&source);
+    source.rows[0]["parameterName"] = "b";
+    EXPECT_EQ(view.model()->index(0, 0).data().toString(), "a");
+    table.reloadData();
+    EXPECT_EQ(view.model()->index(0, 0).data().toString(), "b");
+}
+
+TEST(QtTableView, AColumnThatIsNotEditableTakesNothing) {
+    ListedRows source;
+    source.rows = {{{"parameterName", "a"}}};
+    QTableView view;
+    QtTableView table(view, columns());
+    table.setDataSource(&source);
+    EXPECT_FALSE(view.model()->setData(view.model()->index(0, 0), "b"));
+    EXPECT_EQ(source.rows[0]["parameterName"], "a");
+}
+
+TEST(ParameterTableView, ShowsItsPlaceholderWhileNoCellHoldsAText) {
+    ListedRows source;
+    ParameterTableView view;
+    QtTableView table(view, columns());
+    table.setDataSource(&source);
+    EXPECT_TRUE(view.showsPlaceholder());
+    source.rows = {{{"parameterName", ""}}};
+    table.reloadData();
+    EXPECT_TRUE(view.showsPlaceholder());
+    source.rows = {{{"parameterName", "unit ID"}}};
+    table.reloadData();
+    EXPECT_FALSE(view.showsPlaceholder());
+}
+
+TEST(EditCommands, CopyARowWithATabBetweenItsCells) {
+    ListedRows source;
+    source.rows = {{{"parameterName", "unit ID"}, {"parameterValue", "42"}}};
+    QTableView view;
+    QtTableView table(view, columns());
+    table.setDataSource(&source);
+    QGuiApplication::clipboard()->setText("before");
+    copySelection(&view);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
+    view.selectRow(0);
+    copySelection(&view);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "unit ID\t42");
+}
+
+TEST(EditCommands, WorkWithoutAControl) {
+    QGuiApplication::clipboard()->setText("before");
+    copySelection(nullptr);
+    selectAll(nullptr);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
+}
+
+TEST(QtApplication, TerminatingEndsTheLoopAfterTheCurrentEvent) {
+    bool eventWentOn = false;
+    QTimer::singleShot(0, qApp, [&] {
+        QtApplication().terminate();
+        eventWentOn = true;
+    });
+    EXPECT_EQ(QCoreApplication::exec(), 0);
+    EXPECT_TRUE(eventWentOn);
+}
+
+} // namespace kx
