@@ -60,8 +60,10 @@ int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStore
                                          std::unique_ptr<ConfigurationChangeSource>* sourceRef) {
     require(storeRef != nullptr, "storeRef != NULL", sourcePath);
     require(sourceRef != nullptr, "sourceRef != NULL", sourcePath);
+    // NOLINTBEGIN(clang-analyzer-core.NonNullParamChecker): require() does not return for null.
     require(*storeRef == nullptr, "*storeRef == NULL", sourcePath);
     require(*sourceRef == nullptr, "*sourceRef == NULL", sourcePath);
+    // NOLINTEND(clang-analyzer-core.NonNullParamChecker)
 
     auto session = store.openSession(changeWatchSessionName, callback, info);
     std::unique_ptr<ConfigurationChangeSource> source;

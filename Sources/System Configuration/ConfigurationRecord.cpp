@@ -19,6 +19,16 @@ PropertyList listOf(const std::optional<PropertyListValue>& value) {
     return list != nullptr ? *list : PropertyList();
 }
 
+std::vector<std::string> textsOf(const std::optional<PropertyListValue>& value) {
+    std::vector<std::string> texts;
+    for (const auto& element : listOf(value)) {
+        if (const auto* text = element.text()) {
+            texts.push_back(*text);
+        }
+    }
+    return texts;
+}
+
 std::optional<std::int64_t> numberOf(const std::optional<PropertyListValue>& value) {
     if (const auto text = textOf(value)) {
         return integerValue(*text);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kx {
 
@@ -19,6 +20,9 @@ std::optional<std::string> textOf(const std::optional<PropertyListValue>& value)
 
 // No elements when the value is missing.
 PropertyList listOf(const std::optional<PropertyListValue>& value);
+
+// The texts among the elements.
+std::vector<std::string> textsOf(const std::optional<PropertyListValue>& value);
 
 // A number, or the number that a text begins with.
 std::optional<std::int64_t> numberOf(const std::optional<PropertyListValue>& value);

@@ -19,10 +19,10 @@ class NetworkInterfaces {
 public:
     virtual ~NetworkInterfaces() = default;
 
-    // The titles of the configured services and of the kernel interfaces that are up, in the order in
-    // which they are to be offered; absent when there are none. When `serviceIDs` is not null, it
-    // receives the service identifiers, parallel to the titles; it is not written when the result is
-    // absent.
+    // The titles of the configured services and of the kernel interfaces that are up, in the order
+    // in which they are to be offered; absent when there are none. When `serviceIDs` is not null,
+    // it receives the service identifiers, parallel to the titles; it is not written when the
+    // result is absent.
     virtual std::optional<std::vector<std::string>>
     bsdTitlesAndServiceIDs(std::vector<std::string>* serviceIDs) = 0;
 
@@ -30,8 +30,8 @@ public:
     // system; absent when there is none.
     virtual std::optional<std::string> serviceIDForInterface(std::string_view bsdName) = 0;
 
-    // One entry of a service's data, for example ("IPv4", "Addresses"); absent when the service, the
-    // dictionary or the entry does not exist.
+    // One entry of a service's data, for example ("IPv4", "Addresses"); absent when the service,
+    // the dictionary or the entry does not exist.
     virtual std::optional<PropertyListValue>
     serviceDataForDictionaryNameKey(std::string_view serviceID, std::string_view dictionaryName,
                                     std::string_view key) = 0;

@@ -75,6 +75,16 @@ std::optional<ByteView> nextRoutingMessage(ByteView& rest) {
     return message;
 }
 
+std::vector<ByteView> routingMessages(ByteView list) {
+    std::vector<ByteView> messages;
+    auto message = nextRoutingMessage(list);
+    while (message.has_value()) {
+        messages.push_back(*message);
+        message = nextRoutingMessage(list);
+    }
+    return messages;
+}
+
 std::uint8_t routingMessageType(ByteView message) {
     return message[typeOffset];
 }

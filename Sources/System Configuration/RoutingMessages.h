@@ -25,6 +25,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kx {
 
@@ -43,7 +44,10 @@ inline constexpr std::size_t addressSlotCount = 8;
 // length there is no next message either.
 std::optional<ByteView> nextRoutingMessage(ByteView& rest);
 
-// The type of a message that nextRoutingMessage() returned.
+// All messages up to the first place where no whole message follows.
+std::vector<ByteView> routingMessages(ByteView list);
+
+// The type of one of these messages.
 std::uint8_t routingMessageType(ByteView message);
 
 // What an interface message says of its interface.

@@ -46,8 +46,8 @@ void SystemConfiguration::installSources(ConfigurationStore& store, KernelQuery&
 
 SystemConfiguration& SystemConfiguration::sharedInstance() {
     if (shared == nullptr) {
-        require(installedSources.has_value(), "sources != NULL", sourcePath);
-        shared = new SystemConfiguration(installedSources->store, installedSources->kernelQuery);
+        const auto& sources = requireValue(installedSources, "sources != NULL", sourcePath);
+        shared = new SystemConfiguration(sources.store, sources.kernelQuery);
     }
     return *shared;
 }

@@ -94,23 +94,20 @@ std::vector<SystemConfiguration::ListedInterface> SystemConfiguration::_listedSe
     }
     const auto global = session->copyValue(setupGlobalIPv4Key);
     int pppCounter = 0;
-    for (const auto& element : listOf(entryOf(global, kSCPropNetServiceOrder))) {
-        const auto serviceID = textOf(element);
+    for (const auto& serviceID : textsOf(entryOf(global, kSCPropNetServiceOrder))) {
         const auto interface =
-            serviceID.has_value()
-                ? session->copyValue(filledText(setupServiceInterfaceKey, {*serviceID}))
-                : std::nullopt;
+            session->copyValue(filledText(setupServiceInterfaceKey, {serviceID}));
         if (!interface.has_value()) {
             continue;
         }
         const auto deviceName = textOrNotAvailable(interface, kSCPropNetInterfaceDeviceName);
         if (isPPP(interface)) {
             // Numbered among the PPP services, because only the kernel knows its own numbers.
-            interfaces.push_back({*serviceID, filledText("%@%d", {"ppp", pppCounter}), deviceName});
+            interfaces.push_back({serviceID, filledText("%@%d", {"ppp", pppCounter}), deviceName});
             ++pppCounter;
         } else {
             interfaces.push_back(
-                {*serviceID, deviceName, textOrNotAvailable(interface, kSCPropUserDefinedName)});
+                {serviceID, deviceName, textOrNotAvailable(interface, kSCPropUserDefinedName)});
         }
     }
     return interfaces;
@@ -118,19 +115,15 @@ std::vector<SystemConfiguration::ListedInterface> SystemConfiguration::_listedSe
 
 void SystemConfiguration::_appendKernelInterfaces(std::vector<ListedInterface>& interfaces,
                                                   KernelInterfaces which) {
-    const auto list = getParameter(interfaceListName);
-    ByteView rest = list.has_value() ? ByteView(*list) : ByteView();
-    while (const auto message = nextRoutingMessage(rest)) {
-        const auto found = interfaceMessage(*message);
-        if (!found.has_value() || !found->name.has_value() ||
-            (which == KernelInterfaces::up && !found->isUp)) {
-            continue;
-        }
-        const std::string& name = *found->name;
+    const auto list = getParameter(interfaceListName).value_or(Bytes());
+    for (const ByteView message : routingMessages(list)) {
+        const auto found = interfaceMessage(message).value_or(InterfaceMessage());
+        const std::string name = found.name.value_or("");
+        const bool isWanted = !name.empty() && (which == KernelInterfaces::all || found.isUp);
         const bool isListed =
             std::any_of(interfaces.begin(), interfaces.end(),
                         [&name](const auto& listed) { return listed.name == name; });
-        if (!isListed) {
+        if (isWanted && !isListed) {
             interfaces.push_back(
                 {filledText("=%@", {name}), name, _userNameForKernelInterface(name)});
         }
@@ -172,8 +165,7 @@ std::optional<std::string> SystemConfiguration::serviceIDForInterface(std::strin
     }
     const auto set = textOf(session->getValue(kSCPrefCurrentSet));
     const auto global = session->pathGetValue(filledText(setGlobalIPv4Path, {set}));
-    for (const auto& element : listOf(entryOf(global, kSCPropNetServiceOrder))) {
-        const auto serviceID = textOf(element);
+    for (const auto& serviceID : textsOf(entryOf(global, kSCPropNetServiceOrder))) {
         const auto interface = session->pathGetValue(
             filledText(savedServiceEntityPath, {serviceID, kSCEntNetInterface}));
         if (textOf(entryOf(interface, kSCPropNetInterfaceDeviceName)) == bsdName) {

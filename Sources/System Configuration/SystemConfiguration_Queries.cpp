@@ -70,6 +70,20 @@ std::optional<std::string> addressText(const AddressMessage& message, std::strin
     return std::nullopt;
 }
 
+// What one message answers. `isInsideInterface` says whether the messages before it were about the
+// wanted interface, and then whether this one is.
+std::optional<std::string> messageText(ByteView message, std::string_view bsdName,
+                                       std::string_view requestKey, bool& isInsideInterface) {
+    const auto interface = interfaceMessage(message);
+    if (interface.has_value()) {
+        isInsideInterface = interface->name == bsdName;
+        return isInsideInterface ? interfaceText(*interface, requestKey) : std::nullopt;
+    }
+    const auto address = addressMessage(message);
+    return address.has_value() && isInsideInterface ? addressText(*address, requestKey)
+                                                    : std::nullopt;
+}
+
 } // namespace
 
 std::optional<PropertyListValue> SystemConfiguration::interfaceDataForDictionaryNameKey(
@@ -146,17 +160,10 @@ std::string SystemConfiguration::serviceInterfaceDataForKey(std::string_view ser
 
 std::string SystemConfiguration::bsdNameInterfaceDataForKey(std::string_view bsdName,
                                                             std::string_view requestKey) {
-    const auto list = getParameter(interfaceListName);
-    ByteView rest = list.has_value() ? ByteView(*list) : ByteView();
+    const auto list = getParameter(interfaceListName).value_or(Bytes());
     bool isInsideInterface = false;
-    while (const auto message = nextRoutingMessage(rest)) {
-        std::optional<std::string> answer;
-        if (const auto interface = interfaceMessage(*message)) {
-            isInsideInterface = interface->name == bsdName;
-            answer = isInsideInterface ? interfaceText(*interface, requestKey) : std::nullopt;
-        } else if (const auto address = addressMessage(*message); address && isInsideInterface) {
-            answer = addressText(*address, requestKey);
-        }
+    for (const ByteView message : routingMessages(list)) {
+        const auto answer = messageText(message, bsdName, requestKey, isInsideInterface);
         if (answer.has_value()) {
             return *answer;
         }

@@ -44,7 +44,7 @@ bool parseGroups(const ParseCursor& cursor, HardwareAddress& address) {
 } // namespace
 
 std::string HardwareAddress::stringValue() const {
-    return HardwareAddressFormatter::sharedInstance().stringForObjectValue(this).value();
+    return HardwareAddressFormatter::sharedInstance().stringForObjectValue(this).value_or("");
 }
 
 bool HardwareAddress::setStringValue(std::string_view text) {

@@ -11,7 +11,6 @@ protected:
             notifications.push_back(notification);
         });
     }
-    ~ChangeNotification() override { configuration.removeObserver(this); }
 
     PropertyDictionary onlyUserInfo() const {
         EXPECT_EQ(notifications.size(), 1U);

@@ -1,4 +1,5 @@
 #include "System Configuration/ChangeWatch.h"
+
 #include "doubles/MemoryConfigurationStore.h"
 #include "doubles/RecordedSystemLog.h"
 

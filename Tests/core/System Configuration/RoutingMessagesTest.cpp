@@ -17,8 +17,8 @@ using Builder = RoutingMessageBuilder;
 
 std::vector<int> typesIn(ByteView list) {
     std::vector<int> types;
-    while (const auto message = nextRoutingMessage(list)) {
-        types.push_back(routingMessageType(*message));
+    for (const ByteView message : routingMessages(list)) {
+        types.push_back(routingMessageType(message));
     }
     return types;
 }
