@@ -60,14 +60,20 @@ std::optional<std::uint32_t> addressInSlot(const std::optional<ByteView>& slot) 
     return address;
 }
 
+// The length of the whole message in front, or 0 when there is none.
+std::size_t firstMessageLength(ByteView list) {
+    if (list.size() < shortestMessage) {
+        return 0;
+    }
+    const std::size_t length = hostNumberAt<std::uint16_t>(list, 0);
+    return length >= shortestMessage && length <= list.size() ? length : 0;
+}
+
 } // namespace
 
 std::optional<ByteView> nextRoutingMessage(ByteView& rest) {
-    if (rest.size() < shortestMessage) {
-        return std::nullopt;
-    }
-    const std::size_t length = hostNumberAt<std::uint16_t>(rest, 0);
-    if (length < shortestMessage || length > rest.size()) {
+    const std::size_t length = firstMessageLength(rest);
+    if (length == 0) {
         return std::nullopt;
     }
     const ByteView message = rest.first(length);
@@ -77,10 +83,9 @@ std::optional<ByteView> nextRoutingMessage(ByteView& rest) {
 
 std::vector<ByteView> routingMessages(ByteView list) {
     std::vector<ByteView> messages;
-    auto message = nextRoutingMessage(list);
-    while (message.has_value()) {
-        messages.push_back(*message);
-        message = nextRoutingMessage(list);
+    for (auto length = firstMessageLength(list); length > 0; length = firstMessageLength(list)) {
+        messages.push_back(list.first(length));
+        list = list.subspan(length);
     }
     return messages;
 }

@@ -225,6 +225,7 @@ TEST_F(InterfaceEnumeration, ATakenSuffixIsSkippedEvenIfItIsAnInterfacesOwnName)
 
 TEST_F(InterfaceEnumeration, ManyServicesOnOneInterfaceAllGetAnIdentifier) {
     std::vector<std::pair<std::string, PropertyDictionary>> services;
+    services.reserve(40);
     for (int i = 0; i < 40; ++i) {
         services.emplace_back("S" + std::to_string(i), ethernet("Ethernet", "en0"));
     }

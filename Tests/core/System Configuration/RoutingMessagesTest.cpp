@@ -164,7 +164,7 @@ TEST(InterfaceMessage, AHardwareAddressBeyondTheMessageIsMissing) {
 // --- Socket addresses by slot ---
 
 TEST(GetRtaddrs, GivesEachSetBitTheNextSocketAddress) {
-    Bytes bytes(3 * 16, 0);
+    Bytes bytes(48, 0);
     bytes[0] = bytes[16] = bytes[32] = 16;
     RoutingAddresses slots;
     get_rtaddrs(0b10100100U, bytes, slots);

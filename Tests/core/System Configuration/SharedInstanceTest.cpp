@@ -12,7 +12,7 @@ protected:
             this,
             [this](const Notification& notification) { heard.push_back(notification.userInfo); });
     }
-    ~SharedInstance() override { SystemConfiguration::sharedInstance().removeObserver(this); }
+    void TearDown() override { SystemConfiguration::sharedInstance().removeObserver(this); }
 
     SharedConfigurationDoubles& doubles = sharedConfigurationDoubles();
     std::vector<PropertyDictionary> heard;

@@ -56,7 +56,7 @@ protected:
         EXPECT_EQ(::pipe(_ends), 0);
         alarmCount = 0;
     }
-    ~SystemCallWrappers() override {
+    void TearDown() override {
         ::close(readingEnd());
         ::close(writingEnd());
         if (_previous != SIG_ERR) {
