@@ -24,8 +24,8 @@ public:
                                      const Buffer& hardwareAddress = {0, 0x1A, 0x2B, 0x3C, 0x4D,
                                                                       0x5E}) {
         Buffer link = {0, 18, 7, 0, 6, byte(name.size()), byte(hardwareAddress.size()), 0};
-        link.insert(link.end(), name.begin(), name.end());
-        link.insert(link.end(), hardwareAddress.begin(), hardwareAddress.end());
+        append(link, name);
+        append(link, hardwareAddress);
         link[0] = byte(link.size());
         return interfaceWith(isUp ? 0x8863U : 0x8862U, padded(link));
     }
@@ -35,7 +35,7 @@ public:
         Buffer body(112 - 4, 0xEE);
         put(body, 4 - 4, std::uint32_t{1U << 4U}); // one address follows: the link-level one
         put(body, 8 - 4, flags);
-        body.insert(body.end(), link.begin(), link.end());
+        append(body, link);
         return message(14, body);
     }
 
@@ -50,8 +50,7 @@ public:
         Buffer body(20 - 4, 0xEE);
         for (const auto& [slot, bytes] : socketAddresses) {
             mask |= 1U << slot;
-            const Buffer whole = padded(bytes);
-            body.insert(body.end(), whole.begin(), whole.end());
+            append(body, padded(bytes));
         }
         put(body, 4 - 4, mask);
         return message(12, body);
@@ -60,15 +59,15 @@ public:
     // Any message: its type and what follows that.
     RoutingMessageBuilder& message(std::uint8_t type, const Buffer& body) {
         const std::size_t start = _bytes.size();
-        _bytes.insert(_bytes.end(), {0, 0, 5, type});
-        _bytes.insert(_bytes.end(), body.begin(), body.end());
+        append(_bytes, Buffer{0, 0, 5, type});
+        append(_bytes, body);
         put(_bytes, start, static_cast<std::uint16_t>(_bytes.size() - start));
         return *this;
     }
 
     // Bytes without any form.
     RoutingMessageBuilder& raw(const Buffer& bytes) {
-        _bytes.insert(_bytes.end(), bytes.begin(), bytes.end());
+        append(_bytes, bytes);
         return *this;
     }
 
@@ -96,6 +95,13 @@ public:
 
 private:
     static std::uint8_t byte(std::size_t value) { return static_cast<std::uint8_t>(value & 0xFFU); }
+
+    template<class Elements>
+    static void append(Buffer& bytes, const Elements& elements) {
+        for (const auto element : elements) {
+            bytes.push_back(static_cast<std::uint8_t>(element));
+        }
+    }
 
     static Buffer padded(Buffer bytes) {
         while (bytes.empty() || bytes.size() % sizeof(long) != 0) {

@@ -1,4 +1,5 @@
 #include "addresses/HardwareAddress.h"
+
 #include "doubles/MarkedLocalizedText.h"
 #include "doubles/RecordedSystemLog.h"
 
