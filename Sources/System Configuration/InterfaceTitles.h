@@ -3,6 +3,9 @@
 // the interface in the system, with ":" and a number behind it where a second service shares the
 // interface.
 //
+// Every separator is looked for at its last occurrence, because names may contain it too. A title's
+// final character is taken to be the closing parenthesis, whatever it is.
+//
 // All functions are pure and may be called from any thread.
 
 #pragma once
@@ -12,11 +15,21 @@
 
 namespace kx {
 
+// The title of a user name and an interface identifier; the user name alone when it already ends
+// with the identifier in parentheses.
+std::string titleForNameAndID(std::string_view userName, std::string_view interfaceID);
+
+// What stands before the last " ("; the whole title when there is none.
+std::string userNameForTitle(std::string_view title);
+
+// What stands behind the last "(", without the title's final character; the whole title when there
+// is no "(".
+std::string interfaceIDForTitle(std::string_view title);
+
 // The interface's name in the system: what stands before the last ":", or the whole identifier.
 std::string bsdNameForInterfaceID(std::string_view interfaceID);
 
-// The same for a title: of the text behind its last "(", without the title's final character; of
-// the whole title when it has no "(".
+// The same for a title: the name in the system of its interface identifier.
 std::string bsdNameForTitle(std::string_view title);
 
 } // namespace kx

@@ -1,0 +1,36 @@
+// The watch on the host's IPv4 configuration: one session with the dynamic store, told about the
+// IPv4 state of every service, with its change feed. Main thread only.
+//
+// Who calls these wrongly breaks a contract and ends the process (support/Require.h, source path
+// "Sources/System Configuration/SystemConfiguration").
+
+#pragma once
+
+#include "System Configuration/ConfigurationStore.h"
+
+#include <memory>
+#include <source_location>
+
+namespace kx {
+
+// The status code of an operation with the store: 0 when it succeeded; otherwise the store's code
+// for it, or 1001 when the store has none.
+int MySCError(const ConfigurationStore& store, bool success);
+
+// Opens the session with its callback and makes its feed, which does not run yet. Stores both in
+// their slots and returns 0; on failure returns MySCError(), or -4960 when the list of patterns
+// could not be made, and leaves the slots null.
+//
+// Contracts: "storeRef != NULL", "sourceRef != NULL" (the slots exist), "*storeRef == NULL",
+// "*sourceRef == NULL" (they are free), and those of requireWatchOutcome().
+int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStoreCallBack callback,
+                                         void* info, std::unique_ptr<DynamicStoreSession>* storeRef,
+                                         std::unique_ptr<ConfigurationChangeSource>* sourceRef);
+
+// A watch is there as a whole or not at all. Contracts: "(err == noErr) == (*storeRef != NULL)",
+// "(err == noErr) == (*sourceRef != NULL)", reported for the function at `location`.
+void requireWatchOutcome(int err, const DynamicStoreSession* store,
+                         const ConfigurationChangeSource* source,
+                         std::source_location location = std::source_location::current());
+
+} // namespace kx

@@ -1,0 +1,66 @@
+// The fixed texts of the host's network configuration: how sessions name themselves, and where a
+// record lies in the store. Where a text has placeholders, support/TextFormat.h fills them.
+
+#pragma once
+
+#include <string_view>
+
+namespace kx {
+
+// What the application calls itself when it opens a session.
+inline constexpr std::string_view applicationIdentifier = "org.kxconfig.KXConfig";
+
+// What the session that carries the change watch is called.
+inline constexpr std::string_view changeWatchSessionName = "AddIPAddressListChangeCallbackSCF";
+
+// Domains, components and entities of which keys are made.
+inline constexpr std::string_view kSCDynamicStoreDomainState = "State:";
+inline constexpr std::string_view kSCCompAnyRegex = "[^/]+"; // any one component of a key
+inline constexpr std::string_view kSCEntNetIPv4 = "IPv4";
+inline constexpr std::string_view kSCEntNetIPv6 = "IPv6";
+inline constexpr std::string_view kSCEntNetLink = "Link";
+inline constexpr std::string_view kSCEntNetInterface = "Interface";
+
+// Keys of the dynamic store.
+inline constexpr std::string_view setupGlobalIPv4Key = "Setup:/Network/Global/IPv4";
+inline constexpr std::string_view setupServiceInterfaceKey = "Setup:/Network/Service/%@/Interface";
+inline constexpr std::string_view stateServiceEntityKey = "State:/Network/Service/%@/%@";
+inline constexpr std::string_view stateInterfaceEntityKey = "State:/Network/Interface/%@/%@";
+inline constexpr std::string_view networkServiceEntityKey =
+    "%@/Network/Service/%@/%@"; // of a domain
+inline constexpr std::string_view stateServicePrefix = "State:/Network/Service/";
+
+// Saved preferences: keys, and paths into them.
+inline constexpr std::string_view kSCPrefCurrentSet = "CurrentSet";
+inline constexpr std::string_view kSCPrefSets = "Sets";
+inline constexpr std::string_view setsPrefix = "/Sets/";
+inline constexpr std::string_view setGlobalIPv4Path = "%@/Network/Global/IPv4"; // of a set's path
+inline constexpr std::string_view savedServiceEntityPath = "/NetworkServices/%@/%@";
+
+// Entries of the records.
+inline constexpr std::string_view kSCPropNetServiceOrder = "ServiceOrder";
+inline constexpr std::string_view kSCPropNetInterfaceType = "Type";
+inline constexpr std::string_view kSCPropNetInterfaceDeviceName = "DeviceName";
+inline constexpr std::string_view kSCPropUserDefinedName = "UserDefinedName";
+inline constexpr std::string_view kSCPropNetIPv4Addresses = "Addresses";
+inline constexpr std::string_view kSCPropNetIPv4SubnetMasks = "SubnetMasks";
+inline constexpr std::string_view kSCPropNetIPv6Addresses = "Addresses";
+inline constexpr std::string_view kSCPropNetIPv6PrefixLength = "PrefixLength";
+inline constexpr std::string_view kSCPropNetLinkActive = "Active";
+
+// The interface type of a dial-up service.
+inline constexpr std::string_view kSCValNetInterfaceTypePPP = "PPP";
+
+// What stands, localized, for every value that is missing.
+inline constexpr std::string_view notAvailableText = "not available";
+
+// What marks the service identifier of a kernel interface that no service covers: "=" and the
+// interface's name.
+inline constexpr char kernelOnlyMark = '=';
+
+// Status codes. Every other one is the platform's own.
+inline constexpr int noErr = 0;
+inline constexpr int kSCStatusFailed = 1001;           // a failure without a code of its own
+inline constexpr int coreFoundationUnknownErr = -4960; // a list could not be made
+
+} // namespace kx

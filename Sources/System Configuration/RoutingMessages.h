@@ -1,0 +1,82 @@
+// The kernel's interface list in the BSD routing-message layout, taken apart.
+//
+// A list is a sequence of messages. Each begins with its total length (16 bits) and carries its
+// type in byte 3. Two types matter:
+//
+//   14, an interface: a header of 112 bytes (flags: 32 bits at byte 8), then the link-level address
+//       (family 18 at byte 1, name length at byte 5, address length at byte 6, then the name from
+//       byte 8 on, and the hardware address right behind the name)
+//   12, an address of the interface before it: a header of 20 bytes (presence mask: 32 bits at byte
+//       4), then one socket address for each bit of the mask, lowest bit first
+//
+// Numbers in the headers are in host byte order; addresses are in network byte order. Socket
+// addresses take their length byte rounded up to a multiple of the size of a long integer.
+//
+// The bytes are foreign: nothing here reads beyond a message, and whatever is cut short counts as
+// missing. All functions are pure, the results look into the argument and live as long as it does.
+// They may be called from any thread.
+
+#pragma once
+
+#include "support/ByteRange.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+inline constexpr std::uint8_t addressMessageType = 12;
+inline constexpr std::uint8_t interfaceMessageType = 14;
+inline constexpr std::size_t interfaceMessageHeaderLength = 112;
+inline constexpr std::size_t addressMessageHeaderLength = 20;
+
+// Slots of an address message, which are the bits of its presence mask.
+inline constexpr std::size_t netmaskSlot = 2;
+inline constexpr std::size_t interfaceAddressSlot = 5;
+inline constexpr std::size_t addressSlotCount = 8;
+
+// Takes the first message off `rest` and returns it. Absent at the end; and where no whole message
+// follows (its length does not cover its type, or reaches beyond the buffer), because without a
+// length there is no next message either.
+std::optional<ByteView> nextRoutingMessage(ByteView& rest);
+
+// All messages up to the first place where no whole message follows.
+std::vector<ByteView> routingMessages(ByteView list);
+
+// The type of one of these messages.
+std::uint8_t routingMessageType(ByteView message);
+
+// What an interface message says of its interface.
+struct InterfaceMessage {
+    std::optional<std::string> name; // absent when its bytes are not UTF-8
+    bool isUp = false;
+    ByteView hardwareAddress; // empty when it has none, or when the message ends before it
+};
+
+// Reads a message of type 14. Absent for another type, and when the message has no link-level
+// address with a name.
+std::optional<InterfaceMessage> interfaceMessage(ByteView message);
+
+// The socket addresses of a message by slot: absent where the slot's bit is not set; otherwise all
+// bytes from the socket address to the end of the message, none when the message ends before it.
+using RoutingAddresses = std::array<std::optional<ByteView>, addressSlotCount>;
+
+// Fills the slots from the presence mask and the bytes behind the message's header. A socket
+// address of length 0 takes one unit.
+void get_rtaddrs(std::uint32_t presenceMask, ByteView socketAddresses, RoutingAddresses& slots);
+
+// What an address message says. 0 stands for an address that the message does not have.
+struct AddressMessage {
+    std::uint32_t address = 0; // in host byte order, as is the mask
+    std::uint32_t mask = 0;
+};
+
+// Reads a message of type 12. Absent for another type, for an interface address that is not IPv4,
+// and when the message ends before its header or inside one of the two addresses.
+std::optional<AddressMessage> addressMessage(ByteView message);
+
+} // namespace kx

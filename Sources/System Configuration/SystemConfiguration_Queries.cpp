@@ -1,0 +1,235 @@
+// What is known of one service or one interface, as records and as texts for people.
+
+#include "System Configuration/ConfigurationKeys.h"
+#include "System Configuration/ConfigurationRecord.h"
+#include "System Configuration/RoutingMessages.h"
+#include "System Configuration/SystemConfiguration.h"
+#include "addresses/HardwareAddress.h"
+#include "addresses/IPv4Address.h"
+#include "support/LocalizedText.h"
+#include "support/SystemLog.h"
+#include "support/TextEncoding.h"
+#include "support/TextFormat.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+std::string joined(const std::vector<std::string>& texts) {
+    std::string result;
+    for (const auto& text : texts) {
+        result += &text != &texts.front() ? "," : "";
+        result += text;
+    }
+    return texts.empty() ? localizedText(notAvailableText) : result;
+}
+
+std::optional<PropertyListValue> elementOf(const PropertyList& list, std::size_t index) {
+    return index < list.size() ? std::optional(list[index]) : std::nullopt;
+}
+
+std::string prefixForMask(const std::optional<PropertyListValue>& mask) {
+    const auto prefix = prefixForMaskStr(textOf(mask));
+    return prefix.has_value() && integerValue(*prefix) != 0 ? *prefix : "32";
+}
+
+std::string linkStatusText(bool isActive) {
+    return isActive ? "Active" : "Inactive";
+}
+
+// What the message of the wanted interface itself answers.
+std::optional<std::string> interfaceText(const InterfaceMessage& interface,
+                                         std::string_view requestKey) {
+    if (requestKey == hardwareAddressRequest &&
+        interface.hardwareAddress.size() == hardwareAddressLength) {
+        HardwareAddress address;
+        std::copy(interface.hardwareAddress.begin(), interface.hardwareAddress.end(),
+                  address.bytes());
+        return address.stringValue();
+    }
+    if (requestKey == linkStatusRequest) {
+        return linkStatusText(interface.isUp);
+    }
+    return std::nullopt;
+}
+
+// What an address message of the wanted interface answers.
+std::optional<std::string> addressText(const AddressMessage& message, std::string_view requestKey) {
+    if (requestKey == grantAddressRequest) {
+        return stringForIP(message.address);
+    }
+    if (requestKey == subnetMaskRequest) {
+        return stringForIP(message.mask);
+    }
+    if (requestKey == netNumberRequest) {
+        return stringForNetNumber(message.address, message.mask);
+    }
+    return std::nullopt;
+}
+
+// What one message answers. `isInsideInterface` says whether the messages before it were about the
+// wanted interface, and then whether this one is.
+std::optional<std::string> messageText(ByteView message, std::string_view bsdName,
+                                       std::string_view requestKey, bool& isInsideInterface) {
+    const auto interface = interfaceMessage(message);
+    if (interface.has_value()) {
+        isInsideInterface = interface->name == bsdName;
+        return isInsideInterface ? interfaceText(*interface, requestKey) : std::nullopt;
+    }
+    const auto address = addressMessage(message);
+    return address.has_value() && isInsideInterface ? addressText(*address, requestKey)
+                                                    : std::nullopt;
+}
+
+} // namespace
+
+std::optional<PropertyListValue> SystemConfiguration::interfaceDataForDictionaryNameKey(
+    std::string_view bsdName, std::string_view dictionaryName, std::string_view key) {
+    const auto session = _store.openSession(applicationIdentifier, nullptr, nullptr);
+    if (session == nullptr) {
+        return std::nullopt;
+    }
+    return entryOf(
+        session->copyValue(filledText(stateInterfaceEntityKey, {bsdName, dictionaryName})), key);
+}
+
+std::optional<PropertyListValue> SystemConfiguration::serviceDataForDictionaryNameKey(
+    std::string_view serviceID, std::string_view dictionaryName, std::string_view key) {
+    if (serviceID.starts_with(kernelOnlyMark)) {
+        return std::nullopt;
+    }
+    const auto session = _store.openSession(applicationIdentifier, nullptr, nullptr);
+    if (session == nullptr) {
+        return std::nullopt;
+    }
+    auto entry = entryOf(
+        session->copyValue(filledText(stateServiceEntityKey, {serviceID, dictionaryName})), key);
+    if (entry.has_value()) {
+        return entry;
+    }
+    return staticServiceDataForDictionaryNameKey(serviceID, dictionaryName, key);
+}
+
+std::optional<PropertyListValue> SystemConfiguration::staticServiceDataForDictionaryNameKey(
+    std::string_view serviceID, std::string_view dictionaryName, std::string_view key) {
+    if (serviceID.starts_with(kernelOnlyMark)) {
+        return std::nullopt;
+    }
+    const auto session = _store.openPreferences(applicationIdentifier);
+    if (session == nullptr) {
+        // The same line as for the search of a service, whoever reads the log knows it by that.
+        logToSystem("serviceIDForInterface: open session for System Configuration failed");
+        return std::nullopt;
+    }
+    return entryOf(
+        session->pathGetValue(filledText(savedServiceEntityPath, {serviceID, dictionaryName})),
+        key);
+}
+
+std::string SystemConfiguration::serviceInterfaceDataForKey(std::string_view serviceID,
+                                                            std::string_view requestKey) {
+    if (serviceID.starts_with(kernelOnlyMark)) {
+        return bsdNameInterfaceDataForKey(serviceID.substr(1), requestKey);
+    }
+    const auto bsdName = bsdNameForServiceID(serviceID);
+    if (requestKey == grantAddressRequest) {
+        return _joinedServiceList(serviceID, bsdName, kSCPropNetIPv4Addresses);
+    }
+    if (requestKey == grantAddress6Request) {
+        return _joinedIPv6Addresses(bsdName);
+    }
+    if (requestKey == subnetMaskRequest) {
+        return _joinedServiceList(serviceID, bsdName, kSCPropNetIPv4SubnetMasks);
+    }
+    if (requestKey == netNumberRequest) {
+        return _joinedNetNumbers(serviceID, bsdName);
+    }
+    if (requestKey == linkStatusRequest) {
+        return _linkStatus(bsdName);
+    }
+    if (requestKey == hardwareAddressRequest) {
+        return bsdName.has_value() ? bsdNameInterfaceDataForKey(*bsdName, hardwareAddressRequest)
+                                   : localizedText(notAvailableText);
+    }
+    logToSystem("interfaceDataForKey unknown request");
+    return localizedText(notAvailableText);
+}
+
+std::string SystemConfiguration::bsdNameInterfaceDataForKey(std::string_view bsdName,
+                                                            std::string_view requestKey) {
+    const auto list = getParameter(interfaceListName).value_or(Bytes());
+    bool isInsideInterface = false;
+    for (const ByteView message : routingMessages(list)) {
+        const auto answer = messageText(message, bsdName, requestKey, isInsideInterface);
+        if (answer.has_value()) {
+            return *answer;
+        }
+    }
+    return localizedText(notAvailableText);
+}
+
+PropertyList SystemConfiguration::_interfaceList(const std::optional<std::string>& bsdName,
+                                                 std::string_view dictionaryName,
+                                                 std::string_view key) {
+    return bsdName.has_value()
+               ? listOf(interfaceDataForDictionaryNameKey(*bsdName, dictionaryName, key))
+               : PropertyList();
+}
+
+std::string SystemConfiguration::_joinedServiceList(std::string_view serviceID,
+                                                    const std::optional<std::string>& bsdName,
+                                                    std::string_view key) {
+    auto list = listOf(serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, key));
+    if (list.empty()) {
+        list = _interfaceList(bsdName, kSCEntNetIPv4, key);
+    }
+    std::vector<std::string> texts;
+    for (const auto& element : list) {
+        texts.push_back(element.description());
+    }
+    return joined(texts);
+}
+
+std::string SystemConfiguration::_joinedIPv6Addresses(const std::optional<std::string>& bsdName) {
+    const auto addresses = _interfaceList(bsdName, kSCEntNetIPv6, kSCPropNetIPv6Addresses);
+    const auto prefixLengths = _interfaceList(bsdName, kSCEntNetIPv6, kSCPropNetIPv6PrefixLength);
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < addresses.size(); ++i) {
+        const auto prefixLength = elementOf(prefixLengths, i);
+        texts.push_back(filledText(
+            "%@/%@", {addresses[i].description(),
+                      prefixLength ? std::optional(prefixLength->description()) : std::nullopt}));
+    }
+    return joined(texts);
+}
+
+std::string SystemConfiguration::_joinedNetNumbers(std::string_view serviceID,
+                                                   const std::optional<std::string>& bsdName) {
+    auto addresses =
+        listOf(serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, kSCPropNetIPv4Addresses));
+    auto masks = listOf(
+        serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, kSCPropNetIPv4SubnetMasks));
+    if (addresses.empty()) {
+        addresses = _interfaceList(bsdName, kSCEntNetIPv4, kSCPropNetIPv4Addresses);
+        masks = _interfaceList(bsdName, kSCEntNetIPv4, kSCPropNetIPv4SubnetMasks);
+    }
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < addresses.size(); ++i) {
+        texts.push_back(
+            filledText("%@/%@", {addresses[i].description(), prefixForMask(elementOf(masks, i))}));
+    }
+    return joined(texts);
+}
+
+std::string SystemConfiguration::_linkStatus(const std::optional<std::string>& bsdName) {
+    const auto active =
+        bsdName.has_value()
+            ? interfaceDataForDictionaryNameKey(*bsdName, kSCEntNetLink, kSCPropNetLinkActive)
+            : std::nullopt;
+    return active.has_value() ? linkStatusText(numberOf(active) == 1) : "Not reported";
+}
+
+} // namespace kx
