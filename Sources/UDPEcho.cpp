@@ -246,7 +246,7 @@ void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
     const Bytes& addr = requireValue(destination, "addr != nil", sourcePath);
 
     // A connected socket is given no address.
-    const ByteView addressToSend = address.has_value() ? ByteView(addr) : ByteView();
+    const auto addressToSend = address.has_value() ? std::optional<ByteView>(addr) : std::nullopt;
     const ssize_t bytesWritten = _systemCalls.sendTo(sock, bytes, addressToSend);
     int err = 0;
     if (bytesWritten < 0) {

@@ -1,5 +1,7 @@
 // The test doubles keep the contracts of what they stand for.
 
+#include "contracts/BrokenContract.h"
+#include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/SystemLogContract.h"
@@ -8,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedSystemCalls.h"
 
 #include <netdb.h>
 
@@ -19,11 +22,11 @@ class ManualRunLoopTrait {
 public:
     RunLoop& runLoop() { return _loop; }
     int newDescriptor() { return _nextDescriptor++; }
+    // Every number from 0 on counts as open.
+    std::vector<int> closedDescriptors() { return {-1}; }
     void setReadable(int descriptor, bool readable) { _loop.setReadable(descriptor, readable); }
     bool runUntil(const std::function<bool()>& condition) {
         for (int turn = 0; turn < 1000 && !condition(); ++turn) {
-    // Every number from 0 on counts as open.
-    std::vector<int> closedDescriptors() { return {-1}; }
             _loop.runOneTurn();
             if (!condition()) {
                 _loop.advanceBy(std::chrono::milliseconds(1));
