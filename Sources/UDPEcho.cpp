@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <string_view>
 #include <utility>
 
 namespace kx {
@@ -72,6 +73,11 @@ EndpointSocket::~EndpointSocket() {
 }
 
 // --- Life and start ---
+
+std::shared_ptr<UDPEcho> UDPEcho::make(RunLoop& runLoop, HostResolver& hostResolver,
+                                       DatagramSystemCalls& systemCalls) {
+    return std::shared_ptr<UDPEcho>(new UDPEcho(runLoop, hostResolver, systemCalls));
+}
 
 UDPEcho::UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls)
     : _runLoop(runLoop)

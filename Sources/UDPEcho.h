@@ -35,6 +35,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kx {
 
@@ -99,7 +101,9 @@ private:
 
 class UDPEcho : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
 public:
-    UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
+    // A stopped endpoint without a delegate.
+    static std::shared_ptr<UDPEcho> make(RunLoop& runLoop, HostResolver& hostResolver,
+                                         DatagramSystemCalls& systemCalls);
 
     // Stops without a word to the delegate.
     ~UDPEcho() override;
@@ -181,6 +185,9 @@ protected:
     void _stopHostResolution();
 
     // Reads one datagram and reports it. Contracts: "sock >= 0", "dataObj != nil",
+    // A derived class, too, must see to it that its objects are held by std::shared_ptr.
+    UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
+
     // "addrObj != nil".
     void _readData();
 

@@ -129,7 +129,7 @@ protected:
     ThreadHostResolver resolver{loop};
     DatagramSystemCalls systemCalls;
     CollectingDelegate delegate;
-    std::shared_ptr<UDPEcho> echo = std::make_shared<UDPEcho>(loop, resolver, systemCalls);
+    std::shared_ptr<UDPEcho> echo = UDPEcho::make(loop, resolver, systemCalls);
     LoopbackSocket peer;
 };
 
@@ -160,7 +160,7 @@ TEST_F(UDPEchoLoopback, TheOwnerMayAllowBroadcasts) {
 TEST_F(UDPEchoLoopback, APortInUseStopsWithAddressInUseAndLeavesPort0) {
     const auto port = startServer();
     CollectingDelegate otherDelegate;
-    const auto other = std::make_shared<UDPEcho>(loop, resolver, systemCalls);
+    const auto other = UDPEcho::make(loop, resolver, systemCalls);
     other->setDelegate(&otherDelegate);
     other->startServerOnPort(port);
     EXPECT_EQ(otherDelegate.stopErrors, std::vector<Error>{posixError(EADDRINUSE)});
@@ -318,7 +318,7 @@ TEST_F(UDPEchoLoopback, TheEndpointMayBeReleasedWhenAClientStartsOrStops) {
     ASSERT_TRUE(runUntil([&] { return !delegate.startAddresses.empty(); }));
     EXPECT_TRUE(observed.expired());
 
-    echo = std::make_shared<UDPEcho>(loop, resolver, systemCalls);
+    echo = UDPEcho::make(loop, resolver, systemCalls);
     echo->setDelegate(&delegate);
     echo->startConnectedToHostNamePort("::1", 3522);
     ASSERT_TRUE(runUntil([&] { return !delegate.stopErrors.empty(); }));
