@@ -51,7 +51,7 @@ public:
     PropertyListValue& operator=(PropertyListValue&& other) noexcept;
 
     // The value as the given kind, or null when it is of another kind. The pointer lives as long as
-    // this value is neither destroyed nor assigned to.
+    // this value is neither destroyed, assigned to nor moved from.
     const std::string* text() const { return std::get_if<std::string>(&_value); }
     const std::int64_t* integer() const { return std::get_if<std::int64_t>(&_value); }
     const PropertyList* list() const;
@@ -61,7 +61,7 @@ public:
     // "{k = v; l = w}" for dictionaries.
     std::string description() const;
 
-    // Values are the same when they are of one kind and look the same.
+    // Values are equal when they are of one kind and their contents are.
     friend bool operator==(const PropertyListValue& left, const PropertyListValue& right);
 
 private:
