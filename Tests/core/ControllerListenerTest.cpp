@@ -112,8 +112,8 @@ TEST_F(ControllerListener, ListenerOfAnotherFamilyHasNoAddressInTheLog) {
 TEST_F(ControllerListener, StartOfAnotherEndpointIsIgnored) {
     launch();
     const Lines before = log();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidStartWithAddress(stranger, dataForAddress(0, 3520));
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidStartWithAddress(*stranger, dataForAddress(0, 3520));
     EXPECT_EQ(log(), before);
     EXPECT_EQ(sent().size(), 1U);
 }
@@ -121,18 +121,18 @@ TEST_F(ControllerListener, StartOfAnotherEndpointIsIgnored) {
 TEST_F(ControllerListener, SendOfAnotherEndpointIsNotLogged) {
     launch();
     const Lines before = log();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidSendDataToAddress(stranger, {}, {});
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidSendDataToAddress(*stranger, {}, {});
     EXPECT_EQ(log(), before);
 }
 
 TEST_F(ControllerListener, ErrorsOfEveryEndpointAreLogged) {
     launch();
     const auto length = controller.eventLog().size();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidReceiveError(stranger, posixError(ECONNREFUSED));
-    controller.echoDidFailToSendDataToAddressError(stranger, {}, {}, posixError(ENETUNREACH));
-    controller.echoDidStopWithError(stranger, posixError(EACCES));
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidReceiveError(*stranger, posixError(ECONNREFUSED));
+    controller.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(ENETUNREACH));
+    controller.echoDidStopWithError(*stranger, posixError(EACCES));
     EXPECT_EQ(logSince(length),
               (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED),
                      "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH),
