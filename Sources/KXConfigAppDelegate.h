@@ -81,6 +81,7 @@ public:
     void tableViewSelectionDidChange();
 
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
+    // A column of any other identifier reads as the empty text and takes nothing.
 
     int numberOfRowsInTableView() override;
     std::optional<PropertyListValue>
