@@ -79,22 +79,6 @@ std::string optionTextForTitle(std::string_view title, const std::tm& now);
 // number, or 3520 for an absent or an empty text.
 std::uint16_t unitPortForText(std::optional<std::string_view> devicePort);
 
-// --- Identities and bytes as text ---
-
-// A unit ID of six bytes: the decimal value of the last byte when the five before it are zero,
-// otherwise the six bytes as UTF-8, zero bytes included. Absent when they are not UTF-8. Throws
-// RangeFailure for fewer than six bytes; further bytes are not looked at.
-std::optional<std::string> unitIDforData(ByteView data);
-
-// Two upper-case hexadecimal digits for each byte, joined by `separator`; empty for no bytes.
-std::string hexStringForData(ByteView data, std::string_view separator);
-
-// The text form of a serial number, by which units are known: hexStringForData() with a blank.
-std::string serialNumberText(ByteView data);
-
-// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns what follows them.
-char* writeHexDigits(char* digits, std::uint8_t byte);
-
 // --- Replies ---
 
 enum class PacketKind {
@@ -106,7 +90,7 @@ enum class PacketKind {
 enum class PayloadKind {
     none,            // no payload marker
     parameterList,   // behind the marker stands "<M>"
-    acknowledgement, // behind the marker stands "ok" and one more byte
+    acknowledgement, // behind the marker stand "ok" and one more ASCII character
     other,
 };
 

@@ -323,7 +323,7 @@ TEST_F(ControllerDiscovery, EditingTheCopyDoesNotChangeTheTable) {
     window.editParameterTableView.typeIntoCell(0, "parameterValue", "9");
     window.unitParameterTableView.reloadData();
     EXPECT_EQ(parameterRows().back(), "unit ID = 5");
-    EXPECT_EQ(value(serialFive, unitIDName), "5");
+    EXPECT_EQ(value(serialFive, UnitParameter::unitID), "5");
 }
 
 TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {
