@@ -70,6 +70,9 @@ protected:
         runLoop.advanceBy(2000ms);
     }
 
+    // The listener as it names itself in its events.
+    UDPEcho& listener() { return const_cast<UDPEcho&>(*controller.udpListener()); }
+
     // Everything sent, as "address:port text"; a carriage return shows as "\r".
     Lines sent() const {
         Lines lines;

@@ -1,24 +1,15 @@
-// Launch, interface and port choice, the listener's events, help and the end.
+// Launch, port choice, the listener's events, help and the end.
 
 #include "ControllerFixture.h"
-#include "support/LocalizedText.h"
+#include "doubles/BrokenText.h"
+
+#include <stdexcept>
 
 namespace kx {
 
 namespace {
 
-class ControllerLifecycle : public ControllerTest {
-protected:
-    // Chooses the interface that the pop-up offers and gives back where a discovery then goes.
-    std::string broadcastAfterChoosing(const std::string& address, const std::string& mask) {
-        interfaces.addService("Ethernet", "eth0", address, mask);
-        launch();
-        window.interfacePopUp.selectItemWithTitle("Ethernet (eth0)");
-        controller.interfaceSelect();
-        controller.discoverButton();
-        return lastSent();
-    }
-};
+class ControllerLifecycle : public ControllerTest {};
 
 } // namespace
 
@@ -62,104 +53,24 @@ TEST_F(ControllerLifecycle, LaunchPreparesTheOptionCommand) {
 
 TEST_F(ControllerLifecycle, LaunchSelectsNoUnit) {
     launch();
+    discover({SampleUnit()});
+    ASSERT_EQ(selectedUnit(), "01 02 03 04 05 06");
+    launch();
     EXPECT_EQ(controller.selectedUnit(), std::nullopt);
     EXPECT_TRUE(controller.devices().empty());
-}
-
-TEST_F(ControllerLifecycle, FirstBroadcastGoesEverywhereBecauseNoInterfaceIsChosen) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    launch();
-    EXPECT_EQ(sent(), Lines{"255.255.255.255:3520 ^^IdX"});
-}
-
-TEST_F(ControllerLifecycle, BroadcastFollowsTheChosenInterface) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.0"), "192.168.1.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, BroadcastUnderAFullMaskGoesToTheInterfaceItself) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.255"), "192.168.1.20:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, BroadcastUnderAnEmptyMaskGoesEverywhere) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "0.0.0.0"), "255.255.255.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, ChoosingAnInterfaceSendsAndLogsNothing) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    launch();
-    const Lines before = log();
-    controller.interfaceSelect();
-    EXPECT_EQ(log(), before);
-    EXPECT_EQ(sent().size(), 1U);
-    EXPECT_EQ(systemCalls.count(Operation::socket), 1U);
-}
-
-TEST_F(ControllerLifecycle, InterfaceWithoutAnAddressFallsBackToEverywhere) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    interfaces.addTitle("Tunnel (tun0)", "=tun0");
-    launch();
-    window.interfacePopUp.selectItemAtIndex(0);
-    controller.interfaceSelect();
-    window.interfacePopUp.selectItemAtIndex(1);
-    controller.interfaceSelect();
-    controller.discoverButton();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, ConfigurationOfAnUnexpectedShapeReadsAsNoAddress) {
-    const std::vector<PropertyListValue> shapes{"192.168.1.20", PropertyList{}, PropertyList{5},
-                                                PropertyList{"not an address"},
-                                                PropertyDictionary{{"0", "192.168.1.20"}}};
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    launch();
-    for (const auto& shape : shapes) {
-        interfaces.setData("service-eth0", "IPv4", "Addresses", shape);
-        controller.interfaceSelect();
-        controller.discoverButton();
-        EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX") << shape.description();
-    }
-}
-
-TEST_F(ControllerLifecycle, MissingMaskCountsAsAnEmptyOne) {
-    interfaces.addTitle("Ethernet (eth0)", "a");
-    interfaces.setService("eth0", "a");
-    interfaces.setData("a", "IPv4", "Addresses", PropertyList{"192.168.1.20"});
-    launch();
-    controller.interfaceSelect();
-    controller.reloadUnitParameterButton();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, InterfaceIsFoundByItsNameInTheTitle) {
-    interfaces.addTitle("Office (2nd floor) (eth1:1)", "x");
-    interfaces.setService("eth1", "service-eth1");
-    interfaces.setData("service-eth1", "IPv4", "Addresses", PropertyList{"10.1.2.3", "10.9.9.9"});
-    interfaces.setData("service-eth1", "IPv4", "SubnetMasks", PropertyList{"255.255.0.0"});
-    launch();
-    controller.interfaceSelect();
-    controller.reloadUnitParameterButton();
-    EXPECT_EQ(lastSent(), "10.1.255.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, LaunchForgetsAnEarlierAddress) {
-    broadcastAfterChoosing("192.168.1.20", "255.255.255.0");
-    launch();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
 }
 
 TEST_F(ControllerLifecycle, AnotherPortRestartsTheListenerOnIt) {
     launch();
     const int firstSocket = systemCalls.lastDescriptor();
-    const auto firstListener = controller.udpListener();
     window.udpPortPopUp.selectItemWithTitle("3522");
     controller.udpPortSelect();
     EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3522",
                             "Request unit parameters with address: 255.255.255.255",
                             "UDP server did send data."}));
     EXPECT_EQ(systemCalls.closeCount(firstSocket), 1U);
-    EXPECT_NE(controller.udpListener(), firstListener);
+    EXPECT_NE(systemCalls.lastDescriptor(), firstSocket);
     EXPECT_EQ(controller.udpListener()->port(), 3522U);
-    EXPECT_EQ(firstListener->port(), 0U);
 }
 
 TEST_F(ControllerLifecycle, BroadcastUsesPort3520WhateverPortIsListenedOnOrUnitSelected) {
@@ -212,7 +123,7 @@ TEST_F(ControllerLifecycle, DiscoverRecoversFromATakenPort) {
 TEST_F(ControllerLifecycle, ListenerOfAnotherFamilyHasNoAddressInTheLog) {
     launch();
     const auto length = controller.eventLog().size();
-    controller.echoDidStartWithAddress(*controller.udpListener(), dataForAddress6({}, 3520));
+    controller.echoDidStartWithAddress(listener(), dataForAddress6({}, 3520));
     EXPECT_EQ(logSince(length), (Lines{"UDP listener did start. ",
                                        "Request unit parameters with address: 255.255.255.255",
                                        "UDP server did send data."}));
@@ -284,11 +195,11 @@ TEST_F(ControllerLifecycle, SendOfNoBytesCountsAsFailed) {
 TEST_F(ControllerLifecycle, StoppedListenerStaysUntilTheNextRestart) {
     systemCalls.failNext(Operation::bind, EACCES);
     launch();
-    const auto stopped = controller.udpListener();
     controller.interfaceSelect();
     controller.reloadUnitParameterButton();
     runLoop.advanceBy(2000ms);
-    EXPECT_EQ(controller.udpListener(), stopped);
+    EXPECT_EQ(controller.udpListener()->port(), 0U);
+    EXPECT_EQ(systemCalls.count(Operation::socket), 1U);
 }
 
 TEST_F(ControllerLifecycle, SendingThroughAStoppedListenerIsAFailedSend) {
@@ -302,37 +213,9 @@ TEST_F(ControllerLifecycle, SendingThroughAStoppedListenerIsAFailedSend) {
     EXPECT_EQ(sent(), Lines{});
 }
 
-namespace {
-
-// Fails for one message, as a broken translation might.
-class BrokenText final : public LocalizedText {
-public:
-    explicit BrokenText(bool withPlatformException)
-        : _withPlatformException(withPlatformException)
-        , _previous(installLocalizedText(this)) {}
-    ~BrokenText() override { installLocalizedText(_previous); }
-    BrokenText(const BrokenText&) = delete;
-    BrokenText& operator=(const BrokenText&) = delete;
-
-    std::string textForKey(std::string_view key) const override {
-        if (key != "\nRequest unit parameters with address: %@") {
-            return std::string(key);
-        }
-        if (_withPlatformException) {
-            throw PlatformException("no such text");
-        }
-        throw std::logic_error("a mistake in the program");
-    }
-
-private:
-    bool _withPlatformException;
-    const LocalizedText* _previous;
-};
-
-} // namespace
-
 TEST_F(ControllerLifecycle, ExceptionWhileTheListenerStartsGoesToTheSystemLog) {
-    const BrokenText broken(true);
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            PlatformException("no such text"));
     launch();
     EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didStartWithAddress: no such text"});
     EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520"}));
@@ -341,8 +224,10 @@ TEST_F(ControllerLifecycle, ExceptionWhileTheListenerStartsGoesToTheSystemLog) {
 }
 
 TEST_F(ControllerLifecycle, OtherExceptionsArePassedOn) {
-    const BrokenText broken(false);
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            std::logic_error("a mistake in the program"));
     EXPECT_THROW(launch(), std::logic_error);
+    EXPECT_EQ(systemLog.lines(), Lines{});
 }
 
 TEST_F(ControllerLifecycle, ClosingTheWindowEndsTheApplication) {
@@ -371,14 +256,18 @@ TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
 
 TEST_F(ControllerLifecycle, TerminationCancelsDelayedCalls) {
     launch();
+    discover({SampleUnit()}); // without it a completion would find nothing to select
     controller.restoreDefaultSettings();
+    controller.discoverButton();
+    window.unitSelectPopUp.addItemsWithTitles({"01 02 03 04 05 06"});
     EXPECT_EQ(runLoop.pendingCallCount(), 2U);
     controller.applicationWillTerminate();
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
-    const auto before = sent().size();
+    const int reloads = window.unitParameterTableView.reloadCount();
     runLoop.advanceBy(10s);
-    EXPECT_EQ(sent().size(), before);
-    EXPECT_EQ(window.unitSelectPopUp.titles(), Titles{});
+    EXPECT_EQ(controller.eventLog(), "");               // what the reload would begin with
+    EXPECT_EQ(controller.selectedUnit(), std::nullopt); // what the completion would set
+    EXPECT_EQ(window.unitParameterTableView.reloadCount(), reloads);
 }
 
 TEST_F(ControllerLifecycle, EditTableStaysAnswerableAfterTheEnd) {

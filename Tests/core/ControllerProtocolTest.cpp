@@ -1,6 +1,9 @@
 // Commands out, replies in.
 
 #include "ControllerFixture.h"
+#include "doubles/BrokenText.h"
+
+#include <stdexcept>
 
 namespace kx {
 
@@ -320,18 +323,24 @@ TEST_F(ControllerProtocol, MissingUnitIDInTheListShowsAsNull) {
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "(absent)");
 }
 
-TEST_F(ControllerProtocol, DatagramOfAStaleEndpointIsIgnoredSilently) {
-    const auto stale = controller.udpListener();
-    controller.discoverButton();
+TEST_F(ControllerProtocol, DatagramOfAnotherEndpointIsIgnoredSilently) {
+    UDPEcho stranger(runLoop, hostResolver, systemCalls);
     const auto before = controller.eventLog();
-    controller.echoDidReceiveDataFromAddress(*stale, SampleUnit().reply(), {});
+    controller.echoDidReceiveDataFromAddress(stranger, SampleUnit().reply(), {});
     EXPECT_EQ(controller.eventLog(), before);
     EXPECT_TRUE(controller.devices().empty());
 }
 
 TEST_F(ControllerProtocol, SenderOfADatagramDoesNotMatter) {
-    controller.echoDidReceiveDataFromAddress(*controller.udpListener(), SampleUnit().reply(), {});
+    controller.echoDidReceiveDataFromAddress(listener(), SampleUnit().reply(), {});
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "192.168.1.10");
+}
+
+TEST_F(ControllerProtocol, ExceptionsOfAnotherKindWhileADatagramIsHandledArePassedOn) {
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            std::logic_error("a mistake in the program"));
+    EXPECT_THROW(receive(SampleUnit().acknowledgement()), std::logic_error);
+    EXPECT_EQ(systemLog.lines(), Lines{});
 }
 
 } // namespace kx

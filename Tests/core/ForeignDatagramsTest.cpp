@@ -21,7 +21,7 @@ protected:
         const auto logLength = controller.eventLog().size();
         const auto systemLogCount = systemLog.lines().size();
 
-        controller.echoDidReceiveDataFromAddress(*controller.udpListener(), datagram, {});
+        controller.echoDidReceiveDataFromAddress(listener(), datagram, {});
 
         ASSERT_EQ(controller.eventLog().substr(logLength),
                   "\nUDP listener did receive data. Length: " + std::to_string(datagram.size()) +
