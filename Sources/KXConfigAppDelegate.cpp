@@ -97,8 +97,7 @@ void KXConfigAppDelegate::myHelp() {
 
 void KXConfigAppDelegate::restartListener(std::size_t port) {
     stopListener();
-    _udpListener =
-        std::make_shared<UDPEcho>(_services.runLoop, _services.hostResolver, _services.systemCalls);
+    _udpListener = UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
     _udpListener->setDelegate(this);
     _udpListener->startServerOnPort(port);
 }

@@ -132,8 +132,8 @@ TEST_F(ControllerLifecycle, ListenerOfAnotherFamilyHasNoAddressInTheLog) {
 TEST_F(ControllerLifecycle, StartOfAnotherEndpointIsIgnored) {
     launch();
     const Lines before = log();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidStartWithAddress(stranger, dataForAddress(0, 3520));
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidStartWithAddress(*stranger, dataForAddress(0, 3520));
     EXPECT_EQ(log(), before);
     EXPECT_EQ(sent().size(), 1U);
 }
@@ -141,18 +141,18 @@ TEST_F(ControllerLifecycle, StartOfAnotherEndpointIsIgnored) {
 TEST_F(ControllerLifecycle, SendOfAnotherEndpointIsNotLogged) {
     launch();
     const Lines before = log();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidSendDataToAddress(stranger, {}, {});
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidSendDataToAddress(*stranger, {}, {});
     EXPECT_EQ(log(), before);
 }
 
 TEST_F(ControllerLifecycle, ErrorsOfEveryEndpointAreLogged) {
     launch();
     const auto length = controller.eventLog().size();
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
-    controller.echoDidReceiveError(stranger, posixError(ECONNREFUSED));
-    controller.echoDidFailToSendDataToAddressError(stranger, {}, {}, posixError(ENETUNREACH));
-    controller.echoDidStopWithError(stranger, posixError(EACCES));
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidReceiveError(*stranger, posixError(ECONNREFUSED));
+    controller.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(ENETUNREACH));
+    controller.echoDidStopWithError(*stranger, posixError(EACCES));
     EXPECT_EQ(logSince(length),
               (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED),
                      "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH),
