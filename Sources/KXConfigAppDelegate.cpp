@@ -6,7 +6,6 @@
 #include "addresses/SocketAddressRecord.h"
 #include "support/LocalizedText.h"
 #include "support/SystemLog.h"
-#include "support/TextEncoding.h"
 
 #include <cerrno>
 
@@ -15,6 +14,10 @@ namespace kx {
 KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services)
     : _outlets(outlets)
     , _services(services) {}
+
+KXConfigAppDelegate::~KXConfigAppDelegate() {
+    stopListener();
+}
 
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
@@ -32,7 +35,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
         _outlets.interfacePopUp->setEnabled(false);
     }
 
-    _udpListener.reset();
+    stopListener();
     _devicesD.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
@@ -101,6 +104,7 @@ void KXConfigAppDelegate::restartListener(std::size_t port) {
 
 void KXConfigAppDelegate::stopListener() {
     if (_udpListener != nullptr) {
+        _udpListener->setDelegate(nullptr);
         _udpListener->stop();
         _udpListener.reset();
     }
