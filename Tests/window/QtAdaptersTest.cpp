@@ -47,6 +47,7 @@ TEST(QtPopUpButton, SelectingFromCodeRunsNoAction) {
 
 TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     std::vector<std::string> titles;
+    titles.reserve(65'536);
     for (int unit = 0; unit < 65'536; ++unit) {
         titles.push_back("4B 58 00 00 " + std::to_string(unit));
     }
@@ -177,10 +178,13 @@ TEST(EditCommands, WorkWithoutAControl) {
 
 TEST(QtApplication, TerminatingEndsTheLoopAfterTheCurrentEvent) {
     bool eventWentOn = false;
-    QTimer::singleShot(0, qApp, [&] {
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, &timer, [&] {
         QtApplication().terminate();
         eventWentOn = true;
     });
+    timer.start(0);
     EXPECT_EQ(QCoreApplication::exec(), 0);
     EXPECT_TRUE(eventWentOn);
 }
