@@ -1,10 +1,24 @@
 #include "MainWindowFixture.h"
 
+#include <QApplication>
+#include <string_view>
+
 namespace kx {
 
-// Through the window, so that shortcuts and the keyboard focus take part as for a person.
+QWindow* MainWindowTest::windowWithKeyboard() {
+    const QWidget* popUpList = QApplication::activePopupWidget();
+    return popUpList != nullptr ? popUpList->windowHandle() : window.windowHandle();
+}
+
 void MainWindowTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(window.windowHandle(), key, modifiers);
+    QTest::keyClick(windowWithKeyboard(), key, modifiers);
+}
+
+void MainWindowTest::type(const char* asciiText) {
+    for (const char character : std::string_view(asciiText)) {
+        QTest::keyPress(windowWithKeyboard(), character);
+        QTest::keyRelease(windowWithKeyboard(), character);
+    }
 }
 
 } // namespace kx

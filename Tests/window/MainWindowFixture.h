@@ -76,7 +76,10 @@ protected:
     void click(const char* button) {
         QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
     }
+    // To whatever has the keyboard, an open list or a control of the window, as the window system
+    // does it, so that shortcuts take part.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(const char* asciiText);
     void clickCell(const char* table, int row, int column) {
         auto& view = control<QTableView>(table);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -132,6 +135,8 @@ protected:
                                                         wallClock, application, &interfaces}};
 
 private:
+    QWindow* windowWithKeyboard();
+
     std::size_t _sentBefore = 0;
 };
 
