@@ -32,6 +32,7 @@ TEST(QtPopUpButton, TakesOverTheItemsOfTheInterfaceDescription) {
 
 TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     std::vector<std::string> titles;
+    titles.reserve(65'536);
     for (int unit = 0; unit < 65'536; ++unit) {
         titles.push_back("4B 58 00 00 " + std::to_string(unit));
     }
