@@ -324,9 +324,9 @@ TEST_F(ControllerProtocol, MissingUnitIDInTheListShowsAsNull) {
 }
 
 TEST_F(ControllerProtocol, DatagramOfAnotherEndpointIsIgnoredSilently) {
-    UDPEcho stranger(runLoop, hostResolver, systemCalls);
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
     const auto before = controller.eventLog();
-    controller.echoDidReceiveDataFromAddress(stranger, SampleUnit().reply(), {});
+    controller.echoDidReceiveDataFromAddress(*stranger, SampleUnit().reply(), {});
     EXPECT_EQ(controller.eventLog(), before);
     EXPECT_TRUE(controller.devices().empty());
 }
