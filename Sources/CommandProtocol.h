@@ -95,9 +95,13 @@ enum class PayloadKind {
 };
 
 struct Reply {
-    std::optional<std::string> tag;    // absent when it is not UTF-8
-    std::optional<std::string> unitID; // absent also without the tag "<U>"
+    std::optional<std::string> tag; // absent when it is not UTF-8
+
+    // As IdentityText.h writes them; absent without their tags, the unit ID also when it has no
+    // text.
+    std::optional<std::string> unitID;
     std::optional<std::string> serialNumber;
+
     PayloadKind payloadKind = PayloadKind::none;
     ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
 };
