@@ -11,7 +11,8 @@ QWindow* MainWindowTest::windowWithKeyboard() {
 }
 
 void MainWindowTest::press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
-    QTest::keyClick(windowWithKeyboard(), key, modifiers);
+    QTest::keyPress(windowWithKeyboard(), key, modifiers);
+    QTest::keyRelease(windowWithKeyboard(), key, modifiers); // the press may have closed a list
 }
 
 void MainWindowTest::type(const char* asciiText) {

@@ -93,8 +93,10 @@ public:
         QTest::mouseDClick(_view.viewport(), Qt::LeftButton, Qt::NoModifier, position);
         auto* const editor = _view.viewport()->findChild<QLineEdit*>();
         ASSERT_NE(editor, nullptr);
-        QTest::keyClicks(editor, qtText(text));
-        QTest::keyClick(editor, Qt::Key_Return);
+        for (const QChar character : qtText(text)) {
+            QTest::keyPress(editor, character.toLatin1());
+        }
+        QTest::keyPress(editor, Qt::Key_Return);
         const auto editorIsGone = [this] {
             return _view.viewport()->findChild<QLineEdit*>() == nullptr;
         };
