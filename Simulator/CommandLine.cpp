@@ -87,7 +87,7 @@ constexpr Option optionTable[] = {
      [](CommandLine& line, const std::string& value) {
          line.floodPerSecond = numberOf(value, 0, 1'000'000);
      }},
-    {"--seed", "N", "the seed that decides which replies are struck; default 1",
+    {"--seed", "N", "where the random choice of struck replies starts; default 1",
      [](CommandLine& line, const std::string& value) {
          line.faults.seed = numberOf(value, 0, 4'294'967'295);
      }},
