@@ -3,6 +3,7 @@
 #include "contracts/BrokenContract.h"
 #include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
+#include "contracts/LocalizedTextContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/SystemLogContract.h"
 #include "contracts/WallClockContract.h"
@@ -10,6 +11,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedLocalizedText.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <netdb.h>
@@ -96,11 +98,23 @@ private:
     FixedWallClock _clock{2024, 2, 29, 23, 59, 58};
 };
 
+class ScriptedLocalizedTextTrait {
+public:
+    const LocalizedText& source() { return _source; }
+    void setTranslation(std::string key, std::string translation) {
+        _source.setTranslation(std::move(key), std::move(translation));
+    }
+
+private:
+    ScriptedLocalizedText _source;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fixed, WallClockContract, FixedWallClockTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, LocalizedTextContract, ScriptedLocalizedTextTrait);
 
 } // namespace
 

@@ -1,51 +1,64 @@
 #include "platform/qt/QtLocalizedText.h"
 
+#include "contracts/LocalizedTextContract.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QTranslator>
-#include <cstring>
+#include <map>
+#include <string>
+#include <utility>
 
 namespace kx {
 
 namespace {
 
-// Knows one text of the context "KXConfig".
-class OneTextTranslator final : public QTranslator {
+// An installed translator that knows texts of the context "KXConfig".
+class ScriptedTranslator final : public QTranslator {
 public:
+    ScriptedTranslator() { QCoreApplication::installTranslator(this); }
+    ~ScriptedTranslator() override { QCoreApplication::removeTranslator(this); }
+
+    void setTranslation(std::string key, std::string translation) {
+        _translations[std::move(key)] = std::move(translation);
+    }
+
     QString translate(const char* context, const char* sourceText, const char*,
                       int) const override {
-        const bool isKnown = std::strcmp(context, "KXConfig") == 0 &&
-                             std::strcmp(sourceText, "No configured interfaces") == 0;
-        return isKnown ? QString("Keine eingerichteten Schnittstellen (ä)") : QString();
+        const auto found = _translations.find(sourceText);
+        const bool isKnown = std::string(context) == "KXConfig" && found != _translations.end();
+        return isKnown ? QString::fromStdString(found->second) : QString();
     }
     bool isEmpty() const override { return false; }
+
+private:
+    std::map<std::string, std::string> _translations;
+};
+
+class QtLocalizedTextTrait {
+public:
+    const LocalizedText& source() { return _source; }
+    void setTranslation(std::string key, std::string translation) {
+        _translator.setTranslation(std::move(key), std::move(translation));
+    }
+
+private:
+    ScriptedTranslator _translator;
+    QtLocalizedText _source;
 };
 
 } // namespace
 
-TEST(QtLocalizedText, AKeyWithoutTranslationStandsForItself) {
-    EXPECT_EQ(QtLocalizedText().textForKey("not available"), "not available");
-    EXPECT_EQ(QtLocalizedText().textForKey(""), "");
-}
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, LocalizedTextContract, QtLocalizedTextTrait);
 
-TEST(QtLocalizedText, KeepsPlaceholdersAndLineBreaksOfTheKey) {
-    const std::string key = "\nSend to: %@ command: %@ %d %1 %n 100%%";
-    EXPECT_EQ(QtLocalizedText().textForKey(key), key);
-}
-
-TEST(QtLocalizedText, AsksTheInstalledTranslatorsInOneContext) {
-    OneTextTranslator translator;
-    QCoreApplication::installTranslator(&translator);
-    EXPECT_EQ(QtLocalizedText().textForKey("No configured interfaces"),
-              "Keine eingerichteten Schnittstellen (ä)");
-    QCoreApplication::removeTranslator(&translator);
-    EXPECT_EQ(QtLocalizedText().textForKey("No configured interfaces"), "No configured interfaces");
-}
-
-TEST(QtLocalizedText, ReadsNoFurtherThanTheKey) {
-    const std::string_view longer = "not available at all";
-    EXPECT_EQ(QtLocalizedText().textForKey(longer.substr(0, 13)), "not available");
+TEST(QtLocalizedText, ATranslatorThatWasRemovedIsNotAsked) {
+    {
+        ScriptedTranslator translator;
+        translator.setTranslation("Unit:", "Gerät:");
+        EXPECT_EQ(QtLocalizedText().textForKey("Unit:"), "Gerät:");
+    }
+    EXPECT_EQ(QtLocalizedText().textForKey("Unit:"), "Unit:");
 }
 
 } // namespace kx
