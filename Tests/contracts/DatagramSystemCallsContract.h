@@ -28,13 +28,14 @@ namespace kx {
 
 template<typename Trait>
 class DatagramSystemCallsContract : public testing::Test {
-protected:
+public:
     ~DatagramSystemCallsContract() override {
         for (const int descriptor : _opened) {
             calls().close(descriptor);
         }
     }
 
+protected:
     DatagramSystemCalls& calls() { return trait.systemCalls(); }
 
     // A socket that does not block. It is closed with the test.

@@ -23,7 +23,7 @@ public:
     Bytes freeAddress() {
         const int descriptor = _calls.socket();
         EXPECT_EQ(_calls.bind(descriptor, dataForAddress(loopback, 0)), 0);
-        const Bytes address = _calls.localAddress(descriptor).value_or(Bytes{});
+        Bytes address = _calls.localAddress(descriptor).value_or(Bytes{});
         _calls.close(descriptor);
         return address;
     }
