@@ -31,6 +31,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kx {
 
@@ -66,6 +67,7 @@ public:
 
     // --- Actions of the controls ---
 
+    void interfacePopUpWillOpen();    // lists the interfaces as they are now; chooses none
     void interfaceSelect();           // takes over address and mask; sends and logs nothing
     void udpPortSelect();             // discovers on the chosen port
     void discoverButton();            // restarts the listener and broadcasts a parameter request
@@ -126,6 +128,8 @@ public:
     const std::shared_ptr<UDPEcho>& udpListener() const { return _udpListener; }
 
 private:
+    void listInterfaces(std::vector<std::string> titles);
+    std::vector<std::string> currentInterfaceTitles() const;
     void restartListener(std::size_t port);
     void stopListener();
     void didStartListenerWithAddress(const Bytes& address);
@@ -153,6 +157,7 @@ private:
     MainWindowOutlets _outlets;
     Services _services;
 
+    std::vector<std::string> _interfaceTitles; // what the pop-up offers
     std::string logText;
     std::shared_ptr<UDPEcho> _udpListener;
     std::uint32_t localAddress = 0; // host byte order; 0: no interface has been chosen
