@@ -7,7 +7,9 @@
 #include "support/LocalizedText.h"
 #include "support/SystemLog.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <utility>
 
 namespace kx {
 
@@ -24,16 +26,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     logText.clear();
     _outlets.eventLogDrawer->close();
 
-    _outlets.interfacePopUp->removeAllItems();
-    const auto titles = _services.networkInterfaces != nullptr
-                            ? _services.networkInterfaces->bsdTitlesAndServiceIDs(nullptr)
-                            : std::nullopt;
-    if (titles.has_value() && !titles->empty()) {
-        _outlets.interfacePopUp->addItemsWithTitles(*titles);
-    } else {
-        _outlets.interfacePopUp->addItemsWithTitles({localizedText("No configured interfaces")});
-        _outlets.interfacePopUp->setEnabled(false);
-    }
+    listInterfaces(currentInterfaceTitles());
 
     stopListener();
     _devicesD.clear();
@@ -54,6 +47,46 @@ void KXConfigAppDelegate::applicationWillTerminate() {
 
 void KXConfigAppDelegate::windowWillClose() {
     _services.application.terminate();
+}
+
+std::vector<std::string> KXConfigAppDelegate::currentInterfaceTitles() const {
+    if (_services.networkInterfaces == nullptr) {
+        return {};
+    }
+    return _services.networkInterfaces->bsdTitlesAndServiceIDs(nullptr).value_or(
+        std::vector<std::string>());
+}
+
+void KXConfigAppDelegate::listInterfaces(std::vector<std::string> titles) {
+    auto& popUp = *_outlets.interfacePopUp;
+    popUp.removeAllItems();
+    popUp.addItemsWithTitles(titles.empty() ? std::vector{localizedText("No configured interfaces")}
+                                            : titles);
+    popUp.setEnabled(!titles.empty());
+    _interfaceTitles = std::move(titles);
+}
+
+// What is selected stays so while it exists, also under another name. When it is gone nothing is
+// selected: another interface must not look as if it had been chosen.
+void KXConfigAppDelegate::interfacePopUpWillOpen() {
+    auto titles = currentInterfaceTitles();
+    if (titles == _interfaceTitles) {
+        return;
+    }
+    const bool couldChoose = !_interfaceTitles.empty();
+    const std::string chosen = _outlets.interfacePopUp->titleOfSelectedItem().value_or("");
+    listInterfaces(std::move(titles));
+    if (!couldChoose || _interfaceTitles.empty()) {
+        return;
+    }
+    const auto isChosenInterface = [name = bsdNameForTitle(chosen)](const std::string& title) {
+        return bsdNameForTitle(title) == name;
+    };
+    auto kept = std::ranges::find(_interfaceTitles, chosen);
+    if (kept == _interfaceTitles.end()) {
+        kept = std::ranges::find_if(_interfaceTitles, isChosenInterface);
+    }
+    _outlets.interfacePopUp->selectItemWithTitle(kept != _interfaceTitles.end() ? *kept : "");
 }
 
 void KXConfigAppDelegate::interfaceSelect() {

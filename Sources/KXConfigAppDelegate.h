@@ -31,6 +31,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kx {
 
@@ -71,6 +72,7 @@ public:
 
     // --- Actions of the controls ---
 
+    void interfacePopUpWillOpen();    // lists the interfaces as they are now; chooses none
     void interfaceSelect();           // takes over address and mask; sends and logs nothing
     void udpPortSelect();             // discovers on the chosen port
     void discoverButton();            // restarts the listener and broadcasts a parameter request
@@ -133,6 +135,8 @@ public:
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null: there is none
 
 private:
+    void listInterfaces(std::vector<std::string> titles);
+    std::vector<std::string> currentInterfaceTitles() const;
     void restartListener(std::size_t port);
     void stopListener();
     void didStartListenerWithAddress(const Bytes& address);
@@ -160,6 +164,7 @@ private:
     MainWindowOutlets _outlets;
     Services _services;
 
+    std::vector<std::string> _interfaceTitles; // what the pop-up offers
     std::string logText;
     std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.

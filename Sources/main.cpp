@@ -1,6 +1,10 @@
 // KXConfig: wires the core to the platform and runs it.
 
 #include "KXConfigAppDelegate.h"
+#include "System Configuration/SystemConfiguration.h"
+#include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxKernelQuery.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
@@ -26,13 +30,19 @@ int main(int argc, char* argv[]) {
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
 
+    kx::KernelLinks kernelLinks(runLoop);
+    kx::LinuxKernelQuery kernelQuery(kernelLinks);
+    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, nullptr);
+    kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
+
     kx::MainWindow window;
-    kx::KXConfigAppDelegate controller(window.outlets(), {.runLoop = runLoop,
-                                                          .hostResolver = hostResolver,
-                                                          .systemCalls = systemCalls,
-                                                          .wallClock = wallClock,
-                                                          .application = application,
-                                                          .networkInterfaces = nullptr});
+    kx::KXConfigAppDelegate controller(
+        window.outlets(), {.runLoop = runLoop,
+                           .hostResolver = hostResolver,
+                           .systemCalls = systemCalls,
+                           .wallClock = wallClock,
+                           .application = application,
+                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance()});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

@@ -34,6 +34,9 @@ public:
                                std::move(value));
     }
 
+    // All interfaces are gone.
+    void clear() { *this = ScriptedNetworkInterfaces(); }
+
     // A configured service with one IPv4 address, the usual case, in one call.
     void addService(const std::string& name, const std::string& bsdName, const std::string& address,
                     const std::string& mask) {

@@ -122,6 +122,11 @@ void MainWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         keepEmptyStatesReadable();
     }
+    // Whoever comes back to the window may have configured an interface meanwhile.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() &&
+        !_ui->interfacePopUp->isEnabled()) {
+        perform(&KXConfigAppDelegate::interfacePopUpWillOpen);
+    }
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
@@ -165,6 +170,8 @@ void MainWindow::connectPopUps() {
         popUp->installEventFilter(this);
     };
     connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
+    connect(_ui->interfacePopUp, &OpeningComboBox::aboutToOpen, this,
+            [this] { perform(&KXConfigAppDelegate::interfacePopUpWillOpen); });
     connectPopUp(_ui->udpPortPopUp, &KXConfigAppDelegate::udpPortSelect);
     connectPopUp(_ui->unitSelectPopUp, &KXConfigAppDelegate::unitSelectPopUp);
     connectPopUp(_ui->optionCommandPopUp, &KXConfigAppDelegate::optionCommandPopUp);
@@ -221,7 +228,8 @@ void MainWindow::fitToContent() {
 void MainWindow::keepEmptyStatesReadable() {
     QColor dimmed = palette().color(QPalette::Active, QPalette::ButtonText);
     dimmed.setAlphaF(0.65F);
-    for (QComboBox* popUp : {_ui->interfacePopUp, _ui->unitSelectPopUp}) {
+    for (QComboBox* popUp :
+         std::initializer_list<QComboBox*>{_ui->interfacePopUp, _ui->unitSelectPopUp}) {
         QPalette readable;
         readable.setColor(QPalette::Disabled, QPalette::ButtonText, dimmed);
         readable.setColor(QPalette::Disabled, QPalette::Text, dimmed);

@@ -1,0 +1,62 @@
+// A network link of the host as the kernel describes it, with its addresses. A value type.
+
+#pragma once
+
+#include "addresses/SocketAddressRecord.h"
+#include "support/ByteRange.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+// What a link is to a person who looks for it. `other` is whatever has no name of its own.
+enum class LinkKind { ethernet, wiFi, bridge, vlan, bond, pointToPoint, other };
+
+struct IPv4InterfaceAddress {
+    std::uint32_t address = 0; // in host byte order
+    unsigned prefixLength = 0; // 0 to 32
+
+    friend bool operator==(const IPv4InterfaceAddress&, const IPv4InterfaceAddress&) = default;
+};
+
+struct IPv6InterfaceAddress {
+    IPv6Octets address{};
+    unsigned prefixLength = 0; // 0 to 128
+
+    friend bool operator==(const IPv6InterfaceAddress&, const IPv6InterfaceAddress&) = default;
+};
+
+struct NetworkLink {
+    int index = 0; // the kernel's number, unique at a time
+    std::string name;
+    LinkKind kind = LinkKind::other;
+    bool isUp = false;      // by the administrator
+    bool isRunning = false; // carries datagrams: up, with a carrier
+    bool isLoopback = false;
+    bool canBroadcast = false;
+    bool isPointToPoint = false;
+    bool canMulticast = false;
+    Bytes hardwareAddress;                           // empty when it has none
+    std::vector<IPv4InterfaceAddress> ipv4Addresses; // in the kernel's order, primary ones first
+    std::vector<IPv6InterfaceAddress> ipv6Addresses;
+
+    // Of the default route out of this link; the lowest where there are several. The host prefers
+    // the link with the lowest one. Absent without a default route.
+    std::optional<std::uint32_t> defaultRouteMetric;
+};
+
+// The mask of a prefix length: that many ones from the most significant bit on.
+constexpr std::uint32_t maskOfPrefixLength(unsigned prefixLength) {
+    return prefixLength == 0
+               ? 0
+               : ~std::uint32_t{0} << (32U - (prefixLength < 32 ? prefixLength : 32U));
+}
+
+static_assert(maskOfPrefixLength(0) == 0);
+static_assert(maskOfPrefixLength(24) == 0xFFFFFF00U);
+static_assert(maskOfPrefixLength(32) == 0xFFFFFFFFU);
+
+} // namespace kx

@@ -1,0 +1,275 @@
+// What a person and the controller get to know of real links.
+
+#include "ClosedDescriptors.h"
+#include "PrivateNetwork.h"
+#include "System Configuration/ConfigurationKeys.h"
+#include "System Configuration/InterfaceTitles.h"
+#include "System Configuration/SystemConfiguration.h"
+#include "contracts/ConfigurationStoreContract.h"
+#include "platform/PollLoopDriver.h"
+#include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxKernelQuery.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+using Titles = std::vector<std::string>;
+using namespace std::chrono_literals;
+
+class LinuxInterfaces : public testing::Test {
+protected:
+    // Made on first use: its own watch speaks to the shared instance, so it stays away from tests
+    // that turn the loop.
+    SystemConfiguration& configuration() {
+        if (!_configuration.has_value()) {
+            _configuration.emplace(store, kernelQuery);
+        }
+        return *_configuration;
+    }
+    Titles popUpTitles() {
+        return configuration().bsdTitlesAndServiceIDs(&serviceIDs).value_or(Titles());
+    }
+    Titles allTitles() {
+        return configuration().interfaceTitlesAndServiceIDs(&serviceIDs).value_or(Titles());
+    }
+
+    // What the controller reads when a title is chosen: the first address and its mask.
+    std::string choice(const std::string& title) {
+        const auto serviceID = configuration().serviceIDForInterface(bsdNameForTitle(title));
+        return serviceID.has_value()
+                   ? first(*serviceID, "Addresses") + "/" + first(*serviceID, "SubnetMasks")
+                   : "no service";
+    }
+    std::string textOf(const std::string& serviceID, std::string_view request) {
+        return configuration().serviceInterfaceDataForKey(serviceID, request);
+    }
+
+    // Watches the IPv4 state of every service from now on.
+    void watch() {
+        session = store.openSession("test", RecordedChanges::record, &changes);
+        const std::vector<std::string_view> patterns = {"State:/Network/Service/[^/]+/IPv4"};
+        ASSERT_TRUE(session->setNotificationKeys({}, patterns));
+        source = session->createRunLoopSource();
+        source->addToRunLoop();
+    }
+    Titles changedKeys() {
+        runLoopFor(loop, 400ms);
+        auto keys = std::exchange(changes.keys, {});
+        std::ranges::sort(keys);
+        return keys;
+    }
+
+    PrivateNetwork network;
+    PollRunLoop loop;
+    KernelLinks links{loop};
+    LinuxKernelQuery kernelQuery{links};
+    LinuxConfigurationStore store{loop, links, nullptr};
+    Titles serviceIDs;
+    RecordedChanges changes;
+    std::unique_ptr<DynamicStoreSession> session;
+    std::unique_ptr<ConfigurationChangeSource> source;
+
+private:
+    std::optional<SystemConfiguration> _configuration;
+
+    std::string first(const std::string& serviceID, std::string_view key) {
+        const auto value = configuration().serviceDataForDictionaryNameKey(serviceID, "IPv4", key);
+        const auto* const list = value.has_value() ? value->list() : nullptr;
+        return list != nullptr && !list->empty() ? list->front().description() : "none";
+    }
+};
+
+} // namespace
+
+TEST_F(LinuxInterfaces, AHostWithoutLinksOffersItsLoopbackAsAKernelInterface) {
+    EXPECT_EQ(popUpTitles(), Titles{"Loopback (lo)"});
+    EXPECT_EQ(serviceIDs, Titles{"=lo"});
+    EXPECT_EQ(configuration().serviceIDForInterface("lo"), "=lo");
+    EXPECT_EQ(choice("Loopback (lo)"), "none/none");
+    EXPECT_EQ(textOf("=lo", linkStatusRequest), "Active");
+    EXPECT_EQ(textOf("=lo", netNumberRequest), "127.0.0.1/8");
+}
+
+TEST_F(LinuxInterfaces, ALoopbackThatIsDownIsNotOffered) {
+    network.ip("link set lo down");
+    EXPECT_EQ(popUpTitles(), Titles());
+    EXPECT_EQ(allTitles(), Titles{"Loopback (lo)"});
+}
+
+TEST_F(LinuxInterfaces, ALinkWithAnAddressIsAServiceNamedByItsKind) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "192.0.2.1/24");
+    network.ip("link add kxbr type bridge");
+    network.addAddress("kxbr", "198.51.100.1/28");
+    EXPECT_EQ(allTitles(), (Titles{"Ethernet (kx0)", "Bridge (kxbr)", "Loopback (lo)",
+                                   "BSD Interface (p-kx0)"}));
+    EXPECT_EQ(serviceIDs, (Titles{"link-kx0", "link-kxbr", "=lo", "=p-kx0"}));
+    EXPECT_EQ(choice("Ethernet (kx0)"), "192.0.2.1/255.255.255.0");
+    EXPECT_EQ(choice("Bridge (kxbr)"), "198.51.100.1/255.255.255.240");
+    EXPECT_EQ(configuration().bsdNameForServiceID("link-kx0"), "kx0");
+    EXPECT_EQ(textOf("link-kx0", hardwareAddressRequest), "02:00:00:00:00:01");
+}
+
+TEST_F(LinuxInterfaces, ALinkWithoutAnAddressIsOfTheKernelOnly) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    EXPECT_EQ(popUpTitles(),
+              (Titles{"Loopback (lo)", "BSD Interface (p-kx0)", "BSD Interface (kx0)"}));
+    EXPECT_EQ(choice("BSD Interface (kx0)"), "no service");
+}
+
+TEST_F(LinuxInterfaces, ALinkWithIPv6OnlyIsOfTheKernelOnlyAndTellsItsAddresses) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.ip("link set kx0 addrgenmode none");
+    network.ip("address flush dev kx0");
+    network.ip("address add 2001:db8::1/64 dev kx0 nodad");
+    popUpTitles();
+    EXPECT_NE(std::ranges::find(serviceIDs, "=kx0"), serviceIDs.end());
+    EXPECT_EQ(configuration().interfaceDataForDictionaryNameKey("kx0", "IPv6", "Addresses"),
+              PropertyListValue(PropertyList{"2001:db8::1"}));
+    EXPECT_EQ(configuration().interfaceDataForDictionaryNameKey("kx0", "IPv6", "PrefixLength"),
+              PropertyListValue(PropertyList{64}));
+    EXPECT_EQ(configuration().interfaceDataForDictionaryNameKey("kx0", "IPv4", "Addresses"),
+              std::nullopt);
+    network.addAddress("kx0", "192.0.2.1/24");
+    EXPECT_EQ(textOf("link-kx0", grantAddress6Request), "2001:db8::1/64");
+}
+
+TEST_F(LinuxInterfaces, ATunnelIsNoServiceEvenWithAnAddress) {
+    network.ip("tuntap add tun0 mode tun");
+    network.addAddress("tun0", "203.0.113.1/24");
+    network.ip("link set tun0 up");
+    EXPECT_EQ(popUpTitles(), (Titles{"Loopback (lo)", "VPN Tunnel (tun0)"}));
+    EXPECT_EQ(choice("VPN Tunnel (tun0)"), "no service");
+    EXPECT_EQ(textOf("=tun0", grantAddressRequest), "203.0.113.1");
+    EXPECT_EQ(textOf("=tun0", hardwareAddressRequest), "not available");
+}
+
+TEST_F(LinuxInterfaces, EveryAddressOfALinkIsListedThePrimaryOnesFirst) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "10.0.0.5/8");
+    network.addAddress("kx0", "192.0.2.6/24");
+    network.addAddress("kx0", "10.0.0.7/8"); // a secondary one of the first network
+    EXPECT_EQ(textOf("link-kx0", netNumberRequest), "10.0.0.5/8,192.0.2.6/24,10.0.0.7/8");
+    EXPECT_EQ(textOf("link-kx0", subnetMaskRequest), "255.0.0.0,255.255.255.0,255.0.0.0");
+    EXPECT_EQ(configuration().bsdNameInterfaceDataForKey("kx0", netNumberRequest), "10.0.0.5/8");
+}
+
+TEST_F(LinuxInterfaces, ALinkIsActiveWhileItHasACarrier) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "192.0.2.1/24");
+    EXPECT_EQ(textOf("link-kx0", linkStatusRequest), "Active");
+    network.ip("link set p-kx0 down");
+    EXPECT_EQ(textOf("link-kx0", linkStatusRequest), "Inactive");
+    EXPECT_EQ(textOf("=kx0", linkStatusRequest), "Active") << "a kernel interface need only be up";
+    network.ip("link set kx0 down");
+    EXPECT_EQ(textOf("=kx0", linkStatusRequest), "Inactive");
+    EXPECT_EQ(allTitles(), (Titles{"Ethernet (kx0)", "Loopback (lo)", "BSD Interface (p-kx0)"}))
+        << "its address stays, and so it stays a service";
+}
+
+TEST_F(LinuxInterfaces, TheHostsPreferredDefaultRouteComesFirst) {
+    for (const std::string number : {"0", "1", "2"}) {
+        network.addLink("kx" + number, "02:00:00:00:00:0" + number);
+        network.addAddress("kx" + number, "192.0." + number + ".1/24");
+    }
+    EXPECT_EQ(popUpTitles()[0], "Ethernet (kx0)") << "without any route, the oldest link";
+    network.ip("route add default via 192.0.2.254 dev kx2 metric 50");
+    network.ip("route add default via 192.0.1.254 dev kx1 metric 600");
+    popUpTitles();
+    EXPECT_EQ((Titles{serviceIDs.begin(), serviceIDs.begin() + 3}),
+              (Titles{"link-kx2", "link-kx1", "link-kx0"}));
+    network.ip("route add default via 192.0.1.254 dev kx1 metric 20");
+    popUpTitles();
+    EXPECT_EQ(serviceIDs[0], "link-kx1");
+    network.ip("route flush exact default");
+    network.ip("route add default metric 10 nexthop dev kx0 nexthop dev kx2");
+    popUpTitles();
+    EXPECT_EQ((Titles{serviceIDs.begin(), serviceIDs.begin() + 3}),
+              (Titles{"link-kx0", "link-kx2", "link-kx1"}));
+}
+
+TEST_F(LinuxInterfaces, ALinkThatComesLaterIsSeenWithoutATurnOfTheLoop) {
+    popUpTitles();
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "192.0.2.1/24");
+    EXPECT_EQ(popUpTitles()[0], "Ethernet (kx0)");
+    network.ip("link set kx0 down");
+    network.ip("link set kx0 name office");
+    EXPECT_EQ(popUpTitles()[0], "Ethernet (office)");
+    network.ip("link del office");
+    EXPECT_EQ(popUpTitles(), Titles{"Loopback (lo)"});
+}
+
+TEST_F(LinuxInterfaces, AChangeIsToldOnceForEachChangedKey) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addLink("kx1", "02:00:00:00:00:02");
+    watch();
+    network.addAddress("kx0", "192.0.2.1/24");
+    network.addAddress("kx1", "198.51.100.1/24");
+    EXPECT_EQ(changedKeys(), (Titles{"State:/Network/Service/link-kx0/IPv4",
+                                     "State:/Network/Service/link-kx1/IPv4"}));
+    network.addAddress("kx0", "192.0.2.2/24");
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
+    network.ip("address del 192.0.2.1/24 dev kx0"); // takes its secondary with it: two events
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
+    network.ip("link set kx1 mtu 1400");
+    EXPECT_EQ(changedKeys(), Titles());
+    network.ip("link del kx1");
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx1/IPv4"});
+}
+
+TEST_F(LinuxInterfaces, ReadingInBetweenDoesNotSwallowAChange) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    watch();
+    network.addAddress("kx0", "192.0.2.1/24");
+    EXPECT_TRUE(session->copyValue("State:/Network/Service/link-kx0/IPv4").has_value());
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
+}
+
+TEST_F(LinuxInterfaces, MoreChangesThanTheSocketHoldsAreToldAsOne) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    watch();
+    std::string commands;
+    for (int i = 0; i < 2000; ++i) {
+        commands += "address add 10." + std::to_string(i / 250) + "." + std::to_string(i % 250) +
+                    ".1/32 dev kx0\n";
+    }
+    network.batch(commands);
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
+    const auto record = session->copyValue("State:/Network/Service/link-kx0/IPv4");
+    ASSERT_TRUE(record.has_value());
+    EXPECT_EQ(valueForKey(*record, "Addresses")->list()->size(), 2000U);
+}
+
+TEST_F(LinuxInterfaces, ManyLinksAreListedInTheOrderInWhichTheyCame) {
+    std::string commands;
+    for (int i = 0; i < 300; ++i) {
+        commands += "link add kx" + std::to_string(i) + " type bridge\n";
+    }
+    network.batch(commands);
+    const auto titles = allTitles();
+    ASSERT_EQ(titles.size(), 301U);
+    for (std::size_t i = 0; i < 300; ++i) {
+        EXPECT_EQ(titles[i + 1], "BSD Interface (kx" + std::to_string(i) + ")");
+    }
+}
+
+TEST_F(LinuxInterfaces, APatternThatIsNoRegularExpressionIsRefused) {
+    session = store.openSession("test", RecordedChanges::record, &changes);
+    const std::vector<std::string_view> patterns = {"State:/Network/Service/[^/+/IPv4"};
+    EXPECT_FALSE(session->setNotificationKeys({}, patterns));
+    EXPECT_NE(store.SCError(), 0);
+}
+
+TEST_F(LinuxInterfaces, AKernelThatCannotBeAskedLeavesNothingToOffer) {
+    const ClosedDescriptors noSockets;
+    EXPECT_EQ(store.openSession("test", nullptr, nullptr), nullptr);
+    EXPECT_NE(store.SCError(), 0);
+    EXPECT_EQ(store.openPreferences("test"), nullptr);
+    EXPECT_EQ(configuration().bsdTitlesAndServiceIDs(nullptr), std::nullopt);
+}
+
+} // namespace kx

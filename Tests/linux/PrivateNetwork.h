@@ -1,0 +1,83 @@
+// A network of the test's own: a new network namespace for the thread that makes it.
+//
+// It begins with the loopback link alone, which is up. Sockets and programs that are made from then
+// on belong to it; it goes away with the last of them. Links are made with ip(8), as an
+// administrator makes them.
+
+#pragma once
+
+#include <sched.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class PrivateNetwork {
+public:
+    PrivateNetwork() {
+        if (::unshare(CLONE_NEWNET) != 0) {
+            throw std::runtime_error(std::string("no private network: ") + std::strerror(errno));
+        }
+        ip("link set lo up");
+    }
+
+    // Runs ip(8) with these words.
+    void ip(const std::string& words) { run("ip " + words); }
+
+    // Runs a program with its arguments, separated by blanks, and waits for its end.
+    static void run(const std::string& words) {
+        std::istringstream stream(words);
+        std::vector<std::string> arguments;
+        for (std::string word; stream >> word;) {
+            arguments.push_back(word);
+        }
+        std::vector<char*> pointers;
+        for (auto& argument : arguments) {
+            pointers.push_back(argument.data());
+        }
+        pointers.push_back(nullptr);
+        pid_t child = 0;
+        int status = 0;
+        if (::posix_spawnp(&child, pointers[0], nullptr, nullptr, pointers.data(), environ) != 0 ||
+            ::waitpid(child, &status, 0) != child || status != 0) {
+            throw std::runtime_error("failed: " + words);
+        }
+    }
+
+    // Runs many commands of ip(8) at once, one on each line.
+    void batch(const std::string& commands) {
+        char path[] = "/tmp/kx-ip-XXXXXX";
+        const int descriptor = ::mkstemp(path);
+        const auto length = static_cast<ssize_t>(commands.size());
+        const bool isWritten = ::write(descriptor, commands.data(), commands.size()) == length;
+        ::close(descriptor);
+        if (isWritten) {
+            ip(std::string("-batch ") + path);
+        }
+        ::unlink(path);
+        if (!isWritten) {
+            throw std::runtime_error("the commands cannot be written");
+        }
+    }
+
+    // A link with a hardware address, up, with a carrier from a peer of its own.
+    void addLink(const std::string& name, const std::string& hardwareAddress) {
+        ip("link add " + name + " address " + hardwareAddress + " type veth peer name p-" + name);
+        ip("link set p-" + name + " up");
+        ip("link set " + name + " up");
+    }
+    void addAddress(const std::string& link, const std::string& address) {
+        ip("address add " + address + " dev " + link);
+    }
+};
+
+} // namespace kx
