@@ -83,7 +83,7 @@ void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
     ScriptedHostResolver resolver;
     DatagramSystemCalls systemCalls;
     Counter counter;
-    const auto echo = std::make_shared<UDPEcho>(runLoop, resolver, systemCalls);
+    const auto echo = UDPEcho::make(runLoop, resolver, systemCalls);
     echo->setDelegate(&counter);
     echo->startServerOnPort(port);
     if (echo->port() == 0) {

@@ -1,11 +1,13 @@
 #include "CommandProtocol.h"
 
+#include "IdentityText.h"
 #include "addresses/CharacterClass.h"
 #include "addresses/IPv4Address.h"
 #include "support/TextEncoding.h"
 
 #include <array>
 #include <cstddef>
+#include <cstdio>
 
 namespace kx {
 
@@ -14,7 +16,6 @@ namespace {
 static_assert(parameterRequestCommand.starts_with(commandPrefix));
 static_assert(restoreCommand.starts_with(commandPrefix));
 
-constexpr std::string_view upperHexDigits = "0123456789ABCDEF";
 constexpr std::string_view unitIDTag = "<U>";
 constexpr std::string_view serialTag = "<S>";
 constexpr std::string_view parameterListTag = "<M>";
@@ -31,7 +32,6 @@ constexpr std::size_t serialOffset = 14;
 constexpr std::size_t payloadMarkerOffset = 20;
 constexpr std::size_t payloadOffset = 21;
 constexpr std::size_t tagLength = 3;
-constexpr std::size_t identityLength = 6;
 
 std::string withoutCharacter(std::string_view text, char unwanted) {
     std::string result(text);
@@ -40,15 +40,11 @@ std::string withoutCharacter(std::string_view text, char unwanted) {
 }
 
 // A negative number shows as the 32 bits that hold it.
-std::string hexNumber(std::int32_t number, std::size_t leastDigits) {
-    std::string result;
-    for (auto rest = static_cast<std::uint32_t>(number); rest != 0; rest >>= 4U) {
-        result.insert(result.begin(), upperHexDigits[rest & 0xFU]);
-    }
-    if (result.size() < leastDigits) {
-        result.insert(0, leastDigits - result.size(), '0');
-    }
-    return result;
+std::string hexNumber(std::int32_t number, int leastDigits) {
+    std::array<char, 16> digits{};
+    const int length = std::snprintf(digits.data(), digits.size(), "%0*X", leastDigits,
+                                     static_cast<unsigned>(number));
+    return {digits.data(), static_cast<std::size_t>(length)};
 }
 
 std::string commandText(char letter, std::string_view argument) {
@@ -105,7 +101,7 @@ std::optional<std::string> unitIDArgument(std::string_view typed) {
         return std::nullopt;
     }
     if (!typed.empty() && isDigit(typed.front())) {
-        return hexNumber(integerValue(typed), 2 * identityLength);
+        return hexNumber(integerValue(typed), 12);
     }
     return hexStringForData(bytes, "");
 }
@@ -159,41 +155,6 @@ std::uint16_t unitPortForText(std::optional<std::string_view> devicePort) {
         return defaultUnitPort;
     }
     return static_cast<std::uint16_t>(integerValue(*devicePort));
-}
-
-std::optional<std::string> unitIDforData(ByteView data) {
-    const ByteView bytes = subrange(data, 0, identityLength);
-    const ByteView leading = bytes.first(identityLength - 1);
-    for (const std::uint8_t byte : leading) {
-        if (byte != 0) {
-            return textFromUTF8(bytes);
-        }
-    }
-    return std::to_string(bytes.back());
-}
-
-std::string hexStringForData(ByteView data, std::string_view separator) {
-    std::string result;
-    result.reserve(data.size() * (2 + separator.size()));
-    std::array<char, 2> digits{};
-    for (const std::uint8_t byte : data) {
-        if (!result.empty()) {
-            result += separator;
-        }
-        writeHexDigits(digits.data(), byte);
-        result.append(digits.data(), digits.size());
-    }
-    return result;
-}
-
-std::string serialNumberText(ByteView data) {
-    return hexStringForData(data, " ");
-}
-
-char* writeHexDigits(char* digits, std::uint8_t byte) {
-    digits[0] = upperHexDigits[byte >> 4U];
-    digits[1] = upperHexDigits[byte & 0xFU];
-    return digits + 2;
 }
 
 PacketKind packetKindOfDatagram(ByteView datagram) {

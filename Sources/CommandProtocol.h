@@ -36,9 +36,10 @@ inline constexpr std::string_view commandPrefix = "^^Id";
 inline constexpr std::string_view parameterRequestCommand = "^^IdX";
 inline constexpr std::string_view restoreCommand = "^^IdZ";
 
-// The arguments of the edit commands are made from what a person typed. The conversions are loose
-// on purpose: separators are removed wherever they stand, and nothing is checked for its length or
-// for being hexadecimal. Numbers are read as integerValue() reads them.
+// --- The arguments of the edit commands, made from what a person typed ---
+//
+// The conversions are loose on purpose: separators are removed wherever they stand, and nothing is
+// checked for its length or for being hexadecimal. Numbers are read as integerValue() reads them.
 
 // The typed text without its colons, for MAC addresses.
 std::string macAddressArgument(std::string_view typed);
@@ -60,6 +61,8 @@ std::optional<std::string> unitIDArgument(std::string_view typed);
 // The typed text without its blanks.
 std::string serialNumberArgument(std::string_view typed);
 
+// --- Command texts ---
+
 // The command that gives a parameter the value that a person typed. Absent when there is none: for
 // a unit ID that is not UTF-8. Whether an empty text is worth a command is the caller's business.
 std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed);
@@ -76,19 +79,7 @@ std::string optionTextForTitle(std::string_view title, const std::tm& now);
 // number, or 3520 for an absent or an empty text.
 std::uint16_t unitPortForText(std::optional<std::string_view> devicePort);
 
-// A unit ID of six bytes: the decimal value of the last byte when the five before it are zero,
-// otherwise the six bytes as UTF-8, zero bytes included. Absent when they are not UTF-8. Throws
-// RangeFailure for fewer than six bytes; further bytes are not looked at.
-std::optional<std::string> unitIDforData(ByteView data);
-
-// Two upper-case hexadecimal digits for each byte, joined by `separator`; empty for no bytes.
-std::string hexStringForData(ByteView data, std::string_view separator);
-
-// The text form of a serial number, by which units are known: hexStringForData() with a blank.
-std::string serialNumberText(ByteView data);
-
-// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns what follows them.
-char* writeHexDigits(char* digits, std::uint8_t byte);
+// --- Replies ---
 
 enum class PacketKind {
     tooShort, // fewer than 5 bytes
@@ -99,14 +90,18 @@ enum class PacketKind {
 enum class PayloadKind {
     none,            // no payload marker
     parameterList,   // behind the marker stands "<M>"
-    acknowledgement, // behind the marker stands "ok" and one more byte
+    acknowledgement, // behind the marker stand "ok" and one more ASCII character
     other,
 };
 
 struct Reply {
-    std::optional<std::string> tag;    // absent when it is not UTF-8
-    std::optional<std::string> unitID; // absent also without the tag "<U>"
+    std::optional<std::string> tag; // absent when it is not UTF-8
+
+    // As IdentityText.h writes them; absent without their tags, the unit ID also when it has no
+    // text.
+    std::optional<std::string> unitID;
     std::optional<std::string> serialNumber;
+
     PayloadKind payloadKind = PayloadKind::none;
     ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
 };

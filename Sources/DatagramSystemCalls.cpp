@@ -88,11 +88,12 @@ int DatagramSystemCalls::enableBroadcast(int descriptor) {
     return ::setsockopt(descriptor, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
 }
 
-ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data, ByteView addressRecord) {
-    if (addressRecord.empty()) {
+ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data,
+                                    std::optional<ByteView> addressRecord) {
+    if (!addressRecord) {
         return ::sendto(descriptor, data.data(), data.size(), 0, nullptr, 0);
     }
-    const auto address = hostAddress(addressRecord);
+    const auto address = hostAddress(*addressRecord);
     return address ? ::sendto(descriptor, data.data(), data.size(), 0,
                               reinterpret_cast<const sockaddr*>(&*address), sizeof *address)
                    : -1;

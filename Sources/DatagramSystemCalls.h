@@ -16,6 +16,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <span>
 
 namespace kx {
 
@@ -30,8 +31,10 @@ public:
     // starts do not inherit it.
     virtual int socket();
 
-    // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family fails with
-    // EAFNOSUPPORT, one that is too short for its family with EINVAL; so it is with sendTo().
+    // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family, or of no
+    // bytes, fails with EAFNOSUPPORT, one that is too short for its family with EINVAL, without a
+    // system call; so it is with sendTo(). What follows the 16 bytes of a longer record is not
+    // looked at.
     virtual int bind(int descriptor, ByteView addressRecord);
     virtual int connect(int descriptor, ByteView addressRecord);
 
@@ -42,13 +45,13 @@ public:
     // setsockopt(2): SO_BROADCAST at level SOL_SOCKET, the 4-byte integer 1. 0, or -1.
     virtual int enableBroadcast(int descriptor);
 
-    // sendto(2) of the whole of `data`, flags 0; without address on a connected socket when
-    // `addressRecord` is empty. The bytes sent, or -1.
-    virtual ssize_t sendTo(int descriptor, ByteView data, ByteView addressRecord);
+    // sendto(2) of the whole of `data`, flags 0, to an IPv4 record; to the peer of a connected
+    // socket when `addressRecord` is absent. The bytes sent, or -1.
+    virtual ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord);
 
     // recvfrom(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
     // received, or -1. On success `sender` holds the sender's record, and is empty for a sender of
-    // another family than IPv4.
+    // another family than IPv4; on failure it is not touched.
     virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender);
 
     // getsockname(2) and getpeername(2) as records; absent when the call fails, and empty for

@@ -6,7 +6,6 @@
 #include "addresses/SocketAddressRecord.h"
 #include "support/LocalizedText.h"
 #include "support/SystemLog.h"
-#include "support/TextEncoding.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -18,6 +17,10 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
     : _outlets(outlets)
     , _services(services) {}
 
+KXConfigAppDelegate::~KXConfigAppDelegate() {
+    stopListener();
+}
+
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
     logText.clear();
@@ -25,7 +28,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
     listInterfaces(currentInterfaceTitles());
 
-    _udpListener.reset();
+    stopListener();
     _devicesD.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
@@ -127,14 +130,14 @@ void KXConfigAppDelegate::myHelp() {
 
 void KXConfigAppDelegate::restartListener(std::size_t port) {
     stopListener();
-    _udpListener =
-        std::make_shared<UDPEcho>(_services.runLoop, _services.hostResolver, _services.systemCalls);
+    _udpListener = UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
     _udpListener->setDelegate(this);
     _udpListener->startServerOnPort(port);
 }
 
 void KXConfigAppDelegate::stopListener() {
     if (_udpListener != nullptr) {
+        _udpListener->setDelegate(nullptr);
         _udpListener->stop();
         _udpListener.reset();
     }

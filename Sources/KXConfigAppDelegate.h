@@ -54,6 +54,11 @@ public:
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
 
+    // Stops the endpoint, which reports nothing any more.
+    ~KXConfigAppDelegate() override;
+    KXConfigAppDelegate(const KXConfigAppDelegate&) = delete;
+    KXConfigAppDelegate& operator=(const KXConfigAppDelegate&) = delete;
+
     // --- Lifecycle (KXConfigAppDelegate.cpp) ---
 
     // Fills the interface pop-up, discovers, and prepares the option command.
@@ -74,7 +79,7 @@ public:
     void unitSelectPopUp();           // shows the chosen unit
     void reloadUnitParameterButton(); // asks the selected unit, or every unit, for its parameters
     void optionCommandPopUp();        // prepares the text of an option command
-    bool sendOptionButton();          // sends it; false when nothing was sent
+    bool sendOptionButton();          // sends it; the result is that of sendCommand()
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
     void logDrawerButton();           // opens or closes the event log drawer
     void myHelp();                    // opens the help at its index
@@ -83,6 +88,7 @@ public:
     void tableViewSelectionDidChange();
 
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
+    // A column of any other identifier reads as the empty text and takes nothing.
 
     int numberOfRowsInTableView() override;
     std::optional<PropertyListValue>
@@ -104,8 +110,9 @@ public:
     // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
 
     // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520.
-    // False when nothing was sent: a text is absent, there is no listener, or the command is not
-    // ASCII.
+    // True when the command was handed to the listener, whatever became of it: a send that fails is
+    // in the event log. False, with nothing logged, when a text is absent, there is no listener, or
+    // the command is not ASCII.
     bool sendCommandToAddress(const std::optional<std::string>& command,
                               const std::optional<std::string>& address);
 
@@ -125,7 +132,7 @@ public:
     const std::string& eventLog() const { return logText; }
     const Registry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
-    const std::shared_ptr<UDPEcho>& udpListener() const { return _udpListener; }
+    const UDPEcho* udpListener() const { return _udpListener.get(); } // null: there is none
 
 private:
     void listInterfaces(std::vector<std::string> titles);
@@ -160,7 +167,8 @@ private:
     std::vector<std::string> _interfaceTitles; // what the pop-up offers
     std::string logText;
     std::shared_ptr<UDPEcho> _udpListener;
-    std::uint32_t localAddress = 0; // host byte order; 0: no interface has been chosen
+    // In host byte order; the address is 0 when no interface with an address has been chosen.
+    std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
     Registry _devicesD;
     std::optional<std::string> _selectedUnit;

@@ -12,18 +12,29 @@ int KXConfigAppDelegate::numberOfRowsInTableView() {
 // A window may ask once more while the application ends, when the entry is gone.
 std::optional<PropertyListValue>
 KXConfigAppDelegate::tableViewObjectValueForTableColumnRow(const TableColumn& column, int /*row*/) {
-    const auto value =
-        _editTableEntry != nullptr ? _editTableEntry->valueForKey(column.identifier) : std::nullopt;
-    return value.value_or(PropertyListValue());
+    const PropertyListValue emptyText;
+    if (_editTableEntry == nullptr) {
+        return emptyText;
+    }
+    try {
+        return _editTableEntry->valueForKey(column.identifier).value_or(emptyText);
+    } catch (const UndefinedKeyFailure&) {
+        return emptyText;
+    }
 }
 
 void KXConfigAppDelegate::tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                                    const TableColumn& column,
                                                                    int /*row*/) {
-    if (_editTableEntry != nullptr) {
-        _editTableEntry->setValueForKey(value, column.identifier);
-        _outlets.editParameterTableView->reloadData();
+    if (_editTableEntry == nullptr) {
+        return;
     }
+    try {
+        _editTableEntry->setValueForKey(value, column.identifier);
+    } catch (const UndefinedKeyFailure&) {
+        return;
+    }
+    _outlets.editParameterTableView->reloadData();
 }
 
 void KXConfigAppDelegate::optionCommandPopUp() {

@@ -122,9 +122,9 @@ void KXConfigAppDelegate::didReceiveDataFromAddress(ByteView data, const Bytes& 
 
 std::string KXConfigAppDelegate::unitParameters(ByteView list) {
     DecodedUnitParameters decoded = decodeUnitParameters(list);
-    const auto serial = decoded.record.valueForName(serialNumberName);
+    const auto serial = decoded.record.value(UnitParameter::serialNumber);
     if (serial.has_value()) {
-        _devicesD.insert_or_assign(*serial, decoded.record);
+        _devicesD.insert_or_assign(std::string(*serial), decoded.record);
         if (serial == _selectedUnit) {
             unitSelectPopUp();
         }

@@ -1,9 +1,10 @@
 // The controls that the controller talks to, each as the few operations that it needs.
 //
 // Main thread only. The controller never owns a control. No operation calls back into the
-// controller from inside itself, with one exception: Window::makeFirstResponder() and endEditing()
-// may hand a half-typed value to the table's data source. In particular, selecting an item from
-// code does not run a pop-up's action.
+// controller from inside itself, with two exceptions: Window::makeFirstResponder() and endEditing()
+// may hand a half-typed value to the table's data source, and TableView::reloadData() may ask that
+// data source for its values. In particular, selecting an item or setting a text from code runs no
+// action, nor does a reload that drops the selection.
 
 #pragma once
 

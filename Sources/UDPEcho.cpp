@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <string_view>
 #include <utility>
 
 namespace kx {
@@ -72,6 +73,11 @@ EndpointSocket::~EndpointSocket() {
 }
 
 // --- Life and start ---
+
+std::shared_ptr<UDPEcho> UDPEcho::make(RunLoop& runLoop, HostResolver& hostResolver,
+                                       DatagramSystemCalls& systemCalls) {
+    return std::shared_ptr<UDPEcho>(new UDPEcho(runLoop, hostResolver, systemCalls));
+}
 
 UDPEcho::UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls)
     : _runLoop(runLoop)
@@ -246,7 +252,7 @@ void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
     const Bytes& addr = requireValue(destination, "addr != nil", sourcePath);
 
     // A connected socket is given no address.
-    const ByteView addressToSend = address.has_value() ? ByteView(addr) : ByteView();
+    const auto addressToSend = address.has_value() ? std::optional<ByteView>(addr) : std::nullopt;
     const ssize_t bytesWritten = _systemCalls.sendTo(sock, bytes, addressToSend);
     int err = 0;
     if (bytesWritten < 0) {

@@ -14,13 +14,13 @@
 // block. One datagram is read for each readable event, so a flood on this socket cannot keep other
 // events waiting.
 //
-// Ownership: hold it by std::shared_ptr. It keeps itself alive while it reports a stop, so the
-// delegate may release it there. The delegate is not owned; clear it or outlive the endpoint. Run
-// loop, resolver and system calls must outlive it too.
+// Ownership: held by std::shared_ptr, and made by make() only. The delegate is not owned; clear it
+// or outlive the endpoint. Run loop, resolver and system calls must outlive it too.
 //
 // Errors: what the network does wrong reaches the delegate as an Error; sends and reads that fail
-// do not stop the endpoint. What the caller does wrong breaks a contract and ends the process
-// (support/Require.h, source path "Sources/UDPEcho"). The contracts are named at the operations.
+// do not stop the endpoint. What the caller does wrong, and what a system must not do, breaks a
+// contract and ends the process (support/Require.h, source path "Sources/UDPEcho"). The contracts
+// are named at the operations; those of an operation that another one takes hold there too.
 
 #pragma once
 
@@ -35,6 +35,8 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kx {
 
@@ -43,6 +45,11 @@ class UDPEcho;
 // Receives the events of an endpoint. Every method is optional. All calls are synchronous, made
 // from inside the endpoint's own operation or run-loop callback. Addresses are socket address
 // records in the BSD layout (addresses/SocketAddressRecord.h).
+//
+// Inside every event the delegate may stop the endpoint, start it again after that in either mode,
+// give up the last reference to it, clear or change its delegate, and send, as long as the endpoint
+// runs. The endpoint touches nothing of itself after the event, and what a method is given stays as
+// it is until the method returns.
 class UDPEchoDelegate {
 public:
     virtual ~UDPEchoDelegate() = default;
@@ -54,17 +61,19 @@ public:
     // A read failed; the endpoint goes on. A datagram without bytes counts as EPIPE.
     virtual void echoDidReceiveError(UDPEcho& echo, const Error& error);
 
-    // A datagram was sent whole.
+    // A datagram was sent whole. A send from inside this event is reported inside it.
     virtual void echoDidSendDataToAddress(UDPEcho& echo, const Bytes& data, const Bytes& address);
 
-    // A send failed; the endpoint goes on. A send of nothing counts as EPIPE.
+    // A send failed; the endpoint goes on. A send of nothing counts as EPIPE, an address that is
+    // no IPv4 record as EAFNOSUPPORT or, cut short, as EINVAL.
     virtual void echoDidFailToSendDataToAddressError(UDPEcho& echo, const Bytes& data,
                                                      const Bytes& address, const Error& error);
 
     // The endpoint started: with its local address as a server, with the peer's as a client.
     virtual void echoDidStartWithAddress(UDPEcho& echo, const Bytes& address);
 
-    // The endpoint stopped because of an error; never after stop(). It may be released here.
+    // The endpoint stopped because of an error; never after stop(). It is stopped already, so it
+    // may be started again here, but cannot send.
     virtual void echoDidStopWithError(UDPEcho& echo, const Error& error);
 };
 
@@ -99,7 +108,9 @@ private:
 
 class UDPEcho : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
 public:
-    UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
+    // A stopped endpoint without a delegate.
+    static std::shared_ptr<UDPEcho> make(RunLoop& runLoop, HostResolver& hostResolver,
+                                         DatagramSystemCalls& systemCalls);
 
     // Stops without a word to the delegate.
     ~UDPEcho() override;
@@ -129,22 +140,31 @@ public:
 
     // Starts as a server on a port in host byte order and reports echoDidStartWithAddress() before
     // it returns; when the socket cannot be set up, reports echoDidStopWithError() instead and
-    // stays stopped. Contracts: "(port > 0) && (port < 65536)", "self.port == 0".
+    // stays stopped. The local address is asked for whenever there is a delegate, also one that
+    // does not listen to the start.
+    // Contracts: "(port > 0) && (port < 65536)", "self.port == 0", those of
+    // _setupSocketConnectedToAddressPortError(), "localAddress != NULL".
     void startServerOnPort(std::size_t port);
 
-    // Starts as a client: resolves, then connects, then reports echoDidStartWithAddress(). Every
-    // failure reports echoDidStopWithError(), from inside this call when the resolution cannot
-    // start. Contracts: "hostName != nil", "(port > 0) && (port < 65536)", "self.port == 0",
-    // "self->_cfHost == NULL", "self->_cfHost != NULL".
+    // Starts as a client: resolves, then connects, then reports echoDidStartWithAddress(). The
+    // first IPv4 address that accepts is the peer: a client whose first address refuses and whose
+    // second accepts runs, and nobody hears of the first. Every failure reports
+    // echoDidStopWithError(), from inside this call when the resolution cannot start.
+    // Contracts: "hostName != nil", "(port > 0) && (port < 65536)", "self.port == 0",
+    // "self->_cfHost == NULL", "self->_cfHost != NULL"; at the end of the resolution those of
+    // HostResolveCallback().
     void startConnectedToHostNamePort(const std::optional<std::string>& hostName, std::size_t port);
 
-    // Client mode: sends one datagram to the peer. Contract: "NO" unless connected.
+    // Client mode: sends one datagram to the peer. Contracts: "NO" unless connected, those of
+    // _sendDataToAddress().
     void sendData(const std::optional<Bytes>& data);
 
     // Sends one datagram: to `address` in server mode, to the peer without one in client mode.
     // Reports echoDidSendDataToAddress() or echoDidFailToSendDataToAddressError() before it
-    // returns. Contracts: "data != nil", "(addr != nil) == self.isServer",
-    // "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", "sock >= 0".
+    // returns. An address that is present but empty is an address, and fails to send.
+    // Contracts: "data != nil", "(addr != nil) == self.isServer",
+    // "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", "sock >= 0",
+    // "addr != nil" (a client without a peer), "(NSUInteger) bytesWritten == [data length]".
     void _sendDataToAddress(const std::optional<Bytes>& data, const std::optional<Bytes>& address);
 
     // Stops and releases everything, silently. Does nothing when stopped.
@@ -152,12 +172,22 @@ public:
 
     // The plain functions registered with the socket's watch and with the resolver; each checks
     // that it is called for the endpoint's own socket or resolution, then acts.
+
+    // Reads one datagram. Contracts: "[obj isKindOfClass:[UDPEcho class]]", "s == obj->_cfSocket",
+    // "type == kCFSocketReadCallBack", "address == nil", "data == nil", those of _readData().
     friend void SocketReadCallback(const EndpointSocket* socket, SocketCallbackType type,
                                    const Bytes* address, const void* data, CallbackInfo* info);
+
+    // Ends the start of a client, or stops it with the resolution's error.
+    // Contracts: "[obj isKindOfClass:[UDPEcho class]]", "theHost == obj->_cfHost",
+    // "typeInfo == kCFHostAddresses", those of _hostResolutionDone().
     friend void HostResolveCallback(const HostResolver::Request* host, HostInfoType typeInfo,
                                     const HostResolution& resolution, CallbackInfo* info);
 
 protected:
+    // A derived class, too, must see to it that its objects are held by std::shared_ptr.
+    UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
+
     // The steps of the operations above. They are not for owners; derived classes may take them one
     // by one.
 
@@ -172,9 +202,11 @@ protected:
     bool _setupSocketConnectedToAddressPortError(const std::optional<Bytes>& address,
                                                  std::size_t port, std::optional<Error>* error);
 
-    // Connects to the first IPv4 address that accepts, and reports the start or the stop.
+    // Connects to the first IPv4 address that accepts, and reports the start or the stop: with the
+    // last address's error when none accepted, with kCFHostErrorHostNotFound when there was none.
     // Contracts: "self.port != 0", "self->_cfHost != NULL", "self->_cfSocket == NULL",
-    // "self.hostAddress == nil", "addrLen >= sizeof(struct sockaddr)", "hostAddress != NULL".
+    // "self.hostAddress == nil", "addrLen >= sizeof(struct sockaddr)", those of
+    // _setupSocketConnectedToAddressPortError(), "hostAddress != NULL".
     void _hostResolutionDone(const HostResolution& resolution);
 
     // Ends the resolution, if one is in progress, without a report.
@@ -186,6 +218,10 @@ protected:
 
     // Stops, then reports the error. Contract: "error != nil".
     void _stopWithError(const std::optional<Error>& error);
+
+    // Stops, then reports kCFHostErrorUnknown. An error of the resolver itself
+    // (kCFStreamErrorDomainNetDB) has its code as user info, under kCFGetAddrInfoFailureKey; one of
+    // another domain has no user info.
     void _stopWithStreamError(const StreamError& streamError);
 
 private:

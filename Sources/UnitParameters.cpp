@@ -1,6 +1,6 @@
 #include "UnitParameters.h"
 
-#include "CommandProtocol.h"
+#include "IdentityText.h"
 #include "addresses/IPv4Address.h"
 #include "support/Require.h"
 
@@ -13,92 +13,73 @@ namespace {
 
 enum class ValueForm : std::uint8_t { colonHex, blankHex, address, port, unitID };
 
+constexpr std::size_t valueLengthOfForm(ValueForm form) {
+    return form == ValueForm::address ? 4 : form == ValueForm::port ? 2 : identityLength;
+}
+
+// What a line of the display text begins with, joined when the program is compiled.
+class LineStart {
+public:
+    consteval explicit LineStart(std::string_view name) {
+        append("\n\t");
+        append(name);
+        append(": ");
+    }
+
+    constexpr std::string_view view() const { return {_text.data(), _length}; }
+
+private:
+    constexpr void append(std::string_view part) {
+        for (const char character : part) {
+            _text.at(_length++) = character;
+        }
+    }
+
+    std::array<char, 32> _text{};
+    std::size_t _length = 0;
+};
+
 struct Item {
-    std::string_view tag;
-    std::size_t valueLength;
+    std::string_view tag; // one letter between "<" and ">"
     ValueForm form;
+    std::size_t valueLength;
     std::optional<UnitParameter> parameter; // absent: shown under its tag and not kept
-    std::string_view lineStart;             // what the line of the display text begins with
+    LineStart lineStart;
+
+    consteval Item(std::string_view itsTag, ValueForm itsForm,
+                   std::optional<UnitParameter> itsParameter)
+        : tag(itsTag)
+        , form(itsForm)
+        , valueLength(valueLengthOfForm(itsForm))
+        , parameter(itsParameter)
+        , lineStart(itsParameter.has_value() ? nameOfUnitParameter(*itsParameter) : itsTag) {}
 };
 
 using enum UnitParameter;
 
 constexpr std::array<Item, 9> items{{
-    {"<M>", 6, ValueForm::colonHex, internalMACAddress, "\n\tinternal MAC address: "},
-    {"<I>", 4, ValueForm::address, internalIPAddress, "\n\tinternal IP address: "},
-    {"<D>", 4, ValueForm::address, destinationIPAddress, "\n\tdestination IP address: "},
-    {"<T>", 2, ValueForm::port, destinationPortNumber, "\n\tdestination Port number: "},
-    {"<P>", 2, ValueForm::port, devicePortNumber, "\n\tdevice Port number: "},
-    {"<U>", 6, ValueForm::unitID, unitID, "\n\tunit ID: "},
-    {"<C>", 6, ValueForm::colonHex, destinationMACAddress, "\n\tdestination MAC address: "},
-    {"<O>", 6, ValueForm::colonHex, std::nullopt, "\n\t<O>: "},
-    {"<S>", 6, ValueForm::blankHex, serialNumber, "\n\tserial number: "},
+    {"<M>", ValueForm::colonHex, internalMACAddress},
+    {"<I>", ValueForm::address, internalIPAddress},
+    {"<D>", ValueForm::address, destinationIPAddress},
+    {"<T>", ValueForm::port, destinationPortNumber},
+    {"<P>", ValueForm::port, devicePortNumber},
+    {"<U>", ValueForm::unitID, unitID},
+    {"<C>", ValueForm::colonHex, destinationMACAddress},
+    {"<O>", ValueForm::colonHex, std::nullopt},
+    {"<S>", ValueForm::blankHex, serialNumber},
 }};
 
 constexpr std::size_t tagLength = 3;
 constexpr std::string_view missingText = "(null)";
 
-constexpr std::string_view nameOfItem(const Item& item) {
-    return item.parameter.has_value() ? nameOfUnitParameter(*item.parameter) : item.tag;
-}
-
-constexpr bool tagsAreOneLetterInAngles() {
-    return std::all_of(items.begin(), items.end(), [](const Item& item) {
-        return item.tag.size() == tagLength && item.tag.front() == '<' && item.tag.back() == '>';
-    });
-}
-
-constexpr bool linesBeginWithTheirNames() {
-    return std::all_of(items.begin(), items.end(), [](const Item& item) {
-        std::string_view line = item.lineStart;
-        if (!line.starts_with("\n\t") || !line.ends_with(": ")) {
-            return false;
-        }
-        line.remove_prefix(2);
-        line.remove_suffix(2);
-        return line == nameOfItem(item);
-    });
-}
-
-constexpr std::size_t valueLengthOfForm(ValueForm form) {
-    return form == ValueForm::address ? 4 : form == ValueForm::port ? 2 : 6;
-}
-
-constexpr bool lengthsFitTheirForms() {
-    return std::all_of(items.begin(), items.end(), [](const Item& item) {
-        return item.valueLength == valueLengthOfForm(item.form);
-    });
-}
-
-constexpr char lowerCase(char character) {
-    return character >= 'A' && character <= 'Z' ? static_cast<char>(character - 'A' + 'a')
-                                                : character;
-}
-
-constexpr bool namesAscendWithoutRegardToCase() {
-    return std::is_sorted(
-        allUnitParameters.begin(), allUnitParameters.end(),
-        [](UnitParameter left, UnitParameter right) {
-            const auto leftName = nameOfUnitParameter(left);
-            const auto rightName = nameOfUnitParameter(right);
-            return std::lexicographical_compare(
-                leftName.begin(), leftName.end(), rightName.begin(), rightName.end(),
-                [](char one, char other) { return lowerCase(one) < lowerCase(other); });
-        });
-}
-
-constexpr std::size_t longestDisplayOfEveryItem() {
+// What a list with one of each item shows at most.
+constexpr std::size_t usualDisplayLength = [] {
     std::size_t length = 0;
     for (const Item& item : items) {
-        length += item.lineStart.size() + UnitRecord::longestText;
+        length += item.lineStart.view().size() + UnitRecord::longestText;
     }
     return length;
-}
-
-static_assert(tagsAreOneLetterInAngles());
-static_assert(linesBeginWithTheirNames());
-static_assert(lengthsFitTheirForms());
-static_assert(namesAscendWithoutRegardToCase());
+}();
 
 const Item* itemAtFrontOf(ByteView list) {
     if (list.size() < tagLength || list[0] != '<' || list[2] != '>') {
@@ -174,7 +155,7 @@ bool takeValue(ValueForm form, ByteView value, ValueText& text) {
 void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded) {
     ValueText text;
     const bool hasText = takeValue(item.form, value, text);
-    decoded.displayText += item.lineStart;
+    decoded.displayText += item.lineStart.view();
     decoded.displayText += hasText ? text.view() : missingText;
     if (!item.parameter.has_value()) {
         return;
@@ -189,19 +170,10 @@ void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded
 } // namespace
 
 std::optional<UnitParameter> unitParameterForName(std::string_view name) {
-    const auto* const found =
+    const auto found =
         std::find_if(allUnitParameters.begin(), allUnitParameters.end(),
                      [&](UnitParameter each) { return nameOfUnitParameter(each) == name; });
     return found == allUnitParameters.end() ? std::nullopt : std::optional(*found);
-}
-
-std::optional<std::string> UnitRecord::valueForName(std::string_view name) const {
-    const auto parameter = unitParameterForName(name);
-    if (!parameter.has_value()) {
-        return std::nullopt;
-    }
-    const auto text = value(*parameter);
-    return text.has_value() ? std::optional<std::string>(*text) : std::nullopt;
 }
 
 void UnitRecord::setValue(UnitParameter parameter, std::string_view text) {
@@ -211,16 +183,6 @@ void UnitRecord::setValue(UnitParameter parameter, std::string_view text) {
     slot.isPresent = true;
 }
 
-std::vector<std::string_view> UnitRecord::names() const {
-    std::vector<std::string_view> result;
-    for (const UnitParameter parameter : allUnitParameters) {
-        if (value(parameter).has_value()) {
-            result.push_back(nameOfUnitParameter(parameter));
-        }
-    }
-    return result;
-}
-
 bool operator==(const UnitRecord& left, const UnitRecord& right) {
     return std::all_of(allUnitParameters.begin(), allUnitParameters.end(),
                        [&](UnitParameter each) { return left.value(each) == right.value(each); });
@@ -228,7 +190,7 @@ bool operator==(const UnitRecord& left, const UnitRecord& right) {
 
 DecodedUnitParameters decodeUnitParameters(ByteView list) {
     DecodedUnitParameters decoded;
-    decoded.displayText.reserve(longestDisplayOfEveryItem());
+    decoded.displayText.reserve(usualDisplayLength);
     while (const Item* item = itemAtFrontOf(list)) {
         decodeItem(*item, subrange(list, tagLength, item->valueLength), decoded);
         list = list.subspan(tagLength + item->valueLength);

@@ -29,18 +29,8 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kx {
-
-inline constexpr std::string_view destinationIPAddressName = "destination IP address";
-inline constexpr std::string_view destinationMACAddressName = "destination MAC address";
-inline constexpr std::string_view destinationPortNumberName = "destination Port number";
-inline constexpr std::string_view devicePortNumberName = "device Port number";
-inline constexpr std::string_view internalIPAddressName = "internal IP address";
-inline constexpr std::string_view internalMACAddressName = "internal MAC address";
-inline constexpr std::string_view serialNumberName = "serial number";
-inline constexpr std::string_view unitIDName = "unit ID";
 
 // In the order in which people see them: by name, without regard to case.
 enum class UnitParameter : std::uint8_t {
@@ -63,12 +53,13 @@ inline constexpr std::array<UnitParameter, unitParameterCount> allUnitParameters
     UnitParameter::serialNumber,          UnitParameter::unitID,
 };
 
+// The name that a parameter has in tables and in the log.
 constexpr std::string_view nameOfUnitParameter(UnitParameter parameter) {
     constexpr std::array<std::string_view, unitParameterCount> names{
-        destinationIPAddressName,  destinationMACAddressName,
-        destinationPortNumberName, devicePortNumberName,
-        internalIPAddressName,     internalMACAddressName,
-        serialNumberName,          unitIDName,
+        "destination IP address",  "destination MAC address",
+        "destination Port number", "device Port number",
+        "internal IP address",     "internal MAC address",
+        "serial number",           "unit ID",
     };
     return names[static_cast<std::size_t>(parameter)];
 }
@@ -89,9 +80,6 @@ public:
                               : std::nullopt;
     }
 
-    // The same by name and as a copy; absent also for a name that no parameter has.
-    std::optional<std::string> valueForName(std::string_view name) const;
-
     // Sets or replaces a text of at most `longestText` bytes. Contract: "text.size() <=
     // longestText".
     void setValue(UnitParameter parameter, std::string_view text);
@@ -99,9 +87,6 @@ public:
     void removeValue(UnitParameter parameter) {
         _slots[static_cast<std::size_t>(parameter)] = Slot{};
     }
-
-    // The names of the parameters that the record has, in ascending order without regard to case.
-    std::vector<std::string_view> names() const;
 
     // Whether both have the same parameters with the same texts.
     friend bool operator==(const UnitRecord& left, const UnitRecord& right);

@@ -1,7 +1,7 @@
 // Name resolution that reports on the run loop and can be cancelled.
 //
 // Threading: operations and the report run on the thread of the run loop that the adapter was made
-// with. The report never comes from inside startResolution().
+// with. A report may make and start new requests; none comes from inside startResolution().
 //
 // Ownership: a Request stands for one resolution. Destroying it cancels: no report comes after
 // that. It may be destroyed from inside its own report; the report's callable and the resolution
@@ -49,7 +49,8 @@ public:
 
         // Starts to resolve the addresses of the request's name and reports exactly once, unless
         // cancelled. False when it could not be started; `startError` then says why, and no report
-        // comes. `startError` is not written otherwise. Once for each request.
+        // comes. `startError` is not written otherwise. A request is started once, also one that
+        // could not be started; a second start is a broken contract (support/Require.h).
         virtual bool startResolution(Report report, StreamError& startError) = 0;
 
     protected:

@@ -24,13 +24,45 @@ std::string dictionaryDescription(const PropertyDictionary& dictionary) {
     return result + "}";
 }
 
+// Whether both are absent, or both are there and equal.
+template<class Value>
+bool sameContents(const Value* left, const Value* right) {
+    return left == nullptr || right == nullptr ? left == right : *left == *right;
+}
+
 } // namespace
+
+PropertyListValue::PropertyListValue(PropertyList list)
+    : _value(std::make_shared<const PropertyList>(std::move(list))) {}
+PropertyListValue::PropertyListValue(PropertyDictionary dictionary)
+    : _value(std::make_shared<const PropertyDictionary>(std::move(dictionary))) {}
 
 PropertyListValue::~PropertyListValue() = default;
 PropertyListValue::PropertyListValue(const PropertyListValue& other) = default;
-PropertyListValue::PropertyListValue(PropertyListValue&& other) noexcept = default;
+PropertyListValue::PropertyListValue(PropertyListValue&& other) noexcept
+    : _value(std::exchange(other._value, std::string())) {}
 PropertyListValue& PropertyListValue::operator=(const PropertyListValue& other) = default;
-PropertyListValue& PropertyListValue::operator=(PropertyListValue&& other) noexcept = default;
+PropertyListValue& PropertyListValue::operator=(PropertyListValue&& other) noexcept {
+    _value = std::exchange(other._value, std::string());
+    return *this;
+}
+
+const PropertyList* PropertyListValue::list() const {
+    const auto* shared = std::get_if<SharedList>(&_value);
+    return shared != nullptr ? shared->get() : nullptr;
+}
+
+const PropertyDictionary* PropertyListValue::dictionary() const {
+    const auto* shared = std::get_if<SharedDictionary>(&_value);
+    return shared != nullptr ? shared->get() : nullptr;
+}
+
+bool operator==(const PropertyListValue& left, const PropertyListValue& right) {
+    return sameContents(left.text(), right.text()) &&
+           sameContents(left.integer(), right.integer()) &&
+           sameContents(left.list(), right.list()) &&
+           sameContents(left.dictionary(), right.dictionary());
+}
 
 std::string PropertyListValue::description() const {
     if (const auto* asText = text()) {

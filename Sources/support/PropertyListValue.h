@@ -1,13 +1,16 @@
 // The one variant type of keyed data: the fields of table entries and the records of the host's
 // network configuration.
 //
-// A value type: copies are deep, there is no sharing. Dictionaries are ordered by key (byte-wise),
-// so nothing that a person sees depends on hashing.
+// A value type: nobody can change a list or a dictionary once it is held, so that copies can share
+// it and nobody notices. Dictionaries are ordered by key (byte-wise), so nothing that a person sees
+// depends on hashing.
 
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -24,23 +27,23 @@ using PropertyDictionary = std::map<std::string, PropertyListValue, std::less<>>
 class PropertyListValue {
 public:
     PropertyListValue() = default; // the empty text
-    PropertyListValue(std::string text)
-        : _value(std::move(text)) {} // NOLINT: implicit
-    PropertyListValue(std::string_view text)
-        : _value(std::string(text)) {} // NOLINT
-    PropertyListValue(const char* text)
-        : _value(std::string(text)) {} // NOLINT
-    PropertyListValue(std::int64_t integer)
-        : _value(integer) {} // NOLINT
-    PropertyListValue(int integer)
-        : _value(std::int64_t{integer}) {} // NOLINT
-    PropertyListValue(PropertyList list)
-        : _value(std::move(list)) {} // NOLINT
-    PropertyListValue(PropertyDictionary dictionary)
-        : _value(std::move(dictionary)) {} // NOLINT
 
-    // Out of line: inlined into every user, the variant's own are large, and compilers warn there
-    // of the kinds that it does not hold.
+    // Implicit, so that values are written as they are: {"a", 1, PropertyList{}}.
+    PropertyListValue(std::string text)
+        : _value(std::move(text)) {}
+    PropertyListValue(std::string_view text)
+        : _value(std::string(text)) {}
+    PropertyListValue(const char* text)
+        : _value(std::string(text)) {}
+    PropertyListValue(std::int64_t integer)
+        : _value(integer) {}
+    PropertyListValue(int integer)
+        : _value(std::int64_t{integer}) {}
+    PropertyListValue(PropertyList list);
+    PropertyListValue(PropertyDictionary dictionary);
+
+    // What was moved from is the empty text. Out of line: inlined into every user, the variant's
+    // own are large, and compilers warn there of the kinds that it does not hold.
     ~PropertyListValue();
     PropertyListValue(const PropertyListValue& other);
     PropertyListValue(PropertyListValue&& other) noexcept;
@@ -48,22 +51,26 @@ public:
     PropertyListValue& operator=(PropertyListValue&& other) noexcept;
 
     // The value as the given kind, or null when it is of another kind. The pointer lives as long as
-    // this value is neither destroyed nor assigned to.
+    // this value is neither destroyed, assigned to nor moved from.
     const std::string* text() const { return std::get_if<std::string>(&_value); }
     const std::int64_t* integer() const { return std::get_if<std::int64_t>(&_value); }
-    const PropertyList* list() const { return std::get_if<PropertyList>(&_value); }
-    const PropertyDictionary* dictionary() const {
-        return std::get_if<PropertyDictionary>(&_value);
-    }
+    const PropertyList* list() const;
+    const PropertyDictionary* dictionary() const;
 
     // A text for people and logs: texts and integers as they stand, "(a, b)" for lists,
     // "{k = v; l = w}" for dictionaries.
     std::string description() const;
 
-    friend bool operator==(const PropertyListValue&, const PropertyListValue&) = default;
+    // Values are equal when they are of one kind and their contents are.
+    friend bool operator==(const PropertyListValue& left, const PropertyListValue& right);
 
 private:
-    std::variant<std::string, std::int64_t, PropertyList, PropertyDictionary> _value;
+    // Held by pointer because their elements are of this type, which is not complete here. Never
+    // null.
+    using SharedList = std::shared_ptr<const PropertyList>;
+    using SharedDictionary = std::shared_ptr<const PropertyDictionary>;
+
+    std::variant<std::string, std::int64_t, SharedList, SharedDictionary> _value;
 };
 
 // The value stored under `key`, or null when there is none.

@@ -1,7 +1,8 @@
 // The event loop as its users need it: watch a descriptor, call once after a delay.
 //
 // Threading: an object of this kind belongs to one thread; every operation and every callback runs
-// there. Nothing is called from inside watchForReading() or callOnceAfter() themselves.
+// there. Callbacks may ask for new watches and calls; nothing is called from inside
+// watchForReading() or callOnceAfter() themselves.
 //
 // Ownership: each operation returns a handle. Destroying the handle ends the watch or cancels the
 // call, at once and for good: after that, the callback is not called, even when it was already due.
@@ -31,18 +32,21 @@ public:
     };
     using Handle = std::unique_ptr<Source>;
 
+    // Far enough away to stand for "never", near enough that a clock can hold it.
+    static constexpr std::chrono::milliseconds longestDelay = std::chrono::hours{24 * 365 * 100};
+
     virtual ~RunLoop() = default;
 
     // Calls `readable` whenever `descriptor` can be read without blocking, once for each turn of
     // the loop for as long as that holds. The loop never reads itself. The descriptor stays the
     // caller's; it must be open until the handle is destroyed. One descriptor is watched by one
-    // handle at most. Null when the system cannot watch the descriptor.
+    // handle at most. Null when the descriptor is not open, or the system cannot watch it.
     virtual Handle watchForReading(int descriptor, std::function<void()> readable) = 0;
 
     // Calls `call` once, not before `delay` has passed on the monotonic clock. Calls fall due in
     // the order of their due times, and equal ones in the order in which they were asked for. A
-    // delay of zero or less falls due in the next turn. After the call the handle holds nothing; it
-    // may be kept or destroyed.
+    // delay of zero or less falls due in the next turn; one of more than longestDelay counts as
+    // that. After the call the handle holds nothing; it may be kept or destroyed.
     virtual Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) = 0;
 };
 

@@ -12,6 +12,20 @@ SystemLog* installedLog = nullptr;
 
 } // namespace
 
+std::string escapedLine(std::string_view line) {
+    constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string result;
+    for (const char character : line) {
+        const auto code = static_cast<unsigned char>(character);
+        if ((code < 0x20 && character != '\t') || code == 0x7F) {
+            result.append("\\x").append({digits[code >> 4U], digits[code & 0xFU]});
+        } else {
+            result += character;
+        }
+    }
+    return result;
+}
+
 SystemLog* installSystemLog(SystemLog* log) {
     return std::exchange(installedLog, log);
 }
@@ -21,8 +35,7 @@ void logToSystem(std::string_view line) {
         installedLog->write(line);
         return;
     }
-    std::string text(line);
-    text += '\n';
+    const std::string text = escapedLine(line) + "\n";
     std::fwrite(text.data(), 1, text.size(), stderr);
 }
 

@@ -7,6 +7,7 @@
 
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace kx {
@@ -15,10 +16,15 @@ class SystemLog {
 public:
     virtual ~SystemLog() = default;
 
-    // Writes one line; `line` has no line break at its end. Never fails: a log that cannot be
-    // written is no reason to stop, and there is nowhere to report it.
+    // Writes one line; `line` has no line break at its end. What would break or cut the line in its
+    // midst is written as escapedLine() gives it. Never fails: a log that cannot be written is no
+    // reason to stop, and there is nowhere to report it.
     virtual void write(std::string_view line) = 0;
 };
+
+// The text as one line that shows everywhere: each control character but the tab as "\xHH", for
+// example "\x00" for a zero byte and "\x0A" for a line break. For sinks; any thread.
+std::string escapedLine(std::string_view line);
 
 // Makes `log` the process's sink and returns the one before it; null means standard error. The
 // caller keeps ownership and must install another sink before it destroys this one.

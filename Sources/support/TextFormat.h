@@ -13,16 +13,17 @@
 
 namespace kx {
 
-// One argument of a message. An absent text prints as "(null)".
+// One argument of a message. An absent text prints as "(null)". Implicit, so that arguments are
+// written as they are: {name, 3520}.
 class FormatArgument {
 public:
-    FormatArgument(std::string_view text);                  // NOLINT: implicit on purpose
-    FormatArgument(const std::string& text);                // NOLINT
-    FormatArgument(const char* text);                       // NOLINT
-    FormatArgument(const std::optional<std::string>& text); // NOLINT
-    FormatArgument(long long number);                       // NOLINT
+    FormatArgument(std::string_view text);
+    FormatArgument(const std::string& text);
+    FormatArgument(const char* text);
+    FormatArgument(const std::optional<std::string>& text);
+    FormatArgument(long long number);
     FormatArgument(int number)
-        : FormatArgument(0LL + number) {} // NOLINT
+        : FormatArgument(0LL + number) {}
 
     const std::string& text() const { return _text; }
 

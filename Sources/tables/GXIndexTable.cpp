@@ -3,6 +3,7 @@
 #include "support/SystemLog.h"
 #include "tables/EntryConversion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <string_view>
 #include <system_error>
@@ -111,7 +112,7 @@ std::shared_ptr<GXIndexTable> GXIndexTable::newInstance() const {
 }
 
 int GXIndexTable::numberOfRowsInTableView() {
-    return mCount;
+    return std::max(mCount, 0);
 }
 
 std::optional<PropertyListValue>

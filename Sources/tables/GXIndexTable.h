@@ -5,7 +5,8 @@
 // dictionary keeps the count that it had, and a copied or decoded one counts 0 until rows are set.
 //
 // Row numbers are compared as unsigned 32-bit values: a negative one lies above all others. Rows
-// are meant to be 0 and more; after a negative one the count is of no use.
+// are meant to be 0 and more; after a negative one the count is of no use, and a table view shows
+// no rows.
 //
 // Ownership: the table owns its dictionary, which its copies share, so that a change through either
 // is seen by both. The delegate is not owned. Main thread only.
@@ -80,6 +81,7 @@ public:
 
     // --- The values of a table view: one row for each row number below the count ---
 
+    // The count, but never less than 0.
     int numberOfRowsInTableView() override;
 
     // The value of the row's entry for the column's identifier, absent for a hole. Throws what the

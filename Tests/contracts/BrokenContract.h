@@ -10,16 +10,23 @@
 
 namespace kx {
 
-// A pattern for the line of support/Require.h with exactly this expression and source path.
-inline std::string brokenContractPattern(std::string_view expression, std::string_view sourcePath) {
+// The text as a regular expression that matches nothing else.
+inline std::string literalPattern(std::string_view text) {
     std::string pattern;
-    for (const char character : "Assertion failed: (" + std::string(expression) + "), function ") {
+    for (const char character : text) {
         if (std::string_view("\\^$.|?*+()[]{}").find(character) != std::string_view::npos) {
             pattern += '\\';
         }
         pattern += character;
     }
-    return pattern + ".+, " + std::string(sourcePath);
+    return pattern;
+}
+
+// A pattern for the line of support/Require.h, to its end, with exactly this expression and source
+// path.
+inline std::string brokenContractPattern(std::string_view expression, std::string_view sourcePath) {
+    return literalPattern("Assertion failed: (" + std::string(expression) + "), function ") +
+           "[^\n]+" + literalPattern(", " + std::string(sourcePath)) + "\n";
 }
 
 } // namespace kx

@@ -92,13 +92,6 @@ TYPED_TEST_P(HostResolverContract, AStartThatSucceedsLeavesTheErrorAlone) {
     EXPECT_EQ(startError.code, 42);
 }
 
-TYPED_TEST_P(HostResolverContract, ARequestThatIsNotStartedReportsNothing) {
-    const auto request = this->trait.resolver().requestForHostName(this->trait.knownName());
-    EXPECT_NE(request, nullptr);
-    this->trait.runAWhile();
-    EXPECT_TRUE(this->reports.empty());
-}
-
 TYPED_TEST_P(HostResolverContract, ADestroyedRequestReportsNothing) {
     auto request = this->startRecorded(this->trait.knownName());
     request.reset();
@@ -164,8 +157,7 @@ TYPED_TEST_P(HostResolverContract, AReportMayStartAnotherRequest) {
 REGISTER_TYPED_TEST_SUITE_P(HostResolverContract, AKnownNameIsReportedOnceWithItsAddresses,
                             AnUnknownNameIsReportedAsAnErrorWithoutAddresses,
                             TheReportNeverComesFromInsideTheStart,
-                            AStartThatSucceedsLeavesTheErrorAlone,
-                            ARequestThatIsNotStartedReportsNothing, ADestroyedRequestReportsNothing,
+                            AStartThatSucceedsLeavesTheErrorAlone, ADestroyedRequestReportsNothing,
                             EachOfSeveralRequestsGetsItsOwnReport, AReportMayDestroyItsOwnRequest,
                             AReportMayDestroyAnotherRequest, AReportMayStartAnotherRequest);
 

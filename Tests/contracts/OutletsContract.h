@@ -1,17 +1,14 @@
-// What every adapter of the window's controls must do (Outlets.h), as tests that are compiled
-// against each of them.
+// What every adapter of the window's plain controls must do (Outlets.h), as tests that are compiled
+// against each of them. Tables have TableViewContract.h, window and application WindowContract.h.
 //
-// An adapter takes part by a trait: a default-constructible class, for tables one that is
-// constructed from the data source, that makes the control and shows what a person sees of it.
+// An adapter takes part by a trait: a default-constructible class that makes the control, shows
+// what a person sees of it, and does what a person does. Its action is what the control runs when a
+// person uses it; a test sets it with setAction(std::function<void()>).
 //
 //   pop-up       PopUpButton& control(); std::vector<std::string> titles(); bool isEnabled();
+//                void chooseItem(const std::string& title), as a person does; setAction()
 //   text field   TextField& control();
-//   table view   Trait(TableViewDataSource&) with the columns "parameterName" and "parameterValue";
-//                TableView& control(); int rowCount();
-//                std::string cellText(int row, const std::string& identifier);
-//                void selectRow(int row), as a person does; -1 selects nothing
-//                void typeIntoCell(int row, const std::string& identifier,
-//                                  const std::string& text), as a person does
+//                void type(const std::string& text), as a person does; setAction()
 //   text view    TextView& control(); std::string text(); bool isEndVisible();
 //   drawer       Drawer& control(), closed at first; void finishMoving()
 //
@@ -20,11 +17,9 @@
 #pragma once
 
 #include "Outlets.h"
-#include "tables/TableViewDataSource.h"
 
 #include <gtest/gtest.h>
 
-#include <map>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +27,8 @@
 namespace kx {
 
 using Titles = std::vector<std::string>;
+
+// --- Pop-up button ---
 
 template<class Trait>
 class PopUpButtonContract : public ::testing::Test {
@@ -139,14 +136,41 @@ TYPED_TEST_P(PopUpButtonContract, IsEnabledUntilItIsDisabled) {
     EXPECT_TRUE(this->trait.isEnabled());
 }
 
+TYPED_TEST_P(PopUpButtonContract, ChoiceOfAPersonRunsTheAction) {
+    int actions = 0;
+    this->trait.setAction([&] { ++actions; });
+    this->control().addItemsWithTitles({"one", "two"});
+    this->trait.chooseItem("two");
+    EXPECT_EQ(this->selectedTitle(), "two");
+    EXPECT_EQ(actions, 1);
+}
+
+TYPED_TEST_P(PopUpButtonContract, NothingThatCodeDoesRunsTheAction) {
+    int actions = 0;
+    this->trait.setAction([&] { ++actions; });
+    this->control().addItemsWithTitles({"one", "two"});
+    this->control().selectItemAtIndex(1);
+    this->control().selectItemWithTitle("one");
+    this->control().addItemsWithTitles({"one"});
+    this->control().selectItemWithTitle("nowhere");
+    this->control().selectItemAtIndex(0);
+    this->control().setEnabled(false);
+    this->control().setEnabled(true);
+    this->control().removeAllItems();
+    EXPECT_EQ(actions, 0);
+}
+
 REGISTER_TYPED_TEST_SUITE_P(
-    PopUpButtonContract, EmptyPopUpHasNoSelectedTitle, FirstItemAddedBecomesSelected,
+    PopUpButtonContract, ChoiceOfAPersonRunsTheAction, NothingThatCodeDoesRunsTheAction,
+    EmptyPopUpHasNoSelectedTitle, FirstItemAddedBecomesSelected,
     SelectedTitleStaysSelectedWhenItemsAreAdded, AddingAnExistingTitleMovesItToTheEnd,
     SelectedTitleStaysSelectedWhenItIsReplaced, EqualTitlesOfOneCallGiveOneItem,
     TitlesThatDifferInCaseOrBlanksAreDifferent, SelectingAnIndexBeyondTheItemsDoesNothing,
     SelectingAnIndexOfAnEmptyPopUpDoesNothing, SelectsByTitle,
     SelectingAnUnknownTitleSelectsNothing, AddingToAPopUpWithoutSelectionSelectsTheFirstItem,
     RemovingAllItemsRemovesTheSelection, KeepsTitlesInUTF8, IsEnabledUntilItIsDisabled);
+
+// --- Text field ---
 
 template<class Trait>
 class TextFieldContract : public ::testing::Test {
@@ -173,121 +197,27 @@ TYPED_TEST_P(TextFieldContract, EmptyTextReplacesWhatWasThere) {
     EXPECT_EQ(this->trait.control().stringValue(), "");
 }
 
-REGISTER_TYPED_TEST_SUITE_P(TextFieldContract, IsEmptyAtFirst, GivesBackTheTextThatWasSet,
+TYPED_TEST_P(TextFieldContract, TypingRunsTheActionAndGivesTheText) {
+    int actions = 0;
+    this->trait.setAction([&] { ++actions; });
+    this->trait.type("V");
+    EXPECT_EQ(this->trait.control().stringValue(), "V");
+    EXPECT_EQ(actions, 1);
+}
+
+TYPED_TEST_P(TextFieldContract, SettingTheTextRunsNoAction) {
+    int actions = 0;
+    this->trait.setAction([&] { ++actions; });
+    this->trait.control().setStringValue("V");
+    this->trait.control().setStringValue("");
+    EXPECT_EQ(actions, 0);
+}
+
+REGISTER_TYPED_TEST_SUITE_P(TextFieldContract, TypingRunsTheActionAndGivesTheText,
+                            SettingTheTextRunsNoAction, IsEmptyAtFirst, GivesBackTheTextThatWasSet,
                             EmptyTextReplacesWhatWasThere);
 
-// Rows that a test changes at will; the view must not notice before it is told to reload.
-class ListedRows final : public TableViewDataSource {
-public:
-    using Row = std::map<std::string, std::string, std::less<>>;
-
-    std::vector<Row> rows;
-
-    int numberOfRowsInTableView() override { return static_cast<int>(rows.size()); }
-
-    std::optional<PropertyListValue>
-    tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override {
-        const Row& cells = rows.at(static_cast<std::size_t>(row));
-        const auto found = cells.find(column.identifier);
-        return found != cells.end() ? std::optional(PropertyListValue(found->second))
-                                    : std::nullopt;
-    }
-
-    void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
-                                                  const TableColumn& column, int row) override {
-        rows.at(static_cast<std::size_t>(row))[column.identifier] = value.description();
-    }
-};
-
-template<class Trait>
-class TableViewContract : public ::testing::Test {
-protected:
-    void showRows(int count) {
-        source.rows.clear();
-        for (int row = 0; row < count; ++row) {
-            source.rows.push_back({{"parameterName", "name " + std::to_string(row)},
-                                   {"parameterValue", "value " + std::to_string(row)}});
-        }
-        trait.control().reloadData();
-    }
-
-    ListedRows source;
-    Trait trait{source};
-};
-
-TYPED_TEST_SUITE_P(TableViewContract);
-
-TYPED_TEST_P(TableViewContract, ShowsNoRowsOfAnEmptySource) {
-    this->trait.control().reloadData();
-    EXPECT_EQ(this->trait.rowCount(), 0);
-    EXPECT_EQ(this->trait.control().selectedRow(), -1);
-}
-
-TYPED_TEST_P(TableViewContract, ShowsEveryCellAfterReload) {
-    this->showRows(2);
-    ASSERT_EQ(this->trait.rowCount(), 2);
-    EXPECT_EQ(this->trait.cellText(0, "parameterName"), "name 0");
-    EXPECT_EQ(this->trait.cellText(0, "parameterValue"), "value 0");
-    EXPECT_EQ(this->trait.cellText(1, "parameterName"), "name 1");
-    EXPECT_EQ(this->trait.cellText(1, "parameterValue"), "value 1");
-}
-
-TYPED_TEST_P(TableViewContract, ShowsAnAbsentValueAsAnEmptyCell) {
-    this->source.rows = {{{"parameterName", "unit ID"}}};
-    this->trait.control().reloadData();
-    EXPECT_EQ(this->trait.cellText(0, "parameterName"), "unit ID");
-    EXPECT_EQ(this->trait.cellText(0, "parameterValue"), "");
-}
-
-TYPED_TEST_P(TableViewContract, FollowsItsSourceWhenRowsCome) {
-    this->showRows(1);
-    this->showRows(8);
-    ASSERT_EQ(this->trait.rowCount(), 8);
-    EXPECT_EQ(this->trait.cellText(7, "parameterValue"), "value 7");
-}
-
-TYPED_TEST_P(TableViewContract, FollowsItsSourceWhenRowsGo) {
-    this->showRows(8);
-    this->showRows(0);
-    EXPECT_EQ(this->trait.rowCount(), 0);
-}
-
-TYPED_TEST_P(TableViewContract, HasNoSelectionUntilARowIsSelected) {
-    this->showRows(3);
-    EXPECT_EQ(this->trait.control().selectedRow(), -1);
-    this->trait.selectRow(2);
-    EXPECT_EQ(this->trait.control().selectedRow(), 2);
-    this->trait.selectRow(-1);
-    EXPECT_EQ(this->trait.control().selectedRow(), -1);
-}
-
-TYPED_TEST_P(TableViewContract, ReloadKeepsTheSelectionOfARowThatStillExists) {
-    this->showRows(3);
-    this->trait.selectRow(1);
-    this->showRows(2);
-    EXPECT_EQ(this->trait.control().selectedRow(), 1);
-}
-
-TYPED_TEST_P(TableViewContract, ReloadDropsTheSelectionOfARowThatIsGone) {
-    this->showRows(3);
-    this->trait.selectRow(2);
-    this->showRows(2);
-    EXPECT_EQ(this->trait.control().selectedRow(), -1);
-}
-
-TYPED_TEST_P(TableViewContract, GivesWhatIsTypedToItsSource) {
-    this->showRows(2);
-    this->trait.typeIntoCell(1, "parameterValue", "192.168.1.20");
-    EXPECT_EQ(this->source.rows[1]["parameterValue"], "192.168.1.20");
-    EXPECT_EQ(this->source.rows[0]["parameterValue"], "value 0");
-}
-
-REGISTER_TYPED_TEST_SUITE_P(TableViewContract, ShowsNoRowsOfAnEmptySource,
-                            ShowsEveryCellAfterReload, ShowsAnAbsentValueAsAnEmptyCell,
-                            FollowsItsSourceWhenRowsCome, FollowsItsSourceWhenRowsGo,
-                            HasNoSelectionUntilARowIsSelected,
-                            ReloadKeepsTheSelectionOfARowThatStillExists,
-                            ReloadDropsTheSelectionOfARowThatIsGone, GivesWhatIsTypedToItsSource);
+// --- Text view ---
 
 template<class Trait>
 class TextViewContract : public ::testing::Test {
@@ -335,6 +265,8 @@ TYPED_TEST_P(TextViewContract, ScrollingShowsTheEndOfALongText) {
 REGISTER_TYPED_TEST_SUITE_P(TextViewContract, IsEmptyAtFirst, InsertsAtTheEndExactlyWhatItIsGiven,
                             SettingTheTextReplacesAllOfIt, KeepsLineBreaksTabsAndBlanks,
                             ScrollingShowsTheEndOfALongText);
+
+// --- Drawer ---
 
 template<class Trait>
 class DrawerContract : public ::testing::Test {

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <map>
 #include <stdexcept>
+#include <vector>
 
 namespace kx {
 
@@ -32,6 +33,18 @@ public:
         }
         _writingEnds[ends[0]] = ends[1];
         return ends[0];
+    }
+
+    // Numbers that no open descriptor has: one that was open, and one that none ever has. The first
+    // may be given out again by the next call that opens something.
+    static std::vector<int> closedDescriptors() {
+        int ends[2];
+        if (::pipe(ends) != 0) {
+            throw std::runtime_error("no pipe");
+        }
+        ::close(ends[0]);
+        ::close(ends[1]);
+        return {ends[0], -1};
     }
 
     void setReadable(int descriptor, bool readable) {

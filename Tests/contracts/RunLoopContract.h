@@ -9,6 +9,8 @@
 //     RunLoop& runLoop();
 //     // A descriptor that the loop can watch; it cannot be read yet.
 //     int newDescriptor();
+//     // Descriptors that are not open.
+//     std::vector<int> closedDescriptors();
 //     void setReadable(int descriptor, bool readable);
 //     // Runs the loop until the condition holds; false when it does not within a generous time.
 //     bool runUntil(const std::function<bool()>& condition);
@@ -199,7 +201,27 @@ TYPED_TEST_P(RunLoopContract, AfterTheCallTheHandleHoldsNothing) {
     EXPECT_TRUE(observed.expired());
 }
 
+TYPED_TEST_P(RunLoopContract, TheLongestDelayNeitherComesEarlyNorOverflows) {
+    std::string order;
+    const auto call = this->trait.runLoop().callOnceAfter(std::chrono::milliseconds::max(),
+                                                          [&] { order += "never"; });
+    const auto monthLater =
+        this->trait.runLoop().callOnceAfter(std::chrono::hours(24 * 31), [&] { order += "month"; });
+    const auto soon = this->callAfter(1, [&] { order += "soon"; });
+    ASSERT_TRUE(this->trait.runUntil([&] { return !order.empty(); }));
+    this->runAWhile();
+    EXPECT_EQ(order, "soon");
+}
+
 // --- Watches ---
+
+TYPED_TEST_P(RunLoopContract, ADescriptorThatIsNotOpenCannotBeWatched) {
+    const std::vector<int> closed = this->trait.closedDescriptors();
+    ASSERT_FALSE(closed.empty());
+    for (const int descriptor : closed) {
+        EXPECT_EQ(this->watch(descriptor, [] {}), nullptr) << descriptor;
+    }
+}
 
 TYPED_TEST_P(RunLoopContract, AWatchIsSilentWhileNothingCanBeRead) {
     int calls = 0;
@@ -388,7 +410,8 @@ REGISTER_TYPED_TEST_SUITE_P(
     ADelayBelowZeroIsADelayOfZero, AZeroDelayAskedForInACallComesAfterThatCall,
     ADestroyedHandleCancelsItsCall, ACallThatWasAlreadyDueCanBeCancelledByAnotherOne,
     ACallMayDestroyItsOwnHandle, ACallMayReplaceItsOwnHandle, ACallObjectLivesUntilTheCallReturned,
-    AfterTheCallTheHandleHoldsNothing, AWatchIsSilentWhileNothingCanBeRead,
+    AfterTheCallTheHandleHoldsNothing, TheLongestDelayNeitherComesEarlyNorOverflows,
+    ADescriptorThatIsNotOpenCannotBeWatched, AWatchIsSilentWhileNothingCanBeRead,
     AWatchFiresAgainAndAgainWhileTheDescriptorCanBeRead,
     AnUnreadDescriptorDoesNotKeepDelayedCallsWaiting, OneFloodedDescriptorDoesNotKeepAnotherWaiting,
     ACallThatAsksForItselfDoesNotKeepWatchesWaiting, ADestroyedHandleEndsItsWatch,

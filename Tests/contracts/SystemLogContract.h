@@ -17,6 +17,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -54,8 +55,20 @@ TYPED_TEST_P(SystemLogContract, EmptyLinesAndLongLinesAreLinesToo) {
     EXPECT_EQ(this->trait.lines(), (std::vector<std::string>{"", longLine}));
 }
 
+TYPED_TEST_P(SystemLogContract, OneCallIsOneLineWhateverTheTextHolds) {
+    using namespace std::string_view_literals;
+    this->trait.log().write("zero\0byte, two\r\nlines, \x1B[31mred, tab\tand \x7F"sv);
+    this->trait.log().write("next");
+    EXPECT_EQ(this->trait.lines(),
+              (std::vector<std::string>{R"(zero\x00byte, two\x0D\x0Alines, \x1B[31mred, tab)"
+                                        "\t"
+                                        R"(and \x7F)",
+                                        "next"}));
+}
+
 REGISTER_TYPED_TEST_SUITE_P(SystemLogContract, LinesComeOutAsTheyWentInAndInTheirOrder,
                             PercentSignsAreNoFormat, OnlyTheGivenBytesAreWritten,
-                            EmptyLinesAndLongLinesAreLinesToo);
+                            EmptyLinesAndLongLinesAreLinesToo,
+                            OneCallIsOneLineWhateverTheTextHolds);
 
 } // namespace kx

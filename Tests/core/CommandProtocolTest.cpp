@@ -12,10 +12,6 @@ std::string edit(UnitParameter parameter, std::string_view typed) {
     return editCommand(parameter, typed).value_or("(no command)");
 }
 
-std::string identity(const Bytes& data) {
-    return unitIDforData(data).value_or("(no text)");
-}
-
 std::tm localTime(int month, int day, int hour, int minute) {
     std::tm time{};
     time.tm_mon = month - 1;
@@ -38,6 +34,48 @@ TEST(CommandProtocol, DefaultPortIsHexadecimal0DC0) {
 TEST(CommandProtocol, RequestsHaveNoArgument) {
     EXPECT_EQ(parameterRequestCommand, "^^IdX");
     EXPECT_EQ(restoreCommand, "^^IdZ");
+}
+
+TEST(MACAddressArgument, IsTheTextWithoutColonsWhereverTheyStand) {
+    EXPECT_EQ(macAddressArgument("00:1a:2B:3c:4D:5e"), "001a2B3c4D5e");
+    EXPECT_EQ(macAddressArgument("::a b::"), "a b");
+    EXPECT_EQ(macAddressArgument(""), "");
+}
+
+TEST(IPAddressArgument, IsEightDigitsFirstOctetFirst) {
+    EXPECT_EQ(ipAddressArgument("192.168.1.20"), "C0A80114");
+    EXPECT_EQ(ipAddressArgument("0.0.0.1"), "00000001");
+    EXPECT_EQ(ipAddressArgument("nowhere"), "00000000");
+}
+
+TEST(DestinationPortArgument, Is3520UnlessItIsOneOfTheFourPorts) {
+    EXPECT_EQ(destinationPortArgument("3519"), "0DC0");
+    EXPECT_EQ(destinationPortArgument("3520"), "0DC0");
+    EXPECT_EQ(destinationPortArgument("3522"), "0DC2");
+    EXPECT_EQ(destinationPortArgument("3523"), "0DC3");
+    EXPECT_EQ(destinationPortArgument("3524"), "0DC0");
+    EXPECT_EQ(destinationPortArgument(""), "0DC0");
+}
+
+TEST(DevicePortArgument, IsAnyNumberInFourDigitsOrMore) {
+    EXPECT_EQ(devicePortArgument("0"), "0000");
+    EXPECT_EQ(devicePortArgument("65535"), "FFFF");
+    EXPECT_EQ(devicePortArgument("65536"), "10000");
+    EXPECT_EQ(devicePortArgument("-2"), "FFFFFFFE");
+    EXPECT_EQ(devicePortArgument(""), "0000");
+}
+
+TEST(UnitIDArgument, IsANumberOrTheBytesOfTheText) {
+    EXPECT_EQ(unitIDArgument("12"), "00000000000C");
+    EXPECT_EQ(unitIDArgument("AB"), "4142");
+    EXPECT_EQ(unitIDArgument(""), "");
+    EXPECT_EQ(unitIDArgument("A\xFF"), std::nullopt);
+}
+
+TEST(SerialNumberArgument, IsTheTextWithoutBlanksWhereverTheyStand) {
+    EXPECT_EQ(serialNumberArgument("00 1A 2B 3C 4D 5E"), "001A2B3C4D5E");
+    EXPECT_EQ(serialNumberArgument("  a:b  "), "a:b");
+    EXPECT_EQ(serialNumberArgument(""), "");
 }
 
 TEST(EditCommand, DestinationPortWithinItsRangeIsSent) {
@@ -152,39 +190,6 @@ TEST(UnitPort, IsTheNumberCutTo16Bits) {
     EXPECT_EQ(unitPortForText("70000"), 4464);
     EXPECT_EQ(unitPortForText("-1"), 65535);
     EXPECT_EQ(unitPortForText("none"), 0);
-}
-
-TEST(UnitIDText, IsTheLastByteWhenTheOthersAreZero) {
-    EXPECT_EQ(identity({0, 0, 0, 0, 0, 7}), "7");
-    EXPECT_EQ(identity({0, 0, 0, 0, 0, 0}), "0");
-    EXPECT_EQ(identity({0, 0, 0, 0, 0, 255}), "255");
-}
-
-TEST(UnitIDText, KeepsZeroBytesOfAText) {
-    EXPECT_EQ(identity({'A', 'B', 'C', 0, 0, 0}), std::string("ABC\0\0\0", 6));
-    EXPECT_EQ(identity({0, 0, 0, 0, 'A', 0}), std::string("\0\0\0\0A\0", 6));
-}
-
-TEST(UnitIDText, ReadsUTF8AndNothingElse) {
-    EXPECT_EQ(identity({'n', 0xC3, 0xA4, 'h', 'e', 'r'}), "n\xC3\xA4her");
-    EXPECT_EQ(unitIDforData(Bytes{0xFF, 'B', 'C', 'D', 'E', 'F'}), std::nullopt);
-    EXPECT_EQ(unitIDforData(Bytes{'A', 'B', 'C', 'D', 'E', 0xC3}), std::nullopt);
-}
-
-TEST(UnitIDText, NeedsSixBytes) {
-    EXPECT_THROW(unitIDforData(Bytes{0, 0, 0, 0, 0}), RangeFailure);
-}
-
-TEST(HexString, JoinsUpperCasePairs) {
-    EXPECT_EQ(hexStringForData(Bytes{0x00, 0x1A, 0xFF}, ":"), "00:1A:FF");
-    EXPECT_EQ(hexStringForData(Bytes{0x0A, 0xB0}, ""), "0AB0");
-    EXPECT_EQ(hexStringForData(Bytes{0x01, 0x02}, ", "), "01, 02");
-    EXPECT_EQ(hexStringForData(Bytes{0x01}, ":"), "01");
-    EXPECT_EQ(hexStringForData(Bytes{}, ":"), "");
-}
-
-TEST(SerialNumberText, HasABlankBetweenBytes) {
-    EXPECT_EQ(serialNumberText(Bytes{0x00, 0x1A, 0x2B, 0x3C, 0x4D, 0x5E}), "00 1A 2B 3C 4D 5E");
 }
 
 TEST(DataSubrangeText, IsAbsentBeyondTheEnd) {

@@ -270,14 +270,6 @@ TEST_F(ControllerDiscovery, ReloadOfAUnitWithoutAnAddressBroadcastsOnItsPort) {
     EXPECT_EQ(lastSent(), "255.255.255.255:3521 ^^IdX");
 }
 
-TEST_F(ControllerDiscovery, ReloadWithoutASelectedUnitBroadcastsOnTheChosenInterface) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    launch();
-    controller.interfaceSelect();
-    controller.reloadUnitParameterButton();
-    EXPECT_EQ(lastSent(), "192.168.1.255:3520 ^^IdX");
-}
-
 TEST_F(ControllerDiscovery, ReloadOfAUnitAtAddressZeroTriesIt) {
     controller.discoverButton();
     receive(sparseReply(item("<I>", {0, 0, 0, 0}), {0, 1, 2, 3, 4, 5}));
@@ -299,6 +291,7 @@ TEST_F(ControllerDiscovery, NoSelectedRowLeavesTheEditRowUnchanged) {
     controller.tableViewSelectionDidChange();
     window.unitParameterTableView.selectRow(-1);
     controller.tableViewSelectionDidChange();
+    window.editParameterTableView.reloadData();
     EXPECT_EQ(editRows(), Lines{"unit ID = 5"});
 }
 
@@ -319,7 +312,7 @@ TEST_F(ControllerDiscovery, EditingTheCopyDoesNotChangeTheTable) {
     window.editParameterTableView.typeIntoCell(0, "parameterValue", "9");
     window.unitParameterTableView.reloadData();
     EXPECT_EQ(parameterRows().back(), "unit ID = 5");
-    EXPECT_EQ(value(serialFive, unitIDName), "5");
+    EXPECT_EQ(value(serialFive, UnitParameter::unitID), "5");
 }
 
 TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {

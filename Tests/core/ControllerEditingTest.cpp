@@ -45,6 +45,23 @@ TEST_F(ControllerEditing, RowNumberDoesNotMatter) {
               PropertyListValue("7"));
 }
 
+TEST_F(ControllerEditing, UnknownColumnReadsAsTheEmptyText) {
+    EXPECT_EQ(controller.tableViewObjectValueForTableColumnRow({"unit ID"}, 0),
+              PropertyListValue(""));
+    EXPECT_EQ(controller.tableViewObjectValueForTableColumnRow({""}, 0), PropertyListValue(""));
+}
+
+TEST_F(ControllerEditing, UnknownColumnTakesNothing) {
+    window.editParameterTableView.typeIntoCell(0, "parameterValue", "7");
+    const int reloads = window.editParameterTableView.reloadCount();
+    window.editParameterTableView.typeIntoCell(0, "unit ID", "8");
+    EXPECT_EQ(window.editParameterTableView.reloadCount(), reloads);
+    window.editParameterTableView.reloadData();
+    EXPECT_EQ(editRows(), Lines{" = 7"});
+    EXPECT_EQ(controller.tableViewObjectValueForTableColumnRow({"unit ID"}, 0),
+              PropertyListValue(""));
+}
+
 TEST_F(ControllerEditing, LaunchBeginsWithAnEmptyEditRow) {
     window.editParameterTableView.typeIntoCell(0, "parameterValue", "10.0.0.7");
     launch();

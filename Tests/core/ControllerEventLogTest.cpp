@@ -104,6 +104,7 @@ TEST_F(ControllerEventLog, EveryMessageIsLookedUpByItsEnglishText) {
     launch();
     receive(textBytes("^^<"));
     receive(textBytes("other"));
+    receive(textBytes("^^<X>"));
     receive(SampleUnit().acknowledgement());
     systemCalls.failNext(Operation::sendTo, EACCES);
     controller.sendCommandToAddress("^^IdX", "10.0.0.7");
@@ -115,6 +116,7 @@ TEST_F(ControllerEventLog, EveryMessageIsLookedUpByItsEnglishText) {
                "REQUEST UNIT PARAMETERS WITH ADDRESS: 255.255.255.255", "UDP SERVER DID SEND DATA.",
                "UDP LISTENER DID RECEIVE DATA. LENGTH: 3", "IGNORING SHORT PACKET",
                "UDP LISTENER DID RECEIVE DATA. LENGTH: 5", "IGNORING UNKNOWN PACKET, PREFIX != ^^",
+               "UDP LISTENER DID RECEIVE DATA. LENGTH: 5", "RECEIVED COMMAND: ^^<X>",
                "UDP LISTENER DID RECEIVE DATA. LENGTH: 24",
                "REQUEST UNIT PARAMETERS WITH ADDRESS: 255.255.255.255", "UDP SERVER DID SEND DATA.",
                "RECEIVED COMMAND: ^^<U> UNIT:42 SERIAL:01 02 03 04 05 06 CIDSTRING:",
@@ -122,6 +124,14 @@ TEST_F(ControllerEventLog, EveryMessageIsLookedUpByItsEnglishText) {
                "  " + posixErrorText(EACCES), "UDP DID RECEIVE ERROR.",
                "  " + posixErrorText(EACCES)}));
     EXPECT_EQ(window.interfacePopUp.titles(), Titles{"NO CONFIGURED INTERFACES"});
+}
+
+TEST_F(ControllerEventLog, MessageOfARefusedBroadcastIsLookedUpToo) {
+    const ShoutedText shouted;
+    systemCalls.failNext(Operation::enableBroadcast, EPERM);
+    controller.discoverButton();
+    EXPECT_EQ(log(), (Lines{"[BEGIN DISCOVER]", "UDP LISTENER DID START. 0.0.0.0:3520",
+                            "ERROR SETTING SO_BROADCAST " + posixErrorText(EPERM)}));
 }
 
 TEST_F(ControllerEventLog, MessagesOfAFailedStartAreLookedUpToo) {

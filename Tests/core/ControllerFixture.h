@@ -16,7 +16,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -71,6 +70,9 @@ protected:
         runLoop.advanceBy(2000ms);
     }
 
+    // The listener as it names itself in its events.
+    UDPEcho& listener() { return const_cast<UDPEcho&>(*controller.udpListener()); }
+
     // Everything sent, as "address:port text"; a carriage return shows as "\r".
     Lines sent() const {
         Lines lines;
@@ -93,10 +95,10 @@ protected:
         return length >= text.size() ? Lines{} : linesOf(text.substr(length + 1));
     }
 
-    std::string value(const std::string& serial, std::string_view name) const {
+    std::string value(const std::string& serial, UnitParameter parameter) const {
         const auto found = controller.devices().find(serial);
         return found != controller.devices().end()
-                   ? found->second.valueForName(name).value_or("(absent)")
+                   ? std::string(found->second.value(parameter).value_or("(absent)"))
                    : "(no such unit)";
     }
 

@@ -1,23 +1,15 @@
-// Launch, the choice of an interface, help and the end.
+// Launch, port choice, the listener's events, help and the end.
 
 #include "ControllerFixture.h"
+#include "doubles/BrokenText.h"
+
+#include <stdexcept>
 
 namespace kx {
 
 namespace {
 
-class ControllerLifecycle : public ControllerTest {
-protected:
-    // Chooses the interface that the pop-up offers and gives back where a discovery then goes.
-    std::string broadcastAfterChoosing(const std::string& address, const std::string& mask) {
-        interfaces.addService("Ethernet", "eth0", address, mask);
-        launch();
-        window.interfacePopUp.selectItemWithTitle("Ethernet (eth0)");
-        controller.interfaceSelect();
-        controller.discoverButton();
-        return lastSent();
-    }
-};
+class ControllerLifecycle : public ControllerTest {};
 
 } // namespace
 
@@ -61,89 +53,181 @@ TEST_F(ControllerLifecycle, LaunchPreparesTheOptionCommand) {
 
 TEST_F(ControllerLifecycle, LaunchSelectsNoUnit) {
     launch();
+    discover({SampleUnit()});
+    ASSERT_EQ(selectedUnit(), "01 02 03 04 05 06");
+    launch();
     EXPECT_EQ(controller.selectedUnit(), std::nullopt);
     EXPECT_TRUE(controller.devices().empty());
 }
 
-TEST_F(ControllerLifecycle, FirstBroadcastGoesEverywhereBecauseNoInterfaceIsChosen) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+TEST_F(ControllerLifecycle, AnotherPortRestartsTheListenerOnIt) {
     launch();
-    EXPECT_EQ(sent(), Lines{"255.255.255.255:3520 ^^IdX"});
+    const int firstSocket = systemCalls.lastDescriptor();
+    window.udpPortPopUp.selectItemWithTitle("3522");
+    controller.udpPortSelect();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3522",
+                            "Request unit parameters with address: 255.255.255.255",
+                            "UDP server did send data."}));
+    EXPECT_EQ(systemCalls.closeCount(firstSocket), 1U);
+    EXPECT_NE(systemCalls.lastDescriptor(), firstSocket);
+    EXPECT_EQ(controller.udpListener()->port(), 3522U);
 }
 
-TEST_F(ControllerLifecycle, BroadcastFollowsTheChosenInterface) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.0"), "192.168.1.255:3520 ^^IdX");
+TEST_F(ControllerLifecycle, BroadcastUsesPort3520WhateverPortIsListenedOnOrUnitSelected) {
+    launch();
+    discover({SampleUnit()}); // its device port is 10000
+    ASSERT_EQ(selectedUnit(), "01 02 03 04 05 06");
+    window.udpPortPopUp.selectItemWithTitle("3523");
+    controller.udpPortSelect();
+    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
 }
 
-TEST_F(ControllerLifecycle, BroadcastUnderAFullMaskGoesToTheInterfaceItself) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "255.255.255.255"), "192.168.1.20:3520 ^^IdX");
+TEST_F(ControllerLifecycle, BroadcastIsAllowedBeforeItIsSent) {
+    launch();
+    std::vector<Operation> order;
+    for (const auto& call : systemCalls.calls()) {
+        if (call.operation == Operation::enableBroadcast || call.operation == Operation::sendTo) {
+            EXPECT_EQ(call.descriptor, systemCalls.lastDescriptor());
+            order.push_back(call.operation);
+        }
+    }
+    EXPECT_EQ(order, (std::vector{Operation::enableBroadcast, Operation::sendTo}));
 }
 
-TEST_F(ControllerLifecycle, BroadcastUnderAnEmptyMaskGoesEverywhere) {
-    EXPECT_EQ(broadcastAfterChoosing("192.168.1.20", "0.0.0.0"), "255.255.255.255:3520 ^^IdX");
+TEST_F(ControllerLifecycle, RefusedBroadcastIsLoggedAndNothingIsSent) {
+    systemCalls.failNext(Operation::enableBroadcast, EPERM);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Error setting SO_BROADCAST " + posixErrorText(EPERM)}));
+    EXPECT_EQ(sent(), Lines{});
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
 }
 
-TEST_F(ControllerLifecycle, ChoosingAnInterfaceSendsAndLogsNothing) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+TEST_F(ControllerLifecycle, PortThatIsTakenIsLogged) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP did stop with error.",
+                            "  " + posixErrorText(EADDRINUSE)}));
+    EXPECT_EQ(sent(), Lines{});
+    ASSERT_NE(controller.udpListener(), nullptr);
+    EXPECT_EQ(controller.udpListener()->port(), 0U);
+}
+
+TEST_F(ControllerLifecycle, DiscoverRecoversFromATakenPort) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    controller.discoverButton();
+    EXPECT_EQ(log().at(1), "UDP listener did start. 0.0.0.0:3520");
+}
+
+TEST_F(ControllerLifecycle, ListenerOfAnotherFamilyHasNoAddressInTheLog) {
+    launch();
+    const auto length = controller.eventLog().size();
+    controller.echoDidStartWithAddress(listener(), dataForAddress6({}, 3520));
+    EXPECT_EQ(logSince(length), (Lines{"UDP listener did start. ",
+                                       "Request unit parameters with address: 255.255.255.255",
+                                       "UDP server did send data."}));
+}
+
+TEST_F(ControllerLifecycle, StartOfAnotherEndpointIsIgnored) {
     launch();
     const Lines before = log();
-    controller.interfaceSelect();
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidStartWithAddress(*stranger, dataForAddress(0, 3520));
     EXPECT_EQ(log(), before);
     EXPECT_EQ(sent().size(), 1U);
+}
+
+TEST_F(ControllerLifecycle, SendOfAnotherEndpointIsNotLogged) {
+    launch();
+    const Lines before = log();
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidSendDataToAddress(*stranger, {}, {});
+    EXPECT_EQ(log(), before);
+}
+
+TEST_F(ControllerLifecycle, ErrorsOfEveryEndpointAreLogged) {
+    launch();
+    const auto length = controller.eventLog().size();
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    controller.echoDidReceiveError(*stranger, posixError(ECONNREFUSED));
+    controller.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(ENETUNREACH));
+    controller.echoDidStopWithError(*stranger, posixError(EACCES));
+    EXPECT_EQ(logSince(length),
+              (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED),
+                     "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH),
+                     "UDP did stop with error.", "  " + posixErrorText(EACCES)}));
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
+}
+
+TEST_F(ControllerLifecycle, FailedReadIsLoggedAndTheListenerGoesOn) {
+    launch();
+    const auto length = controller.eventLog().size();
+    systemCalls.failNext(Operation::receiveFrom, ECONNREFUSED);
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    EXPECT_EQ(logSince(length),
+              (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED)}));
+    receive(SampleUnit().reply());
+    EXPECT_EQ(controller.devices().size(), 1U);
+}
+
+TEST_F(ControllerLifecycle, EmptyDatagramIsLoggedAsAnError) {
+    launch();
+    const auto length = controller.eventLog().size();
+    receive({});
+    EXPECT_EQ(logSince(length), (Lines{"UDP did receive error.", "  " + posixErrorText(EPIPE)}));
+}
+
+TEST_F(ControllerLifecycle, FailedBroadcastIsLogged) {
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Request unit parameters with address: 255.255.255.255",
+                            "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH)}));
+}
+
+TEST_F(ControllerLifecycle, SendOfNoBytesCountsAsFailed) {
+    systemCalls.giveNext(Operation::sendTo, 0);
+    launch();
+    EXPECT_EQ(log().back(), "  " + posixErrorText(EPIPE));
+}
+
+TEST_F(ControllerLifecycle, StoppedListenerStaysUntilTheNextRestart) {
+    systemCalls.failNext(Operation::bind, EACCES);
+    launch();
+    controller.interfaceSelect();
+    controller.reloadUnitParameterButton();
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(controller.udpListener()->port(), 0U);
     EXPECT_EQ(systemCalls.count(Operation::socket), 1U);
 }
 
-TEST_F(ControllerLifecycle, InterfaceWithoutAnAddressFallsBackToEverywhere) {
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    interfaces.addTitle("Tunnel (tun0)", "=tun0");
+TEST_F(ControllerLifecycle, SendingThroughAStoppedListenerIsAFailedSend) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
     launch();
-    window.interfacePopUp.selectItemAtIndex(0);
-    controller.interfaceSelect();
-    window.interfacePopUp.selectItemAtIndex(1);
-    controller.interfaceSelect();
-    controller.discoverButton();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
-}
-
-TEST_F(ControllerLifecycle, ConfigurationOfAnUnexpectedShapeReadsAsNoAddress) {
-    const std::vector<PropertyListValue> shapes{"192.168.1.20", PropertyList{}, PropertyList{5},
-                                                PropertyList{"not an address"},
-                                                PropertyDictionary{{"0", "192.168.1.20"}}};
-    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
-    launch();
-    for (const auto& shape : shapes) {
-        interfaces.setData("service-eth0", "IPv4", "Addresses", shape);
-        controller.interfaceSelect();
-        controller.discoverButton();
-        EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX") << shape.description();
-    }
-}
-
-TEST_F(ControllerLifecycle, MissingMaskCountsAsAnEmptyOne) {
-    interfaces.addTitle("Ethernet (eth0)", "a");
-    interfaces.setService("eth0", "a");
-    interfaces.setData("a", "IPv4", "Addresses", PropertyList{"192.168.1.20"});
-    launch();
-    controller.interfaceSelect();
+    const auto length = controller.eventLog().size();
     controller.reloadUnitParameterButton();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+    EXPECT_EQ(logSince(length),
+              (Lines{"Request unit parameters with address: 255.255.255.255",
+                     "UDP failed to send data.", "  The UDP listener is not running."}));
+    EXPECT_EQ(sent(), Lines{});
 }
 
-TEST_F(ControllerLifecycle, InterfaceIsFoundByItsNameInTheTitle) {
-    interfaces.addTitle("Office (2nd floor) (eth1:1)", "x");
-    interfaces.setService("eth1", "service-eth1");
-    interfaces.setData("service-eth1", "IPv4", "Addresses", PropertyList{"10.1.2.3", "10.9.9.9"});
-    interfaces.setData("service-eth1", "IPv4", "SubnetMasks", PropertyList{"255.255.0.0"});
+TEST_F(ControllerLifecycle, ExceptionWhileTheListenerStartsGoesToTheSystemLog) {
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            PlatformException("no such text"));
     launch();
-    controller.interfaceSelect();
-    controller.reloadUnitParameterButton();
-    EXPECT_EQ(lastSent(), "10.1.255.255:3520 ^^IdX");
+    EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didStartWithAddress: no such text"});
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520"}));
+    EXPECT_EQ(sent(), Lines{});
+    EXPECT_EQ(controller.udpListener()->port(), 3520U);
 }
 
-TEST_F(ControllerLifecycle, LaunchForgetsAnEarlierAddress) {
-    broadcastAfterChoosing("192.168.1.20", "255.255.255.0");
-    launch();
-    EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
+TEST_F(ControllerLifecycle, OtherExceptionsArePassedOn) {
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            std::logic_error("a mistake in the program"));
+    EXPECT_THROW(launch(), std::logic_error);
+    EXPECT_EQ(systemLog.lines(), Lines{});
 }
 
 TEST_F(ControllerLifecycle, ClosingTheWindowEndsTheApplication) {
@@ -172,14 +256,18 @@ TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
 
 TEST_F(ControllerLifecycle, TerminationCancelsDelayedCalls) {
     launch();
+    discover({SampleUnit()}); // without it a completion would find nothing to select
     controller.restoreDefaultSettings();
+    controller.discoverButton();
+    window.unitSelectPopUp.addItemsWithTitles({"01 02 03 04 05 06"});
     EXPECT_EQ(runLoop.pendingCallCount(), 2U);
     controller.applicationWillTerminate();
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
-    const auto before = sent().size();
+    const int reloads = window.unitParameterTableView.reloadCount();
     runLoop.advanceBy(10s);
-    EXPECT_EQ(sent().size(), before);
-    EXPECT_EQ(window.unitSelectPopUp.titles(), Titles{});
+    EXPECT_EQ(controller.eventLog(), "");               // what the reload would begin with
+    EXPECT_EQ(controller.selectedUnit(), std::nullopt); // what the completion would set
+    EXPECT_EQ(window.unitParameterTableView.reloadCount(), reloads);
 }
 
 TEST_F(ControllerLifecycle, EditTableStaysAnswerableAfterTheEnd) {

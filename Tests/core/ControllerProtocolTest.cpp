@@ -1,6 +1,9 @@
 // Commands out, replies in.
 
 #include "ControllerFixture.h"
+#include "doubles/BrokenText.h"
+
+#include <stdexcept>
 
 namespace kx {
 
@@ -178,7 +181,7 @@ TEST_F(ControllerProtocol, ItemCutShortStoresNothingAndKeepsTheEarlierRecord) {
     EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
                                        "range {3, 6} exceeds data length 8"});
     EXPECT_EQ(controller.devices(), before);
-    EXPECT_EQ(value("01 02 03 04 05 06", internalIPAddressName), "192.168.1.10");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "192.168.1.10");
 }
 
 TEST_F(ControllerProtocol, OtherTagsAreLoggedAlone) {
@@ -261,14 +264,14 @@ TEST_F(ControllerProtocol, ParameterReplyIsLoggedValueByValueAndStored) {
                      "\tunit ID: 42", "\tdestination MAC address: 00:0A:0B:0C:0D:0E",
                      "\tserial number: 01 02 03 04 05 06"}));
     ASSERT_EQ(controller.devices().size(), 1U);
-    const UnitRecord& record = controller.devices().at("01 02 03 04 05 06");
-    EXPECT_EQ(record.names().size(), 8U);
-    EXPECT_EQ(record.valueForName(unitIDName), "42");
+    EXPECT_EQ(controller.devices().at("01 02 03 04 05 06"),
+              decodeUnitParameters(SampleUnit().parameterList()).record);
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
 }
 
 TEST_F(ControllerProtocol, RegistryTakesSerialAndUnitFromTheListNotTheHeader) {
     logOf(joined({replyHeader(unitSeven, serialOfSeven), SampleUnit().parameterList()}));
-    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "42");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
     EXPECT_EQ(controller.devices().size(), 1U);
 }
 
@@ -295,15 +298,14 @@ TEST_F(ControllerProtocol, ListThatDoesNotBeginWithTheMACAddressIsText) {
 
 TEST_F(ControllerProtocol, CarriageReturnBehindTheListChangesNothing) {
     receive(joined({SampleUnit().reply(), textBytes("\r")}));
-    EXPECT_EQ(value("01 02 03 04 05 06", serialNumberName), "01 02 03 04 05 06");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::serialNumber), "01 02 03 04 05 06");
 }
 
 TEST_F(ControllerProtocol, LaterReplyReplacesTheRecordWhole) {
     discover({SampleUnit()});
     receive(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6}),
                     item("<S>", SampleUnit().serial)}));
-    const UnitRecord& record = controller.devices().at("01 02 03 04 05 06");
-    EXPECT_EQ(record.names().size(), 2U);
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "(absent)");
     EXPECT_EQ(parameterRows(), (Lines{"internal MAC address = 01:02:03:04:05:06",
                                       "serial number = 01 02 03 04 05 06"}));
 }
@@ -314,21 +316,27 @@ TEST_F(ControllerProtocol, MissingUnitIDInTheListShowsAsNull) {
     const Lines lines =
         logOf(joined({replyHeader(unitSeven, serialOfSeven), unit.parameterList()}));
     EXPECT_EQ(lines.at(6), "\tunit ID: (null)");
-    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "(absent)");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "(absent)");
 }
 
-TEST_F(ControllerProtocol, DatagramOfAStaleEndpointIsIgnoredSilently) {
-    const auto stale = controller.udpListener();
-    controller.discoverButton();
+TEST_F(ControllerProtocol, DatagramOfAnotherEndpointIsIgnoredSilently) {
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
     const auto before = controller.eventLog();
-    controller.echoDidReceiveDataFromAddress(*stale, SampleUnit().reply(), {});
+    controller.echoDidReceiveDataFromAddress(*stranger, SampleUnit().reply(), {});
     EXPECT_EQ(controller.eventLog(), before);
     EXPECT_TRUE(controller.devices().empty());
 }
 
 TEST_F(ControllerProtocol, SenderOfADatagramDoesNotMatter) {
-    controller.echoDidReceiveDataFromAddress(*controller.udpListener(), SampleUnit().reply(), {});
-    EXPECT_EQ(value("01 02 03 04 05 06", internalIPAddressName), "192.168.1.10");
+    controller.echoDidReceiveDataFromAddress(listener(), SampleUnit().reply(), {});
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "192.168.1.10");
+}
+
+TEST_F(ControllerProtocol, ExceptionsOfAnotherKindWhileADatagramIsHandledArePassedOn) {
+    const BrokenText broken("\nRequest unit parameters with address: %@",
+                            std::logic_error("a mistake in the program"));
+    EXPECT_THROW(receive(SampleUnit().acknowledgement()), std::logic_error);
+    EXPECT_EQ(systemLog.lines(), Lines{});
 }
 
 } // namespace kx

@@ -1,5 +1,7 @@
 // The test doubles keep the contracts of what they stand for.
 
+#include "contracts/BrokenContract.h"
+#include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/SystemLogContract.h"
@@ -8,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedSystemCalls.h"
 
 #include <netdb.h>
 
@@ -19,6 +22,8 @@ class ManualRunLoopTrait {
 public:
     RunLoop& runLoop() { return _loop; }
     int newDescriptor() { return _nextDescriptor++; }
+    // Every number from 0 on counts as open.
+    std::vector<int> closedDescriptors() { return {-1}; }
     void setReadable(int descriptor, bool readable) { _loop.setReadable(descriptor, readable); }
     bool runUntil(const std::function<bool()>& condition) {
         for (int turn = 0; turn < 1000 && !condition(); ++turn) {
@@ -59,6 +64,21 @@ private:
     ScriptedHostResolver _resolver;
 };
 
+class ScriptedSystemCallsTrait {
+public:
+    DatagramSystemCalls& systemCalls() { return _calls; }
+    Bytes freeAddress() { return dataForAddress(0x7F000001U, _nextPort++); }
+    Bytes deliver(int /*descriptor*/, const Bytes& data) {
+        Bytes sender = dataForAddress(0x0A000002U, 3520);
+        _calls.queueDatagram(data, sender);
+        return sender;
+    }
+
+private:
+    ScriptedSystemCalls _calls;
+    std::uint16_t _nextPort = 49152;
+};
+
 class RecordedSystemLogTrait {
 public:
     SystemLog& log() { return _log; }
@@ -78,6 +98,7 @@ private:
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fixed, WallClockContract, FixedWallClockTrait);
 
@@ -140,6 +161,15 @@ TEST(ScriptedHostResolver, RemembersWhatWasStartedAndWhatWasCancelled) {
     cancelled.reset();
     EXPECT_EQ(resolver.requestCount(), 0U);
     EXPECT_EQ(resolver.cancelledNames(), std::vector<std::string>{"cancelled"});
+}
+
+TEST(ScriptedHostResolverDeathTest, ARequestIsStartedOnce) {
+    ScriptedHostResolver resolver;
+    StreamError error;
+    const auto request = resolver.requestForHostName("name");
+    ASSERT_TRUE(request->startResolution([](const HostResolution&) {}, error));
+    EXPECT_BROKEN_CONTRACT(request->startResolution([](const HostResolution&) {}, error),
+                           "!_isStarted", "Tests/doubles/ScriptedHostResolver");
 }
 
 TEST(ScriptedHostResolver, CanRefuseToStart) {

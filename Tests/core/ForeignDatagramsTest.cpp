@@ -21,7 +21,7 @@ protected:
         const auto logLength = controller.eventLog().size();
         const auto systemLogCount = systemLog.lines().size();
 
-        controller.echoDidReceiveDataFromAddress(*controller.udpListener(), datagram, {});
+        controller.echoDidReceiveDataFromAddress(listener(), datagram, {});
 
         ASSERT_EQ(controller.eventLog().substr(logLength),
                   "\nUDP listener did receive data. Length: " + std::to_string(datagram.size()) +
@@ -48,8 +48,10 @@ protected:
 
     static PlainRecord plain(const UnitRecord& record) {
         PlainRecord result;
-        for (const auto name : record.names()) {
-            result[std::string(name)] = record.valueForName(name).value_or("");
+        for (const UnitParameter parameter : allUnitParameters) {
+            if (const auto text = record.value(parameter)) {
+                result[std::string(nameOfUnitParameter(parameter))] = *text;
+            }
         }
         return result;
     }
@@ -101,7 +103,7 @@ TEST_F(ForeignDatagrams, OfEveryLengthAndSeveralFillings) {
         controller.discoverButton();
     }
     receive(unit.reply());
-    EXPECT_EQ(value("01 02 03 04 05 06", unitIDName), "42");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
 }
 
 TEST_F(ForeignDatagrams, RepliesCutAtEveryLength) {
@@ -112,8 +114,7 @@ TEST_F(ForeignDatagrams, RepliesCutAtEveryLength) {
                 unit.parameterList()})};
     for (const Bytes& reply : replies) {
         for (std::size_t length = 0; length <= reply.size(); ++length) {
-            expectOutcome(filled(Bytes(reply.begin(), reply.begin() + static_cast<long>(length)),
-                                 {}, length));
+            expectOutcome(cut(reply, length));
             ASSERT_FALSE(HasFatalFailure()) << "length " << length;
         }
     }

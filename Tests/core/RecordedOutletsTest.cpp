@@ -3,6 +3,8 @@
 #include "doubles/RecordedOutlets.h"
 
 #include "contracts/OutletsContract.h"
+#include "contracts/TableViewContract.h"
+#include "contracts/WindowContract.h"
 
 namespace kx {
 
@@ -10,12 +12,16 @@ struct RecordedPopUpButtonTrait {
     PopUpButton& control() { return popUp; }
     Titles titles() const { return popUp.titles(); }
     bool isEnabled() const { return popUp.isEnabled(); }
+    void chooseItem(const std::string& title) { popUp.chooseItem(title); }
+    void setAction(std::function<void()> action) { popUp.setAction(std::move(action)); }
 
     RecordedPopUpButton popUp;
 };
 
 struct RecordedTextFieldTrait {
     TextField& control() { return field; }
+    void type(const std::string& text) { field.type(text); }
+    void setAction(std::function<void()> action) { field.setAction(std::move(action)); }
 
     RecordedTextField field;
 };
@@ -33,6 +39,7 @@ struct RecordedTableViewTrait {
     void typeIntoCell(int row, const std::string& identifier, const std::string& text) {
         view.typeIntoCell(row, identifier, text);
     }
+    void setAction(std::function<void()> action) { view.setAction(std::move(action)); }
 
     RecordedTableView view;
 };
@@ -52,10 +59,53 @@ struct RecordedDrawerTrait {
     RecordedDrawer drawer;
 };
 
+struct RecordedWindowTrait {
+    Window& control() { return window; }
+    void type(const std::string& text) {
+        typed = text;
+        beginEdit(false);
+    }
+    void refuseToEnd() { beginEdit(true); }
+    bool isEditing() const { return window.isEditing(); }
+    Texts stored() const { return texts; }
+
+    void beginEdit(bool refusesToEnd) {
+        window.beginEdit([this] { texts.push_back(typed); }, refusesToEnd);
+    }
+
+    RecordedWindow window;
+    std::string typed;
+    Texts texts;
+};
+
+struct RecordedApplicationTrait {
+    Application& control() { return application; }
+    bool runEvent(const std::function<void()>& event) {
+        const int before = application.terminateCount();
+        event();
+        return application.terminateCount() > before;
+    }
+
+    RecordedApplication application;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextFieldContract, RecordedTextFieldTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TableViewContract, RecordedTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextViewContract, RecordedTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, DrawerContract, RecordedDrawerTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, WindowContract, RecordedWindowTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, ApplicationContract, RecordedApplicationTrait);
+
+TEST(RecordedWindow, FocusIsRefusedByAnEditThatRefusesToEnd) {
+    RecordedWindow window;
+    window.beginEdit([] {}, true);
+    EXPECT_FALSE(window.makeFirstResponder());
+    EXPECT_TRUE(window.isEditing());
+    EXPECT_EQ(window.endEditingCount(), 0);
+    window.endEditing();
+    EXPECT_EQ(window.endEditingCount(), 1);
+    EXPECT_TRUE(window.makeFirstResponder());
+}
 
 } // namespace kx

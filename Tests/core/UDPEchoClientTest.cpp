@@ -76,7 +76,7 @@ TEST_F(UDPEchoClient, ThePortInTheResolvedAddressIsNotLookedAt) {
     EXPECT_EQ(echo->hostAddress(), peerAddress);
 }
 
-TEST_F(UDPEchoClient, TheStoredNameAndAddressAreTheEndpointsOwn) {
+TEST_F(UDPEchoClient, TheStoredNameIsTheEndpointsOwn) {
     std::optional<std::string> name = hostName;
     echo->startConnectedToHostNamePort(name, 3522);
     name->assign("changed");
@@ -188,6 +188,15 @@ TEST_F(UDPEchoClient, StopWhileRunningClosesWithoutAWord) {
     echo->stop();
     EXPECT_TRUE(delegate.events.empty());
     expectStopped();
+}
+
+TEST_F(UDPEchoClient, TheEndOfARunningClientStopsItSilently) {
+    startClient();
+    delegate.events.clear();
+    echo.reset();
+    EXPECT_TRUE(delegate.events.empty());
+    EXPECT_EQ(loop.watchCount(), 0U);
+    expectEverySocketClosedOnce();
 }
 
 TEST_F(UDPEchoClient, EndingAResolutionTwiceIsSafe) {

@@ -80,6 +80,14 @@ TEST_F(UDPEchoDatagram, AnAddressOf128BytesIsHandedOnWhole) {
     EXPECT_EQ(onlyEvent().address, longAddress);
 }
 
+TEST_F(UDPEchoDatagram, AServersSendToAnAddressThatIsNoneFailsLikeAnyOther) {
+    startServerQuietly();
+    echo->_sendDataToAddress(hello, Bytes{});
+    expectFailedSend(EAFNOSUPPORT, hello, {});
+    echo->_sendDataToAddress(hello, Bytes{16, 2, 0x0D, 0xC0});
+    expectFailedSend(EINVAL, hello, {16, 2, 0x0D, 0xC0});
+}
+
 TEST_F(UDPEchoDatagram, AFailedSendIsReportedAndTheServerGoesOn) {
     startServerQuietly();
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);

@@ -84,13 +84,21 @@ private:
 // The endpoint with its steps open to the test.
 class OpenUDPEcho final : public UDPEcho {
 public:
+    static std::shared_ptr<OpenUDPEcho> make(RunLoop& runLoop, HostResolver& hostResolver,
+                                             DatagramSystemCalls& systemCalls) {
+        return std::shared_ptr<OpenUDPEcho>(new OpenUDPEcho(runLoop, hostResolver, systemCalls));
+    }
+
     using UDPEcho::_hostResolutionDone;
     using UDPEcho::_readData;
     using UDPEcho::_setupSocketConnectedToAddressPortError;
     using UDPEcho::_stopHostResolution;
     using UDPEcho::_stopWithError;
     using UDPEcho::_stopWithStreamError;
-    using UDPEcho::UDPEcho;
+
+private:
+    OpenUDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls)
+        : UDPEcho(runLoop, hostResolver, systemCalls) {}
 };
 
 class UDPEchoTest : public testing::Test {
@@ -104,7 +112,7 @@ protected:
     inline static const Bytes hello = {'h', 'e', 'l', 'l', 'o'};
 
     std::shared_ptr<OpenUDPEcho> newEcho() {
-        auto result = std::make_shared<OpenUDPEcho>(loop, resolver, systemCalls);
+        auto result = OpenUDPEcho::make(loop, resolver, systemCalls);
         result->setDelegate(&delegate);
         return result;
     }

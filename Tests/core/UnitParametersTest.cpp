@@ -13,8 +13,8 @@ namespace kx {
 
 namespace {
 
-std::string value(const UnitRecord& record, std::string_view name) {
-    return record.valueForName(name).value_or("(absent)");
+std::string value(const UnitRecord& record, UnitParameter parameter) {
+    return std::string(record.value(parameter).value_or("(absent)"));
 }
 
 std::ptrdiff_t linesIn(const std::string& text) {
@@ -45,35 +45,26 @@ TEST(UnitParameterNames, AreFoundByTheirExactText) {
 
 TEST(UnitRecord, HasNothingAtFirst) {
     const UnitRecord record;
-    EXPECT_EQ(record.names(), Names{});
-    EXPECT_EQ(value(record, unitIDName), "(absent)");
-    EXPECT_EQ(value(record, "no such name"), "(absent)");
+    for (const UnitParameter parameter : allUnitParameters) {
+        EXPECT_EQ(record.value(parameter), std::nullopt) << nameOfUnitParameter(parameter);
+    }
 }
 
 TEST(UnitRecord, KeepsAnEmptyTextApartFromNone) {
     UnitRecord record;
     record.setValue(UnitParameter::devicePortNumber, "");
-    EXPECT_EQ(value(record, devicePortNumberName), "");
-    EXPECT_EQ(record.names(), Names{devicePortNumberName});
+    EXPECT_EQ(value(record, UnitParameter::devicePortNumber), "");
+    EXPECT_NE(record, UnitRecord());
 }
 
 TEST(UnitRecord, ReplacesAndRemovesValues) {
     UnitRecord record;
     record.setValue(UnitParameter::internalIPAddress, "192.168.1.10");
     record.setValue(UnitParameter::internalIPAddress, "10.0.0.7");
-    EXPECT_EQ(value(record, internalIPAddressName), "10.0.0.7");
+    EXPECT_EQ(value(record, UnitParameter::internalIPAddress), "10.0.0.7");
     record.removeValue(UnitParameter::internalIPAddress);
-    EXPECT_EQ(value(record, internalIPAddressName), "(absent)");
+    EXPECT_EQ(value(record, UnitParameter::internalIPAddress), "(absent)");
     EXPECT_EQ(record, UnitRecord());
-}
-
-TEST(UnitRecord, ListsItsNamesInTableOrder) {
-    UnitRecord record;
-    record.setValue(UnitParameter::unitID, "42");
-    record.setValue(UnitParameter::destinationPortNumber, "3520");
-    record.setValue(UnitParameter::destinationIPAddress, "192.168.1.1");
-    EXPECT_EQ(record.names(),
-              (Names{"destination IP address", "destination Port number", "unit ID"}));
 }
 
 TEST(UnitRecord, ComparesByItsTextsAlone) {
@@ -93,27 +84,27 @@ TEST(UnitRecord, KeepsZeroBytes) {
     UnitRecord record;
     const std::string text("ABC\0\0\0", 6);
     record.setValue(UnitParameter::unitID, text);
-    EXPECT_EQ(record.valueForName(unitIDName), text);
+    EXPECT_EQ(record.value(UnitParameter::unitID), text);
 }
 
 TEST(UnitRecordDeathTest, TakesNoTextThatIsLongerThanAnyValue) {
     UnitRecord record;
     record.setValue(UnitParameter::unitID, std::string(17, 'x'));
-    EXPECT_EQ(record.valueForName(unitIDName), std::string(17, 'x'));
+    EXPECT_EQ(record.value(UnitParameter::unitID), std::string(17, 'x'));
     EXPECT_DEATH(record.setValue(UnitParameter::unitID, std::string(18, 'x')),
                  "text.size\\(\\) <= longestText");
 }
 
 TEST(UnitParameterList, WithEveryItemGivesEveryValue) {
     const auto decoded = decodeUnitParameters(SampleUnit().parameterList());
-    EXPECT_EQ(value(decoded.record, internalMACAddressName), "00:1A:2B:3C:4D:5E");
-    EXPECT_EQ(value(decoded.record, internalIPAddressName), "192.168.1.10");
-    EXPECT_EQ(value(decoded.record, destinationIPAddressName), "192.168.1.1");
-    EXPECT_EQ(value(decoded.record, destinationPortNumberName), "3520");
-    EXPECT_EQ(value(decoded.record, devicePortNumberName), "10000");
-    EXPECT_EQ(value(decoded.record, unitIDName), "42");
-    EXPECT_EQ(value(decoded.record, destinationMACAddressName), "00:0A:0B:0C:0D:0E");
-    EXPECT_EQ(value(decoded.record, serialNumberName), "01 02 03 04 05 06");
+    EXPECT_EQ(value(decoded.record, UnitParameter::internalMACAddress), "00:1A:2B:3C:4D:5E");
+    EXPECT_EQ(value(decoded.record, UnitParameter::internalIPAddress), "192.168.1.10");
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationIPAddress), "192.168.1.1");
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationPortNumber), "3520");
+    EXPECT_EQ(value(decoded.record, UnitParameter::devicePortNumber), "10000");
+    EXPECT_EQ(value(decoded.record, UnitParameter::unitID), "42");
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationMACAddress), "00:0A:0B:0C:0D:0E");
+    EXPECT_EQ(value(decoded.record, UnitParameter::serialNumber), "01 02 03 04 05 06");
     EXPECT_EQ(decoded.displayText, "\n\tinternal MAC address: 00:1A:2B:3C:4D:5E"
                                    "\n\tinternal IP address: 192.168.1.10"
                                    "\n\tdestination IP address: 192.168.1.1"
@@ -138,15 +129,15 @@ TEST(UnitParameterList, MayBeEmpty) {
 TEST(UnitParameterList, ShowsPortsUnsigned) {
     const auto decoded =
         decodeUnitParameters(joined({item("<T>", {0xFF, 0xFF}), item("<P>", {0x00, 0x00})}));
-    EXPECT_EQ(value(decoded.record, destinationPortNumberName), "65535");
-    EXPECT_EQ(value(decoded.record, devicePortNumberName), "0");
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationPortNumber), "65535");
+    EXPECT_EQ(value(decoded.record, UnitParameter::devicePortNumber), "0");
 }
 
 TEST(UnitParameterList, TakesEveryAddressAsItIs) {
     const auto decoded = decodeUnitParameters(
         joined({item("<I>", {255, 255, 255, 255}), item("<D>", {0, 0, 0, 0})}));
-    EXPECT_EQ(value(decoded.record, internalIPAddressName), "255.255.255.255");
-    EXPECT_EQ(value(decoded.record, destinationIPAddressName), "0.0.0.0");
+    EXPECT_EQ(value(decoded.record, UnitParameter::internalIPAddress), "255.255.255.255");
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationIPAddress), "0.0.0.0");
 }
 
 TEST(UnitParameterList, TakesItemsInAnyOrder) {
@@ -157,11 +148,13 @@ TEST(UnitParameterList, TakesItemsInAnyOrder) {
 }
 
 TEST(UnitParameterList, EndsQuietlyAtAnUnknownTag) {
+    UnitRecord portAlone;
+    portAlone.setValue(UnitParameter::destinationPortNumber, "3520");
     for (const char* tag : {"<X>", "<m>", "<M]", "[M>", " <M"}) {
         const auto decoded = decodeUnitParameters(joined(
             {item("<T>", {0x0D, 0xC0}), item(tag, {1, 2, 3, 4, 5, 6}), item("<P>", {0, 80})}));
         EXPECT_EQ(decoded.displayText, "\n\tdestination Port number: 3520") << tag;
-        EXPECT_EQ(decoded.record.names(), Names{destinationPortNumberName}) << tag;
+        EXPECT_EQ(decoded.record, portAlone) << tag;
     }
 }
 
@@ -182,7 +175,7 @@ TEST(UnitParameterList, ShowsTheUninterpretedItemAndDoesNotKeepIt) {
 TEST(UnitParameterList, KeepsTheLaterOfTwoItemsAndShowsBoth) {
     const auto decoded =
         decodeUnitParameters(joined({item("<I>", {10, 0, 0, 1}), item("<I>", {10, 0, 0, 2})}));
-    EXPECT_EQ(value(decoded.record, internalIPAddressName), "10.0.0.2");
+    EXPECT_EQ(value(decoded.record, UnitParameter::internalIPAddress), "10.0.0.2");
     EXPECT_EQ(decoded.displayText, "\n\tinternal IP address: 10.0.0.1"
                                    "\n\tinternal IP address: 10.0.0.2");
 }
@@ -226,7 +219,8 @@ TEST(UnitParameterList, MayHoldFarMoreItemsThanThereAreParameters) {
     }
     const auto decoded = decodeUnitParameters(list);
     EXPECT_EQ(linesIn(decoded.displayText), 400);
-    EXPECT_EQ(value(decoded.record, destinationPortNumberName), std::to_string(0x0D00 + 399 % 256));
+    EXPECT_EQ(value(decoded.record, UnitParameter::destinationPortNumber),
+              std::to_string(0x0D00 + 399 % 256));
 }
 
 } // namespace kx

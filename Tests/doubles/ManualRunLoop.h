@@ -1,8 +1,8 @@
 // A run loop whose clock and whose descriptors the test moves by hand.
 //
 // Nothing happens until the test says so: time passes in advanceBy(), and descriptors are numbers
-// that are readable when the test says so; they need not be open. Otherwise it keeps the contract
-// of support/RunLoop.h to the letter.
+// that are readable when the test says so; every number from 0 on counts as open. Otherwise it
+// keeps the contract of support/RunLoop.h to the letter.
 
 #pragma once
 
@@ -26,7 +26,7 @@ public:
     using Milliseconds = std::chrono::milliseconds;
 
     Handle watchForReading(int descriptor, std::function<void()> readable) override {
-        if (_refusesToWatch) {
+        if (_refusesToWatch || descriptor < 0) {
             return nullptr;
         }
         const auto order = _nextOrder++;
@@ -36,7 +36,7 @@ public:
     }
 
     Handle callOnceAfter(Milliseconds delay, std::function<void()> call) override {
-        const CallKey key{_now + std::max(delay, Milliseconds(0)), _nextOrder++};
+        const CallKey key{_now + std::clamp(delay, Milliseconds(0), longestDelay), _nextOrder++};
         _calls.emplace(key, std::move(call));
         return std::make_unique<Registration>([this, key] { _calls.extract(key); });
     }

@@ -55,6 +55,17 @@ public:
 
     void setEnabled(bool enabled) override { _isEnabled = enabled; }
 
+    // Runs when a person chooses an item.
+    void setAction(std::function<void()> action) { _action = std::move(action); }
+
+    // What a person does who chooses an item.
+    void chooseItem(std::string_view title) {
+        selectItemWithTitle(title);
+        if (_action) {
+            _action();
+        }
+    }
+
     const std::vector<std::string>& titles() const { return _titles; }
     bool isEnabled() const { return _isEnabled; }
 
@@ -62,6 +73,7 @@ private:
     std::vector<std::string> _titles;
     std::optional<std::string> _selected;
     bool _isEnabled = true;
+    std::function<void()> _action;
 };
 
 class RecordedTextField final : public TextField {
@@ -69,8 +81,20 @@ public:
     void setStringValue(std::string_view text) override { _text = text; }
     std::string stringValue() const override { return _text; }
 
+    // Runs when a person types.
+    void setAction(std::function<void()> action) { _action = std::move(action); }
+
+    // What a person does who types at the end.
+    void type(std::string_view text) {
+        _text += text;
+        if (_action) {
+            _action();
+        }
+    }
+
 private:
     std::string _text;
+    std::function<void()> _action;
 };
 
 // Asks its data source only in reloadData(), and shows what it was told then.
@@ -103,8 +127,16 @@ public:
 
     int selectedRow() const override { return _selectedRow; }
 
-    // -1 selects nothing.
-    void selectRow(int row) { _selectedRow = row; }
+    // Runs when a person selects another row or none.
+    void setAction(std::function<void()> action) { _action = std::move(action); }
+
+    // What a person does who selects a row; -1 selects nothing.
+    void selectRow(int row) {
+        const int before = std::exchange(_selectedRow, row);
+        if (row != before && _action) {
+            _action();
+        }
+    }
 
     // What a person does who types into a cell and ends the edit.
     void typeIntoCell(int row, const std::string& identifier, const std::string& text) {
@@ -119,6 +151,7 @@ private:
     std::vector<Row> _rows;
     int _selectedRow = -1;
     int _reloadCount = 0;
+    std::function<void()> _action;
 };
 
 class RecordedTextView final : public TextView {
@@ -201,6 +234,7 @@ public:
         _editRefusesToEnd = refusesToEnd;
     }
 
+    bool isEditing() const { return _commit != nullptr; }
     int endEditingCount() const { return _endEditingCount; }
 
 private:

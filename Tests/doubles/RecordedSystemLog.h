@@ -21,7 +21,7 @@ public:
     RecordedSystemLog(const RecordedSystemLog&) = delete;
     RecordedSystemLog& operator=(const RecordedSystemLog&) = delete;
 
-    void write(std::string_view line) override { _lines.emplace_back(line); }
+    void write(std::string_view line) override { _lines.push_back(escapedLine(line)); }
 
     // Everything written so far, oldest first.
     const std::vector<std::string>& lines() const { return _lines; }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include "support/HostResolver.h"
+#include "support/Require.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -81,6 +82,8 @@ private:
         }
 
         bool startResolution(Report report, StreamError& startError) override {
+            require(!_isStarted, "!_isStarted", "Tests/doubles/ScriptedHostResolver");
+            _isStarted = true;
             if (_resolver._startError) {
                 startError = *_resolver._startError;
                 return false;
@@ -104,6 +107,7 @@ private:
         ScriptedHostResolver& _resolver;
         std::string _hostName;
         Report _report;
+        bool _isStarted = false;
     };
 
     std::map<std::string, HostResolution> _answers;

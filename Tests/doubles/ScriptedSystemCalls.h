@@ -1,12 +1,14 @@
 // Datagram sockets of a system that the test plays. Nothing reaches the network.
 //
 // Descriptors are numbers from 1000 on, which no real descriptor of a test has. Every call is
-// recorded. Without a script each call succeeds as on a real system; failNext() and giveNext()
-// prepare the outcome of the next call of an operation, and stand in line when there are several.
+// recorded. Without a script each call does what it does on a real system, failures included;
+// failNext() and giveNext() prepare the outcome of the next call of an operation, and stand in line
+// when there are several. Datagrams that are sent arrive nowhere; sockets do not block.
 
 #pragma once
 
 #include "DatagramSystemCalls.h"
+#include "addresses/SocketAddressRecord.h"
 
 #include <fcntl.h>
 
@@ -19,6 +21,7 @@
 #include <map>
 #include <optional>
 #include <set>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -94,7 +97,13 @@ public:
     }
 
     // The descriptors that are open, and how often one was closed.
-    const std::set<int>& openDescriptors() const { return _open; }
+    std::set<int> openDescriptors() const {
+        std::set<int> descriptors;
+        for (const auto& [descriptor, socket] : _sockets) {
+            descriptors.insert(descriptor);
+        }
+        return descriptors;
+    }
     std::size_t closeCount(int descriptor) const {
         return static_cast<std::size_t>(
             std::count_if(_calls.begin(), _calls.end(), [descriptor](const Call& call) {
@@ -112,52 +121,86 @@ public:
             return static_cast<int>(*outcome);
         }
         _lastDescriptor = _nextDescriptor++;
-        _open.insert(_lastDescriptor);
+        _sockets.emplace(_lastDescriptor, Socket());
         return _lastDescriptor;
     }
 
     int bind(int descriptor, ByteView addressRecord) override {
-        const Bytes address(addressRecord.begin(), addressRecord.end());
-        if (const auto outcome = record({Operation::bind, descriptor, {}, address})) {
+        if (const auto outcome =
+                record({Operation::bind, descriptor, {}, bytesOf(addressRecord)})) {
             return static_cast<int>(*outcome);
         }
-        _localAddresses[descriptor] = address;
+        Socket* const socket = isUsable(addressRecord) ? openSocket(descriptor) : nullptr;
+        if (socket == nullptr) {
+            return -1;
+        }
+        socket->localAddress = ipv4PartOf(addressRecord);
         return 0;
     }
 
     int connect(int descriptor, ByteView addressRecord) override {
-        const Bytes address(addressRecord.begin(), addressRecord.end());
-        if (const auto outcome = record({Operation::connect, descriptor, {}, address})) {
+        if (const auto outcome =
+                record({Operation::connect, descriptor, {}, bytesOf(addressRecord)})) {
             return static_cast<int>(*outcome);
         }
-        _peerAddresses[descriptor] = address;
+        Socket* const socket = isUsable(addressRecord) ? openSocket(descriptor) : nullptr;
+        if (socket == nullptr) {
+            return -1;
+        }
+        socket->peerAddress = ipv4PartOf(addressRecord);
         return 0;
     }
 
     int statusFlags(int descriptor) override {
-        const auto outcome = record({Operation::statusFlags, descriptor});
-        return outcome ? static_cast<int>(*outcome) : O_RDWR;
+        if (const auto outcome = record({Operation::statusFlags, descriptor})) {
+            return static_cast<int>(*outcome);
+        }
+        const Socket* const socket = openSocket(descriptor);
+        return socket != nullptr ? socket->statusFlags : -1;
     }
 
     int setStatusFlags(int descriptor, int flags) override {
-        return resultOf({Operation::setStatusFlags, descriptor, {}, {}, flags});
+        if (const auto outcome = record({Operation::setStatusFlags, descriptor, {}, {}, flags})) {
+            return static_cast<int>(*outcome);
+        }
+        Socket* const socket = openSocket(descriptor);
+        if (socket == nullptr) {
+            return -1;
+        }
+        socket->statusFlags = flags;
+        return 0;
     }
 
     int enableBroadcast(int descriptor) override {
-        return resultOf({Operation::enableBroadcast, descriptor});
+        if (const auto outcome = record({Operation::enableBroadcast, descriptor})) {
+            return static_cast<int>(*outcome);
+        }
+        return openSocket(descriptor) != nullptr ? 0 : -1;
     }
 
-    ssize_t sendTo(int descriptor, ByteView data, ByteView addressRecord) override {
-        const auto outcome = record({Operation::sendTo,
-                                     descriptor,
-                                     {data.begin(), data.end()},
-                                     {addressRecord.begin(), addressRecord.end()}});
-        return outcome ? *outcome : static_cast<ssize_t>(data.size());
+    ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord) override {
+        const Bytes address = bytesOf(addressRecord.value_or(ByteView()));
+        if (const auto outcome = record({Operation::sendTo, descriptor, bytesOf(data), address})) {
+            return *outcome;
+        }
+        const bool isRefused = addressRecord && !isUsable(*addressRecord);
+        const Socket* const socket = isRefused ? nullptr : openSocket(descriptor);
+        if (socket == nullptr) {
+            return -1;
+        }
+        if (!addressRecord && !socket->peerAddress) {
+            errno = EDESTADDRREQ;
+            return -1;
+        }
+        return static_cast<ssize_t>(data.size());
     }
 
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender) override {
         if (const auto outcome = record({Operation::receiveFrom, descriptor})) {
             return *outcome;
+        }
+        if (openSocket(descriptor) == nullptr) {
+            return -1;
         }
         if (_incoming.empty()) {
             errno = EAGAIN;
@@ -172,21 +215,36 @@ public:
     }
 
     std::optional<Bytes> localAddress(int descriptor) override {
-        return addressOf({Operation::localAddress, descriptor}, _localAddresses);
+        const bool isScripted = record({Operation::localAddress, descriptor}).has_value();
+        const Socket* const socket = isScripted ? nullptr : openSocket(descriptor);
+        return socket != nullptr ? std::optional(socket->localAddress) : std::nullopt;
     }
 
     std::optional<Bytes> peerAddress(int descriptor) override {
-        return addressOf({Operation::peerAddress, descriptor}, _peerAddresses);
+        const bool isScripted = record({Operation::peerAddress, descriptor}).has_value();
+        const Socket* const socket = isScripted ? nullptr : openSocket(descriptor);
+        return socket != nullptr ? socket->peerAddress : std::nullopt;
     }
 
+    // The descriptor is closed also when the script says that the call fails.
     int close(int descriptor) override {
-        _open.erase(descriptor);
-        return resultOf({Operation::close, descriptor});
+        const bool wasOpen = openSocket(descriptor) != nullptr;
+        _sockets.erase(descriptor);
+        if (const auto outcome = record({Operation::close, descriptor})) {
+            return static_cast<int>(*outcome);
+        }
+        return wasOpen ? 0 : -1;
     }
 
     std::uint32_t socketFlags() override { return _socketFlags; }
 
 private:
+    struct Socket {
+        Bytes localAddress = dataForAddress(0, 0);
+        std::optional<Bytes> peerAddress = std::nullopt;
+        int statusFlags = O_RDWR;
+    };
+
     struct Outcome {
         ssize_t result;
         std::optional<int> errorNumber;
@@ -210,23 +268,37 @@ private:
         return outcome.result;
     }
 
-    int resultOf(const Call& call) { return static_cast<int>(record(call).value_or(0)); }
-
-    std::optional<Bytes> addressOf(const Call& call, const std::map<int, Bytes>& addresses) {
-        const auto found = addresses.find(call.descriptor);
-        if (record(call) || found == addresses.end()) {
-            return std::nullopt;
+    // Null, with errno set, for a descriptor that is not open.
+    Socket* openSocket(int descriptor) {
+        const auto found = _sockets.find(descriptor);
+        if (found == _sockets.end()) {
+            errno = EBADF;
+            return nullptr;
         }
-        return found->second;
+        return &found->second;
     }
+
+    // What the boundary says of a record before it calls the system; errno is set when it is no.
+    static bool isUsable(ByteView record) {
+        if (familyOfRecord(record) != addressFamilyIPv4) {
+            errno = EAFNOSUPPORT;
+            return false;
+        }
+        if (record.size() < ipv4RecordLength) {
+            errno = EINVAL;
+            return false;
+        }
+        return true;
+    }
+
+    static Bytes ipv4PartOf(ByteView record) { return bytesOf(record.first(ipv4RecordLength)); }
+    static Bytes bytesOf(ByteView view) { return {view.begin(), view.end()}; }
 
     std::map<Operation, std::deque<Outcome>> _script;
     std::vector<Call> _calls;
     std::function<void(const Call&)> _observer;
     std::deque<Datagram> _incoming;
-    std::map<int, Bytes> _localAddresses;
-    std::map<int, Bytes> _peerAddresses;
-    std::set<int> _open;
+    std::map<int, Socket> _sockets; // that are open, by descriptor
     std::uint32_t _socketFlags = kCFSocketCloseOnInvalidate;
     int _nextDescriptor = 1000;
     int _lastDescriptor = -1;

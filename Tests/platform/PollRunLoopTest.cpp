@@ -2,6 +2,8 @@
 #include "contracts/PipeDescriptors.h"
 #include "contracts/RunLoopContract.h"
 
+#include <sys/resource.h>
+
 namespace kx {
 
 namespace {
@@ -13,6 +15,7 @@ class PollRunLoopTrait {
 public:
     RunLoop& runLoop() { return _loop; }
     int newDescriptor() { return _pipes.newDescriptor(); }
+    std::vector<int> closedDescriptors() { return PipeDescriptors::closedDescriptors(); }
     void setReadable(int descriptor, bool readable) { _pipes.setReadable(descriptor, readable); }
     bool runUntil(const std::function<bool()>& condition) { return runLoopUntil(_loop, condition); }
     void runFor(milliseconds time) { runLoopFor(_loop, time); }
@@ -71,6 +74,40 @@ TEST(PollRunLoop, AWaitForADueTimeIsOneTurn) {
     const auto call = loop.callOnceAfter(milliseconds(20), [&] { ++calls; });
     EXPECT_TRUE(loop.runOnce());
     EXPECT_EQ(calls, 1);
+}
+
+// poll(2) says at once that such a descriptor is not open, in every turn.
+TEST(PollRunLoop, ADescriptorThatIsClosedWhileItIsWatchedDoesNotMakeTheLoopSpin) {
+    PollRunLoop loop;
+    int ends[2];
+    ASSERT_EQ(::pipe(ends), 0);
+    int calls = 0;
+    const auto watch = loop.watchForReading(ends[0], [&] { ++calls; });
+    ::close(ends[1]);
+    ::close(ends[0]);
+    EXPECT_FALSE(loop.runOnce(milliseconds(20)));
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(loop.runOnce(milliseconds(20)));
+    EXPECT_GE(steady_clock::now() - start, milliseconds(20));
+    EXPECT_EQ(calls, 0);
+}
+
+TEST(PollRunLoop, APollThatFailsDoesNotMakeTheLoopSpin) {
+    PollRunLoop loop;
+    PipeDescriptors pipes;
+    const auto watch = loop.watchForReading(pipes.newDescriptor(), [] {});
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit none = before;
+    none.rlim_cur = 0; // fewer descriptors than poll(2) is asked for: it fails
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    const auto start = steady_clock::now();
+    const bool hasCalled = loop.runOnce(std::chrono::seconds(5));
+    const auto time = steady_clock::now() - start;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
+    EXPECT_FALSE(hasCalled);
+    EXPECT_GE(time, milliseconds(5));
+    EXPECT_LT(time, std::chrono::seconds(2)) << "the poll did not fail";
 }
 
 TEST(PollRunLoop, AHangUpCountsAsReadable) {

@@ -1,14 +1,18 @@
 #include "platform/posix/ThreadHostResolver.h"
 
 #include "PollLoopDriver.h"
+#include "contracts/BrokenContract.h"
 #include "contracts/HostResolverContract.h"
+#include "doubles/ManualRunLoop.h"
 
 #include <dirent.h>
 #include <netdb.h>
 #include <sys/resource.h>
 
+#include <atomic>
 #include <cerrno>
 #include <future>
+#include <new>
 #include <thread>
 
 namespace kx {
@@ -155,11 +159,75 @@ TEST(ThreadHostResolver, WithoutADescriptorItSaysWhyItCannotStart) {
     none.rlim_cur = 0;
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
     StreamError error;
-    const bool started = request->startResolution([](const HostResolution&) {}, error);
+    int reports = 0;
+    const bool started = request->startResolution([&](const HostResolution&) { ++reports; }, error);
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &before), 0);
     EXPECT_FALSE(started);
     EXPECT_EQ(error.domain, kCFStreamErrorDomainPOSIX);
     EXPECT_EQ(error.code, EMFILE);
+    runLoopFor(loop, milliseconds(20));
+    EXPECT_EQ(reports, 0);
+}
+
+TEST(ThreadHostResolver, WithoutAWatchItCannotStartAndReportsNothing) {
+    ManualRunLoop loop;
+    loop.refuseToWatch();
+    const auto lookups = std::make_shared<std::atomic<int>>(0);
+    ThreadHostResolver resolver(loop, [lookups](const std::string&) {
+        ++*lookups;
+        return HostResolution();
+    });
+    const auto request = resolver.requestForHostName("name");
+    StreamError error;
+    int reports = 0;
+    EXPECT_FALSE(request->startResolution([&](const HostResolution&) { ++reports; }, error));
+    EXPECT_EQ(error.domain, kCFStreamErrorDomainPOSIX);
+    EXPECT_EQ(error.code, ENOMEM);
+    loop.advanceBy(milliseconds(1000));
+    std::this_thread::sleep_for(milliseconds(5)); // for a thread that should not be there
+    EXPECT_EQ(reports, 0);
+    EXPECT_EQ(*lookups, 0);
+}
+
+TEST(ThreadHostResolver, ARequestThatIsNotStartedLooksNothingUp) {
+    PollRunLoop loop;
+    const auto lookups = std::make_shared<std::atomic<int>>(0);
+    ThreadHostResolver resolver(loop, [lookups](const std::string&) {
+        ++*lookups;
+        return HostResolution();
+    });
+    const auto request = resolver.requestForHostName("name");
+    runLoopFor(loop, milliseconds(20));
+    EXPECT_EQ(*lookups, 0);
+}
+
+TEST(ThreadHostResolver, ALookupThatThrowsIsReportedAsWantOfMemory) {
+    PollRunLoop loop;
+    ThreadHostResolver resolver(
+        loop, [](const std::string&) -> HostResolution { throw std::bad_alloc(); });
+    const auto request = resolver.requestForHostName("name");
+    std::optional<HostResolution> reported;
+    StreamError error;
+    ASSERT_TRUE(request->startResolution(
+        [&](const HostResolution& resolution) { reported = resolution; }, error));
+    ASSERT_TRUE(runLoopUntil(loop, [&] { return reported.has_value(); }));
+    EXPECT_EQ(reported->error.domain, kCFStreamErrorDomainPOSIX);
+    EXPECT_EQ(reported->error.code, ENOMEM);
+    EXPECT_FALSE(reported->addresses.has_value());
+}
+
+// The statement of a death test runs in a process of its own, threads and all.
+TEST(ThreadHostResolverDeathTest, ARequestIsStartedOnce) {
+    const auto startTwice = [] {
+        PollRunLoop loop;
+        ThreadHostResolver resolver(loop, [](const std::string&) { return HostResolution(); });
+        const auto request = resolver.requestForHostName("name");
+        StreamError error;
+        request->startResolution([](const HostResolution&) {}, error);
+        request->startResolution([](const HostResolution&) {}, error);
+    };
+    EXPECT_BROKEN_CONTRACT(startTwice(), "!_isStarted",
+                           "Sources/platform/posix/ThreadHostResolver");
 }
 
 TEST(ThreadHostResolver, AddressesAreRecordsOfBothFamilies) {

@@ -1,9 +1,9 @@
-// How Qt finds the tour: as the generic plugin "kxtour".
+#include "TourPlugin.h"
 
 #include "Tour.h"
 
-#include <QGenericPlugin>
 #include <QTimer>
+#include <memory>
 
 namespace kx {
 
@@ -21,22 +21,13 @@ void dropWordsOfThePlatform(QtMsgType type, const QMessageLogContext& context,
 
 } // namespace
 
-class TourPlugin final : public QGenericPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "kxtour.json")
-
-public:
-    // Called while the application object is being made, so the tour waits for the event loop.
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
-        handlerBefore = qInstallMessageHandler(dropWordsOfThePlatform);
-        auto* const start = new QTimer;
-        QObject::connect(start, &QTimer::timeout, start, [] { Tour().run(); });
-        start->setSingleShot(true);
-        start->start(0);
-        return start;
-    }
-};
+QObject* TourPlugin::create(const QString& /*name*/, const QString& /*specification*/) {
+    handlerBefore = qInstallMessageHandler(dropWordsOfThePlatform);
+    auto start = std::make_unique<QTimer>();
+    connect(start.get(), &QTimer::timeout, start.get(), [] { Tour().run(); });
+    start->setSingleShot(true);
+    start->start(0);
+    return start.release();
+}
 
 } // namespace kx
-
-#include "TourPlugin.moc"

@@ -55,7 +55,7 @@ TEST_F(MainWindowTest, ReturnInTheCommandTextSendsIt) {
     auto& field = control<QLineEdit>("optionCommandField");
     field.setFocus();
     field.selectAll();
-    QTest::keyClicks(&field, "Q1");
+    type("Q1");
     press(Qt::Key_Return);
     EXPECT_EQ(newlySent(), Texts{"^^IdQ1\r"});
 }
@@ -114,7 +114,7 @@ TEST_F(MainWindowTest, ChoosingAnInterfaceTurnsTheNextBroadcastToIt) {
     press(Qt::Key_Space);
     auto* const list = control<QComboBox>("interfacePopUp").view();
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->isVisible(); }));
-    QTest::keyClick(list, Qt::Key_Return);
+    press(Qt::Key_Return);
     EXPECT_EQ(newlySent(), Texts{});
     click("discoverButton");
     EXPECT_NE(controller.eventLog().find("with address: 192.168.1.255"), std::string::npos);
@@ -194,8 +194,8 @@ TEST_F(MainWindowTest, WhatIsTypedIntoTheEditRowReachesItsDataSource) {
     auto* const editor =
         control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
-    QTest::keyClicks(editor, "10001");
-    QTest::keyClick(editor, Qt::Key_Return);
+    type("10001");
+    press(Qt::Key_Return);
     EXPECT_TRUE(QTest::qWaitFor([&] {
         const auto value = controller.tableViewObjectValueForTableColumnRow({"parameterValue"}, 0);
         return value == PropertyListValue("10001");
@@ -211,7 +211,7 @@ TEST_F(MainWindowTest, AHalfTypedValueIsStoredWhenTheWindowEndsTheEdit) {
     press(Qt::Key_F2);
     auto* const editor = editRow.viewport()->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
-    QTest::keyClicks(editor, "3522");
+    type("3522");
     EXPECT_TRUE(window.outlets().window->makeFirstResponder());
     EXPECT_EQ(controller.tableViewObjectValueForTableColumnRow({"parameterValue"}, 0),
               PropertyListValue("3522"));
@@ -273,7 +273,7 @@ TEST_F(MainWindowTest, TheLogCanBeSelectedAndCopiedButNotChanged) {
     ASSERT_TRUE(drawerComesToRest());
     auto& log = control<QPlainTextEdit>("logTextView");
     log.setFocus();
-    QTest::keyClicks(&log, "typed");
+    type("typed");
     EXPECT_EQ(log.toPlainText().toStdString(), controller.eventLog());
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_C, Qt::ControlModifier);

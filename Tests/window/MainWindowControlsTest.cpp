@@ -106,16 +106,16 @@ TEST_F(MainWindowTest, TabVisitsTheControlsFromTopToBottom) {
 TEST_F(MainWindowTest, PortsAndOptionsAreThoseOfTheInterfaceDescription) {
     launch();
     const auto titles = [&](const char* popUp) {
-        std::vector<std::string> result;
-        for (int index = 0; index < control<QComboBox>(popUp).count(); ++index) {
-            result.push_back(control<QComboBox>(popUp).itemText(index).toStdString());
+        const auto& comboBox = control<QComboBox>(popUp);
+        QStringList result;
+        for (int index = 0; index < comboBox.count(); ++index) {
+            result.append(comboBox.itemText(index));
         }
-        return result;
+        return result.join(", ").toStdString();
     };
-    EXPECT_EQ(titles("udpPortPopUp"), (std::vector<std::string>{"3520", "3521", "3522", "3523"}));
+    EXPECT_EQ(titles("udpPortPopUp"), "3520, 3521, 3522, 3523");
     EXPECT_EQ(selected("udpPortPopUp"), "3520");
-    EXPECT_EQ(titles("optionCommandPopUp"),
-              (std::vector<std::string>{"V  Version", "-Z  Set clock"}));
+    EXPECT_EQ(titles("optionCommandPopUp"), "V  Version, -Z  Set clock");
 }
 
 TEST_F(MainWindowTest, TablesHaveTheColumnsParameterAndValue) {

@@ -14,7 +14,6 @@
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
 #include "platform/qt/MainWindow.h"
-#include "support/Require.h"
 
 #include <gtest/gtest.h>
 
@@ -25,16 +24,18 @@
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>
+#include <cstdlib>
 #include <string>
 #include <vector>
 
 namespace kx {
 
 class MainWindowTest : public ::testing::Test {
-protected:
+public:
     MainWindowTest() { window.connectActions(controller); }
     ~MainWindowTest() override { window.disconnectActions(); }
 
+protected:
     void launch() {
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
@@ -65,16 +66,20 @@ protected:
     template<class Control>
     Control& control(const char* objectName) {
         auto* const found = window.findChild<Control*>(objectName);
-        require(found != nullptr, objectName, "Tests/window");
+        if (found == nullptr) {
+            ADD_FAILURE() << "there is no control " << objectName;
+            std::abort(); // nothing that the test could go on with
+        }
         return *found;
     }
 
     void click(const char* button) {
         QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
     }
-    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        QTest::keyClick(window.windowHandle(), key, modifiers);
-    }
+    // To whatever has the keyboard, an open list or a control of the window, as the window system
+    // does it, so that shortcuts take part.
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+    void type(const char* asciiText);
     void clickCell(const char* table, int row, int column) {
         auto& view = control<QTableView>(table);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -130,6 +135,8 @@ protected:
                                                         wallClock, application, &interfaces}};
 
 private:
+    QWindow* windowWithKeyboard();
+
     std::size_t _sentBefore = 0;
 };
 

@@ -1,7 +1,6 @@
-#include "contracts/OutletsContract.h"
+#include "contracts/TableViewContract.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/ParameterTableView.h"
-#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtTextField.h"
@@ -10,9 +9,6 @@
 #include <QClipboard>
 #include <QFontInfo>
 #include <QGuiApplication>
-#include <QSignalSpy>
-#include <QTest>
-#include <QTimer>
 #include <chrono>
 
 namespace kx {
@@ -34,19 +30,9 @@ TEST(QtPopUpButton, TakesOverTheItemsOfTheInterfaceDescription) {
     EXPECT_EQ(popUp.titleOfSelectedItem(), "3521");
 }
 
-TEST(QtPopUpButton, SelectingFromCodeRunsNoAction) {
-    QComboBox comboBox;
-    QtPopUpButton popUp(comboBox);
-    const QSignalSpy actions(&comboBox, &QComboBox::activated);
-    popUp.addItemsWithTitles({"one", "two"});
-    popUp.selectItemAtIndex(1);
-    popUp.selectItemWithTitle("one");
-    popUp.removeAllItems();
-    EXPECT_EQ(actions.count(), 0);
-}
-
 TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     std::vector<std::string> titles;
+    titles.reserve(65'536);
     for (int unit = 0; unit < 65'536; ++unit) {
         titles.push_back("4B 58 00 00 " + std::to_string(unit));
     }
@@ -87,22 +73,6 @@ TEST(QtTextView, WhatIsSelectedStaysSelectedWhileTextArrives) {
     view.insertAtEnd("0.0.0.0:3520");
     view.scrollEndToVisible();
     EXPECT_EQ(textEdit.textCursor().selectedText(), "Begin");
-}
-
-TEST(QtTableView, TheUsersSelectionRunsTheActionAndAReloadDoesNot) {
-    ListedRows source;
-    source.rows = {{{"parameterName", "a"}}, {{"parameterName", "b"}}};
-    QTableView view;
-    QtTableView table(view, columns());
-    table.setDataSource(&source);
-    int actions = 0;
-    table.setSelectionAction([&] { ++actions; });
-    view.selectRow(1);
-    EXPECT_EQ(actions, 1);
-    source.rows.pop_back();
-    table.reloadData();
-    EXPECT_EQ(table.selectedRow(), -1);
-    EXPECT_EQ(actions, 1);
 }
 
 TEST(QtTableView, WithoutADataSourceThereAreNoRows) {
@@ -173,16 +143,6 @@ TEST(EditCommands, WorkWithoutAControl) {
     copySelection(nullptr);
     selectAll(nullptr);
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "before");
-}
-
-TEST(QtApplication, TerminatingEndsTheLoopAfterTheCurrentEvent) {
-    bool eventWentOn = false;
-    QTimer::singleShot(0, qApp, [&] {
-        QtApplication().terminate();
-        eventWentOn = true;
-    });
-    EXPECT_EQ(QCoreApplication::exec(), 0);
-    EXPECT_TRUE(eventWentOn);
 }
 
 } // namespace kx

@@ -1,17 +1,22 @@
 // The Qt controls keep the rules of the outlets.
 
 #include "contracts/OutletsContract.h"
+#include "contracts/TableViewContract.h"
+#include "contracts/WindowContract.h"
+#include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextView.h"
+#include "platform/qt/QtWindow.h"
 
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QScrollBar>
 #include <QTest>
+#include <QTimer>
 #include <QVBoxLayout>
 
 namespace kx {
@@ -30,6 +35,18 @@ public:
     }
     bool isEnabled() const { return _comboBox.isEnabled(); }
 
+    void chooseItem(const std::string& title) {
+        _comboBox.show();
+        _comboBox.showPopup();
+        QAbstractItemView* list = _comboBox.view();
+        ASSERT_TRUE(QTest::qWaitFor([list] { return list->isVisible(); }));
+        list->setCurrentIndex(list->model()->index(_comboBox.findText(qtText(title)), 0));
+        QTest::keyClick(list, Qt::Key_Return);
+    }
+    void setAction(std::function<void()> action) {
+        QObject::connect(&_comboBox, &QComboBox::activated, &_comboBox, std::move(action));
+    }
+
 private:
     QComboBox _comboBox;
     QtPopUpButton _popUp{_comboBox};
@@ -38,6 +55,10 @@ private:
 class QtTextFieldTrait {
 public:
     TextField& control() { return _field; }
+    void type(const std::string& text) { QTest::keyClicks(&_lineEdit, qtText(text)); }
+    void setAction(std::function<void()> action) {
+        QObject::connect(&_lineEdit, &QLineEdit::textEdited, &_lineEdit, std::move(action));
+    }
 
 private:
     QLineEdit _lineEdit;
@@ -72,13 +93,16 @@ public:
         QTest::mouseDClick(_view.viewport(), Qt::LeftButton, Qt::NoModifier, position);
         auto* const editor = _view.viewport()->findChild<QLineEdit*>();
         ASSERT_NE(editor, nullptr);
-        QTest::keyClicks(editor, qtText(text));
-        QTest::keyClick(editor, Qt::Key_Return);
+        for (const QChar character : qtText(text)) {
+            QTest::keyPress(editor, character.toLatin1());
+        }
+        QTest::keyPress(editor, Qt::Key_Return);
         const auto editorIsGone = [this] {
             return _view.viewport()->findChild<QLineEdit*>() == nullptr;
         };
         EXPECT_TRUE(QTest::qWaitFor(editorIsGone));
     }
+    void setAction(std::function<void()> action) { _table.setSelectionAction(std::move(action)); }
 
 private:
     QModelIndex cell(int row, const std::string& identifier) const {
@@ -140,11 +164,83 @@ private:
     std::unique_ptr<QtDrawer> _drawer;
 };
 
+// A cell that is empty and remembers what it was told to hold.
+class OneCell final : public TableViewDataSource {
+public:
+    Texts stored;
+
+    int numberOfRowsInTableView() override { return 1; }
+    std::optional<PropertyListValue>
+    tableViewObjectValueForTableColumnRow(const TableColumn& /*column*/, int /*row*/) override {
+        return std::nullopt;
+    }
+    void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
+                                                  const TableColumn& /*column*/,
+                                                  int /*row*/) override {
+        stored.push_back(value.description());
+    }
+};
+
+class QtWindowTrait {
+public:
+    QtWindowTrait() {
+        _mainWindow.setCentralWidget(&_view);
+        _view.setEditTriggers(QAbstractItemView::DoubleClicked);
+        _table.setDataSource(&_cell);
+        _mainWindow.resize(300, 200);
+        _mainWindow.show();
+    }
+    ~QtWindowTrait() { _mainWindow.takeCentralWidget(); }
+
+    Window& control() { return _window; }
+    void type(const std::string& text) {
+        const QPoint position = _view.visualRect(_view.model()->index(0, 0)).center();
+        QTest::mouseClick(_view.viewport(), Qt::LeftButton, Qt::NoModifier, position);
+        QTest::mouseDClick(_view.viewport(), Qt::LeftButton, Qt::NoModifier, position);
+        ASSERT_TRUE(isEditing());
+        QTest::keyClicks(editor(), qtText(text));
+    }
+    void refuseToEnd() {} // no editor of Qt's does
+    bool isEditing() const { return editor() != nullptr && editor()->isVisible(); }
+    Texts stored() const { return _cell.stored; }
+
+private:
+    // Also one that is closed and waits for its deletion.
+    QLineEdit* editor() const { return _view.viewport()->findChild<QLineEdit*>(); }
+
+    OneCell _cell;
+    QMainWindow _mainWindow;
+    QTableView _view;
+    QtTableView _table{_view, {{{"parameterValue"}, "Value", true}}};
+    QtWindow _window{_mainWindow};
+};
+
+class QtApplicationTrait {
+public:
+    Application& control() { return _application; }
+    bool runEvent(const std::function<void()>& event) {
+        constexpr int wentOn = 1;
+        QTimer afterwards;
+        afterwards.setSingleShot(true);
+        QObject::connect(&afterwards, &QTimer::timeout, [] { QCoreApplication::exit(wentOn); });
+        QTimer::singleShot(0, &afterwards, [&] {
+            event();
+            afterwards.start(std::chrono::milliseconds(20));
+        });
+        return QCoreApplication::exec() != wentOn;
+    }
+
+private:
+    QtApplication _application;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, PopUpButtonContract, QtPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextFieldContract, QtTextFieldTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TableViewContract, QtTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextViewContract, QtTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, DrawerContract, QtDrawerTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, WindowContract, QtWindowTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ApplicationContract, QtApplicationTrait);
 
 } // namespace
 

@@ -1,11 +1,23 @@
 #include "platform/posix/PollRunLoop.h"
 
+#include <fcntl.h>
+
 #include <algorithm>
+#include <cerrno>
 #include <limits>
+#include <thread>
 
 namespace kx {
 
 using std::chrono::milliseconds;
+
+namespace {
+
+// How long a turn rests at most when poll(2) itself fails, as it does when the system is short of
+// memory or the process of descriptors: long enough not to spin, short enough not to be noticed.
+constexpr milliseconds restAfterFailure{10};
+
+} // namespace
 
 // What a handle holds: the removal of its entry.
 class PollRunLoop::Registration final : public Source {
@@ -22,6 +34,9 @@ private:
 // and must not do so while the map is being changed.
 
 RunLoop::Handle PollRunLoop::watchForReading(int descriptor, std::function<void()> readable) {
+    if (::fcntl(descriptor, F_GETFD) == -1) {
+        return nullptr;
+    }
     const auto order = _nextOrder++;
     _watches.emplace(
         order, Watch{descriptor, std::make_shared<std::function<void()>>(std::move(readable))});
@@ -29,7 +44,8 @@ RunLoop::Handle PollRunLoop::watchForReading(int descriptor, std::function<void(
 }
 
 RunLoop::Handle PollRunLoop::callOnceAfter(milliseconds delay, std::function<void()> call) {
-    const CallKey key{Clock::now() + std::max(delay, milliseconds(0)), _nextOrder++};
+    const CallKey key{Clock::now() + std::clamp(delay, milliseconds(0), longestDelay),
+                      _nextOrder++};
     _calls.emplace(key, std::move(call));
     return std::make_unique<Registration>([this, key] { _calls.extract(key); });
 }
@@ -69,19 +85,27 @@ int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
 }
 
 // An interrupted poll is a turn in which nothing can be read.
-std::vector<std::uint64_t> PollRunLoop::readyWatches(int timeout) const {
+std::vector<std::uint64_t> PollRunLoop::readyWatches(int timeout) {
     std::vector<pollfd> descriptors;
     descriptors.reserve(_watches.size());
     for (const auto& [order, watch] : _watches) {
         descriptors.push_back({watch.descriptor, POLLIN, 0});
     }
     std::vector<std::uint64_t> ready;
-    if (::poll(descriptors.data(), static_cast<nfds_t>(descriptors.size()), timeout) <= 0) {
+    const int count = ::poll(descriptors.data(), static_cast<nfds_t>(descriptors.size()), timeout);
+    if (count < 0 && errno != EINTR) {
+        const milliseconds wait(timeout);
+        std::this_thread::sleep_for(timeout < 0 ? restAfterFailure
+                                                : std::min(wait, restAfterFailure));
+    }
+    if (count <= 0) {
         return ready;
     }
     auto polled = descriptors.begin();
-    for (const auto& [order, watch] : _watches) {
-        if (polled->revents != 0) {
+    for (auto& [order, watch] : _watches) {
+        if ((polled->revents & POLLNVAL) != 0) {
+            watch.descriptor = unwatchedDescriptor;
+        } else if (polled->revents != 0) {
             ready.push_back(order);
         }
         ++polled;

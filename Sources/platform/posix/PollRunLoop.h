@@ -3,7 +3,8 @@
 // The contract of support/RunLoop.h on the monotonic clock. A turn waits until a descriptor can be
 // read or a call falls due, at rest for as long as that takes; it then calls the watches of the
 // descriptors that can be read and the calls that were due, each once. A descriptor with a pending
-// error or a hang-up counts as one that can be read, since a read of it does not block.
+// error or a hang-up counts as one that can be read, since a read of it does not block. The watch
+// of a descriptor that was closed too early ends in silence.
 //
 // Threading: one thread, which is the one that runs it; nothing wakes it from another one but a
 // watched descriptor.
@@ -49,13 +50,16 @@ private:
     using CallKey = std::pair<Clock::time_point, std::uint64_t>; // due time, order of request
     class Registration;
 
+    // poll(2) passes over descriptors below zero.
+    static constexpr int unwatchedDescriptor = -1;
+
     struct Watch {
         int descriptor;
         std::shared_ptr<std::function<void()>> readable; // shared with the running call
     };
 
     int pollTimeout(std::optional<std::chrono::milliseconds> longestWait) const;
-    std::vector<std::uint64_t> readyWatches(int timeout) const;
+    std::vector<std::uint64_t> readyWatches(int timeout);
     bool callReadable(const std::vector<std::uint64_t>& ready);
     bool callDue(const CallKey& latest);
 

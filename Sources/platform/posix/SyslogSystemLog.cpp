@@ -17,7 +17,7 @@ SyslogSystemLog::~SyslogSystemLog() {
 
 // The line goes in as an argument, never as the format: it can hold bytes of foreign datagrams.
 void SyslogSystemLog::write(std::string_view line) {
-    ::syslog(LOG_NOTICE, "%.*s", static_cast<int>(line.size()), line.data());
+    ::syslog(LOG_NOTICE, "%s", escapedLine(line).c_str());
 }
 
 } // namespace kx

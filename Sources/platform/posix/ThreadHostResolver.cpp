@@ -1,16 +1,19 @@
 #include "platform/posix/ThreadHostResolver.h"
 
 #include "addresses/SocketAddressRecord.h"
+#include "support/Require.h"
 
+#include <fcntl.h>
 #include <netdb.h>
 #include <netinet/in.h>
-#include <sys/eventfd.h>
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
+#include <string_view>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -19,13 +22,17 @@ namespace kx {
 
 namespace {
 
-// What a request and its thread share. Whoever lets go of it last closes the descriptor, so the
-// thread can always wake, and nobody waits for the other.
+constexpr std::string_view sourcePath = "Sources/platform/posix/ThreadHostResolver";
+
+// What a request and its thread share. Whoever lets go of it last closes the pipe, so the thread
+// can always wake, and nobody waits for the other.
 struct Work {
     Work() = default;
     ~Work() {
-        if (wakeUp >= 0) {
-            ::close(wakeUp);
+        for (const int end : pipe) {
+            if (end >= 0) {
+                ::close(end);
+            }
         }
     }
     Work(const Work&) = delete;
@@ -33,15 +40,19 @@ struct Work {
 
     // Runs on the thread. The resolution is the loop's once `isDone` is set.
     void perform() {
-        resolution = lookup(hostName);
+        try {
+            resolution = lookup(hostName);
+        } catch (...) { // nobody above a thread could catch it
+            resolution = {{kCFStreamErrorDomainPOSIX, ENOMEM}, std::nullopt};
+        }
         isDone.store(true, std::memory_order_release);
-        const std::uint64_t once = 1;
-        [[maybe_unused]] const auto written = ::write(wakeUp, &once, sizeof once);
+        const char once = 1;
+        [[maybe_unused]] const auto written = ::write(pipe[1], &once, sizeof once);
     }
 
     std::string hostName;
     ThreadHostResolver::Lookup lookup;
-    int wakeUp = -1;
+    std::array<int, 2> pipe{-1, -1}; // to read from, to write to
     HostResolution resolution;
     std::atomic<bool> isDone = false;
 };
@@ -57,6 +68,8 @@ public:
     }
 
     bool startResolution(HostResolver::Report report, StreamError& startError) override {
+        require(!_isStarted, "!_isStarted", sourcePath);
+        _isStarted = true;
         const int errorNumber = start(std::move(report));
         if (errorNumber != 0) {
             startError = {kCFStreamErrorDomainPOSIX, errorNumber};
@@ -67,12 +80,11 @@ public:
 private:
     // 0, or why it could not be started as a value of errno.
     int start(HostResolver::Report report) {
-        _work->wakeUp = ::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-        if (_work->wakeUp < 0) {
+        if (::pipe2(_work->pipe.data(), O_CLOEXEC) != 0) {
             return errno;
         }
         _watch = _runLoop.watchForReading(
-            _work->wakeUp, [this, report = std::move(report)] { reportOnce(report); });
+            _work->pipe[0], [this, report = std::move(report)] { reportOnce(report); });
         if (_watch == nullptr) {
             return ENOMEM;
         }
@@ -99,6 +111,7 @@ private:
     RunLoop& _runLoop;
     std::shared_ptr<Work> _work;
     RunLoop::Handle _watch;
+    bool _isStarted = false;
 };
 
 void appendRecord(std::vector<Bytes>& records, const addrinfo& info) {

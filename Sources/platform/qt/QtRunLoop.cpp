@@ -18,9 +18,6 @@ using std::chrono::milliseconds;
 // Qt's timers count milliseconds in an int; longer delays are waited for in several rounds.
 constexpr milliseconds longestRound{std::numeric_limits<int>::max()};
 
-// Far enough away to stand for "never", near enough that the clock can hold it.
-constexpr milliseconds longestDelay = std::chrono::hours{24 * 365 * 100};
-
 // A callback may destroy its own handle, so it is called through a share of its own.
 using Callback = std::shared_ptr<const std::function<void()>>;
 

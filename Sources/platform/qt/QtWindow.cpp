@@ -17,6 +17,9 @@ void QtWindow::endEditing() {
         const auto editors =
             view->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         for (QWidget* editor : editors) {
+            if (editor->isHidden()) {
+                continue; // closed, and deleted only by the next turn of the event loop
+            }
             QAbstractItemDelegate* delegate = view->itemDelegate();
             emit delegate->commitData(editor);
             emit delegate->closeEditor(editor, QAbstractItemDelegate::NoHint);

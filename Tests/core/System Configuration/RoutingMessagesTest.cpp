@@ -168,7 +168,7 @@ TEST(GetRtaddrs, GivesEachSetBitTheNextSocketAddress) {
     bytes[0] = bytes[16] = bytes[32] = 16;
     RoutingAddresses slots;
     get_rtaddrs(0b10100100U, bytes, slots);
-    for (const std::size_t absent : {0, 1, 3, 4, 6}) {
+    for (const std::size_t absent : {0U, 1U, 3U, 4U, 6U}) {
         EXPECT_FALSE(slots.at(absent).has_value()) << absent;
     }
     EXPECT_EQ(slots[2]->data(), bytes.data());

@@ -6,6 +6,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kx {
 namespace {
@@ -53,6 +54,40 @@ TEST(PropertyListValue, CopiesAreDeep) {
     const PropertyListValue copy(original);
     original["list"] = 2;
     EXPECT_EQ(copy.description(), "{list = (1)}");
+}
+
+TEST(PropertyListValue, ContentsDecideAboutEqualityAndNotWhoHoldsThem) {
+    const auto nested = [] {
+        return PropertyListValue(PropertyDictionary{{"a", PropertyList{1, PropertyList{"b"}}}});
+    };
+    EXPECT_EQ(nested(), nested());
+    EXPECT_NE(nested(), PropertyListValue(PropertyDictionary{{"a", PropertyList{1, "b"}}}));
+}
+
+TEST(PropertyListValue, ACopyOutlivesItsOriginal) {
+    PropertyListValue original(PropertyList{1, PropertyDictionary{{"k", "v"}}});
+    const PropertyListValue copy = original;
+    original = 2;
+    EXPECT_EQ(copy.description(), "(1, {k = v})");
+    EXPECT_EQ(original, PropertyListValue(2));
+}
+
+TEST(PropertyListValue, WhatWasMovedFromIsTheEmptyText) {
+    const auto list = [] { return PropertyListValue(PropertyList{1}); };
+    PropertyListValue source = list();
+    PropertyListValue target = std::move(source);
+    EXPECT_EQ(target, list());
+    EXPECT_EQ(source, PropertyListValue()); // NOLINT(bugprone-use-after-move): what is tested
+    PropertyListValue other;
+    other = std::move(target);
+    EXPECT_EQ(other, list());
+    EXPECT_EQ(target, PropertyListValue()); // NOLINT(bugprone-use-after-move): what is tested
+}
+
+TEST(PropertyListValue, MayBeAssignedAnElementOfItself) {
+    PropertyListValue value(PropertyList{PropertyList{"inner"}});
+    value = PropertyListValue(value.list()->front());
+    EXPECT_EQ(value.description(), "(inner)");
 }
 
 TEST(PropertyListValue, DescribesTextsAndIntegersAsTheyStand) {

@@ -1,5 +1,6 @@
 #include "support/Require.h"
 
+#include "contracts/BrokenContract.h"
 #include "doubles/RecordedSystemLog.h"
 #include "support/SystemLog.h"
 #include "support/TextFormat.h"
@@ -35,6 +36,16 @@ TEST(Require, KeptContractSaysNothing) {
 
 TEST(Require, ReportNamesTheFunctionThatChecks) {
     EXPECT_NE(reportOfBrokenContract().find("checkPort"), std::string::npos);
+}
+
+TEST(Require, ThePatternOfABrokenContractIsOneWholeLine) {
+    const testing::Matcher<const std::string&> pattern =
+        testing::ContainsRegex(brokenContractPattern("(a > 0)", "Sources/UDPEcho"));
+    const std::string line = "Assertion failed: ((a > 0)), function f(), Sources/UDPEcho";
+    EXPECT_TRUE(pattern.Matches("before\n" + line + "\nafter\n"));
+    EXPECT_FALSE(pattern.Matches(line + "X\n"));
+    EXPECT_FALSE(pattern.Matches("Assertion failed: ((a > 0)), function f()\n, Sources/UDPEcho\n"));
+    EXPECT_FALSE(pattern.Matches("Assertion failed: (a > 0), function f(), Sources/UDPEcho\n"));
 }
 
 TEST(RequireDeathTest, BrokenContractWritesOneLineAndAborts) {

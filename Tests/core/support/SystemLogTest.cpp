@@ -57,12 +57,17 @@ TEST(SystemLog, LinesGoToStandardErrorWithoutASink) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "a 100% line\n");
 }
 
-TEST(SystemLog, LineWithAZeroByteIsWrittenWhole) {
+TEST(SystemLog, LineWithAZeroByteAndALineBreakIsOneWholeLineWithoutASinkToo) {
     using namespace std::string_literals;
     const NoSystemLog quiet;
     testing::internal::CaptureStderr();
-    logToSystem("a\0b"s);
-    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\0b\n"s);
+    logToSystem("a\0b\nc"s);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\\x00b\\x0Ac\n");
+}
+
+TEST(SystemLog, OnlyControlCharactersAreEscaped) {
+    EXPECT_EQ(escapedLine("\x1F \t~\x7F\x80 \xC3\xA9 \\ %"), "\\x1F \t~\\x7F\x80 \xC3\xA9 \\ %");
+    EXPECT_EQ(escapedLine(""), "");
 }
 
 } // namespace

@@ -72,15 +72,17 @@ TEST(GXArrayTable, SetTableDictionarySortsTheEntriesByTheirOwnKeys) {
     EXPECT_EQ(*table.tableArray(), (EntryArray{first, second}));
 }
 
-TEST(GXArrayTable, LoadedDictionaryStoresTheEntriesUnderTheirKeys) {
-    GXArrayTable source;
-    for (const char* name : {"b", "a"}) {
-        source.addObject(KeyedEntry::named(name));
-    }
+// Under other keys than the entries' own, and in another order.
+DictionaryOfDictionaries foreignKeys() {
+    return {{"1", KeyedEntry::named("b")->nodeDictionary()},
+            {"2", KeyedEntry::named("a")->nodeDictionary()}};
+}
+
+TEST(GXArrayTable, LoadedDictionaryStoresTheEntriesUnderTheirOwnKeys) {
     GXArrayTable table;
     storeNumbers(table, {9});
-    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(source.dictionaryOfDictionaries(),
-                                                                entryOfClass<KeyedEntry>));
+    EXPECT_TRUE(
+        table.loadDictionaryOfDictionariesForEntryClass(foreignKeys(), entryOfClass<KeyedEntry>));
     ASSERT_EQ(table.count(), 2);
     EXPECT_EQ(table.objectAtIndex(0)->key(), "a");
     EXPECT_EQ(table.objectForKey("b"), table.objectAtIndex(1));
@@ -88,13 +90,10 @@ TEST(GXArrayTable, LoadedDictionaryStoresTheEntriesUnderTheirKeys) {
 
 TEST(GXArrayTable, LoadedDictionaryOfPlainEntriesAppendsThem) {
     const RecordedSystemLog log;
-    GXArrayTable source;
-    source.addObject(KeyedEntry::named("a"));
-    source.addObject(KeyedEntry::named("b"));
     GXArrayTable table;
-    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(source.dictionaryOfDictionaries(),
+    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(foreignKeys(),
                                                                 GXStateEntry::entryFromDictionary));
-    EXPECT_EQ(table.description(), "({name = a}, {name = b})");
+    EXPECT_EQ(table.description(), "({name = b}, {name = a})");
     EXPECT_TRUE(log.contains("GXStateEntry: override key for subclass"));
 }
 
@@ -152,6 +151,15 @@ TEST(GXArrayTable, ReadsBackWhatItEncoded) {
     EXPECT_EQ(read.description(), "({number = 1}, *NULL*, *NULL*, {name = n})");
     EXPECT_NE(dynamic_cast<KeyedEntry*>(read.objectAtIndex(0).get()), nullptr);
     EXPECT_EQ(read.delegate(), nullptr);
+}
+
+TEST(GXArrayTable, EncodesNothingWhenItsEntriesAreNestedTooDeep) {
+    GXArrayTable table;
+    storeNumbers(table, {1});
+    table.addObject(KeyedEntry::nestedTooDeep("deep"));
+    PropertyListEncoder encoder;
+    EXPECT_FALSE(table.encodeWithCoder(encoder));
+    EXPECT_TRUE(encoder.bytes().empty());
 }
 
 TEST(GXArrayTable, KeepsItsArrayWhenTheBytesAreNoArrayOfEntries) {

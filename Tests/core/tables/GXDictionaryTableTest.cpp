@@ -179,27 +179,30 @@ TEST(GXDictionaryTable, DictionaryOfDictionariesUsesTheEntriesOwnKeys) {
               (DictionaryOfDictionaries{{"own", entry->nodeDictionary()}}));
 }
 
-TEST(GXDictionaryTable, LoadedDictionaryReplacesTheContents) {
-    GXDictionaryTable source;
-    addNames(source, {"a", "b"});
+// Under other keys than the entries' own.
+DictionaryOfDictionaries foreignKeys() {
+    return {{"1", KeyedEntry::named("b")->nodeDictionary()},
+            {"2", KeyedEntry::named("a")->nodeDictionary()}};
+}
+
+TEST(GXDictionaryTable, LoadedDictionaryReplacesTheContentsByEntriesUnderTheirOwnKeys) {
+    const DictionaryOfDictionaries source = foreignKeys();
     DescendingTable table;
     addNames(table, {"z"});
     table.sortKeys();
-    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(source.dictionaryOfDictionaries(),
-                                                                entryOfClass<KeyedEntry>));
+    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(source, entryOfClass<KeyedEntry>));
     EXPECT_FALSE(table.hasSortedKeys());
     EXPECT_EQ(table.description(), "Table = {name = a};{name = b};");
-    EXPECT_NE(table.objectForKey("a")->nodeDictionary(),
-              source.objectForKey("a")->nodeDictionary());
+    EXPECT_EQ(table.objectForKey("1"), nullptr);
+    ASSERT_NE(table.objectForKey("a"), nullptr);
+    EXPECT_EQ(table.objectForKey("a")->key(), "a");
+    EXPECT_NE(table.objectForKey("a")->nodeDictionary(), source.at("2")) << "a copy";
 }
 
 TEST(GXDictionaryTable, LoadedDictionaryLeavesOutWhatTheClassRefuses) {
-    GXDictionaryTable source;
-    addNames(source, {"a", "b"});
     GXDictionaryTable table;
     EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(
-        source.dictionaryOfDictionaries(),
-        [](const PropertyDictionary& dictionary) -> std::shared_ptr<GXStateEntry> {
+        foreignKeys(), [](const PropertyDictionary& dictionary) -> std::shared_ptr<GXStateEntry> {
             return dictionary.at("name") == "b" ? entryOfClass<KeyedEntry>(dictionary) : nullptr;
         }));
     EXPECT_EQ(table.description(), "Table = {name = b};");
@@ -245,6 +248,15 @@ TEST(GXDictionaryTable, ReadsBackWhatItEncoded) {
     EXPECT_EQ(read.count(), 2);
     EXPECT_EQ(read.objectForKey("a")->key(), "a");
     EXPECT_EQ(read.objectForKey("under another key")->keyInt(), 2);
+}
+
+TEST(GXDictionaryTable, EncodesNothingWhenItsEntriesAreNestedTooDeep) {
+    GXDictionaryTable table;
+    addNames(table, {"a"});
+    table.addObject(KeyedEntry::nestedTooDeep("deep"));
+    PropertyListEncoder encoder;
+    EXPECT_FALSE(table.encodeWithCoder(encoder));
+    EXPECT_TRUE(encoder.bytes().empty());
 }
 
 TEST(GXDictionaryTable, KeepsItsDictionaryWhenTheBytesAreNoDictionaryOfEntries) {

@@ -182,6 +182,15 @@ TEST(GXIndexTable, ReadsBackTheRowsThatItEncodedAndCountsNone) {
     EXPECT_EQ(read.objectAtIndex(20)->keyInt(), 20);
 }
 
+TEST(GXIndexTable, EncodesNothingWhenItsEntriesAreNestedTooDeep) {
+    GXIndexTable table;
+    setRows(table, {0});
+    table.setObjectAtIndex(KeyedEntry::nestedTooDeep("deep"), 1);
+    PropertyListEncoder encoder;
+    EXPECT_FALSE(table.encodeWithCoder(encoder));
+    EXPECT_TRUE(encoder.bytes().empty());
+}
+
 TEST(GXIndexTable, KeepsItsRowsWhenTheBytesAreNoRows) {
     GXIndexTable table;
     setRows(table, {1});
@@ -211,6 +220,15 @@ TEST(GXIndexTableView, CellShowsTheEntrysValueAndHolesAreEmpty) {
     EXPECT_EQ(table.tableViewObjectValueForTableColumnRow({"number"}, 1), PropertyListValue(1));
     EXPECT_EQ(table.tableViewObjectValueForTableColumnRow({"name"}, 1), std::nullopt);
     EXPECT_EQ(table.tableViewObjectValueForTableColumnRow({"number"}, 0), std::nullopt);
+}
+
+TEST(GXIndexTableView, ACountBelowZeroIsNoRows) {
+    GXIndexTable table;
+    setRows(table, {4, -3});
+    ASSERT_EQ(table.count(), -2);
+    EXPECT_EQ(table.numberOfRowsInTableView(), 0);
+    table.removeObjectAtIndex(-3);
+    EXPECT_EQ(table.numberOfRowsInTableView(), 5);
 }
 
 TEST(GXIndexTableView, UnknownColumnIsAnException) {

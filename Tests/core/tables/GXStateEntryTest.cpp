@@ -94,6 +94,14 @@ TEST(GXStateEntry, UnknownPropertyIsAPlatformExceptionThatNamesIt) {
     EXPECT_TRUE(entry.nodeDictionary()->empty());
 }
 
+TEST(GXStateEntry, AnAbsentValueIsStoredAndReadAsAMissingField) {
+    const auto entry = KeyedEntry::named("n");
+    entry->setValueForKey(std::nullopt, "name");
+    EXPECT_TRUE(entry->nodeDictionary()->empty());
+    EXPECT_EQ(entry->valueForKey("name"), std::nullopt);
+    EXPECT_EQ(entry->key(), std::nullopt);
+}
+
 TEST(GXStateEntry, CopyIsOfTheSameClassAndSharesTheDictionary) {
     const auto entry = KeyedEntry::named("n");
     const auto copy = entry->copy();
@@ -140,6 +148,12 @@ TEST(GXStateEntry, SeveralEntriesReadBackInTheOrderEncoded) {
     ASSERT_TRUE(second.initWithCoder(decoder));
     EXPECT_EQ(first.key(), "first");
     EXPECT_EQ(second.key(), "second");
+}
+
+TEST(GXStateEntry, EncodesNothingWhenItsValuesAreNestedTooDeep) {
+    PropertyListEncoder encoder;
+    EXPECT_FALSE(KeyedEntry::nestedTooDeep("deep")->encodeWithCoder(encoder));
+    EXPECT_TRUE(encoder.bytes().empty());
 }
 
 TEST(GXStateEntry, KeepsItsDictionaryWhenTheBytesAreNoDictionary) {

@@ -21,6 +21,17 @@ public:
         return entry;
     }
 
+    // An entry that no coder takes: its "number" is nested deeper than is ever read again.
+    static std::shared_ptr<KeyedEntry> nestedTooDeep(std::string_view name) {
+        PropertyListValue value = 1;
+        for (int i = 0; i < deepestPropertyListNesting; ++i) {
+            value = PropertyList{value};
+        }
+        auto entry = named(name);
+        entry->setValueForKey(value, "number");
+        return entry;
+    }
+
     static std::shared_ptr<KeyedEntry> numbered(int number) {
         auto entry = std::make_shared<KeyedEntry>();
         entry->setValueForKey(PropertyListValue(number), "number");
@@ -59,7 +70,11 @@ public:
             GXStateEntry::setValueForKey(value, name);
             return;
         }
-        nodeDictionary()->insert_or_assign(std::string(name), value.value_or(PropertyListValue()));
+        if (value) {
+            nodeDictionary()->insert_or_assign(std::string(name), *value);
+        } else {
+            nodeDictionary()->erase(std::string(name));
+        }
     }
 
 protected:

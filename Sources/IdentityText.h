@@ -1,0 +1,34 @@
+// Identities and bytes as text: how units, their serial numbers and their hardware addresses show.
+//
+// Everything here is pure and may be called from any thread. Texts are UTF-8.
+
+#pragma once
+
+#include "support/ByteRange.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+// The bytes of a unit ID, a serial number and a hardware address alike.
+inline constexpr std::size_t identityLength = 6;
+
+// A unit ID of six bytes: the decimal value of the last byte when the five before it are zero,
+// otherwise the six bytes as UTF-8, zero bytes included. Absent when they are not UTF-8. Throws
+// RangeFailure for fewer than six bytes; further bytes are not looked at.
+std::optional<std::string> unitIDforData(ByteView data);
+
+// Two upper-case hexadecimal digits for each byte, joined by `separator`; empty for no bytes.
+std::string hexStringForData(ByteView data, std::string_view separator);
+
+// The text form of a serial number, by which units are known: hexStringForData() with a blank.
+std::string serialNumberText(ByteView data);
+
+// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns what follows them.
+char* writeHexDigits(char* digits, std::uint8_t byte);
+
+} // namespace kx

@@ -1,0 +1,233 @@
+// What every boundary to datagram sockets must do: the contract of DatagramSystemCalls.h.
+//
+// A test program runs it against its boundary by
+//
+//     INSTANTIATE_TYPED_TEST_SUITE_P(System, DatagramSystemCallsContract, SystemTrait);
+//
+// with a trait that is made anew for each test and has
+//
+//     DatagramSystemCalls& systemCalls();
+//     // An address of this host that a socket can be bound to, with a port that nobody has.
+//     Bytes freeAddress();
+//     // A datagram arrives at the socket, which is bound to an address of freeAddress(). Returns
+//     // the sender's record when it can be read.
+//     Bytes deliver(int descriptor, const Bytes& data);
+
+#pragma once
+
+#include "DatagramSystemCalls.h"
+#include "addresses/SocketAddressRecord.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <vector>
+
+namespace kx {
+
+template<typename Trait>
+class DatagramSystemCallsContract : public testing::Test {
+protected:
+    ~DatagramSystemCallsContract() override {
+        for (const int descriptor : _opened) {
+            calls().close(descriptor);
+        }
+    }
+
+    DatagramSystemCalls& calls() { return trait.systemCalls(); }
+
+    // A socket that does not block. It is closed with the test.
+    int newSocket() {
+        const int descriptor = calls().socket();
+        EXPECT_GE(descriptor, 0);
+        const int flags = calls().statusFlags(descriptor);
+        EXPECT_GE(flags, 0);
+        EXPECT_EQ(calls().setStatusFlags(descriptor, flags | O_NONBLOCK), 0);
+        _opened.push_back(descriptor);
+        return descriptor;
+    }
+    int newBoundSocket() {
+        const int descriptor = newSocket();
+        EXPECT_EQ(calls().bind(descriptor, trait.freeAddress()), 0);
+        return descriptor;
+    }
+
+    Trait trait;
+    const Bytes data = {1, 2, 3};
+
+private:
+    std::vector<int> _opened;
+};
+
+// Expects that `call` returns -1 with this value of errno.
+#define EXPECT_FAILURE(call, errorNumber)                                                          \
+    do {                                                                                           \
+        errno = 0;                                                                                 \
+        EXPECT_EQ(call, -1);                                                                       \
+        EXPECT_EQ(errno, errorNumber);                                                             \
+    } while (false)
+
+TYPED_TEST_SUITE_P(DatagramSystemCallsContract);
+
+TYPED_TEST_P(DatagramSystemCallsContract, StatusFlagsAreKept) {
+    const int descriptor = this->newSocket();
+    EXPECT_NE(this->calls().statusFlags(descriptor) & O_NONBLOCK, 0);
+    EXPECT_EQ(this->calls().setStatusFlags(descriptor, 0), 0);
+    EXPECT_EQ(this->calls().statusFlags(descriptor) & O_NONBLOCK, 0);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ANewSocketHasNeitherAddressNorPeer) {
+    const int descriptor = this->newSocket();
+    EXPECT_EQ(this->calls().localAddress(descriptor), dataForAddress(0, 0));
+    EXPECT_EQ(this->calls().peerAddress(descriptor), std::nullopt);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ABoundSocketHasItsAddress) {
+    const int descriptor = this->newSocket();
+    const Bytes address = this->trait.freeAddress();
+    EXPECT_EQ(this->calls().bind(descriptor, address), 0);
+    EXPECT_EQ(this->calls().localAddress(descriptor), address);
+    EXPECT_EQ(this->calls().peerAddress(descriptor), std::nullopt);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, AConnectedSocketHasItsPeer) {
+    const int descriptor = this->newSocket();
+    const Bytes address = this->trait.freeAddress();
+    EXPECT_EQ(this->calls().connect(descriptor, address), 0);
+    EXPECT_EQ(this->calls().peerAddress(descriptor), address);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, WhatFollowsTheAddressInALongerRecordIsNotLookedAt) {
+    const int descriptor = this->newSocket();
+    const Bytes address = this->trait.freeAddress();
+    for (const std::size_t length : {17U, 128U}) {
+        Bytes longer = address;
+        longer.resize(length, 0xAB);
+        EXPECT_EQ(this->calls().connect(descriptor, longer), 0) << length;
+        EXPECT_EQ(this->calls().peerAddress(descriptor), address) << length;
+    }
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ADatagramArrivesWholeAndWithItsSender) {
+    const int descriptor = this->newBoundSocket();
+    const Bytes expectedSender = this->trait.deliver(descriptor, this->data);
+    Bytes buffer(100);
+    Bytes sender;
+    ASSERT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 3);
+    buffer.resize(3);
+    EXPECT_EQ(buffer, this->data);
+    EXPECT_EQ(sender, expectedSender);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, WhatDoesNotFitOfADatagramIsCut) {
+    const int descriptor = this->newBoundSocket();
+    this->trait.deliver(descriptor, this->data);
+    Bytes buffer(2);
+    Bytes sender;
+    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 2);
+    EXPECT_EQ(buffer, (Bytes{1, 2}));
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EAGAIN);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ADatagramWithoutBytesIsReadAsNone) {
+    const int descriptor = this->newBoundSocket();
+    const Bytes expectedSender = this->trait.deliver(descriptor, {});
+    Bytes buffer(100);
+    Bytes sender;
+    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 0);
+    EXPECT_EQ(sender, expectedSender);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, AReadThatFailsLeavesTheSenderAlone) {
+    const int descriptor = this->newBoundSocket();
+    Bytes buffer(100);
+    Bytes sender = {7};
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EAGAIN);
+    EXPECT_EQ(sender, Bytes{7});
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ASendTellsHowManyBytesItSent) {
+    const int descriptor = this->newBoundSocket();
+    const Bytes address = this->calls().localAddress(descriptor).value_or(Bytes{});
+    EXPECT_EQ(this->calls().sendTo(descriptor, this->data, ByteView(address)), 3);
+    EXPECT_EQ(this->calls().sendTo(descriptor, {}, ByteView(address)), 0);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, OnlyAConnectedSocketSendsWithoutAnAddress) {
+    const int descriptor = this->newBoundSocket();
+    EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EDESTADDRREQ);
+    const Bytes address = this->calls().localAddress(descriptor).value_or(Bytes{});
+    EXPECT_EQ(this->calls().connect(descriptor, address), 0);
+    EXPECT_EQ(this->calls().sendTo(descriptor, this->data, std::nullopt), 3);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ARecordOfAnotherFamilyIsRefused) {
+    const int descriptor = this->newSocket();
+    const Bytes empty;
+    const Bytes ipv6 = dataForAddress6({}, 3520);
+    for (const ByteView record : {ByteView(empty), ByteView(ipv6)}) {
+        EXPECT_FAILURE(this->calls().bind(descriptor, record), EAFNOSUPPORT);
+        EXPECT_FAILURE(this->calls().connect(descriptor, record), EAFNOSUPPORT);
+        EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, record), EAFNOSUPPORT);
+    }
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ARecordThatIsTooShortIsRefused) {
+    const int descriptor = this->newSocket();
+    Bytes record = this->trait.freeAddress();
+    record.resize(15);
+    EXPECT_FAILURE(this->calls().bind(descriptor, record), EINVAL);
+    EXPECT_FAILURE(this->calls().connect(descriptor, record), EINVAL);
+    EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, record), EINVAL);
+}
+
+// Otherwise a destination that got lost would go to the peer.
+TYPED_TEST_P(DatagramSystemCallsContract, AnEmptyRecordIsNoAbsentOne) {
+    const int descriptor = this->newSocket();
+    EXPECT_EQ(this->calls().connect(descriptor, this->trait.freeAddress()), 0);
+    EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView()), EAFNOSUPPORT);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
+    const int descriptor = this->calls().socket();
+    const Bytes address = this->trait.freeAddress();
+    EXPECT_EQ(this->calls().close(descriptor), 0);
+    Bytes buffer(100);
+    Bytes sender = {7};
+    EXPECT_FAILURE(this->calls().close(descriptor), EBADF);
+    EXPECT_FAILURE(this->calls().bind(descriptor, address), EBADF);
+    EXPECT_FAILURE(this->calls().connect(descriptor, address), EBADF);
+    EXPECT_FAILURE(this->calls().statusFlags(descriptor), EBADF);
+    EXPECT_FAILURE(this->calls().setStatusFlags(descriptor, 0), EBADF);
+    EXPECT_FAILURE(this->calls().enableBroadcast(descriptor), EBADF);
+    EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView(address)), EBADF);
+    EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EBADF);
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EBADF);
+    EXPECT_EQ(sender, Bytes{7});
+    EXPECT_EQ(this->calls().localAddress(descriptor), std::nullopt);
+    EXPECT_EQ(this->calls().peerAddress(descriptor), std::nullopt);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, BroadcastsCanBeAllowed) {
+    EXPECT_EQ(this->calls().enableBroadcast(this->newSocket()), 0);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ASocketWrapperClosesItsDescriptorAtFirst) {
+    EXPECT_NE(this->calls().socketFlags() & kCFSocketCloseOnInvalidate, 0U);
+}
+
+#undef EXPECT_FAILURE
+
+REGISTER_TYPED_TEST_SUITE_P(DatagramSystemCallsContract, StatusFlagsAreKept,
+                            ANewSocketHasNeitherAddressNorPeer, ABoundSocketHasItsAddress,
+                            AConnectedSocketHasItsPeer,
+                            WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
+                            ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,
+                            ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
+                            ASendTellsHowManyBytesItSent, OnlyAConnectedSocketSendsWithoutAnAddress,
+                            ARecordOfAnotherFamilyIsRefused, ARecordThatIsTooShortIsRefused,
+                            AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
+                            BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);
+
+} // namespace kx

@@ -1,0 +1,131 @@
+// What the window and the application behind it must do (Outlets.h), as tests that are compiled
+// against each adapter.
+//
+// An adapter takes part by a trait, a default-constructible class:
+//
+//   window        Window& control();
+//                 void type(const std::string& text), as a person does who has not ended the edit
+//                 void refuseToEnd(); from now on that edit gives up the focus only by force. Where
+//                 no edit ever refuses this does nothing.
+//                 bool isEditing(); std::vector<std::string> stored(), by edits that ended, in
+//                 order
+//   application   Application& control();
+//                 bool runEvent(const std::function<void()>& event), true when the loop that
+//                 handles this event ended with it
+
+#pragma once
+
+#include "Outlets.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kx {
+
+using Texts = std::vector<std::string>;
+
+// --- Window ---
+
+template<class Trait>
+class WindowContract : public ::testing::Test {
+protected:
+    Window& control() { return trait.control(); }
+
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(WindowContract);
+
+TYPED_TEST_P(WindowContract, WithoutAnEditThereIsNothingToEnd) {
+    EXPECT_TRUE(this->control().makeFirstResponder());
+    this->control().endEditing();
+    EXPECT_EQ(this->trait.stored(), Texts{});
+}
+
+TYPED_TEST_P(WindowContract, NothingIsStoredBeforeTheEditEnds) {
+    this->trait.type("192.168.1.20");
+    EXPECT_TRUE(this->trait.isEditing());
+    EXPECT_EQ(this->trait.stored(), Texts{});
+}
+
+TYPED_TEST_P(WindowContract, TakingTheFocusEndsTheEditAndStoresWhatWasTyped) {
+    this->trait.type("192.168.1.20");
+    EXPECT_TRUE(this->control().makeFirstResponder());
+    EXPECT_FALSE(this->trait.isEditing());
+    EXPECT_EQ(this->trait.stored(), Texts{"192.168.1.20"});
+}
+
+TYPED_TEST_P(WindowContract, EndEditingEndsTheEditAndStoresWhatWasTyped) {
+    this->trait.type("192.168.1.20");
+    this->control().endEditing();
+    EXPECT_FALSE(this->trait.isEditing());
+    EXPECT_EQ(this->trait.stored(), Texts{"192.168.1.20"});
+}
+
+TYPED_TEST_P(WindowContract, WhatWasTypedIsStoredOnce) {
+    this->trait.type("192.168.1.20");
+    EXPECT_TRUE(this->control().makeFirstResponder());
+    this->control().endEditing();
+    EXPECT_TRUE(this->control().makeFirstResponder());
+    EXPECT_EQ(this->trait.stored(), Texts{"192.168.1.20"});
+}
+
+TYPED_TEST_P(WindowContract, RefusedFocusChangesNothingAndForceEndsTheEdit) {
+    this->trait.type("192.168.1.20");
+    this->trait.refuseToEnd();
+    const bool granted = this->control().makeFirstResponder();
+    EXPECT_EQ(this->trait.isEditing(), !granted);
+    EXPECT_EQ(this->trait.stored(), granted ? Texts{"192.168.1.20"} : Texts{});
+    this->control().endEditing();
+    EXPECT_FALSE(this->trait.isEditing());
+    EXPECT_EQ(this->trait.stored(), Texts{"192.168.1.20"});
+    EXPECT_TRUE(this->control().makeFirstResponder());
+}
+
+REGISTER_TYPED_TEST_SUITE_P(WindowContract, WithoutAnEditThereIsNothingToEnd,
+                            NothingIsStoredBeforeTheEditEnds,
+                            TakingTheFocusEndsTheEditAndStoresWhatWasTyped,
+                            EndEditingEndsTheEditAndStoresWhatWasTyped, WhatWasTypedIsStoredOnce,
+                            RefusedFocusChangesNothingAndForceEndsTheEdit);
+
+// --- Application ---
+
+template<class Trait>
+class ApplicationContract : public ::testing::Test {
+protected:
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(ApplicationContract);
+
+TYPED_TEST_P(ApplicationContract, RunsOnUntilItIsAskedToEnd) {
+    EXPECT_FALSE(this->trait.runEvent([] {}));
+}
+
+TYPED_TEST_P(ApplicationContract, EndsWhenItIsAsked) {
+    EXPECT_TRUE(this->trait.runEvent([this] { this->trait.control().terminate(); }));
+}
+
+TYPED_TEST_P(ApplicationContract, HandlesItsCurrentEventToTheEnd) {
+    bool eventWentOn = false;
+    EXPECT_TRUE(this->trait.runEvent([&] {
+        this->trait.control().terminate();
+        eventWentOn = true;
+    }));
+    EXPECT_TRUE(eventWentOn);
+}
+
+TYPED_TEST_P(ApplicationContract, AskingTwiceInOneEventIsAskingOnce) {
+    EXPECT_TRUE(this->trait.runEvent([this] {
+        this->trait.control().terminate();
+        this->trait.control().terminate();
+    }));
+    EXPECT_FALSE(this->trait.runEvent([] {}));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(ApplicationContract, RunsOnUntilItIsAskedToEnd, EndsWhenItIsAsked,
+                            HandlesItsCurrentEventToTheEnd, AskingTwiceInOneEventIsAskingOnce);
+
+} // namespace kx

@@ -1,0 +1,50 @@
+// The boundary to the host's own sockets. All traffic stays on the loopback interface.
+
+#include "contracts/DatagramSystemCallsContract.h"
+
+#include <poll.h>
+
+namespace kx {
+
+namespace {
+
+constexpr std::uint32_t loopback = 0x7F000001U;
+
+class SystemTrait {
+public:
+    SystemTrait() { EXPECT_EQ(_calls.bind(_sender, dataForAddress(loopback, 0)), 0); }
+    ~SystemTrait() { _calls.close(_sender); }
+    SystemTrait(const SystemTrait&) = delete;
+    SystemTrait& operator=(const SystemTrait&) = delete;
+
+    DatagramSystemCalls& systemCalls() { return _calls; }
+
+    // The system's own choice of a port, given back.
+    Bytes freeAddress() {
+        const int descriptor = _calls.socket();
+        EXPECT_EQ(_calls.bind(descriptor, dataForAddress(loopback, 0)), 0);
+        const Bytes address = _calls.localAddress(descriptor).value_or(Bytes{});
+        _calls.close(descriptor);
+        return address;
+    }
+
+    Bytes deliver(int descriptor, const Bytes& data) {
+        const Bytes destination = _calls.localAddress(descriptor).value_or(Bytes{});
+        EXPECT_EQ(_calls.sendTo(_sender, data, ByteView(destination)),
+                  static_cast<ssize_t>(data.size()));
+        constexpr int fiveSeconds = 5000;
+        pollfd readable{descriptor, POLLIN, 0};
+        EXPECT_EQ(::poll(&readable, 1, fiveSeconds), 1);
+        return _calls.localAddress(_sender).value_or(Bytes{});
+    }
+
+private:
+    DatagramSystemCalls _calls;
+    int _sender = _calls.socket();
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(System, DatagramSystemCallsContract, SystemTrait);
+
+} // namespace
+
+} // namespace kx

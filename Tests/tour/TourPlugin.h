@@ -1,0 +1,18 @@
+// How Qt finds the tour: as the generic plugin "kxtour".
+
+#pragma once
+
+#include <QGenericPlugin>
+
+namespace kx {
+
+class TourPlugin final : public QGenericPlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "kxtour.json")
+
+public:
+    // Called while the application object is being made. The tour begins in the event loop.
+    QObject* create(const QString& name, const QString& specification) override;
+};
+
+} // namespace kx
