@@ -67,6 +67,9 @@ void Tour::run() {
 
 void Tour::visit() {
     findWindow();
+    if (const QString interface = qEnvironmentVariable("KX_TOUR_INTERFACE"); !interface.isEmpty()) {
+        pickInterface(interface);
+    }
     discover();
     if (expectedUnits() > 0) {
         pickUnit();
@@ -91,6 +94,23 @@ void Tour::findWindow() {
     });
 }
 
+// Opens the list until it offers the interface.
+void Tour::pickInterface(const QString& name) {
+    auto& interfaces = control<QComboBox>("interfacePopUp");
+    const QString suffix = QString("(%1)").arg(name);
+    int row = -1;
+    waitFor("the interface " + name, [&] {
+        click(interfaces);
+        row = interfaces.findText(suffix, Qt::MatchEndsWith);
+        if (row < 0) {
+            QTest::keyClick(interfaces.view(), Qt::Key_Escape);
+        }
+        return row >= 0;
+    });
+    pickFromList(interfaces, row);
+    printChoice("Interface", "interfacePopUp");
+}
+
 void Tour::discover() {
     auto& units = control<QComboBox>("unitSelectPopUp");
     click(control<QPushButton>("discoverButton"));
@@ -105,12 +125,7 @@ void Tour::pickUnit() {
     auto& units = control<QComboBox>("unitSelectPopUp");
     const int wanted = std::min(1, units.count() - 1);
     click(units);
-    waitFor("the list of units", [&] { return units.view()->isVisible(); });
-    QTest::keyClick(units.view(), Qt::Key_Home);
-    for (int row = 0; row < wanted; ++row) {
-        QTest::keyClick(units.view(), Qt::Key_Down);
-    }
-    QTest::keyClick(units.view(), Qt::Key_Return);
+    pickFromList(units, wanted);
     auto& parameters = control<QTableView>("unitParameterTableView");
     waitFor("the second unit's parameters",
             [&] { return units.currentIndex() == wanted && parameters.model()->rowCount() > 0; });
@@ -166,6 +181,10 @@ void Tour::showMenus() {
     }
 }
 
+void Tour::printChoice(const QString& heading, const char* popUp) {
+    print(heading + ": " + control<QComboBox>(popUp).currentText());
+}
+
 void Tour::printUnits() {
     const auto& units = control<QComboBox>("unitSelectPopUp");
     print(QString("Units: %1").arg(units.count()));
@@ -175,7 +194,7 @@ void Tour::printUnits() {
 }
 
 void Tour::printParameters() {
-    print("Selected unit: " + control<QComboBox>("unitSelectPopUp").currentText());
+    printChoice("Selected unit", "unitSelectPopUp");
     print("Unit ID: " + control<QLineEdit>("unitIDField").text());
     const auto& table = control<QTableView>("unitParameterTableView");
     print("Parameters:");
@@ -212,6 +231,17 @@ void Tour::click(QWidget& widget, QPoint position) {
 
 void Tour::click(QWidget& widget) {
     click(widget, widget.rect().center());
+}
+
+// The list is open, or is about to be.
+void Tour::pickFromList(QComboBox& popUp, int row) {
+    QAbstractItemView& list = *popUp.view();
+    waitFor("an open list", [&] { return list.isVisible(); });
+    QTest::keyClick(&list, Qt::Key_Home);
+    for (int step = 0; step < row; ++step) {
+        QTest::keyClick(&list, Qt::Key_Down);
+    }
+    QTest::keyClick(&list, Qt::Key_Return);
 }
 
 void Tour::waitFor(const QString& what, const std::function<bool()>& condition) const {

@@ -5,10 +5,13 @@
 // window system's own events. Main thread only; run() waits in nested event loops.
 //
 // Environment: KX_TOUR_UNITS, the number of units expected, 0 for a tour that picks none;
-// KX_TOUR_PICTURES, the folder for pictures, none when absent.
+// KX_TOUR_PICTURES, the folder for pictures, none when absent; KX_TOUR_INTERFACE, the name in the
+// system of the interface to choose before the discovery, none when absent. It may come up while
+// the tour looks for it.
 
 #pragma once
 
+#include <QComboBox>
 #include <QMainWindow>
 #include <QMenu>
 #include <QString>
@@ -24,6 +27,7 @@ public:
 
 private:
     void visit();
+    void pickInterface(const QString& name);
     void discover();
     void pickUnit();
     void pickParameter();
@@ -32,6 +36,7 @@ private:
     void showMenus();
 
     void findWindow();
+    void printChoice(const QString& heading, const char* popUp);
     void printUnits();
     void printParameters();
     void printLog();
@@ -40,6 +45,7 @@ private:
     Control& control(const char* objectName) const;
     void click(QWidget& widget, QPoint position);
     void click(QWidget& widget);
+    void pickFromList(QComboBox& popUp, int row);
     void waitFor(const QString& what, const std::function<bool()>& condition) const;
     void takePicture(const QString& name, QMenu* menu = nullptr) const;
 
