@@ -41,6 +41,7 @@ public:
             arguments.push_back(word);
         }
         std::vector<char*> pointers;
+        pointers.reserve(arguments.size() + 1);
         for (auto& argument : arguments) {
             pointers.push_back(argument.data());
         }
