@@ -14,6 +14,7 @@ protected:
 
     std::vector<std::string> titles() {
         std::vector<std::string> result;
+        result.reserve(static_cast<std::size_t>(popUp().count()));
         for (int index = 0; index < popUp().count(); ++index) {
             result.push_back(popUp().itemText(index).toStdString());
         }
