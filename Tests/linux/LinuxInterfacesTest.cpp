@@ -264,6 +264,8 @@ TEST_F(LinuxInterfaces, APatternThatIsNoRegularExpressionIsRefused) {
     EXPECT_NE(store.SCError(), 0);
 }
 
+#if !defined(__SANITIZE_ADDRESS__)
+// The sanitizers look at an object's type through a pipe, for which this test leaves no descriptor.
 TEST_F(LinuxInterfaces, AKernelThatCannotBeAskedLeavesNothingToOffer) {
     const ClosedDescriptors noSockets;
     EXPECT_EQ(store.openSession("test", nullptr, nullptr), nullptr);
@@ -271,5 +273,6 @@ TEST_F(LinuxInterfaces, AKernelThatCannotBeAskedLeavesNothingToOffer) {
     EXPECT_EQ(store.openPreferences("test"), nullptr);
     EXPECT_EQ(configuration().bsdTitlesAndServiceIDs(nullptr), std::nullopt);
 }
+#endif
 
 } // namespace kx
