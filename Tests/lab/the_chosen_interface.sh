@@ -38,9 +38,9 @@ expect_logged 192.0.2.255
 expect_equal 'who heard the directed broadcast' '4B5800000001 4B5800000002 4B5800000003 ' \
     "$(who_heard 192.0.2.255)"
 
-# At launch no interface is chosen, so the first link's units hear that broadcast; what follows is
-# for the second link alone.
-report=$(report_with kx2 4 --units 2 --links 2)
+# At launch no interface is chosen, so the first link's units hear that broadcast, and their replies
+# may still come in; what follows is for the second link alone.
+report=$(report_with kx2 2 --units 2 --links 2)
 expect_logged 198.51.100.255
 expect_equal 'who heard the broadcast of the second link' '4B5800000003 4B5800000004 ' \
     "$(who_heard 198.51.100.255)"
@@ -49,4 +49,3 @@ for unit in 3 4; do
     grep -q "Received command: ^^<U> .* serial:4B 58 00 00 00 0$unit" <<<"$report" ||
         fail "no reply of unit $unit in the log: $report"
 done
-! grep -q "serial:4B 58 00 00 00 01" <<<"$report" || fail "a unit of the first link answered"
