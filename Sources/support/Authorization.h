@@ -1,0 +1,58 @@
+// Administrator rights for one fixed tool: obtained from the host's authority, kept, given back,
+// and used to run the tool.
+//
+// A right that was granted stays until deauthenticate() or the end of the object, so a person is
+// asked once. Callers authenticate before every run.
+//
+// Threading: the main thread only; authenticate() blocks while a person is asked. Ownership: the
+// service must outlive the object.
+
+#pragma once
+
+#include "support/AuthorizationService.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class Authorization {
+public:
+    static constexpr std::size_t mostToolArguments = 31;
+
+    Authorization(AuthorizationService& service, std::string toolPath);
+    virtual ~Authorization(); // gives the rights back
+    Authorization(const Authorization&) = delete;
+    Authorization& operator=(const Authorization&) = delete;
+
+    // Obtains the right to run the tool, asking a person where that is needed. False when it was
+    // refused or the question dismissed, or when there is no authority.
+    bool authenticate();
+
+    // Whether the right is held already. Never asks anybody.
+    bool isAuthenticated();
+
+    // Gives the right back: from now on it is not held.
+    void deauthenticate();
+
+    // Starts the tool with these arguments, of which none may be more than ASCII. The result is 0
+    // when it was started, -1 for more than 31 arguments or one that is not ASCII (with a line in
+    // the system log), and otherwise a status code of the authority
+    // (support/AuthorizationService.h). How the tool ends is told to `ended`.
+    std::int32_t runToolWithArgs(const std::vector<std::string>& arguments,
+                                 AuthorizationReference::ToolEndAction ended = {});
+
+protected:
+    bool _authorizationDeclined = false; // for subclasses; nothing here sets it
+
+private:
+    bool copyRights(std::uint32_t flags);
+
+    AuthorizationService& _service;
+    std::unique_ptr<AuthorizationReference> mAuthorizationRef; // null until first needed
+    std::string _privilegedToolPath;
+};
+
+} // namespace kx

@@ -1,0 +1,111 @@
+// An authority whose answers the test writes, and which runs nothing: it notes what it was asked.
+
+#pragma once
+
+#include "support/AuthorizationService.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class ScriptedAuthorizationService final : public AuthorizationService {
+public:
+    struct Request {
+        AuthorizationItem right;
+        std::uint32_t flags = 0;
+    };
+
+    struct Run {
+        std::string toolPath;
+        std::vector<std::string> arguments;
+    };
+
+    std::unique_ptr<AuthorizationReference> create() override {
+        if (_isAbsent) {
+            return nullptr;
+        }
+        ++_references;
+        return std::make_unique<Reference>(*this);
+    }
+
+    // From now on there is no authority.
+    void beAbsent() { _isAbsent = true; }
+
+    // What the next dialogs end with; success at first.
+    void answerDialogsWith(std::int32_t status) { _dialogAnswer = status; }
+
+    // What starting a tool gives from now on; success at first.
+    void startToolsWith(std::int32_t status) { _startStatus = status; }
+
+    // Ends the tools that run, each with this status, as a turn of the run loop would tell it.
+    void endTools(int status) {
+        const auto running = std::exchange(_running, {});
+        for (const auto& [reference, ended] : running) {
+            if (ended) {
+                ended(status);
+            }
+        }
+    }
+
+    const std::vector<Request>& requests() const { return _requests; }
+    const std::vector<Run>& runs() const { return _runs; }
+    int dialogs() const { return _dialogs; }                 // how often a person was asked
+    int referencesMade() const { return _references; }       // how many there have been
+    int referencesAlive() const { return _aliveReferences; } // how many there are
+
+private:
+    class Reference final : public AuthorizationReference {
+    public:
+        explicit Reference(ScriptedAuthorizationService& service)
+            : _service(service) {
+            ++_service._aliveReferences;
+        }
+        ~Reference() override {
+            --_service._aliveReferences;
+            std::erase_if(_service._running, [this](const auto& run) { return run.first == this; });
+        }
+
+        std::int32_t copyRights(const AuthorizationItem& right, std::uint32_t flags) override {
+            _service._requests.push_back({right, flags});
+            if (_isGranted) {
+                return errAuthorizationSuccess;
+            }
+            if ((flags & kAuthorizationFlagInteractionAllowed) == 0) {
+                return errAuthorizationInteractionNotAllowed;
+            }
+            ++_service._dialogs;
+            _isGranted = _service._dialogAnswer == errAuthorizationSuccess;
+            return _service._dialogAnswer;
+        }
+
+        std::int32_t executeWithPrivileges(const std::string& toolPath,
+                                           const std::vector<std::string>& arguments,
+                                           ToolEndAction ended) override {
+            _service._runs.push_back({toolPath, arguments});
+            if (_service._startStatus == errAuthorizationSuccess) {
+                _service._running.emplace_back(this, std::move(ended));
+            }
+            return _service._startStatus;
+        }
+
+    private:
+        ScriptedAuthorizationService& _service;
+        bool _isGranted = false;
+    };
+
+    bool _isAbsent = false;
+    std::int32_t _dialogAnswer = errAuthorizationSuccess;
+    std::int32_t _startStatus = errAuthorizationSuccess;
+    std::vector<Request> _requests;
+    std::vector<Run> _runs;
+    std::vector<std::pair<Reference*, AuthorizationReference::ToolEndAction>> _running;
+    int _dialogs = 0;
+    int _references = 0;
+    int _aliveReferences = 0;
+};
+
+} // namespace kx
