@@ -1,7 +1,9 @@
 #include "platform/qt/QtRunLoop.h"
 
 #include <fcntl.h>
+#include <poll.h>
 
+#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
@@ -25,18 +27,37 @@ Callback callbackFor(std::function<void()> function) {
     return std::make_shared<const std::function<void()>>(std::move(function));
 }
 
+// How many turns of ours one turn of Qt's loop may hold for one watch. Qt spends several times as
+// long on an event as the system on a datagram, so a burst is taken in small batches; a batch is
+// over long before a person notices it.
+constexpr int mostTurnsInOne = 32;
+
+bool canBeRead(int descriptor) {
+    pollfd polled{descriptor, POLLIN, 0};
+    return ::poll(&polled, 1, 0) > 0 && (polled.revents & POLLNVAL) == 0;
+}
+
 class ReadWatch final : public RunLoop::Source {
 public:
     ReadWatch(int descriptor, std::function<void()> readable)
-        : _notifier(descriptor, QSocketNotifier::Read) {
-        const Callback callback = callbackFor(std::move(readable));
-        QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier, [callback] {
-            const Callback running = callback; // NOLINT: the only share left, if the watch ends
-            (*running)();
-        });
+        : _callback(callbackFor(std::move(readable)))
+        , _notifier(descriptor, QSocketNotifier::Read) {
+        QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier,
+                         [this, descriptor] { takeTurns(descriptor); });
     }
 
 private:
+    void takeTurns(int descriptor) {
+        const Callback running = _callback;
+        const QPointer<QSocketNotifier> notifier(&_notifier); // gone when the watch has ended
+        int turns = 0;
+        do {
+            (*running)();
+            ++turns;
+        } while (turns < mostTurnsInOne && !notifier.isNull() && canBeRead(descriptor));
+    }
+
+    Callback _callback;
     QSocketNotifier _notifier;
 };
 
