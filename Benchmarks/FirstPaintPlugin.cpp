@@ -1,9 +1,7 @@
-// A Qt generic plugin that writes the time of the first paint of a window to standard output, as
-// nanoseconds of the monotonic clock, and ends the program.
+#include "FirstPaintPlugin.h"
 
 #include <QApplication>
 #include <QEvent>
-#include <QGenericPlugin>
 #include <QTimer>
 #include <QWidget>
 #include <chrono>
@@ -11,9 +9,9 @@
 
 namespace kx {
 
-class FirstPaint final : public QObject {
-    Q_OBJECT
+namespace {
 
+class FirstPaint final : public QObject {
 public:
     bool eventFilter(QObject* watched, QEvent* event) override {
         const auto* const widget = qobject_cast<QWidget*>(watched);
@@ -33,19 +31,13 @@ public:
     }
 };
 
-class FirstPaintPlugin final : public QGenericPlugin {
-    Q_OBJECT
-    Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "FirstPaintPlugin.json")
+} // namespace
 
-public:
-    QObject* create(const QString& /*name*/, const QString& /*specification*/) override {
-        auto* const firstPaint = new FirstPaint;
-        // The application object is not complete yet while plugins are made.
-        QTimer::singleShot(0, firstPaint, [firstPaint] { qApp->installEventFilter(firstPaint); });
-        return firstPaint;
-    }
-};
+QObject* FirstPaintPlugin::create(const QString& /*name*/, const QString& /*specification*/) {
+    auto* const firstPaint = new FirstPaint;
+    // The application object is not complete yet while plugins are made.
+    QTimer::singleShot(0, firstPaint, [firstPaint] { qApp->installEventFilter(firstPaint); });
+    return firstPaint;
+}
 
 } // namespace kx
-
-#include "FirstPaintPlugin.moc"

@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <poll.h>
 
-#include <QPointer>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
@@ -20,13 +19,6 @@ using std::chrono::milliseconds;
 // Qt's timers count milliseconds in an int; longer delays are waited for in several rounds.
 constexpr milliseconds longestRound{std::numeric_limits<int>::max()};
 
-// A callback may destroy its own handle, so it is called through a share of its own.
-using Callback = std::shared_ptr<const std::function<void()>>;
-
-Callback callbackFor(std::function<void()> function) {
-    return std::make_shared<const std::function<void()>>(std::move(function));
-}
-
 // How many turns of ours one turn of Qt's loop may hold for one watch. Qt spends several times as
 // long on an event as the system on a datagram, so a burst is taken in small batches; a batch is
 // over long before a person notices it.
@@ -40,31 +32,37 @@ bool canBeRead(int descriptor) {
 class ReadWatch final : public RunLoop::Source {
 public:
     ReadWatch(int descriptor, std::function<void()> readable)
-        : _callback(callbackFor(std::move(readable)))
+        : _watched(std::make_shared<Watched>(Watched{descriptor, std::move(readable)}))
         , _notifier(descriptor, QSocketNotifier::Read) {
         QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier,
-                         [this, descriptor] { takeTurns(descriptor); });
+                         [watched = _watched] { takeTurns(watched); });
     }
+    ~ReadWatch() override { _watched->hasEnded = true; }
 
 private:
-    void takeTurns(int descriptor) {
-        const Callback running = _callback;
-        const QPointer<QSocketNotifier> notifier(&_notifier); // gone when the watch has ended
+    struct Watched {
+        int descriptor;
+        std::function<void()> readable;
+        bool hasEnded = false;
+    };
+
+    // By value: a call may end the watch, and with it every other share.
+    static void takeTurns(std::shared_ptr<Watched> watched) { // NOLINT(*-unnecessary-value-param)
         int turns = 0;
         do {
-            (*running)();
+            watched->readable();
             ++turns;
-        } while (turns < mostTurnsInOne && !notifier.isNull() && canBeRead(descriptor));
+        } while (turns < mostTurnsInOne && !watched->hasEnded && canBeRead(watched->descriptor));
     }
 
-    Callback _callback;
+    std::shared_ptr<Watched> _watched;
     QSocketNotifier _notifier;
 };
 
 class DelayedCall final : public RunLoop::Source {
 public:
     DelayedCall(milliseconds delay, std::function<void()> call)
-        : _callback(callbackFor(std::move(call)))
+        : _call(std::make_shared<const std::function<void()>>(std::move(call)))
         , _due(Clock::now() + delay) {
         _timer.setSingleShot(true);
         _timer.setTimerType(Qt::PreciseTimer);
@@ -83,11 +81,11 @@ private:
             startRound();
             return;
         }
-        const Callback running = std::exchange(_callback, nullptr);
+        const auto running = std::exchange(_call, nullptr); // it may destroy this object
         (*running)();
     }
 
-    Callback _callback;
+    std::shared_ptr<const std::function<void()>> _call;
     Clock::time_point _due;
     QTimer _timer;
 };
