@@ -16,13 +16,17 @@ set(data_dir "${CMAKE_INSTALL_DATADIR}/kxconfig")
 set(generated_dir "${PROJECT_BINARY_DIR}/install")
 string(TIMESTAMP KX_RELEASE_DAY "%Y-%m-%d" UTC)
 
-# The manual page SOURCE.in as a compressed file.
-function(kx_install_manual SOURCE)
+# Writes FILE.gz beside each file.
+function(kx_compress)
     find_program(KX_GZIP gzip REQUIRED)
-    set(page "${generated_dir}/${SOURCE}")
-    configure_file("${PROJECT_SOURCE_DIR}/Resources/man/${SOURCE}.in" "${page}" @ONLY)
-    execute_process(COMMAND "${KX_GZIP}" -9nkf "${page}" COMMAND_ERROR_IS_FATAL ANY)
-    install(FILES "${page}.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+    execute_process(COMMAND "${KX_GZIP}" -9nkf ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# The manual page PAGE, compressed.
+function(kx_install_manual PAGE)
+    configure_file("${PROJECT_SOURCE_DIR}/Resources/man/${PAGE}.in" "${generated_dir}/${PAGE}" @ONLY)
+    kx_compress("${generated_dir}/${PAGE}")
+    install(FILES "${generated_dir}/${PAGE}.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endfunction()
 
 # Software centres load pictures from the web only.
