@@ -32,7 +32,7 @@ make_root() {
     mmdebstrap --quiet --variant=essential --include="$(dependencies)" \
         --aptopt="$scratch/apt.conf" "$suite" "$root" "$scratch/sources" ||
         fail 'the root file system was not made'
-    # What a session gives a person.
+    # What a login gives a person.
     install -d -m 700 -o nobody -g nogroup "$root/home/person" "$root/run/person"
 }
 
@@ -41,16 +41,15 @@ inside() {
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 chroot "$root" "$@"
 }
 
-# Every file with its contents, every other entry with its kind. The package system's own memory of
-# what it did is no trace of the package.
+# Every entry with its kind, rights and owner, every file with its checksum too. The package system's
+# own memory of what it did is no trace of the package.
 snapshot() {
     (
         cd "$root"
         find . -xdev \( -path ./proc -o -path ./sys -o -path ./dev -o -path './var/log/dpkg.log' \
             -o -path './var/lib/dpkg/status*' -o -path './var/lib/dpkg/lock*' \
             -o -path './var/lib/dpkg/triggers/Lock' \) -prune \
-            -o \( -type f -printf '%m %U %G %p ' -exec sha256sum {} + \) \
-            -o -printf '%m %U %G %p %y %l\n'
+            -o -printf '%p %y %m %U %G %l\n' -type f -exec sha256sum {} +
     ) | sort
 }
 
