@@ -116,7 +116,8 @@ PolkitAnswer answerOf(const QDBusMessage& reply) {
 bool isPolkitThere() {
     SystemBus bus;
     auto* const daemon = bus.connection().interface();
-    return daemon != nullptr && daemon->startService(authorityName).isValid();
+    return daemon != nullptr && (daemon->isServiceRegistered(authorityName).value() ||
+                                 daemon->startService(authorityName).isValid());
 }
 
 PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {

@@ -26,7 +26,8 @@
 #   --after SECONDS  how long the person takes for each answer; default 0
 #   --rule RESULT    what the host's rules say of the user's questions, before any dialog: yes or
 #                    no; without this option what the actions themselves say
-#   --without PART   "polkit": there is a bus, but no daemon; "bus": neither
+#   --without PART   what the host lacks: "action", the application's own, "launcher", the program
+#                    that runs tools, "polkit", the daemon, or "bus", which means the daemon too
 #   --root           run the command as root
 #   --help           this text
 #
@@ -78,7 +79,8 @@ add_user() {
 install_actions() {
     local actions=/usr/share/polkit-1/actions
     install -d -m 755 "$scratch/actions"
-    cp -- "$actions/org.freedesktop.policykit.policy" "$top"/Resources/*.policy "$scratch/actions"
+    cp -- "$actions/org.freedesktop.policykit.policy" "$scratch/actions"
+    [[ $without == action ]] || cp -- "$top"/Resources/*.policy "$scratch/actions"
     mount --bind -- "$scratch/actions" "$actions"
 }
 
@@ -143,7 +145,6 @@ start_daemon() {
 }
 
 seat_person() {
-    [[ -n $person ]] || return 0
     exec {ready}< <(exec "$kxperson" "$command_pid" "$person" "$seconds" "$dialogs")
     await 'the person' "$ready"
 }
@@ -180,7 +181,10 @@ run_inside() {
     if [[ $without != bus ]]; then
         start_bus
     fi
-    if [[ -z $without ]]; then
+    if [[ $without == launcher ]]; then
+        mount --bind /dev/null /usr/bin/pkexec
+    fi
+    if [[ $without != @(polkit|bus) ]]; then
         install_actions
         install_rules
         start_daemon
@@ -188,7 +192,9 @@ run_inside() {
 
     become_command "$@" <&0 &
     local command_pid=$!
-    [[ -n $without ]] || seat_person
+    if [[ -n $person ]]; then
+        seat_person
+    fi
     printf 'go\n' >"$scratch/go"
     trap - ERR
     local status=0
@@ -237,7 +243,8 @@ done
     die "$usage_failed" '--person needs allow, refuse or dismiss'
 [[ $seconds =~ ^[0-9]+$ ]] || die "$usage_failed" '--after needs a number of seconds'
 [[ $rule =~ ^(yes|no|)$ ]] || die "$usage_failed" '--rule needs yes or no'
-[[ $without =~ ^(polkit|bus|)$ ]] || die "$usage_failed" '--without needs polkit or bus'
+[[ $without =~ ^(action|launcher|polkit|bus|)$ ]] ||
+    die "$usage_failed" '--without needs action, launcher, polkit or bus'
 
 if $inside; then
     run_inside "$@"
