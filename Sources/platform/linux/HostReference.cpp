@@ -35,9 +35,8 @@ std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
     if (tool == nullptr) {
         return errAuthorizationToolExecuteFailure;
     }
-    const bool hasEnded = tool->waitAMoment(launcher());
-    if (hasEnded && !launcher().empty() && tool->programName() == launcher()) {
-        return refusalOf(tool->takeStatus());
+    if (tool->waitAMoment(launcher()) && tool->isStill(launcher())) {
+        return refusalOf(tool->status());
     }
     _runningTools.attend(std::move(tool), [alive = std::weak_ptr<bool>(_alive),
                                            action = std::move(ended)](int status) {

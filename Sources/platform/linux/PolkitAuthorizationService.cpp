@@ -49,8 +49,7 @@ private:
                                        const std::vector<std::string>& arguments) override {
         std::vector<std::string> words{"--disable-internal-agent", toolPath};
         words.insert(words.end(), arguments.begin(), arguments.end());
-        char* const noVariables[] = {nullptr};
-        return StartedTool::start(launcherPath, words, noVariables);
+        return StartedTool::start(launcherPath, words, std::vector<std::string>());
     }
 
     std::string launcher() const override { return launcherName; }

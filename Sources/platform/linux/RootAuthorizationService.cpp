@@ -2,8 +2,6 @@
 
 #include "platform/linux/HostReference.h"
 
-#include <unistd.h>
-
 namespace kx {
 
 namespace {
@@ -19,7 +17,7 @@ private:
     }
     std::unique_ptr<StartedTool> start(const std::string& toolPath,
                                        const std::vector<std::string>& arguments) override {
-        return StartedTool::start(toolPath, arguments, environ);
+        return StartedTool::start(toolPath, arguments, std::nullopt);
     }
     std::string launcher() const override { return {}; }
     std::int32_t refusalOf(int /*launcherStatus*/) const override {

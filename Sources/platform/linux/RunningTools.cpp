@@ -36,7 +36,7 @@ void RunningTools::look() {
     }
     // An action may attend further tools, or destroy this object.
     for (const auto& [tool, action] : ended) {
-        const int status = tool->takeStatus();
+        const int status = tool->status();
         if (action) {
             action(status);
         }

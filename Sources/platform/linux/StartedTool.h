@@ -1,13 +1,14 @@
-// A program that this process has started, until it has ended and its end is taken.
+// A tool that an authority has started, until its end is known.
 //
-// Threading: one thread. Ownership: an object that is destroyed leaves its program running.
+// Threading: one thread. Ownership: a tool whose object is destroyed runs on.
 
 #pragma once
 
-#include <sys/types.h>
+#include "support/ChildProcess.h"
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -18,38 +19,38 @@ public:
     // How long waitAMoment() gives a tool.
     static constexpr std::chrono::milliseconds moment{2000};
 
-    // Starts the program at `path` with these arguments and a null-terminated list of environment
-    // variables. It reads nothing, its output goes nowhere, its diagnostics to standard error; it
-    // gets no other descriptor of this process. Null, with errno set, when the system cannot start
-    // it.
+    using Environment = std::optional<std::vector<std::string>>;
+
+    // Starts the program at `path` with these arguments, and these environment variables
+    // ("NAME=value") or, where absent, this process's own. It reads nothing; what it writes is not
+    // kept, but what it complains about goes where this process's own complaints go. Null when the
+    // system cannot start it, with a line in the system log.
     static std::unique_ptr<StartedTool> start(const std::string& path,
                                               const std::vector<std::string>& arguments,
-                                              char* const* environment);
+                                              const Environment& environment);
 
-    ~StartedTool();
-    StartedTool(const StartedTool&) = delete;
-    StartedTool& operator=(const StartedTool&) = delete;
-
-    // Whether it has ended. Its number stays taken until takeStatus().
+    // Whether it has ended.
     bool hasEnded() const;
 
-    // The file name of the program that runs, which changes when that becomes another one; also
-    // after the end, until takeStatus(). Cut to 15 bytes; empty when the system does not tell.
-    std::string programName() const;
+    // Whether the program that runs, or ran to its end, is `launcher`, by its file name of at most
+    // 15 bytes: it has not become the tool yet, or never did. Also true when the system does not
+    // tell, and false for an empty name, which stands for no launcher. Not to be asked after
+    // status().
+    bool isStill(const std::string& launcher) const;
 
-    // Returns once it has ended, or after a moment in which it has run. Where `launcher` is the
-    // program that runs, it asks a person first and then becomes the tool: that takes as long as it
-    // takes, and the moment begins after it. Whether it has ended then.
+    // Returns once it has ended, or after a moment in which it has run. While it is still
+    // `launcher` a person may be asked: that takes as long as it takes, and the moment begins after
+    // it. Whether it has ended then.
     bool waitAMoment(const std::string& launcher);
 
-    // After its end, once: the exit status, or 128 and the number of the signal that ended it.
-    int takeStatus();
+    // Waits for its end. The exit status, or 128 and the number of the signal that ended it; -1
+    // when the system did not keep it.
+    int status();
 
 private:
-    explicit StartedTool(pid_t process)
-        : _process(process) {}
+    explicit StartedTool(ChildProcess child);
 
-    pid_t _process; // 0 once the status is taken
+    ChildProcess _child;
 };
 
 } // namespace kx

@@ -141,7 +141,8 @@ TEST_F(AToolRun, LeavesNothingBehind) {
     for (int round = 0; round < 5; ++round) {
         runAll();
     }
-    EXPECT_EQ(openDescriptors(), before);
+    // The bus library closes its last connection in its own time.
+    EXPECT_TRUE(runLoopUntil(loop, [before] { return openDescriptors() <= before; }));
     EXPECT_FALSE(hasChildren());
 }
 
