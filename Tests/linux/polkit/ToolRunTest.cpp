@@ -59,11 +59,9 @@ TEST_F(AToolRun, NeedsAToolThatIsThere) {
 }
 
 TEST_F(AToolRun, GetsItsArgumentsAsTheyAre) {
-    EXPECT_EQ(run(shell, {"-c",
-                          "[ $# = 3 ] && [ \"$1\" = 'a b' ] && [ \"$2\" = '' ] && "
-                          "[ \"$3\" = '$HOME;' ]",
-                          "name", "a b", "", "$HOME;"}),
-              errAuthorizationSuccess);
+    const std::string script =
+        R"([ $# = 3 ] && [ "$1" = 'a b' ] && [ "$2" = '' ] && [ "$3" = '$HOME;' ])";
+    EXPECT_EQ(run(shell, {"-c", script, "name", "a b", "", "$HOME;"}), errAuthorizationSuccess);
     EXPECT_TRUE(runUntilEnd());
     EXPECT_EQ(ends, Ends{0});
 }
@@ -81,7 +79,7 @@ TEST_F(AToolRun, IsTheAdministratorsAndReadsNothing) {
 }
 
 TEST_F(AToolRun, GetsNoDescriptorOfTheApplication) {
-    const int descriptor = ::open("/dev/null", O_RDONLY); // NOLINT: to be inherited
+    const int descriptor = ::open("/dev/null", O_RDONLY);
     ASSERT_GE(descriptor, 0);
     EXPECT_EQ(runShell("[ ! -e /proc/$$/fd/" + std::to_string(descriptor) + " ]"),
               errAuthorizationSuccess);

@@ -111,6 +111,7 @@ open_way_to_project() {
     mount -t tmpfs -o mode=755 tmpfs "$closed"
     mkdir -p -- "$top"
     mount --rbind -- "$scratch/project" "$top"
+    as_user test -r "$script" || die "$failed" "$top is closed to other users"
 }
 
 # Reads the first line that a program writes to the descriptor $2, when it is ready.
@@ -155,8 +156,7 @@ as_user() {
 
 # Becomes the command, once the line comes that says everything is ready for it.
 become_command() {
-    local line
-    read -r line <"$scratch/go"
+    read -r <"$scratch/go"
     local identity=(--reuid "$user_id" --regid "$user_id" --clear-groups)
     if $as_root; then
         identity=()
@@ -168,6 +168,7 @@ become_command() {
 run_inside() {
     set -E
     trap 'exit "$failed"' ERR
+    umask 022
     # The folder of the bus and, so that there is nothing to clean up, of everything else.
     mount -t tmpfs -o mode=755 tmpfs /run
     scratch=/run/kx
@@ -254,5 +255,14 @@ if ! reason=$( ((EUID == 0)) && unshare --mount --pid --fork true 2>&1); then
     exit "$skipped"
 fi
 [[ -x $kxperson ]] || die "$failed" "no program $kxperson; build it, or set KX_BUILD_DIR"
-exec unshare --mount --pid --fork --kill-child --mount-proc -- \
-    "$script" --inside ${options[@]+"${options[@]}"} -- "$@"
+# Everything goes with the process that made the namespaces, which does not outlive this one. It
+# would ignore a mere request to end.
+setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child --mount-proc -- \
+    "$script" --inside ${options[@]+"${options[@]}"} -- "$@" <&0 &
+namespaces=$!
+trap 'kill -KILL "$namespaces"; exit 129' HUP
+trap 'kill -KILL "$namespaces"; exit 130' INT
+trap 'kill -KILL "$namespaces"; exit 143' TERM
+status=0
+wait "$namespaces" || status=$?
+exit "$status"
