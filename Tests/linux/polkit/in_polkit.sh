@@ -116,8 +116,7 @@ open_way_to_project() {
 
 # Reads the first line that a program writes to the descriptor $2, when it is ready.
 await() {
-    local line
-    read -r -t "$seconds_to_ready" -u "$2" line || {
+    read -r -t "$seconds_to_ready" -u "$2" || {
         cat -- "$scratch"/bus "$scratch"/polkitd >&2 2>/dev/null || true
         die "$failed" "$1 did not start"
     }
@@ -250,8 +249,9 @@ done
 if $inside; then
     run_inside "$@"
 fi
-if ! reason=$( ((EUID == 0)) && unshare --mount --pid --fork true 2>&1); then
-    printf 'skipped: no right to a private system bus here (%s)\n' "${reason:-not root}"
+# In a namespace in which root is somebody else outside, there is no other user to become.
+if ! reason=$(unshare --mount --pid --fork setpriv --reuid "$user_id" true 2>&1); then
+    printf 'skipped: no right to a private system bus here (%s)\n' "$reason"
     exit "$skipped"
 fi
 [[ -x $kxperson ]] || die "$failed" "no program $kxperson; build it, or set KX_BUILD_DIR"
