@@ -3,6 +3,8 @@
 #   bin/                        both programs
 #   share/applications, share/metainfo, share/icons, share/man
 #                               what a desktop reads
+#   share/polkit-1/actions      the action that asks for administrator rights; its daemon looks
+#                               there below a prefix of /usr
 #   share/kxconfig/             the help pages and the dissector
 #
 # The version comes from project(), the day from the clock or SOURCE_DATE_EPOCH.
@@ -49,6 +51,8 @@ kx_install_manual(kxunits.1)
 
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.policy"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/polkit-1/actions")
 kx_set_screenshots(KX_SCREENSHOTS)
 configure_file("${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.metainfo.xml.in"
     "${generated_dir}/org.kxconfig.KXConfig.metainfo.xml" @ONLY)
