@@ -10,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -101,7 +102,7 @@ protected:
     }
     std::string quietLine() {
         const auto& line = control<QLabel>("quietLine");
-        return line.isVisible() ? line.text().toStdString() : "(none)";
+        return line.isVisible() ? line.text().toStdString() : "(hidden)";
     }
 
     // The commands sent since the last call, without their addresses.
@@ -129,10 +130,16 @@ protected:
     FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
+    ScriptedAuthorizationService authority;
     MainWindow window;
-    KXConfigAppDelegate controller{
-        window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
-                                                        wallClock, application, &interfaces}};
+    KXConfigAppDelegate controller{window.outlets(), KXConfigAppDelegate::Services{runLoop,
+                                                                                   hostResolver,
+                                                                                   systemCalls,
+                                                                                   wallClock,
+                                                                                   application,
+                                                                                   &interfaces,
+                                                                                   {},
+                                                                                   &authority}};
 
 private:
     QWindow* windowWithKeyboard();
