@@ -35,6 +35,8 @@ public:
     Handle watchForReading(int descriptor, std::function<void()> readable) override;
     Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) override;
 
+    void runUntil(const std::function<bool()>& isDone) override;
+
     // Runs turns until stop() is called.
     void run();
 
@@ -64,6 +66,7 @@ private:
     bool callDue(const CallKey& latest);
 
     bool _running = false;
+    std::uint64_t _turns = 0; // to know a run within the run by
     std::uint64_t _nextOrder = 1;
     std::map<std::uint64_t, Watch> _watches; // by order of request
     std::map<CallKey, std::function<void()>> _calls;
