@@ -88,15 +88,16 @@ bool holdsZeroByte(const std::string& text) {
     return text.find('\0') != std::string::npos;
 }
 
-// The words as posix_spawn(3) takes them. It does not write to them; its type is older than const.
-std::vector<char*> argumentVector(const std::string& path,
-                                  const std::vector<std::string>& arguments) {
-    std::vector<char*> words{const_cast<char*>(path.c_str())};
-    for (const auto& argument : arguments) {
-        words.push_back(const_cast<char*>(argument.c_str()));
+// The words as posix_spawn(3) takes them, ended by null. It does not write to them; its type is
+// older than const.
+std::vector<char*> wordVector(const std::vector<std::string>& words) {
+    std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
+    for (const auto& word : words) {
+        pointers.push_back(const_cast<char*>(word.c_str()));
     }
-    words.push_back(nullptr);
-    return words;
+    pointers.push_back(nullptr);
+    return pointers;
 }
 
 } // namespace
@@ -106,6 +107,16 @@ ChildProcess::ChildProcess(const std::string& path, const std::vector<std::strin
 
 ChildProcess::ChildProcess(const std::string& path, const std::vector<std::string>& arguments,
                            const Streams& streams) {
+    launch(path, arguments, streams, environ);
+}
+
+ChildProcess::ChildProcess(const std::string& path, const std::vector<std::string>& arguments,
+                           const Streams& streams, const std::vector<std::string>& environment) {
+    launch(path, arguments, streams, wordVector(environment).data());
+}
+
+void ChildProcess::launch(const std::string& path, const std::vector<std::string>& arguments,
+                          const Streams& streams, char* const* environment) {
     if (holdsZeroByte(path) || std::any_of(arguments.begin(), arguments.end(), holdsZeroByte)) {
         throwLaunchFailure(path, EINVAL);
     }
@@ -120,9 +131,10 @@ ChildProcess::ChildProcess(const std::string& path, const std::vector<std::strin
         errorNumber = actions.closeTheRest();
     }
     if (errorNumber == 0) {
-        const auto words = argumentVector(path, arguments);
+        auto words = wordVector(arguments);
+        words.insert(words.begin(), const_cast<char*>(path.c_str()));
         errorNumber = posix_spawn(&_processIdentifier, path.c_str(), actions.get(),
-                                  Attributes().get(), words.data(), environ);
+                                  Attributes().get(), words.data(), environment);
     }
     if (errorNumber != 0) {
         throwLaunchFailure(path, errorNumber);

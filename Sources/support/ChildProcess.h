@@ -1,8 +1,9 @@
 // Another program, run as a child of this process and owned by an object.
 //
 // The child begins with what it is given and nothing besides: three descriptors, this process's
-// environment and working directory, every signal at its default and none blocked. It is reaped by
-// its own process id only, so that children of others in this process stay theirs.
+// environment unless it is given another, this process's working directory, every signal at its
+// default and none blocked. It is reaped by its own process id only, so that children of others in
+// this process stay theirs.
 //
 // An object that is destroyed, or takes another child, while its child still runs lets it run on:
 // it neither ends it nor waits. A thread of its own then reaps the child when it ends, so that
@@ -38,6 +39,10 @@ public:
     explicit ChildProcess(const std::string& path, const std::vector<std::string>& arguments = {});
     ChildProcess(const std::string& path, const std::vector<std::string>& arguments,
                  const Streams& streams);
+
+    // The same, with these environment variables ("NAME=value") instead of this process's.
+    ChildProcess(const std::string& path, const std::vector<std::string>& arguments,
+                 const Streams& streams, const std::vector<std::string>& environment);
     ~ChildProcess();
     ChildProcess(ChildProcess&& other) noexcept;
     ChildProcess& operator=(ChildProcess&& other) noexcept;
@@ -64,6 +69,8 @@ public:
     pid_t processIdentifier() const { return _processIdentifier; }
 
 private:
+    void launch(const std::string& path, const std::vector<std::string>& arguments,
+                const Streams& streams, char* const* environment);
     void take(int options); // notes the end, if waitpid(2) with these options tells of one
     void letGo();
 

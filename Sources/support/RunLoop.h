@@ -50,11 +50,11 @@ public:
     // that. After the call the handle holds nothing; it may be kept or destroyed.
     virtual Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) = 0;
 
-    // Runs the loop until `isDone` says so. It is asked at first, and after every turn; a turn
-    // rests until there is something to call, so what it waits for has to come from a watch or a
-    // delayed call. Inside a callback this begins a run within the run: a watch whose callback is
-    // running may be called again meanwhile. What a person does on the screen waits until it is
-    // over.
+    // Runs the loop until `isDone` says so. It is asked at first, and again when something was
+    // called; while there is nothing to call the loop rests, so what is waited for has to come from
+    // a watch or a delayed call. Inside a callback this begins a run within the run: a watch whose
+    // callback is running may be called again meanwhile. What a person does on the screen waits
+    // until it is over.
     virtual void runUntil(const std::function<bool()>& isDone) = 0;
 };
 

@@ -156,6 +156,17 @@ TEST_F(ChildProcessTest, TheEnvironmentIsPassedOn) {
     ::unsetenv("KX_PASSED_ON");
 }
 
+TEST_F(ChildProcessTest, AnotherEnvironmentIsAllThatTheChildHas) {
+    Pipe output;
+    ChildProcess child(
+        "/usr/bin/env", {},
+        {.standardInput = {}, .standardOutput = output.writingEnd.number(), .standardError = {}},
+        {"ONE=1", "TWO=2"});
+    output.writingEnd.close();
+    EXPECT_EQ(textOf(output.readingEnd.number()), "ONE=1\nTWO=2\n");
+    EXPECT_EQ(child.waitUntilExit(), 0);
+}
+
 TEST_F(ChildProcessTest, OneDescriptorMayServeTwice) {
     Pipe output;
     const int writingEnd = output.writingEnd.number();
