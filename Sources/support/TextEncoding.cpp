@@ -11,14 +11,22 @@ bool isContinuation(std::uint8_t byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
+// The length of the sequences that `first` begins; 1 when it begins none that is well-formed.
+std::size_t lengthAnnouncedBy(std::uint8_t first) {
+    if (first < 0xC2U || first > 0xF4U) {
+        return 1;
+    }
+    return first < 0xE0U ? 2 : first < 0xF0U ? 3 : 4;
+}
+
 // The length of the well-formed sequence at the front of `bytes` (RFC 3629, section 4), or 0.
 std::size_t sequenceLength(ByteView bytes) {
     const std::uint8_t first = bytes[0];
     if (first < 0x80U) {
         return 1;
     }
-    const std::size_t length = first < 0xE0U ? 2 : first < 0xF0U ? 3 : 4;
-    if (first < 0xC2U || first > 0xF4U || bytes.size() < length) {
+    const std::size_t length = lengthAnnouncedBy(first);
+    if (length == 1 || bytes.size() < length) {
         return 0;
     }
     const std::uint8_t second = bytes[1];
@@ -51,6 +59,17 @@ std::optional<std::string> textFromUTF8(ByteView bytes) {
         return std::nullopt;
     }
     return std::string(bytes.begin(), bytes.end());
+}
+
+std::size_t lengthOfWholeCharacters(ByteView bytes) {
+    constexpr std::size_t longestFront = 3;
+    for (std::size_t back = 1; back <= std::min(longestFront, bytes.size()); ++back) {
+        const std::uint8_t byte = bytes[bytes.size() - back];
+        if (!isContinuation(byte)) {
+            return back < lengthAnnouncedBy(byte) ? bytes.size() - back : bytes.size();
+        }
+    }
+    return bytes.size();
 }
 
 ByteView bytesOfText(std::string_view text) {

@@ -20,6 +20,10 @@ bool isValidUTF8(ByteView bytes);
 // The text that the bytes encode, or absent when they are not well-formed UTF-8.
 std::optional<std::string> textFromUTF8(ByteView bytes);
 
+// How many bytes of `bytes` there are without the front of a UTF-8 sequence at their end that the
+// next bytes may complete. What is before that may still be ill-formed.
+std::size_t lengthOfWholeCharacters(ByteView bytes);
+
 // The bytes of a text as it stands, without terminator.
 ByteView bytesOfText(std::string_view text);
 

@@ -4,7 +4,9 @@
 #include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/LocalizedTextContract.h"
+#include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopWatchesContract.h"
 #include "contracts/SystemLogContract.h"
 #include "contracts/WallClockContract.h"
 #include "doubles/FixedWallClock.h"
@@ -110,6 +112,8 @@ private:
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopContract, ManualRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopCallsContract, ManualRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopWatchesContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);

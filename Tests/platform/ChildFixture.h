@@ -3,7 +3,6 @@
 #pragma once
 
 #include <gtest/gtest.h>
-#include <sys/types.h>
 #include <sys/wait.h>
 
 #include <cerrno>
@@ -20,9 +19,9 @@ namespace kx {
 
 class ChildFixture : public testing::Test {
 protected:
-    void TearDown() override {
-        EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "a child is left";
-        EXPECT_EQ(errno, ECHILD);
+    // Here, when what a test's own fixture holds is gone.
+    ~ChildFixture() override {
+        EXPECT_TRUE(hasNoChild()) << "a child is left";
         EXPECT_EQ(openDescriptors(), _openAtFirst) << "a descriptor is left";
     }
 
@@ -36,6 +35,12 @@ protected:
             std::this_thread::sleep_for(std::chrono::milliseconds(2));
         }
         return condition();
+    }
+
+    // Whether every child of this process has been reaped; reaps none itself.
+    static bool hasNoChild() {
+        siginfo_t end{};
+        return ::waitid(P_ALL, 0, &end, WEXITED | WNOHANG | WNOWAIT) != 0 && errno == ECHILD;
     }
 
     static std::ptrdiff_t openDescriptors() {

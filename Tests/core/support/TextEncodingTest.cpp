@@ -51,6 +51,30 @@ TEST(UTF8, CodePointsWithTheirLastByteCutOffAreInvalid) {
     }
 }
 
+TEST(UTF8, OnlyTheFrontOfASequenceIsNoWholeCharacter) {
+    EXPECT_EQ(lengthOfWholeCharacters({}), 0U);
+    for (const std::uint32_t codePoint : {0x7FU, 0x80U, 0x7FFU, 0x800U, 0xFFFFU, 0x10FFFFU}) {
+        const Bytes character = encoded(codePoint);
+        for (std::size_t length = 0; length <= character.size(); ++length) {
+            Bytes bytes{'a'};
+            bytes.insert(bytes.end(), character.begin(),
+                         character.begin() + static_cast<std::ptrdiff_t>(length));
+            EXPECT_EQ(lengthOfWholeCharacters(bytes),
+                      length == character.size() ? bytes.size() : 1U)
+                << std::hex << codePoint;
+            EXPECT_EQ(lengthOfWholeCharacters(ByteView(bytes).subspan(1)),
+                      length == character.size() ? length : 0U);
+        }
+    }
+}
+
+TEST(UTF8, WhatNoByteCouldCompleteIsNotHeldBack) {
+    for (const Bytes& bytes : {Bytes{'a', 0xFF}, Bytes{0xC1}, Bytes{0x80, 0x80, 0x80, 0x80},
+                               Bytes{0xC3, 0xA9, 0x80}, Bytes{0xF5}}) {
+        EXPECT_EQ(lengthOfWholeCharacters(bytes), bytes.size());
+    }
+}
+
 TEST(UTF8, MalformedSequencesAreInvalid) {
     const std::vector<Bytes> malformed = {
         {0x80},                   // continuation alone
