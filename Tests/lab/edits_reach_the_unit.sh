@@ -8,6 +8,7 @@ kxconfig=$2 record=$KX_RECORD
 
 export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsteps QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
 export KX_STEPS='
+    press logDrawerButton
     interface kx0
     discover 3
     unit 4B 58 00 00 00 01

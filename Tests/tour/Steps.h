@@ -8,10 +8,11 @@
 //   press BUTTON             clicks the button of this object name
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
-//   logs TEXT                waits until the event log contains the text
+//   logs TEXT                waits until the event log, whose drawer must be open, has the text
 //   line TEXT                waits until the quiet line contains the text
 //   picture NAME             leaves a picture (KX_TOUR_PICTURES)
 //   print                    prints the shown parameters and the event log
+//   read VARIABLE            prints the lines of the file that this environment variable names
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -40,6 +41,7 @@ private:
     void type(const QString& text);
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
+    static void printFile(const QString& path);
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 
