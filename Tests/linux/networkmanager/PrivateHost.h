@@ -8,6 +8,10 @@
 
 #include "linux/PrivateNetwork.h"
 
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QProcess>
@@ -84,8 +88,7 @@ public:
             throw std::runtime_error("not under in_private_host.sh");
         }
         _folder = folder;
-        for (const auto* const used :
-             {"/etc/NetworkManager", "/var/lib/NetworkManager", "/run/NetworkManager"}) {
+        for (const auto* const used : {"/etc/NetworkManager", "/var/lib/NetworkManager", "/run"}) {
             for (const auto& entry : std::filesystem::directory_iterator(_folder + used)) {
                 std::filesystem::remove_all(entry);
             }
@@ -103,8 +106,8 @@ public:
                     QStringList{"--nofork", "--nopidfile", "--nosyslog",
                                 "--config-file=" + QString::fromStdString(_folder + "/bus.conf")},
                     log());
-        while (!std::filesystem::exists(busSocket())) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        if (!eventually([this] { return busListens(); })) {
+            throw std::runtime_error("the bus does not come");
         }
     }
     void stopBus() { bus.reset(); }
@@ -127,7 +130,7 @@ public:
         networkManager.reset();
     }
 
-    // An administrator's command; it waits until NetworkManager is there and has done it.
+    // An administrator's command to a NetworkManager that runs; waits until it is carried out.
     static void nmcli(const QStringList& arguments) {
         if (QProcess::execute("nmcli", arguments) != 0) {
             throw std::runtime_error("failed: nmcli " + arguments.join(' ').toStdString());
@@ -152,6 +155,16 @@ public:
     std::optional<BackgroundProgram> networkManager;
 
 private:
+    bool busListens() const {
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        busSocket().copy(std::data(address.sun_path), sizeof address.sun_path - 1);
+        const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        const bool isConnected =
+            ::connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+        ::close(descriptor);
+        return isConnected;
+    }
     std::string busSocket() const { return _folder + "/bus"; }
     std::string busAddress() const { return "unix:path=" + busSocket(); }
     std::string profileFolder() const { return _folder + "/etc/NetworkManager/system-connections"; }

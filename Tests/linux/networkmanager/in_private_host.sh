@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs a command where NetworkManager's folders are empty ones of its own and no process outlives
-# it, or says that this system gives no right to. KX_PRIVATE_HOST names the folder that these are in.
+# Runs a command where the folders of NetworkManager are empty ones of its own and no process
+# outlives it, or says that this system gives no right to. The folders are in KX_PRIVATE_HOST.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
@@ -18,8 +18,8 @@ if [[ -z ${KX_PRIVATE_HOST:-} ]]; then
     exit
 fi
 
-for folder in /etc/NetworkManager /var/lib/NetworkManager /run/NetworkManager; do
-    mkdir -p "$folder" "$KX_PRIVATE_HOST$folder"
+for folder in /etc/NetworkManager /var/lib/NetworkManager /run; do
+    mkdir -p "$KX_PRIVATE_HOST$folder"
     mount --bind "$KX_PRIVATE_HOST$folder" "$folder"
 done
 exec "$@"
