@@ -56,7 +56,7 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
     }
     if (_isFirstReading) {
         // The call, not its watcher, which would take the answer itself while it waits.
-        QDBusPendingCall(*_reading).waitForFinished();
+        _reading->QDBusPendingCall::waitForFinished();
         takeAnswer();
     }
     return _profiles;

@@ -3,24 +3,17 @@
 
 #include "platform/linux/ActiveConnections.h"
 
-#include "PrivateHost.h"
+#include "Wire.h"
 
 #include <gtest/gtest.h>
 
-#include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusMetaType>
 #include <QDBusObjectPath>
-#include <QDBusServer>
 
 namespace kx {
 
 namespace {
 
-using PropertiesByInterface = QMap<QString, QVariantMap>;
-using ManagedObjects = QMap<QDBusObjectPath, PropertiesByInterface>;
 using Paths = QList<QDBusObjectPath>;
-using Dictionaries = QList<QVariantMap>;
 using Profiles = std::vector<ConnectionProfile>;
 
 const QDBusObjectPath managerPath("/org/freedesktop/NetworkManager");
@@ -32,42 +25,6 @@ const QString managerInterface = "org.freedesktop.NetworkManager";
 const QString activeInterface = "org.freedesktop.NetworkManager.Connection.Active";
 const QString deviceInterface = "org.freedesktop.NetworkManager.Device";
 const QString ipv4Interface = "org.freedesktop.NetworkManager.IP4Config";
-
-// Two ends of a connection within this process.
-class Wire : public QObject {
-    Q_OBJECT
-
-public:
-    Wire() {
-        qDBusRegisterMetaType<PropertiesByInterface>();
-        qDBusRegisterMetaType<ManagedObjects>();
-        qDBusRegisterMetaType<Dictionaries>();
-        connect(&_server, &QDBusServer::newConnection, this,
-                [this](const QDBusConnection& connection) { _sender = connection; });
-        _receiver.connect(QString(), QString(), "kx.Test", "answer", this,
-                          SLOT(receive(QDBusMessage)));
-        eventually([this] { return _sender.isConnected() && _receiver.isConnected(); });
-    }
-    ~Wire() override { QDBusConnection::disconnectFromPeer("test"); }
-
-    QDBusMessage carried(const QVariant& value) {
-        auto message = QDBusMessage::createSignal("/", "kx.Test", "answer");
-        message << value;
-        _received = {};
-        _sender.send(message);
-        EXPECT_TRUE(eventually([this] { return _received.type() == QDBusMessage::SignalMessage; }));
-        return _received;
-    }
-
-private Q_SLOTS:
-    void receive(const QDBusMessage& message) { _received = message; }
-
-private:
-    QDBusServer _server;
-    QDBusConnection _sender{"none"};
-    QDBusConnection _receiver{QDBusConnection::connectToPeer(_server.address(), "test")};
-    QDBusMessage _received;
-};
 
 class ActiveConnections : public testing::Test {
 protected:
@@ -266,5 +223,3 @@ TEST_F(ActiveConnections, AnAnswerOfAnotherShapeHasNoProfiles) {
 }
 
 } // namespace kx
-
-#include "ActiveConnectionsTest.moc"

@@ -39,6 +39,13 @@ private:
     std::optional<NetworkManagerProfiles> _profiles;
 };
 
+struct Stack {
+    QtRunLoop loop;
+    KernelLinks links{loop};
+    NetworkManagerProfiles profiles;
+    LinuxConfigurationStore store{loop, links, &profiles};
+};
+
 class NetworkManagerStoreTrait {
 public:
     NetworkManagerStoreTrait() {
@@ -66,13 +73,6 @@ public:
     void runAWhile() { handleEventsFor(300ms); }
 
 private:
-    struct Stack {
-        QtRunLoop loop;
-        KernelLinks links{loop};
-        NetworkManagerProfiles profiles;
-        LinuxConfigurationStore store{loop, links, &profiles};
-    };
-
     PrivateHost _host;
     std::optional<Stack> _stack;
 };

@@ -121,9 +121,14 @@ public:
                         "mount -t sysfs -o ro sysfs /sys && exec NetworkManager --no-daemon"},
             log());
     }
+    // Both, and the profiles are active.
     void start() {
         startBus();
         startNetworkManager();
+        if (QProcess::execute("nm-online", {"--wait-for-startup", "--quiet", "--timeout=20"}) !=
+            0) {
+            throw std::runtime_error("NetworkManager does not come");
+        }
     }
     void stopNetworkManager() {
         networkManager->terminate();
