@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
@@ -35,7 +36,8 @@ int main(int argc, char* argv[]) {
 
     kx::KernelLinks kernelLinks(runLoop);
     kx::LinuxKernelQuery kernelQuery(kernelLinks);
-    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, nullptr);
+    kx::NetworkManagerProfiles connectionProfiles;
+    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
 
     const auto authorizationService = kx::makeAuthorizationService(runLoop);
