@@ -1,13 +1,11 @@
-// The contracts of the store and of the kernel query, on real links, and of root's own authority.
+// The contracts of the store and of the kernel query, on real links.
 
 #include "PrivateNetwork.h"
-#include "contracts/AuthorizationServiceContract.h"
 #include "contracts/ConfigurationStoreContract.h"
 #include "contracts/KernelQueryContract.h"
 #include "platform/PollLoopDriver.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
-#include "platform/linux/RootAuthorizationService.h"
 
 namespace kx {
 
@@ -59,24 +57,8 @@ private:
     LinuxKernelQuery _kernelQuery{_host.links};
 };
 
-class RootAuthorizationTrait {
-public:
-    AuthorizationService& service() { return _service; }
-    std::string tool() { return "/bin/sh"; }
-    std::vector<std::string> arguments() { return {"-c", "exit 3"}; }
-    int status() { return 3; }
-    std::string absentTool() { return "/no/such/tool"; }
-    bool runUntil(const std::function<bool()>& condition) { return runLoopUntil(_loop, condition); }
-    void runAWhile() { runLoopFor(_loop, std::chrono::milliseconds(300)); }
-
-private:
-    PollRunLoop _loop;
-    RootAuthorizationService _service{_loop};
-};
-
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, ConfigurationStoreContract, LinuxStoreTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Linux, KernelQueryContract, LinuxKernelTrait);
-INSTANTIATE_TYPED_TEST_SUITE_P(Root, AuthorizationServiceContract, RootAuthorizationTrait);
 
 } // namespace
 
