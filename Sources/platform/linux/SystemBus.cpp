@@ -12,7 +12,7 @@ constexpr auto localInterface = "org.freedesktop.DBus.Local";
 constexpr auto localPath = "/org/freedesktop/DBus/Local";
 constexpr auto disconnectedSignal = "Disconnected";
 
-// As the D-Bus specification has them.
+// As every program on a bus finds it.
 constexpr auto addressVariable = "DBUS_SYSTEM_BUS_ADDRESS";
 constexpr auto wellKnownAddress = "unix:path=/var/run/dbus/system_bus_socket";
 
@@ -58,7 +58,7 @@ void SystemBus::hearSignals(const QString& sender, const QString& interface, con
     QDBusMessage request = busCall("AddMatch");
     request << rule;
     _connection.send(request);
-    // Where this has been said for another argument, it is refused, and already so.
+    // A second time, for another first argument, this is refused and needless.
     _connection.connect(QString(), QString(), interface, name, this, SLOT(receive(QDBusMessage)));
 }
 
