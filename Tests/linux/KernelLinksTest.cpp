@@ -26,6 +26,7 @@ public:
                          std::function<void()> /*call*/) override {
         return nullptr;
     }
+    void runUntil(const std::function<bool()>& /*isDone*/) override {}
 };
 
 } // namespace
