@@ -122,10 +122,8 @@ void KXConfigAppDelegate::udpPortSelect() {
     discoverButton();
 }
 
-void KXConfigAppDelegate::myHelp() {
-    if (_services.openHelpAnchor) {
-        _services.openHelpAnchor("index");
-    }
+bool KXConfigAppDelegate::myHelp() {
+    return _services.openHelpAnchor && _services.openHelpAnchor("index");
 }
 
 void KXConfigAppDelegate::restartListener(std::size_t port) {

@@ -16,6 +16,7 @@
 #include "System Configuration/NetworkInterfaces.h"
 #include "UDPEcho.h"
 #include "UnitParameters.h"
+#include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
@@ -35,7 +36,9 @@
 
 namespace kx {
 
-class KXConfigAppDelegate final : public UDPEchoDelegate, public TableViewDataSource {
+class KXConfigAppDelegate final : public UDPEchoDelegate,
+                                  public TableViewDataSource,
+                                  public WindowDelegate {
 public:
     struct Services {
         RunLoop& runLoop;
@@ -82,7 +85,7 @@ public:
     bool sendOptionButton();          // sends it; the result is that of sendCommand()
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
     void logDrawerButton();           // opens or closes the event log drawer
-    void myHelp();                    // opens the help at its index
+    bool myHelp();                    // opens the help at its index; false when nothing was opened
 
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();

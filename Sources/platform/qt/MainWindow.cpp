@@ -107,6 +107,10 @@ void MainWindow::disconnectActions() {
     _controls->editParameterTableView.setDataSource(nullptr);
 }
 
+const WindowDelegate* MainWindow::windowDelegate() const {
+    return _controller;
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     // Scrolling the content must not choose another unit or port on the way.
     const auto* popUp = qobject_cast<QComboBox*>(watched);
@@ -158,8 +162,8 @@ void MainWindow::connectButtons() {
     connectButton(_ui->reloadButton, &KXConfigAppDelegate::reloadUnitParameterButton);
     connectButton(_ui->restoreButton, &KXConfigAppDelegate::restoreDefaultSettings);
     connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
-    connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
     connect(_ui->sendOptionButton, &QPushButton::clicked, this, [this] { sendOption(); });
+    connect(_ui->helpButton, &QPushButton::clicked, this, [this] { openHelp(); });
 }
 
 void MainWindow::connectPopUps() {
@@ -187,6 +191,7 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
+    _ui->helpAction->setShortcuts({Qt::Key_F1, Qt::ALT | Qt::Key_F1}); // with Alt, the viewer
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
@@ -254,6 +259,15 @@ void MainWindow::sendOption() {
         showQuietLine(tr("Not sent: a command can hold ASCII characters only."));
     } else {
         showQuietLine(tr("Not sent: the address of the unit is not known."));
+    }
+}
+
+void MainWindow::openHelp() {
+    if (_controller == nullptr || _controller->myHelp()) {
+        showQuietLine({});
+    } else {
+        showQuietLine(tr("Help could not be opened in a web browser. To read it here, hold the Alt "
+                         "key while you press Help."));
     }
 }
 
