@@ -44,10 +44,10 @@ bool appendHangulParts(char32_t character, std::u32string& result) {
         return false;
     }
     const char32_t index = character - firstSyllable;
-    result += firstLeading + index / (vowels * trailings);
-    result += firstVowel + index / trailings % vowels;
+    result.push_back(firstLeading + index / (vowels * trailings));
+    result.push_back(firstVowel + index / trailings % vowels);
     if (index % trailings != 0) {
-        result += beforeFirstTrailing + index % trailings;
+        result.push_back(beforeFirstTrailing + index % trailings);
     }
     return true;
 }

@@ -86,7 +86,7 @@ std::u32string charactersOfText(std::string_view text) {
     while (!bytes.empty()) {
         const std::size_t length = sequenceLength(bytes);
         if (length == 0) {
-            characters += beyondUnicode + bytes[0];
+            characters.push_back(beyondUnicode + bytes[0]);
             bytes = bytes.subspan(1);
             continue;
         }
@@ -94,7 +94,7 @@ std::u32string charactersOfText(std::string_view text) {
         for (const std::uint8_t byte : bytes.subspan(1, length - 1)) {
             character = character << 6U | (byte & 0x3FU);
         }
-        characters += character;
+        characters.push_back(character);
         bytes = bytes.subspan(length);
     }
     return characters;
