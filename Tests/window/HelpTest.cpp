@@ -1,6 +1,7 @@
 // Help over the real desktop seam: the adapters, the viewer, and the window's way to them.
 
 #include "MainWindowFixture.h"
+#include "RecordedBrowser.h"
 #include "contracts/ApplicationWindowsContract.h"
 #include "contracts/HelpServicesContract.h"
 #include "contracts/ViewContract.h"
@@ -11,7 +12,6 @@
 #include "platform/qt/QtView.h"
 
 #include <QApplication>
-#include <QDesktopServices>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -28,19 +28,6 @@ void writeFile(const QString& path, const QByteArray& content, QFile::Permission
     file.close();
     ASSERT_TRUE(file.setPermissions(permissions)) << path.toStdString();
 }
-
-// Takes the place of the application that opens files.
-class RecordedBrowser final : public QObject {
-    Q_OBJECT
-
-public:
-    RecordedBrowser() { QDesktopServices::setUrlHandler("file", this, "open"); }
-    ~RecordedBrowser() override { QDesktopServices::unsetUrlHandler("file"); }
-
-    Q_INVOKABLE void open(const QUrl& url) { urls.push_back(url.toEncoded().toStdString()); }
-
-    std::vector<std::string> urls;
-};
 
 // The desktop's register of applications, as the program that is asked for it.
 class ScriptedRegister {
@@ -392,5 +379,3 @@ TEST_F(MainWindowTest, TheControllerIsTheDelegateOfItsWindowWhileItIsConnected) 
 }
 
 } // namespace kx
-
-#include "HelpTest.moc"
