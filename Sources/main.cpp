@@ -3,6 +3,7 @@
 #include "KXConfigAppDelegate.h"
 #include "System Configuration/SystemConfiguration.h"
 #include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/posix/SyslogSystemLog.h"
@@ -38,6 +39,8 @@ int main(int argc, char* argv[]) {
     kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, nullptr);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
 
+    const auto authorizationService = kx::makeAuthorizationService(runLoop);
+
     kx::MainWindow window;
     kx::KXConfigAppDelegate controller(
         window.outlets(), {.runLoop = runLoop,
@@ -46,9 +49,11 @@ int main(int argc, char* argv[]) {
                            .wallClock = wallClock,
                            .application = application,
                            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-                           .openHelpAnchor = [&helpServices](std::string_view anchor) {
-                               return kx::openHelpAnchor(anchor, helpServices);
-                           }});
+                           .openHelpAnchor =
+                               [&helpServices](std::string_view anchor) {
+                                   return kx::openHelpAnchor(anchor, helpServices);
+                               },
+                           .authorizationService = authorizationService.get()});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

@@ -35,7 +35,7 @@ TEST_F(ControllerLifecycle, LaunchWorksWithoutAnyKnowledgeOfTheHostsNetwork) {
     blind.applicationDidFinishLaunching();
     EXPECT_EQ(window.interfacePopUp.titles(), Titles{"No configured interfaces"});
     blind.interfaceSelect();
-    EXPECT_FALSE(blind.myHelp());
+    blind.myHelp();
     blind.reloadUnitParameterButton();
     EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdX");
 }
@@ -237,8 +237,20 @@ TEST_F(ControllerLifecycle, ClosingTheWindowEndsTheApplication) {
 }
 
 TEST_F(ControllerLifecycle, HelpOpensAtItsIndex) {
-    EXPECT_TRUE(controller.myHelp());
+    controller.myHelp();
     EXPECT_EQ(helpAnchors, Lines{"index"});
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerLifecycle, HelpThatDoesNotOpenSaysHowToReadIt) {
+    launch();
+    helpOpens = false;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, hold the "
+                           "Alt key while you press Help.");
+    helpOpens = true;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "");
 }
 
 TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {

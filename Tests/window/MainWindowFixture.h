@@ -10,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -103,7 +104,7 @@ protected:
     }
     std::string quietLine() {
         const auto& line = control<QLabel>("quietLine");
-        return line.isVisible() ? line.text().toStdString() : "(none)";
+        return line.isVisible() ? line.text().toStdString() : "(hidden)";
     }
 
     // The commands sent since the last call, without their addresses.
@@ -133,14 +134,16 @@ protected:
     ScriptedNetworkInterfaces interfaces;
     std::vector<std::string> helpAnchors;
     std::function<bool()> openHelp = [] { return true; }; // what becomes of each
+    ScriptedAuthorizationService authority;
     MainWindow window;
     KXConfigAppDelegate controller{
-        window.outlets(),
-        KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls, wallClock, application,
-                                      &interfaces, [this](std::string_view anchor) {
-                                          helpAnchors.emplace_back(anchor);
-                                          return openHelp();
-                                      }}};
+        window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
+                                                        wallClock, application, &interfaces,
+                                                        [this](std::string_view anchor) {
+                                                            helpAnchors.emplace_back(anchor);
+                                                            return openHelp();
+                                                        },
+                                                        &authority}};
 
 private:
     QWindow* windowWithKeyboard();

@@ -3,14 +3,15 @@
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
 #include "platform/qt/EditCommands.h"
+#include "platform/qt/QtAlert.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
+#include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
-#include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
 
@@ -42,10 +43,12 @@ struct MainWindow::Controls {
         , unitIDField(*ui.unitIDField)
         , unitParameterTableView(*ui.unitParameterTableView, parameterColumns(false))
         , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
+        , quietLine(*ui.quietLine)
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
-        , logTextView(*ui.logTextView) {
+        , logTextView(*ui.logTextView)
+        , alert(mainWindow) {
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
 
@@ -57,10 +60,12 @@ struct MainWindow::Controls {
     QtTextField unitIDField;
     QtTableView unitParameterTableView;
     QtTableView editParameterTableView;
+    QtTextLabel quietLine;
     QtPopUpButton optionCommandPopUp;
     QtTextField optionCommandField;
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
+    QtAlert alert;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -73,7 +78,6 @@ MainWindow::MainWindow(QWidget* parent)
     connectMenus();
     connectTables();
     _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
-    showQuietLine({});
     keepEmptyStatesReadable();
     fitToContent();
 }
@@ -90,10 +94,12 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.unitParameterTableView = &_controls->unitParameterTableView;
     outlets.unitParameterTable = &_controls->unitParameterTable;
     outlets.editParameterTableView = &_controls->editParameterTableView;
+    outlets.quietLine = &_controls->quietLine;
     outlets.optionCommandPopUp = &_controls->optionCommandPopUp;
     outlets.optionCommandField = &_controls->optionCommandField;
     outlets.eventLogDrawer = &_controls->eventLogDrawer;
     outlets.logTextView = &_controls->logTextView;
+    outlets.alert = &_controls->alert;
     return outlets;
 }
 
@@ -160,10 +166,11 @@ void MainWindow::connectButtons() {
     };
     connectButton(_ui->discoverButton, &KXConfigAppDelegate::discoverButton);
     connectButton(_ui->reloadButton, &KXConfigAppDelegate::reloadUnitParameterButton);
+    connectButton(_ui->applyButton, &KXConfigAppDelegate::applyEditParameterButton);
+    connectButton(_ui->sendOptionButton, &KXConfigAppDelegate::sendOptionButton);
     connectButton(_ui->restoreButton, &KXConfigAppDelegate::restoreDefaultSettings);
     connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
-    connect(_ui->sendOptionButton, &QPushButton::clicked, this, [this] { sendOption(); });
-    connect(_ui->helpButton, &QPushButton::clicked, this, [this] { openHelp(); });
+    connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
 }
 
 void MainWindow::connectPopUps() {
@@ -209,6 +216,11 @@ void MainWindow::connectTables() {
         [this] { perform(&KXConfigAppDelegate::tableViewSelectionDidChange); });
     connect(parameters, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
     connect(editRow, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
+    connect(editRow, &ParameterTableView::textEdited, this, [this](const QString& text) {
+        if (_controller != nullptr) {
+            _controller->editTextDidChange(utf8Text(text));
+        }
+    });
 
     // The two tables read as one: their columns stay in line.
     connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
@@ -245,35 +257,8 @@ void MainWindow::keepEmptyStatesReadable() {
 
 void MainWindow::perform(Action action) {
     if (_controller != nullptr) {
-        showQuietLine({});
         (_controller->*action)();
     }
-}
-
-void MainWindow::sendOption() {
-    if (_controller == nullptr || _controller->sendOptionButton()) {
-        showQuietLine({});
-    } else if (!_controller->selectedUnit().has_value()) {
-        showQuietLine(tr("Not sent: no unit is selected."));
-    } else if (!asciiBytes(utf8Text(_ui->optionCommandField->text())).has_value()) {
-        showQuietLine(tr("Not sent: a command can hold ASCII characters only."));
-    } else {
-        showQuietLine(tr("Not sent: the address of the unit is not known."));
-    }
-}
-
-void MainWindow::openHelp() {
-    if (_controller == nullptr || _controller->myHelp()) {
-        showQuietLine({});
-    } else {
-        showQuietLine(tr("Help could not be opened in a web browser. To read it here, hold the Alt "
-                         "key while you press Help."));
-    }
-}
-
-void MainWindow::showQuietLine(const QString& text) {
-    _ui->quietLine->setText(text);
-    _ui->quietLine->setVisible(!text.isEmpty());
 }
 
 void MainWindow::drawerDidChange(DrawerState state) {

@@ -2,7 +2,7 @@
 //
 // It owns every control, the adapters that the controller sees them through, and the table that
 // feeds the parameter table. It decides nothing of the application; what it adds is the desktop's
-// manners: keyboard, menus, and a quiet line that says why a press of a button had no effect.
+// manners: keyboard, menus, empty states.
 //
 // Threading: main thread only. Ownership: the controller is not owned and must be taken away again
 // with disconnectActions() before it is destroyed.
@@ -62,9 +62,6 @@ private:
     void keepEmptyStatesReadable();
 
     void perform(Action action);
-    void sendOption();
-    void openHelp();
-    void showQuietLine(const QString& text);
     void drawerDidChange(DrawerState state);
 
     std::unique_ptr<Ui::MainWindow> _ui;
