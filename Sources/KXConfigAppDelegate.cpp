@@ -127,8 +127,14 @@ void KXConfigAppDelegate::udpPortSelect() {
 }
 
 void KXConfigAppDelegate::myHelp() {
-    if (_services.openHelpAnchor) {
-        _services.openHelpAnchor("index");
+    if (!_services.openHelpAnchor) {
+        return;
+    }
+    if (_services.openHelpAnchor("index")) {
+        refreshEditNote();
+    } else {
+        showNote(localizedText("Help could not be opened in a web browser. To read it here, hold "
+                               "the Alt key while you press Help."));
     }
 }
 

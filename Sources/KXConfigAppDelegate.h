@@ -19,6 +19,7 @@
 #include "UDPEcho.h"
 #include "UnitParameters.h"
 #include "support/Authorization.h"
+#include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
@@ -38,7 +39,9 @@
 
 namespace kx {
 
-class KXConfigAppDelegate final : public UDPEchoDelegate, public TableViewDataSource {
+class KXConfigAppDelegate final : public UDPEchoDelegate,
+                                  public TableViewDataSource,
+                                  public WindowDelegate {
 public:
     struct Services {
         RunLoop& runLoop;

@@ -10,8 +10,10 @@
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
+#include "platform/qt/InstalledResources.h"
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
+#include "platform/qt/QtHelpServices.h"
 #include "platform/qt/QtLocalizedText.h"
 #include "platform/qt/QtRunLoop.h"
 
@@ -33,6 +35,7 @@ int main(int argc, char* argv[]) {
     kx::DatagramSystemCalls systemCalls;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
+    kx::QtHelpServices helpServices(kx::installedResourceFolder());
 
     kx::KernelLinks kernelLinks(runLoop);
     kx::LinuxKernelQuery kernelQuery(kernelLinks);
@@ -50,6 +53,10 @@ int main(int argc, char* argv[]) {
                            .wallClock = wallClock,
                            .application = application,
                            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+                           .openHelpAnchor =
+                               [&helpServices](std::string_view anchor) {
+                                   return kx::openHelpAnchor(anchor, helpServices);
+                               },
                            .authorizationService = authorizationService.get()});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {

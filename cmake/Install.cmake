@@ -66,6 +66,4 @@ install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig-symbo
 
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/wireshark/kxconfig.lua"
     DESTINATION "${data_dir}/wireshark")
-if(EXISTS "${PROJECT_SOURCE_DIR}/Resources/homepage")
-    install(DIRECTORY "${PROJECT_SOURCE_DIR}/Resources/homepage" DESTINATION "${data_dir}")
-endif()
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/Resources/homepage" DESTINATION "${data_dir}")

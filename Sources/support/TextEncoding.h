@@ -35,6 +35,10 @@ std::optional<Bytes> asciiBytes(std::string_view text);
 // A byte that is not part of a well-formed sequence counts as one unit.
 std::size_t lengthInCharacters(std::string_view text);
 
+// The characters of a text. A byte that is not part of a well-formed sequence counts as a character
+// of its own beyond the last of Unicode: 0x110000 and the byte.
+std::u32string charactersOfText(std::string_view text);
+
 // The leading decimal integer of a text: leading white space is skipped, one sign counts, digits
 // are read as far as they go. No digits give 0; a value outside 32 bits saturates at the nearest
 // end.

@@ -120,12 +120,13 @@ protected:
     ScriptedAuthorizationService authority;
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
+    bool helpOpens = true;
     KXConfigAppDelegate controller{window.outlets(),
                                    {runLoop, hostResolver, systemCalls, wallClock, application,
                                     &interfaces,
                                     [this](std::string_view anchor) {
                                         helpAnchors.emplace_back(anchor);
-                                        return true;
+                                        return helpOpens;
                                     },
                                     &authority}};
 

@@ -269,4 +269,13 @@ TEST_F(ControllerQuietLine, ANewLaunchBeginsWithAnEmptyLine) {
     EXPECT_EQ(quietLine(), "");
 }
 
+TEST_F(ControllerQuietLine, HelpLeavesTheReportOfAnEditAlone) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3521");
+    const std::string report = quietLine();
+    EXPECT_NE(report.find("Sent ^^IdT0DC1."), std::string::npos) << report;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), report);
+}
+
 } // namespace kx

@@ -51,6 +51,8 @@ void Steps::take(const QString& verb, const QString& argument) {
         type(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
+    } else if (verb == "log") {
+        _driver.openLog();
     } else if (verb == "shows") {
         expectParameter(argument);
     } else if (verb == "lacks") {

@@ -6,6 +6,7 @@
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
 //   press BUTTON             clicks the button of this object name
+//   log                      opens the event log
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
 //   logs TEXT                waits until the event log, whose drawer must be open, has the text

@@ -26,7 +26,9 @@
 #include <QTableView>
 #include <QTest>
 #include <cstdlib>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -130,16 +132,18 @@ protected:
     FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
+    std::vector<std::string> helpAnchors;
+    std::function<bool()> openHelp = [] { return true; }; // what becomes of each
     ScriptedAuthorizationService authority;
     MainWindow window;
-    KXConfigAppDelegate controller{window.outlets(), KXConfigAppDelegate::Services{runLoop,
-                                                                                   hostResolver,
-                                                                                   systemCalls,
-                                                                                   wallClock,
-                                                                                   application,
-                                                                                   &interfaces,
-                                                                                   {},
-                                                                                   &authority}};
+    KXConfigAppDelegate controller{
+        window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
+                                                        wallClock, application, &interfaces,
+                                                        [this](std::string_view anchor) {
+                                                            helpAnchors.emplace_back(anchor);
+                                                            return openHelp();
+                                                        },
+                                                        &authority}};
 
 private:
     QWindow* windowWithKeyboard();

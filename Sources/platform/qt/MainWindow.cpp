@@ -113,6 +113,10 @@ void MainWindow::disconnectActions() {
     _controls->editParameterTableView.setDataSource(nullptr);
 }
 
+const WindowDelegate* MainWindow::windowDelegate() const {
+    return _controller;
+}
+
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     // Scrolling the content must not choose another unit or port on the way.
     const auto* popUp = qobject_cast<QComboBox*>(watched);
@@ -194,6 +198,7 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
+    _ui->helpAction->setShortcuts({Qt::Key_F1, Qt::ALT | Qt::Key_F1}); // with Alt, the viewer
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark

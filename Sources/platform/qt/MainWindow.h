@@ -10,6 +10,7 @@
 #pragma once
 
 #include "Outlets.h"
+#include "platform/qt/QtApplicationWindows.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -22,7 +23,7 @@ namespace Ui {
 class MainWindow;
 }
 
-class MainWindow final : public QMainWindow {
+class MainWindow final : public QMainWindow, public DelegatingWindow {
     Q_OBJECT
 
 public:
@@ -38,6 +39,9 @@ public:
 
     // From now on nothing reaches the controller any more.
     void disconnectActions();
+
+    // The controller, while it is connected.
+    const WindowDelegate* windowDelegate() const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 

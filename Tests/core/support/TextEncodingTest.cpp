@@ -181,6 +181,23 @@ TEST(IntegerValue, IsZeroWithoutDigits) {
     }
 }
 
+TEST(TextEncoding, ATextIsReadCharacterByCharacter) {
+    EXPECT_EQ(charactersOfText("aé装\U0001F600"), U"aé装\U0001F600");
+    EXPECT_EQ(charactersOfText(std::string_view("a\0b", 3)), std::u32string_view(U"a\0b", 3));
+    EXPECT_EQ(charactersOfText("\u007F\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
+              U"\x7F\x80\x7FF\x800\xFFFF\x10000\x10FFFF");
+    EXPECT_EQ(charactersOfText(""), U"");
+}
+
+TEST(TextEncoding, AByteOutsideAnySequenceIsACharacterBeyondUnicode) {
+    const std::u32string expected{U'a', 0x1100FF, 0x1100C3, U'b'};
+    EXPECT_EQ(charactersOfText("a\xFF\xC3"
+                               "b"),
+              expected);
+    EXPECT_EQ(charactersOfText("\xED\xA0\x80"),
+              (std::u32string{0x1100ED, 0x1100A0, 0x110080})); // a surrogate
+}
+
 TEST(IntegerValue, SaturatesAtTheEndsOf32Bits) {
     constexpr std::int32_t lowest = std::numeric_limits<std::int32_t>::min();
     constexpr std::int32_t highest = std::numeric_limits<std::int32_t>::max();
