@@ -1,9 +1,8 @@
 // Receiving datagrams over loopback through the endpoint, on both run loops, beside a bare loop of
 // epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
-//
-// Each round sends a batch that fits into the receive buffer and times only its reception.
 
 #include "Comparison.h"
+#include "LoopbackBatches.h"
 #include "UDPEcho.h"
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/ScriptedHostResolver.h"
@@ -19,42 +18,11 @@
 
 #include <QApplication>
 #include <array>
-#include <chrono>
 #include <functional>
 
 namespace kx {
 
 namespace {
-
-constexpr int batch = 128;
-constexpr std::uint16_t port = 35200;
-constexpr std::uint32_t loopbackAddress = 0x7F000001;
-
-// Sends from a socket of its own to the port on loopback.
-class Sender {
-public:
-    Sender()
-        : _socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
-        _address.sin_family = AF_INET;
-        _address.sin_port = htons(port);
-        _address.sin_addr.s_addr = htonl(loopbackAddress);
-    }
-    ~Sender() { ::close(_socket); }
-    Sender(const Sender&) = delete;
-    Sender& operator=(const Sender&) = delete;
-
-    void sendBatch() const {
-        const std::array<char, 81> datagram{};
-        for (int i = 0; i < batch; ++i) {
-            ::sendto(_socket, datagram.data(), datagram.size(), 0,
-                     reinterpret_cast<const sockaddr*>(&_address), sizeof _address);
-        }
-    }
-
-private:
-    int _socket;
-    sockaddr_in _address{};
-};
 
 class Counter final : public UDPEchoDelegate {
 public:
@@ -64,19 +32,6 @@ public:
     }
     int received = 0;
 };
-
-// Times `receiveBatch`, which returns when a whole batch has arrived.
-void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch) {
-    const Sender sender;
-    for (auto _ : state) {
-        sender.sendBatch();
-        const auto begin = std::chrono::steady_clock::now();
-        receiveBatch();
-        const std::chrono::duration<double> time = std::chrono::steady_clock::now() - begin;
-        state.SetIterationTime(time.count());
-    }
-    state.SetItemsProcessed(state.iterations() * batch);
-}
 
 void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
                             const std::function<void()>& oneTurn) {

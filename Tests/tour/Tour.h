@@ -1,8 +1,7 @@
-// A tour of the running program: what a person would do with the mouse and the keyboard to see the
-// units of a network, with a printed record and pictures.
+// A tour of the running program: what a person would do to see the units of a network, with a
+// printed record and pictures.
 //
-// It knows the program from outside, as controls with object names, and reaches it through the
-// window system's own events. Main thread only; run() waits in nested event loops.
+// Main thread only; run() waits in nested event loops.
 //
 // Environment: KX_TOUR_UNITS, the number of units expected, 0 for a tour that picks none;
 // KX_TOUR_PICTURES, the folder for pictures, none when absent; KX_TOUR_INTERFACE, the name in the
@@ -11,45 +10,24 @@
 
 #pragma once
 
-#include <QComboBox>
-#include <QMainWindow>
-#include <QMenu>
-#include <QString>
-#include <functional>
+#include "WindowDriver.h"
 
 namespace kx {
 
 class Tour final {
 public:
-    // Takes the whole tour and closes the window, which ends the program. After a failure it says
-    // on standard error what was missing, and ends the program with exit status 1.
+    explicit Tour(WindowDriver& driver)
+        : _driver(driver) {}
+
+    // Takes the whole tour.
     void run();
 
 private:
-    void visit();
-    void pickInterface(const QString& name);
-    void discover();
-    void pickUnit();
-    void pickParameter();
     void openLog();
     void showOtherLooks();
     void showMenus();
 
-    void findWindow();
-    void printChoice(const QString& heading, const char* popUp);
-    void printUnits();
-    void printParameters();
-    void printLog();
-
-    template<class Control>
-    Control& control(const char* objectName) const;
-    void click(QWidget& widget, QPoint position);
-    void click(QWidget& widget);
-    void pickFromList(QComboBox& popUp, int row);
-    void waitFor(const QString& what, const std::function<bool()>& condition) const;
-    void takePicture(const QString& name, QMenu* menu = nullptr) const;
-
-    QMainWindow* _window = nullptr;
+    WindowDriver& _driver;
 };
 
 } // namespace kx

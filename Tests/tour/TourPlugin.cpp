@@ -1,8 +1,12 @@
 #include "TourPlugin.h"
 
+#include "Steps.h"
 #include "Tour.h"
+#include "WindowDriver.h"
 
+#include <QCoreApplication>
 #include <QTimer>
+#include <cstdio>
 #include <memory>
 
 namespace kx {
@@ -19,12 +23,28 @@ void dropWordsOfThePlatform(QtMsgType type, const QMessageLogContext& context,
     }
 }
 
+template<class Visit>
+void visit() {
+    WindowDriver driver;
+    try {
+        driver.findWindow();
+        Visit(driver).run();
+    } catch (const Disappointment& disappointment) {
+        std::fprintf(stderr, "kxtour: %s\n", qPrintable(disappointment.text));
+        QCoreApplication::exit(1);
+        return;
+    }
+    print("Tour complete.");
+    driver.window().close();
+}
+
 } // namespace
 
-QObject* TourPlugin::create(const QString& /*name*/, const QString& /*specification*/) {
+QObject* TourPlugin::create(const QString& name, const QString& /*specification*/) {
     handlerBefore = qInstallMessageHandler(dropWordsOfThePlatform);
     auto start = std::make_unique<QTimer>();
-    connect(start.get(), &QTimer::timeout, start.get(), [] { Tour().run(); });
+    connect(start.get(), &QTimer::timeout, start.get(),
+            name == "kxsteps" ? visit<Steps> : visit<Tour>);
     start->setSingleShot(true);
     start->start(0);
     return start.release();

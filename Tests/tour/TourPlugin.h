@@ -1,4 +1,6 @@
-// How Qt finds the tour: as the generic plugin "kxtour".
+// How Qt finds the two kinds of visit: as the generic plugins "kxtour" (Tour.h) and "kxsteps"
+// (Steps.h). When a visit is over it closes the window, which ends the program; after a failure it
+// says on standard error what was missing, and ends the program with exit status 1.
 
 #pragma once
 
@@ -11,7 +13,7 @@ class TourPlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "kxtour.json")
 
 public:
-    // Called while the application object is being made. The tour begins in the event loop.
+    // Called while the application object is being made. The visit begins in the event loop.
     QObject* create(const QString& name, const QString& specification) override;
 };
 

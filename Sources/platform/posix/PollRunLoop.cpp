@@ -30,17 +30,29 @@ private:
     std::function<void()> _end;
 };
 
-// Entries are extracted rather than erased: what a callback holds may end registrations in turn,
-// and must not do so while the map is being changed.
+// Entries are taken out before they are destroyed: what a callback holds may end registrations in
+// turn, and must not do so while the container is being changed.
 
 RunLoop::Handle PollRunLoop::watchForReading(int descriptor, std::function<void()> readable) {
     if (::fcntl(descriptor, F_GETFD) == -1) {
         return nullptr;
     }
     const auto order = _nextOrder++;
-    _watches.emplace(
-        order, Watch{descriptor, std::make_shared<std::function<void()>>(std::move(readable))});
-    return std::make_unique<Registration>([this, order] { _watches.extract(order); });
+    _watches.push_back({order, std::make_shared<std::function<void()>>(std::move(readable))});
+    _descriptors.push_back({descriptor, POLLIN, 0});
+    return std::make_unique<Registration>([this, order] { endWatch(order); });
+}
+
+PollRunLoop::Watches::iterator PollRunLoop::findWatch(std::uint64_t order) {
+    const auto found = std::ranges::lower_bound(_watches, order, {}, &Watch::order);
+    return found != _watches.end() && found->order == order ? found : _watches.end();
+}
+
+void PollRunLoop::endWatch(std::uint64_t order) {
+    const auto watch = findWatch(order);
+    const auto readable = std::move(watch->readable);
+    _descriptors.erase(_descriptors.begin() + (watch - _watches.begin()));
+    _watches.erase(watch);
 }
 
 RunLoop::Handle PollRunLoop::callOnceAfter(milliseconds delay, std::function<void()> call) {
@@ -62,10 +74,14 @@ void PollRunLoop::stop() {
 }
 
 bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
-    const auto ready = readyWatches(pollTimeout(longestWait));
-    const CallKey latest{Clock::now(), _nextOrder - 1}; // what callbacks ask for comes after it
+    std::vector<std::uint64_t> ready = std::exchange(_ready, {});
+    ready.clear();
+    findReady(pollDescriptors(pollTimeout(longestWait)), ready);
+    const bool mayBeDue = !_calls.empty(); // what callbacks ask for is not
+    const CallKey latest = mayBeDue ? CallKey{Clock::now(), _nextOrder - 1} : CallKey{};
     const bool hasRead = callReadable(ready);
-    const bool hasCalled = callDue(latest);
+    const bool hasCalled = mayBeDue && callDue(latest);
+    _ready = std::move(ready);
     return hasRead || hasCalled;
 }
 
@@ -84,41 +100,40 @@ int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
         std::clamp<milliseconds::rep>(wait->count(), 0, std::numeric_limits<int>::max()));
 }
 
-// An interrupted poll is a turn in which nothing can be read.
-std::vector<std::uint64_t> PollRunLoop::readyWatches(int timeout) {
-    std::vector<pollfd> descriptors;
-    descriptors.reserve(_watches.size());
-    for (const auto& [order, watch] : _watches) {
-        descriptors.push_back({watch.descriptor, POLLIN, 0});
+// How many can be read. An interrupted poll is a turn in which nothing can. The system is asked
+// first without waiting: where something can be read already, preparing a wait costs for nothing.
+int PollRunLoop::pollDescriptors(int timeout) {
+    const auto size = static_cast<nfds_t>(_descriptors.size());
+    int count = ::poll(_descriptors.data(), size, 0);
+    if (count == 0 && timeout != 0) {
+        count = ::poll(_descriptors.data(), size, timeout);
     }
-    std::vector<std::uint64_t> ready;
-    const int count = ::poll(descriptors.data(), static_cast<nfds_t>(descriptors.size()), timeout);
     if (count < 0 && errno != EINTR) {
         const milliseconds wait(timeout);
         std::this_thread::sleep_for(timeout < 0 ? restAfterFailure
                                                 : std::min(wait, restAfterFailure));
     }
-    if (count <= 0) {
-        return ready;
-    }
-    auto polled = descriptors.begin();
-    for (auto& [order, watch] : _watches) {
-        if ((polled->revents & POLLNVAL) != 0) {
-            watch.descriptor = unwatchedDescriptor;
-        } else if (polled->revents != 0) {
-            ready.push_back(order);
+    return count;
+}
+
+void PollRunLoop::findReady(int count, std::vector<std::uint64_t>& ready) {
+    for (std::size_t i = 0; count > 0 && i < _descriptors.size(); ++i) {
+        pollfd& polled = _descriptors[i];
+        if ((polled.revents & POLLNVAL) != 0) {
+            polled.fd = unwatchedDescriptor;
+        } else if (polled.revents != 0) {
+            ready.push_back(_watches[i].order);
         }
-        ++polled;
+        count -= polled.revents != 0 ? 1 : 0;
     }
-    return ready;
 }
 
 bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
     bool hasCalled = false;
     for (const auto order : ready) {
-        const auto watch = _watches.find(order); // another callback may have ended it
+        const auto watch = findWatch(order); // another callback may have ended it
         if (watch != _watches.end()) {
-            const auto readable = watch->second.readable;
+            const auto readable = watch->readable;
             (*readable)();
             hasCalled = true;
         }

@@ -54,18 +54,24 @@ private:
     static constexpr int unwatchedDescriptor = -1;
 
     struct Watch {
-        int descriptor;
+        std::uint64_t order;
         std::shared_ptr<std::function<void()>> readable; // shared with the running call
     };
+    using Watches = std::vector<Watch>;
 
+    Watches::iterator findWatch(std::uint64_t order);
+    void endWatch(std::uint64_t order);
     int pollTimeout(std::optional<std::chrono::milliseconds> longestWait) const;
-    std::vector<std::uint64_t> readyWatches(int timeout);
+    int pollDescriptors(int timeout);
+    void findReady(int count, std::vector<std::uint64_t>& ready);
     bool callReadable(const std::vector<std::uint64_t>& ready);
     bool callDue(const CallKey& latest);
 
     bool _running = false;
     std::uint64_t _nextOrder = 1;
-    std::map<std::uint64_t, Watch> _watches; // by order of request
+    Watches _watches;                  // in the order of their requests
+    std::vector<pollfd> _descriptors;  // of the watches, one for each
+    std::vector<std::uint64_t> _ready; // kept between turns for its storage
     std::map<CallKey, std::function<void()>> _calls;
 };
 

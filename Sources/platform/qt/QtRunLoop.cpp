@@ -1,6 +1,7 @@
 #include "platform/qt/QtRunLoop.h"
 
 #include <fcntl.h>
+#include <poll.h>
 
 #include <QSocketNotifier>
 #include <QTimer>
@@ -18,32 +19,50 @@ using std::chrono::milliseconds;
 // Qt's timers count milliseconds in an int; longer delays are waited for in several rounds.
 constexpr milliseconds longestRound{std::numeric_limits<int>::max()};
 
-// A callback may destroy its own handle, so it is called through a share of its own.
-using Callback = std::shared_ptr<const std::function<void()>>;
+// How many turns of ours one turn of Qt's loop may hold for one watch. Qt spends several times as
+// long on an event as the system on a datagram, so a burst is taken in small batches; a batch is
+// over long before a person notices it.
+constexpr int mostTurnsInOne = 32;
 
-Callback callbackFor(std::function<void()> function) {
-    return std::make_shared<const std::function<void()>>(std::move(function));
+bool canBeRead(int descriptor) {
+    pollfd polled{descriptor, POLLIN, 0};
+    return ::poll(&polled, 1, 0) > 0 && (polled.revents & POLLNVAL) == 0;
 }
 
 class ReadWatch final : public RunLoop::Source {
 public:
     ReadWatch(int descriptor, std::function<void()> readable)
-        : _notifier(descriptor, QSocketNotifier::Read) {
-        const Callback callback = callbackFor(std::move(readable));
-        QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier, [callback] {
-            const Callback running = callback; // NOLINT: the only share left, if the watch ends
-            (*running)();
-        });
+        : _watched(std::make_shared<Watched>(Watched{descriptor, std::move(readable)}))
+        , _notifier(descriptor, QSocketNotifier::Read) {
+        QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier,
+                         [watched = _watched] { takeTurns(watched); });
     }
+    ~ReadWatch() override { _watched->hasEnded = true; }
 
 private:
+    struct Watched {
+        int descriptor;
+        std::function<void()> readable;
+        bool hasEnded = false;
+    };
+
+    // By value: a call may end the watch, and with it every other share.
+    static void takeTurns(std::shared_ptr<Watched> watched) { // NOLINT(*-unnecessary-value-param)
+        int turns = 0;
+        do {
+            watched->readable();
+            ++turns;
+        } while (turns < mostTurnsInOne && !watched->hasEnded && canBeRead(watched->descriptor));
+    }
+
+    std::shared_ptr<Watched> _watched;
     QSocketNotifier _notifier;
 };
 
 class DelayedCall final : public RunLoop::Source {
 public:
     DelayedCall(milliseconds delay, std::function<void()> call)
-        : _callback(callbackFor(std::move(call)))
+        : _call(std::make_shared<const std::function<void()>>(std::move(call)))
         , _due(Clock::now() + delay) {
         _timer.setSingleShot(true);
         _timer.setTimerType(Qt::PreciseTimer);
@@ -62,11 +81,11 @@ private:
             startRound();
             return;
         }
-        const Callback running = std::exchange(_callback, nullptr);
+        const auto running = std::exchange(_call, nullptr); // it may destroy this object
         (*running)();
     }
 
-    Callback _callback;
+    std::shared_ptr<const std::function<void()>> _call;
     Clock::time_point _due;
     QTimer _timer;
 };

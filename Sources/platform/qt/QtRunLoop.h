@@ -2,7 +2,9 @@
 //
 // Threading: belongs to the thread that makes it, which needs a QCoreApplication. Callbacks run
 // from that thread's event loop, nested loops (menus, dialogues) included. At rest nothing wakes
-// up: a watch is a socket notifier, a delayed call one single-shot timer.
+// up: a watch is a socket notifier, a delayed call one single-shot timer. While a descriptor stays
+// readable, one turn of Qt's loop may hold several turns of this one, 32 at most, since Qt's own
+// turn costs more than most of what is read.
 
 #pragma once
 

@@ -1,0 +1,180 @@
+#include "WindowDriver.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDir>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QTest>
+#include <cstdio>
+
+namespace kx {
+
+namespace {
+
+constexpr int patienceInMilliseconds = 10'000;
+
+} // namespace
+
+void print(const QString& line) {
+    std::printf("%s\n", qPrintable(line));
+    std::fflush(stdout);
+}
+
+void WindowDriver::findWindow() {
+    waitFor("the main window", [this] {
+        for (QWidget* widget : QApplication::topLevelWidgets()) {
+            auto* const window = qobject_cast<QMainWindow*>(widget);
+            if (window != nullptr && window->isVisible()) {
+                _window = window;
+            }
+        }
+        return _window != nullptr && _window->windowHandle()->isExposed();
+    });
+}
+
+void WindowDriver::click(QWidget& widget, QPoint position) const {
+    auto& content = control<QScrollArea>("contentArea");
+    if (content.widget()->isAncestorOf(&widget)) {
+        content.ensureWidgetVisible(&widget);
+    }
+    QTest::mouseClick(_window->windowHandle(), Qt::LeftButton, Qt::NoModifier,
+                      widget.mapTo(_window, position));
+}
+
+void WindowDriver::click(QWidget& widget) const {
+    click(widget, widget.rect().center());
+}
+
+void WindowDriver::press(const char* buttonName) const {
+    click(control<QPushButton>(buttonName));
+}
+
+void WindowDriver::pickFromList(QComboBox& popUp, int row) const {
+    QAbstractItemView& list = *popUp.view();
+    waitFor("an open list", [&] { return list.isVisible(); });
+    QTest::keyClick(&list, Qt::Key_Home);
+    for (int step = 0; step < row; ++step) {
+        QTest::keyClick(&list, Qt::Key_Down);
+    }
+    QTest::keyClick(&list, Qt::Key_Return);
+}
+
+void WindowDriver::pickInterface(const QString& name) const {
+    auto& interfaces = control<QComboBox>("interfacePopUp");
+    const QString suffix = QString("(%1)").arg(name);
+    int row = -1;
+    waitFor("the interface " + name, [&] {
+        click(interfaces);
+        row = interfaces.findText(suffix, Qt::MatchEndsWith);
+        if (row < 0) {
+            QTest::keyClick(interfaces.view(), Qt::Key_Escape);
+        }
+        return row >= 0;
+    });
+    pickFromList(interfaces, row);
+    print("Interface: " + interfaces.currentText());
+}
+
+void WindowDriver::discover(int units) const {
+    auto& list = control<QComboBox>("unitSelectPopUp");
+    press("discoverButton");
+    waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+    takePicture("window-discovering");
+    waitFor(QString("%1 units").arg(units), [&] { return list.count() >= units; });
+    printUnits();
+}
+
+void WindowDriver::pickUnit(int row) const {
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    click(units);
+    pickFromList(units, row);
+    auto& parameters = control<QTableView>("unitParameterTableView");
+    waitFor("the unit's parameters",
+            [&] { return units.currentIndex() == row && parameters.model()->rowCount() > 0; });
+}
+
+void WindowDriver::pickParameter(int row) const {
+    auto& parameters = control<QTableView>("unitParameterTableView");
+    auto& editRow = control<QTableView>("editParameterTableView");
+    const QModelIndex cell = parameters.model()->index(row, 0);
+    parameters.scrollTo(cell);
+    click(*parameters.viewport(), parameters.visualRect(cell).center());
+    waitFor("the chosen parameter in the edit row", [&] {
+        return cellText(editRow, 0, 0) == cellText(parameters, row, 0) &&
+               cellText(editRow, 0, 1) == cellText(parameters, row, 1);
+    });
+}
+
+int WindowDriver::rowOfParameter(const QString& name) const {
+    const auto& table = control<QTableView>("unitParameterTableView");
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+        if (cellText(table, row, 0) == name) {
+            return row;
+        }
+    }
+    return -1;
+}
+
+QString WindowDriver::cellText(const QTableView& table, int row, int column) {
+    return table.model()->index(row, column).data().toString();
+}
+
+QString WindowDriver::logText() const {
+    return control<QWidget>("logTextView").property("plainText").toString();
+}
+
+void WindowDriver::printUnits() const {
+    const auto& units = control<QComboBox>("unitSelectPopUp");
+    print(QString("Units: %1").arg(units.count()));
+    for (int index = 0; index < units.count(); ++index) {
+        print("  " + units.itemText(index));
+    }
+}
+
+void WindowDriver::printParameters() const {
+    print("Selected unit: " + control<QComboBox>("unitSelectPopUp").currentText());
+    print("Unit ID: " + control<QLineEdit>("unitIDField").text());
+    const auto& table = control<QTableView>("unitParameterTableView");
+    print("Parameters:");
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+        print(QString("  %1: %2").arg(cellText(table, row, 0), cellText(table, row, 1)));
+    }
+}
+
+void WindowDriver::printLog() const {
+    print("Event log:");
+    for (const QString& line : logText().split('\n')) {
+        print("  " + line);
+    }
+}
+
+void WindowDriver::waitFor(const QString& what, const std::function<bool()>& condition) const {
+    if (!QTest::qWaitFor(condition, patienceInMilliseconds)) {
+        throw Disappointment{QString("waited in vain for %1").arg(what)};
+    }
+}
+
+void WindowDriver::takePicture(const QString& name, QMenu* menu) const {
+    const QString folder = qEnvironmentVariable("KX_TOUR_PICTURES");
+    if (folder.isEmpty()) {
+        return;
+    }
+    if (menu == nullptr) {
+        // The pointer away from the buttons, which light up below it.
+        QTest::mouseMove(_window->windowHandle(), QPoint(1, _window->height() - 2));
+    }
+    QTest::qWait(50);
+    QPixmap picture = _window->grab();
+    if (menu != nullptr) {
+        QPainter(&picture).drawPixmap(menu->pos() - _window->pos(), menu->grab());
+    }
+    const QString path = QDir(folder).filePath(name + ".png");
+    if (!QDir().mkpath(folder) || !picture.save(path)) {
+        throw Disappointment{QString("could not write %1").arg(path)};
+    }
+}
+
+} // namespace kx

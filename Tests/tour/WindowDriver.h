@@ -1,0 +1,85 @@
+// The running program's window, driven from outside: what a person would do with the mouse and the
+// keyboard, and what they would read.
+//
+// It knows the program as controls with object names, and reaches it through the window system's
+// own events. Main thread only; whatever waits does so in a nested event loop, for ten seconds at
+// most, and throws a Disappointment when that was in vain.
+
+#pragma once
+
+#include <QComboBox>
+#include <QMainWindow>
+#include <QMenu>
+#include <QString>
+#include <QTableView>
+#include <functional>
+
+namespace kx {
+
+// What ends a visit early; the text says what was expected.
+struct Disappointment {
+    QString text;
+};
+
+// Prints a line of the record to standard output.
+void print(const QString& line);
+
+class WindowDriver final {
+public:
+    // Waits for the program's main window; everything else needs it.
+    void findWindow();
+    QMainWindow& window() const { return *_window; }
+
+    template<class Control>
+    Control& control(const char* objectName) const {
+        auto* const found = _window->findChild<Control*>(objectName);
+        if (found == nullptr) {
+            throw Disappointment{QString("there is no control %1").arg(objectName)};
+        }
+        return *found;
+    }
+
+    // Clicks through the window system's events, so that what lies on top gets the click.
+    void click(QWidget& widget, QPoint position) const;
+    void click(QWidget& widget) const;
+    void press(const char* buttonName) const;
+
+    // Chooses a row of a list that is open, or is about to be.
+    void pickFromList(QComboBox& popUp, int row) const;
+
+    // Opens the list until it offers the interface of this name in the system.
+    void pickInterface(const QString& name) const;
+
+    // Presses Discover, and waits until at least so many units are listed.
+    void discover(int units) const;
+
+    // Chooses a unit of the list, and waits for its parameters.
+    void pickUnit(int row) const;
+
+    // Clicks a row of the parameter table, and waits until the edit row has its texts.
+    void pickParameter(int row) const;
+
+    // The row of the parameter table with this name, -1 without one.
+    int rowOfParameter(const QString& name) const;
+
+    // The text that a table shows.
+    static QString cellText(const QTableView& table, int row, int column);
+
+    // The whole text of the event log.
+    QString logText() const;
+
+    void printUnits() const;
+    void printParameters() const;
+    void printLog() const;
+
+    void waitFor(const QString& what, const std::function<bool()>& condition) const;
+
+    // Leaves a picture of the window, with an open menu where one is given, in the folder that
+    // KX_TOUR_PICTURES names; none when it is absent.
+    void takePicture(const QString& name, QMenu* menu = nullptr) const;
+
+private:
+    QMainWindow* _window = nullptr;
+};
+
+} // namespace kx
