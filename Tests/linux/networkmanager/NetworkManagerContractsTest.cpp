@@ -31,7 +31,7 @@ public:
     void deactivate(const std::string& identifier) {
         PrivateHost::nmcli({"connection", "down", identifier.c_str()});
     }
-    bool runUntil(const std::function<bool()>& condition) { return eventually(condition); }
+    bool runUntil(const std::function<bool()>& condition) { return handleEventsUntil(condition); }
     void runAWhile() { handleEventsFor(300ms); }
 
 private:
@@ -51,7 +51,7 @@ public:
     NetworkManagerStoreTrait() {
         _host.start();
         _stack.emplace();
-        const bool isReady = eventually([this] {
+        const bool isReady = handleEventsUntil([this] {
             return _stack->store.openSession("trait", nullptr, nullptr)
                 ->copyValue("State:/Network/Service/" + serviceID() + "/IPv4")
                 .has_value();
@@ -69,7 +69,7 @@ public:
     std::string address() { return "192.0.2.5"; }
     void addAddress() { _host.network.addAddress("kx0", "203.0.113.1/24"); }
     void removeAddresses() { _host.network.ip("address flush dev kx0"); }
-    bool runUntil(const std::function<bool()>& condition) { return eventually(condition); }
+    bool runUntil(const std::function<bool()>& condition) { return handleEventsUntil(condition); }
     void runAWhile() { handleEventsFor(300ms); }
 
 private:

@@ -99,7 +99,7 @@ protected:
         ASSERT_TRUE(servicesBecome(titles));
     }
     bool servicesBecome(const Titles& titles) {
-        const bool isSo = eventually([&] { return sources->services() == titles; });
+        const bool isSo = handleEventsUntil([&] { return sources->services() == titles; });
         EXPECT_EQ(sources->services(), titles);
         return isSo;
     }
@@ -157,7 +157,7 @@ TEST_F(NetworkManagerNames, ANewAddressIsToldOnce) {
     sources->watch(addressPattern);
     PrivateHost::nmcli({"connection", "modify", line.c_str(), "ipv4.addresses", "203.0.113.9/28"});
     PrivateHost::nmcli({"device", "reapply", "kx1"});
-    EXPECT_TRUE(eventually(
+    EXPECT_TRUE(handleEventsUntil(
         [&] { return sources->choice("Production line (kx1)") == "203.0.113.9/255.255.255.240"; }));
     EXPECT_EQ(sources->toldAtRest(), (Counts{{addressKey(line), 1}}));
 }
@@ -184,7 +184,7 @@ TEST_F(NetworkManagerNames, AnAddressThatIsNotTheProfilesIsOfferedToo) {
 
 TEST_F(NetworkManagerNames, AProfileWithoutAddressesInTheKernelHasItsSavedOnes) {
     startAndList();
-    ASSERT_TRUE(eventually([&] {
+    ASSERT_TRUE(handleEventsUntil([&] {
         return std::ranges::none_of(sources->profiles.activeProfiles(),
                                     [](const auto& profile) { return profile.addresses.empty(); });
     }));

@@ -31,7 +31,7 @@ protected:
         return result;
     }
     bool namesBecome(const Names& wanted) {
-        const bool isSo = eventually([&] { return names() == wanted; });
+        const bool isSo = handleEventsUntil([&] { return names() == wanted; });
         EXPECT_EQ(names(), wanted);
         return isSo;
     }
@@ -39,7 +39,7 @@ protected:
     bool changesBring(const Names& wanted) {
         Names brought = {"nothing yet"};
         profiles->setChangeAction([&] { brought = names(); });
-        const bool isSo = eventually([&] { return brought == wanted; });
+        const bool isSo = handleEventsUntil([&] { return brought == wanted; });
         profiles->setChangeAction(nullptr);
         return isSo;
     }

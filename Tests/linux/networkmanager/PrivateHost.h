@@ -30,7 +30,7 @@
 namespace kx {
 
 // Handles events until the condition holds; false when it does not within a generous time.
-inline bool eventually(const std::function<bool()>& condition) {
+inline bool handleEventsUntil(const std::function<bool()>& condition) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
     while (!condition() && std::chrono::steady_clock::now() < end) {
         QCoreApplication::processEvents(QEventLoop::AllEvents);
@@ -106,7 +106,7 @@ public:
                     QStringList{"--nofork", "--nopidfile", "--nosyslog",
                                 "--config-file=" + QString::fromStdString(_folder + "/bus.conf")},
                     log());
-        if (!eventually([this] { return busListens(); })) {
+        if (!handleEventsUntil([this] { return busListens(); })) {
             throw std::runtime_error("the bus does not come");
         }
     }

@@ -35,7 +35,7 @@ public:
                 [this](const QDBusConnection& connection) { _sender = connection; });
         _receiver.connect(QString(), QString(), "kx.Test", "answer", this,
                           SLOT(receive(QDBusMessage)));
-        eventually([this] { return _sender.isConnected() && _receiver.isConnected(); });
+        handleEventsUntil([this] { return _sender.isConnected() && _receiver.isConnected(); });
     }
     ~Wire() override { QDBusConnection::disconnectFromPeer("test"); }
 
@@ -45,7 +45,8 @@ public:
         message << value;
         _received = {};
         _sender.send(message);
-        EXPECT_TRUE(eventually([this] { return _received.type() == QDBusMessage::SignalMessage; }));
+        EXPECT_TRUE(
+            handleEventsUntil([this] { return _received.type() == QDBusMessage::SignalMessage; }));
         return _received;
     }
 
