@@ -300,10 +300,12 @@ std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
 }
 
 std::string shownInNote(std::string_view text) {
+    const bool isText = isValidUTF8(bytesOfText(text)); // otherwise each byte counts
     std::string shown;
     std::size_t characters = 0;
     for (const char byte : text) {
-        if (!isContinuationByte(byte) && ++characters > mostShownCharacters) {
+        const bool isCounted = !isText || !isContinuationByte(byte);
+        if (isCounted && ++characters > mostShownCharacters) {
             return shown + "…";
         }
         if (isControlCharacter(byte)) {

@@ -21,6 +21,8 @@
 int main(int argc, char* argv[]) {
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
+    // The name of the desktop entry: by it a desktop gives the window its icon.
+    QApplication::setDesktopFileName("org.kxconfig.KXConfig");
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);

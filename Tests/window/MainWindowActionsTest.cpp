@@ -6,6 +6,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QWheelEvent>
 
 namespace kx {
@@ -191,15 +192,14 @@ TEST_F(MainWindowTest, WhatIsTypedIntoTheEditRowReachesItsDataSource) {
     clickCell("unitParameterTableView", 3, 1);
     control<QWidget>("unitParameterTableView").setFocus();
     press(Qt::Key_Return); // begins typing in the edit row
-    auto* const editor =
+    const QPointer<QLineEdit> editor =
         control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
     type("10001");
     press(Qt::Key_Return);
-    EXPECT_TRUE(QTest::qWaitFor([&] {
-        const auto value = controller.tableViewObjectValueForTableColumnRow({"parameterValue"}, 0);
-        return value == PropertyListValue("10001") && !editor->isVisible();
-    }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return editor == nullptr; }));
+    EXPECT_EQ(controller.tableViewObjectValueForTableColumnRow({"parameterValue"}, 0),
+              PropertyListValue("10001"));
     EXPECT_EQ(cell("editParameterTableView", 0, 1), "10001");
 }
 
