@@ -7,9 +7,9 @@
 #include "doubles/RecordedSystemLog.h"
 
 #include <gtest/gtest.h>
-#include <stdlib.h>
 
 #include <array>
+#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 
@@ -22,6 +22,9 @@ constexpr mode_t program = 0755;
 
 // A network that is ready, with an entry in its table.
 class ARPTableLookup : public testing::Test {
+public:
+    ~ARPTableLookup() override { std::filesystem::remove_all(folder); }
+
 protected:
     static void SetUpTestSuite() {
         auto& network = sharedHost().network;
@@ -31,8 +34,6 @@ protected:
         ASSERT_TRUE(eventually(networkIsReady));
     }
     static void TearDownTestSuite() { sharedHost().network.ip("link del kx5"); }
-
-    ~ARPTableLookup() override { std::filesystem::remove_all(folder); }
 
     // A tool that notes its arguments, one on each line, and then runs these commands.
     std::string notingTool(const std::string& commands) const {

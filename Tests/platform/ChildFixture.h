@@ -18,13 +18,14 @@
 namespace kx {
 
 class ChildFixture : public testing::Test {
-protected:
+public:
     // Here, when what a test's own fixture holds is gone.
     ~ChildFixture() override {
         EXPECT_TRUE(hasNoChild()) << "a child is left";
         EXPECT_EQ(openDescriptors(), _openAtFirst) << "a descriptor is left";
     }
 
+protected:
     // The arguments that make /bin/sh run this script.
     static std::vector<std::string> script(const std::string& text) { return {"-c", text}; }
 

@@ -27,11 +27,13 @@ TEST(ARPTable, TheAddressBehindAtIsNormalised) {
 
 TEST(ARPTable, OutputWithoutAtHasNoAddress) {
     const RecordedSystemLog log;
+    constexpr std::string_view table =
+        "Address                  HWtype  HWaddress           Flags Mask            Iface\n"
+        "10.0.0.5                 ether   00:05:02:0a:0b:0c   CM                    kx0\n";
     for (const std::string_view output :
-         {"", "10.0.0.9 (10.0.0.9) -- no entry\n", "arp: in 2 entries no match found.\n", "at",
-          "a t ",
-          "Address                  HWtype  HWaddress           Flags Mask            Iface\n"
-          "10.0.0.5                 ether   00:05:02:0a:0b:0c   CM                    kx0\n"}) {
+         {std::string_view(), std::string_view("10.0.0.9 (10.0.0.9) -- no entry\n"),
+          std::string_view("arp: in 2 entries no match found.\n"), std::string_view("at"),
+          std::string_view("a t "), table}) {
         EXPECT_EQ(hwAddressStringInToolOutput(output), std::nullopt) << output;
     }
     EXPECT_TRUE(log.lines().empty());
