@@ -13,6 +13,7 @@
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
+#include "platform/qt/LogTextView.h"
 #include "platform/qt/MainWindow.h"
 
 #include <gtest/gtest.h>
@@ -20,7 +21,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>

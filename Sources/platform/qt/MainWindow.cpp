@@ -3,6 +3,7 @@
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
 #include "platform/qt/EditCommands.h"
+#include "platform/qt/FindBar.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
@@ -45,7 +46,9 @@ struct MainWindow::Controls {
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
-        , logTextView(*ui.logTextView) {
+        , logTextView(*ui.logTextView)
+        , findBar(*ui.logTextView, ui.logScrollView) {
+        ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
 
@@ -61,6 +64,7 @@ struct MainWindow::Controls {
     QtTextField optionCommandField;
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
+    FindBar findBar;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -194,6 +198,12 @@ void MainWindow::connectMenus() {
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
     connect(_ui->selectAllAction, &QAction::triggered, this, [this] { selectAll(focusWidget()); });
+    connect(_ui->findAction, &QAction::triggered, this, [this] { findInLog(&FindBar::open); });
+    connect(_ui->findNextAction, &QAction::triggered, this,
+            [this] { findInLog(&FindBar::findNext); });
+    connect(_ui->findPreviousAction, &QAction::triggered, this,
+            [this] { findInLog(&FindBar::findPrevious); });
+    _ui->logTextView->addAction(_ui->findAction);
 }
 
 void MainWindow::connectTables() {
@@ -257,6 +267,13 @@ void MainWindow::sendOption() {
     }
 }
 
+void MainWindow::findInLog(void (FindBar::*step)()) {
+    if (_controls->eventLogDrawer.state() == DrawerState::closed) {
+        perform(&KXConfigAppDelegate::logDrawerButton);
+    }
+    (_controls->findBar.*step)();
+}
+
 void MainWindow::showQuietLine(const QString& text) {
     _ui->quietLine->setText(text);
     _ui->quietLine->setVisible(!text.isEmpty());
@@ -265,7 +282,7 @@ void MainWindow::showQuietLine(const QString& text) {
 void MainWindow::drawerDidChange(DrawerState state) {
     const bool isOut = state == DrawerState::opening || state == DrawerState::open;
     _ui->eventLogAction->setChecked(isOut);
-    if (!isOut && _ui->logTextView->hasFocus()) {
+    if (!isOut && _ui->eventLogDrawer->isAncestorOf(focusWidget())) {
         _ui->logDrawerButton->setFocus();
     }
 }

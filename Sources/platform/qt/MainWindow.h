@@ -16,6 +16,7 @@
 
 namespace kx {
 
+class FindBar;
 class KXConfigAppDelegate;
 
 namespace Ui {
@@ -59,6 +60,7 @@ private:
 
     void perform(Action action);
     void sendOption();
+    void findInLog(void (FindBar::*step)());
     void showQuietLine(const QString& text);
     void drawerDidChange(DrawerState state);
 
