@@ -92,7 +92,7 @@ protected:
     std::string selected() const { return utf8Text(view.selectedText()); }
     std::string clipboard() const { return utf8Text(QGuiApplication::clipboard()->text()); }
     int firstRow() const { return view.verticalScrollBar()->value(); }
-    int rowsInSight() const { return view.verticalScrollBar()->pageStep(); }
+    int linesInSight() const { return view.linesInSight(); }
 
     LogTextView view;
 };
@@ -117,16 +117,16 @@ TEST_F(LogTextViewTest, AnAppendIsOnTheScreenAFrameLater) {
 }
 
 TEST_F(LogTextViewTest, ManyAppendsInOneTurnAreOneFrame) {
-    int scrolls = 0;
-    QObject::connect(view.verticalScrollBar(), &QScrollBar::valueChanged, [&] { ++scrolls; });
+    int frames = 0; // each gives the scroll bar another reach
+    QObject::connect(view.verticalScrollBar(), &QScrollBar::rangeChanged, [&] { ++frames; });
     for (int line = 0; line < 10'000; ++line) {
         view.append("\nUDP listener did receive data. Length: 81");
         view.scrollToEnd();
     }
-    EXPECT_EQ(scrolls, 0);
+    EXPECT_EQ(frames, 0);
     EXPECT_TRUE(QTest::qWaitFor([this] { return view.showsEnd(); }));
-    EXPECT_EQ(scrolls, 1);
-    EXPECT_EQ(firstRow(), 10'001 - rowsInSight());
+    EXPECT_EQ(frames, 1);
+    EXPECT_EQ(firstRow(), 10'001 - linesInSight());
 }
 
 TEST_F(LogTextViewTest, SettingTheTextShowsItsBeginningAtOnce) {
@@ -134,7 +134,7 @@ TEST_F(LogTextViewTest, SettingTheTextShowsItsBeginningAtOnce) {
     EXPECT_GT(firstRow(), 0);
     view.setText(numberedLines(300));
     EXPECT_EQ(firstRow(), 0);
-    EXPECT_EQ(view.verticalScrollBar()->maximum(), 300 - rowsInSight());
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), 300 - linesInSight());
     view.setText("");
     EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(view.toPlainText(), "");
@@ -144,7 +144,7 @@ TEST_F(LogTextViewTest, AnAppendShowsTheEndAlsoAfterTheUserHasScrolledUp) {
     showAppended(numberedLines(500));
     view.verticalScrollBar()->setValue(10);
     showAppended("\nnew");
-    EXPECT_EQ(firstRow(), 501 - rowsInSight());
+    EXPECT_EQ(firstRow(), 501 - linesInSight());
 }
 
 TEST_F(LogTextViewTest, TheEndStaysInSightWhenTheViewIsResized) {
@@ -158,22 +158,58 @@ TEST_F(LogTextViewTest, TheEndStaysInSightWhenTheViewIsResized) {
     EXPECT_EQ(firstRow(), 10);
 }
 
-TEST_F(LogTextViewTest, TheEndOfALongLastLineComesIntoSight) {
-    showAppended("short\n" + std::string(300, 'x'));
-    EXPECT_GT(view.horizontalScrollBar()->value(), 0);
-    EXPECT_TRUE(view.viewport()->rect().contains(view.rectOf(view.text().size()).topLeft()));
-    showAppended("\nshort again");
-    EXPECT_EQ(view.horizontalScrollBar()->value(), 0);
+TEST_F(LogTextViewTest, ALineTooLongForTheViewGoesOnBelow) {
+    view.setText(std::string(120, 'x') + " y\nnext");
+    EXPECT_LE(view.rectOf(119).right(), view.viewport()->width());
+    EXPECT_GT(view.rectOf(119).top(), view.rectOf(0).top());
+    EXPECT_GT(view.rectOf(123).top(), view.rectOf(121).top());
+    const QRect before = view.rectOf(123);
+    view.resize(300, 200);
+    EXPECT_GT(view.rectOf(123).top(), before.top());
+    EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
 }
 
-TEST_F(LogTextViewTest, ScrollsSidewaysAsFarAsTheWidestLineReaches) {
-    showAppended("narrow");
-    EXPECT_EQ(view.horizontalScrollBar()->maximum(), 0);
-    showAppended("\n" + std::string(300, 'x') + "\nnarrow");
-    view.horizontalScrollBar()->setValue(view.horizontalScrollBar()->maximum());
-    const QRect end = view.rectOf(7 + 300);
-    EXPECT_TRUE(view.viewport()->rect().contains(end.topLeft()));
-    EXPECT_GT(end.left(), view.viewport()->width() / 2);
+TEST_F(LogTextViewTest, TheEndOfALongLastLineComesIntoSight) {
+    showAppended(numberedLines(100) + "\n" + std::string(LogText::longestRow - 2, 'x'));
+    EXPECT_TRUE(view.viewport()->rect().contains(view.rectOf(view.text().size())));
+    showAppended(std::string(3 * LogText::longestRow, 'y'));
+    EXPECT_TRUE(view.viewport()->rect().contains(view.rectOf(view.text().size())));
+}
+
+TEST_F(LogTextViewTest, EveryPartOfALineHigherThanTheViewCanBeReached) {
+    view.setText(std::string(LogText::longestRow, 'x'));
+    EXPECT_GT(view.verticalScrollBar()->maximum(), 0);
+    EXPECT_FALSE(view.showsEnd());
+    for (int step = 0; !view.showsEnd() && step < 100; ++step) {
+        QWheelEvent turn(QPointF(5, 5), view.mapToGlobal(QPointF(5, 5)), {}, {0, -120},
+                         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view.viewport(), &turn);
+    }
+    EXPECT_TRUE(view.showsEnd());
+    press(Qt::Key_Home, Qt::ControlModifier);
+    for (int step = 0; !view.showsEnd() && step < 100; ++step) {
+        press(Qt::Key_Down);
+    }
+    EXPECT_TRUE(view.showsEnd());
+    view.verticalScrollBar()->setValue(0);
+    EXPECT_EQ(view.positionAt({0, 0}), 0U);
+    view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum());
+    EXPECT_TRUE(view.showsEnd());
+}
+
+TEST_F(LogTextViewTest, TheWheelScrollsByLines) {
+    view.setText(numberedLines(500));
+    const auto turn = [this](int angle) {
+        QWheelEvent event(QPointF(5, 5), view.mapToGlobal(QPointF(5, 5)), {}, {0, angle},
+                          Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+        QApplication::sendEvent(view.viewport(), &event);
+    };
+    turn(-240);
+    EXPECT_EQ(firstRow(), 2 * QApplication::wheelScrollLines());
+    turn(120);
+    EXPECT_EQ(firstRow(), QApplication::wheelScrollLines());
+    turn(12'000);
+    EXPECT_EQ(firstRow(), 0);
 }
 
 TEST_F(LogTextViewTest, WhatIsSelectedStaysSelectedWhileTextArrives) {
@@ -234,7 +270,7 @@ TEST_F(LogTextViewTest, ADragHeldBelowScrollsOn) {
     const int stopped = firstRow();
     QTest::qWait(100);
     EXPECT_EQ(firstRow(), stopped);
-    EXPECT_GT(view.text().rowAt(view.caret()), static_cast<std::size_t>(rowsInSight()));
+    EXPECT_GT(view.text().rowAt(view.caret()), static_cast<std::size_t>(linesInSight()));
 }
 
 TEST_F(LogTextViewTest, ADragGoesOnHarmlesslyWhenTheTextIsReplaced) {
@@ -291,8 +327,8 @@ TEST_F(LogTextViewTest, KeysStopAtBothEnds) {
 TEST_F(LogTextViewTest, PageKeysScrollByWhatIsInSight) {
     view.setText(numberedLines(500));
     press(Qt::Key_PageDown);
-    EXPECT_EQ(firstRow(), rowsInSight() - 1);
-    EXPECT_EQ(view.text().rowAt(view.caret()), static_cast<std::size_t>(rowsInSight() - 1));
+    EXPECT_EQ(firstRow(), linesInSight() - 1);
+    EXPECT_EQ(view.text().rowAt(view.caret()), static_cast<std::size_t>(linesInSight() - 1));
     press(Qt::Key_PageUp);
     EXPECT_EQ(firstRow(), 0);
     EXPECT_EQ(view.caret(), 0U);
@@ -301,7 +337,7 @@ TEST_F(LogTextViewTest, PageKeysScrollByWhatIsInSight) {
 TEST_F(LogTextViewTest, KeysGoOnFromWhatIsInSight) {
     showAppended(numberedLines(500));
     press(Qt::Key_Up);
-    EXPECT_EQ(view.text().rowAt(view.caret()), static_cast<std::size_t>(500 - rowsInSight() - 1));
+    EXPECT_EQ(view.text().rowAt(view.caret()), static_cast<std::size_t>(500 - linesInSight() - 1));
     view.verticalScrollBar()->setValue(100);
     press(Qt::Key_Down);
     EXPECT_EQ(firstRow(), 101);
@@ -374,7 +410,7 @@ TEST_F(LogTextViewTest, AMillionLinesScrollAndSelect) {
         text += "\nUDP listener did receive data. Length: 81";
     }
     view.setText(text);
-    EXPECT_EQ(view.verticalScrollBar()->maximum(), 1'000'001 - rowsInSight());
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), 1'000'001 - linesInSight());
     showAppended("\nlast");
     press(Qt::Key_End, Qt::ControlModifier);
     EXPECT_EQ(view.text().rowAt(view.caret()), 1'000'001U);
@@ -423,12 +459,12 @@ TEST_F(LogTextViewTest, ShowsTheColoursOfThePalette) {
 
 TEST_F(LogTextViewTest, AnotherFontTakesOtherRoom) {
     showAppended(numberedLines(500));
-    const int rows = rowsInSight();
+    const int rows = linesInSight();
     QFont larger = view.font();
     larger.setPointSize(2 * larger.pointSize());
     view.setFont(larger);
-    EXPECT_LT(rowsInSight(), rows);
-    EXPECT_EQ(view.verticalScrollBar()->maximum(), 500 - rowsInSight());
+    EXPECT_LT(linesInSight(), rows);
+    EXPECT_EQ(view.verticalScrollBar()->maximum(), 500 - linesInSight());
 }
 
 TEST_F(LogTextViewTest, TheCaretShowsOnlyWhereTheKeyboardIs) {

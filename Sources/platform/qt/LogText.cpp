@@ -32,25 +32,6 @@ std::string_view wholeCharacters(std::string_view text, std::size_t most) {
     return text.substr(0, size);
 }
 
-std::size_t columnsOf(std::string_view row) {
-    constexpr unsigned char firstOfWide = 0xE1; // U+1000 and above
-    std::size_t columns = 0;
-    for (const char byte : row) {
-        if (byte == '\t') {
-            columns += LogText::columnsOfTab - columns % LogText::columnsOfTab;
-        } else if (!continuesCharacter(byte) && byte != '\n') {
-            columns += static_cast<unsigned char>(byte) >= firstOfWide ? 2 : 1;
-        }
-    }
-    return columns;
-}
-
-// Spares most rows the counting.
-std::size_t widerOf(std::size_t widest, std::string_view row) {
-    const bool mayBeWider = row.size() > widest || row.find('\t') != std::string_view::npos;
-    return mayBeWider ? std::max(widest, columnsOf(row)) : widest;
-}
-
 } // namespace
 
 LogText::LogText() {
@@ -61,7 +42,6 @@ void LogText::clear() {
     _chunks.clear();
     _chunks.shrink_to_fit();
     _chunks.emplace_back();
-    _widestEndedRow = 0;
     _charactersBeforeChunk.clear();
 }
 
@@ -90,7 +70,6 @@ void LogText::addToLastRow(std::string_view text) {
 }
 
 void LogText::beginRow() {
-    _widestEndedRow = widerOf(_widestEndedRow, lastRow());
     Chunk& chunk = _chunks.back();
     chunk.rowStarts.push_back(static_cast<std::uint16_t>(chunk.text.size()));
 }
@@ -142,10 +121,6 @@ std::size_t LogText::rowAt(std::size_t position) const {
     const std::size_t within = position - chunk.position;
     const auto next = std::upper_bound(chunk.rowStarts.begin(), chunk.rowStarts.end(), within);
     return chunk.firstRow + static_cast<std::size_t>(next - chunk.rowStarts.begin()) - 1;
-}
-
-std::size_t LogText::widestRow() const {
-    return widerOf(_widestEndedRow, lastRow());
 }
 
 const LogText::Chunk& LogText::chunkAt(std::size_t position) const {

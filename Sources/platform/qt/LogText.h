@@ -23,10 +23,7 @@ namespace kx {
 class LogText {
 public:
     // In bytes, without the line feed. A longer line goes on in the next row.
-    static constexpr std::size_t longestRow = 4096;
-
-    // From one multiple of this to the next a tab reaches.
-    static constexpr std::size_t columnsOfTab = 4;
+    static constexpr std::size_t longestRow = 1024;
 
     struct Row {
         std::size_t position;  // of its first byte
@@ -55,10 +52,6 @@ public:
     // The row that holds a position. At a break inside a long line it is the later one.
     std::size_t rowAt(std::size_t position) const;
 
-    // The columns of the widest row, in characters of a fixed width: one for most, two for those
-    // that East Asian fonts make wide. An estimate, good enough for the reach of a scroll bar.
-    std::size_t widestRow() const;
-
     // A part of the text that begins at or before the position, for whoever goes through all of it:
     // the next one begins where this one ends. They break between rows.
     Piece pieceAt(std::size_t position) const;
@@ -86,7 +79,6 @@ private:
     const Chunk& chunkAt(std::size_t position) const;
 
     std::vector<Chunk> _chunks;
-    std::size_t _widestEndedRow = 0;
     mutable std::vector<std::size_t> _charactersBeforeChunk; // for the first chunks, ever more
 };
 

@@ -1,16 +1,16 @@
 #include "platform/qt/LogTextView.h"
 
-#include "platform/qt/LogRowLayout.h"
 #include "platform/qt/LogTextAccessible.h"
 
+#include <QApplication>
 #include <QClipboard>
-#include <QEvent>
 #include <QFontDatabase>
-#include <QGuiApplication>
 #include <QPainter>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QStyle>
 #include <QTimerEvent>
+#include <QWheelEvent>
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -24,7 +24,7 @@ constexpr int millisecondsOfFrame = 16;
 
 constexpr int margin = 4; // round the text, in pixels
 
-constexpr int columnsOfScrollStep = 8;
+constexpr int columnsOfTab = 4;
 
 } // namespace
 
@@ -33,6 +33,7 @@ LogTextView::LogTextView(QWidget* parent)
     installLogTextAccessible();
     setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     setFocusPolicy(Qt::StrongFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     viewport()->setCursor(Qt::IBeamCursor);
     fitToFont();
 }
@@ -42,14 +43,11 @@ void LogTextView::setText(std::string_view text) {
     _text.clear();
     _text.append(text);
     _announced = 0;
-    _widestShown = 0;
     _endIsWanted = false;
-    _followsEnd = false;
     _dragOrigin = {0, 0};
     setSelection(0, 0);
+    _top = {};
     showFrame();
-    verticalScrollBar()->setValue(0);
-    horizontalScrollBar()->setValue(0);
 }
 
 void LogTextView::append(std::string_view text) {
@@ -63,7 +61,7 @@ void LogTextView::scrollToEnd() {
 }
 
 bool LogTextView::showsEnd() const {
-    return !_nextFrame.isActive() && verticalScrollBar()->value() == verticalScrollBar()->maximum();
+    return !_nextFrame.isActive() && _top == _lowestTop;
 }
 
 QString LogTextView::toPlainText() const {
@@ -119,17 +117,16 @@ void LogTextView::setSelection(std::size_t anchor, std::size_t caret) {
 void LogTextView::frameIsBehind() {
     if (!_nextFrame.isActive()) {
         const qint64 since = _sinceFrame.isValid() ? _sinceFrame.elapsed() : millisecondsOfFrame;
-        const auto wait = static_cast<int>(
-            std::clamp<qint64>(millisecondsOfFrame - since, 0, millisecondsOfFrame));
-        _nextFrame.start(wait, Qt::PreciseTimer, this);
+        const qint64 wait = std::clamp<qint64>(millisecondsOfFrame - since, 0, millisecondsOfFrame);
+        _nextFrame.start(static_cast<int>(wait), Qt::PreciseTimer, this);
     }
 }
 
 void LogTextView::showFrame() {
     _nextFrame.stop();
-    fitScrollBars();
+    fitScrollBar();
     if (std::exchange(_endIsWanted, false)) {
-        showEnd();
+        setTop(_lowestTop);
     }
     viewport()->update();
     announceInsertion(*this, std::exchange(_announced, _text.size()));
@@ -140,7 +137,7 @@ void LogTextView::timerEvent(QTimerEvent* event) {
     if (event->timerId() == _nextFrame.timerId()) {
         showFrame();
     } else if (event->timerId() == _dragScroll.timerId()) {
-        scrollTowards(_dragPoint);
+        scrollBy(_dragPoint.y() < 0 ? -1 : 1);
         dragTo(_dragPoint);
     } else {
         QAbstractScrollArea::timerEvent(event);
@@ -151,146 +148,136 @@ void LogTextView::timerEvent(QTimerEvent* event) {
 
 void LogTextView::fitToFont() {
     const QFontMetricsF metrics(font());
-    _rowHeight = std::max(1, static_cast<int>(std::ceil(metrics.lineSpacing())));
-    _columnWidth = metrics.horizontalAdvance('0');
-    _widestShown = 0;
-    fitScrollBars();
+    _looks.font = font();
+    _looks.lineHeight = std::max(1, static_cast<int>(std::ceil(metrics.lineSpacing())));
+    _looks.baseLine = metrics.ascent();
+    _looks.blank = metrics.horizontalAdvance(' ');
+    _looks.tabStop = columnsOfTab * _looks.blank;
+    fitToSize();
+}
+
+// A view that showed the end goes on doing so.
+void LogTextView::fitToSize() {
+    const bool showedEnd = _top == _lowestTop && _top != LogLine();
+    _looks.width = std::max<qreal>(_looks.blank, viewport()->width() - 2 * margin);
+    _top.line = std::min(_top.line, _lines.layOut(_top.row).lineCount() - 1);
+    fitScrollBar();
+    if (showedEnd) {
+        setTop(_lowestTop);
+    }
     viewport()->update();
 }
 
-void LogTextView::fitScrollBars() {
-    const auto rows = static_cast<int>(_text.rowCount());
-    const auto inSight = static_cast<int>(rowsInSight());
-    verticalScrollBar()->setRange(0, std::max(0, rows - inSight));
-    verticalScrollBar()->setPageStep(inSight);
-
-    const qreal widest =
-        std::max(static_cast<qreal>(_text.widestRow()) * _columnWidth, _widestShown);
-    const auto width = static_cast<int>(std::ceil(widest)) + 2 * margin;
-    horizontalScrollBar()->setRange(0, std::max(0, width - viewport()->width()));
-    horizontalScrollBar()->setPageStep(viewport()->width());
-    horizontalScrollBar()->setSingleStep(static_cast<int>(columnsOfScrollStep * _columnWidth));
+// The bar counts rows. Its last step leads to the end, wherever in a row the view then begins.
+void LogTextView::fitScrollBar() {
+    const LogLine last = _lines.lineOf(_text.size());
+    _lowestTop = _lines.moved(last, 1 - linesInSight());
+    const std::size_t maximum = _lowestTop.row + (_lowestTop.line > 0 ? 1 : 0);
+    const LogLine top = _top; // the bar may move, and the view with it
+    verticalScrollBar()->setPageStep(linesInSight());
+    verticalScrollBar()->setRange(0, static_cast<int>(maximum));
+    setTop(top);
 }
 
-// The beginnings of the rows stay in sight when the end needs no other place.
-void LogTextView::showEnd() {
-    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-    horizontalScrollBar()->setValue(0);
-    showPosition(_text.size());
-    _followsEnd = true;
+void LogTextView::setTop(LogLine top) {
+    _top = std::min(top, _lowestTop);
+    const QSignalBlocker onlyTheBar(verticalScrollBar());
+    verticalScrollBar()->setValue(_top == _lowestTop ? verticalScrollBar()->maximum()
+                                                     : static_cast<int>(_top.row));
+    viewport()->update();
+}
+
+void LogTextView::scrollContentsBy(int /*dx*/, int /*dy*/) {
+    const QScrollBar& bar = *verticalScrollBar();
+    setTop(bar.value() == bar.maximum() ? _lowestTop
+                                        : LogLine{static_cast<std::size_t>(bar.value()), 0});
+}
+
+void LogTextView::scrollBy(int lines) {
+    setTop(_lines.moved(_top, lines));
+}
+
+void LogTextView::wheelEvent(QWheelEvent* event) {
+    constexpr int angleOfStep = 120;
+    _wheelAngle += event->angleDelta().y() * QApplication::wheelScrollLines();
+    scrollBy(-_wheelAngle / angleOfStep);
+    _wheelAngle %= angleOfStep;
+    event->accept();
+}
+
+int LogTextView::linesInSight() const {
+    return std::max(1, (viewport()->height() - margin) / _looks.lineHeight);
 }
 
 void LogTextView::showPosition(std::size_t position) {
-    fitScrollBars();
-    const auto row = static_cast<int>(_text.rowAt(position));
-    QScrollBar& vertical = *verticalScrollBar();
-    const int last = vertical.value() + static_cast<int>(rowsInSight()) - 1;
-    if (row < vertical.value()) {
-        vertical.setValue(row);
-    } else if (row > last) {
-        vertical.setValue(vertical.value() + row - last);
+    fitScrollBar();
+    const LogLine line = _lines.lineOf(position);
+    if (line < _top) {
+        setTop(line);
+    } else if (_lines.distance(_top, line, linesInSight()) == linesInSight()) {
+        setTop(_lines.moved(line, 1 - linesInSight()));
     }
-
-    QScrollBar& horizontal = *horizontalScrollBar();
-    const int x = static_cast<int>(xOf(position)) + margin;
-    if (x - margin < horizontal.value()) {
-        horizontal.setValue(x <= viewport()->width() - margin ? 0 : x - margin);
-    } else if (x > horizontal.value() + viewport()->width() - margin) {
-        horizontal.setValue(x - viewport()->width() + margin);
-    }
-}
-
-void LogTextView::scrollTowards(QPoint point) {
-    const auto stepFrom = [](int value, int size) { return value < 0 ? -1 : value < size ? 0 : 1; };
-    const int rows = stepFrom(point.y(), viewport()->height());
-    const int columns = stepFrom(point.x(), viewport()->width());
-    verticalScrollBar()->setValue(verticalScrollBar()->value() + rows);
-    horizontalScrollBar()->setValue(horizontalScrollBar()->value() +
-                                    columns * horizontalScrollBar()->singleStep());
-}
-
-void LogTextView::scrollContentsBy(int dx, int dy) {
-    QAbstractScrollArea::scrollContentsBy(dx, dy);
-    _followsEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
-}
-
-std::size_t LogTextView::firstRow() const {
-    return std::min(static_cast<std::size_t>(verticalScrollBar()->value()), _text.rowCount() - 1);
-}
-
-std::size_t LogTextView::rowsInSight() const {
-    return static_cast<std::size_t>(std::max(1, viewport()->height() / _rowHeight));
-}
-
-qreal LogTextView::xOf(std::size_t position) const {
-    return LogRowLayout(_text.row(_text.rowAt(position)), font()).xOf(position);
-}
-
-std::size_t LogTextView::positionInRow(std::size_t row, qreal x) const {
-    return LogRowLayout(_text.row(row), font()).positionAt(x);
-}
-
-std::size_t LogTextView::rowAt(QPoint point) const {
-    const auto below = static_cast<int>(std::floor(static_cast<double>(point.y()) / _rowHeight));
-    const int last = static_cast<int>(_text.rowCount()) - 1;
-    return static_cast<std::size_t>(std::clamp(static_cast<int>(firstRow()) + below, 0, last));
-}
-
-qreal LogTextView::xInRow(QPoint point) const {
-    return point.x() - margin + horizontalScrollBar()->value();
 }
 
 QRect LogTextView::rectOf(std::size_t position) const {
-    const int row = static_cast<int>(_text.rowAt(position)) - static_cast<int>(firstRow());
-    const int x = static_cast<int>(xOf(position)) + margin - horizontalScrollBar()->value();
-    return {x, row * _rowHeight, static_cast<int>(_columnWidth), _rowHeight};
+    const LogLine line = _lines.lineOf(position);
+    const int below = line < _top ? -1 : _lines.distance(_top, line, linesInSight() + 1);
+    if (below < 0 || below > linesInSight()) {
+        return {};
+    }
+    const auto x = static_cast<int>(_lines.layOut(line.row).xOf(position));
+    return {margin + x, margin + below * _looks.lineHeight, static_cast<int>(_looks.blank),
+            _looks.lineHeight};
+}
+
+LogLine LogTextView::lineAt(QPoint point) const {
+    const double below = std::floor(static_cast<double>(point.y() - margin) / _looks.lineHeight);
+    return _lines.moved(_top, static_cast<int>(below));
 }
 
 std::size_t LogTextView::positionAt(QPoint point) const {
-    return positionInRow(rowAt(point), xInRow(point));
+    const LogLine line = lineAt(point);
+    return _lines.layOut(line.row).positionAt(line.line, point.x() - margin);
 }
 
 LogRange LogTextView::unitAt(QPoint point, LogUnit unit) const {
-    const LogRowLayout layout(_text.row(rowAt(point)), font());
-    const qreal x = xInRow(point);
-    const bool isWord = unit == LogUnit::word;
-    return unitAround(_text, isWord ? layout.characterAt(x) : layout.positionAt(x), unit);
+    if (unit != LogUnit::word) {
+        return unitAround(_text, positionAt(point), unit);
+    }
+    const LogLine line = lineAt(point);
+    const LogRowLayout layout = _lines.layOut(line.row);
+    return unitAround(_text, layout.characterAt(line.line, point.x() - margin), unit);
 }
 
 // --- Looks ---
 
 void LogTextView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
-    const QPalette::ColorGroup group =
-        hasFocus() && isActiveWindow() ? QPalette::Active : QPalette::Inactive;
+    const bool hasKeyboard = hasFocus() && isActiveWindow();
+    const QPalette::ColorGroup group = hasKeyboard ? QPalette::Active : QPalette::Inactive;
     const LogRowLayout::Selection selected{selection().from, selection().to,
                                            palette().color(group, QPalette::HighlightedText),
                                            palette().color(group, QPalette::Highlight)};
     painter.setPen(palette().color(QPalette::Text));
-    const qreal baseLine = QFontMetricsF(font()).ascent();
-    const qreal left = margin - horizontalScrollBar()->value();
-    const auto top = static_cast<std::size_t>(std::max(0, event->rect().top() / _rowHeight));
-    const auto bottom = static_cast<std::size_t>(std::max(0, event->rect().bottom() / _rowHeight));
-    const std::size_t end = std::min(firstRow() + bottom + 1, _text.rowCount());
-    qreal widest = _widestShown;
-    for (std::size_t row = firstRow() + top; row < end; ++row) {
-        LogRowLayout layout(_text.row(row), font());
-        const auto below = static_cast<int>(row - firstRow()) * _rowHeight;
-        layout.draw(painter, QPointF(left, below), baseLine, selected);
-        widest = std::max(widest, layout.width());
-        paintCaret(painter, row);
+    int y = margin - _top.line * _looks.lineHeight;
+    for (std::size_t row = _top.row; row < _text.rowCount() && y < viewport()->height(); ++row) {
+        LogRowLayout layout = _lines.layOut(row);
+        const int below = y + layout.lineCount() * _looks.lineHeight;
+        if (event->rect().top() < below && event->rect().bottom() >= y) {
+            layout.draw(painter, QPointF(margin, y), selected);
+        }
+        y = below;
     }
-    if (widest > _widestShown) {
-        _widestShown = widest;
-        frameIsBehind(); // the estimate of the scroll bar's reach may have been too small
+    if (hasFocus()) {
+        paintCaret(painter);
     }
 }
 
-void LogTextView::paintCaret(QPainter& painter, std::size_t row) {
-    if (hasFocus() && _text.rowAt(_caret) == row) {
-        const QRect place = rectOf(_caret);
-        const int width = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);
-        painter.fillRect(place.x(), place.y(), width, place.height(),
+void LogTextView::paintCaret(QPainter& painter) {
+    const QRect place = rectOf(_caret);
+    const int width = style()->pixelMetric(QStyle::PM_TextCursorWidth, nullptr, this);
+    if (!place.isNull()) {
+        painter.fillRect(QRect(place.topLeft(), QSize(width, place.height())),
                          palette().color(QPalette::Text));
     }
 }
@@ -317,12 +304,7 @@ void LogTextView::focusOutEvent(QFocusEvent* event) {
 
 void LogTextView::resizeEvent(QResizeEvent* event) {
     QAbstractScrollArea::resizeEvent(event);
-    const bool followsEnd = _followsEnd;
-    fitScrollBars();
-    if (followsEnd) {
-        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-        _followsEnd = true;
-    }
+    fitToSize();
 }
 
 } // namespace kx

@@ -1,9 +1,10 @@
 // The view of the event log: fixed-width text that cannot be changed, but selected, copied and
-// searched.
+// searched. Lines too long for the view go on in the next one.
 //
 // Made for a log that grows fast and without limit. Appending costs what is appended; what is on
 // the screen follows in frames of its own, so it may lag the text by one frame, while whoever reads
-// the text reads all of it. Only the rows in sight are ever laid out. At rest nothing wakes up.
+// the text reads all of it. Only the rows in sight are ever laid out, and the scroll bar counts
+// rows. At rest nothing wakes up.
 //
 // Selecting works as in the platform's text fields: drag, double click for words, triple click for
 // lines, Shift with a click or a movement key; what is selected becomes the primary selection where
@@ -15,6 +16,7 @@
 
 #pragma once
 
+#include "platform/qt/LogLines.h"
 #include "platform/qt/LogMovement.h"
 #include "platform/qt/LogText.h"
 
@@ -59,12 +61,17 @@ public:
     // Puts what is selected on the clipboard. Leaves the clipboard alone when nothing is.
     void copy() const;
 
-    // For a screen reader, relative to the viewport.
+    // Where the character after the position is, in the viewport. Empty when it is not in sight.
     QRect rectOf(std::size_t position) const;
+
+    // The position nearest to a point of the viewport, which may lie outside.
     std::size_t positionAt(QPoint point) const;
 
     // Scrolls as little as that needs.
     void showPosition(std::size_t position);
+
+    // How many lines fit into the view.
+    int linesInSight() const;
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -80,18 +87,24 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
     void timerEvent(QTimerEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
-    void fitToFont();
     void frameIsBehind();
     void showFrame();
-    void fitScrollBars();
-    void showEnd();
-    void scrollTowards(QPoint point);
-    void paintCaret(QPainter& painter, std::size_t row);
+
+    void fitToFont();
+    void fitToSize();
+    void fitScrollBar();
+    void setTop(LogLine top);
+    void scrollBy(int lines);
+    LogLine lineAt(QPoint point) const;
+    LogRange unitAt(QPoint point, LogUnit unit) const;
+    void paintCaret(QPainter& painter);
 
     bool pressMovementKey(const QKeyEvent& event);
-    std::size_t movedByRows(int rows);
+    qreal xOfCaret() const;
+    std::size_t positionLinesFromCaret(int lines) const;
     void moveCaret(std::size_t caret, bool selects);
     void bringCaretIntoSight();
     void setSelection(std::size_t anchor, std::size_t caret);
@@ -100,28 +113,21 @@ private:
     void beginDrag(QPoint point, LogUnit unit);
     void dragTo(QPoint point);
 
-    std::size_t firstRow() const;
-    std::size_t rowsInSight() const; // that fit entirely
-    qreal xOf(std::size_t position) const;
-    std::size_t positionInRow(std::size_t row, qreal x) const;
-    std::size_t rowAt(QPoint point) const;
-    qreal xInRow(QPoint point) const;
-    LogRange unitAt(QPoint point, LogUnit unit) const;
-
     LogText _text;
+    LogLooks _looks;
+    LogLines _lines{_text, _looks};
+
     std::size_t _anchor = 0;
     std::size_t _caret = 0;
     qreal _wantedX = -1; // that moves up and down keep to, negative after any other move
 
-    int _rowHeight = 1;
-    qreal _columnWidth = 1;
-    qreal _widestShown = 0; // among the rows laid out so far, in pixels
-
+    LogLine _top;        // the first line in sight
+    LogLine _lowestTop;  // with the end of the text in sight, in the frame that is shown
+    int _wheelAngle = 0; // turned, and not yet scrolled by
     bool _endIsWanted = false;
-    bool _followsEnd = false;   // when the view is resized
-    std::size_t _announced = 0; // up to this position, to assistive technology
-    QBasicTimer _nextFrame;     // runs while the frame shown is behind the text
+    QBasicTimer _nextFrame; // runs while the frame shown is behind the text
     QElapsedTimer _sinceFrame;
+    std::size_t _announced = 0; // up to this position, to assistive technology
 
     LogUnit _dragUnit = LogUnit::character;
     LogRange _dragOrigin{0, 0};

@@ -8,7 +8,6 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMouseEvent>
-#include <QScrollBar>
 #include <QStyleHints>
 #include <algorithm>
 
@@ -40,7 +39,7 @@ constexpr MovementKey movementKeys[] = {
 struct VerticalKey {
     QKeySequence::StandardKey moves;
     QKeySequence::StandardKey selects;
-    int rows;
+    int lines;
     int pages;
 };
 
@@ -78,28 +77,30 @@ bool LogTextView::pressMovementKey(const QKeyEvent& event) {
         const bool selects = event.matches(each.selects);
         if (selects || event.matches(each.moves)) {
             bringCaretIntoSight();
-            const int page = std::max(1, static_cast<int>(rowsInSight()) - 1);
-            const qreal wantedX = _wantedX < 0 ? xOf(_caret) : _wantedX;
+            const qreal wantedX = _wantedX < 0 ? xOfCaret() : _wantedX;
+            const int page = each.pages * std::max(1, linesInSight() - 1);
             _wantedX = wantedX;
-            verticalScrollBar()->setValue(verticalScrollBar()->value() + each.pages * page);
-            moveCaret(movedByRows(each.rows + each.pages * page), selects);
-            _wantedX = wantedX;
+            scrollBy(page);
+            moveCaret(positionLinesFromCaret(each.lines + page), selects);
+            _wantedX = wantedX; // moving the caret has let go of it
             return true;
         }
     }
     return false;
 }
 
-// Beyond the first and the last row the way leads to the end of the text on that side.
-std::size_t LogTextView::movedByRows(int rows) {
-    const auto row = static_cast<qint64>(_text.rowAt(_caret)) + rows;
-    if (row < 0) {
-        return 0;
+qreal LogTextView::xOfCaret() const {
+    return _lines.layOut(_text.rowAt(_caret)).xOf(_caret);
+}
+
+// Beyond the first and the last line the way leads to the end of the text on that side.
+std::size_t LogTextView::positionLinesFromCaret(int lines) const {
+    const LogLine from = _lines.lineOf(_caret);
+    const LogLine to = _lines.moved(from, lines);
+    if (to == from) {
+        return lines < 0 ? 0 : _text.size();
     }
-    if (row >= static_cast<qint64>(_text.rowCount())) {
-        return _text.size();
-    }
-    return positionInRow(static_cast<std::size_t>(row), _wantedX);
+    return _lines.layOut(to.row).positionAt(to.line, _wantedX);
 }
 
 void LogTextView::moveCaret(std::size_t caret, bool selects) {
@@ -111,10 +112,11 @@ void LogTextView::moveCaret(std::size_t caret, bool selects) {
 }
 
 void LogTextView::bringCaretIntoSight() {
-    const std::size_t row = _text.rowAt(_caret);
-    const std::size_t last = std::min(firstRow() + rowsInSight(), _text.rowCount()) - 1;
-    if (_anchor == _caret && (row < firstRow() || row > last)) {
-        const std::size_t start = _text.row(row < firstRow() ? firstRow() : last).position;
+    const LogLine line = _lines.lineOf(_caret);
+    const LogLine bottom = _lines.moved(_top, linesInSight() - 1);
+    if (_anchor == _caret && (line < _top || line > bottom)) {
+        const LogLine edge = line < _top ? _top : bottom;
+        const std::size_t start = _lines.layOut(edge.row).positionAt(edge.line, 0);
         setSelection(start, start);
     }
 }
@@ -154,7 +156,8 @@ void LogTextView::mouseMoveEvent(QMouseEvent* event) {
         return;
     }
     dragTo(event->pos());
-    if (viewport()->rect().contains(event->pos())) {
+    const bool isBeside = event->pos().y() >= 0 && event->pos().y() < viewport()->height();
+    if (isBeside) {
         _dragScroll.stop();
     } else if (!_dragScroll.isActive()) {
         _dragScroll.start(millisecondsOfDragScroll, this);
