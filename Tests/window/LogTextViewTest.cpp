@@ -129,6 +129,24 @@ TEST_F(LogTextViewTest, ManyAppendsInOneTurnAreOneFrame) {
     EXPECT_EQ(firstRow(), 10'001 - linesInSight());
 }
 
+TEST_F(LogTextViewTest, AtRestNothingWakesUp) {
+    class TimerCount final : public QObject {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            events += event->type() == QEvent::Timer ? 1 : 0;
+            return false;
+        }
+        int events = 0;
+    };
+    TimerCount timers;
+    view.installEventFilter(&timers);
+    showAppended(numberedLines(500));
+    EXPECT_GT(timers.events, 0);
+    timers.events = 0;
+    QTest::qWait(200);
+    EXPECT_EQ(timers.events, 0);
+}
+
 TEST_F(LogTextViewTest, SettingTheTextShowsItsBeginningAtOnce) {
     showAppended(numberedLines(500));
     EXPECT_GT(firstRow(), 0);
