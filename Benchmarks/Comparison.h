@@ -13,4 +13,10 @@ struct Comparison {
     Comparison(std::string what, std::string ours, std::string reference);
 };
 
+// Adds a row to the table: a ratio that the benchmark itself finds and leaves in its counter
+// "ratio". Called at static initialisation, too.
+struct MeasuredRatio {
+    MeasuredRatio(std::string what, std::string benchmark);
+};
+
 } // namespace kx

@@ -1,76 +1,200 @@
-// Appending entries to the event log in the real window, off screen, with the drawer open and
-// closed. Each round appends a thousand entries and lets the window paint.
+// The event log in the real window: replies with the drawer open and closed, appending to long
+// logs, the memory that they take, opening the drawer on them.
 
 #include "Comparison.h"
-#include "KXConfigAppDelegate.h"
-#include "doubles/FixedWallClock.h"
-#include "doubles/ManualRunLoop.h"
-#include "doubles/RecordedOutlets.h"
-#include "doubles/ScriptedHostResolver.h"
-#include "doubles/ScriptedSystemCalls.h"
-#include "platform/qt/MainWindow.h"
+#include "LogWindow.h"
+#include "ProcessorTime.h"
 
 #include <benchmark/benchmark.h>
+#include <malloc.h>
 
 #include <QApplication>
+#include <algorithm>
+#include <chrono>
 
 namespace kx {
 
 namespace {
 
-constexpr int entries = 1000;
+using Clock = std::chrono::steady_clock;
+using Seconds = std::chrono::duration<double>;
 
-void handleEvents() {
-    QApplication::processEvents(QEventLoop::AllEvents);
-}
+// Of datagrams, as the Qt loop hands them over between two turns of Qt's.
+constexpr std::size_t batch = 32;
 
-void appendEntries(benchmark::State& state, bool drawerIsOpen) {
-    ManualRunLoop runLoop;
-    ScriptedHostResolver resolver;
-    ScriptedSystemCalls systemCalls;
-    const FixedWallClock wallClock(2026, 3, 5, 14, 7, 0);
-    RecordedApplication application;
-    MainWindow window;
-    KXConfigAppDelegate controller(
-        window.outlets(), {runLoop, resolver, systemCalls, wallClock, application, nullptr, {}});
-    window.connectActions(controller);
-    window.show();
-    controller.applicationDidFinishLaunching();
-    const auto wanted = drawerIsOpen ? DrawerState::open : DrawerState::closed;
-    if (drawerIsOpen) {
-        controller.logDrawerButton();
-    }
-    while (window.outlets().eventLogDrawer->state() != wanted) {
-        QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
+constexpr int longLog = 1'000'000;
+constexpr int shortLog = 100'000;
 
-    for (auto _ : state) {
-        for (int i = 0; i < entries; ++i) {
-            controller.appendString("\nUDP listener did receive data. Length: 81");
+// The longest turn of the loop meanwhile.
+Seconds receiveReplies(LogWindow& window, const std::vector<Bytes>& replies) {
+    Seconds longest{};
+    for (std::size_t next = 0; next < replies.size();) {
+        const auto start = Clock::now();
+        for (const std::size_t end = std::min(replies.size(), next + batch); next < end; ++next) {
+            window.receive(replies[next]);
         }
-        handleEvents();
-        state.PauseTiming();
-        controller.discoverButton(); // empties the log
-        handleEvents();
-        state.ResumeTiming();
+        LogWindow::handleEvents();
+        longest = std::max<Seconds>(longest, Clock::now() - start);
     }
-    state.SetItemsProcessed(state.iterations() * entries);
-    window.disconnectActions();
-    controller.applicationWillTerminate();
+    window.showEnd();
+    return longest;
 }
 
-void appendWithDrawerClosed(benchmark::State& state) {
-    appendEntries(state, false);
+void receiveReplies(benchmark::State& state, bool drawerIsOpen) {
+    const std::vector<Bytes> replies = repliesOfUnits(5000);
+    LogWindow window;
+    if (drawerIsOpen) {
+        window.openDrawer();
+    }
+    for (auto _ : state) {
+        const auto before = processorTime();
+        receiveReplies(window, replies);
+        state.SetIterationTime((processorTime() - before).count());
+        window.controller().discoverButton(); // empties the log
+        LogWindow::handleEvents();
+    }
+    state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(replies.size()));
 }
-BENCHMARK(appendWithDrawerClosed)->Unit(benchmark::kMicrosecond);
 
-void appendWithDrawerOpen(benchmark::State& state) {
-    appendEntries(state, true);
+void repliesWithDrawerClosed(benchmark::State& state) {
+    receiveReplies(state, false);
 }
-BENCHMARK(appendWithDrawerOpen)->Unit(benchmark::kMicrosecond);
+BENCHMARK(repliesWithDrawerClosed)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
 
-const Comparison comparison("append 1,000 entries to the log, drawer open beside drawer closed",
-                            "appendWithDrawerOpen", "appendWithDrawerClosed");
+void repliesWithDrawerOpen(benchmark::State& state) {
+    receiveReplies(state, true);
+}
+BENCHMARK(repliesWithDrawerOpen)->UseManualTime()->Iterations(3)->Unit(benchmark::kMillisecond);
+
+const Comparison repliesRow("5,000 replies logged, drawer open beside drawer closed",
+                            "repliesWithDrawerOpen", "repliesWithDrawerClosed");
+
+void longestTurnDuringReplies(benchmark::State& state) {
+    const std::vector<Bytes> replies = repliesOfUnits(10'000);
+    constexpr Seconds allowed = std::chrono::milliseconds(50);
+    Seconds longest{};
+    for (auto _ : state) {
+        LogWindow window;
+        window.openDrawer();
+        longest = std::max(longest, receiveReplies(window, replies));
+    }
+    state.counters["ratio"] = longest / allowed;
+}
+BENCHMARK(longestTurnDuringReplies)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+const MeasuredRatio
+    longestTurnRow("10,000 replies, drawer open: longest turn of the loop, beside 50 ms",
+                   "longestTurnDuringReplies");
+
+// Fresh pages of memory cost more than used ones. What earlier rounds have left would serve the
+// shorter log only, so both get fresh ones.
+void forgetFreedMemory() {
+    mallopt(M_MMAP_THRESHOLD, 1 << 20); // once set, it no longer grows with what was freed
+    malloc_trim(0);
+}
+
+void appendToLog(benchmark::State& state, int lines) {
+    constexpr int appended = 30'000; // so few that the controller's text grows in place
+    forgetFreedMemory();
+    LogWindow window;
+    window.openDrawer();
+    window.appendLines(lines);
+    window.showEnd();
+    forgetFreedMemory();
+    for (auto _ : state) {
+        const auto before = processorTime();
+        for (int line = 0; line < appended; line += static_cast<int>(batch)) {
+            window.appendLines(static_cast<int>(batch));
+            LogWindow::handleEvents();
+        }
+        window.showEnd();
+        state.SetIterationTime((processorTime() - before).count());
+    }
+    state.SetItemsProcessed(state.iterations() * appended);
+}
+
+void appendToShortLog(benchmark::State& state) {
+    appendToLog(state, shortLog);
+}
+BENCHMARK(appendToShortLog)->UseManualTime()->Iterations(2)->Unit(benchmark::kMillisecond);
+
+void appendToLongLog(benchmark::State& state) {
+    appendToLog(state, longLog);
+}
+BENCHMARK(appendToLongLog)->UseManualTime()->Iterations(2)->Unit(benchmark::kMillisecond);
+
+const Comparison appendRow("append to a log of 1,000,000 lines beside one of 100,000, drawer open",
+                           "appendToLongLog", "appendToShortLog");
+
+// What the allocator has handed out.
+double allocatedBytes() {
+    const struct mallinfo2 allocated = mallinfo2();
+    return static_cast<double>(allocated.uordblks) + static_cast<double>(allocated.hblkhd);
+}
+
+// The controller's own copy of the text included.
+void memoryOfLongLog(benchmark::State& state) {
+    double ratio = 0;
+    for (auto _ : state) {
+        LogWindow window;
+        window.openDrawer();
+        const double before = allocatedBytes();
+        window.appendLines(longLog);
+        window.showEnd();
+        ratio = (allocatedBytes() - before) / static_cast<double>(window.view().text().size());
+    }
+    state.counters["ratio"] = ratio;
+}
+BENCHMARK(memoryOfLongLog)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+const MeasuredRatio memoryRow("memory of a log of 1,000,000 lines, drawer open, beside its text",
+                              "memoryOfLongLog");
+
+// Says when the first paint of a widget is over.
+class FirstPaint final : public QObject {
+public:
+    explicit FirstPaint(QObject& widget)
+        : _widget(widget) {
+        widget.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Paint) {
+            _widget.removeEventFilter(this);
+            watched->event(event);
+            isOver = true;
+            return true;
+        }
+        return false;
+    }
+
+    bool isOver = false;
+
+private:
+    QObject& _widget;
+};
+
+void openDrawerOnLongLog(benchmark::State& state) {
+    constexpr Seconds allowed = std::chrono::milliseconds(200);
+    Seconds taken{};
+    for (auto _ : state) {
+        LogWindow window;
+        window.appendLines(longLog);
+        const auto start = Clock::now();
+        FirstPaint paint(*window.view().viewport());
+        window.controller().logDrawerButton();
+        while (!paint.isOver) {
+            QApplication::processEvents(QEventLoop::WaitForMoreEvents);
+        }
+        taken = Clock::now() - start;
+    }
+    state.counters["ratio"] = taken / allowed;
+}
+BENCHMARK(openDrawerOnLongLog)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+const MeasuredRatio
+    openRow("open the drawer on 1,000,000 lines: time to the first paint, beside 200 ms",
+            "openDrawerOnLongLog");
 
 } // namespace
 

@@ -19,7 +19,7 @@ namespace {
 struct Row {
     std::string what;
     std::string ours;
-    std::string reference;
+    std::string reference; // empty when ours finds the ratio itself
 };
 
 std::vector<Row>& rows() {
@@ -33,15 +33,32 @@ public:
     void ReportRuns(const std::vector<Run>& reports) override {
         for (const Run& run : reports) {
             if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
-                _times[run.run_name.function_name].push_back(run.GetAdjustedRealTime());
+                const std::string& name = run.run_name.function_name;
+                _times[name].push_back(run.GetAdjustedRealTime());
+                const auto ratio = run.counters.find("ratio");
+                if (ratio != run.counters.end()) {
+                    _ratios[name].push_back(ratio->second);
+                }
             }
         }
         ConsoleReporter::ReportRuns(reports);
     }
 
     // The ratio of each repetition of ours to the one of the reference that ran in the same round,
-    // in ascending order. Empty when one of them did not run.
+    // or the one that it found itself, in ascending order. Empty when one of them did not run.
     std::vector<double> ratios(const Row& row) const {
+        std::vector<double> result = row.reference.empty() ? foundBy(row.ours) : quotients(row);
+        std::sort(result.begin(), result.end());
+        return result;
+    }
+
+private:
+    std::vector<double> foundBy(const std::string& benchmark) const {
+        const auto found = _ratios.find(benchmark);
+        return found == _ratios.end() ? std::vector<double>() : found->second;
+    }
+
+    std::vector<double> quotients(const Row& row) const {
         const auto ours = _times.find(row.ours);
         const auto reference = _times.find(row.reference);
         if (ours == _times.end() || reference == _times.end()) {
@@ -52,12 +69,11 @@ public:
         for (std::size_t i = 0; i < rounds; ++i) {
             result.push_back(ours->second[i] / reference->second[i]);
         }
-        std::sort(result.begin(), result.end());
         return result;
     }
 
-private:
     std::map<std::string, std::vector<double>> _times;
+    std::map<std::string, std::vector<double>> _ratios;
 };
 
 void printTable(const RepetitionReporter& reporter) {
@@ -75,6 +91,10 @@ void printTable(const RepetitionReporter& reporter) {
 
 Comparison::Comparison(std::string what, std::string ours, std::string reference) {
     rows().push_back({std::move(what), std::move(ours), std::move(reference)});
+}
+
+MeasuredRatio::MeasuredRatio(std::string what, std::string benchmark) {
+    rows().push_back({std::move(what), std::move(benchmark), {}});
 }
 
 } // namespace kx

@@ -10,7 +10,8 @@
 //   text field   TextField& control();
 //                void type(const std::string& text), as a person does; setAction()
 //   text label   TextLabel& control(); std::string shownText()
-//   text view    TextView& control(); std::string text(); bool isEndVisible();
+//   text view    TextView& control(); std::string text(); bool isEndVisible(), waiting
+//                for the view to show what it holds
 //   drawer       Drawer& control(), closed at first; void finishMoving()
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);
@@ -282,6 +283,13 @@ TYPED_TEST_P(TextViewContract, KeepsLineBreaksTabsAndBlanks) {
     EXPECT_EQ(this->trait.text(), text);
 }
 
+TYPED_TEST_P(TextViewContract, KeepsEveryOtherCharacterAsItIs) {
+    const std::string text = "a\r\nb\rc\v\f\u0085d\u2028e\u2029f\u00A0g\u200B網😀\x7F\x1B[0m";
+    this->control().setString(text);
+    this->control().insertAtEnd(text);
+    EXPECT_EQ(this->trait.text(), text + text);
+}
+
 TYPED_TEST_P(TextViewContract, ScrollingShowsTheEndOfALongText) {
     for (int line = 0; line < 500; ++line) {
         this->control().insertAtEnd("\nUDP server did send data.");
@@ -292,7 +300,7 @@ TYPED_TEST_P(TextViewContract, ScrollingShowsTheEndOfALongText) {
 
 REGISTER_TYPED_TEST_SUITE_P(TextViewContract, IsEmptyAtFirst, InsertsAtTheEndExactlyWhatItIsGiven,
                             SettingTheTextReplacesAllOfIt, KeepsLineBreaksTabsAndBlanks,
-                            ScrollingShowsTheEndOfALongText);
+                            KeepsEveryOtherCharacterAsItIs, ScrollingShowsTheEndOfALongText);
 
 // --- Drawer ---
 

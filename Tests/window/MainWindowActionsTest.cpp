@@ -229,7 +229,7 @@ TEST_F(MainWindowTest, TheNameInTheEditRowCannotBeChanged) {
 TEST_F(MainWindowTest, TheEventLogButtonOpensAndClosesTheDrawer) {
     launch();
     const Drawer& drawer = *window.outlets().eventLogDrawer;
-    auto& log = control<QPlainTextEdit>("logTextView");
+    auto& log = control<LogTextView>("logTextView");
     EXPECT_EQ(drawer.state(), DrawerState::closed);
     EXPECT_FALSE(log.isVisible());
     click("logDrawerButton");
@@ -254,7 +254,7 @@ TEST_F(MainWindowTest, TextLoggedWhileTheDrawerMovesReachesTheView) {
     launch();
     click("logDrawerButton");
     controller.appendString("\nwhile opening");
-    const auto& log = control<QPlainTextEdit>("logTextView");
+    const auto& log = control<LogTextView>("logTextView");
     EXPECT_TRUE(log.toPlainText().endsWith("\nwhile opening"));
     ASSERT_TRUE(drawerComesToRest());
     click("logDrawerButton");
@@ -271,7 +271,7 @@ TEST_F(MainWindowTest, TheLogCanBeSelectedAndCopiedButNotChanged) {
     launch();
     click("logDrawerButton");
     ASSERT_TRUE(drawerComesToRest());
-    auto& log = control<QPlainTextEdit>("logTextView");
+    auto& log = control<LogTextView>("logTextView");
     log.setFocus();
     type("typed");
     EXPECT_EQ(log.toPlainText().toStdString(), controller.eventLog());

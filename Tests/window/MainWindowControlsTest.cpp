@@ -48,7 +48,7 @@ TEST_F(MainWindowTest, PopUpsAndFieldsHaveAVisibleLabelAsTheirName) {
 TEST_F(MainWindowTest, TablesAndTheLogHaveAnAccessibleName) {
     EXPECT_EQ(accessibleName(control<QTableView>("unitParameterTableView")), "Unit parameters");
     EXPECT_EQ(accessibleName(control<QTableView>("editParameterTableView")), "Edit parameter");
-    EXPECT_EQ(accessibleName(control<QPlainTextEdit>("logTextView")), "Event log text");
+    EXPECT_EQ(accessibleName(control<LogTextView>("logTextView")), "Event log text");
 }
 
 TEST_F(MainWindowTest, ButtonsAreNamedByTheirText) {
@@ -72,7 +72,7 @@ TEST_F(MainWindowTest, TheDrawerHoldsTheLogInItsScrollView) {
     const auto& drawer = control<QWidget>("eventLogDrawer");
     const auto& scrollView = control<QWidget>("logScrollView");
     EXPECT_TRUE(drawer.isAncestorOf(&scrollView));
-    EXPECT_TRUE(scrollView.isAncestorOf(&control<QPlainTextEdit>("logTextView")));
+    EXPECT_TRUE(scrollView.isAncestorOf(&control<LogTextView>("logTextView")));
 }
 
 TEST_F(MainWindowTest, TabVisitsTheControlsFromTopToBottom) {
@@ -160,7 +160,7 @@ TEST_F(MainWindowTest, EveryMenuItemHasAShortcutOfItsOwn) {
             }
         }
     }
-    EXPECT_EQ(items, 10);
+    EXPECT_EQ(items, 13);
     EXPECT_EQ(static_cast<int>(itemOfShortcut.size()), items);
 }
 

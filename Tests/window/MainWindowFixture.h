@@ -14,6 +14,7 @@
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
+#include "platform/qt/LogTextView.h"
 #include "platform/qt/MainWindow.h"
 
 #include <gtest/gtest.h>
@@ -21,7 +22,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableView>
 #include <QTest>

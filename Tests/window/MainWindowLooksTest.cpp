@@ -177,7 +177,7 @@ TEST_F(MainWindowTest, AMaximizedWindowMakesRoomInsideItself) {
     click("logDrawerButton");
     ASSERT_TRUE(drawerComesToRest());
     EXPECT_EQ(window.size(), before);
-    EXPECT_TRUE(control<QPlainTextEdit>("logTextView").isVisible());
+    EXPECT_TRUE(control<LogTextView>("logTextView").isVisible());
     EXPECT_GE(control<QWidget>("eventLogDrawer").height(), 100);
 }
 

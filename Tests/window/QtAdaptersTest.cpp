@@ -4,10 +4,8 @@
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtTextField.h"
-#include "platform/qt/QtTextView.h"
 
 #include <QClipboard>
-#include <QFontInfo>
 #include <QGuiApplication>
 #include <chrono>
 
@@ -54,25 +52,6 @@ TEST(QtTextField, ALongTextShowsItsBeginning) {
     QtTextField field(lineEdit);
     field.setStringValue(std::string(500, 'x'));
     EXPECT_EQ(lineEdit.cursorPosition(), 0);
-}
-
-TEST(QtTextView, UsesAFixedWidthFont) {
-    QPlainTextEdit textEdit;
-    const QtTextView view(textEdit);
-    EXPECT_TRUE(QFontInfo(textEdit.font()).fixedPitch());
-}
-
-TEST(QtTextView, WhatIsSelectedStaysSelectedWhileTextArrives) {
-    QPlainTextEdit textEdit;
-    QtTextView view(textEdit);
-    view.setString("[Begin Discover]\nUDP listener did start. ");
-    QTextCursor cursor = textEdit.textCursor();
-    cursor.setPosition(1);
-    cursor.setPosition(6, QTextCursor::KeepAnchor);
-    textEdit.setTextCursor(cursor);
-    view.insertAtEnd("0.0.0.0:3520");
-    view.scrollEndToVisible();
-    EXPECT_EQ(textEdit.textCursor().selectedText(), "Begin");
 }
 
 TEST(QtTableView, WithoutADataSourceThereAreNoRows) {

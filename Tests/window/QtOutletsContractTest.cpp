@@ -137,20 +137,23 @@ private:
 class QtTextViewTrait {
 public:
     QtTextViewTrait() {
-        _textEdit.resize(300, 200);
-        _textEdit.show();
+        _logView.resize(300, 200);
+        _logView.show();
     }
 
     TextView& control() { return _view; }
-    std::string text() const { return utf8Text(_textEdit.toPlainText()); }
-    bool isEndVisible() const {
-        const QScrollBar* bar = _textEdit.verticalScrollBar();
-        return bar->value() == bar->maximum();
+    std::string text() const { return utf8Text(_logView.toPlainText()); }
+    bool isEndVisible() {
+        const auto endIsInSight = [this] {
+            const QRect end = _logView.rectOf(_logView.text().size());
+            return _logView.showsEnd() && _logView.viewport()->rect().contains(end.center());
+        };
+        return QTest::qWaitFor(endIsInSight);
     }
 
 private:
-    QPlainTextEdit _textEdit;
-    QtTextView _view{_textEdit};
+    LogTextView _logView;
+    QtTextView _view{_logView};
 };
 
 class QtDrawerTrait {

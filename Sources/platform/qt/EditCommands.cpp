@@ -1,11 +1,12 @@
 #include "platform/qt/EditCommands.h"
 
+#include "platform/qt/LogTextView.h"
+
 #include <QAbstractItemView>
 #include <QClipboard>
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 
 namespace kx {
 
@@ -35,8 +36,8 @@ QString selectedText(QWidget* control) {
 } // namespace
 
 void copySelection(QWidget* control) {
-    if (auto* text = qobject_cast<QPlainTextEdit*>(control)) {
-        text->copy();
+    if (const auto* log = qobject_cast<LogTextView*>(control)) {
+        log->copy();
         return;
     }
     const QString selected = selectedText(control);
@@ -48,8 +49,8 @@ void copySelection(QWidget* control) {
 void selectAll(QWidget* control) {
     if (auto* field = qobject_cast<QLineEdit*>(control)) {
         field->selectAll();
-    } else if (auto* text = qobject_cast<QPlainTextEdit*>(control)) {
-        text->selectAll();
+    } else if (auto* log = qobject_cast<LogTextView*>(control)) {
+        log->selectAll();
     }
 }
 

@@ -3,6 +3,7 @@
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
 #include "platform/qt/EditCommands.h"
+#include "platform/qt/FindBar.h"
 #include "platform/qt/QtAlert.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
@@ -48,7 +49,9 @@ struct MainWindow::Controls {
         , optionCommandField(*ui.optionCommandField)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
-        , alert(mainWindow) {
+        , alert(mainWindow)
+        , findBar(*ui.logTextView, ui.logScrollView) {
+        ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
 
@@ -66,6 +69,7 @@ struct MainWindow::Controls {
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
     QtAlert alert;
+    FindBar findBar;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -206,6 +210,12 @@ void MainWindow::connectMenus() {
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
     connect(_ui->selectAllAction, &QAction::triggered, this, [this] { selectAll(focusWidget()); });
+    connect(_ui->findAction, &QAction::triggered, this, [this] { findInLog(&FindBar::open); });
+    connect(_ui->findNextAction, &QAction::triggered, this,
+            [this] { findInLog(&FindBar::findNext); });
+    connect(_ui->findPreviousAction, &QAction::triggered, this,
+            [this] { findInLog(&FindBar::findPrevious); });
+    _ui->logTextView->addAction(_ui->findAction);
 }
 
 void MainWindow::connectTables() {
@@ -261,10 +271,17 @@ void MainWindow::perform(Action action) {
     }
 }
 
+void MainWindow::findInLog(void (FindBar::*step)()) {
+    if (_controls->eventLogDrawer.state() == DrawerState::closed) {
+        perform(&KXConfigAppDelegate::logDrawerButton);
+    }
+    (_controls->findBar.*step)();
+}
+
 void MainWindow::drawerDidChange(DrawerState state) {
     const bool isOut = state == DrawerState::opening || state == DrawerState::open;
     _ui->eventLogAction->setChecked(isOut);
-    if (!isOut && _ui->logTextView->hasFocus()) {
+    if (!isOut && _ui->eventLogDrawer->isAncestorOf(focusWidget())) {
         _ui->logDrawerButton->setFocus();
     }
 }

@@ -17,6 +17,7 @@
 
 namespace kx {
 
+class FindBar;
 class KXConfigAppDelegate;
 
 namespace Ui {
@@ -62,6 +63,7 @@ private:
     void keepEmptyStatesReadable();
 
     void perform(Action action);
+    void findInLog(void (FindBar::*step)());
     void drawerDidChange(DrawerState state);
 
     std::unique_ptr<Ui::MainWindow> _ui;

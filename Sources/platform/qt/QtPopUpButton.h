@@ -2,7 +2,8 @@
 //
 // Takes over the items that the interface description gave the combo box, and keeps the one
 // selected that was. From then on the items belong to this object: nobody else changes them. The
-// combo box must outlive it. Costs grow with the number of titles, not with its square.
+// combo box must outlive it. Costs grow with the number of titles, not with its square. A list that
+// no screen could show at once opens as one that scrolls, without a look at every title.
 
 #pragma once
 
@@ -10,7 +11,9 @@
 
 #include <QComboBox>
 #include <QHash>
+#include <QProxyStyle>
 #include <QStringListModel>
+#include <memory>
 
 namespace kx {
 
@@ -29,11 +32,20 @@ public:
     void setEnabled(bool enabled) override;
 
 private:
-    void setTitles(const QStringList& titles, int selected);
+    void addTitle(const QString& title);
+    void closeGaps();
+    int indexOf(const QString& title) const;
+    void showTitles(const QString& selected);
+    void prepareForLongList();
 
     QComboBox& _comboBox;
-    QStringListModel _titles;
-    QHash<QString, int> _indexOfTitle;
+    QStringListModel _model;
+    std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
+
+    QStringList _titles;
+    bool _isAscending = true;
+    QHash<QString, qsizetype> _indexOfTitle; // filled once the titles are not ascending
+    bool _hasGaps = false;                   // a title was added again, and its first place is void
 };
 
 } // namespace kx

@@ -1,0 +1,129 @@
+#include "platform/qt/FindBar.h"
+
+#include "platform/qt/LogSearch.h"
+
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QStyle>
+#include <QToolButton>
+
+namespace kx {
+
+namespace {
+
+QToolButton& addButton(QWidget& bar, const char* objectName, const QString& name,
+                       Qt::ArrowType arrow) {
+    auto* const button = new QToolButton(&bar);
+    button->setObjectName(objectName);
+    button->setAccessibleName(name);
+    button->setToolTip(name);
+    button->setArrowType(arrow);
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::StrongFocus);
+    bar.layout()->addWidget(button);
+    return *button;
+}
+
+} // namespace
+
+FindBar::FindBar(LogTextView& log, QWidget* parent)
+    : QWidget(parent)
+    , _log(log)
+    , _field(*new QLineEdit(this))
+    , _result(*new QLabel(this))
+    , _escape(*new QShortcut(Qt::Key_Escape, parent)) {
+    setObjectName("logFindBar");
+    _field.setObjectName("logFindField");
+    _field.setClearButtonEnabled(true);
+    _result.setObjectName("logFindResult");
+    auto* const label = new QLabel(tr("F&ind:"), this);
+    label->setBuddy(&_field);
+    auto* const row = new QHBoxLayout(this);
+    row->setContentsMargins(0, 4, 0, 0);
+    row->addWidget(label);
+    row->addWidget(&_field, 2);
+    const QToolButton& previous =
+        addButton(*this, "logFindPreviousButton", tr("Find Previous"), Qt::UpArrow);
+    const QToolButton& next = addButton(*this, "logFindNextButton", tr("Find Next"), Qt::DownArrow);
+    row->addWidget(&_result, 1);
+    QToolButton& closer = addButton(*this, "logFindCloseButton", tr("Close"), Qt::NoArrow);
+    closer.setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    connect(&_field, &QLineEdit::textEdited, this, &FindBar::findTyped);
+    connect(&previous, &QToolButton::clicked, this, &FindBar::findPrevious);
+    connect(&next, &QToolButton::clicked, this, &FindBar::findNext);
+    connect(&closer, &QToolButton::clicked, this, &FindBar::close);
+    _escape.setContext(Qt::WidgetWithChildrenShortcut);
+    _escape.setEnabled(false);
+    connect(&_escape, &QShortcut::activated, this, &FindBar::close);
+    hide();
+}
+
+void FindBar::open() {
+    const LogRange selection = _log.selection();
+    const LogText& text = _log.text();
+    if (selection.from < selection.to && text.rowAt(selection.from) == text.rowAt(selection.to)) {
+        _field.setText(_log.selectedText());
+    }
+    _result.clear();
+    _escape.setEnabled(true);
+    show();
+    _field.setFocus();
+    _field.selectAll();
+}
+
+void FindBar::close() {
+    _escape.setEnabled(false);
+    hide();
+    _log.setFocus();
+}
+
+void FindBar::findNext() {
+    findFrom(_log.selection().to, findForward, 0, tr("From the beginning"));
+}
+
+void FindBar::findPrevious() {
+    findFrom(_log.selection().from, findBackward, _log.text().size(), tr("From the end"));
+}
+
+void FindBar::findTyped() {
+    const std::size_t start = _log.selection().from;
+    if (_field.text().isEmpty()) {
+        _log.select(start, start);
+        _result.clear();
+        return;
+    }
+    findFrom(start, findForward, 0, tr("From the beginning"));
+}
+
+void FindBar::findFrom(std::size_t start, Search search, std::size_t otherEnd,
+                       const QString& fromOtherEnd) {
+    if (_field.text().isEmpty()) {
+        open();
+        return;
+    }
+    QString result;
+    auto match = search(_log.text(), _field.text(), start);
+    if (!match.has_value()) {
+        result = fromOtherEnd;
+        match = search(_log.text(), _field.text(), otherEnd);
+    }
+    if (match.has_value()) {
+        _log.select(match->from, match->to);
+    } else {
+        result = tr("Not found");
+    }
+    _result.setText(result);
+}
+
+void FindBar::keyPressEvent(QKeyEvent* event) {
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || !_field.hasFocus()) {
+        QWidget::keyPressEvent(event);
+    } else if (event->modifiers().testFlag(Qt::ShiftModifier)) {
+        findPrevious();
+    } else {
+        findNext();
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,35 @@
+// Where the keyboard goes in the log, and what a click selects. Nothing here depends on how the
+// text is drawn: moves up and down are the view's.
+
+#pragma once
+
+#include "platform/qt/LogText.h"
+
+namespace kx {
+
+struct LogRange {
+    std::size_t from;
+    std::size_t to;
+};
+
+enum class LogMovement {
+    nextCharacter,
+    previousCharacter,
+    nextWord,
+    previousWord,
+    startOfRow,
+    endOfRow,
+    startOfText,
+    endOfText
+};
+
+// The position after a movement. At the ends of the text it is the same one.
+std::size_t movedPosition(const LogText& text, std::size_t position, LogMovement movement);
+
+enum class LogUnit { character, word, line };
+
+// The word at a position, which may be a run of blanks or one mark, or the whole line with its line
+// feed. A character is the empty range at the position.
+LogRange unitAround(const LogText& text, std::size_t position, LogUnit unit);
+
+} // namespace kx

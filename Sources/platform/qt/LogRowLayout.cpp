@@ -1,0 +1,101 @@
+#include "platform/qt/LogRowLayout.h"
+
+#include "platform/qt/QtText.h"
+
+#include <QTextOption>
+#include <algorithm>
+
+namespace kx {
+
+namespace {
+
+bool actsOnTheScreen(QChar character) {
+    const char16_t code = character.unicode();
+    const bool isControl = (code < 0x20 && code != '\t') || (code >= 0x7F && code < 0xA0);
+    const bool breaksLines = code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
+    const bool turnsDirection = code == 0x061C || code == 0x200E || code == 0x200F ||
+                                (code >= 0x202A && code <= 0x202E) ||
+                                (code >= 0x2066 && code <= 0x2069);
+    return isControl || breaksLines || turnsDirection || code == QChar::ObjectReplacementCharacter;
+}
+
+} // namespace
+
+QString shownText(std::string_view text) {
+    QString shown = qtText(text);
+    if (shown.endsWith('\r')) {
+        shown.back() = ' ';
+    }
+    std::replace_if(shown.begin(), shown.end(), actsOnTheScreen,
+                    QChar(QChar::ReplacementCharacter));
+    return shown;
+}
+
+LogRowLayout::LogRowLayout(const LogText::Row& row, const LogLooks& looks)
+    : _row(row)
+    , _looks(looks)
+    , _layout(shownText(row.text), looks.font) {
+    QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+    option.setTextDirection(Qt::LeftToRight);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setTabStopDistance(looks.tabStop);
+    _layout.setTextOption(option);
+    _layout.setCacheEnabled(true);
+    _layout.beginLayout();
+    for (QTextLine line = _layout.createLine(); line.isValid(); line = _layout.createLine()) {
+        line.setLineWidth(looks.width);
+        const int top = line.lineNumber() * looks.lineHeight;
+        line.setPosition({0, top + looks.baseLine - line.ascent()});
+    }
+    _layout.endLayout();
+}
+
+int LogRowLayout::lineOf(std::size_t position) const {
+    return _layout.lineForTextPosition(unitOf(position)).lineNumber();
+}
+
+void LogRowLayout::draw(QPainter& painter, QPointF corner, const Selection& selection) {
+    const std::size_t end = _row.position + _row.text.size();
+    const std::size_t from = std::clamp(selection.from, _row.position, end);
+    const std::size_t to = std::clamp(selection.to, _row.position, end);
+    QList<QTextLayout::FormatRange> marked;
+    if (from < to) {
+        QTextLayout::FormatRange range;
+        range.start = unitOf(from);
+        range.length = unitOf(to) - range.start;
+        range.format.setForeground(selection.text);
+        range.format.setBackground(selection.background);
+        marked.append(range);
+    }
+    if (_row.endsLine && selection.from <= end && selection.to > end) {
+        const QTextLine last = _layout.lineAt(lineCount() - 1);
+        const QRectF blank(last.naturalTextRect().right(), last.y(), _looks.blank, last.height());
+        painter.fillRect(blank.translated(corner), selection.background);
+    }
+    _layout.draw(&painter, corner, marked);
+}
+
+qreal LogRowLayout::xOf(std::size_t position) const {
+    const int unit = unitOf(position);
+    return _layout.lineForTextPosition(unit).cursorToX(unit);
+}
+
+std::size_t LogRowLayout::positionAt(int line, qreal x) const {
+    return positionOf(_layout.lineAt(line).xToCursor(x));
+}
+
+std::size_t LogRowLayout::characterAt(int line, qreal x) const {
+    return positionOf(_layout.lineAt(line).xToCursor(x, QTextLine::CursorOnCharacter));
+}
+
+int LogRowLayout::unitOf(std::size_t position) const {
+    const std::string_view before = _row.text.substr(0, position - _row.position);
+    return std::min(static_cast<int>(charactersIn(before)),
+                    static_cast<int>(_layout.text().size()));
+}
+
+std::size_t LogRowLayout::positionOf(int unit) const {
+    return _row.position + bytesOfCharacters(_row.text, static_cast<std::size_t>(unit));
+}
+
+} // namespace kx

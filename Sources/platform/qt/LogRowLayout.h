@@ -1,0 +1,71 @@
+// One row of the log as it is drawn: broken into as many lines as it needs in the given width.
+//
+// Runs from left to right whatever its letters are, so that a foreign name cannot turn the row
+// around; what is written from right to left keeps its order inside. A character that would act on
+// the screen instead of showing up (controls, line separators, marks of direction) shows as a
+// replacement mark, so that a text from the network is harmless. A carriage return at the end of a
+// row, which ends most commands, shows as a blank.
+//
+// Made for rows in sight only, and short-lived: the row must not change meanwhile.
+
+#pragma once
+
+#include "platform/qt/LogText.h"
+
+#include <QColor>
+#include <QFont>
+#include <QPainter>
+#include <QTextLayout>
+
+namespace kx {
+
+// How every row is laid out; lengths in pixels.
+struct LogLooks {
+    QFont font;
+    int lineHeight = 1;
+    qreal baseLine = 0; // below the top of a line
+    qreal tabStop = 1;
+    qreal blank = 1; // the width of one
+    qreal width = 1; // that lines have
+};
+
+// The text as it is drawn: as many UTF-16 units as the text has, some of them replaced.
+QString shownText(std::string_view text);
+
+class LogRowLayout {
+public:
+    struct Selection {
+        std::size_t from;
+        std::size_t to;
+        QColor text;
+        QColor background;
+    };
+
+    LogRowLayout(const LogText::Row& row, const LogLooks& looks);
+
+    int lineCount() const { return _layout.lineCount(); }
+
+    // The line that holds a position of the row. At a break it is the later one.
+    int lineOf(std::size_t position) const;
+
+    // Marks what lies in the selection, the line feed included, as wide as a blank.
+    void draw(QPainter& painter, QPointF corner, const Selection& selection);
+
+    // From the row's left edge, in pixels.
+    qreal xOf(std::size_t position) const;
+
+    // The position in a line that is nearest to so many pixels from the left edge, and the one
+    // before the character that lies there.
+    std::size_t positionAt(int line, qreal x) const;
+    std::size_t characterAt(int line, qreal x) const;
+
+private:
+    int unitOf(std::size_t position) const;
+    std::size_t positionOf(int unit) const;
+
+    LogText::Row _row;
+    const LogLooks& _looks;
+    QTextLayout _layout;
+};
+
+} // namespace kx

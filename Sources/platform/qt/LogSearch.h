@@ -1,0 +1,18 @@
+// Searching the log's text. Letters match in either case. Pure; goes through the text piece by
+// piece, so that a long one is never copied whole. `sought` must not be empty.
+
+#pragma once
+
+#include "platform/qt/LogMovement.h"
+
+#include <optional>
+
+namespace kx {
+
+// The first match that begins at `start` or after it.
+std::optional<LogRange> findForward(const LogText& text, const QString& sought, std::size_t start);
+
+// The last match that ends at `end` or before it.
+std::optional<LogRange> findBackward(const LogText& text, const QString& sought, std::size_t end);
+
+} // namespace kx

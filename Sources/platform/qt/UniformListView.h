@@ -1,0 +1,38 @@
+// A list whose rows are all of one height, that of the first with some air: whatever its length,
+// only the rows in sight are looked at. For the long lists of pop-ups. Main thread only.
+
+#pragma once
+
+#include <QListView>
+
+namespace kx {
+
+class UniformListView final : public QListView {
+    Q_OBJECT
+
+public:
+    using QListView::QListView;
+
+    QModelIndex indexAt(const QPoint& point) const override;
+    void scrollTo(const QModelIndex& index, ScrollHint hint = EnsureVisible) override;
+    QRect visualRect(const QModelIndex& index) const override;
+    void doItemsLayout() override;
+
+protected:
+    int horizontalOffset() const override { return 0; }
+    int verticalOffset() const override;
+    QModelIndex moveCursor(CursorAction action, Qt::KeyboardModifiers modifiers) override;
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void scrollContentsBy(int dx, int dy) override;
+    void setSelection(const QRect& area, QItemSelectionModel::SelectionFlags flags) override;
+    void updateGeometries() override;
+    QRegion visualRegionForSelection(const QItemSelection& selection) const override;
+
+private:
+    int rowCount() const;
+    int rowHeight() const;
+    int rowsInSight() const;
+};
+
+} // namespace kx
