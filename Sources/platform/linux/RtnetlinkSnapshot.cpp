@@ -1,5 +1,7 @@
 #include "platform/linux/RtnetlinkSnapshot.h"
 
+#include "support/TextEncoding.h"
+
 #include <net/if.h>
 #include <net/if_arp.h>
 #include <netlink/errno.h>
@@ -215,8 +217,11 @@ int ask(nl_sock* socket, int type, Request request, Dump dump) {
 void linkReceived(nl_object* object, void* links) {
     // The library's own way from the base to the kind that was asked for.
     auto* const link = reinterpret_cast<rtnl_link*>(object);
-    static_cast<LinksByIndex*>(links)->insert_or_assign(rtnl_link_get_ifindex(link),
-                                                        networkLink(link));
+    const char* const name = rtnl_link_get_name(link);
+    if (name != nullptr && isValidUTF8(bytesOfText(name))) {
+        static_cast<LinksByIndex*>(links)->insert_or_assign(rtnl_link_get_ifindex(link),
+                                                            networkLink(link));
+    }
 }
 
 void addressReceived(nl_object* object, void* links) {

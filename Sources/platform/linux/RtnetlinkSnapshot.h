@@ -5,6 +5,8 @@
 // changes while the kernel tells it is asked for again, a few times in that time. What nobody can
 // give up on is a system call in which the kernel waits for itself, as it does while it removes
 // many links at once.
+//
+// Links whose names are not UTF-8 are left out: nobody could be shown them.
 
 #pragma once
 
