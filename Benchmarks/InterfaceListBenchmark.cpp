@@ -1,7 +1,8 @@
-// Listing the interfaces of a host as the pop-up does when it opens, with 10, 100 and 1,000 links:
-// bridges with an address each, in a network namespace that this program makes. Each round reads
-// the links from the kernel anew, as it is after a change. What is timed is the processor, the
-// kernel's work included, so that other programs do not disturb.
+// Listing the interfaces of a host as the pop-up does when it opens, and with an identifier for
+// each as the full enumeration does, with 10, 100 and 1,000 links: bridges with an address each, in
+// a network namespace that this program makes. Each round reads the links from the kernel anew, as
+// it is after a change. What is timed is the processor, the kernel's work included, so that other
+// programs do not disturb.
 
 #include "Comparison.h"
 #include "System Configuration/SystemConfiguration.h"
@@ -17,7 +18,9 @@
 
 #include <ctime>
 #include <map>
+#include <optional>
 #include <string>
+#include <vector>
 
 namespace kx {
 
@@ -89,7 +92,20 @@ double processorSeconds() {
     return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
 }
 
-void listInterfaces(benchmark::State& state, long links) {
+using Titles = std::optional<std::vector<std::string>>;
+
+Titles popUpTitles(SystemConfiguration& configuration) {
+    return configuration.bsdTitlesAndServiceIDs(nullptr);
+}
+
+// As the first one is, which knows no identifiers yet.
+Titles allTitles(SystemConfiguration& configuration) {
+    configuration.purgeInterfaceIDs();
+    return configuration.interfaceTitlesAndServiceIDs(nullptr);
+}
+
+void listInterfaces(benchmark::State& state, long links,
+                    Titles (*list)(SystemConfiguration&) = popUpTitles) {
     HostWithLinks::Visit visit(HostWithLinks::withCount(links));
     PollRunLoop loop;
     KernelLinks kernelLinks(loop);
@@ -99,7 +115,7 @@ void listInterfaces(benchmark::State& state, long links) {
     for (auto _ : state) {
         visit.change();
         const double begin = processorSeconds();
-        const auto titles = configuration.bsdTitlesAndServiceIDs(nullptr);
+        const auto titles = list(configuration);
         state.SetIterationTime(processorSeconds() - begin);
         if (!titles.has_value() || titles->size() < static_cast<std::size_t>(links)) {
             state.SkipWithError("links are missing");
@@ -123,10 +139,29 @@ void list1000Interfaces(benchmark::State& state) {
 }
 BENCHMARK(list1000Interfaces)->UseManualTime()->Unit(benchmark::kMicrosecond);
 
+void enumerate10Interfaces(benchmark::State& state) {
+    listInterfaces(state, 10, allTitles);
+}
+BENCHMARK(enumerate10Interfaces)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+void enumerate100Interfaces(benchmark::State& state) {
+    listInterfaces(state, 100, allTitles);
+}
+BENCHMARK(enumerate100Interfaces)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
+void enumerate1000Interfaces(benchmark::State& state) {
+    listInterfaces(state, 1000, allTitles);
+}
+BENCHMARK(enumerate1000Interfaces)->UseManualTime()->Unit(benchmark::kMicrosecond);
+
 const Comparison tenfold("list 100 interfaces, beside 10 (in proportion: 10)", "list100Interfaces",
                          "list10Interfaces");
 const Comparison hundredfold("list 1,000 interfaces, beside 100 (in proportion: 10)",
                              "list1000Interfaces", "list100Interfaces");
+const Comparison enumeratedTenfold("enumerate 100 interfaces, beside 10 (in proportion: 10)",
+                                   "enumerate100Interfaces", "enumerate10Interfaces");
+const Comparison enumeratedHundredfold("enumerate 1,000 interfaces, beside 100 (in proportion: 10)",
+                                       "enumerate1000Interfaces", "enumerate100Interfaces");
 
 } // namespace
 

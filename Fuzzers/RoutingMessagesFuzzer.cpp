@@ -1,44 +1,68 @@
-// The walk over the kernel's interface list.
+// The walks over the kernel's interface list: the enumeration of interfaces, and every question
+// about each of them that the kernel's list answers.
 
 #include "FuzzInput.h"
 #include "System Configuration/RoutingMessages.h"
+#include "System Configuration/SystemConfiguration.h"
+#include "doubles/MemoryConfigurationStore.h"
+#include "doubles/MemoryKernelQuery.h"
 #include "support/TextEncoding.h"
 
-#include <algorithm>
+#include <string>
+#include <vector>
 
 using namespace kx;
 
 namespace {
 
-bool liesIn(ByteView part, ByteView whole) {
-    return part.empty() || (part.data() >= whole.data() &&
-                            part.data() + part.size() <= whole.data() + whole.size());
+constexpr std::string_view requests[] = {grantAddressRequest, grantAddress6Request,
+                                         subnetMaskRequest,   netNumberRequest,
+                                         linkStatusRequest,   hardwareAddressRequest};
+
+bool isText(const std::string& text) {
+    return !text.empty() && isValidUTF8(bytesOfText(text));
+}
+
+// A host on which the kernel knows these interfaces and nobody has configured any.
+void askEverything(ByteView list) {
+    MemoryConfigurationStore store;
+    MemoryKernelQuery kernelQuery;
+    kernelQuery.setInterfaceList(Bytes(list.begin(), list.end()));
+    SystemConfiguration configuration(store, kernelQuery);
+
+    std::vector<std::string> upServiceIDs;
+    const auto upTitles = configuration.bsdTitlesAndServiceIDs(&upServiceIDs);
+    std::vector<std::string> serviceIDs;
+    const auto titles = configuration.interfaceTitlesAndServiceIDs(&serviceIDs);
+    promise(!titles || titles->size() == serviceIDs.size(), "each title has its service");
+    promise(upServiceIDs.size() <= serviceIDs.size(), "what is up is listed in any case");
+    for (const auto& serviceID : serviceIDs) {
+        promise(serviceID.starts_with('=') && isText(serviceID.substr(1)),
+                "a name is a text that is not empty");
+        for (const auto request : requests) {
+            promise(isText(configuration.serviceInterfaceDataForKey(serviceID, request)),
+                    "every question has a text for an answer");
+        }
+    }
+}
+
+void splitSocketAddresses(ByteView bytes) {
+    RoutingAddresses slots;
+    const std::uint8_t presenceMask = bytes.empty() ? 0 : bytes.front();
+    get_rtaddrs(presenceMask, bytes, slots);
+    for (std::size_t i = 0; i < slots.size(); ++i) {
+        promise(slots[i].has_value() == ((presenceMask >> i & 1U) != 0),
+                "a slot is filled exactly when its bit is set");
+        promise(!slots[i] || slots[i]->empty() ||
+                    slots[i]->data() + slots[i]->size() == bytes.data() + bytes.size(),
+                "a slot reaches to the end of the message");
+    }
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    ByteView rest(data, size);
-    while (const auto message = nextRoutingMessage(rest)) {
-        promise(message->size() >= 4 && message->data() + message->size() == rest.data(),
-                "messages follow each other without a gap");
-        if (const auto interface = interfaceMessage(*message)) {
-            promise(liesIn(interface->hardwareAddress, *message),
-                    "a hardware address lies in its message");
-            promise(!interface->name ||
-                        (!interface->name->empty() && isValidUTF8(bytesOfText(*interface->name))),
-                    "a name is a text that is not empty");
-            promise(!addressMessage(*message), "a message has one type");
-        }
-        addressMessage(*message);
-
-        RoutingAddresses slots;
-        get_rtaddrs(message->front(), *message, slots);
-        for (std::size_t i = 0; i < slots.size(); ++i) {
-            promise(slots[i].has_value() == ((message->front() >> i & 1U) != 0),
-                    "a slot is filled exactly when its bit is set");
-            promise(!slots[i] || liesIn(*slots[i], *message), "a slot lies in its message");
-        }
-    }
+    askEverything({data, size});
+    splitSocketAddresses({data, size});
     return 0;
 }

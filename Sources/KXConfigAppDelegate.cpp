@@ -23,6 +23,7 @@ KXConfigAppDelegate::~KXConfigAppDelegate() {
 
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
+    _chosenInterface.reset();
     logText.clear();
     _outlets.eventLogDrawer->close();
 
@@ -70,31 +71,34 @@ void KXConfigAppDelegate::listInterfaces(std::vector<std::string> titles) {
     _interfaceTitles = std::move(titles);
 }
 
-// What is selected stays so while it exists, also under another name. When it is gone nothing is
-// selected: another interface must not look as if it had been chosen.
+// The chosen interface stays selected while it exists, also under another name, and is selected
+// again when it comes back. While it is gone nothing is selected: another interface must not look
+// as if it had been chosen. Before any choice, what is selected stays so, or else the first is.
 void KXConfigAppDelegate::interfacePopUpWillOpen() {
     auto titles = currentInterfaceTitles();
     if (titles == _interfaceTitles) {
         return;
     }
-    const bool couldChoose = !_interfaceTitles.empty();
-    const std::string chosen = _outlets.interfacePopUp->titleOfSelectedItem().value_or("");
+    const std::string wanted =
+        _chosenInterface.value_or(_outlets.interfacePopUp->titleOfSelectedItem().value_or(""));
     listInterfaces(std::move(titles));
-    if (!couldChoose || _interfaceTitles.empty()) {
-        return;
-    }
-    const auto isChosenInterface = [name = bsdNameForTitle(chosen)](const std::string& title) {
+    const auto isWantedInterface = [name = bsdNameForTitle(wanted)](const std::string& title) {
         return bsdNameForTitle(title) == name;
     };
-    auto kept = std::ranges::find(_interfaceTitles, chosen);
+    auto kept = std::ranges::find(_interfaceTitles, wanted);
     if (kept == _interfaceTitles.end()) {
-        kept = std::ranges::find_if(_interfaceTitles, isChosenInterface);
+        kept = std::ranges::find_if(_interfaceTitles, isWantedInterface);
     }
-    _outlets.interfacePopUp->selectItemWithTitle(kept != _interfaceTitles.end() ? *kept : "");
+    if (kept != _interfaceTitles.end()) {
+        _outlets.interfacePopUp->selectItemWithTitle(*kept);
+    } else if (_chosenInterface.has_value() && !_interfaceTitles.empty()) {
+        _outlets.interfacePopUp->selectItemWithTitle("");
+    }
 }
 
 void KXConfigAppDelegate::interfaceSelect() {
     const auto title = _outlets.interfacePopUp->titleOfSelectedItem();
+    _chosenInterface = title;
     const auto serviceID =
         title.has_value() && _services.networkInterfaces != nullptr
             ? _services.networkInterfaces->serviceIDForInterface(bsdNameForTitle(*title))

@@ -221,7 +221,8 @@ private:
     MainWindowOutlets _outlets;
     Services _services;
 
-    std::vector<std::string> _interfaceTitles; // what the pop-up offers
+    std::vector<std::string> _interfaceTitles;   // what the pop-up offers
+    std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
     std::string logText;
     std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.

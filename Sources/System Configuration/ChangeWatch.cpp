@@ -40,7 +40,7 @@ int watchIPv4States(const ConfigurationStore& store, DynamicStoreSession& sessio
     const auto patterns =
         unlessOutOfMemory([&pattern] { return std::pmr::vector<std::string_view>{*pattern}; });
     if (!patterns.has_value()) {
-        return coreFoundationUnknownErr;
+        return listNotMadeStatus;
     }
     return MySCError(store, session.setNotificationKeys({}, *patterns));
 }
@@ -52,7 +52,7 @@ int MySCError(const ConfigurationStore& store, bool success) {
         return noErr;
     }
     const int status = store.SCError();
-    return status != noErr ? status : kSCStatusFailed;
+    return status != noErr ? status : unspecifiedFailureStatus;
 }
 
 int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStoreCallBack callback,

@@ -17,9 +17,9 @@ inline constexpr std::string_view changeWatchSessionName = "AddIPAddressListChan
 inline constexpr std::string_view kSCDynamicStoreDomainState = "State:";
 inline constexpr std::string_view kSCCompAnyRegex = "[^/]+"; // any one component of a key
 inline constexpr std::string_view kSCEntNetIPv4 = "IPv4";
-inline constexpr std::string_view kSCEntNetIPv6 = "IPv6";
-inline constexpr std::string_view kSCEntNetLink = "Link";
-inline constexpr std::string_view kSCEntNetInterface = "Interface";
+inline constexpr std::string_view ipv6Entity = "IPv6";
+inline constexpr std::string_view linkEntity = "Link";
+inline constexpr std::string_view interfaceEntity = "Interface";
 
 // Keys of the dynamic store.
 inline constexpr std::string_view setupGlobalIPv4Key = "Setup:/Network/Global/IPv4";
@@ -38,15 +38,15 @@ inline constexpr std::string_view setGlobalIPv4Path = "%@/Network/Global/IPv4"; 
 inline constexpr std::string_view savedServiceEntityPath = "/NetworkServices/%@/%@";
 
 // Entries of the records.
-inline constexpr std::string_view kSCPropNetServiceOrder = "ServiceOrder";
+inline constexpr std::string_view serviceOrderEntry = "ServiceOrder";
 inline constexpr std::string_view kSCPropNetInterfaceType = "Type";
 inline constexpr std::string_view kSCPropNetInterfaceDeviceName = "DeviceName";
 inline constexpr std::string_view kSCPropUserDefinedName = "UserDefinedName";
-inline constexpr std::string_view kSCPropNetIPv4Addresses = "Addresses";
-inline constexpr std::string_view kSCPropNetIPv4SubnetMasks = "SubnetMasks";
-inline constexpr std::string_view kSCPropNetIPv6Addresses = "Addresses";
-inline constexpr std::string_view kSCPropNetIPv6PrefixLength = "PrefixLength";
-inline constexpr std::string_view kSCPropNetLinkActive = "Active";
+inline constexpr std::string_view ipv4AddressesEntry = "Addresses";
+inline constexpr std::string_view ipv4SubnetMasksEntry = "SubnetMasks";
+inline constexpr std::string_view ipv6AddressesEntry = "Addresses";
+inline constexpr std::string_view ipv6PrefixLengthEntry = "PrefixLength";
+inline constexpr std::string_view linkActiveEntry = "Active";
 
 // The interface type of a dial-up service.
 inline constexpr std::string_view kSCValNetInterfaceTypePPP = "PPP";
@@ -60,7 +60,7 @@ inline constexpr char kernelOnlyMark = '=';
 
 // Status codes. Every other one is the platform's own.
 inline constexpr int noErr = 0;
-inline constexpr int kSCStatusFailed = 1001;           // a failure without a code of its own
-inline constexpr int coreFoundationUnknownErr = -4960; // a list could not be made
+inline constexpr int unspecifiedFailureStatus = 1001; // a failure without a code of its own
+inline constexpr int listNotMadeStatus = -4960;       // a list could not be made
 
 } // namespace kx

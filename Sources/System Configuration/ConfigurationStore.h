@@ -44,7 +44,8 @@ class ConfigurationChangeSource {
 public:
     virtual ~ConfigurationChangeSource() = default;
 
-    // Begins to deliver changes on the main run loop. Changes before that are not delivered.
+    // Begins to deliver changes on the main run loop. Changes before that are not delivered, nor
+    // are those before the store could first read its records.
     virtual void addToRunLoop() = 0;
 
 protected:
@@ -58,7 +59,8 @@ class DynamicStoreSession {
 public:
     virtual ~DynamicStoreSession() = default;
 
-    // The record under a key as it is now; absent when there is none.
+    // The record under a key; absent when there is none. A session with a callback answers as it is
+    // now, one without may answer as it was when the session was opened.
     virtual std::optional<PropertyDictionary> copyValue(std::string_view key) = 0;
 
     // Chooses the keys whose changes the session's callback is told: plain keys, and patterns. A

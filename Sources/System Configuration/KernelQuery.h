@@ -4,7 +4,8 @@
 // RoutingMessages.h describes it and takes it apart. An adapter whose kernel has no such call
 // builds the same bytes.
 //
-// Threading: the main thread only. Calls return at once.
+// Threading: the main thread only. Calls may take a moment, as the kernel does; an adapter bounds
+// what it waits for.
 
 #pragma once
 

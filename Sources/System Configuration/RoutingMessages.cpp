@@ -71,16 +71,6 @@ std::size_t firstMessageLength(ByteView list) {
 
 } // namespace
 
-std::optional<ByteView> nextRoutingMessage(ByteView& rest) {
-    const std::size_t length = firstMessageLength(rest);
-    if (length == 0) {
-        return std::nullopt;
-    }
-    const ByteView message = rest.first(length);
-    rest = rest.subspan(length);
-    return message;
-}
-
 std::vector<ByteView> routingMessages(ByteView list) {
     std::vector<ByteView> messages;
     for (auto length = firstMessageLength(list); length > 0; length = firstMessageLength(list)) {

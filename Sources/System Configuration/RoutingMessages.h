@@ -39,12 +39,8 @@ inline constexpr std::size_t netmaskSlot = 2;
 inline constexpr std::size_t interfaceAddressSlot = 5;
 inline constexpr std::size_t addressSlotCount = 8;
 
-// Takes the first message off `rest` and returns it. Absent at the end; and where no whole message
-// follows (its length does not cover its type, or reaches beyond the buffer), because without a
-// length there is no next message either.
-std::optional<ByteView> nextRoutingMessage(ByteView& rest);
-
-// All messages up to the first place where no whole message follows.
+// All messages up to the first place where no whole message follows: the end, or a length that does
+// not cover its type or reaches beyond the list. Without a length there is no next message either.
 std::vector<ByteView> routingMessages(ByteView list);
 
 // The type of one of these messages.

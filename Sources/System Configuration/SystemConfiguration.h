@@ -15,8 +15,9 @@
 //
 // Threading: the main thread only; changes are announced from its run loop.
 //
-// Ownership: the shared instance lives until the process ends. Its sources are not owned and must
-// live as long.
+// Ownership: the shared instance lives until the process ends. Its sources are not owned. They may
+// go when the process is about to end, provided that nothing is asked of it and the run loop does
+// not turn any more.
 
 #pragma once
 
@@ -30,6 +31,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 #include <span>
 #include <string>
 #include <string_view>
@@ -183,6 +185,7 @@ private:
     std::unique_ptr<DynamicStoreSession> _storeRef;
     std::unique_ptr<ConfigurationChangeSource> _sourceRef;
     InterfaceIDs _interfaceIDs;
+    std::set<std::string> _takenInterfaceIDs; // the values of that
     bool _purgeInterfaceIDs = true;
     std::multimap<const void*, NotificationCenter::Registration> _observers;
 };

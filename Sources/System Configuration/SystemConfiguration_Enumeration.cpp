@@ -60,6 +60,7 @@ SystemConfiguration::interfaceTitlesAndServiceIDs(std::vector<std::string>* serv
     _appendKernelInterfaces(interfaces, KernelInterfaces::all);
     if (std::exchange(_purgeInterfaceIDs, false)) {
         _interfaceIDs.clear();
+        _takenInterfaceIDs.clear();
     }
     std::vector<std::string> titles;
     std::vector<std::string> foundServiceIDs;
@@ -95,7 +96,7 @@ std::vector<SystemConfiguration::ListedInterface> SystemConfiguration::_listedSe
     }
     const auto global = session->copyValue(setupGlobalIPv4Key);
     int pppCounter = 0;
-    for (const auto& serviceID : textsOf(entryOf(global, kSCPropNetServiceOrder))) {
+    for (const auto& serviceID : textsOf(entryOf(global, serviceOrderEntry))) {
         const auto interface =
             session->copyValue(filledText(setupServiceInterfaceKey, {serviceID}));
         if (!interface.has_value()) {
@@ -144,13 +145,9 @@ const std::string& SystemConfiguration::_interfaceIDForService(const ListedInter
     if (known != _interfaceIDs.end()) {
         return known->second;
     }
-    const auto isTaken = [this](const std::string& interfaceID) {
-        return std::any_of(_interfaceIDs.begin(), _interfaceIDs.end(),
-                           [&](const auto& entry) { return entry.second == interfaceID; });
-    };
     // Ends, because one identifier more than there are taken ones is tried.
     std::string interfaceID = interface.name;
-    for (int n = 1; isTaken(interfaceID); ++n) {
+    for (int n = 1; !_takenInterfaceIDs.insert(interfaceID).second; ++n) {
         interfaceID = filledText("%@:%d", {interface.name, n});
     }
     return _interfaceIDs.emplace(interface.serviceID, std::move(interfaceID)).first->second;
@@ -167,9 +164,9 @@ std::optional<std::string> SystemConfiguration::serviceIDForInterface(std::strin
     }
     const auto set = textOf(session->getValue(kSCPrefCurrentSet));
     const auto global = session->pathGetValue(filledText(setGlobalIPv4Path, {set}));
-    for (const auto& serviceID : textsOf(entryOf(global, kSCPropNetServiceOrder))) {
-        const auto interface = session->pathGetValue(
-            filledText(savedServiceEntityPath, {serviceID, kSCEntNetInterface}));
+    for (const auto& serviceID : textsOf(entryOf(global, serviceOrderEntry))) {
+        const auto interface =
+            session->pathGetValue(filledText(savedServiceEntityPath, {serviceID, interfaceEntity}));
         if (textOf(entryOf(interface, kSCPropNetInterfaceDeviceName)) == bsdName) {
             return serviceID;
         }

@@ -136,13 +136,13 @@ std::string SystemConfiguration::serviceInterfaceDataForKey(std::string_view ser
     }
     const auto bsdName = bsdNameForServiceID(serviceID);
     if (requestKey == grantAddressRequest) {
-        return _joinedServiceList(serviceID, bsdName, kSCPropNetIPv4Addresses);
+        return _joinedServiceList(serviceID, bsdName, ipv4AddressesEntry);
     }
     if (requestKey == grantAddress6Request) {
         return _joinedIPv6Addresses(bsdName);
     }
     if (requestKey == subnetMaskRequest) {
-        return _joinedServiceList(serviceID, bsdName, kSCPropNetIPv4SubnetMasks);
+        return _joinedServiceList(serviceID, bsdName, ipv4SubnetMasksEntry);
     }
     if (requestKey == netNumberRequest) {
         return _joinedNetNumbers(serviceID, bsdName);
@@ -194,8 +194,8 @@ std::string SystemConfiguration::_joinedServiceList(std::string_view serviceID,
 }
 
 std::string SystemConfiguration::_joinedIPv6Addresses(const std::optional<std::string>& bsdName) {
-    const auto addresses = _interfaceList(bsdName, kSCEntNetIPv6, kSCPropNetIPv6Addresses);
-    const auto prefixLengths = _interfaceList(bsdName, kSCEntNetIPv6, kSCPropNetIPv6PrefixLength);
+    const auto addresses = _interfaceList(bsdName, ipv6Entity, ipv6AddressesEntry);
+    const auto prefixLengths = _interfaceList(bsdName, ipv6Entity, ipv6PrefixLengthEntry);
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < addresses.size(); ++i) {
         const auto prefixLength = elementOf(prefixLengths, i);
@@ -209,12 +209,12 @@ std::string SystemConfiguration::_joinedIPv6Addresses(const std::optional<std::s
 std::string SystemConfiguration::_joinedNetNumbers(std::string_view serviceID,
                                                    const std::optional<std::string>& bsdName) {
     auto addresses =
-        listOf(serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, kSCPropNetIPv4Addresses));
-    auto masks = listOf(
-        serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, kSCPropNetIPv4SubnetMasks));
+        listOf(serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, ipv4AddressesEntry));
+    auto masks =
+        listOf(serviceDataForDictionaryNameKey(serviceID, kSCEntNetIPv4, ipv4SubnetMasksEntry));
     if (addresses.empty()) {
-        addresses = _interfaceList(bsdName, kSCEntNetIPv4, kSCPropNetIPv4Addresses);
-        masks = _interfaceList(bsdName, kSCEntNetIPv4, kSCPropNetIPv4SubnetMasks);
+        addresses = _interfaceList(bsdName, kSCEntNetIPv4, ipv4AddressesEntry);
+        masks = _interfaceList(bsdName, kSCEntNetIPv4, ipv4SubnetMasksEntry);
     }
     std::vector<std::string> texts;
     for (std::size_t i = 0; i < addresses.size(); ++i) {
@@ -227,7 +227,7 @@ std::string SystemConfiguration::_joinedNetNumbers(std::string_view serviceID,
 std::string SystemConfiguration::_linkStatus(const std::optional<std::string>& bsdName) {
     const auto active =
         bsdName.has_value()
-            ? interfaceDataForDictionaryNameKey(*bsdName, kSCEntNetLink, kSCPropNetLinkActive)
+            ? interfaceDataForDictionaryNameKey(*bsdName, linkEntity, linkActiveEntry)
             : std::nullopt;
     return active.has_value() ? linkStatusText(numberOf(active) == 1) : "Not reported";
 }

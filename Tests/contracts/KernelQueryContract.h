@@ -57,19 +57,20 @@ protected:
     std::vector<Interface> interfaces() {
         const Bytes list = interfaceList();
         std::vector<Interface> result;
-        ByteView rest = list;
-        while (const auto message = nextRoutingMessage(rest)) {
-            if (const auto interface = interfaceMessage(*message)) {
+        std::size_t length = 0;
+        for (const ByteView message : routingMessages(list)) {
+            length += message.size();
+            if (const auto interface = interfaceMessage(message)) {
                 result.push_back(
                     {interface->name.value_or(""),
                      interface->isUp,
                      Bytes(interface->hardwareAddress.begin(), interface->hardwareAddress.end()),
                      {}});
-            } else if (const auto address = addressMessage(*message); address && !result.empty()) {
+            } else if (const auto address = addressMessage(message); address && !result.empty()) {
                 result.back().addresses.push_back(*address);
             }
         }
-        EXPECT_TRUE(rest.empty()) << "the list consists of whole messages";
+        EXPECT_EQ(length, list.size()) << "the list consists of whole messages";
         return result;
     }
 

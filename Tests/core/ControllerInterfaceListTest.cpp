@@ -95,11 +95,59 @@ TEST_F(ControllerInterfaces, NothingIsSelectedOnceTheChosenInterfaceIsGone) {
     EXPECT_EQ(window.interfacePopUp.titles(), Titles{"Wi-Fi (wlan0)"});
     EXPECT_EQ(selected(), "(none)");
     EXPECT_EQ(broadcast(), "192.168.1.255:3520 ^^IdX") << "until another one is chosen";
+    choose("Wi-Fi (wlan0)");
+    EXPECT_EQ(broadcast(), "10.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerInterfaces, TheChosenInterfaceIsSelectedAgainWhenItComesBack) {
+    addEthernet();
+    addWiFi();
+    launch();
+    choose("Wi-Fi (wlan0)");
+    interfaces.clear();
     addEthernet();
     controller.interfacePopUpWillOpen();
     EXPECT_EQ(selected(), "(none)");
-    choose("Wi-Fi (wlan0)");
+    addWiFi();
+    controller.interfacePopUpWillOpen();
+    EXPECT_EQ(selected(), "Wi-Fi (wlan0)");
     EXPECT_EQ(broadcast(), "10.255.255.255:3520 ^^IdX");
+}
+
+TEST_F(ControllerInterfaces, TheChosenInterfaceIsSelectedAgainAfterAnEmptyList) {
+    addEthernet();
+    addWiFi();
+    launch();
+    choose("Wi-Fi (wlan0)");
+    interfaces.clear();
+    controller.interfacePopUpWillOpen();
+    addEthernet();
+    addWiFi();
+    controller.interfacePopUpWillOpen();
+    EXPECT_EQ(selected(), "Wi-Fi (wlan0)");
+}
+
+TEST_F(ControllerInterfaces, AfterAnEmptyListNoOtherInterfaceLooksChosen) {
+    addEthernet();
+    addWiFi();
+    launch();
+    choose("Wi-Fi (wlan0)");
+    interfaces.clear();
+    controller.interfacePopUpWillOpen();
+    addEthernet();
+    controller.interfacePopUpWillOpen();
+    EXPECT_EQ(selected(), "(none)");
+    EXPECT_EQ(broadcast(), "10.255.255.255:3520 ^^IdX") << "until another one is chosen";
+}
+
+TEST_F(ControllerInterfaces, BeforeAnyChoiceTheFirstIsSelectedWhenTheSelectedOneIsGone) {
+    addEthernet();
+    launch();
+    interfaces.clear();
+    addWiFi();
+    controller.interfacePopUpWillOpen();
+    EXPECT_EQ(selected(), "Wi-Fi (wlan0)") << "as after a launch";
+    EXPECT_EQ(broadcast(), "255.255.255.255:3520 ^^IdX") << "as after a launch, none is chosen";
 }
 
 TEST_F(ControllerInterfaces, NoConfiguredInterfacesCanBecomeRealOnes) {

@@ -95,9 +95,16 @@ TEST(ConfigurationRecords, AProfileOnTheLoopbackIsNoService) {
     EXPECT_EQ(serviceOrder(configurationRecords({loopback()}, {{"1234", "lo", "lo", {}}})), Keys());
 }
 
-TEST(ConfigurationRecords, AProfileWhoseLinkIsGoneHasItsSavedAddressesOnly) {
+TEST(ConfigurationRecords, AProfileWhoseDeviceIsNoLinkIsNoService) {
+    const auto records = configurationRecords(
+        {linkWithAddress(2, "eth0")}, {{"1234", "Mobile", "cdc-wdm0", {{0xC0000205U, 24}}}});
+    EXPECT_EQ(serviceOrder(records), Keys{"link-eth0"});
+    EXPECT_EQ(dictionaryAtPath(records.preferences, "/NetworkServices/1234"), nullptr);
+}
+
+TEST(ConfigurationRecords, AProfileWhoseLinkHasNoAddressHasItsSavedAddressesOnly) {
     const auto records =
-        configurationRecords({}, {{"1234", "Office", "eth0", {{0xC0000205U, 24}}}});
+        configurationRecords({link(2, "eth0")}, {{"1234", "Office", "eth0", {{0xC0000205U, 24}}}});
     EXPECT_EQ(serviceOrder(records), Keys{"1234"});
     EXPECT_FALSE(records.dynamicStore.contains("State:/Network/Service/1234/IPv4"));
     EXPECT_EQ(savedEntry(records, "/NetworkServices/1234/IPv4", "Addresses"), "(192.0.2.5)");

@@ -1,4 +1,5 @@
-// What is logged, and what still works, when changes of the links cannot be heard.
+// What is logged, and what still works, when changes of the links cannot be heard, or when the
+// kernel does not answer in time.
 
 #include "platform/linux/KernelLinks.h"
 
@@ -10,7 +11,10 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <optional>
+#include <string>
+#include <thread>
 
 namespace kx {
 
@@ -27,6 +31,21 @@ public:
         return nullptr;
     }
     void runUntil(const std::function<bool()>& /*isDone*/) override {}
+};
+
+// A kernel that answers in time, or does not.
+struct ScriptedKernel {
+    LinkSnapshot answer{std::vector<NetworkLink>(1), true};
+    int error = 0;
+    int questions = 0;
+
+    KernelLinks::Reader reader() {
+        return [this]() -> std::optional<LinkSnapshot> {
+            ++questions;
+            errno = error;
+            return error == 0 ? std::optional(answer) : std::nullopt;
+        };
+    }
 };
 
 } // namespace
@@ -59,6 +78,98 @@ TEST(KernelLinks, WithoutASocketTheReasonIsLoggedAndTheLinksAreReadEachTime) {
     EXPECT_EQ(links->links()->size(), 1U);
     network.addLink("kx0", "02:00:00:00:00:01");
     EXPECT_EQ(links->links()->size(), 3U);
+}
+
+TEST(KernelLinks, AKernelThatDoesNotAnswerInTimeIsNotAskedAgainAtOnce) {
+    PrivateNetwork network;
+    ManualRunLoop loop;
+    ScriptedKernel kernel;
+    KernelLinks links(loop, kernel.reader());
+    kernel.error = ETIMEDOUT;
+    for (int i = 0; i < 3; ++i) {
+        errno = 0;
+        EXPECT_EQ(links.links(), nullptr);
+        EXPECT_EQ(errno, ETIMEDOUT);
+    }
+    EXPECT_EQ(kernel.questions, 1);
+    kernel.error = 0;
+    loop.advanceBy(std::chrono::seconds(1));
+    ASSERT_NE(links.links(), nullptr);
+    EXPECT_EQ(kernel.questions, 2);
+    EXPECT_EQ(loop.pendingCallCount(), 0U);
+}
+
+TEST(KernelLinks, WhileTheKernelDoesNotAnswerTheLinksAreTheOnesThatItToldLast) {
+    PrivateNetwork network;
+    ManualRunLoop loop;
+    ScriptedKernel kernel;
+    KernelLinks links(loop, kernel.reader());
+    ASSERT_NE(links.links(), nullptr);
+    network.addLink("kx0", "02:00:00:00:00:01");
+    kernel.error = ETIMEDOUT;
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_NE(links.links(), nullptr);
+        EXPECT_EQ(links.links()->size(), 1U);
+    }
+    EXPECT_EQ(kernel.questions, 2);
+    int changes = 0;
+    links.setChangeAction([&changes] { ++changes; });
+    kernel.error = 0;
+    kernel.answer.links.resize(3);
+    loop.advanceBy(std::chrono::seconds(1));
+    EXPECT_EQ(changes, 1) << "there may have been one";
+    EXPECT_EQ(links.links()->size(), 3U);
+}
+
+TEST(KernelLinks, AKernelThatRefusesIsAskedAgainAtOnce) {
+    PrivateNetwork network;
+    ManualRunLoop loop;
+    ScriptedKernel kernel;
+    KernelLinks links(loop, kernel.reader());
+    kernel.error = EMFILE;
+    EXPECT_EQ(links.links(), nullptr);
+    kernel.error = 0;
+    EXPECT_NE(links.links(), nullptr);
+}
+
+TEST(KernelLinks, LinksWithoutAllRoutesAreReadAgainALittleLater) {
+    PrivateNetwork network;
+    ManualRunLoop loop;
+    ScriptedKernel kernel;
+    KernelLinks links(loop, kernel.reader());
+    kernel.answer.hasAllRoutes = false;
+    for (int i = 0; i < 3; ++i) {
+        ASSERT_NE(links.links(), nullptr) << "the order is all that is missing";
+    }
+    EXPECT_EQ(kernel.questions, 1);
+    kernel.answer.hasAllRoutes = true;
+    loop.advanceBy(std::chrono::seconds(1));
+    ASSERT_NE(links.links(), nullptr);
+    ASSERT_NE(links.links(), nullptr);
+    EXPECT_EQ(kernel.questions, 2);
+}
+
+// While an administrator changes links, lists are interrupted all the time.
+TEST(RtnetlinkSnapshot, ItComesToAnEndWhileLinksChange) {
+    PrivateNetwork network;
+    std::string changes;
+    for (int i = 0; i < 50; ++i) {
+        changes += "link add kx0 type bridge\nlink del kx0\n";
+    }
+    std::atomic<bool> isOver = false;
+    std::thread administrator([&] {
+        network.batch(changes);
+        isOver = true;
+    });
+    while (!isOver) {
+        const auto read = readNetworkLinks();
+        EXPECT_TRUE(read.has_value() ? !read->links.empty() : errno == ETIMEDOUT);
+    }
+    administrator.join();
+    const auto read = readNetworkLinks();
+    ASSERT_TRUE(read.has_value());
+    EXPECT_EQ(read->links.size(), 1U);
+    EXPECT_TRUE(read->hasAllRoutes);
 }
 
 } // namespace kx

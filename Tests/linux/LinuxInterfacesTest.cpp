@@ -229,6 +229,40 @@ TEST_F(LinuxInterfaces, ReadingInBetweenDoesNotSwallowAChange) {
     EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
 }
 
+TEST_F(LinuxInterfaces, ASessionWithoutACallbackSeesTheLinksAsTheyWereWhenItWasOpened) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "192.0.2.1/24");
+    const std::string key = "State:/Network/Service/link-kx0/IPv4";
+    const auto before = links.generation();
+    const auto quiet = store.openSession("test", nullptr, nullptr);
+    network.ip("address flush dev kx0");
+    EXPECT_TRUE(quiet->copyValue(key).has_value());
+    EXPECT_EQ(links.generation(), before + 1) << "the host is read once";
+    EXPECT_FALSE(store.openSession("test", nullptr, nullptr)->copyValue(key).has_value());
+}
+
+TEST_F(LinuxInterfaces, WhatIsThereBeforeTheFirstReadIsNoChange) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "192.0.2.1/24");
+    session = store.openSession("test", RecordedChanges::record, &changes);
+    const std::vector<std::string_view> patterns = {"State:/Network/Service/[^/]+/IPv4"};
+    ASSERT_TRUE(session->setNotificationKeys({}, patterns));
+    source = session->createRunLoopSource();
+    network.ip("link set kx0 mtu 1400"); // so that the links are read anew
+    withoutNetlink([this] { source->addToRunLoop(); });
+    EXPECT_EQ(changedKeys(), Titles());
+    network.ip("link set kx0 mtu 1500");
+    EXPECT_EQ(changedKeys(), Titles());
+    network.addAddress("kx0", "192.0.2.2/24");
+    EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
+}
+
+TEST_F(LinuxInterfaces, ALinkWhoseNameIsNoTextIsLeftOut) {
+    network.addLink("kx\xFF", "02:00:00:00:00:01");
+    network.addAddress("kx\xFF", "192.0.2.1/24");
+    EXPECT_EQ(allTitles(), Titles{"Loopback (lo)"});
+}
+
 TEST_F(LinuxInterfaces, MoreChangesThanTheSocketHoldsAreToldAsOne) {
     network.addLink("kx0", "02:00:00:00:00:01");
     watch();

@@ -24,8 +24,7 @@ constexpr std::string_view locationSetName = "Automatic";
 struct Service {
     std::string identifier;
     std::string name;
-    std::string interfaceName;
-    const NetworkLink* link = nullptr; // null when the kernel does not have it (any more)
+    const NetworkLink* link = nullptr; // never null
     std::vector<IPv4InterfaceAddress> savedAddresses;
 };
 
@@ -57,10 +56,8 @@ KindNames namesOfKind(LinkKind kind) {
 // Lower comes first.
 auto preference(const Service& service) {
     constexpr auto last = std::numeric_limits<std::uint64_t>::max();
-    const auto metric = service.link != nullptr ? service.link->defaultRouteMetric : std::nullopt;
-    return std::tuple(metric.has_value() ? std::uint64_t{*metric} : last,
-                      service.link != nullptr ? service.link->index
-                                              : std::numeric_limits<int>::max());
+    const auto metric = service.link->defaultRouteMetric;
+    return std::tuple(metric.has_value() ? std::uint64_t{*metric} : last, service.link->index);
 }
 
 // A profile may be active on several links at a time; all but the first then need an identifier of
@@ -76,15 +73,14 @@ std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
     std::set<std::string_view> identifiers;
     for (const auto& profile : profiles) {
         const auto found = linksByName.find(profile.interfaceName);
-        const NetworkLink* const link = found != linksByName.end() ? found->second : nullptr;
-        if (link != nullptr && link->isLoopback) {
+        if (found == linksByName.end() || found->second->isLoopback) {
             continue;
         }
         const bool isFirst = identifiers.insert(profile.identifier).second;
         services.push_back({isFirst
                                 ? profile.identifier
                                 : filledText("%@-%@", {profile.identifier, profile.interfaceName}),
-                            profile.name, profile.interfaceName, link, profile.addresses});
+                            profile.name, found->second, profile.addresses});
         covered.insert(profile.interfaceName);
     }
     for (const auto& link : links) {
@@ -92,7 +88,6 @@ std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
             !covered.contains(link.name)) {
             services.push_back({std::string(linkServicePrefix) + link.name,
                                 std::string(namesOfKind(link.kind).userDefinedName),
-                                link.name,
                                 &link,
                                 {}});
         }
@@ -113,8 +108,8 @@ ipv4Record(const std::vector<IPv4InterfaceAddress>& interfaceAddresses) {
         masks.emplace_back(stringForIP(maskOfPrefixLength(address.prefixLength)));
     }
     return PropertyDictionary{
-        {std::string(kSCPropNetIPv4Addresses), std::move(addresses)},
-        {std::string(kSCPropNetIPv4SubnetMasks), std::move(masks)},
+        {std::string(ipv4AddressesEntry), std::move(addresses)},
+        {std::string(ipv4SubnetMasksEntry), std::move(masks)},
     };
 }
 
@@ -132,16 +127,15 @@ ipv6Record(const std::vector<IPv6InterfaceAddress>& interfaceAddresses) {
         prefixLengths.emplace_back(std::int64_t{address.prefixLength});
     }
     return PropertyDictionary{
-        {std::string(kSCPropNetIPv6Addresses), std::move(addresses)},
-        {std::string(kSCPropNetIPv6PrefixLength), std::move(prefixLengths)},
+        {std::string(ipv6AddressesEntry), std::move(addresses)},
+        {std::string(ipv6PrefixLengthEntry), std::move(prefixLengths)},
     };
 }
 
 PropertyDictionary interfaceRecord(const Service& service) {
-    const LinkKind kind = service.link != nullptr ? service.link->kind : LinkKind::other;
     return {
-        {std::string(kSCPropNetInterfaceDeviceName), service.interfaceName},
-        {std::string(kSCPropNetInterfaceType), namesOfKind(kind).type},
+        {std::string(kSCPropNetInterfaceDeviceName), service.link->name},
+        {std::string(kSCPropNetInterfaceType), namesOfKind(service.link->kind).type},
         {std::string(kSCPropUserDefinedName), service.name},
     };
 }
@@ -154,22 +148,20 @@ void addLink(const NetworkLink& link, ConfigurationRecords& records) {
         }
     };
     add(kSCEntNetIPv4, ipv4Record(link.ipv4Addresses));
-    add(kSCEntNetIPv6, ipv6Record(link.ipv6Addresses));
-    add(kSCEntNetLink,
-        PropertyDictionary{{std::string(kSCPropNetLinkActive), link.isRunning ? 1 : 0}});
+    add(ipv6Entity, ipv6Record(link.ipv6Addresses));
+    add(linkEntity, PropertyDictionary{{std::string(linkActiveEntry), link.isRunning ? 1 : 0}});
 }
 
 void addService(const Service& service, ConfigurationRecords& records,
                 PropertyDictionary& savedServices) {
     records.dynamicStore.insert_or_assign(
         filledText(setupServiceInterfaceKey, {service.identifier}), interfaceRecord(service));
-    const auto state =
-        service.link != nullptr ? ipv4Record(service.link->ipv4Addresses) : std::nullopt;
+    const auto state = ipv4Record(service.link->ipv4Addresses);
     if (state.has_value()) {
         records.dynamicStore.insert_or_assign(
             filledText(stateServiceEntityKey, {service.identifier, kSCEntNetIPv4}), *state);
     }
-    PropertyDictionary saved{{std::string(kSCEntNetInterface), interfaceRecord(service)}};
+    PropertyDictionary saved{{std::string(interfaceEntity), interfaceRecord(service)}};
     if (auto ipv4 = ipv4Record(service.savedAddresses)) {
         saved.emplace(kSCEntNetIPv4, std::move(*ipv4));
     }
@@ -204,7 +196,7 @@ ConfigurationRecords configurationRecords(const std::vector<NetworkLink>& links,
     }
     std::optional<PropertyDictionary> global;
     if (!order.empty()) {
-        global = {{std::string(kSCPropNetServiceOrder), std::move(order)}};
+        global = {{std::string(serviceOrderEntry), std::move(order)}};
         records.dynamicStore.emplace(setupGlobalIPv4Key, *global);
         records.preferences.emplace("NetworkServices", std::move(savedServices));
     }

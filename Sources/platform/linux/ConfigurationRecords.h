@@ -2,7 +2,8 @@
 // (System Configuration/ConfigurationStore.h says which). Pure; any thread.
 //
 // Services are
-//   - the active connection profiles, by their own identifiers and names, except on the loopback
+//   - the active connection profiles of links, by their own identifiers and names, except on the
+//     loopback; a modem's device, for one, is no link and carries no datagrams
 //   - every link that can broadcast, has an IPv4 address and no profile; its identifier is "link-"
 //     and its name, its user-defined name says its kind
 // The host's preferred default route comes first; services without a default route follow in the

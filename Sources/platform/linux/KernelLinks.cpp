@@ -1,6 +1,5 @@
 #include "platform/linux/KernelLinks.h"
 
-#include "platform/linux/RtnetlinkSnapshot.h"
 #include "support/Error.h"
 #include "support/SystemLog.h"
 #include "support/TextFormat.h"
@@ -12,11 +11,14 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <utility>
 
 namespace kx {
 
 namespace {
+
+constexpr std::chrono::seconds pauseTime{1};
 
 // A socket that hears the kernel's changes, or -1, with errno set.
 int openChangeSocket() {
@@ -40,7 +42,12 @@ int openChangeSocket() {
 } // namespace
 
 KernelLinks::KernelLinks(RunLoop& runLoop)
-    : _descriptor(openChangeSocket()) {
+    : KernelLinks(runLoop, readNetworkLinks) {}
+
+KernelLinks::KernelLinks(RunLoop& runLoop, Reader read)
+    : _runLoop(runLoop)
+    , _read(std::move(read))
+    , _descriptor(openChangeSocket()) {
     if (_descriptor < 0) {
         logToSystem(filledText("changes of the network links cannot be heard: %s",
                                {posixErrorText(errno)}));
@@ -61,16 +68,32 @@ KernelLinks::~KernelLinks() {
 
 const std::vector<NetworkLink>* KernelLinks::links() {
     hearChanges();
-    if (_isStale) {
-        auto read = readNetworkLinks();
-        if (!read.has_value()) {
-            return nullptr;
-        }
-        _links = std::move(*read);
-        ++_generation;
-        _isStale = _descriptor < 0; // nobody will say when these have changed
+    if (!_isStale) {
+        return &_links;
     }
-    return &_links;
+    if (_pause == nullptr) {
+        auto read = _read();
+        if (read.has_value()) {
+            _links = std::move(read->links);
+            ++_generation;
+            _isStale = _descriptor < 0; // nobody will say when these have changed
+        } else if (errno != ETIMEDOUT) {
+            return nullptr; // a refusal takes no time, so the next one may ask again
+        }
+        if (!read.has_value() || !read->hasAllRoutes) {
+            _isStale = true;
+            pause();
+        }
+    }
+    errno = ETIMEDOUT;
+    return _generation > 0 ? &_links : nullptr;
+}
+
+void KernelLinks::pause() {
+    _pause = _runLoop.callOnceAfter(pauseTime, [this] {
+        _pause.reset();
+        tellChange();
+    });
 }
 
 // What a message says does not matter, so it may be cut off. That messages were lost is a message,
@@ -84,9 +107,13 @@ void KernelLinks::hearChanges() {
     }
     if (hasChanged) {
         _isStale = true;
-        if (_changeAction) {
-            _changeAction();
-        }
+        tellChange();
+    }
+}
+
+void KernelLinks::tellChange() {
+    if (_changeAction) {
+        _changeAction();
     }
 }
 

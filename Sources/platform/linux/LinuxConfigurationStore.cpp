@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::chrono::milliseconds settlingTime{100};
 constexpr std::chrono::milliseconds retryTime{1000}; // while the kernel cannot be asked
-constexpr int kSCStatusInvalidArgument = 1002;
+constexpr int refusedPatternStatus = 1002;
 
 // Which keys a session watches.
 struct KeyChoice {
@@ -31,13 +31,15 @@ struct KeyChoice {
 
 class LinuxConfigurationStore::Session final : public DynamicStoreSession {
 public:
-    Session(LinuxConfigurationStore& store, DynamicStoreCallBack callback, void* info)
+    Session(LinuxConfigurationStore& store, DynamicStoreCallBack callback, void* info,
+            Records records)
         : _store(store)
         , _callback(callback)
-        , _info(info) {}
+        , _info(info)
+        , _records(callback == nullptr ? std::move(records) : nullptr) {}
 
     std::optional<PropertyDictionary> copyValue(std::string_view key) override {
-        const auto records = _store.currentRecords();
+        const auto records = _records != nullptr ? _records : _store.currentRecords();
         if (records == nullptr) {
             return std::nullopt;
         }
@@ -52,7 +54,7 @@ public:
         for (const auto text : patterns) {
             auto pattern = KeyPattern::parse(text);
             if (!pattern.has_value()) {
-                _store._lastError = kSCStatusInvalidArgument;
+                _store._lastError = refusedPatternStatus;
                 return false;
             }
             choice.patterns.push_back(std::move(*pattern));
@@ -76,6 +78,7 @@ private:
     LinuxConfigurationStore& _store;
     DynamicStoreCallBack _callback;
     void* _info;
+    Records _records; // null when each read is to see the present ones
     KeyChoice _choice;
 };
 
@@ -96,15 +99,15 @@ public:
     // The callback may destroy this source.
     void tell(const Records& now) {
         const auto before = std::exchange(_told, now);
-        if (before != now) {
-            _session.tell(before != nullptr ? *before : ConfigurationRecords(), *now);
+        if (before != nullptr && before != now) {
+            _session.tell(*before, *now);
         }
     }
 
 private:
     LinuxConfigurationStore& _store;
     Session& _session;
-    Records _told; // what the callback knows
+    Records _told; // what the callback knows; null until there was something to read
 };
 
 std::unique_ptr<ConfigurationChangeSource> LinuxConfigurationStore::Session::createRunLoopSource() {
@@ -151,10 +154,11 @@ LinuxConfigurationStore::~LinuxConfigurationStore() {
 std::unique_ptr<DynamicStoreSession>
 LinuxConfigurationStore::openSession(std::string_view /*name*/, DynamicStoreCallBack callback,
                                      void* info) {
-    if (currentRecords() == nullptr) {
+    auto records = currentRecords();
+    if (records == nullptr) {
         return nullptr;
     }
-    return std::make_unique<Session>(*this, callback, info);
+    return std::make_unique<Session>(*this, callback, info, std::move(records));
 }
 
 std::unique_ptr<PreferencesSession>

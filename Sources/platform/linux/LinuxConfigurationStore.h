@@ -1,13 +1,15 @@
 // The configuration store of a Linux host: the kernel's links and the active connection profiles,
 // as the records of ConfigurationRecords.h.
 //
-// Nothing is written anywhere, so what is "saved" is what the host has now. Every read sees the
-// links as they are at that moment. Changes are told a little later than they happen, and together:
+// Nothing is written anywhere, so what is "saved" is what the host has now. A session with a
+// callback sees the links as they are at the moment of each read. Any other session, and one with
+// the preferences, sees them as they were when it was opened, so that a listing of many services
+// reads the host once. Changes are told a little later than they happen, and together:
 // what comes and goes within a tenth of a second is no change, and what one command of the
 // administrator does in several steps is one.
 //
-// Failures: no session is opened, and SCError() has the value of errno, while the kernel cannot be
-// asked. Patterns with another construct than "[^/]+" are refused (SCError() 1002).
+// Failures: no session is opened, and SCError() has the value of errno, while there are no links
+// (KernelLinks.h). Patterns with another construct than "[^/]+" are refused (SCError() 1002).
 //
 // Threading: the main thread only. Ownership: the run loop, the links and the profiles must outlive
 // the store, and so must their present change actions, which are the store's.

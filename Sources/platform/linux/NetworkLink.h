@@ -30,8 +30,8 @@ struct IPv6InterfaceAddress {
 };
 
 struct NetworkLink {
-    int index = 0; // the kernel's number, unique at a time
-    std::string name;
+    int index = 0;    // the kernel's number, unique at a time
+    std::string name; // UTF-8
     LinkKind kind = LinkKind::other;
     bool isUp = false;      // by the administrator
     bool isRunning = false; // carries datagrams: up, with a carrier

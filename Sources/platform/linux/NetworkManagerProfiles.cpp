@@ -88,6 +88,7 @@ void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
 // Whoever told the profiles is gone, and will not answer any more.
 void NetworkManagerProfiles::forget() {
     endReading();
+    _owner.clear();
     setProfiles({});
 }
 
@@ -101,6 +102,7 @@ void NetworkManagerProfiles::takeAnswer() {
     bool mustReadAgain = _isOutdated;
     endReading();
     if (answer.type() == QDBusMessage::ReplyMessage) {
+        _owner = answer.service();
         setProfiles(activeConnections(answer));
     } else if (QDBusError(answer).type() == QDBusError::NoReply) {
         mustReadAgain = true; // it hangs, or ended just now
@@ -122,15 +124,26 @@ void NetworkManagerProfiles::setProfiles(std::vector<ConnectionProfile> profiles
     }
 }
 
+// Anyone on the bus may send a signal to this end alone, whatever it asked the bus for.
 void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
-    const bool isOfOwner = signal.member() == ownerChanged;
-    if (isOfOwner || SystemBus::endsConnection(signal)) {
+    if (SystemBus::endsConnection(signal)) {
         forget();
+    } else if (signal.member() == ownerChanged) {
+        const auto arguments = signal.arguments();
+        if (signal.service() == busService && arguments.value(0).toString() == service) {
+            hearOwner(arguments.value(2).toString());
+        }
+    } else if (_reading != nullptr) {
+        _isOutdated = _isOutdated || _owner.isEmpty() || signal.service() == _owner;
+    } else if (!_owner.isEmpty() && signal.service() == _owner) {
+        read(SystemBus::endlessPatience);
     }
-    const bool hasOwner = !isOfOwner || !signal.arguments().value(2).toString().isEmpty();
-    if (_reading != nullptr) {
-        _isOutdated = true;
-    } else if (_bus->isOpen() && hasOwner) {
+}
+
+void NetworkManagerProfiles::hearOwner(const QString& owner) {
+    forget();
+    _owner = owner;
+    if (_bus->isOpen() && !owner.isEmpty()) {
         read(SystemBus::endlessPatience);
     }
 }

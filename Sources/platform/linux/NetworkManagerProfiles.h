@@ -15,6 +15,7 @@
 
 #include "platform/linux/ConnectionProfiles.h"
 
+#include <QString>
 #include <chrono>
 #include <cstdint>
 #include <functional>
@@ -51,6 +52,7 @@ private:
 
     void connectToBus();
     void hear(const QDBusMessage& signal);
+    void hearOwner(const QString& owner);
     void read(std::chrono::milliseconds patience);
     void forget();
     void endReading();
@@ -62,6 +64,7 @@ private:
     Call _reading;                                  // the call that is under way, or null
     bool _isFirstReading = false;                   // on this bus; it ends by itself
     bool _isOutdated = false;                       // what that call will tell
+    QString _owner; // NetworkManager's own name on the bus; empty while it is not known
     std::vector<ConnectionProfile> _profiles;
     std::uint64_t _generation = 0;
     std::function<void()> _changeAction;

@@ -1,23 +1,27 @@
 #include "platform/linux/RtnetlinkSnapshot.h"
 
+#include "support/TextEncoding.h"
+
 #include <net/if.h>
 #include <net/if_arp.h>
-#include <netlink/cache.h>
 #include <netlink/errno.h>
 #include <netlink/msg.h>
 #include <netlink/netlink.h>
+#include <netlink/object.h>
 #include <netlink/route/addr.h>
 #include <netlink/route/link.h>
 #include <netlink/route/nexthop.h>
 #include <netlink/route/route.h>
 #include <netlink/socket.h>
+#include <poll.h>
 #include <sys/socket.h>
-#include <sys/time.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstring>
+#include <functional>
 #include <map>
 #include <memory>
 #include <string_view>
@@ -30,24 +34,27 @@ namespace {
 struct SocketRelease {
     void operator()(nl_sock* socket) const { nl_socket_free(socket); }
 };
-struct CacheRelease {
-    void operator()(nl_cache* cache) const { nl_cache_free(cache); }
-};
 struct RouteRelease {
     void operator()(rtnl_route* route) const { rtnl_route_put(route); }
 };
 using Socket = std::unique_ptr<nl_sock, SocketRelease>;
-using Cache = std::unique_ptr<nl_cache, CacheRelease>;
+using Clock = std::chrono::steady_clock;
 using Route = std::unique_ptr<rtnl_route, RouteRelease>;
 
 using LinksByIndex = std::map<int, NetworkLink>;
 
-constexpr timeval longestWait{0, 500'000};
+// Short, because whoever asks may have waited for the connection profiles before.
+constexpr std::chrono::milliseconds patience{200};
+constexpr std::chrono::milliseconds patienceForRoutes{40}; // at least
+
+// A list that changes while the kernel tells it is asked for again, so many times in all.
+constexpr int mostTries = 4;
 
 // The library's codes that matter here, as values of errno.
 int errnoOfCode(int code) {
     switch (-code) {
     case NLE_AGAIN:
+    case NLE_DUMP_INTR:
         return ETIMEDOUT;
     case NLE_NOMEM:
         return ENOMEM;
@@ -69,13 +76,12 @@ Socket openSocket() {
         errno = ENOMEM;
         return nullptr;
     }
-    const int code = nl_connect(socket.get(), NETLINK_ROUTE);
+    int code = nl_connect(socket.get(), NETLINK_ROUTE);
+    if (code >= 0) {
+        code = nl_socket_set_nonblocking(socket.get());
+    }
     if (code < 0) {
         errno = errnoOfCode(code);
-        return nullptr;
-    }
-    if (::setsockopt(nl_socket_get_fd(socket.get()), SOL_SOCKET, SO_RCVTIMEO, &longestWait,
-                     sizeof longestWait) != 0) {
         return nullptr;
     }
     return socket;
@@ -149,41 +155,111 @@ void addAddress(rtnl_addr* address, NetworkLink& link) {
     }
 }
 
-// Calls `visit` with each object of a cache as what it is.
-template<class Object, class Visit>
-void forEach(const Cache& cache, Visit visit) {
-    for (nl_object* object = nl_cache_get_first(cache.get()); object != nullptr;
-         object = nl_cache_get_next(object)) {
-        // The library's own way from the base to the kind that the cache holds.
-        visit(reinterpret_cast<Object*>(object));
+// A question to the kernel, and how far its answer has come.
+struct Dump {
+    std::function<bool(nl_msg*)> take; // called with each message of the answer; false: enough
+    Clock::time_point deadline;        // for waiting; what is there already is read in any case
+    bool isComplete = false;
+    bool isStopped = false;
+    bool isInterrupted = false; // the list has changed while the kernel told it
+};
+
+int messageReceived(nl_msg* message, void* dump) {
+    auto& asked = *static_cast<Dump*>(dump);
+    asked.isStopped = asked.isStopped || !asked.take(message);
+    return asked.isStopped ? NL_STOP : NL_OK;
+}
+
+int answerEnded(nl_msg* /*message*/, void* dump) {
+    static_cast<Dump*>(dump)->isComplete = true;
+    return NL_OK;
+}
+
+int answerInterrupted(nl_msg* /*message*/, void* dump) {
+    static_cast<Dump*>(dump)->isInterrupted = true;
+    return NL_OK;
+}
+
+// Waits until there is something to read; false when there is not until the deadline.
+bool canRead(nl_sock* socket, Clock::time_point deadline) {
+    pollfd descriptor{nl_socket_get_fd(socket), POLLIN, 0};
+    int ready = 0;
+    do {
+        const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now());
+        ready = ::poll(&descriptor, 1, std::max(static_cast<int>(left.count()), 0));
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0;
+}
+
+// Asks for a list and hears the answer to its end. Returns a code of the library, negative for a
+// failure, as do the functions below.
+template<class Request>
+int ask(nl_sock* socket, int type, Request request, Dump dump) {
+    nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, messageReceived, &dump);
+    nl_socket_modify_cb(socket, NL_CB_FINISH, NL_CB_CUSTOM, answerEnded, &dump);
+    nl_socket_modify_cb(socket, NL_CB_DUMP_INTR, NL_CB_CUSTOM, answerInterrupted, &dump);
+    const int sent = nl_send_simple(socket, type, NLM_F_DUMP, &request, sizeof request);
+    if (sent < 0) {
+        return sent;
+    }
+    while (!dump.isComplete) {
+        if (dump.isStopped || !canRead(socket, dump.deadline)) {
+            return -NLE_AGAIN;
+        }
+        const int code = nl_recvmsgs_default(socket);
+        if (code < 0 && code != -NLE_AGAIN) {
+            return code;
+        }
+    }
+    return dump.isInterrupted ? -NLE_DUMP_INTR : 0;
+}
+
+void linkReceived(nl_object* object, void* links) {
+    // The library's own way from the base to the kind that was asked for.
+    auto* const link = reinterpret_cast<rtnl_link*>(object);
+    const char* const name = rtnl_link_get_name(link);
+    if (name != nullptr && isValidUTF8(bytesOfText(name))) {
+        static_cast<LinksByIndex*>(links)->insert_or_assign(rtnl_link_get_ifindex(link),
+                                                            networkLink(link));
     }
 }
 
-// Each returns a code of the library, negative for a failure.
-int readLinks(nl_sock* socket, LinksByIndex& links) {
-    nl_cache* read = nullptr;
-    const int code = rtnl_link_alloc_cache(socket, AF_UNSPEC, &read);
-    const Cache cache(code < 0 ? nullptr : read);
-    if (cache != nullptr) {
-        forEach<rtnl_link>(cache, [&links](rtnl_link* link) {
-            links.insert_or_assign(rtnl_link_get_ifindex(link), networkLink(link));
-        });
+void addressReceived(nl_object* object, void* links) {
+    auto* const address = reinterpret_cast<rtnl_addr*>(object);
+    auto& known = *static_cast<LinksByIndex*>(links);
+    const auto link = known.find(rtnl_addr_get_ifindex(address));
+    if (link != known.end()) {
+        addAddress(address, link->second);
     }
-    return code;
 }
 
-int readAddresses(nl_sock* socket, LinksByIndex& links) {
-    nl_cache* read = nullptr;
-    const int code = rtnl_addr_alloc_cache(socket, &read);
-    const Cache cache(code < 0 ? nullptr : read);
-    if (cache != nullptr) {
-        forEach<rtnl_addr>(cache, [&links](rtnl_addr* address) {
-            const auto link = links.find(rtnl_addr_get_ifindex(address));
-            if (link != links.end()) {
-                addAddress(address, link->second);
-            }
-        });
-    }
+int readLinks(nl_sock* socket, Clock::time_point deadline, LinksByIndex& links) {
+    const auto take = [&links](nl_msg* message) {
+        nl_msg_parse(message, linkReceived, &links);
+        return true;
+    };
+    return ask(socket, RTM_GETLINK, ifinfomsg{}, {take, deadline});
+}
+
+int readAddresses(nl_sock* socket, Clock::time_point deadline, LinksByIndex& links) {
+    const auto take = [&links](nl_msg* message) {
+        nl_msg_parse(message, addressReceived, &links);
+        return true;
+    };
+    return ask(socket, RTM_GETADDR, ifaddrmsg{}, {take, deadline});
+}
+
+int readLinksAndAddresses(nl_sock* socket, Clock::time_point deadline, LinksByIndex& links) {
+    int code = 0;
+    int tries = 0;
+    do {
+        links.clear();
+        code = readLinks(socket, deadline, links);
+        if (code >= 0) {
+            code = readAddresses(socket, deadline, links);
+        }
+        ++tries;
+    } while (code == -NLE_DUMP_INTR && tries < mostTries && Clock::now() < deadline);
     return code;
 }
 
@@ -204,47 +280,51 @@ void addDefaultRoute(nlmsghdr* header, LinksByIndex& links) {
     }
 }
 
-// Called with every route; the many that are no default route are not even taken apart.
-int routeReceived(nl_msg* message, void* links) {
+// Takes every route; the many that are no default route are not even taken apart.
+void takeRoute(nl_msg* message, LinksByIndex& links) {
     nlmsghdr* const header = nlmsg_hdr(message);
     if (header->nlmsg_type == RTM_NEWROUTE && nlmsg_valid_hdr(header, sizeof(rtmsg)) != 0) {
         rtmsg route;
         std::memcpy(&route, nlmsg_data(header), sizeof route);
         if (route.rtm_dst_len == 0 && route.rtm_table == RT_TABLE_MAIN &&
             route.rtm_type == RTN_UNICAST) {
-            addDefaultRoute(header, *static_cast<LinksByIndex*>(links));
+            addDefaultRoute(header, links);
         }
     }
-    return NL_OK;
 }
 
-int readDefaultRoutes(nl_sock* socket, LinksByIndex& links) {
+// There may be a million routes, of which the default ones are told first.
+int readDefaultRoutes(nl_sock* socket, Clock::time_point deadline, LinksByIndex& links) {
     rtmsg request{};
     request.rtm_family = AF_INET;
-    nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, routeReceived, &links);
-    const int code = nl_send_simple(socket, RTM_GETROUTE, NLM_F_DUMP, &request, sizeof request);
-    return code < 0 ? code : nl_recvmsgs_default(socket);
+    const auto take = [&links, deadline](nl_msg* message) {
+        takeRoute(message, links);
+        return Clock::now() < deadline;
+    };
+    return ask(socket, RTM_GETROUTE, request, {take, deadline});
 }
 
 } // namespace
 
-std::optional<std::vector<NetworkLink>> readNetworkLinks() {
+std::optional<LinkSnapshot> readNetworkLinks() {
+    const auto deadline = Clock::now() + patience;
     const Socket socket = openSocket();
     if (socket == nullptr) {
         return std::nullopt;
     }
     LinksByIndex links;
-    for (const auto read : {readLinks, readAddresses, readDefaultRoutes}) {
-        const int code = read(socket.get(), links);
-        if (code < 0) {
-            errno = errnoOfCode(code);
-            return std::nullopt;
-        }
+    const int code = readLinksAndAddresses(socket.get(), deadline, links);
+    if (code < 0) {
+        errno = errnoOfCode(code);
+        return std::nullopt;
     }
-    std::vector<NetworkLink> result;
-    result.reserve(links.size());
+    LinkSnapshot result;
+    result.hasAllRoutes =
+        readDefaultRoutes(socket.get(), std::max(deadline, Clock::now() + patienceForRoutes),
+                          links) >= 0;
+    result.links.reserve(links.size());
     for (auto& [index, link] : links) {
-        result.push_back(std::move(link));
+        result.links.push_back(std::move(link));
     }
     return result;
 }

@@ -1,5 +1,7 @@
-// A connection of this object's own to the host's system bus, on which nothing ever waits for the
-// bus: not for its greeting, and not for an answer unless the caller wants to wait for one.
+// A connection of this object's own to the host's system bus, on which nothing waits for the bus's
+// greeting, nor for an answer unless the caller wants to wait for one. The system call that
+// connects is not in our hands: it waits while so many programs wait for a bus that has stopped
+// that no place is left in its queue.
 //
 // That is why it is not one of the toolkit's own bus connections, which wait for the greeting; a
 // bus that has stopped would hold the application up. Nobody answers calls to this end.

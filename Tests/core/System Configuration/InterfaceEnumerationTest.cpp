@@ -223,6 +223,25 @@ TEST_F(InterfaceEnumeration, ATakenSuffixIsSkippedEvenIfItIsAnInterfacesOwnName)
     EXPECT_EQ(titles(), (Texts{"Alias (en0:1)", "Ethernet (en0)", "Ethernet 2 (en0:2)"}));
 }
 
+TEST_F(InterfaceEnumeration, AThousandInterfacesTakeOneSessionAndOneKernelList) {
+    std::vector<std::pair<std::string, PropertyDictionary>> services;
+    RoutingMessageBuilder kernel;
+    for (int i = 0; i < 1000; ++i) {
+        const std::string name = "eth" + std::to_string(i);
+        services.emplace_back("service-" + name, ethernet("Ethernet", name));
+        kernel.interface(name, true);
+        kernel.interface("tap" + std::to_string(i), true);
+    }
+    setServices(services);
+    setKernelList(kernel);
+    const auto sessions = store.sessionNames().size();
+    const auto calls = kernelQuery.calls.size();
+    EXPECT_EQ(titles().size(), 2000U);
+    EXPECT_EQ(configuration.interfaceIDs().size(), 2000U);
+    EXPECT_EQ(store.sessionNames().size(), sessions + 1);
+    EXPECT_EQ(kernelQuery.calls.size(), calls + 2) << "its size, and the list";
+}
+
 TEST_F(InterfaceEnumeration, ManyServicesOnOneInterfaceAllGetAnIdentifier) {
     std::vector<std::pair<std::string, PropertyDictionary>> services;
     services.reserve(40);

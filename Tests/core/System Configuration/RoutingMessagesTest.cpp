@@ -24,26 +24,24 @@ std::vector<int> typesIn(ByteView list) {
 }
 
 ByteView firstMessage(const Builder& builder) {
-    ByteView list = builder.bytes();
-    return nextRoutingMessage(list).value();
+    return routingMessages(builder.bytes()).at(0);
 }
 
 // Everything that can be read from a list is read; the guard behind the bytes catches whatever
 // goes beyond them.
 std::size_t readAll(ByteView bytes) {
     const GuardedBytes guarded(bytes);
-    ByteView list = guarded.view();
     std::size_t messages = 0;
     std::size_t octets = 0;
-    while (const auto message = nextRoutingMessage(list)) {
+    for (const ByteView message : routingMessages(guarded.view())) {
         ++messages;
-        if (const auto interface = interfaceMessage(*message)) {
+        if (const auto interface = interfaceMessage(message)) {
             const auto& hardware = interface->hardwareAddress;
             octets += std::count(hardware.begin(), hardware.end(), 0) >= 0 ? hardware.size() : 0;
         }
-        octets += addressMessage(*message).has_value() ? 8 : 0;
+        octets += addressMessage(message).has_value() ? 8 : 0;
         RoutingAddresses slots;
-        get_rtaddrs(0xFFFFFFFFU, *message, slots);
+        get_rtaddrs(0xFFFFFFFFU, message, slots);
         for (const auto& slot : slots) {
             octets += slot->empty() ? 0 : slot->front() + slot->back();
         }

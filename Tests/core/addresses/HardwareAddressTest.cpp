@@ -128,7 +128,7 @@ TEST(HardwareAddressFormatter, FormatsHardwareAddressesAndSubclassesOnly) {
 TEST(HardwareAddressFormatter, AnAttributedStringHasTheTextAndTheGivenAttributes) {
     const auto& formatter = HardwareAddressFormatter::sharedInstance();
     const HardwareAddress address = addressOf(sample);
-    const PropertyDictionary attributes = {{"NSFont", "Monaco"}};
+    const PropertyDictionary attributes = {{"Font", "Fixed"}};
     const auto attributed =
         formatter.attributedStringForObjectValueWithDefaultAttributes(&address, attributes);
     ASSERT_TRUE(attributed.has_value());
