@@ -4,6 +4,7 @@
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/RunLoopWatchesContract.h"
+#include "support/TaskSupport.h"
 
 #include <unistd.h>
 
@@ -64,6 +65,16 @@ TEST(QtRunLoop, NothingWakesTheLoopAtRest) {
                              &QAbstractEventDispatcher::awake);
     rest.exec();
     EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+}
+
+TEST(QtRunLoop, AToolIsWaitedForWhileTheLoopRuns) {
+    QtRunLoop loop;
+    int calls = 0;
+    const auto call = loop.callOnceAfter(milliseconds(0), [&] { ++calls; });
+    EXPECT_EQ(TaskSupport::doPipedTaskArgumentsOutput("/bin/sh", {"-c", "sleep 0.1; exit 3"},
+                                                      std::nullopt, loop),
+              3);
+    EXPECT_EQ(calls, 1);
 }
 
 } // namespace kx
