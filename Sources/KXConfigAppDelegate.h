@@ -114,8 +114,9 @@ public:
     void edit_serial();
 
     // Also writes a static ARP entry for the new address, and sends to that address, whatever
-    // became of the entry: the unit does not hold it yet. The unit's record loses its address, so
-    // further commands are not sent until the unit has told its parameters.
+    // became of the entry: the unit does not hold it yet. What is sent is for the unit that was
+    // selected at first, on its port, though another may be by then. The unit's record loses its
+    // address, so further commands are not sent until the unit has told its parameters.
     void edit_internalIP();
 
     // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
@@ -187,6 +188,8 @@ private:
     std::optional<std::string> selectedText(UnitParameter parameter) const;
     std::uint32_t unitRequestAddress() const;
     std::uint16_t unitRequestPort() const;
+    bool sendCommandToAddressOnPort(const std::optional<std::string>& command,
+                                    const std::optional<std::string>& address, std::uint16_t port);
     void sendRequest(std::string_view command, std::uint32_t target, std::uint16_t port);
     void sendThroughListener(const Bytes& data, const Bytes& address);
     void sendDidFail(const std::string& reason);

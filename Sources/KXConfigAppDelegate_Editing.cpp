@@ -129,13 +129,15 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     EditReport report = reportOfEdit(UnitParameter::internalIPAddress);
     const auto command = editCommand(UnitParameter::internalIPAddress, address);
-    const auto unit = _selectedUnit; // another may be selected once a person has been asked
+    // Another unit may be selected once a person has been asked.
+    const auto unit = _selectedUnit;
+    const auto port = unitRequestPort();
     report.arpEntryDidGive(arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address));
     const auto record = unit.has_value() ? _devicesD.find(*unit) : _devicesD.end();
     if (record != _devicesD.end()) {
         record->second.removeValue(UnitParameter::internalIPAddress);
     }
-    if (sendCommandToAddress(command, address)) {
+    if (sendCommandToAddressOnPort(command, address, port) && unit == _selectedUnit) {
         beginReport(std::move(report));
     }
 }
