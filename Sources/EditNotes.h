@@ -40,14 +40,18 @@ std::optional<CommandRefusal> refusalOfCommand(std::string_view command,
 std::optional<CommandRefusal> refusalOfEdit(UnitParameter parameter, std::string_view typed,
                                             const CommandTarget& target);
 
-// "Not sent: no unit is selected."
+// "Not sent: No unit is selected."
 std::string noteOfRefusal(CommandRefusal refusal);
+
+// The same for a reason that the network gave, with a full stop behind it or without.
+std::string noteOfFailedSend(std::string_view reason);
 
 // "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside 3520 to 3523."
 std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
                        const CommandTarget& target);
 
-// A foreign text as a note shows it: on one line, and cut behind its first 32 characters.
+// A foreign text as a note shows it: on one line, in the order of its characters, and cut behind
+// the first 32 of them. Characters that would change the line or that order show as U+FFFD.
 std::string shownInNote(std::string_view text);
 
 } // namespace kx

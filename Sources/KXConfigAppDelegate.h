@@ -197,7 +197,9 @@ private:
     void didReceiveDataFromAddress(ByteView data, const Bytes& address);
     std::string unitParameters(ByteView list);
 
+    void requestParametersOfUnit();
     void discoverComplete();
+    void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
@@ -212,6 +214,8 @@ private:
     void showReport();
     void showEditNote();
     void refreshEditNote();
+    void showMessage(std::string_view message);
+    void endMessage();
     void showRefusal(std::optional<CommandRefusal> refusal);
     void showNote(std::string_view note);
     void arpToolDidEnd(const std::string& address, int status);
@@ -236,6 +240,7 @@ private:
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
     std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
+    bool _messageStands = false;             // when the quiet line holds a message for a person
     std::optional<std::string> _sendFailure; // why the latest datagram was not sent
     std::list<RunLoop::Handle> _delayedCalls;
 };

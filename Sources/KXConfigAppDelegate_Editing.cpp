@@ -191,7 +191,7 @@ void KXConfigAppDelegate::sendOptionButton() {
     if (!sendCommand(command)) {
         showRefusal(refusalOfCommand(command, commandTarget()));
     } else if (_sendFailure.has_value()) {
-        showNote(localizedText("Not sent: %@", {_sendFailure}));
+        showMessage(noteOfFailedSend(*_sendFailure));
     } else {
         showEditNote();
     }
@@ -199,7 +199,7 @@ void KXConfigAppDelegate::sendOptionButton() {
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
     sendRequest(restoreCommand, unitRequestAddress(), unitRequestPort());
-    performAfterDelay(1000ms, &KXConfigAppDelegate::reloadUnitParameterButton);
+    performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersOfUnit);
     showEditNote();
 }
 

@@ -114,7 +114,7 @@ void KXConfigAppDelegate::didReceiveDataFromAddress(ByteView data, const Bytes& 
         cidString = unitParameters(reply.payload);
         break;
     case PayloadKind::acknowledgement:
-        reloadUnitParameterButton();
+        requestParametersOfUnit();
         unitDidAccept(reply.serialNumber);
         break;
     case PayloadKind::other:
@@ -136,7 +136,7 @@ std::string KXConfigAppDelegate::unitParameters(ByteView list) {
     if (serial.has_value()) {
         _devicesD.insert_or_assign(std::string(*serial), decoded.record);
         if (serial == _selectedUnit) {
-            unitSelectPopUp();
+            showSelectedUnit();
         }
         unitDidReply(std::string(*serial), decoded.record);
     }

@@ -37,7 +37,7 @@ if [[ $answer == allow ]]; then
     neighbour='192.0.2.50 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT'
 else
     KX_STEPS="$common
-        line has no entry for 192.0.2.50: administrator rights were not given
+        line No ARP entry was made for 192.0.2.50: administrator rights were not given
         print
         read KX_DIALOGS"
 fi

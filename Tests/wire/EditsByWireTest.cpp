@@ -123,8 +123,10 @@ TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
     apply(devicePortNumber, "10001");
     converse();
     EXPECT_EQ(settings().devicePort, 10001);
-    EXPECT_EQ(window.quietLine.text(),
-              "The unit accepted ^^IdP2711 and was asked for its parameters.");
+    EXPECT_EQ(
+        window.quietLine.text(),
+        "The unit accepted ^^IdP2711 and was asked for its parameters. Discover finds it on its "
+        "new port.");
     discover();
     EXPECT_EQ(shown(devicePortNumber), "10001");
     EXPECT_EQ(window.quietLine.text(), "The unit now shows 10001 as its device Port number.");
