@@ -321,7 +321,11 @@ std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
     if (const auto refusal = refusalOfEdit(parameter, typed, target)) {
         return noteOfEditThatIsRefused(*refusal);
     }
-    const std::string command = shownInNote(editCommand(parameter, typed).value_or(""));
+    const std::string wholeCommand = editCommand(parameter, typed).value_or("");
+    if (wholeCommand.size() > longestCommand) {
+        return localizedText("Apply sends nothing: the command is too long for a datagram.");
+    }
+    const std::string command = shownInNote(wholeCommand);
     switch (parameter) {
     case UnitParameter::internalMACAddress:
     case UnitParameter::destinationMACAddress:

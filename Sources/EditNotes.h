@@ -10,6 +10,7 @@
 
 #include "UnitParameters.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,10 @@ enum class CommandRefusal {
     notASCII,
     noAddress, // of the selected unit
 };
+
+// Bytes in a datagram: what an IPv4 packet leaves beside its own header and that of UDP. The
+// network refuses more.
+inline constexpr std::size_t longestCommand = 65'507;
 
 // Why a command for the selected unit is not sent; absent when it is.
 std::optional<CommandRefusal> refusalOfCommand(std::string_view command,
