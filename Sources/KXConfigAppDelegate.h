@@ -5,9 +5,10 @@
 // and services through interfaces, so it knows no screen and no operating system.
 //
 // Threading: everything on the main thread; each operation runs to completion before the next
-// event. Ownership: the controller owns what its fields hold; controls and services belong to
-// whoever made it and must outlive it. Failures of the network go to the event log and nothing
-// stops the program; data that breaks its own format is abandoned with a line in the system log.
+// event, but for arpSetEAForIP(), whose alert lets events happen while it stands. Ownership: the
+// controller owns what its fields hold; controls and services belong to whoever made it and must
+// outlive it. Failures of the network go to the event log and nothing stops the program; data that
+// breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -122,7 +123,7 @@ public:
     // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
     // hardware address text, up to the first that is absent. The result is that of
     // Authorization::runToolWithArgs(), and -1, with an alert, when rights were not given. Blocks
-    // while a person is asked.
+    // while a person is asked, and up to two seconds for the tool.
     std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                const std::optional<std::string>& ip);
 
