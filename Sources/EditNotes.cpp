@@ -8,6 +8,7 @@
 #include "support/TextEncoding.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -23,8 +24,24 @@ bool isContinuationByte(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-bool isControlCharacter(char byte) {
-    return static_cast<unsigned char>(byte) < 0x20U || byte == 0x7F;
+// Characters that would break the line, or turn the rest of it around.
+constexpr std::array<std::string_view, 15> layoutCharacters{
+    "\u0085", "\u061C", "\u200E", "\u200F", "\u2028", "\u2029", "\u202A", "\u202B",
+    "\u202C", "\u202D", "\u202E", "\u2066", "\u2067", "\u2068", "\u2069"};
+
+bool isShownAsItIs(std::string_view character) {
+    const auto byte = static_cast<unsigned char>(character.front());
+    return byte >= 0x20U && byte != 0x7FU &&
+           std::ranges::find(layoutCharacters, character) == layoutCharacters.end();
+}
+
+// The length in bytes of the character in front of a text that is not empty.
+std::size_t lengthOfCharacter(std::string_view text) {
+    std::size_t length = 1;
+    while (length < text.size() && isContinuationByte(text[length])) {
+        ++length;
+    }
+    return length;
 }
 
 // The number in front, as it was typed: sign and digits, or nothing without a digit.
@@ -89,12 +106,28 @@ std::string noteOfSerialNumber(std::string_view typed, const std::string& comman
     return localizedText("Apply sends %@: serial number %@.", {command, grouped(digits, ' ')});
 }
 
+// Whether a text that is read as 0 is so because it holds this address, as "000.0.0.0" does, and
+// not because it cannot be read: with another digit it would be read as another address.
+bool isReadAsZero(std::string_view typed) {
+    std::string changed(typed);
+    const std::size_t digit = changed.find('0');
+    if (digit == std::string::npos) {
+        return false;
+    }
+    changed[digit] = '1';
+    return ipForString(changed) != 0;
+}
+
+bool isNoAddress(std::string_view typed) {
+    return ipForString(typed) == 0 && !isReadAsZero(typed);
+}
+
 std::string noteOfDestinationIPAddress(std::string_view typed, const std::string& command) {
     const std::string address = stringForIP(ipForString(typed));
     if (address == typed) {
         return localizedText("Apply sends %@: destination IP address %@.", {command, address});
     }
-    if (ipForString(typed) == 0) {
+    if (isNoAddress(typed)) {
         return localizedText(
             "Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an "
             "IPv4 address.",
@@ -134,12 +167,12 @@ std::string noteOfInternalIPAddress(std::string_view typed, const std::string& c
         note += localizedText("No unit is selected.") + ' ';
     }
     if (address == typed) {
-        note += localizedText("It sends %@ to %@.", {command, address});
-    } else if (ipForString(typed) == 0) {
-        note += localizedText("It sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.",
+        note += localizedText("Apply sends %@ to %@.", {command, address});
+    } else if (isNoAddress(typed)) {
+        note += localizedText("Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.",
                               {command, shownInNote(typed)});
     } else {
-        note += localizedText("It sends %@ to %@, because that is how “%@” is read.",
+        note += localizedText("Apply sends %@ to %@, because that is how “%@” is read.",
                               {command, address, shownInNote(typed)});
     }
     return note;
@@ -189,6 +222,11 @@ std::string noteOfDevicePort(std::string_view typed, const std::string& command)
 
 std::string noteOfUnitNumber(std::string_view typed, const std::string& command) {
     const std::int32_t number = integerValue(typed);
+    if (number > highestUnitNumber && typed != std::to_string(number)) {
+        return localizedText("Apply sends %@: the number %d, because that is how “%@” is read. "
+                             "Above 255 it does not show as a number.",
+                             {command, number, shownInNote(typed)});
+    }
     if (number > highestUnitNumber) {
         return localizedText(
             "Apply sends %@: the number %d, which does not show as a number because "
@@ -260,17 +298,22 @@ std::optional<CommandRefusal> refusalOfEdit(UnitParameter parameter, std::string
 std::string noteOfRefusal(CommandRefusal refusal) {
     switch (refusal) {
     case CommandRefusal::emptyValue:
-        return localizedText("Not sent: the value is empty.");
+        return localizedText("Not sent: The value is empty.");
     case CommandRefusal::notUTF8:
-        return localizedText("Not sent: the unit ID is not a text in UTF-8.");
+        return localizedText("Not sent: The unit ID is not a text in UTF-8.");
     case CommandRefusal::noUnit:
-        return localizedText("Not sent: no unit is selected.");
+        return localizedText("Not sent: No unit is selected.");
     case CommandRefusal::notASCII:
-        return localizedText("Not sent: a command can hold ASCII characters only.");
+        return localizedText("Not sent: A command can hold ASCII characters only.");
     case CommandRefusal::noAddress:
         break;
     }
-    return localizedText("Not sent: the address of the unit is not known.");
+    return localizedText("Not sent: The address of the unit is not known.");
+}
+
+std::string noteOfFailedSend(std::string_view reason) {
+    return reason.ends_with('.') ? localizedText("Not sent: %@", {reason})
+                                 : localizedText("Not sent: %@.", {reason});
 }
 
 std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
@@ -278,7 +321,11 @@ std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
     if (const auto refusal = refusalOfEdit(parameter, typed, target)) {
         return noteOfEditThatIsRefused(*refusal);
     }
-    const std::string command = shownInNote(editCommand(parameter, typed).value_or(""));
+    const std::string wholeCommand = editCommand(parameter, typed).value_or("");
+    if (wholeCommand.size() > longestCommand) {
+        return localizedText("Apply sends nothing: the command is too long for a datagram.");
+    }
+    const std::string command = shownInNote(wholeCommand);
     switch (parameter) {
     case UnitParameter::internalMACAddress:
     case UnitParameter::destinationMACAddress:
@@ -302,17 +349,13 @@ std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
 std::string shownInNote(std::string_view text) {
     const bool isText = isValidUTF8(bytesOfText(text)); // otherwise each byte counts
     std::string shown;
-    std::size_t characters = 0;
-    for (const char byte : text) {
-        const bool isCounted = !isText || !isContinuationByte(byte);
-        if (isCounted && ++characters > mostShownCharacters) {
+    for (std::size_t count = 0; !text.empty(); ++count) {
+        if (count == mostShownCharacters) {
             return shown + "…";
         }
-        if (isControlCharacter(byte)) {
-            shown += "\uFFFD";
-        } else {
-            shown += byte;
-        }
+        const auto character = text.substr(0, isText ? lengthOfCharacter(text) : 1);
+        shown += isShownAsItIs(character) ? character : "\uFFFD";
+        text.remove_prefix(character.size());
     }
     return shown;
 }

@@ -10,6 +10,7 @@
 
 #include "UnitParameters.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,6 +32,10 @@ enum class CommandRefusal {
     noAddress, // of the selected unit
 };
 
+// Bytes in a datagram: what an IPv4 packet leaves beside its own header and that of UDP. The
+// network refuses more.
+inline constexpr std::size_t longestCommand = 65'507;
+
 // Why a command for the selected unit is not sent; absent when it is.
 std::optional<CommandRefusal> refusalOfCommand(std::string_view command,
                                                const CommandTarget& target);
@@ -40,14 +45,18 @@ std::optional<CommandRefusal> refusalOfCommand(std::string_view command,
 std::optional<CommandRefusal> refusalOfEdit(UnitParameter parameter, std::string_view typed,
                                             const CommandTarget& target);
 
-// "Not sent: no unit is selected."
+// "Not sent: No unit is selected."
 std::string noteOfRefusal(CommandRefusal refusal);
+
+// The same for a reason that the network gave, with a full stop behind it or without.
+std::string noteOfFailedSend(std::string_view reason);
 
 // "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside 3520 to 3523."
 std::string noteOfEdit(UnitParameter parameter, std::string_view typed,
                        const CommandTarget& target);
 
-// A foreign text as a note shows it: on one line, and cut behind its first 32 characters.
+// A foreign text as a note shows it: on one line, in the order of its characters, and cut behind
+// the first 32 of them. Characters that would change the line or that order show as U+FFFD.
 std::string shownInNote(std::string_view text);
 
 } // namespace kx

@@ -5,6 +5,7 @@
 #include "IdentityText.h"
 #include "addresses/CharacterClass.h"
 #include "addresses/IPv4Address.h"
+#include "support/AuthorizationService.h"
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
 
@@ -90,18 +91,25 @@ bool EditReport::isAbout(std::string_view key) const {
 }
 
 void EditReport::sendDidFail(std::string_view reason) {
-    _outcome = localizedText("Not sent: %@", {reason});
+    _outcome = noteOfFailedSend(reason);
 }
 
 void EditReport::unitDidAccept() {
-    if (!_unitHasReplied) {
+    if (_unitHasAccepted) {
+        return; // a duplicate
+    }
+    _unitHasAccepted = true;
+    if (_edit.parameter == UnitParameter::devicePortNumber && _expected != _edit.valueBefore) {
+        _outcome = localizedText("The unit accepted %@ and was asked for its parameters. Discover "
+                                 "finds it on its new port.",
+                                 {_command});
+    } else {
         _outcome =
             localizedText("The unit accepted %@ and was asked for its parameters.", {_command});
     }
 }
 
 void EditReport::unitDidReply(const UnitRecord& record) {
-    _unitHasReplied = true;
     _outcome = textOfReply(record);
 }
 
@@ -123,24 +131,41 @@ std::string EditReport::textOfReply(const UnitRecord& record) const {
     if (found == _edit.valueBefore) {
         return localizedText("The unit still shows %@ as its %@.", {shown, name});
     }
-    return localizedText("The unit now shows %@ as its %@, which is not what was typed.",
+    return localizedText("The unit now shows %@ as its %@, which is not what was sent.",
                          {shown, name});
 }
 
 void EditReport::arpEntryDidGive(std::int32_t result) {
     const std::string address = shownInNote(_edit.typed);
-    if (result == 0) {
+    switch (result) {
+    case errAuthorizationSuccess:
         _arpFailure.clear();
-    } else if (result != -1) {
+        return;
+    case errAuthorizationDenied:
+        _arpFailure = localizedText(
+            "No ARP entry was made for %@: running the ARP tool was refused.", {address});
+        return;
+    case errAuthorizationCanceled:
+        _arpFailure = localizedText(
+            "No ARP entry was made for %@: the question for administrator rights was dismissed.",
+            {address});
+        return;
+    case errAuthorizationToolExecuteFailure:
         _arpFailure =
-            localizedText("The ARP cache has no entry for %@: the ARP tool was not started (%d).",
-                          {address, result});
-    } else if (!asciiBytes(_edit.typed).has_value()) {
+            localizedText("No ARP entry was made for %@: the ARP tool cannot be run.", {address});
+        return;
+    case -1:
+        _arpFailure =
+            asciiBytes(_edit.typed).has_value()
+                ? localizedText(
+                      "No ARP entry was made for %@: administrator rights were not given.",
+                      {address})
+                : localizedText("No ARP entry was made for %@: it can hold ASCII characters only.",
+                                {address});
+        return;
+    default:
         _arpFailure = localizedText(
-            "The ARP cache has no entry for %@: it can hold ASCII characters only.", {address});
-    } else {
-        _arpFailure = localizedText(
-            "The ARP cache has no entry for %@: administrator rights were not given.", {address});
+            "No ARP entry was made for %@: the ARP tool was not started (%d).", {address, result});
     }
 }
 
@@ -149,7 +174,7 @@ void EditReport::arpToolDidEnd(std::string_view address, int status) {
         _edit.parameter == UnitParameter::internalIPAddress && address == _edit.typed;
     if (isMine && status != 0) {
         _arpFailure =
-            localizedText("The ARP cache has no entry for %@: the ARP tool ended with status %d.",
+            localizedText("No ARP entry was made for %@: the ARP tool ended with status %d.",
                           {shownInNote(address), status});
     }
 }

@@ -40,7 +40,7 @@ public:
     // The network refused the command, for this reason.
     void sendDidFail(std::string_view reason);
 
-    // The unit said "ok".
+    // The unit said "ok". Counts once; a reply that came before it was on its way already.
     void unitDidAccept();
 
     // The unit told its parameters.
@@ -60,7 +60,7 @@ private:
     Edit _edit;
     std::string _command;                 // as a note shows it
     std::optional<std::string> _expected; // how a unit shows the value; absent when it cannot
-    bool _unitHasReplied = false;
+    bool _unitHasAccepted = false;
     std::string _outcome;
     std::string _arpFailure;
 };

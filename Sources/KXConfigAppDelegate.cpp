@@ -135,10 +135,11 @@ void KXConfigAppDelegate::myHelp() {
         return;
     }
     if (_services.openHelpAnchor("index")) {
-        refreshEditNote();
+        endMessage();
     } else {
-        showNote(localizedText("Help could not be opened in a web browser. To read it here, hold "
-                               "the Alt key while you press Help."));
+        showMessage(
+            localizedText("Help could not be opened in a web browser. To read it here, hold "
+                          "the Alt key while you press Help."));
     }
 }
 

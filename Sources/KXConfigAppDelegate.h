@@ -5,9 +5,10 @@
 // and services through interfaces, so it knows no screen and no operating system.
 //
 // Threading: everything on the main thread; each operation runs to completion before the next
-// event. Ownership: the controller owns what its fields hold; controls and services belong to
-// whoever made it and must outlive it. Failures of the network go to the event log and nothing
-// stops the program; data that breaks its own format is abandoned with a line in the system log.
+// event, but for arpSetEAForIP(), whose alert lets events happen while it stands. Ownership: the
+// controller owns what its fields hold; controls and services belong to whoever made it and must
+// outlive it. Failures of the network go to the event log and nothing stops the program; data that
+// breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -114,14 +115,15 @@ public:
     void edit_serial();
 
     // Also writes a static ARP entry for the new address, and sends to that address, whatever
-    // became of the entry: the unit does not hold it yet. The unit's record loses its address, so
-    // further commands are not sent until the unit has told its parameters.
+    // became of the entry: the unit does not hold it yet. What is sent is for the unit that was
+    // selected at first, on its port, though another may be by then. The unit's record loses its
+    // address, so further commands are not sent until the unit has told its parameters.
     void edit_internalIP();
 
     // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
     // hardware address text, up to the first that is absent. The result is that of
     // Authorization::runToolWithArgs(), and -1, with an alert, when rights were not given. Blocks
-    // while a person is asked.
+    // while a person is asked, and up to two seconds for the tool.
     std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                const std::optional<std::string>& ip);
 
@@ -187,6 +189,8 @@ private:
     std::optional<std::string> selectedText(UnitParameter parameter) const;
     std::uint32_t unitRequestAddress() const;
     std::uint16_t unitRequestPort() const;
+    bool sendCommandToAddressOnPort(const std::optional<std::string>& command,
+                                    const std::optional<std::string>& address, std::uint16_t port);
     void sendRequest(std::string_view command, std::uint32_t target, std::uint16_t port);
     void sendThroughListener(const Bytes& data, const Bytes& address);
     void sendDidFail(const std::string& reason);
@@ -194,7 +198,9 @@ private:
     void didReceiveDataFromAddress(ByteView data, const Bytes& address);
     std::string unitParameters(ByteView list);
 
+    void requestParametersOfUnit();
     void discoverComplete();
+    void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
@@ -209,6 +215,8 @@ private:
     void showReport();
     void showEditNote();
     void refreshEditNote();
+    void showMessage(std::string_view message);
+    void endMessage();
     void showRefusal(std::optional<CommandRefusal> refusal);
     void showNote(std::string_view note);
     void arpToolDidEnd(const std::string& address, int status);
@@ -234,6 +242,7 @@ private:
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
     std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
+    bool _messageStands = false;             // when the quiet line holds a message for a person
     std::optional<std::string> _sendFailure; // why the latest datagram was not sent
     std::list<RunLoop::Handle> _delayedCalls;
 };

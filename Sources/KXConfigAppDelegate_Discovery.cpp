@@ -16,7 +16,7 @@ void KXConfigAppDelegate::discoverButton() {
     appendMessage("[Begin Discover]");
     _outlets.unitSelectPopUp->removeAllItems();
     restartListener(static_cast<std::size_t>(port));
-    refreshEditNote();
+    endMessage();
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
 }
 
@@ -32,10 +32,15 @@ void KXConfigAppDelegate::discoverComplete() {
     } else {
         _outlets.unitSelectPopUp->selectItemAtIndex(0);
     }
-    unitSelectPopUp();
+    showSelectedUnit();
 }
 
 void KXConfigAppDelegate::unitSelectPopUp() {
+    showSelectedUnit();
+    endMessage();
+}
+
+void KXConfigAppDelegate::showSelectedUnit() {
     setSelectedUnit(_outlets.unitSelectPopUp->titleOfSelectedItem());
 }
 
@@ -60,6 +65,11 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 }
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
+    requestParametersOfUnit();
+    endMessage();
+}
+
+void KXConfigAppDelegate::requestParametersOfUnit() {
     sendRequest(parameterRequestCommand, unitRequestAddress(), unitRequestPort());
     refreshEditNote();
 }

@@ -129,13 +129,15 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     EditReport report = reportOfEdit(UnitParameter::internalIPAddress);
     const auto command = editCommand(UnitParameter::internalIPAddress, address);
-    const auto unit = _selectedUnit; // another may be selected once a person has been asked
+    // Another unit may be selected once a person has been asked.
+    const auto unit = _selectedUnit;
+    const auto port = unitRequestPort();
     report.arpEntryDidGive(arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address));
     const auto record = unit.has_value() ? _devicesD.find(*unit) : _devicesD.end();
     if (record != _devicesD.end()) {
         record->second.removeValue(UnitParameter::internalIPAddress);
     }
-    if (sendCommandToAddress(command, address)) {
+    if (sendCommandToAddressOnPort(command, address, port) && unit == _selectedUnit) {
         beginReport(std::move(report));
     }
 }
@@ -189,7 +191,7 @@ void KXConfigAppDelegate::sendOptionButton() {
     if (!sendCommand(command)) {
         showRefusal(refusalOfCommand(command, commandTarget()));
     } else if (_sendFailure.has_value()) {
-        showNote(localizedText("Not sent: %@", {_sendFailure}));
+        showMessage(noteOfFailedSend(*_sendFailure));
     } else {
         showEditNote();
     }
@@ -197,7 +199,7 @@ void KXConfigAppDelegate::sendOptionButton() {
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
     sendRequest(restoreCommand, unitRequestAddress(), unitRequestPort());
-    performAfterDelay(1000ms, &KXConfigAppDelegate::reloadUnitParameterButton);
+    performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersOfUnit);
     showEditNote();
 }
 

@@ -4,14 +4,16 @@
 #include <utility>
 
 // The quiet line is about one thing at a time: an edit that was sent, until another row is chosen
-// or something is typed, and otherwise what Apply would send. A refusal stands until anything of
-// this changes.
+// or something is typed, and otherwise what Apply would send. A message, such as why a command was
+// not sent, stands until a person does something: what the network brings does not end it.
 
 namespace kx {
 
 void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
-    _textBeingTyped = text;
-    showEditNote();
+    if (text != _textBeingTyped.value_or(editedValue())) {
+        _textBeingTyped = text;
+        showEditNote();
+    }
 }
 
 CommandTarget KXConfigAppDelegate::commandTarget() const {
@@ -28,17 +30,28 @@ void KXConfigAppDelegate::showEditNote() {
 }
 
 void KXConfigAppDelegate::refreshEditNote() {
-    if (!_editReport.has_value()) {
+    if (!_editReport.has_value() && !_messageStands) {
         showEditNote();
     }
 }
 
+void KXConfigAppDelegate::endMessage() {
+    _messageStands = false;
+    refreshEditNote();
+}
+
 void KXConfigAppDelegate::showRefusal(std::optional<CommandRefusal> refusal) {
-    showNote(refusal.has_value() ? noteOfRefusal(*refusal) : std::string());
+    showMessage(refusal.has_value() ? noteOfRefusal(*refusal) : std::string());
+}
+
+void KXConfigAppDelegate::showMessage(std::string_view message) {
+    showNote(message);
+    _messageStands = !message.empty();
 }
 
 void KXConfigAppDelegate::showNote(std::string_view note) {
     _editReport.reset();
+    _messageStands = false;
     _outlets.quietLine->setStringValue(note);
 }
 
@@ -54,6 +67,7 @@ void KXConfigAppDelegate::beginReport(EditReport report) {
         report.sendDidFail(*_sendFailure);
     }
     _editReport = std::move(report);
+    _messageStands = false;
     showReport();
 }
 

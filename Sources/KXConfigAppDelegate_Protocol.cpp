@@ -12,6 +12,12 @@ namespace kx {
 
 bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>& command,
                                                const std::optional<std::string>& address) {
+    return sendCommandToAddressOnPort(command, address, unitRequestPort());
+}
+
+bool KXConfigAppDelegate::sendCommandToAddressOnPort(const std::optional<std::string>& command,
+                                                     const std::optional<std::string>& address,
+                                                     std::uint16_t port) {
     if (!command.has_value() || _udpListener == nullptr || !address.has_value()) {
         return false;
     }
@@ -20,7 +26,7 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         return false;
     }
     appendMessage("\nSend to: %@ command: %@", {*address, *command});
-    sendThroughListener(*data, dataForAddress(ipForString(*address), unitRequestPort()));
+    sendThroughListener(*data, dataForAddress(ipForString(*address), port));
     return true;
 }
 
@@ -108,7 +114,7 @@ void KXConfigAppDelegate::didReceiveDataFromAddress(ByteView data, const Bytes& 
         cidString = unitParameters(reply.payload);
         break;
     case PayloadKind::acknowledgement:
-        reloadUnitParameterButton();
+        requestParametersOfUnit();
         unitDidAccept(reply.serialNumber);
         break;
     case PayloadKind::other:
@@ -130,7 +136,7 @@ std::string KXConfigAppDelegate::unitParameters(ByteView list) {
     if (serial.has_value()) {
         _devicesD.insert_or_assign(std::string(*serial), decoded.record);
         if (serial == _selectedUnit) {
-            unitSelectPopUp();
+            showSelectedUnit();
         }
         unitDidReply(std::string(*serial), decoded.record);
     }

@@ -4,8 +4,9 @@
 // A right that was granted stays until deauthenticate() or the end of the object, so a person is
 // asked once. Callers authenticate before every run.
 //
-// Threading: the main thread only; authenticate() blocks while a person is asked. Ownership: the
-// service must outlive the object.
+// Threading: the main thread only; authenticate() blocks while a person is asked, and
+// runToolWithArgs() while the tool does its first work, up to two seconds, and while a person is
+// asked again. Ownership: the service must outlive the object.
 
 #pragma once
 
@@ -37,9 +38,10 @@ public:
     // Gives the right back: from now on it is not held.
     void deauthenticate();
 
-    // Starts the tool with these arguments, of which none may be more than ASCII. The result is 0
-    // when it was started, -1 for more than 31 arguments or one that is not ASCII (with a line in
-    // the system log), and otherwise a status code of the authority
+    // Starts the tool with these arguments, of which none may be more than ASCII, and waits a
+    // moment for what it does. A person may be asked once more where the host has let the right run
+    // out. The result is 0 when it was started, -1 for more than 31 arguments or one that is not
+    // ASCII (with a line in the system log), and otherwise a status code of the authority
     // (support/AuthorizationService.h). How the tool ends is told to `ended`.
     std::int32_t runToolWithArgs(const std::vector<std::string>& arguments,
                                  AuthorizationReference::ToolEndAction ended = {});

@@ -55,10 +55,11 @@ public:
     virtual std::int32_t copyRights(const AuthorizationItem& right, std::uint32_t flags) = 0;
 
     // Runs the tool at `toolPath` as the administrator, with `arguments` in their order; it reads
-    // nothing. The result says whether it was started, not how it ended. Whatever the tool does at
-    // once is done when this returns. `ended` is called once the tool has ended, from the run loop,
-    // never from inside this call, and not after the reference is destroyed; a tool that was not
-    // started never ends. It may be empty.
+    // nothing. The result says whether it was started, not how it ended. It waits for the
+    // tool, up to two seconds, so that whatever the tool does at once is done when this returns,
+    // and before that for a person, where one is asked again. `ended` is called once the tool has
+    // ended, from the run loop, never from inside this call, and not after the reference is
+    // destroyed; a tool that was not started never ends. It may be empty.
     virtual std::int32_t executeWithPrivileges(const std::string& toolPath,
                                                const std::vector<std::string>& arguments,
                                                ToolEndAction ended) = 0;

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <functional>
 #include <new>
 #include <string_view>
@@ -139,12 +140,16 @@ bool readChunkInto(ChunkedText& text, int descriptor) {
     return isOpen;
 }
 
-// Reads each of two descriptors to its end, as things arrive.
+// Reads each of two descriptors to its end, as things arrive, unless the system cannot wait for
+// them.
 void readToTheirEnds(int output, ChunkedText& outputText, int error, Bytes& errorBytes) {
     while (output != none || error != none) {
         std::array<pollfd, 2> polled{{{output, POLLIN, 0}, {error, POLLIN, 0}}};
-        if (::poll(polled.data(), polled.size(), -1) <= 0) {
-            continue; // interrupted
+        if (::poll(polled.data(), polled.size(), -1) < 0) {
+            if (errno == EINTR) {
+                continue;
+            }
+            return; // it would fail again, for ever
         }
         if (polled[0].revents != 0 && !readChunkInto(outputText, output)) {
             output = none;

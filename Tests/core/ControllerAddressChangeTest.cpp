@@ -231,6 +231,27 @@ TEST_F(ControllerAddressChange, AReplyThatComesWhileThePersonIsToldDoesNotKeepTh
     EXPECT_EQ(newlySent(), Lines{"10.0.0.7:10000 ^^IdI0A000007"});
 }
 
+TEST_F(ControllerAddressChange, TheCommandIsForTheUnitThatWasSelectedBeforeThePersonWasTold) {
+    SampleUnit second;
+    second.serial.back() = 7;
+    second.devicePort = {0x27, 0x11};
+    controller.discoverButton();
+    receive(second.reply());
+    authority.answerDialogsWith(errAuthorizationDenied);
+    window.alert.setMeanwhile([&] {
+        runLoop.advanceBy(2000ms); // completes the discovery
+        window.unitSelectPopUp.selectItemWithTitle("01 02 03 04 05 07");
+        controller.unitSelectPopUp();
+    });
+    changeAddress("10.0.0.7");
+    ASSERT_EQ(selectedUnit(), "01 02 03 04 05 07");
+    EXPECT_EQ(lastSent(), "10.0.0.7:10000 ^^IdI0A000007");
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "(absent)");
+    EXPECT_EQ(value("01 02 03 04 05 07", UnitParameter::internalIPAddress), "192.168.1.10");
+    // What is said is about the unit that is shown.
+    EXPECT_NE(quietLine().find("Apply enters 10.0.0.7"), std::string::npos) << quietLine();
+}
+
 TEST_F(ControllerAddressChange, TheEndOfTheApplicationWhileThePersonIsToldIsSafe) {
     authority.answerDialogsWith(errAuthorizationDenied);
     window.alert.setMeanwhile([&] { controller.applicationWillTerminate(); });

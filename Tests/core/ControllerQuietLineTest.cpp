@@ -166,7 +166,7 @@ TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
     selectRow(UnitParameter::internalIPAddress);
     store("10.0.0.7");
     EXPECT_EQ(quietLine(), "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which "
-                           "needs administrator rights. It sends ^^IdI0A000007 to 10.0.0.7.");
+                           "needs administrator rights. Apply sends ^^IdI0A000007 to 10.0.0.7.");
     controller.applyEditParameterButton();
     EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet.");
     authority.endTools(0);
@@ -178,8 +178,7 @@ TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
 
 TEST_F(ControllerQuietLine, SaysWhyThereIsNoARPEntry) {
     const std::string none =
-        "Sent ^^IdI0A000007. The unit has not answered yet. The ARP cache has no entry for "
-        "10.0.0.7: ";
+        "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7: ";
     discover({SampleUnit()});
     authority.answerDialogsWith(errAuthorizationDenied);
     apply(UnitParameter::internalIPAddress, "10.0.0.7");
@@ -204,23 +203,23 @@ TEST_F(ControllerQuietLine, AToolThatFailsForAnEditOfThePastIsNotMentioned) {
 TEST_F(ControllerQuietLine, SaysWhyAnEditWasNotSent) {
     discover({SampleUnit()});
     apply(UnitParameter::unitID, "");
-    EXPECT_EQ(quietLine(), "Not sent: the value is empty.");
+    EXPECT_EQ(quietLine(), "Not sent: The value is empty.");
     apply(UnitParameter::internalIPAddress, "");
-    EXPECT_EQ(quietLine(), "Not sent: the value is empty.");
+    EXPECT_EQ(quietLine(), "Not sent: The value is empty.");
     apply(UnitParameter::unitID, "\xFF");
-    EXPECT_EQ(quietLine(), "Not sent: the unit ID is not a text in UTF-8.");
+    EXPECT_EQ(quietLine(), "Not sent: The unit ID is not a text in UTF-8.");
     apply(UnitParameter::internalMACAddress, "Zürich");
-    EXPECT_EQ(quietLine(), "Not sent: a command can hold ASCII characters only.");
+    EXPECT_EQ(quietLine(), "Not sent: A command can hold ASCII characters only.");
     apply(UnitParameter::internalIPAddress, "10.0.0.7");
     apply(UnitParameter::unitID, "7");
-    EXPECT_EQ(quietLine(), "Not sent: the address of the unit is not known.");
+    EXPECT_EQ(quietLine(), "Not sent: The address of the unit is not known.");
 }
 
 TEST_F(ControllerQuietLine, AnEditThatTheNetworkRefusesSaysWhy) {
     discover({SampleUnit()});
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     apply(UnitParameter::unitID, "7");
-    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH));
+    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH) + ".");
     controller.applyEditParameterButton();
     EXPECT_EQ(quietLine(), "Sent ^^IdU000000000007. The unit has not answered yet.");
 }
@@ -233,22 +232,72 @@ TEST_F(ControllerQuietLine, AnEditThroughAStoppedListenerSaysSo) {
     EXPECT_EQ(quietLine(), "Not sent: The UDP listener is not running.");
 }
 
+TEST_F(ControllerQuietLine, WhatTheNetworkBringsDoesNotEndAMessage) {
+    const auto expectThatTrafficLeaves = [&](const std::string& message) {
+        EXPECT_EQ(quietLine().substr(0, message.size()), message);
+        SampleUnit second;
+        second.serial.back() = 7;
+        for (const SampleUnit& unit : {SampleUnit(), second}) {
+            receive(unit.acknowledgement());
+            receive(unit.reply());
+        }
+        EXPECT_EQ(quietLine().substr(0, message.size()), message);
+    };
+    discoverTwo();
+    selectRow(UnitParameter::unitID);
+    store("");
+    controller.discoverButton();
+    controller.applyEditParameterButton();
+    runLoop.advanceBy(2000ms); // completes the discovery
+    expectThatTrafficLeaves("Not sent: The value is empty.");
+    window.optionCommandField.setStringValue("Zürich");
+    controller.restoreDefaultSettings();
+    controller.sendOptionButton();
+    runLoop.advanceBy(1000ms); // asks for the parameters
+    expectThatTrafficLeaves("Not sent: A command can hold ASCII characters only.");
+    helpOpens = false;
+    controller.myHelp();
+    expectThatTrafficLeaves("Help could not be opened");
+    helpOpens = true;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "Apply sends nothing: the value is empty.");
+}
+
+TEST_F(ControllerQuietLine, AnEditorThatIsLeftWithTheOldTextKeepsTheReport) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    const std::string report = quietLine();
+    controller.editTextDidChange("3523");
+    EXPECT_EQ(quietLine(), report);
+    controller.editTextDidChange("352");
+    EXPECT_NE(quietLine(), report);
+}
+
+TEST_F(ControllerQuietLine, AReplyThatWasUnderWayAlreadyDoesNotHideTheAcceptance) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "The unit still shows 3520 as its destination Port number.");
+    receive(SampleUnit().acknowledgement());
+    EXPECT_EQ(quietLine(), "The unit accepted ^^IdT0DC3 and was asked for its parameters.");
+}
+
 TEST_F(ControllerQuietLine, SaysWhyAnOptionWasNotSentUntilTheNextAction) {
     controller.sendOptionButton();
-    EXPECT_EQ(quietLine(), "Not sent: no unit is selected.");
+    EXPECT_EQ(quietLine(), "Not sent: No unit is selected.");
     discover({SampleUnit()});
     EXPECT_EQ(quietLine(), "");
 
     window.optionCommandField.setStringValue("Zürich");
     controller.sendOptionButton();
-    EXPECT_EQ(quietLine(), "Not sent: a command can hold ASCII characters only.");
+    EXPECT_EQ(quietLine(), "Not sent: A command can hold ASCII characters only.");
     controller.reloadUnitParameterButton();
     EXPECT_EQ(quietLine(), "");
 
     window.optionCommandField.setStringValue("V");
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     controller.sendOptionButton();
-    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH));
+    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH) + ".");
     controller.sendOptionButton();
     EXPECT_EQ(quietLine(), "");
 }

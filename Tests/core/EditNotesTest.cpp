@@ -82,6 +82,12 @@ TEST(EditNotes, AnIPAddressThatCannotBeReadIsZero) {
                        "“Zürich” is not an IPv4 address."},
             {"300.1.1.1", "Apply sends ^^IdD2C010101: destination IP address 44.1.1.1, because "
                           "that is how “300.1.1.1” is read."},
+            {"0.0.0.0 ", "Apply sends ^^IdD00000000: destination IP address 0.0.0.0, because that "
+                         "is how “0.0.0.0 ” is read."},
+            {"000.0.0.0", "Apply sends ^^IdD00000000: destination IP address 0.0.0.0, because that "
+                          "is how “000.0.0.0” is read."},
+            {"0.0.0", "Apply sends ^^IdD00000000: destination IP address 0.0.0.0, because “0.0.0” "
+                      "is not an IPv4 address."},
             {"1.2.3.4.5", "Apply sends ^^IdD01020304: destination IP address 1.2.3.4, because that "
                           "is how “1.2.3.4.5” is read."},
         });
@@ -132,6 +138,12 @@ TEST(EditNotes, AUnitIDIsANumberOrAText) {
             {"007", "Apply sends ^^IdU000000000007: unit ID 7, because that is how “007” is read."},
             {"256", "Apply sends ^^IdU000000000100: the number 256, which does not show as a "
                     "number because it is above 255."},
+            {"99999999999",
+             "Apply sends ^^IdU00007FFFFFFF: the number 2147483647, because that is how "
+             "“99999999999” is read. Above 255 it does not show as a number."},
+            {"300abc",
+             "Apply sends ^^IdU00000000012C: the number 300, because that is how “300abc” "
+             "is read. Above 255 it does not show as a number."},
             {"sensor", "Apply sends ^^IdU73656E736F72: unit ID “sensor”."},
             {"AB", "Apply sends ^^IdU4142: the text “AB”, though a unit ID has 6 bytes and this "
                    "has 2."},
@@ -150,16 +162,17 @@ TEST(EditNotes, TheInternalIPAddressNeedsAnARPEntry) {
         internalIPAddress,
         {
             {"10.0.0.7", "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
-                         "administrator rights. It sends ^^IdI0A000007 to 10.0.0.7."},
-            {"unit", "Apply hands “unit” and 00:1A:2B:3C:4D:5E to the ARP tool, which needs "
-                     "administrator rights. It sends ^^IdI00000000 to 0.0.0.0, because “unit” is "
-                     "not an IPv4 address."},
+                         "administrator rights. Apply sends ^^IdI0A000007 to 10.0.0.7."},
+            {"unit",
+             "Apply hands “unit” and 00:1A:2B:3C:4D:5E to the ARP tool, which needs "
+             "administrator rights. Apply sends ^^IdI00000000 to 0.0.0.0, because “unit” is "
+             "not an IPv4 address."},
             {"10.0.0.7 or so",
              "Apply hands “10.0.0.7 or so” and 00:1A:2B:3C:4D:5E to the ARP tool, which needs "
-             "administrator rights. It sends ^^IdI0A000007 to 10.0.0.7, because that is how "
+             "administrator rights. Apply sends ^^IdI0A000007 to 10.0.0.7, because that is how "
              "“10.0.0.7 or so” is read."},
             {"Zürich", "Apply asks for administrator rights, but an ARP entry can hold ASCII "
-                       "characters only. It sends ^^IdI00000000 to 0.0.0.0, because “Zürich” is "
+                       "characters only. Apply sends ^^IdI00000000 to 0.0.0.0, because “Zürich” is "
                        "not an IPv4 address."},
             {"", "Apply sends nothing: the value is empty."},
         });
@@ -168,10 +181,10 @@ TEST(EditNotes, TheInternalIPAddressNeedsAnARPEntry) {
 TEST(EditNotes, TheInternalIPAddressIsSentWithoutAUnitToo) {
     EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", {}),
               "Apply asks for administrator rights, but no MAC address is known for an ARP entry. "
-              "No unit is selected. It sends ^^IdI0A000007 to 10.0.0.7.");
+              "No unit is selected. Apply sends ^^IdI0A000007 to 10.0.0.7.");
     EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", {.unitIsSelected = true}),
               "Apply asks for administrator rights, but no MAC address is known for an ARP entry. "
-              "It sends ^^IdI0A000007 to 10.0.0.7.");
+              "Apply sends ^^IdI0A000007 to 10.0.0.7.");
 }
 
 TEST(EditNotes, WithoutAUnitOrItsAddressNothingElseIsSent) {
@@ -186,14 +199,20 @@ TEST(EditNotes, WithoutAUnitOrItsAddressNothingElseIsSent) {
 }
 
 TEST(EditNotes, ARefusalSaysWhyNothingWasSent) {
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::emptyValue), "Not sent: the value is empty.");
+    EXPECT_EQ(noteOfRefusal(CommandRefusal::emptyValue), "Not sent: The value is empty.");
     EXPECT_EQ(noteOfRefusal(CommandRefusal::notUTF8),
-              "Not sent: the unit ID is not a text in UTF-8.");
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::noUnit), "Not sent: no unit is selected.");
+              "Not sent: The unit ID is not a text in UTF-8.");
+    EXPECT_EQ(noteOfRefusal(CommandRefusal::noUnit), "Not sent: No unit is selected.");
     EXPECT_EQ(noteOfRefusal(CommandRefusal::notASCII),
-              "Not sent: a command can hold ASCII characters only.");
+              "Not sent: A command can hold ASCII characters only.");
     EXPECT_EQ(noteOfRefusal(CommandRefusal::noAddress),
-              "Not sent: the address of the unit is not known.");
+              "Not sent: The address of the unit is not known.");
+}
+
+TEST(EditNotes, WhatTheNetworkSaysOfASendEndsWithAFullStop) {
+    EXPECT_EQ(noteOfFailedSend("Network is unreachable"), "Not sent: Network is unreachable.");
+    EXPECT_EQ(noteOfFailedSend("The UDP listener is not running."),
+              "Not sent: The UDP listener is not running.");
 }
 
 TEST(EditNotes, ACommandIsRefusedForTheFirstReasonThatAPersonCanMend) {
@@ -214,6 +233,8 @@ TEST(EditNotes, AForeignTextStaysOnOneLineAndIsCut) {
     EXPECT_EQ(shownInNote(umlauts), umlauts.substr(0, 64) + "…");
     EXPECT_EQ(shownInNote("a\n\tb\r"), "a\uFFFD\uFFFDb\uFFFD");
     EXPECT_EQ(shownInNote(std::string_view("a\0b", 3)), "a\uFFFDb");
+    EXPECT_EQ(shownInNote("a\u0085\u2028\u2029b"), "a\uFFFD\uFFFD\uFFFDb");
+    EXPECT_EQ(shownInNote("1\u202E2\u20663\u200F4"), "1\uFFFD2\uFFFD3\uFFFD4");
     EXPECT_EQ(shownInNote(std::string(100, '\x80')), std::string(32, '\x80') + "…");
 }
 
@@ -240,7 +261,7 @@ TEST(EditNotes, EverySentenceIsLookedUpAsAWhole) {
     EXPECT_EQ(noteOfEdit(unitID, "7", {}), "<Apply sends nothing: no unit is selected.>");
     EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", knownUnit()),
               "<Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
-              "administrator rights.> <It sends ^^IdI0A000007 to 10.0.0.7.>");
+              "administrator rights.> <Apply sends ^^IdI0A000007 to 10.0.0.7.>");
 }
 
 } // namespace kx

@@ -50,6 +50,23 @@ TEST(EditReport, GoesFromSentOverAcceptedToShown) {
     EXPECT_EQ(report.text(), "The unit now shows 3523 as its destination Port number.");
 }
 
+TEST(EditReport, ANewDevicePortIsSeenByDiscover) {
+    EditReport report = reportOf(devicePortNumber, "10001", "10000");
+    report.unitDidAccept();
+    EXPECT_EQ(report.text(), "The unit accepted ^^IdP2711 and was asked for its parameters. "
+                             "Discover finds it on its new port.");
+    EditReport same = reportOf(devicePortNumber, "10000", "10000");
+    same.unitDidAccept();
+    EXPECT_EQ(same.text(), "The unit accepted ^^IdP2710 and was asked for its parameters.");
+}
+
+TEST(EditReport, AnAcceptanceCountsAfterAReplyThatWasUnderWayAlready) {
+    EditReport report = reportOf(destinationPortNumber, "3523", "3520");
+    report.unitDidReply(recordWith(destinationPortNumber, "3520"));
+    report.unitDidAccept();
+    EXPECT_EQ(report.text(), "The unit accepted ^^IdT0DC3 and was asked for its parameters.");
+}
+
 TEST(EditReport, SaysWhenTheUnitStillShowsTheOldValue) {
     EditReport report = reportOf(devicePortNumber, "10001", "10000");
     report.unitDidReply(recordWith(devicePortNumber, "10000"));
@@ -60,10 +77,10 @@ TEST(EditReport, SaysWhenTheUnitStillShowsTheOldValue) {
 
 TEST(EditReport, SaysWhenTheUnitShowsSomethingElse) {
     EXPECT_EQ(textAfterReply(devicePortNumber, "70000", "10000", "4464"),
-              "The unit now shows 4464 as its device Port number, which is not what was typed.");
+              "The unit now shows 4464 as its device Port number, which is not what was sent.");
     EXPECT_EQ(textAfterReply(internalMACAddress, "1", "00:1A:2B:3C:4D:5E", "01:00:00:00:00:00"),
               "The unit now shows 01:00:00:00:00:00 as its internal MAC address, which is not what "
-              "was typed.");
+              "was sent.");
     EditReport report = reportOf(unitID, "7", "42");
     report.unitDidReply(UnitRecord());
     EXPECT_EQ(report.text(), "The unit's parameters hold no unit ID.");
@@ -132,19 +149,25 @@ TEST(EditReport, IsAboutItsUnitAlone) {
 TEST(EditReport, AFailedSendSaysWhy) {
     EditReport report = reportOf(unitID, "7", "42");
     report.sendDidFail("Network is unreachable");
-    EXPECT_EQ(report.text(), "Not sent: Network is unreachable");
+    EXPECT_EQ(report.text(), "Not sent: Network is unreachable.");
 }
 
 TEST(EditReport, SaysWhyThereIsNoARPEntry) {
     const std::string sent = "Sent ^^IdI0A000007. The unit has not answered yet.";
-    const std::string none = " The ARP cache has no entry for 10.0.0.7: ";
+    const std::string none = " No ARP entry was made for 10.0.0.7: ";
     EditReport report = reportOf(internalIPAddress, "10.0.0.7", "192.168.1.10");
     report.arpEntryDidGive(0);
     EXPECT_EQ(report.text(), sent);
     report.arpEntryDidGive(-1);
     EXPECT_EQ(report.text(), sent + none + "administrator rights were not given.");
     report.arpEntryDidGive(-60031);
-    EXPECT_EQ(report.text(), sent + none + "the ARP tool was not started (-60031).");
+    EXPECT_EQ(report.text(), sent + none + "the ARP tool cannot be run.");
+    report.arpEntryDidGive(-60005);
+    EXPECT_EQ(report.text(), sent + none + "running the ARP tool was refused.");
+    report.arpEntryDidGive(-60006);
+    EXPECT_EQ(report.text(), sent + none + "the question for administrator rights was dismissed.");
+    report.arpEntryDidGive(-60002);
+    EXPECT_EQ(report.text(), sent + none + "the ARP tool was not started (-60002).");
     report.arpToolDidEnd("10.0.0.7", 255);
     EXPECT_EQ(report.text(), sent + none + "the ARP tool ended with status 255.");
     report.unitDidReply(recordWith(internalIPAddress, "10.0.0.7"));
@@ -153,7 +176,7 @@ TEST(EditReport, SaysWhyThereIsNoARPEntry) {
 
     EditReport notASCII = reportOf(internalIPAddress, "10.0.0.7ü", "192.168.1.10");
     notASCII.arpEntryDidGive(-1);
-    EXPECT_EQ(notASCII.text(), sent + " The ARP cache has no entry for 10.0.0.7ü: it can hold "
+    EXPECT_EQ(notASCII.text(), sent + " No ARP entry was made for 10.0.0.7ü: it can hold "
                                       "ASCII characters only.");
 }
 
@@ -171,8 +194,8 @@ TEST(EditReport, EverySentenceIsLookedUpAsAWhole) {
     const MarkedLocalizedText marked;
     EditReport report = reportOf(internalIPAddress, "10.0.0.7", "192.168.1.10");
     report.arpEntryDidGive(-1);
-    EXPECT_EQ(report.text(), "<Sent ^^IdI0A000007. The unit has not answered yet.> <The ARP cache "
-                             "has no entry for 10.0.0.7: administrator rights were not given.>");
+    EXPECT_EQ(report.text(), "<Sent ^^IdI0A000007. The unit has not answered yet.> <No ARP entry "
+                             "was made for 10.0.0.7: administrator rights were not given.>");
 }
 
 } // namespace kx

@@ -37,7 +37,7 @@ if [[ $answer == allow ]]; then
     neighbour='192.0.2.50 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT'
 else
     KX_STEPS="$common
-        line has no entry for 192.0.2.50: administrator rights were not given
+        line No ARP entry was made for 192.0.2.50: administrator rights were not given
         print
         read KX_DIALOGS"
 fi
@@ -48,6 +48,17 @@ report=$("$in_polkit" "${person[@]}" -- "$kxconfig") || fail "the visit failed: 
 
 expect_equal 'the neighbour of the new address' "$neighbour" \
     "$(ip neigh show 192.0.2.50 nud permanent | sed 's/ *$//')"
+
+if [[ $answer == allow ]]; then
+    expect_equal 'the neighbour of the second address' \
+        '192.0.2.51 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT' "$(ip neigh show 192.0.2.51 | sed 's/ *$//')"
+else
+    # The command went out all the same: the host asked who has the new address, and nobody did.
+    expect_equal 'what became of the command' '  UDP server did send data.' \
+        "$(grep -A 1 'Send to: 192.0.2.50 ' <<<"$report" | tail -n 1)"
+    asked=$(ip neigh show 192.0.2.50 | sed 's/ *$//')
+    [[ $asked == '192.0.2.50 dev kx0 '@(INCOMPLETE|FAILED) ]] || fail "the neighbour of the new address: $asked"
+fi
 
 alerts=$(grep '^Alert: ' <<<"$report" || true)
 stuffed=$(grep 'Stuff ARP cache' <<<"$report" || true)

@@ -27,6 +27,7 @@ export KX_STEPS='
     press restoreButton
     shows internal IP address: 192.0.2.11
     shows destination Port number: 3520
+    logs Request unit parameters with address: 192.0.2.11
     print'
 
 report=$("$kxconfig") || fail "the visit failed: $report"
@@ -35,11 +36,25 @@ expect_equal 'the neighbour of the new address' \
     '192.0.2.50 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT' \
     "$(ip neigh show 192.0.2.50 | sed 's/ *$//')"
 
-# What the unit heard, as text, but for the requests for its parameters.
-heard=$(sed -n 's/^4B5800000001 //p' "$record" | while read -r address port bytes; do
-    printf '%s %s %b\n' "$address" "$port" "$(sed 's/../\\x&/g' <<<"$bytes")"
-done | tr -d '\r' | grep -v '\^\^IdX$')
-expect_equal 'what the unit heard' '192.0.2.50 10000 ^^IdIC0000232
+# What the unit heard, as text.
+heard() {
+    sed -n 's/^4B5800000001 //p' "$record" | while read -r address port bytes; do
+        printf '%s %s %b\n' "$address" "$port" "$(sed 's/../\\x&/g' <<<"$bytes")"
+    done | tr -d '\r'
+}
+expect_equal 'what the unit heard but for the requests for its parameters' '192.0.2.50 10000 ^^IdIC0000232
 192.0.2.50 10000 ^^IdT0DC3
 192.0.2.50 10000 ^^IdV
-192.0.2.50 10000 ^^IdZ' "$heard"
+192.0.2.50 10000 ^^IdZ' "$(heard | grep -v '\^\^IdX$')"
+
+# After the restore the unit is asked at once, because it said "ok", where it was, and a second
+# later where it is now.
+requests_after_restore() {
+    heard | sed '1,/\^\^IdZ$/d' | grep '\^\^IdX$'
+}
+was_asked_twice() {
+    (($(requests_after_restore | wc -l) == 2))
+}
+eventually was_asked_twice || true
+expect_equal 'the requests for its parameters after the restore' '192.0.2.50 10000 ^^IdX
+192.0.2.11 10000 ^^IdX' "$(requests_after_restore)"

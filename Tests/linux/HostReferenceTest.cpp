@@ -2,11 +2,16 @@
 
 #include "platform/linux/HostReference.h"
 
-#include "platform/posix/PollRunLoop.h"
+#include "platform/PollLoopDriver.h"
 
 #include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
 
+#include <cerrno>
 #include <csignal>
+#include <cstring>
+#include <stdexcept>
 
 namespace kx {
 
@@ -31,6 +36,22 @@ private:
     }
     std::string launcher() const override { return "sh"; }
     std::int32_t refusalOf(int launcherStatus) const override { return launcherStatus; }
+};
+
+// A system that tells nothing about processes. As in ReplacedFile.h, the calling thread keeps its
+// view of the mounted file systems.
+class HiddenProcesses {
+public:
+    HiddenProcesses() {
+        if (::unshare(CLONE_NEWNS) != 0 ||
+            ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", "/proc", "tmpfs", 0, nullptr) != 0) {
+            throw std::runtime_error(std::strerror(errno));
+        }
+    }
+    ~HiddenProcesses() { ::umount2("/proc", MNT_DETACH); }
+    HiddenProcesses(const HiddenProcesses&) = delete;
+    HiddenProcesses& operator=(const HiddenProcesses&) = delete;
 };
 
 class HostReferenceTest : public testing::Test {
@@ -71,10 +92,36 @@ TEST_F(HostReferenceTest, ALauncherThatBecomesAnotherProgramHasStartedTheTool) {
               errAuthorizationSuccess);
 }
 
-TEST_F(HostReferenceTest, ALauncherWhoseEndIsUnknownHasStartedNoTool) {
+TEST_F(HostReferenceTest, ALauncherWhoseEndIsUnknownIsNotSaidToHaveRefused) {
+    std::vector<int> ends;
     const auto before = std::signal(SIGCHLD, SIG_IGN); // the system keeps no ends then
-    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"}, {}), -1);
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"},
+                                              [&](int status) { ends.push_back(status); }),
+              errAuthorizationSuccess);
     std::signal(SIGCHLD, before);
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return !ends.empty(); }));
+    EXPECT_EQ(ends, std::vector<int>{-1});
+}
+
+TEST_F(HostReferenceTest, WithoutNamesOfProgramsTheStatusTellsARefusal) {
+    std::vector<int> ends;
+    const auto run = [&](const std::string& script) {
+        return reference.executeWithPrivileges("/bin/sh", {"-c", script},
+                                               [&](int status) { ends.push_back(status); });
+    };
+    const HiddenProcesses hidden;
+    EXPECT_EQ(run("exit 126"), 126);
+    EXPECT_EQ(run("exit 127"), 127);
+    EXPECT_EQ(run("exec /bin/true"), errAuthorizationSuccess);
+    EXPECT_EQ(run("exec /bin/false"), errAuthorizationSuccess);
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return ends.size() == 2; }));
+    EXPECT_EQ(ends, (std::vector<int>{0, 1}));
+}
+
+// It may be the launcher that still runs, in which a person is asked.
+TEST_F(HostReferenceTest, WithoutNamesOfProgramsALongRunIsWaitedFor) {
+    const HiddenProcesses hidden;
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "sleep 2.2; exit 126"}, {}), 126);
 }
 
 } // namespace kx

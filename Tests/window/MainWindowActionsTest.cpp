@@ -143,14 +143,14 @@ TEST_F(MainWindowTest, TheQuietLineSaysWhyNothingWasSent) {
     launchWithInterface();
     newlySent();
     click("sendOptionButton");
-    EXPECT_EQ(quietLine(), "Not sent: no unit is selected.");
+    EXPECT_EQ(quietLine(), "Not sent: No unit is selected.");
     EXPECT_EQ(newlySent(), Texts{});
 
     receive(SampleUnit().reply());
     runLoop.advanceBy(std::chrono::seconds(2));
     control<QLineEdit>("optionCommandField").setText(QString::fromUtf8("Zürich"));
     click("sendOptionButton");
-    EXPECT_EQ(quietLine(), "Not sent: a command can hold ASCII characters only.");
+    EXPECT_EQ(quietLine(), "Not sent: A command can hold ASCII characters only.");
     EXPECT_EQ(newlySent(), Texts{});
 
     click("reloadButton");

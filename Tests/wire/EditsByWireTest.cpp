@@ -1,7 +1,9 @@
 // What a unit receives for an edit, to the byte, and what it makes of it.
 
 #include "WireFixture.h"
+#include "support/Error.h"
 
+#include <cerrno>
 #include <utility>
 #include <vector>
 
@@ -31,6 +33,7 @@ protected:
 
 TEST_F(EditsByWire, TheUnitReceivesExactlyTheseBytes) {
     expectReceived(internalMACAddress, {{"02:4b:58:00:00:09", "^^IdM024b58000009"},
+                                        {"024B5800000A", "^^IdM024B5800000A"},
                                         {"", "(nothing)"},
                                         {nonASCII, "(nothing)"},
                                         {overlong, "^^IdM" + overlong},
@@ -47,6 +50,7 @@ TEST_F(EditsByWire, TheUnitReceivesExactlyTheseBytes) {
                                           {hostile, "^^IdD00000000"}});
     expectReceived(destinationPortNumber, {{"3523", "^^IdT0DC3"},
                                            {"3524", "^^IdT0DC0"},
+                                           {"none", "^^IdT0DC0"},
                                            {"", "(nothing)"},
                                            {nonASCII, "^^IdT0DC0"},
                                            {overlong, "^^IdT0DC0"},
@@ -101,6 +105,29 @@ TEST_F(EditsByWire, EmptyNonASCIIAndHostileAddressesDoNotMoveTheUnit) {
     }
 }
 
+// The unit hears them where they are sent to, at 0.0.0.0, only when the test lets it.
+TEST_F(EditsByWire, HostileAndOverlongAddressesAreZeroOnTheWire) {
+    link.setARPCache([](std::uint32_t address) { return address == 0; });
+    for (const std::string& value : {nonASCII, hostile, overlong, std::string("1.2.3")}) {
+        EXPECT_EQ(receivedFor(internalIPAddress, value), "^^IdI00000000") << value;
+        discover();
+    }
+    EXPECT_EQ(receivedFor(internalIPAddress, ""), "(nothing)");
+}
+
+TEST_F(EditsByWire, AnEditThatIsTooLongForADatagramIsNotSentAndSaysSo) {
+    const std::string typed(32'767, 'A'); // each byte is two digits
+    EXPECT_EQ(receivedFor(unitID, typed), "(nothing)");
+    EXPECT_EQ(window.quietLine.text(), "Not sent: " + posixErrorText(EMSGSIZE) + ".");
+    EXPECT_NE(
+        controller.eventLog().find("\nUDP failed to send data.\n  " + posixErrorText(EMSGSIZE)),
+        std::string::npos);
+    // Nor does the line promise it beforehand.
+    window.editParameterTableView.typeIntoCell(0, "parameterValue", typed);
+    EXPECT_TRUE(window.quietLine.text().starts_with("Apply sends nothing: the command is too long"))
+        << window.quietLine.text();
+}
+
 TEST_F(EditsByWire, EveryEditOfAWellFormedValueIsTakenOverAndShown) {
     const std::vector<std::pair<UnitParameter, std::string>> edits{
         {internalMACAddress, "02:4B:58:AA:BB:CC"}, {internalIPAddress, "192.0.2.99"},
@@ -123,8 +150,10 @@ TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
     apply(devicePortNumber, "10001");
     converse();
     EXPECT_EQ(settings().devicePort, 10001);
-    EXPECT_EQ(window.quietLine.text(),
-              "The unit accepted ^^IdP2711 and was asked for its parameters.");
+    EXPECT_EQ(
+        window.quietLine.text(),
+        "The unit accepted ^^IdP2711 and was asked for its parameters. Discover finds it on its "
+        "new port.");
     discover();
     EXPECT_EQ(shown(devicePortNumber), "10001");
     EXPECT_EQ(window.quietLine.text(), "The unit now shows 10001 as its device Port number.");
@@ -149,6 +178,14 @@ TEST_F(EditsByWire, WhatAUnitIgnoresItStillShows) {
     converse();
     EXPECT_EQ(window.quietLine.text(),
               "The unit still shows 02:4B:58:00:00:01 as its internal MAC address.");
+}
+
+TEST_F(EditsByWire, AnOptionsTitleWithoutTwoSpacesIsSentWhole) {
+    window.optionCommandPopUp.addItemsWithTitles({"T 1 of 2"});
+    window.optionCommandPopUp.selectItemWithTitle("T 1 of 2");
+    controller.optionCommandPopUp();
+    controller.sendOptionButton();
+    EXPECT_EQ(link.lastCommand(), "^^IdT 1 of 2\r");
 }
 
 TEST_F(EditsByWire, OptionsAndRestoreReachTheUnitToTheByte) {

@@ -53,6 +53,10 @@ public:
 
     ssize_t sendTo(int /*descriptor*/, ByteView data,
                    std::optional<ByteView> addressRecord) override {
+        if (data.size() > longestDatagram) {
+            errno = EMSGSIZE;
+            return -1;
+        }
         std::uint32_t address = 0;
         IPv6Octets address6{};
         std::uint16_t port = 0;
@@ -85,6 +89,9 @@ public:
     }
 
 private:
+    // What an IP packet of 65535 bytes leaves beside its header and that of UDP.
+    static constexpr std::size_t longestDatagram = 65'507;
+
     bool reachesUnit(std::uint32_t address) const {
         return address == _unit.settings().address || address == 0xFFFF'FFFF ||
                (_leadsToUnit && _leadsToUnit(address));

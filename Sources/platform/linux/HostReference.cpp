@@ -6,6 +6,14 @@
 
 namespace kx {
 
+namespace {
+
+// What launchers, like shells, end with when they have started nothing. The tools do not.
+constexpr int firstStatusOfRefusal = 126;
+constexpr int lastStatusOfRefusal = 127;
+
+} // namespace
+
 HostReference::HostReference(RunningTools& runningTools)
     : _runningTools(runningTools) {}
 
@@ -35,7 +43,7 @@ std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
     if (tool == nullptr) {
         return errAuthorizationToolExecuteFailure;
     }
-    if (tool->waitAMoment(launcher()) && tool->isStill(launcher())) {
+    if (tool->waitAMoment(launcher()) && isRefusal(*tool)) {
         return refusalOf(tool->status());
     }
     _runningTools.attend(std::move(tool), [alive = std::weak_ptr<bool>(_alive),
@@ -45,6 +53,20 @@ std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
         }
     });
     return errAuthorizationSuccess;
+}
+
+// The name tells for certain whether the launcher has become the tool, and the status where the
+// system does not tell the name.
+bool HostReference::isRefusal(StartedTool& ended) const {
+    if (launcher().empty()) {
+        return false;
+    }
+    const auto name = ended.programName();
+    if (name.has_value()) {
+        return *name == launcher();
+    }
+    const int status = ended.status();
+    return status == firstStatusOfRefusal || status == lastStatusOfRefusal;
 }
 
 } // namespace kx

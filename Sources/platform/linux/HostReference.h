@@ -3,7 +3,8 @@
 //
 // A right is held once it was obtained with both flags of a request. Without the first flag the
 // answer is no for a right that is not held, whatever the host's rules would say: what was obtained
-// under one reference says nothing about another.
+// under one reference says nothing about another. A later question that is not answered with yes
+// ends the holding.
 
 #pragma once
 
@@ -44,6 +45,8 @@ protected:
     virtual std::int32_t refusalOf(int launcherStatus) const = 0;
 
 private:
+    bool isRefusal(StartedTool& ended) const;
+
     RunningTools& _runningTools;
     std::set<std::string> _held; // values of the rights
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);

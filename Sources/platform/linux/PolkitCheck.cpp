@@ -1,26 +1,28 @@
 #include "platform/linux/PolkitCheck.h"
 
+#include "platform/linux/SystemBus.h"
+
 #include <unistd.h>
 
 #include <QDBusArgument>
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
 #include <QDBusMessage>
-#include <QDBusReply>
+#include <QDBusPendingCall>
 #include <QMap>
 #include <QString>
 #include <QVariant>
 #include <QVariantMap>
+#include <chrono>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
-#include <limits>
 #include <sstream>
 
 namespace kx {
 
 namespace {
 
+const QString busName = QStringLiteral("org.freedesktop.DBus");
+const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 const QString authorityName = QStringLiteral("org.freedesktop.PolicyKit1");
 const QString authorityPath = QStringLiteral("/org/freedesktop/PolicyKit1/Authority");
 const QString authorityInterface = QStringLiteral("org.freedesktop.PolicyKit1.Authority");
@@ -29,26 +31,12 @@ const QString resultSignature = QStringLiteral("(bba{ss})");
 // Bit of CheckAuthorization's flags.
 constexpr quint32 allowUserInteraction = 1;
 
-// Milliseconds; this value stands for "for ever". A person types a password meanwhile.
-constexpr int withoutTimeOut = std::numeric_limits<int>::max();
+// How long the bus may take to answer and, which is more work, to start polkit. The window stands
+// still meanwhile.
+constexpr std::chrono::milliseconds patienceWithBus{1000};
+constexpr std::chrono::milliseconds patienceWithStart{2000};
 
 using Details = QMap<QString, QString>;
-
-class SystemBus {
-public:
-    SystemBus()
-        : _connection(QDBusConnection::connectToBus(QDBusConnection::SystemBus, name())) {}
-    ~SystemBus() { QDBusConnection::disconnectFromBus(name()); }
-    SystemBus(const SystemBus&) = delete;
-    SystemBus& operator=(const SystemBus&) = delete;
-
-    QDBusConnection& connection() { return _connection; }
-
-private:
-    static QString name() { return QStringLiteral("kxconfig-authorization"); }
-
-    QDBusConnection _connection;
-};
 
 // When this process started, in the kernel's clock ticks since boot; 0, which polkit takes as
 // "look it up", when that cannot be read. With the process number it names the process for good.
@@ -111,23 +99,53 @@ PolkitAnswer answerOf(const QDBusMessage& reply) {
                                                                 : PolkitAnswer::refused;
 }
 
+QDBusMessage answerTo(SystemBus& bus, const QDBusMessage& question,
+                      std::chrono::milliseconds patience) {
+    QDBusPendingCall call = bus.call(question, patience);
+    call.waitForFinished();
+    return call.reply();
+}
+
+QDBusMessage questionToBus(const QString& method) {
+    auto question = QDBusMessage::createMethodCall(busName, busPath, busName, method);
+    question << authorityName;
+    return question;
+}
+
+void hearNothing(const QDBusMessage& /*signal*/) {}
+
+bool isPolkitOn(SystemBus& bus) {
+    const auto has = answerTo(bus, questionToBus(QStringLiteral("NameHasOwner")), patienceWithBus);
+    if (has.type() != QDBusMessage::ReplyMessage) {
+        return false;
+    }
+    if (has.arguments().value(0).toBool()) {
+        return true;
+    }
+    auto start = questionToBus(QStringLiteral("StartServiceByName"));
+    start << 0U; // no flags are known
+    return answerTo(bus, start, patienceWithStart).type() == QDBusMessage::ReplyMessage;
+}
+
 } // namespace
 
 bool isPolkitThere() {
-    SystemBus bus;
-    auto* const daemon = bus.connection().interface();
-    return daemon != nullptr && (daemon->isServiceRegistered(authorityName).value() ||
-                                 daemon->startService(authorityName).isValid());
+    SystemBus bus(hearNothing);
+    return isPolkitOn(bus);
 }
 
+// A person types a password meanwhile, so the answer has no time-out.
 PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {
-    SystemBus bus;
+    SystemBus bus(hearNothing);
+    if (!isPolkitOn(bus)) {
+        return PolkitAnswer::unreachable;
+    }
     auto question = QDBusMessage::createMethodCall(authorityName, authorityPath, authorityInterface,
                                                    QStringLiteral("CheckAuthorization"));
     question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
              << QVariant::fromValue(noDetails()) << (mayAskPerson ? allowUserInteraction : 0U)
              << QString(); // nothing cancels it
-    return answerOf(bus.connection().call(question, QDBus::Block, withoutTimeOut));
+    return answerOf(answerTo(bus, question, SystemBus::endlessPatience));
 }
 
 } // namespace kx

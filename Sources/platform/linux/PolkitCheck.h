@@ -3,8 +3,9 @@
 // Each question has a connection to the system bus of its own, so a bus that was restarted, or that
 // comes up late, is no different from any other.
 //
-// Threading: the main thread only; a question blocks until it is answered. A QCoreApplication must
-// exist.
+// Threading: the main thread only; a question blocks until it is answered. The bus itself gets a
+// second for each answer, and two to start polkit: one that has stopped is as good as none. A
+// QCoreApplication must exist.
 
 #pragma once
 
@@ -18,7 +19,7 @@ enum class PolkitAnswer {
     dismissed,   // by the person who was asked
     nobodyAsked, // a person would have to be asked, which was not wanted or for which no agent is
                  // there
-    unreachable, // no bus, no polkit, or it knows no such action
+    unreachable, // no bus, or none that answers, no polkit, or it knows no such action
 };
 
 // Whether polkit is there. It is started when the bus can do that.

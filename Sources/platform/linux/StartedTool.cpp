@@ -45,26 +45,23 @@ StartedTool::StartedTool(ChildProcess child)
 bool StartedTool::hasEnded() const {
     const auto process = _child.processIdentifier();
     siginfo_t end{};
-    // Only looked at: the end stays the child's to tell, and with it programName(). An error means
-    // that the system has kept nothing of it.
+    // Only looked at: the end stays the child's to tell, and the system keeps the program's name as
+    // long. An error means that it has kept nothing.
     return ::waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
            end.si_pid == process;
 }
 
-bool StartedTool::isStill(const std::string& launcher) const {
-    if (launcher.empty()) {
-        return false;
-    }
+std::optional<std::string> StartedTool::programName() const {
     std::ifstream file("/proc/" + std::to_string(_child.processIdentifier()) + "/comm");
     std::string name;
-    return !std::getline(file, name) || name == launcher;
+    return std::getline(file, name) ? std::optional(name) : std::nullopt;
 }
 
 bool StartedTool::waitAMoment(const std::string& launcher) {
     using Clock = std::chrono::steady_clock;
     auto end = Clock::now() + moment;
     while (!hasEnded()) {
-        if (isStill(launcher)) {
+        if (!launcher.empty() && programName().value_or(launcher) == launcher) {
             end = Clock::now() + moment;
         } else if (Clock::now() >= end) {
             return false;

@@ -32,15 +32,15 @@ public:
     // Whether it has ended.
     bool hasEnded() const;
 
-    // Whether the program that runs, or ran to its end, is `launcher`, by its file name of at most
-    // 15 bytes: it has not become the tool yet, or never did. Also true when the system does not
-    // tell, and false for an empty name, which stands for no launcher. Not to be asked after
-    // status().
-    bool isStill(const std::string& launcher) const;
+    // The file name of the program that runs, or ran to its end, cut to 15 bytes: a launcher's
+    // until it has become the tool. Absent when the system does not tell, as where it hides the
+    // processes of others. Not to be asked after status().
+    std::optional<std::string> programName() const;
 
     // Returns once it has ended, or after a moment in which it has run. While it is still
     // `launcher` a person may be asked: that takes as long as it takes, and the moment begins after
-    // it. Whether it has ended then.
+    // it. The same while the system does not tell what it is, because that person may not be cut
+    // short. An empty name stands for no launcher. Whether it has ended then.
     bool waitAMoment(const std::string& launcher);
 
     // Waits for its end. The exit status, or 128 and the number of the signal that ended it; -1

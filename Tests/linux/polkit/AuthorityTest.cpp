@@ -1,6 +1,13 @@
 // Who is asked, how often, and what comes of it. Each suite has a person or a rule of its own.
 
 #include "AuthorityFixture.h"
+#include "platform/linux/PolkitCheck.h"
+#include "support/Pipe.h"
+
+#include <sys/socket.h>
+#include <sys/un.h>
+
+#include <chrono>
 
 namespace kx {
 
@@ -155,6 +162,23 @@ TEST_F(NoAuthority, GivesNoReference) {
     EXPECT_FALSE(authorization.isAuthenticated());
     EXPECT_EQ(authorization.runToolWithArgs({"-s", newAddress, unitAddress}),
               errAuthorizationInvalidRef);
+}
+
+// One that takes connections and says nothing. The bus library alone would wait 25 seconds for each
+// answer.
+TEST(ASilentBus, IsAsGoodAsNone) {
+    const std::string path = std::string(std::getenv("HOME")) + "/silent";
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    path.copy(address.sun_path, sizeof address.sun_path - 1);
+    const FileDescriptor bus(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+    ASSERT_EQ(::bind(bus.number(), reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    ASSERT_EQ(::listen(bus.number(), 4), 0);
+    ::setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + path).c_str(), 1);
+    const auto before = std::chrono::steady_clock::now();
+    EXPECT_FALSE(isPolkitThere());
+    EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", true), PolkitAnswer::unreachable);
+    EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(15));
 }
 
 class AnUnknownAction : public AuthorityFixture {};
