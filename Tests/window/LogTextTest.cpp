@@ -31,7 +31,8 @@ std::string wholeText(const LogText& text) {
 std::string manyLines(int count) {
     std::string text;
     for (int line = 0; line < count; ++line) {
-        text += "\n" + std::to_string(line) + " Ä網😀 " + std::string(line % 300, 'x');
+        text += "\n" + std::to_string(line) + " Ä網😀 " +
+                std::string(static_cast<std::size_t>(line % 300), 'x');
     }
     return text;
 }

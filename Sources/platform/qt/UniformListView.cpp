@@ -40,7 +40,7 @@ void UniformListView::scrollTo(const QModelIndex& index, ScrollHint hint) {
 
 // There is none: a row's place follows from its number.
 void UniformListView::doItemsLayout() {
-    QAbstractItemView::doItemsLayout();
+    QAbstractItemView::doItemsLayout(); // NOLINT(bugprone-parent-virtual-call)
 }
 
 // The scroll bar counts rows.
@@ -98,7 +98,7 @@ void UniformListView::paintEvent(QPaintEvent* event) {
 }
 
 void UniformListView::resizeEvent(QResizeEvent* event) {
-    QAbstractItemView::resizeEvent(event);
+    QAbstractItemView::resizeEvent(event); // NOLINT(bugprone-parent-virtual-call)
 }
 
 void UniformListView::scrollContentsBy(int /*dx*/, int /*dy*/) {
@@ -114,7 +114,7 @@ void UniformListView::setSelection(const QRect& area, QItemSelectionModel::Selec
 void UniformListView::updateGeometries() {
     verticalScrollBar()->setRange(0, std::max(0, rowCount() - rowsInSight()));
     verticalScrollBar()->setPageStep(rowsInSight());
-    QAbstractItemView::updateGeometries();
+    QAbstractItemView::updateGeometries(); // NOLINT(bugprone-parent-virtual-call)
 }
 
 QRegion UniformListView::visualRegionForSelection(const QItemSelection& selection) const {

@@ -1,5 +1,8 @@
 // A list whose rows are all of one height, that of the first with some air: whatever its length,
-// only the rows in sight are looked at. For the long lists of pop-ups. Main thread only.
+// only the rows in sight are looked at. For the long lists of pop-ups.
+//
+// It is a list view for the sake of screen readers; the list view's own layout, which visits every
+// row, is passed over. Main thread only.
 
 #pragma once
 
