@@ -182,8 +182,8 @@ TEST_F(MainWindowApply, RefusedRightsAreAModalAlertAndTheCommandIsSent) {
                            "Authentication was not completed, some features may not be available.",
                            "OK"}));
     EXPECT_EQ(newlySent(), Texts{"^^IdI0A000007"});
-    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet. The ARP cache has "
-                           "no entry for 10.0.0.7: administrator rights were not given.");
+    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was "
+                           "made for 10.0.0.7: administrator rights were not given.");
 }
 
 TEST_F(MainWindowApply, NothingOfAnEditReachesAControllerThatWasTakenAway) {
