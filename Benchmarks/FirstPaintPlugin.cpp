@@ -6,10 +6,34 @@
 #include <QWidget>
 #include <chrono>
 #include <cstdio>
+#include <fstream>
+#include <string>
 
 namespace kx {
 
 namespace {
+
+long long peakMemoryInKiB() {
+    std::ifstream status("/proc/self/status");
+    for (std::string word; status >> word;) {
+        if (word == "VmHWM:") {
+            long long peak = 0;
+            status >> peak;
+            return peak;
+        }
+    }
+    return 0;
+}
+
+void report() {
+    using std::chrono::duration_cast;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    std::printf("%lld %lld\n",
+                static_cast<long long>(duration_cast<std::chrono::nanoseconds>(now).count()),
+                peakMemoryInKiB());
+    std::fflush(stdout);
+    QApplication::quit();
+}
 
 class FirstPaint final : public QObject {
 public:
@@ -18,14 +42,7 @@ public:
         if (event->type() == QEvent::Paint && widget != nullptr && widget->isWindow()) {
             qApp->removeEventFilter(this);
             // After the paint itself has been handled.
-            QTimer::singleShot(0, this, [] {
-                const auto now = std::chrono::steady_clock::now().time_since_epoch();
-                std::printf("%lld\n",
-                            static_cast<long long>(
-                                std::chrono::duration_cast<std::chrono::nanoseconds>(now).count()));
-                std::fflush(stdout);
-                QApplication::quit();
-            });
+            QTimer::singleShot(0, this, report);
         }
         return false;
     }

@@ -1,6 +1,6 @@
-// From the start of the process to the first paint of its window, for the application and for an
-// empty window with the same controls. Each runs off screen in a network namespace of its own,
-// where its first broadcast reaches nobody.
+// From the start of the process to the first paint of its window, and the most memory that it takes
+// for that, for the application and for an empty window with the same controls. Each runs off
+// screen in a network namespace of its own, where its first broadcast reaches nobody.
 
 #include "Comparison.h"
 
@@ -13,6 +13,7 @@
 #include <chrono>
 #include <cstdlib>
 #include <optional>
+#include <sstream>
 #include <string>
 
 namespace kx {
@@ -34,8 +35,13 @@ using Clock = std::chrono::steady_clock;
     ::_exit(1);
 }
 
-// The time that the program printed, absent when it printed none or failed.
-std::optional<Clock::time_point> firstPaintOfProgram(const char* program) {
+struct FirstPaint {
+    Clock::time_point time;
+    double peakMemoryInKiB = 0;
+};
+
+// What the program printed, absent when it printed nothing or failed.
+std::optional<FirstPaint> firstPaintOfProgram(const char* program) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0) {
         return std::nullopt;
@@ -54,13 +60,18 @@ std::optional<Clock::time_point> firstPaintOfProgram(const char* program) {
     ::close(ends[0]);
     int status = 0;
     ::waitpid(child, &status, 0);
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0 || output.empty()) {
+    long long nanoseconds = 0;
+    double peakMemoryInKiB = 0;
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0 ||
+        !(std::istringstream(output) >> nanoseconds >> peakMemoryInKiB)) {
         return std::nullopt;
     }
-    return Clock::time_point(std::chrono::nanoseconds(std::atoll(output.c_str())));
+    return FirstPaint{Clock::time_point(std::chrono::nanoseconds(nanoseconds)), peakMemoryInKiB};
 }
 
-void timeStart(benchmark::State& state, const char* program) {
+// `measure` says what of a start counts, as seconds.
+void measureStarts(benchmark::State& state, const char* program,
+                   double (*measure)(Clock::time_point begin, const FirstPaint& painted)) {
     for (auto _ : state) {
         const auto begin = Clock::now();
         const auto painted = firstPaintOfProgram(program);
@@ -68,22 +79,44 @@ void timeStart(benchmark::State& state, const char* program) {
             state.SkipWithError("the program did not paint its window");
             break;
         }
-        state.SetIterationTime(std::chrono::duration<double>(*painted - begin).count());
+        state.SetIterationTime(measure(begin, *painted));
     }
 }
 
+double timeToPaint(Clock::time_point begin, const FirstPaint& painted) {
+    return std::chrono::duration<double>(painted.time - begin).count();
+}
+
+// A benchmark's figure is a time: a microsecond stands for a KiB.
+double peakMemory(Clock::time_point /*begin*/, const FirstPaint& painted) {
+    return painted.peakMemoryInKiB * 1e-6;
+}
+
 void startApplication(benchmark::State& state) {
-    timeStart(state, "kxconfig");
+    measureStarts(state, "kxconfig", timeToPaint);
 }
 BENCHMARK(startApplication)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
 void startEmptyWindow(benchmark::State& state) {
-    timeStart(state, "kxemptywindow");
+    measureStarts(state, "kxemptywindow", timeToPaint);
 }
 BENCHMARK(startEmptyWindow)->UseManualTime()->Iterations(5)->Unit(benchmark::kMillisecond);
 
-const Comparison comparison("start to first paint, beside an empty window with the same controls",
-                            "startApplication", "startEmptyWindow");
+void peakMemoryOfApplication(benchmark::State& state) {
+    measureStarts(state, "kxconfig", peakMemory);
+}
+BENCHMARK(peakMemoryOfApplication)->UseManualTime()->Iterations(1);
+
+void peakMemoryOfEmptyWindow(benchmark::State& state) {
+    measureStarts(state, "kxemptywindow", peakMemory);
+}
+BENCHMARK(peakMemoryOfEmptyWindow)->UseManualTime()->Iterations(1);
+
+const Comparison
+    timeComparison("start to first paint, beside an empty window with the same controls",
+                   "startApplication", "startEmptyWindow");
+const Comparison memoryComparison("peak memory at the first paint, beside the same empty window",
+                                  "peakMemoryOfApplication", "peakMemoryOfEmptyWindow");
 
 } // namespace
 

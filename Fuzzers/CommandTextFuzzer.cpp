@@ -1,6 +1,8 @@
 // What a person can type into the edit row and the option command field.
 
 #include "CommandProtocol.h"
+#include "EditNotes.h"
+#include "EditReport.h"
 #include "FuzzInput.h"
 #include "support/TextEncoding.h"
 
@@ -20,6 +22,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const UnitParameter parameter : allUnitParameters) {
         const auto command = editCommand(parameter, typed);
         promise(!command || command->starts_with(commandPrefix), "a command begins with ^^Id");
+
+        const CommandTarget unit{true, "192.168.1.10", "00:1A:2B:3C:4D:5E"};
+        const std::string note = noteOfEdit(parameter, typed, unit);
+        promise(!note.empty() && note.size() < 1000, "a note is a few sentences");
+        promise(note.find_first_of("\r\n") == std::string::npos, "a note has no line breaks");
+        const EditReport report({parameter, std::string(typed), std::nullopt, std::nullopt});
+        promise(report.text().find_first_of("\r\n") == std::string::npos,
+                "a report has no line breaks");
     }
     promise(macAddressArgument(typed).find(':') == std::string::npos, "no colon is left");
     promise(serialNumberArgument(typed).find(' ') == std::string::npos, "no blank is left");

@@ -16,6 +16,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     promise(decoded.has_value() == isValidUTF8(bytes), "bytes have a text when they are valid");
     promise(!decoded || *decoded == text, "decoding changes no byte");
 
+    const std::size_t whole = lengthOfWholeCharacters(bytes);
+    promise(whole <= size && size - whole <= 3, "only the front of one character is held back");
+    promise(!decoded || whole == size, "a text has no such front");
+
     const auto ascii = asciiBytes(text);
     promise(!ascii || decoded, "ASCII is UTF-8");
     promise(!ascii || lengthInCharacters(text) == size, "an ASCII byte is one character");

@@ -85,10 +85,14 @@ std::string ipAddressArgument(std::string_view typed) {
     return hexNumber(static_cast<std::int32_t>(ipForString(typed)), 8);
 }
 
-std::string destinationPortArgument(std::string_view typed) {
+std::uint16_t destinationPortForText(std::string_view typed) {
     const std::int32_t port = integerValue(typed);
     const bool isAllowed = port >= defaultUnitPort && port <= lastDestinationPort;
-    return hexNumber(isAllowed ? port : defaultUnitPort, 4);
+    return isAllowed ? static_cast<std::uint16_t>(port) : defaultUnitPort;
+}
+
+std::string destinationPortArgument(std::string_view typed) {
+    return hexNumber(destinationPortForText(typed), 4);
 }
 
 std::string devicePortArgument(std::string_view typed) {

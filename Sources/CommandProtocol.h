@@ -47,7 +47,10 @@ std::string macAddressArgument(std::string_view typed);
 // Eight hexadecimal digits, first octet first; "00000000" for what does not parse.
 std::string ipAddressArgument(std::string_view typed);
 
-// "0DC0" to "0DC3"; every port outside 3520 to 3523 counts as 3520.
+// The port that the text names when that lies in 3520 to 3523, otherwise 3520.
+std::uint16_t destinationPortForText(std::string_view typed);
+
+// The same as four hexadecimal digits, "0DC0" to "0DC3".
 std::string destinationPortArgument(std::string_view typed);
 
 // At least four hexadecimal digits, with no check of the range, unlike the destination port: more

@@ -32,6 +32,9 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _devicesD.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
+    _auth.reset();
+    _textBeingTyped.reset();
+    _editReport.reset();
     discoverButton();
     optionCommandPopUp();
 }
@@ -43,6 +46,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     _devicesD.clear();
     _selectedUnit.reset();
     _editTableEntry.reset();
+    _auth.reset();
 }
 
 void KXConfigAppDelegate::windowWillClose() {
@@ -123,8 +127,14 @@ void KXConfigAppDelegate::udpPortSelect() {
 }
 
 void KXConfigAppDelegate::myHelp() {
-    if (_services.openHelpAnchor) {
-        _services.openHelpAnchor("index");
+    if (!_services.openHelpAnchor) {
+        return;
+    }
+    if (_services.openHelpAnchor("index")) {
+        refreshEditNote();
+    } else {
+        showNote(localizedText("Help could not be opened in a web browser. To read it here, hold "
+                               "the Alt key while you press Help."));
     }
 }
 
@@ -186,8 +196,13 @@ void KXConfigAppDelegate::echoDidFailToSendDataToAddressError(UDPEcho& /*echo*/,
                                                               const Bytes& /*data*/,
                                                               const Bytes& /*address*/,
                                                               const Error& error) {
+    sendDidFail(error.localizedDescription());
+}
+
+void KXConfigAppDelegate::sendDidFail(const std::string& reason) {
     appendMessage("\nUDP failed to send data.");
-    appendMessage("\n  %@", {error.localizedDescription()});
+    appendMessage("\n  %@", {reason});
+    _sendFailure = reason;
 }
 
 void KXConfigAppDelegate::echoDidStopWithError(UDPEcho& /*echo*/, const Error& error) {

@@ -11,11 +11,15 @@
 
 #pragma once
 
+#include "EditNotes.h"
+#include "EditReport.h"
 #include "KXParameterEntry.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
 #include "UDPEcho.h"
 #include "UnitParameters.h"
+#include "support/Authorization.h"
+#include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
@@ -35,7 +39,9 @@
 
 namespace kx {
 
-class KXConfigAppDelegate final : public UDPEchoDelegate, public TableViewDataSource {
+class KXConfigAppDelegate final : public UDPEchoDelegate,
+                                  public TableViewDataSource,
+                                  public WindowDelegate {
 public:
     struct Services {
         RunLoop& runLoop;
@@ -47,6 +53,8 @@ public:
 
         // Opens the help at an anchor; false when there is no such page. Empty: there is no help.
         std::function<bool(std::string_view anchor)> openHelpAnchor = {};
+
+        AuthorizationService* authorizationService = nullptr; // null: nobody gives rights
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.
@@ -78,14 +86,44 @@ public:
     void discoverButton();            // restarts the listener and broadcasts a parameter request
     void unitSelectPopUp();           // shows the chosen unit
     void reloadUnitParameterButton(); // asks the selected unit, or every unit, for its parameters
+    void applyEditParameterButton();  // ends any edit in progress and sends the edit row's value
     void optionCommandPopUp();        // prepares the text of an option command
-    bool sendOptionButton();          // sends it; the result is that of sendCommand()
+    void sendOptionButton();          // sends it
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
     void logDrawerButton();           // opens or closes the event log drawer
     void myHelp();                    // opens the help at its index
 
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
+
+    // The text in the edit row's open editor is this now. The quiet line says what Apply would send
+    // for it; nothing is stored. Whoever closes an editor without storing tells the old text again.
+    void editTextDidChange(std::string_view text);
+
+    // --- Edits of the selected unit's parameters (KXConfigAppDelegate_Editing.cpp) ---
+    //
+    // Each sends the value of the edit row as the parameter of its name, converted as
+    // CommandProtocol.h says. An empty value sends nothing and logs nothing.
+
+    void edit_internalMAC();
+    void edit_destIP();
+    void edit_destPort();
+    void edit_devicePort();
+    void edit_unitID();
+    void edit_destMAC();
+    void edit_serial();
+
+    // Also writes a static ARP entry for the new address, and sends to that address, whatever
+    // became of the entry: the unit does not hold it yet. The unit's record loses its address, so
+    // further commands are not sent until the unit has told its parameters.
+    void edit_internalIP();
+
+    // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
+    // hardware address text, up to the first that is absent. The result is that of
+    // Authorization::runToolWithArgs(), and -1, with an alert, when rights were not given. Blocks
+    // while a person is asked.
+    std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
+                               const std::optional<std::string>& ip);
 
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
     // A column of any other identifier reads as the empty text and takes nothing.
@@ -146,10 +184,12 @@ private:
 
     const UnitRecord* selectedRecord() const;
     std::optional<std::string_view> selectedValue(UnitParameter parameter) const;
+    std::optional<std::string> selectedText(UnitParameter parameter) const;
     std::uint32_t unitRequestAddress() const;
     std::uint16_t unitRequestPort() const;
     void sendRequest(std::string_view command, std::uint32_t target, std::uint16_t port);
     void sendThroughListener(const Bytes& data, const Bytes& address);
+    void sendDidFail(const std::string& reason);
 
     void didReceiveDataFromAddress(ByteView data, const Bytes& address);
     std::string unitParameters(ByteView list);
@@ -158,6 +198,23 @@ private:
     void setSelectedUnit(const std::optional<std::string>& key);
 
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
+    std::optional<UnitParameter> editedParameter() const;
+    std::string editedValue() const;
+    void sendEdit(UnitParameter parameter);
+    bool authenticateForARP();
+
+    CommandTarget commandTarget() const;
+    EditReport reportOfEdit(UnitParameter parameter) const;
+    void beginReport(EditReport report);
+    void showReport();
+    void showEditNote();
+    void refreshEditNote();
+    void showRefusal(std::optional<CommandRefusal> refusal);
+    void showNote(std::string_view note);
+    void arpToolDidEnd(const std::string& address, int status);
+    void unitDidAccept(const std::optional<std::string>& serial);
+    void unitDidReply(const std::string& serial, const UnitRecord& record);
+
     void performAfterDelay(std::chrono::milliseconds delay,
                            void (KXConfigAppDelegate::*operation)());
 
@@ -173,6 +230,10 @@ private:
     Registry _devicesD;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
+    std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
+    std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
+    std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
+    std::optional<std::string> _sendFailure; // why the latest datagram was not sent
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

@@ -16,6 +16,7 @@ void KXConfigAppDelegate::discoverButton() {
     appendMessage("[Begin Discover]");
     _outlets.unitSelectPopUp->removeAllItems();
     restartListener(static_cast<std::size_t>(port));
+    refreshEditNote();
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
 }
 
@@ -40,6 +41,9 @@ void KXConfigAppDelegate::unitSelectPopUp() {
 
 void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
     _selectedUnit = key;
+    if (key.has_value() && _editReport.has_value() && key != _editReport->unit()) {
+        _editReport.reset(); // it is about another unit than the one that is shown
+    }
     _outlets.unitIDField->setStringValue(selectedValue(UnitParameter::unitID).value_or(""));
     _outlets.unitParameterTable->removeAllObjects();
     for (const UnitParameter parameter : allUnitParameters) {
@@ -52,10 +56,12 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
         }
     }
     _outlets.unitParameterTableView->reloadData();
+    refreshEditNote();
 }
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
     sendRequest(parameterRequestCommand, unitRequestAddress(), unitRequestPort());
+    refreshEditNote();
 }
 
 void KXConfigAppDelegate::tableViewSelectionDidChange() {
@@ -69,7 +75,9 @@ void KXConfigAppDelegate::tableViewSelectionDidChange() {
         _editTableEntry->setValueForKey(entry != nullptr ? entry->valueForKey(key) : std::nullopt,
                                         key);
     }
+    _textBeingTyped.reset();
     _outlets.editParameterTableView->reloadData();
+    showEditNote();
 }
 
 } // namespace kx

@@ -13,7 +13,7 @@ void KXConfigAppDelegate::appendString(std::string_view text) {
 
 void KXConfigAppDelegate::appendMessage(std::string_view key,
                                         std::initializer_list<FormatArgument> arguments) {
-    appendString(filledText(localizedText(key), arguments));
+    appendString(localizedText(key, arguments));
 }
 
 void KXConfigAppDelegate::logDrawerButton() {

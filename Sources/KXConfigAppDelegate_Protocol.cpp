@@ -25,9 +25,7 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
 }
 
 bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command) {
-    const auto address = selectedValue(UnitParameter::internalIPAddress);
-    return sendCommandToAddress(command, address.has_value() ? std::optional<std::string>(*address)
-                                                             : std::nullopt);
+    return sendCommandToAddress(command, selectedText(UnitParameter::internalIPAddress));
 }
 
 const UnitRecord* KXConfigAppDelegate::selectedRecord() const {
@@ -38,6 +36,11 @@ const UnitRecord* KXConfigAppDelegate::selectedRecord() const {
 std::optional<std::string_view> KXConfigAppDelegate::selectedValue(UnitParameter parameter) const {
     const UnitRecord* const record = selectedRecord();
     return record != nullptr ? record->value(parameter) : std::nullopt;
+}
+
+std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter parameter) const {
+    const auto value = selectedValue(parameter);
+    return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
 }
 
 std::uint32_t KXConfigAppDelegate::unitRequestAddress() const {
@@ -58,12 +61,12 @@ void KXConfigAppDelegate::sendRequest(std::string_view command, std::uint32_t ta
 // A listener that failed to start stays where it is until the next restart. Sending through it is
 // what a person asked for, not a broken contract, so it fails like any other send.
 void KXConfigAppDelegate::sendThroughListener(const Bytes& data, const Bytes& address) {
+    _sendFailure.reset();
     if (_udpListener == nullptr) {
         return;
     }
     if (_udpListener->port() == 0) {
-        appendMessage("\nUDP failed to send data.");
-        appendMessage("\n  %@", {localizedText("The UDP listener is not running.")});
+        sendDidFail(localizedText("The UDP listener is not running."));
         return;
     }
     _udpListener->_sendDataToAddress(data, address);
@@ -106,6 +109,7 @@ void KXConfigAppDelegate::didReceiveDataFromAddress(ByteView data, const Bytes& 
         break;
     case PayloadKind::acknowledgement:
         reloadUnitParameterButton();
+        unitDidAccept(reply.serialNumber);
         break;
     case PayloadKind::other:
         cidString = textFromUTF8(reply.payload);
@@ -128,6 +132,7 @@ std::string KXConfigAppDelegate::unitParameters(ByteView list) {
         if (serial == _selectedUnit) {
             unitSelectPopUp();
         }
+        unitDidReply(std::string(*serial), decoded.record);
     }
     return std::move(decoded.displayText);
 }

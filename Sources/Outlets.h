@@ -1,10 +1,12 @@
 // The controls that the controller talks to, each as the few operations that it needs.
 //
 // Main thread only. The controller never owns a control. No operation calls back into the
-// controller from inside itself, with two exceptions: Window::makeFirstResponder() and endEditing()
-// may hand a half-typed value to the table's data source, and TableView::reloadData() may ask that
-// data source for its values. In particular, selecting an item or setting a text from code runs no
-// action, nor does a reload that drops the selection.
+// controller from inside itself, with three exceptions: Window::makeFirstResponder() and
+// endEditing() may hand a half-typed value to the table's data source, and TableView::reloadData()
+// may ask that data source for its values. While Alert::runModal() waits, the run loop goes on:
+// whatever comes from the network or is due reaches the controller, but nothing that a person does.
+// In particular, selecting an item or setting a text from code runs no action, nor does a reload
+// that drops the selection.
 
 #pragma once
 
@@ -47,6 +49,14 @@ public:
 
     virtual void setStringValue(std::string_view text) = 0;
     virtual std::string stringValue() const = 0;
+};
+
+// A text that nobody types into. It is shown as it stands, whatever characters it holds.
+class TextLabel {
+public:
+    virtual ~TextLabel() = default;
+
+    virtual void setStringValue(std::string_view text) = 0;
 };
 
 // A table view; its values come from its TableViewDataSource, which whoever makes the view
@@ -100,6 +110,16 @@ public:
     virtual void endEditing() = 0;
 };
 
+class Alert {
+public:
+    virtual ~Alert() = default;
+
+    // Shows a message above the window, which takes nothing else meanwhile, and returns once the
+    // person has dismissed it by its one button.
+    virtual void runModal(std::string_view title, std::string_view message,
+                          std::string_view button) = 0;
+};
+
 class Application {
 public:
     virtual ~Application() = default;
@@ -119,10 +139,12 @@ struct MainWindowOutlets {
     TableView* unitParameterTableView = nullptr;
     GXArrayTable* unitParameterTable = nullptr;  // the data source of unitParameterTableView
     TableView* editParameterTableView = nullptr; // its data source is the controller
+    TextLabel* quietLine = nullptr;              // what Apply will send, what became of it
     PopUpButton* optionCommandPopUp = nullptr;
     TextField* optionCommandField = nullptr;
     Drawer* eventLogDrawer = nullptr;
     TextView* logTextView = nullptr;
+    Alert* alert = nullptr;
 };
 
 } // namespace kx

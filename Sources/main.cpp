@@ -3,13 +3,17 @@
 #include "KXConfigAppDelegate.h"
 #include "System Configuration/SystemConfiguration.h"
 #include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
+#include "platform/qt/InstalledResources.h"
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
+#include "platform/qt/QtHelpServices.h"
 #include "platform/qt/QtLocalizedText.h"
 #include "platform/qt/QtRunLoop.h"
 
@@ -18,6 +22,8 @@
 int main(int argc, char* argv[]) {
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
+    // The name of the desktop entry: by it a desktop gives the window its icon.
+    QApplication::setDesktopFileName("org.kxconfig.KXConfig");
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);
@@ -29,11 +35,15 @@ int main(int argc, char* argv[]) {
     kx::DatagramSystemCalls systemCalls;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
+    kx::QtHelpServices helpServices(kx::installedResourceFolder());
 
     kx::KernelLinks kernelLinks(runLoop);
     kx::LinuxKernelQuery kernelQuery(kernelLinks);
-    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, nullptr);
+    kx::NetworkManagerProfiles connectionProfiles;
+    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
+
+    const auto authorizationService = kx::makeAuthorizationService(runLoop);
 
     kx::MainWindow window;
     kx::KXConfigAppDelegate controller(
@@ -42,7 +52,12 @@ int main(int argc, char* argv[]) {
                            .systemCalls = systemCalls,
                            .wallClock = wallClock,
                            .application = application,
-                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance()});
+                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+                           .openHelpAnchor =
+                               [&helpServices](std::string_view anchor) {
+                                   return kx::openHelpAnchor(anchor, helpServices);
+                               },
+                           .authorizationService = authorizationService.get()});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

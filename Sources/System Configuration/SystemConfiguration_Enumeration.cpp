@@ -11,6 +11,7 @@
 #include "support/TextFormat.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace kx {
@@ -115,15 +116,16 @@ std::vector<SystemConfiguration::ListedInterface> SystemConfiguration::_listedSe
 
 void SystemConfiguration::_appendKernelInterfaces(std::vector<ListedInterface>& interfaces,
                                                   KernelInterfaces which) {
+    std::set<std::string> listedNames; // there may be a thousand
+    for (const auto& interface : interfaces) {
+        listedNames.insert(interface.name);
+    }
     const auto list = getParameter(interfaceListName).value_or(Bytes());
     for (const ByteView message : routingMessages(list)) {
         const auto found = interfaceMessage(message).value_or(InterfaceMessage());
         const std::string name = found.name.value_or("");
         const bool isWanted = !name.empty() && (which == KernelInterfaces::all || found.isUp);
-        const bool isListed =
-            std::any_of(interfaces.begin(), interfaces.end(),
-                        [&name](const auto& listed) { return listed.name == name; });
-        if (isWanted && !isListed) {
+        if (isWanted && listedNames.insert(name).second) {
             interfaces.push_back(
                 {filledText("=%@", {name}), name, _userNameForKernelInterface(name)});
         }

@@ -18,4 +18,8 @@ std::string localizedText(std::string_view key) {
     return installedSource != nullptr ? installedSource->textForKey(key) : std::string(key);
 }
 
+std::string localizedText(std::string_view key, std::initializer_list<FormatArgument> arguments) {
+    return filledText(localizedText(key), arguments);
+}
+
 } // namespace kx

@@ -5,6 +5,9 @@
 
 #pragma once
 
+#include "support/TextFormat.h"
+
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -25,5 +28,8 @@ const LocalizedText* installLocalizedText(const LocalizedText* source);
 
 // The text for an English key from the installed source.
 std::string localizedText(std::string_view key);
+
+// The same with its placeholders filled.
+std::string localizedText(std::string_view key, std::initializer_list<FormatArgument> arguments);
 
 } // namespace kx

@@ -1,8 +1,9 @@
-// The event loop as its users need it: watch a descriptor, call once after a delay.
+// The event loop as its users need it: watch a descriptor, call once after a delay, and wait for
+// something while both go on.
 //
 // Threading: an object of this kind belongs to one thread; every operation and every callback runs
-// there. Callbacks may ask for new watches and calls; nothing is called from inside
-// watchForReading() or callOnceAfter() themselves.
+// there. Callbacks may ask for new watches and calls, and may run the loop in turn; nothing is
+// called from inside watchForReading() or callOnceAfter() themselves.
 //
 // Ownership: each operation returns a handle. Destroying the handle ends the watch or cancels the
 // call, at once and for good: after that, the callback is not called, even when it was already due.
@@ -48,6 +49,13 @@ public:
     // delay of zero or less falls due in the next turn; one of more than longestDelay counts as
     // that. After the call the handle holds nothing; it may be kept or destroyed.
     virtual Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) = 0;
+
+    // Runs the loop until `isDone` says so. It is asked at first, and again when something was
+    // called; while there is nothing to call the loop rests, so what is waited for has to come from
+    // a watch or a delayed call. Inside a callback this begins a run within the run: a watch whose
+    // callback is running may be called again meanwhile. What a person does on the screen waits
+    // until it is over.
+    virtual void runUntil(const std::function<bool()>& isDone) = 0;
 };
 
 } // namespace kx

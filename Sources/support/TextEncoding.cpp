@@ -1,6 +1,7 @@
 #include "support/TextEncoding.h"
 
 #include <algorithm>
+#include <array>
 #include <limits>
 
 namespace kx {
@@ -11,14 +12,22 @@ bool isContinuation(std::uint8_t byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
+// The length of the sequences that `first` begins; 1 when it begins none that is well-formed.
+std::size_t lengthAnnouncedBy(std::uint8_t first) {
+    if (first < 0xC2U || first > 0xF4U) {
+        return 1;
+    }
+    return first < 0xE0U ? 2 : first < 0xF0U ? 3 : 4;
+}
+
 // The length of the well-formed sequence at the front of `bytes` (RFC 3629, section 4), or 0.
 std::size_t sequenceLength(ByteView bytes) {
     const std::uint8_t first = bytes[0];
     if (first < 0x80U) {
         return 1;
     }
-    const std::size_t length = first < 0xE0U ? 2 : first < 0xF0U ? 3 : 4;
-    if (first < 0xC2U || first > 0xF4U || bytes.size() < length) {
+    const std::size_t length = lengthAnnouncedBy(first);
+    if (length == 1 || bytes.size() < length) {
         return 0;
     }
     const std::uint8_t second = bytes[1];
@@ -53,6 +62,17 @@ std::optional<std::string> textFromUTF8(ByteView bytes) {
     return std::string(bytes.begin(), bytes.end());
 }
 
+std::size_t lengthOfWholeCharacters(ByteView bytes) {
+    constexpr std::size_t longestFront = 3;
+    for (std::size_t back = 1; back <= std::min(longestFront, bytes.size()); ++back) {
+        const std::uint8_t byte = bytes[bytes.size() - back];
+        if (!isContinuation(byte)) {
+            return back < lengthAnnouncedBy(byte) ? bytes.size() - back : bytes.size();
+        }
+    }
+    return bytes.size();
+}
+
 ByteView bytesOfText(std::string_view text) {
     return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
 }
@@ -74,6 +94,29 @@ std::size_t lengthInCharacters(std::string_view text) {
         bytes = bytes.subspan(length);
     }
     return units;
+}
+
+std::u32string charactersOfText(std::string_view text) {
+    constexpr char32_t beyondUnicode = 0x110000;
+    constexpr std::array<std::uint8_t, 5> valueBitsOfFirstByte{0, 0x7F, 0x1F, 0x0F, 0x07};
+    std::u32string characters;
+    characters.reserve(text.size());
+    ByteView bytes = bytesOfText(text);
+    while (!bytes.empty()) {
+        const std::size_t length = sequenceLength(bytes);
+        if (length == 0) {
+            characters.push_back(beyondUnicode + bytes[0]);
+            bytes = bytes.subspan(1);
+            continue;
+        }
+        char32_t character = bytes[0] & valueBitsOfFirstByte[length];
+        for (const std::uint8_t byte : bytes.subspan(1, length - 1)) {
+            character = character << 6U | (byte & 0x3FU);
+        }
+        characters.push_back(character);
+        bytes = bytes.subspan(length);
+    }
+    return characters;
 }
 
 std::int32_t integerValue(std::string_view text) {

@@ -20,6 +20,10 @@ bool isValidUTF8(ByteView bytes);
 // The text that the bytes encode, or absent when they are not well-formed UTF-8.
 std::optional<std::string> textFromUTF8(ByteView bytes);
 
+// How many bytes of `bytes` there are without the front of a UTF-8 sequence at their end that the
+// next bytes may complete. What is before that may still be ill-formed.
+std::size_t lengthOfWholeCharacters(ByteView bytes);
+
 // The bytes of a text as it stands, without terminator.
 ByteView bytesOfText(std::string_view text);
 
@@ -30,6 +34,10 @@ std::optional<Bytes> asciiBytes(std::string_view text);
 // The length of a text in UTF-16 units, the measure of every "length in characters" of this system.
 // A byte that is not part of a well-formed sequence counts as one unit.
 std::size_t lengthInCharacters(std::string_view text);
+
+// The characters of a text. A byte that is not part of a well-formed sequence counts as a character
+// of its own beyond the last of Unicode: 0x110000 and the byte.
+std::u32string charactersOfText(std::string_view text);
 
 // The leading decimal integer of a text: leading white space is skipped, one sign counts, digits
 // are read as far as they go. No digits give 0; a value outside 32 bits saturates at the nearest

@@ -24,6 +24,22 @@ EntryArray entriesOfDictionaries(const DictionaryArray& dictionaries, const Entr
 EntryArray entriesOfDictionaries(const DictionaryOfDictionaries& dictionaries,
                                  const EntryClass& entryClass);
 
+// Fills a table anew, in place of what it holds, with the entries that the class makes of the
+// dictionaries, each under its own key. Without dictionaries the table ends up empty, and the
+// result is false.
+template<class Table>
+bool loadTable(Table& table, const std::optional<DictionaryOfDictionaries>& dictionaries,
+               const EntryClass& entryClass) {
+    table.removeAllObjects();
+    if (!dictionaries) {
+        return false;
+    }
+    for (auto& entry : entriesOfDictionaries(*dictionaries, entryClass)) {
+        table.setObjectForKey(entry, entry->key());
+    }
+    return true;
+}
+
 // The fields of an entry that is not a hole, as a value.
 PropertyListValue codedEntry(const GXStateEntry& entry);
 

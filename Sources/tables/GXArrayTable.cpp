@@ -235,14 +235,7 @@ DictionaryOfDictionaries GXArrayTable::dictionaryOfDictionaries() const {
 
 bool GXArrayTable::loadDictionaryOfDictionariesForEntryClass(
     const std::optional<DictionaryOfDictionaries>& dictionaries, const EntryClass& entryClass) {
-    removeAllObjects();
-    if (!dictionaries) {
-        return false;
-    }
-    for (auto& entry : entriesOfDictionaries(*dictionaries, entryClass)) {
-        setObjectForKey(entry, entry->key());
-    }
-    return true;
+    return loadTable(*this, dictionaries, entryClass);
 }
 
 bool GXArrayTable::encodeWithCoder(PropertyListEncoder& coder) const {

@@ -88,14 +88,7 @@ DictionaryOfDictionaries GXDictionaryTable::dictionaryOfDictionaries() const {
 
 bool GXDictionaryTable::loadDictionaryOfDictionariesForEntryClass(
     const std::optional<DictionaryOfDictionaries>& dictionaries, const EntryClass& entryClass) {
-    removeAllObjects();
-    if (!dictionaries) {
-        return false;
-    }
-    for (auto& entry : entriesOfDictionaries(*dictionaries, entryClass)) {
-        setObjectForKey(entry, entry->key());
-    }
-    return true;
+    return loadTable(*this, dictionaries, entryClass);
 }
 
 bool GXDictionaryTable::encodeWithCoder(PropertyListEncoder& coder) const {

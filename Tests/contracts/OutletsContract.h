@@ -9,6 +9,7 @@
 //                void chooseItem(const std::string& title), as a person does; setAction()
 //   text field   TextField& control();
 //                void type(const std::string& text), as a person does; setAction()
+//   text label   TextLabel& control(); std::string shownText()
 //   text view    TextView& control(); std::string text(); bool isEndVisible(), waiting
 //                for the view to show what it holds
 //   drawer       Drawer& control(), closed at first; void finishMoving()
@@ -217,6 +218,33 @@ TYPED_TEST_P(TextFieldContract, SettingTheTextRunsNoAction) {
 REGISTER_TYPED_TEST_SUITE_P(TextFieldContract, TypingRunsTheActionAndGivesTheText,
                             SettingTheTextRunsNoAction, IsEmptyAtFirst, GivesBackTheTextThatWasSet,
                             EmptyTextReplacesWhatWasThere);
+
+// --- Text label ---
+
+template<class Trait>
+class TextLabelContract : public ::testing::Test {
+protected:
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(TextLabelContract);
+
+TYPED_TEST_P(TextLabelContract, ShowsTheTextThatWasSet) {
+    EXPECT_EQ(this->trait.shownText(), "");
+    this->trait.control().setStringValue("Apply sends nothing: no unit is selected.");
+    EXPECT_EQ(this->trait.shownText(), "Apply sends nothing: no unit is selected.");
+    this->trait.control().setStringValue("“Grün” & 網路");
+    EXPECT_EQ(this->trait.shownText(), "“Grün” & 網路");
+    this->trait.control().setStringValue("");
+    EXPECT_EQ(this->trait.shownText(), "");
+}
+
+TYPED_TEST_P(TextLabelContract, WhatLooksLikeMarkupIsText) {
+    this->trait.control().setStringValue("<b>&amp;</b>");
+    EXPECT_EQ(this->trait.shownText(), "<b>&amp;</b>");
+}
+
+REGISTER_TYPED_TEST_SUITE_P(TextLabelContract, ShowsTheTextThatWasSet, WhatLooksLikeMarkupIsText);
 
 // --- Text view ---
 

@@ -1,5 +1,5 @@
-// What the window and the application behind it must do (Outlets.h), as tests that are compiled
-// against each adapter.
+// What the window, its alert and the application behind it must do (Outlets.h), as tests that are
+// compiled against each adapter.
 //
 // An adapter takes part by a trait, a default-constructible class:
 //
@@ -9,6 +9,9 @@
 //                 no edit ever refuses this does nothing.
 //                 bool isEditing(); std::vector<std::string> stored(), by edits that ended, in
 //                 order
+//   alert         Alert& control()
+//                 Texts runAlert(title, message, button), shows it, dismisses it as a person does
+//                 by its button, and gives what a person saw: title, message, text of every button
 //   application   Application& control();
 //                 bool runEvent(const std::function<void()>& event), true when the loop that
 //                 handles this event ended with it
@@ -89,6 +92,35 @@ REGISTER_TYPED_TEST_SUITE_P(WindowContract, WithoutAnEditThereIsNothingToEnd,
                             TakingTheFocusEndsTheEditAndStoresWhatWasTyped,
                             EndEditingEndsTheEditAndStoresWhatWasTyped, WhatWasTypedIsStoredOnce,
                             RefusedFocusChangesNothingAndForceEndsTheEdit);
+
+// --- Alert ---
+
+template<class Trait>
+class AlertContract : public ::testing::Test {
+protected:
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(AlertContract);
+
+TYPED_TEST_P(AlertContract, ShowsItsTextsUntilItsOneButtonIsPressed) {
+    EXPECT_EQ(this->trait.runAlert("KXConfig", "Some features may not be available.", "OK"),
+              (Texts{"KXConfig", "Some features may not be available.", "OK"}));
+}
+
+TYPED_TEST_P(AlertContract, CanBeShownAgain) {
+    this->trait.runAlert("KXConfig", "first", "OK");
+    EXPECT_EQ(this->trait.runAlert("KXConfig", "second", "Weiter"),
+              (Texts{"KXConfig", "second", "Weiter"}));
+}
+
+TYPED_TEST_P(AlertContract, WhatLooksLikeMarkupIsText) {
+    EXPECT_EQ(this->trait.runAlert("KXConfig", "<b>Über</b>", "OK"),
+              (Texts{"KXConfig", "<b>Über</b>", "OK"}));
+}
+
+REGISTER_TYPED_TEST_SUITE_P(AlertContract, ShowsItsTextsUntilItsOneButtonIsPressed, CanBeShownAgain,
+                            WhatLooksLikeMarkupIsText);
 
 // --- Application ---
 

@@ -10,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -104,6 +105,8 @@ protected:
 
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
 
+    std::string quietLine() const { return window.quietLine.text(); }
+
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
     Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }
 
@@ -114,14 +117,18 @@ protected:
     FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
+    ScriptedAuthorizationService authority;
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
+    bool helpOpens = true;
     KXConfigAppDelegate controller{window.outlets(),
                                    {runLoop, hostResolver, systemCalls, wallClock, application,
-                                    &interfaces, [this](std::string_view anchor) {
+                                    &interfaces,
+                                    [this](std::string_view anchor) {
                                         helpAnchors.emplace_back(anchor);
-                                        return true;
-                                    }}};
+                                        return helpOpens;
+                                    },
+                                    &authority}};
 
 private:
     static std::string destination(const Bytes& record) {

@@ -239,6 +239,18 @@ TEST_F(ControllerLifecycle, ClosingTheWindowEndsTheApplication) {
 TEST_F(ControllerLifecycle, HelpOpensAtItsIndex) {
     controller.myHelp();
     EXPECT_EQ(helpAnchors, Lines{"index"});
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerLifecycle, HelpThatDoesNotOpenSaysHowToReadIt) {
+    launch();
+    helpOpens = false;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, hold the "
+                           "Alt key while you press Help.");
+    helpOpens = true;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "");
 }
 
 TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {

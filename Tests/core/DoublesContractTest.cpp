@@ -1,15 +1,19 @@
 // The test doubles keep the contracts of what they stand for.
 
+#include "contracts/AuthorizationServiceContract.h"
 #include "contracts/BrokenContract.h"
 #include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/LocalizedTextContract.h"
+#include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopWatchesContract.h"
 #include "contracts/SystemLogContract.h"
 #include "contracts/WallClockContract.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedLocalizedText.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -42,6 +46,26 @@ public:
 private:
     ManualRunLoop _loop;
     int _nextDescriptor = 1000;
+};
+
+class ScriptedAuthorizationTrait {
+public:
+    AuthorizationService& service() { return _service; }
+    std::string tool() { return "/bin/tool"; }
+    std::vector<std::string> arguments() { return {"-x"}; }
+    int status() { return 3; }
+    std::string absentTool() {
+        _service.startToolsWith(errAuthorizationToolExecuteFailure);
+        return "/no/such/tool";
+    }
+    bool runUntil(const std::function<bool()>& condition) {
+        runAWhile();
+        return condition();
+    }
+    void runAWhile() { _service.endTools(status()); }
+
+private:
+    ScriptedAuthorizationService _service;
 };
 
 class ScriptedHostResolverTrait {
@@ -109,7 +133,10 @@ private:
     ScriptedLocalizedText _source;
 };
 
+INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, AuthorizationServiceContract, ScriptedAuthorizationTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopContract, ManualRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopCallsContract, ManualRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopWatchesContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);

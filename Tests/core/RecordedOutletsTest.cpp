@@ -26,6 +26,13 @@ struct RecordedTextFieldTrait {
     RecordedTextField field;
 };
 
+struct RecordedTextLabelTrait {
+    TextLabel& control() { return label; }
+    std::string shownText() const { return label.text(); }
+
+    RecordedTextLabel label;
+};
+
 struct RecordedTableViewTrait {
     explicit RecordedTableViewTrait(TableViewDataSource& source)
         : view(&source) {}
@@ -78,6 +85,18 @@ struct RecordedWindowTrait {
     Texts texts;
 };
 
+struct RecordedAlertTrait {
+    Alert& control() { return alert; }
+    Texts runAlert(const std::string& title, const std::string& message,
+                   const std::string& button) {
+        control().runModal(title, message, button);
+        const RecordedAlert::Shown& shown = alert.shown().back();
+        return {shown.title, shown.message, shown.button};
+    }
+
+    RecordedAlert alert;
+};
+
 struct RecordedApplicationTrait {
     Application& control() { return application; }
     bool runEvent(const std::function<void()>& event) {
@@ -91,10 +110,12 @@ struct RecordedApplicationTrait {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextFieldContract, RecordedTextFieldTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextLabelContract, RecordedTextLabelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TableViewContract, RecordedTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextViewContract, RecordedTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, DrawerContract, RecordedDrawerTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, WindowContract, RecordedWindowTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, AlertContract, RecordedAlertTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, ApplicationContract, RecordedApplicationTrait);
 
 TEST(RecordedWindow, FocusIsRefusedByAnEditThatRefusesToEnd) {

@@ -16,6 +16,7 @@
 #include <map>
 #include <memory>
 #include <set>
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -39,6 +40,22 @@ public:
         const CallKey key{_now + std::clamp(delay, Milliseconds(0), longestDelay), _nextOrder++};
         _calls.emplace(key, std::move(call));
         return std::make_unique<Registration>([this, key] { _calls.extract(key); });
+    }
+
+    // Time passes from one due time to the next, and a millisecond with each turn in which
+    // something can be read. Throws std::logic_error when nothing is left that could be called,
+    // since a real loop would rest for ever.
+    void runUntil(const std::function<bool()>& isDone) override {
+        while (!isDone()) {
+            if (!readyWatches().empty()) {
+                _now += Milliseconds(1);
+            } else if (!_calls.empty()) {
+                _now = std::max(_now, _calls.begin()->first.first);
+            } else {
+                throw std::logic_error("the loop waits for nothing");
+            }
+            runOneTurn();
+        }
     }
 
     // Lets time pass. The clock stops at each due time on the way, in order, for as many turns as
@@ -75,7 +92,7 @@ public:
         const auto firstLater = _nextOrder;
         for (const auto order : readyWatches()) {
             const auto watch = _watches.find(order);
-            if (watch != _watches.end()) {
+            if (watch != _watches.end() && _readable.count(watch->second.descriptor) > 0) {
                 const auto readable = watch->second.readable;
                 (*readable)();
             }

@@ -97,6 +97,16 @@ private:
     std::function<void()> _action;
 };
 
+class RecordedTextLabel final : public TextLabel {
+public:
+    void setStringValue(std::string_view text) override { _text = text; }
+
+    const std::string& text() const { return _text; }
+
+private:
+    std::string _text;
+};
+
 // Asks its data source only in reloadData(), and shows what it was told then.
 class RecordedTableView final : public TableView {
 public:
@@ -251,6 +261,35 @@ private:
     int _endEditingCount = 0;
 };
 
+// A person dismisses each alert at once, after what the test lets happen meanwhile.
+class RecordedAlert final : public Alert {
+public:
+    struct Shown {
+        std::string title;
+        std::string message;
+        std::string button;
+
+        bool operator==(const Shown&) const = default;
+    };
+
+    void runModal(std::string_view title, std::string_view message,
+                  std::string_view button) override {
+        _shown.push_back({std::string(title), std::string(message), std::string(button)});
+        if (_meanwhile) {
+            _meanwhile();
+        }
+    }
+
+    // Runs while an alert is shown.
+    void setMeanwhile(std::function<void()> meanwhile) { _meanwhile = std::move(meanwhile); }
+
+    const std::vector<Shown>& shown() const { return _shown; }
+
+private:
+    std::vector<Shown> _shown;
+    std::function<void()> _meanwhile;
+};
+
 class RecordedApplication final : public Application {
 public:
     void terminate() override { ++_terminateCount; }
@@ -271,10 +310,12 @@ struct RecordedMainWindow {
     GXArrayTable unitParameterTable;
     RecordedTableView unitParameterTableView{&unitParameterTable};
     RecordedTableView editParameterTableView{nullptr}; // to be connected to the controller
+    RecordedTextLabel quietLine;
     RecordedPopUpButton optionCommandPopUp{{"V  Version", "-Z  Set clock"}};
     RecordedTextField optionCommandField;
     RecordedDrawer eventLogDrawer;
     RecordedTextView logTextView;
+    RecordedAlert alert;
 
     MainWindowOutlets outlets() {
         MainWindowOutlets outlets;
@@ -286,10 +327,12 @@ struct RecordedMainWindow {
         outlets.unitParameterTableView = &unitParameterTableView;
         outlets.unitParameterTable = &unitParameterTable;
         outlets.editParameterTableView = &editParameterTableView;
+        outlets.quietLine = &quietLine;
         outlets.optionCommandPopUp = &optionCommandPopUp;
         outlets.optionCommandField = &optionCommandField;
         outlets.eventLogDrawer = &eventLogDrawer;
         outlets.logTextView = &logTextView;
+        outlets.alert = &alert;
         return outlets;
     }
 };

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -43,8 +44,9 @@ public:
 
     // Ends the tools that run, each with this status, as a turn of the run loop would tell it.
     void endTools(int status) {
-        const auto running = std::exchange(_running, {});
-        for (const auto& [reference, ended] : running) {
+        for (auto left = _running.size(); left > 0 && !_running.empty(); --left) {
+            const auto ended = std::move(_running.front().second);
+            _running.erase(_running.begin()); // first: it may destroy references
             if (ended) {
                 ended(status);
             }
@@ -71,14 +73,17 @@ private:
 
         std::int32_t copyRights(const AuthorizationItem& right, std::uint32_t flags) override {
             _service._requests.push_back({right, flags});
-            if (_isGranted) {
+            if (_held.contains(right.value)) {
                 return errAuthorizationSuccess;
             }
             if ((flags & kAuthorizationFlagInteractionAllowed) == 0) {
                 return errAuthorizationInteractionNotAllowed;
             }
             ++_service._dialogs;
-            _isGranted = _service._dialogAnswer == errAuthorizationSuccess;
+            const bool isKept = (flags & kAuthorizationFlagExtendRights) != 0;
+            if (isKept && _service._dialogAnswer == errAuthorizationSuccess) {
+                _held.insert(right.value);
+            }
             return _service._dialogAnswer;
         }
 
@@ -94,7 +99,7 @@ private:
 
     private:
         ScriptedAuthorizationService& _service;
-        bool _isGranted = false;
+        std::set<std::string> _held; // values of the rights
     };
 
     bool _isAbsent = false;

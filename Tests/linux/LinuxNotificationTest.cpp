@@ -1,34 +1,13 @@
 // What the shared instance announces of real links.
 
-#include "PrivateNetwork.h"
-#include "System Configuration/SystemConfiguration.h"
+#include "SharedHost.h"
 #include "platform/PollLoopDriver.h"
-#include "platform/linux/LinuxConfigurationStore.h"
-#include "platform/linux/LinuxKernelQuery.h"
 
 #include <gtest/gtest.h>
 
 namespace kx {
 
 namespace {
-
-// What the shared instance stands on: like that, it is never released.
-struct SharedHost {
-    PrivateNetwork network;
-    PollRunLoop loop;
-    KernelLinks links{loop};
-    LinuxKernelQuery kernelQuery{links};
-    LinuxConfigurationStore store{loop, links, nullptr};
-};
-
-SharedHost& sharedHost() {
-    static auto& host = *[] {
-        auto* const made = new SharedHost;
-        SystemConfiguration::installSources(made->store, made->kernelQuery);
-        return made;
-    }();
-    return host;
-}
 
 std::string described(const PropertyDictionary& userInfo) {
     return PropertyListValue(userInfo).description();
@@ -38,6 +17,7 @@ std::string described(const PropertyDictionary& userInfo) {
 
 TEST(LinuxNotification, AChangeIsPostedWithTheStateAndAnEndWithTheServiceAlone) {
     auto& host = sharedHost();
+    runLoopFor(host.loop, std::chrono::milliseconds(300)); // what other tests left to be told
     auto& configuration = SystemConfiguration::sharedInstance();
     std::vector<std::string> posted;
     configuration.addObserverWithSelector(&posted, [&posted](const Notification& notification) {
@@ -49,6 +29,7 @@ TEST(LinuxNotification, AChangeIsPostedWithTheStateAndAnEndWithTheServiceAlone) 
     host.network.ip("address flush dev kx0");
     runLoopFor(host.loop, std::chrono::milliseconds(300));
     configuration.removeObserver(&posted);
+    host.network.ip("link del kx0");
     EXPECT_EQ(posted, (std::vector<std::string>{
                           "{Addresses = (192.0.2.1); ServiceID = link-kx0; "
                           "SubnetMasks = (255.255.255.0)}",
@@ -63,7 +44,8 @@ TEST(LinuxNotification, TheNetworkIsReadyWhileAServicesLinkHasACarrier) {
     host.network.addAddress("kx1", "192.0.2.1/24");
     EXPECT_TRUE(networkIsReady());
     host.network.ip("link set p-kx1 down");
-    EXPECT_FALSE(networkIsReady());
+    EXPECT_TRUE(eventually([] { return !networkIsReady(); }));
+    host.network.ip("link del kx1");
 }
 
 } // namespace kx

@@ -6,20 +6,35 @@
 
 #pragma once
 
+#include "support/Pipe.h"
+
+#include <fcntl.h>
 #include <sched.h>
 #include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <sstream>
 #include <stdexcept>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace kx {
+
+// Waits for what the kernel tells late, such as the loss of a carrier; false when it does not come.
+inline bool eventually(const std::function<bool()>& condition) {
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (!condition() && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    return condition();
+}
 
 class PrivateNetwork {
 public:
@@ -27,7 +42,15 @@ public:
         if (::unshare(CLONE_NEWNET) != 0) {
             throw std::runtime_error(std::string("no private network: ") + std::strerror(errno));
         }
+        _network = FileDescriptor(::open("/proc/thread-self/ns/net", O_RDONLY | O_CLOEXEC));
         ip("link set lo up");
+    }
+
+    // Makes the calling thread part of it again, after another one was made.
+    void enter() {
+        if (::setns(_network.number(), CLONE_NEWNET) != 0) {
+            throw std::runtime_error(std::string("no way back: ") + std::strerror(errno));
+        }
     }
 
     // Runs ip(8) with these words.
@@ -79,6 +102,9 @@ public:
     void addAddress(const std::string& link, const std::string& address) {
         ip("address add " + address + " dev " + link);
     }
+
+private:
+    FileDescriptor _network;
 };
 
 } // namespace kx

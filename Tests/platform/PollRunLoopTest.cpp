@@ -1,6 +1,8 @@
 #include "PollLoopDriver.h"
 #include "contracts/PipeDescriptors.h"
+#include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopWatchesContract.h"
 
 #include <sys/resource.h>
 
@@ -27,6 +29,8 @@ private:
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopContract, PollRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopCallsContract, PollRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopWatchesContract, PollRunLoopTrait);
 
 } // namespace
 

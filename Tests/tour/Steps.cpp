@@ -1,6 +1,7 @@
 #include "Steps.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -50,6 +51,8 @@ void Steps::take(const QString& verb, const QString& argument) {
         type(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
+    } else if (verb == "log") {
+        _driver.openLog();
     } else if (verb == "shows") {
         expectParameter(argument);
     } else if (verb == "lacks") {
@@ -64,6 +67,8 @@ void Steps::take(const QString& verb, const QString& argument) {
     } else if (verb == "print") {
         _driver.printParameters();
         _driver.printLog();
+    } else if (verb == "read") {
+        printFile(qEnvironmentVariable(argument.toLatin1().constData()));
     } else {
         throw Disappointment{"there is no step " + verb};
     }
@@ -112,6 +117,16 @@ void Steps::expectParameter(const QString& nameAndValue) {
 
 void Steps::expectNoParameter(const QString& name) {
     _driver.waitFor("no " + name, [&] { return _driver.rowOfParameter(name) < 0; });
+}
+
+void Steps::printFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+        throw Disappointment{"cannot read " + path};
+    }
+    while (!file.atEnd()) {
+        print("Read: " + QString::fromUtf8(file.readLine()).trimmed());
+    }
 }
 
 void Steps::expectText(const QString& where, const QString& text,

@@ -6,12 +6,14 @@
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
 //   press BUTTON             clicks the button of this object name
+//   log                      opens the event log
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
-//   logs TEXT                waits until the event log contains the text
+//   logs TEXT                waits until the event log, whose drawer must be open, has the text
 //   line TEXT                waits until the quiet line contains the text
 //   picture NAME             leaves a picture (KX_TOUR_PICTURES)
 //   print                    prints the shown parameters and the event log
+//   read VARIABLE            prints the lines of the file that this environment variable names
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -40,6 +42,7 @@ private:
     void type(const QString& text);
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
+    static void printFile(const QString& path);
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 

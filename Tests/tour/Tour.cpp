@@ -9,9 +9,6 @@ namespace kx {
 
 namespace {
 
-// The drawer takes no click while it moves.
-constexpr int drawerMovesInMilliseconds = 500;
-
 QPalette darkPalette() {
     QPalette dark(QColor(53, 53, 53), QColor(45, 45, 45));
     dark.setColor(QPalette::Base, QColor(30, 30, 30));
@@ -36,20 +33,11 @@ void Tour::run() {
         _driver.pickParameter(0);
     }
     _driver.takePicture("window");
-    openLog();
+    _driver.openLog();
+    _driver.printLog();
     _driver.takePicture("window-log");
     showOtherLooks();
     showMenus();
-}
-
-void Tour::openLog() {
-    auto& log = _driver.control<QWidget>("logTextView");
-    _driver.press("logDrawerButton");
-    _driver.waitFor("the event log", [&] {
-        return log.isVisible() && _driver.logText().contains("Begin Discover");
-    });
-    QTest::qWait(drawerMovesInMilliseconds);
-    _driver.printLog();
 }
 
 void Tour::showOtherLooks() {

@@ -23,7 +23,6 @@ public:
     void run();
 
 private:
-    void openLog();
     void showOtherLooks();
     void showMenus();
 

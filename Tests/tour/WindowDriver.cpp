@@ -16,6 +16,9 @@ namespace {
 
 constexpr int patienceInMilliseconds = 10'000;
 
+// The drawer takes no click while it moves.
+constexpr int drawerMovesInMilliseconds = 500;
+
 } // namespace
 
 void print(const QString& line) {
@@ -120,6 +123,14 @@ int WindowDriver::rowOfParameter(const QString& name) const {
 
 QString WindowDriver::cellText(const QTableView& table, int row, int column) {
     return table.model()->index(row, column).data().toString();
+}
+
+void WindowDriver::openLog() const {
+    auto& log = control<QWidget>("logTextView");
+    press("logDrawerButton");
+    waitFor("the event log",
+            [&] { return log.isVisible() && logText().contains("Begin Discover"); });
+    QTest::qWait(drawerMovesInMilliseconds);
 }
 
 QString WindowDriver::logText() const {

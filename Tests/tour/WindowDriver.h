@@ -65,6 +65,9 @@ public:
     // The text that a table shows.
     static QString cellText(const QTableView& table, int row, int column);
 
+    // Opens the event log, and waits until it stands still.
+    void openLog() const;
+
     // The whole text of the event log.
     QString logText() const;
 

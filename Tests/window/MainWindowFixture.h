@@ -10,6 +10,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
+#include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -25,7 +26,9 @@
 #include <QTableView>
 #include <QTest>
 #include <cstdlib>
+#include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -101,7 +104,7 @@ protected:
     }
     std::string quietLine() {
         const auto& line = control<QLabel>("quietLine");
-        return line.isVisible() ? line.text().toStdString() : "(none)";
+        return line.isVisible() ? line.text().toStdString() : "(hidden)";
     }
 
     // The commands sent since the last call, without their addresses.
@@ -129,10 +132,18 @@ protected:
     FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
+    std::vector<std::string> helpAnchors;
+    std::function<bool()> openHelp = [] { return true; }; // what becomes of each
+    ScriptedAuthorizationService authority;
     MainWindow window;
     KXConfigAppDelegate controller{
         window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
-                                                        wallClock, application, &interfaces}};
+                                                        wallClock, application, &interfaces,
+                                                        [this](std::string_view anchor) {
+                                                            helpAnchors.emplace_back(anchor);
+                                                            return openHelp();
+                                                        },
+                                                        &authority}};
 
 private:
     QWindow* windowWithKeyboard();

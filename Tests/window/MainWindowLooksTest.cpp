@@ -96,7 +96,8 @@ TEST_F(MainWindowTest, TextsAreReadableInLightAndDarkPalettes) {
              {"interfacePopUp", "udpPortPopUp", "unitSelectPopUp", "unitIDField",
               "unitParameterTableView", "editParameterTableView", "optionCommandPopUp",
               "optionCommandField", "logTextView", "interfaceLabel", "unitLabel", "discoverButton",
-              "reloadButton", "sendOptionButton", "restoreButton", "logDrawerButton"}) {
+              "reloadButton", "applyButton", "quietLine", "sendOptionButton", "restoreButton",
+              "logDrawerButton"}) {
             EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), 4.5) << name << ", " << palette;
         }
     };

@@ -3,17 +3,23 @@
 #include "contracts/OutletsContract.h"
 #include "contracts/TableViewContract.h"
 #include "contracts/WindowContract.h"
+#include "platform/qt/QtAlert.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
+#include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
@@ -62,6 +68,20 @@ public:
 private:
     QLineEdit _lineEdit;
     QtTextField _field{_lineEdit};
+};
+
+class QtTextLabelTrait {
+public:
+    TextLabel& control() { return _textLabel; }
+    std::string shownText() const {
+        // What is shown is the text itself only where nothing in it is taken for markup.
+        EXPECT_EQ(_label.textFormat(), Qt::PlainText);
+        return utf8Text(_label.text());
+    }
+
+private:
+    QLabel _label;
+    QtTextLabel _textLabel{_label};
 };
 
 class QtTableViewTrait {
@@ -217,6 +237,39 @@ private:
     QtWindow _window{_mainWindow};
 };
 
+class QtAlertTrait {
+public:
+    QtAlertTrait() { _window.show(); }
+
+    Alert& control() { return _alert; }
+    Texts runAlert(const std::string& title, const std::string& message,
+                   const std::string& button) {
+        Texts seen;
+        QTimer person;
+        QObject::connect(&person, &QTimer::timeout, &person, [&] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (box == nullptr || !box->isVisible()) {
+                return;
+            }
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            seen = {utf8Text(box->windowTitle()), utf8Text(box->text())};
+            for (const QAbstractButton* each : box->buttons()) {
+                seen.push_back(utf8Text(each->text()));
+            }
+            person.stop();
+            QTest::mouseClick(box->buttons().constFirst(), Qt::LeftButton);
+        });
+        person.start(std::chrono::milliseconds(1));
+        control().runModal(title, message, button);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        return seen;
+    }
+
+private:
+    QMainWindow _window;
+    QtAlert _alert{_window};
+};
+
 class QtApplicationTrait {
 public:
     Application& control() { return _application; }
@@ -238,10 +291,12 @@ private:
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, PopUpButtonContract, QtPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextFieldContract, QtTextFieldTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextLabelContract, QtTextLabelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TableViewContract, QtTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextViewContract, QtTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, DrawerContract, QtDrawerTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, WindowContract, QtWindowTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, AlertContract, QtAlertTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ApplicationContract, QtApplicationTrait);
 
 } // namespace

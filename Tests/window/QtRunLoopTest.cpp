@@ -1,7 +1,9 @@
 #include "platform/qt/QtRunLoop.h"
 
 #include "contracts/PipeDescriptors.h"
+#include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopWatchesContract.h"
 
 #include <unistd.h>
 
@@ -32,6 +34,8 @@ private:
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopContract, QtRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopCallsContract, QtRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopWatchesContract, QtRunLoopTrait);
 
 } // namespace
 

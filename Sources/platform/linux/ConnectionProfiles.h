@@ -26,14 +26,15 @@ class ConnectionProfiles {
 public:
     virtual ~ConnectionProfiles() = default;
 
-    // The active profiles as far as they are known; none when nobody on the host keeps any. The
-    // first call may take up to three quarters of a second, later ones return at once.
+    // The active profiles as far as they are known; none when nobody on the host keeps any. They
+    // stay until the next call. The first call may take up to three quarters of a second, and so
+    // may the first one after whoever keeps them could not be reached; others return at once.
     virtual const std::vector<ConnectionProfile>& activeProfiles() = 0;
 
     // Grows whenever the active profiles have changed.
     virtual std::uint64_t generation() const = 0;
 
-    // What is called when they have changed, from the run loop.
+    // What is called when they have changed: from the run loop, or from inside activeProfiles().
     virtual void setChangeAction(std::function<void()> action) = 0;
 };
 

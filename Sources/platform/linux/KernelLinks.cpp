@@ -41,12 +41,14 @@ int openChangeSocket() {
 
 KernelLinks::KernelLinks(RunLoop& runLoop)
     : _descriptor(openChangeSocket()) {
-    if (_descriptor >= 0) {
-        _watch = runLoop.watchForReading(_descriptor, [this] { hearChanges(); });
-    }
-    if (_watch == nullptr) {
+    if (_descriptor < 0) {
         logToSystem(filledText("changes of the network links cannot be heard: %s",
                                {posixErrorText(errno)}));
+        return;
+    }
+    _watch = runLoop.watchForReading(_descriptor, [this] { hearChanges(); });
+    if (_watch == nullptr) {
+        logToSystem("changes of the network links are heard only when the links are read");
     }
 }
 

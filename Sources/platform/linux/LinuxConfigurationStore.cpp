@@ -1,9 +1,10 @@
 #include "platform/linux/LinuxConfigurationStore.h"
 
+#include "platform/linux/KeyPattern.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
-#include <regex>
 #include <string>
 
 namespace kx {
@@ -17,13 +18,12 @@ constexpr int kSCStatusInvalidArgument = 1002;
 // Which keys a session watches.
 struct KeyChoice {
     std::vector<std::string> keys;
-    std::vector<std::regex> patterns;
+    std::vector<KeyPattern> patterns;
 
     bool contains(const std::string& key) const {
         return std::ranges::find(keys, key) != keys.end() ||
-               std::ranges::any_of(patterns, [&key](const std::regex& pattern) {
-                   return std::regex_match(key, pattern);
-               });
+               std::ranges::any_of(
+                   patterns, [&key](const KeyPattern& pattern) { return pattern.matches(key); });
     }
 };
 
@@ -49,13 +49,13 @@ public:
                              std::span<const std::string_view> patterns) override {
         KeyChoice choice;
         choice.keys.assign(keys.begin(), keys.end());
-        try {
-            for (const auto pattern : patterns) {
-                choice.patterns.emplace_back(pattern.begin(), pattern.end());
+        for (const auto text : patterns) {
+            auto pattern = KeyPattern::parse(text);
+            if (!pattern.has_value()) {
+                _store._lastError = kSCStatusInvalidArgument;
+                return false;
             }
-        } catch (const std::regex_error&) {
-            _store._lastError = kSCStatusInvalidArgument;
-            return false;
+            choice.patterns.push_back(std::move(*pattern));
         }
         _choice = std::move(choice);
         return true;

@@ -7,7 +7,7 @@
 // administrator does in several steps is one.
 //
 // Failures: no session is opened, and SCError() has the value of errno, while the kernel cannot be
-// asked. Patterns that are no regular expressions are refused (SCError() 1002).
+// asked. Patterns with another construct than "[^/]+" are refused (SCError() 1002).
 //
 // Threading: the main thread only. Ownership: the run loop, the links and the profiles must outlive
 // the store, and so must their present change actions, which are the store's.

@@ -62,6 +62,12 @@ RunLoop::Handle PollRunLoop::callOnceAfter(milliseconds delay, std::function<voi
     return std::make_unique<Registration>([this, key] { _calls.extract(key); });
 }
 
+void PollRunLoop::runUntil(const std::function<bool()>& isDone) {
+    while (!isDone()) {
+        runOnce();
+    }
+}
+
 void PollRunLoop::run() {
     _running = true;
     while (_running) {
@@ -128,9 +134,15 @@ void PollRunLoop::findReady(int count, std::vector<std::uint64_t>& ready) {
     }
 }
 
+// A callback that runs the loop in turn leaves the rest to that run and the next: what could be
+// read before it may have been read in it.
 bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
+    const auto turn = ++_turns;
     bool hasCalled = false;
     for (const auto order : ready) {
+        if (_turns != turn) {
+            break;
+        }
         const auto watch = findWatch(order); // another callback may have ended it
         if (watch != _watches.end()) {
             const auto readable = watch->readable;

@@ -35,6 +35,8 @@ public:
     Handle watchForReading(int descriptor, std::function<void()> readable) override;
     Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) override;
 
+    void runUntil(const std::function<bool()>& isDone) override;
+
     // Runs turns until stop() is called.
     void run();
 
@@ -68,6 +70,7 @@ private:
     bool callDue(const CallKey& latest);
 
     bool _running = false;
+    std::uint64_t _turns = 0; // to know a run within the run by
     std::uint64_t _nextOrder = 1;
     Watches _watches;                  // in the order of their requests
     std::vector<pollfd> _descriptors;  // of the watches, one for each

@@ -4,14 +4,15 @@
 #include "KXParameterEntry.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
+#include "platform/qt/QtAlert.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
+#include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
-#include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
 
@@ -43,11 +44,13 @@ struct MainWindow::Controls {
         , unitIDField(*ui.unitIDField)
         , unitParameterTableView(*ui.unitParameterTableView, parameterColumns(false))
         , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
+        , quietLine(*ui.quietLine)
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
-        , findBar(*ui.logTextView, ui.logScrollView) {
+        , findBar(*ui.logTextView, ui.logScrollView)
+        , alert(mainWindow) {
         ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
@@ -60,11 +63,13 @@ struct MainWindow::Controls {
     QtTextField unitIDField;
     QtTableView unitParameterTableView;
     QtTableView editParameterTableView;
+    QtTextLabel quietLine;
     QtPopUpButton optionCommandPopUp;
     QtTextField optionCommandField;
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
     FindBar findBar;
+    QtAlert alert;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -77,7 +82,6 @@ MainWindow::MainWindow(QWidget* parent)
     connectMenus();
     connectTables();
     _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
-    showQuietLine({});
     keepEmptyStatesReadable();
     fitToContent();
 }
@@ -94,10 +98,12 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.unitParameterTableView = &_controls->unitParameterTableView;
     outlets.unitParameterTable = &_controls->unitParameterTable;
     outlets.editParameterTableView = &_controls->editParameterTableView;
+    outlets.quietLine = &_controls->quietLine;
     outlets.optionCommandPopUp = &_controls->optionCommandPopUp;
     outlets.optionCommandField = &_controls->optionCommandField;
     outlets.eventLogDrawer = &_controls->eventLogDrawer;
     outlets.logTextView = &_controls->logTextView;
+    outlets.alert = &_controls->alert;
     return outlets;
 }
 
@@ -109,6 +115,10 @@ void MainWindow::connectActions(KXConfigAppDelegate& controller) {
 void MainWindow::disconnectActions() {
     _controller = nullptr;
     _controls->editParameterTableView.setDataSource(nullptr);
+}
+
+const WindowDelegate* MainWindow::windowDelegate() const {
+    return _controller;
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
@@ -160,10 +170,11 @@ void MainWindow::connectButtons() {
     };
     connectButton(_ui->discoverButton, &KXConfigAppDelegate::discoverButton);
     connectButton(_ui->reloadButton, &KXConfigAppDelegate::reloadUnitParameterButton);
+    connectButton(_ui->applyButton, &KXConfigAppDelegate::applyEditParameterButton);
+    connectButton(_ui->sendOptionButton, &KXConfigAppDelegate::sendOptionButton);
     connectButton(_ui->restoreButton, &KXConfigAppDelegate::restoreDefaultSettings);
     connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
     connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
-    connect(_ui->sendOptionButton, &QPushButton::clicked, this, [this] { sendOption(); });
 }
 
 void MainWindow::connectPopUps() {
@@ -191,6 +202,7 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
+    _ui->helpAction->setShortcuts({Qt::Key_F1, Qt::ALT | Qt::Key_F1}); // with Alt, the viewer
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
@@ -214,6 +226,11 @@ void MainWindow::connectTables() {
         [this] { perform(&KXConfigAppDelegate::tableViewSelectionDidChange); });
     connect(parameters, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
     connect(editRow, &ParameterTableView::rowChosen, editRow, &ParameterTableView::beginTyping);
+    connect(editRow, &ParameterTableView::textEdited, this, [this](const QString& text) {
+        if (_controller != nullptr) {
+            _controller->editTextDidChange(utf8Text(text));
+        }
+    });
 
     // The two tables read as one: their columns stay in line.
     connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
@@ -250,20 +267,7 @@ void MainWindow::keepEmptyStatesReadable() {
 
 void MainWindow::perform(Action action) {
     if (_controller != nullptr) {
-        showQuietLine({});
         (_controller->*action)();
-    }
-}
-
-void MainWindow::sendOption() {
-    if (_controller == nullptr || _controller->sendOptionButton()) {
-        showQuietLine({});
-    } else if (!_controller->selectedUnit().has_value()) {
-        showQuietLine(tr("Not sent: no unit is selected."));
-    } else if (!asciiBytes(utf8Text(_ui->optionCommandField->text())).has_value()) {
-        showQuietLine(tr("Not sent: a command can hold ASCII characters only."));
-    } else {
-        showQuietLine(tr("Not sent: the address of the unit is not known."));
     }
 }
 
@@ -272,11 +276,6 @@ void MainWindow::findInLog(void (FindBar::*step)()) {
         perform(&KXConfigAppDelegate::logDrawerButton);
     }
     (_controls->findBar.*step)();
-}
-
-void MainWindow::showQuietLine(const QString& text) {
-    _ui->quietLine->setText(text);
-    _ui->quietLine->setVisible(!text.isEmpty());
 }
 
 void MainWindow::drawerDidChange(DrawerState state) {

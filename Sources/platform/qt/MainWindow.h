@@ -2,7 +2,7 @@
 //
 // It owns every control, the adapters that the controller sees them through, and the table that
 // feeds the parameter table. It decides nothing of the application; what it adds is the desktop's
-// manners: keyboard, menus, and a quiet line that says why a press of a button had no effect.
+// manners: keyboard, menus, empty states.
 //
 // Threading: main thread only. Ownership: the controller is not owned and must be taken away again
 // with disconnectActions() before it is destroyed.
@@ -10,6 +10,7 @@
 #pragma once
 
 #include "Outlets.h"
+#include "platform/qt/QtApplicationWindows.h"
 
 #include <QMainWindow>
 #include <memory>
@@ -23,7 +24,7 @@ namespace Ui {
 class MainWindow;
 }
 
-class MainWindow final : public QMainWindow {
+class MainWindow final : public QMainWindow, public DelegatingWindow {
     Q_OBJECT
 
 public:
@@ -39,6 +40,9 @@ public:
 
     // From now on nothing reaches the controller any more.
     void disconnectActions();
+
+    // The controller, while it is connected.
+    const WindowDelegate* windowDelegate() const override;
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -59,9 +63,7 @@ private:
     void keepEmptyStatesReadable();
 
     void perform(Action action);
-    void sendOption();
     void findInLog(void (FindBar::*step)());
-    void showQuietLine(const QString& text);
     void drawerDidChange(DrawerState state);
 
     std::unique_ptr<Ui::MainWindow> _ui;

@@ -3,7 +3,9 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
+#include <QStyledItemDelegate>
 
 namespace kx {
 
@@ -11,6 +13,26 @@ namespace {
 
 // Wide enough for the longest name and a text of four address widths beside it.
 constexpr int preferredCharacters = 72;
+
+// Tells the view every text that is typed.
+class TypingDelegate final : public QStyledItemDelegate {
+public:
+    explicit TypingDelegate(ParameterTableView& view)
+        : QStyledItemDelegate(&view)
+        , _view(view) {}
+
+    QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
+                          const QModelIndex& index) const override {
+        QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
+        if (const auto* const lineEdit = qobject_cast<QLineEdit*>(editor)) {
+            connect(lineEdit, &QLineEdit::textEdited, &_view, &ParameterTableView::textEdited);
+        }
+        return editor;
+    }
+
+private:
+    ParameterTableView& _view;
+};
 
 } // namespace
 
@@ -26,6 +48,7 @@ ParameterTableView::ParameterTableView(QWidget* parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setSectionsClickable(false);
     fitRowsToFont();
+    setItemDelegate(new TypingDelegate(*this));
     connect(this, &QAbstractItemView::doubleClicked, this, &ParameterTableView::rowChosen);
 }
 
@@ -80,6 +103,12 @@ QSize ParameterTableView::minimumSizeHint() const {
     return {QTableView::minimumSizeHint().width(), heightForRows(_minimumRows)};
 }
 
+void ParameterTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
+    const QModelIndex cell = currentIndex();
+    QTableView::closeEditor(editor, hint);
+    emit textEdited(cell.data().toString());
+}
+
 void ParameterTableView::changeEvent(QEvent* event) {
     QTableView::changeEvent(event);
     if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
@@ -101,6 +130,8 @@ void ParameterTableView::keyPressEvent(QKeyEvent* event) {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn && event->modifiers().testFlag(Qt::ControlModifier)) {
         event->ignore();
+    } else if (isReturn && state() == EditingState) {
+        event->accept(); // from the editor, which it closes
     } else if (isReturn && currentIndex().isValid()) {
         emit rowChosen();
     } else {

@@ -42,6 +42,13 @@ public:
 signals:
     void rowChosen();
 
+    // The text in the open editor of a cell changed. An editor that closes tells the cell's text as
+    // it is then, so the last text told is always that of the cell.
+    void textEdited(const QString& text);
+
+protected slots:
+    void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
+
 protected:
     void changeEvent(QEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;

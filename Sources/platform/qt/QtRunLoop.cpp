@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 
+#include <QEventLoop>
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
@@ -102,6 +103,13 @@ RunLoop::Handle QtRunLoop::watchForReading(int descriptor, std::function<void()>
 RunLoop::Handle QtRunLoop::callOnceAfter(milliseconds delay, std::function<void()> call) {
     const milliseconds bounded = std::clamp(delay, milliseconds::zero(), longestDelay);
     return std::make_unique<DelayedCall>(bounded, std::move(call));
+}
+
+void QtRunLoop::runUntil(const std::function<bool()>& isDone) {
+    QEventLoop loop;
+    while (!isDone()) {
+        loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
+    }
 }
 
 } // namespace kx

@@ -16,6 +16,7 @@ class QtRunLoop final : public RunLoop {
 public:
     Handle watchForReading(int descriptor, std::function<void()> readable) override;
     Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) override;
+    void runUntil(const std::function<bool()>& isDone) override;
 };
 
 } // namespace kx

@@ -1,11 +1,12 @@
 #include "addresses/HardwareAddress.h"
 
 #include "doubles/MarkedLocalizedText.h"
+#include "doubles/NoMemory.h"
 #include "doubles/RecordedSystemLog.h"
 
 #include <gtest/gtest.h>
 
-#include <memory_resource>
+#include <memory>
 
 namespace kx {
 
@@ -22,19 +23,6 @@ public:
 };
 
 class SomethingElse final : public FormattedObject {};
-
-// Memory has run out for whoever uses the default resource.
-class NoMemory {
-public:
-    NoMemory() = default;
-    NoMemory(const NoMemory&) = delete;
-    NoMemory& operator=(const NoMemory&) = delete;
-    ~NoMemory() { std::pmr::set_default_resource(_previous); }
-
-private:
-    std::pmr::memory_resource* _previous =
-        std::pmr::set_default_resource(std::pmr::null_memory_resource());
-};
 
 HardwareAddress addressOf(const Octets& octets) {
     HardwareAddress address;

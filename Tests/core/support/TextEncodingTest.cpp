@@ -51,6 +51,30 @@ TEST(UTF8, CodePointsWithTheirLastByteCutOffAreInvalid) {
     }
 }
 
+TEST(UTF8, OnlyTheFrontOfASequenceIsNoWholeCharacter) {
+    EXPECT_EQ(lengthOfWholeCharacters({}), 0U);
+    for (const std::uint32_t codePoint : {0x7FU, 0x80U, 0x7FFU, 0x800U, 0xFFFFU, 0x10FFFFU}) {
+        const Bytes character = encoded(codePoint);
+        for (std::size_t length = 0; length <= character.size(); ++length) {
+            Bytes bytes{'a'};
+            bytes.insert(bytes.end(), character.begin(),
+                         character.begin() + static_cast<std::ptrdiff_t>(length));
+            EXPECT_EQ(lengthOfWholeCharacters(bytes),
+                      length == character.size() ? bytes.size() : 1U)
+                << std::hex << codePoint;
+            EXPECT_EQ(lengthOfWholeCharacters(ByteView(bytes).subspan(1)),
+                      length == character.size() ? length : 0U);
+        }
+    }
+}
+
+TEST(UTF8, WhatNoByteCouldCompleteIsNotHeldBack) {
+    for (const Bytes& bytes : {Bytes{'a', 0xFF}, Bytes{0xC1}, Bytes{0x80, 0x80, 0x80, 0x80},
+                               Bytes{0xC3, 0xA9, 0x80}, Bytes{0xF5}}) {
+        EXPECT_EQ(lengthOfWholeCharacters(bytes), bytes.size());
+    }
+}
+
 TEST(UTF8, MalformedSequencesAreInvalid) {
     const std::vector<Bytes> malformed = {
         {0x80},                   // continuation alone
@@ -155,6 +179,23 @@ TEST(IntegerValue, IsZeroWithoutDigits) {
     for (const char* text : {"", " ", "-", "+", "abc", "\xD9\xA3"}) {
         EXPECT_EQ(integerValue(text), 0) << text;
     }
+}
+
+TEST(TextEncoding, ATextIsReadCharacterByCharacter) {
+    EXPECT_EQ(charactersOfText("aé装\U0001F600"), U"aé装\U0001F600");
+    EXPECT_EQ(charactersOfText(std::string_view("a\0b", 3)), std::u32string_view(U"a\0b", 3));
+    EXPECT_EQ(charactersOfText("\u007F\u0080\u07FF\u0800\uFFFF\U00010000\U0010FFFF"),
+              U"\x7F\x80\x7FF\x800\xFFFF\x10000\x10FFFF");
+    EXPECT_EQ(charactersOfText(""), U"");
+}
+
+TEST(TextEncoding, AByteOutsideAnySequenceIsACharacterBeyondUnicode) {
+    const std::u32string expected{U'a', 0x1100FF, 0x1100C3, U'b'};
+    EXPECT_EQ(charactersOfText("a\xFF\xC3"
+                               "b"),
+              expected);
+    EXPECT_EQ(charactersOfText("\xED\xA0\x80"),
+              (std::u32string{0x1100ED, 0x1100A0, 0x110080})); // a surrogate
 }
 
 TEST(IntegerValue, SaturatesAtTheEndsOf32Bits) {

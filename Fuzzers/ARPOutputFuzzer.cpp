@@ -1,0 +1,33 @@
+// The output of the ARP tool.
+
+#include "FuzzInput.h"
+#include "addresses/ARPTable.h"
+#include "addresses/HardwareAddress.h"
+#include "support/SystemLog.h"
+
+#include <string>
+
+using namespace kx;
+
+namespace {
+
+class NoLog final : public SystemLog {
+    void write(std::string_view /*line*/) override {}
+};
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    static NoLog noLog;
+    installSystemLog(&noLog);
+    const std::string output(textOfInput(data, size));
+
+    const auto found = hwAddressStringInToolOutput(output);
+    promise(!found || output.find("at ") != std::string::npos, "an address stands behind \"at \"");
+    HardwareAddress address;
+    promise(!found || (address.setStringValue(*found) && address.stringValue() == *found),
+            "what is found is an address's own text");
+    promise(!found || hwAddressStringInToolOutput("at " + *found) == found,
+            "and is found again in a sentence of its own");
+    return 0;
+}

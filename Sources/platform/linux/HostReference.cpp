@@ -1,0 +1,50 @@
+#include "platform/linux/HostReference.h"
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace kx {
+
+HostReference::HostReference(RunningTools& runningTools)
+    : _runningTools(runningTools) {}
+
+std::int32_t HostReference::copyRights(const AuthorizationItem& right, std::uint32_t flags) {
+    const bool mayAskPerson = (flags & kAuthorizationFlagInteractionAllowed) != 0;
+    if (!mayAskPerson && !_held.contains(right.value)) {
+        return errAuthorizationInteractionNotAllowed;
+    }
+    // Asked anew also where it is held, because the host may let a right run out.
+    const auto status = obtain(right, mayAskPerson);
+    if (status != errAuthorizationSuccess) {
+        _held.erase(right.value);
+    } else if ((flags & kAuthorizationFlagExtendRights) != 0) {
+        _held.insert(right.value);
+    }
+    return status;
+}
+
+std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
+                                                  const std::vector<std::string>& arguments,
+                                                  ToolEndAction ended) {
+    // A launcher would say this of the tool only in words.
+    if (::access(toolPath.c_str(), X_OK) != 0) {
+        return errAuthorizationToolExecuteFailure;
+    }
+    auto tool = start(toolPath, arguments);
+    if (tool == nullptr) {
+        return errAuthorizationToolExecuteFailure;
+    }
+    if (tool->waitAMoment(launcher()) && tool->isStill(launcher())) {
+        return refusalOf(tool->status());
+    }
+    _runningTools.attend(std::move(tool), [alive = std::weak_ptr<bool>(_alive),
+                                           action = std::move(ended)](int status) {
+        if (!alive.expired() && action) {
+            action(status);
+        }
+    });
+    return errAuthorizationSuccess;
+}
+
+} // namespace kx

@@ -1,0 +1,17 @@
+#include "platform/linux/LinuxAuthorization.h"
+
+#include "platform/linux/PolkitAuthorizationService.h"
+#include "platform/linux/RootAuthorizationService.h"
+
+#include <unistd.h>
+
+namespace kx {
+
+std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop) {
+    if (::geteuid() == 0) {
+        return std::make_unique<RootAuthorizationService>(loop);
+    }
+    return std::make_unique<PolkitAuthorizationService>(loop);
+}
+
+} // namespace kx

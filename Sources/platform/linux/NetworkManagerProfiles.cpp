@@ -1,0 +1,138 @@
+#include "platform/linux/NetworkManagerProfiles.h"
+
+#include "platform/linux/ActiveConnections.h"
+#include "platform/linux/SystemBus.h"
+
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QVariant>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::milliseconds firstPatience{750};
+constexpr std::chrono::seconds timeBetweenTries{1};
+
+constexpr auto service = "org.freedesktop.NetworkManager";
+constexpr auto rootPath = "/org/freedesktop";
+constexpr auto objectManagerInterface = "org.freedesktop.DBus.ObjectManager";
+constexpr auto busService = "org.freedesktop.DBus";
+constexpr auto ownerChanged = "NameOwnerChanged";
+
+// The interfaces of NetworkManager that profiles are read from. Others change all the time: the
+// strength of radio signals, for one.
+constexpr const char* readInterfaces[] = {
+    "org.freedesktop.NetworkManager",
+    "org.freedesktop.NetworkManager.Connection.Active",
+    "org.freedesktop.NetworkManager.Device",
+    "org.freedesktop.NetworkManager.IP4Config",
+};
+
+} // namespace
+
+// It may be the one that has just said that it is finished.
+void NetworkManagerProfiles::EndOfCall::operator()(QDBusPendingCallWatcher* call) const {
+    call->disconnect();
+    call->deleteLater();
+}
+
+NetworkManagerProfiles::NetworkManagerProfiles() {
+    connectToBus();
+}
+
+NetworkManagerProfiles::~NetworkManagerProfiles() = default;
+
+const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
+    if (!_bus->isOpen()) {
+        forget();
+        if (Clock::now() - _lastTry >= timeBetweenTries) {
+            connectToBus();
+        }
+    }
+    if (_isFirstReading) {
+        // The call, not its watcher, which would take the answer itself while it waits.
+        _reading->QDBusPendingCall::waitForFinished();
+        takeAnswer();
+    }
+    return _profiles;
+}
+
+void NetworkManagerProfiles::connectToBus() {
+    _lastTry = Clock::now();
+    _bus = std::make_unique<SystemBus>([this](const QDBusMessage& signal) { hear(signal); });
+    if (!_bus->isOpen()) {
+        return;
+    }
+    _bus->hearSignals(busService, busService, ownerChanged, service);
+    for (const auto* const interface : readInterfaces) {
+        _bus->hearSignals(service, "org.freedesktop.DBus.Properties", "PropertiesChanged",
+                          interface);
+    }
+    read(firstPatience);
+    _isFirstReading = true;
+}
+
+void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
+    const auto request = QDBusMessage::createMethodCall(service, rootPath, objectManagerInterface,
+                                                        "GetManagedObjects");
+    _reading.reset(new QDBusPendingCallWatcher(_bus->call(request, patience)));
+    QObject::connect(_reading.get(), &QDBusPendingCallWatcher::finished, _reading.get(),
+                     [this] { takeAnswer(); });
+}
+
+// Whoever told the profiles is gone, and will not answer any more.
+void NetworkManagerProfiles::forget() {
+    endReading();
+    setProfiles({});
+}
+
+void NetworkManagerProfiles::endReading() {
+    _reading.reset();
+    _isFirstReading = _isOutdated = false;
+}
+
+void NetworkManagerProfiles::takeAnswer() {
+    const QDBusMessage answer = _reading->reply();
+    bool mustReadAgain = _isOutdated;
+    endReading();
+    if (answer.type() == QDBusMessage::ReplyMessage) {
+        setProfiles(activeConnections(answer));
+    } else if (QDBusError(answer).type() == QDBusError::NoReply) {
+        mustReadAgain = true; // it hangs, or ended just now
+    } else {
+        setProfiles({});
+    }
+    if (mustReadAgain) {
+        read(SystemBus::endlessPatience);
+    }
+}
+
+void NetworkManagerProfiles::setProfiles(std::vector<ConnectionProfile> profiles) {
+    if (profiles != _profiles) {
+        _profiles = std::move(profiles);
+        ++_generation;
+        if (_changeAction) {
+            _changeAction();
+        }
+    }
+}
+
+void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
+    const bool isOfOwner = signal.member() == ownerChanged;
+    if (isOfOwner || SystemBus::endsConnection(signal)) {
+        forget();
+    }
+    const bool hasOwner = !isOfOwner || !signal.arguments().value(2).toString().isEmpty();
+    if (_reading != nullptr) {
+        _isOutdated = true;
+    } else if (_bus->isOpen() && hasOwner) {
+        read(SystemBus::endlessPatience);
+    }
+}
+
+} // namespace kx

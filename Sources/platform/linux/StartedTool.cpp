@@ -1,0 +1,82 @@
+#include "platform/linux/StartedTool.h"
+
+#include "support/Pipe.h"
+#include "support/PlatformException.h"
+#include "support/SystemLog.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+
+#include <fstream>
+#include <thread>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+// Between two looks at a program that is waited for: short, because the window stands still, and
+// long enough to cost nothing while a person is asked.
+constexpr std::chrono::milliseconds interval{5};
+
+constexpr int signalBase = 128;
+
+} // namespace
+
+std::unique_ptr<StartedTool> StartedTool::start(const std::string& path,
+                                                const std::vector<std::string>& arguments,
+                                                const Environment& environment) {
+    const FileDescriptor nothing(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    const ChildProcess::Streams streams{
+        .standardInput = nothing.number(), .standardOutput = nothing.number(), .standardError = {}};
+    try {
+        return std::unique_ptr<StartedTool>(new StartedTool(
+            environment.has_value() ? ChildProcess(path, arguments, streams, *environment)
+                                    : ChildProcess(path, arguments, streams)));
+    } catch (const PlatformException& exception) {
+        logToSystem(exception.reason());
+        return nullptr;
+    }
+}
+
+StartedTool::StartedTool(ChildProcess child)
+    : _child(std::move(child)) {}
+
+bool StartedTool::hasEnded() const {
+    const auto process = _child.processIdentifier();
+    siginfo_t end{};
+    // Only looked at: the end stays the child's to tell, and with it programName(). An error means
+    // that the system has kept nothing of it.
+    return ::waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
+           end.si_pid == process;
+}
+
+bool StartedTool::isStill(const std::string& launcher) const {
+    if (launcher.empty()) {
+        return false;
+    }
+    std::ifstream file("/proc/" + std::to_string(_child.processIdentifier()) + "/comm");
+    std::string name;
+    return !std::getline(file, name) || name == launcher;
+}
+
+bool StartedTool::waitAMoment(const std::string& launcher) {
+    using Clock = std::chrono::steady_clock;
+    auto end = Clock::now() + moment;
+    while (!hasEnded()) {
+        if (isStill(launcher)) {
+            end = Clock::now() + moment;
+        } else if (Clock::now() >= end) {
+            return false;
+        }
+        std::this_thread::sleep_for(interval);
+    }
+    return true;
+}
+
+int StartedTool::status() {
+    const int status = _child.waitUntilExit();
+    return _child.wasEndedBySignal() ? signalBase + status : status;
+}
+
+} // namespace kx

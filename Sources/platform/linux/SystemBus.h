@@ -1,0 +1,60 @@
+// A connection of this object's own to the host's system bus, on which nothing ever waits for the
+// bus: not for its greeting, and not for an answer unless the caller wants to wait for one.
+//
+// That is why it is not one of the toolkit's own bus connections, which wait for the greeting; a
+// bus that has stopped would hold the application up. Nobody answers calls to this end.
+//
+// Threading: the main thread only, which needs a QCoreApplication; what is heard comes from its
+// event loop. A connection that has ended does not come back: make another one.
+
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QObject>
+#include <QString>
+#include <chrono>
+#include <functional>
+
+namespace kx {
+
+class SystemBus final : public QObject {
+    Q_OBJECT
+
+public:
+    // Connects to the bus at the address in the environment variable DBUS_SYSTEM_BUS_ADDRESS, or
+    // else at the well-known one. `heard` is called with every signal that arrives; it may destroy
+    // this object.
+    explicit SystemBus(std::function<void(const QDBusMessage& signal)> heard);
+    ~SystemBus() override;
+    SystemBus(const SystemBus&) = delete;
+    SystemBus& operator=(const SystemBus&) = delete;
+
+    // Whether there is a connection. Its end is heard as the signal that endsConnection() knows.
+    bool isOpen() const { return _connection.isConnected(); }
+    static bool endsConnection(const QDBusMessage& signal);
+
+    // Asks the bus for a sender's signals with a name and, where one is given, with this text as
+    // their first argument.
+    void hearSignals(const QString& sender, const QString& interface, const QString& name,
+                     const QString& firstArgument = {});
+
+    // Calls a method. An error is the answer when none has come in time, and at once without a
+    // connection. No service is started for it.
+    QDBusPendingCall call(QDBusMessage message, std::chrono::milliseconds patience);
+
+    // For an answer that may take for ever. The bus says when the one who was called is gone.
+    static constexpr std::chrono::milliseconds endlessPatience{0x7FFFFFFF};
+
+private Q_SLOTS:
+    void receive(const QDBusMessage& signal);
+
+private:
+    QDBusMessage busCall(const QString& method) const;
+
+    std::function<void(const QDBusMessage&)> _heard;
+    QDBusConnection _connection;
+};
+
+} // namespace kx

@@ -1,0 +1,104 @@
+#include "platform/qt/HelpViewer.h"
+
+#include <QDir>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QScreen>
+#include <QShortcut>
+#include <QVBoxLayout>
+
+namespace kx {
+
+HelpPageView::HelpPageView(const QString& folder, QWidget* parent)
+    : QTextBrowser(parent)
+    , _folder(QUrl::fromLocalFile(QDir(folder).absolutePath() + '/')) {
+    setObjectName("helpPages");
+    setAccessibleName(tr("Help text"));
+}
+
+bool HelpPageView::isInFolder(const QUrl& name) const {
+    const QUrl url = source().resolved(name).adjusted(QUrl::NormalizePathSegments);
+    return _folder.isParentOf(url);
+}
+
+QVariant HelpPageView::loadResource(int type, const QUrl& name) {
+    return isInFolder(name) ? QTextBrowser::loadResource(type, name) : QVariant();
+}
+
+void HelpPageView::doSetSource(const QUrl& name, QTextDocument::ResourceType type) {
+    if (isInFolder(name)) {
+        QTextBrowser::doSetSource(name, type);
+    }
+}
+
+void HelpPageView::changeEvent(QEvent* event) {
+    QTextBrowser::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
+        reload(); // the colours of links are set while a page is read
+    }
+}
+
+HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
+    : QWidget(parent, Qt::Window)
+    , _folder(folder)
+    , _pages(new HelpPageView(folder, this)) {
+    auto* const buttons = new QHBoxLayout;
+    auto* const back = addButton("helpBackButton", tr("Back"), QKeySequence::Back);
+    auto* const forward = addButton("helpForwardButton", tr("Forward"), QKeySequence::Forward);
+    auto* const contents =
+        addButton("helpContentsButton", tr("Contents"), QKeySequence(Qt::ALT | Qt::Key_Home));
+    auto* const close = addButton("helpCloseButton", tr("Close"), QKeySequence(Qt::Key_Escape));
+    for (QPushButton* button : {back, forward, contents}) {
+        buttons->addWidget(button);
+    }
+    buttons->addStretch();
+    buttons->addWidget(close);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(buttons);
+    layout->addWidget(_pages);
+
+    back->setEnabled(false);
+    forward->setEnabled(false);
+    connect(_pages, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+    connect(_pages, &QTextBrowser::forwardAvailable, forward, &QWidget::setEnabled);
+    connect(_pages, &QTextBrowser::sourceChanged, this, &HelpViewer::showTitle);
+    connect(back, &QPushButton::clicked, _pages, &QTextBrowser::backward);
+    connect(forward, &QPushButton::clicked, _pages, &QTextBrowser::forward);
+    connect(contents, &QPushButton::clicked, _pages,
+            [this] { _pages->setSource(urlOfPage("index")); });
+    connect(close, &QPushButton::clicked, this, &QWidget::close);
+    auto* const closeKey = new QShortcut(QKeySequence::Close, this);
+    connect(closeKey, &QShortcut::activated, this, &QWidget::close);
+
+    resize(QSize(760, 680).boundedTo(screen()->availableGeometry().size()));
+}
+
+QPushButton* HelpViewer::addButton(const char* objectName, const QString& text,
+                                   const QKeySequence& key) {
+    auto* const button = new QPushButton(text, this);
+    button->setObjectName(objectName);
+    button->setShortcut(key);
+    return button;
+}
+
+QUrl HelpViewer::urlOfPage(const QString& page) const {
+    return QUrl::fromLocalFile(QDir(_folder).absoluteFilePath(page + ".html"));
+}
+
+void HelpViewer::showPage(const QString& page, const QString& book) {
+    _book = book;
+    _pages->setSource(urlOfPage(page));
+    showTitle();
+    show();
+    raise();
+    activateWindow();
+    _pages->setFocus();
+}
+
+void HelpViewer::showTitle() {
+    const QString page = _pages->documentTitle();
+    setWindowTitle(page.isEmpty() || page == _book ? _book : page + " – " + _book);
+}
+
+} // namespace kx

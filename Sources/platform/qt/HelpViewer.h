@@ -1,0 +1,59 @@
+// The built-in viewer of the help: a window that shows the pages of one folder.
+//
+// It shows nothing else: a link that leads out of the folder does nothing, and nothing is fetched
+// from a network. It remembers nothing: closed and opened again it starts afresh. On the keyboard,
+// the window system's keys for back and forward, Alt+Home for the first page, Escape to close.
+//
+// Main thread only.
+
+#pragma once
+
+#include <QPushButton>
+#include <QTextBrowser>
+#include <QUrl>
+#include <QVariant>
+#include <QWidget>
+
+namespace kx {
+
+// The text of a page, in the colours of the application's palette.
+class HelpPageView final : public QTextBrowser {
+    Q_OBJECT
+
+public:
+    explicit HelpPageView(const QString& folder, QWidget* parent = nullptr);
+
+    QVariant loadResource(int type, const QUrl& name) override;
+
+protected:
+    void doSetSource(const QUrl& name, QTextDocument::ResourceType type) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    bool isInFolder(const QUrl& name) const;
+
+    QUrl _folder;
+};
+
+class HelpViewer final : public QWidget {
+    Q_OBJECT
+
+public:
+    // `folder` holds the pages; the first of them is "index.html".
+    explicit HelpViewer(const QString& folder, QWidget* parent = nullptr);
+
+    // Shows the page "`page`.html" and brings the window, titled with the page and `book`, to the
+    // front.
+    void showPage(const QString& page, const QString& book);
+
+private:
+    QPushButton* addButton(const char* objectName, const QString& text, const QKeySequence& key);
+    QUrl urlOfPage(const QString& page) const;
+    void showTitle();
+
+    QString _folder;
+    QString _book;
+    HelpPageView* _pages; // owned by the window, like the buttons
+};
+
+} // namespace kx

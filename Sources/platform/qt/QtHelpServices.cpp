@@ -1,0 +1,79 @@
+#include "platform/qt/QtHelpServices.h"
+
+#include "platform/qt/HelpViewer.h"
+#include "platform/qt/QtText.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QUrl>
+
+namespace kx {
+
+namespace {
+
+constexpr int answerPatienceInMilliseconds = 3'000;
+
+// The desktop's opener reports success also where it then finds no application, so its own register
+// is asked first. Where that cannot be asked, the opener may try.
+bool desktopKnowsABrowser() {
+    if (qEnvironmentVariableIsSet("BROWSER")) {
+        return true;
+    }
+    QProcess query;
+    query.start("xdg-mime", {"query", "default", "text/html"}, QIODevice::ReadOnly);
+    if (!query.waitForFinished(answerPatienceInMilliseconds)) {
+        return true;
+    }
+    return !query.readAllStandardOutput().trimmed().isEmpty();
+}
+
+} // namespace
+
+QtHelpServices::QtHelpServices(QString resourceFolder)
+    : _resourceFolder(std::move(resourceFolder)) {}
+
+QtHelpServices::~QtHelpServices() = default;
+
+std::uint32_t QtHelpServices::modifierFlags() const {
+    return QGuiApplication::keyboardModifiers().testFlag(Qt::AltModifier) ? optionKeyFlag : 0;
+}
+
+std::optional<std::string> QtHelpServices::pathForResource(std::string_view name,
+                                                           std::string_view type,
+                                                           std::string_view folder) const {
+    if (name.empty() || name.find('/') != name.npos) {
+        return std::nullopt;
+    }
+    const QDir resources(QDir(_resourceFolder).filePath(qtText(folder)));
+    const QFileInfo file(resources, qtText(name) + '.' + qtText(type));
+    return file.isFile() ? std::optional(utf8Text(file.absoluteFilePath())) : std::nullopt;
+}
+
+bool QtHelpServices::openInBrowser(std::string_view url) {
+    return desktopKnowsABrowser() &&
+           QDesktopServices::openUrl(QUrl::fromEncoded(utf8Text(qtText(url)).c_str()));
+}
+
+std::optional<std::string> QtHelpServices::helpBookName() const {
+    if (!pathForResource("index", "html", "homepage").has_value()) {
+        return std::nullopt;
+    }
+    return utf8Text(HelpViewer::tr("KXConfig Help"));
+}
+
+bool QtHelpServices::openAnchorInBook(std::string_view anchor, std::string_view book) {
+    const auto path = pathForResource(anchor, "html", "homepage");
+    if (!path.has_value()) {
+        return false;
+    }
+    if (_viewer == nullptr || _viewer->isHidden()) {
+        _viewer = std::make_unique<HelpViewer>(QDir(_resourceFolder).filePath("homepage"));
+    }
+    _viewer->showPage(qtText(anchor), qtText(book));
+    return true;
+}
+
+} // namespace kx

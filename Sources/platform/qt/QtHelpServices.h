@@ -1,0 +1,35 @@
+// Help through the desktop: the page in whatever application the desktop opens web pages with, or
+// the built-in viewer. Needs a QApplication, which must outlive it.
+
+#pragma once
+
+#include "support/HelpPages.h"
+
+#include <QString>
+#include <memory>
+
+namespace kx {
+
+class HelpViewer;
+
+class QtHelpServices final : public HelpServices {
+public:
+    // `resourceFolder` is the folder of the program's resources, in which the pages are the folder
+    // "homepage".
+    explicit QtHelpServices(QString resourceFolder);
+    ~QtHelpServices() override; // closes the viewer
+
+    std::uint32_t modifierFlags() const override;
+    std::optional<std::string> pathForResource(std::string_view name, std::string_view type,
+                                               std::string_view folder) const override;
+    bool openInBrowser(std::string_view url) override;
+    std::optional<std::string> helpBookName() const override;
+    bool openAnchorInBook(std::string_view anchor, std::string_view book) override;
+
+private:
+    QString _resourceFolder;
+    std::unique_ptr<HelpViewer>
+        _viewer; // null until it is first needed; one that was closed is made anew
+};
+
+} // namespace kx

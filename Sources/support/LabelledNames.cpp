@@ -1,0 +1,58 @@
+#include "support/LabelledNames.h"
+
+#include "support/LocalizedText.h"
+#include "support/TextComparison.h"
+
+#include <array>
+
+namespace kx {
+
+namespace {
+
+struct RankedLabel {
+    std::string_view key;
+    std::string_view rank;
+};
+
+constexpr std::array<RankedLabel, 10> rankedLabels{{
+    {"work", "01"},
+    {"home", "02"},
+    {"iPhone", "03"},
+    {"mobile", "04"},
+    {"main", "05"},
+    {"home fax", "06"},
+    {"work fax", "07"},
+    {"pager", "08"},
+    {"other", "09"},
+    {"vacation", "10"},
+}};
+
+std::string_view rankOfLabel(std::string_view tail) {
+    for (const RankedLabel& label : rankedLabels) {
+        if (caseInsensitiveBeginsWith(tail, localizedText(label.key))) {
+            return label.rank;
+        }
+    }
+    return tail;
+}
+
+} // namespace
+
+std::string compareStringForCID(std::string_view text) {
+    const std::size_t colon = text.find(':');
+    if (colon == std::string_view::npos) {
+        return std::string(text);
+    }
+    std::string key(text.substr(0, colon));
+    const std::size_t bracket = text.rfind('[');
+    if (bracket != std::string_view::npos) {
+        key += rankOfLabel(text.substr(bracket + 1));
+    }
+    return key;
+}
+
+std::weak_ordering compareCID(std::string_view text, std::string_view other) {
+    return compareTexts(compareStringForCID(text), compareStringForCID(other));
+}
+
+} // namespace kx

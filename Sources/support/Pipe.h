@@ -1,0 +1,42 @@
+// Owned descriptors, and pipes made of them.
+//
+// Every descriptor made here is closed when another program is launched, so that no child holds one
+// by accident: a child gets what ChildProcess is told to give it, nothing else. Move only; any
+// thread, one at a time.
+
+#pragma once
+
+namespace kx {
+
+// Owns one descriptor, or none. Closes it when it is destroyed or takes another.
+class FileDescriptor {
+public:
+    FileDescriptor() = default; // none
+    explicit FileDescriptor(int descriptor)
+        : _descriptor(descriptor) {}
+    ~FileDescriptor() { close(); }
+    FileDescriptor(FileDescriptor&& other) noexcept;
+    FileDescriptor& operator=(FileDescriptor&& other) noexcept;
+    FileDescriptor(const FileDescriptor&) = delete;
+    FileDescriptor& operator=(const FileDescriptor&) = delete;
+
+    // The descriptor, which stays owned; -1 for none.
+    int number() const { return _descriptor; }
+
+    // Closes it before its time. Without effect when there is none.
+    void close();
+
+private:
+    int _descriptor = -1;
+};
+
+// A pipe, open at both ends. Throws PlatformException with the system's text when the system gives
+// none, as it does to a process that has too many descriptors open.
+struct Pipe {
+    Pipe();
+
+    FileDescriptor readingEnd;
+    FileDescriptor writingEnd;
+};
+
+} // namespace kx

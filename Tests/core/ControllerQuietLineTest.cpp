@@ -1,0 +1,281 @@
+// The quiet line: what Apply will send, and what became of what was sent.
+
+#include "ControllerFixture.h"
+
+namespace kx {
+
+namespace {
+
+class ControllerQuietLine : public ControllerTest {
+protected:
+    ControllerQuietLine() { launch(); }
+
+    void selectRow(UnitParameter parameter) {
+        window.unitParameterTableView.selectRow(static_cast<int>(parameter));
+        controller.tableViewSelectionDidChange();
+    }
+
+    void store(const std::string& value) {
+        window.editParameterTableView.typeIntoCell(0, "parameterValue", value);
+    }
+
+    void apply(UnitParameter parameter, const std::string& value) {
+        selectRow(parameter);
+        store(value);
+        controller.applyEditParameterButton();
+    }
+
+    // Two units, of which the first is selected.
+    void discoverTwo() {
+        SampleUnit second;
+        second.serial.back() = 7;
+        discover({SampleUnit(), second});
+    }
+};
+
+} // namespace
+
+TEST_F(ControllerQuietLine, IsEmptyUntilAParameterIsChosen) {
+    EXPECT_EQ(quietLine(), "");
+    discover({SampleUnit()});
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerQuietLine, ChoosingARowSaysWhatApplyWouldSend) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::devicePortNumber);
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2710: device port 10000.");
+}
+
+TEST_F(ControllerQuietLine, FollowsWhatIsTypedAndStoresNothing) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::destinationPortNumber);
+    controller.editTextDidChange("352");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 352 is outside "
+                           "3520 to 3523.");
+    controller.editTextDidChange("3521");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC1: destination port 3521.");
+    controller.editTextDidChange("");
+    EXPECT_EQ(quietLine(), "Apply sends nothing: the value is empty.");
+    EXPECT_EQ(editRows(), Lines{"destination Port number = 3520"});
+}
+
+TEST_F(ControllerQuietLine, AnotherRowForgetsWhatWasTyped) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::destinationPortNumber);
+    controller.editTextDidChange("80");
+    selectRow(UnitParameter::devicePortNumber);
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2710: device port 10000.");
+}
+
+TEST_F(ControllerQuietLine, AReplyDoesNotForgetWhatIsBeingTyped) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::destinationPortNumber);
+    controller.editTextDidChange("3521");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC1: destination port 3521.");
+}
+
+TEST_F(ControllerQuietLine, KnowsWhetherAUnitIsSelected) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::unitID);
+    controller.discoverButton();
+    controller.unitSelectPopUp(); // the pop-up is empty
+    EXPECT_EQ(quietLine(), "Apply sends nothing: no unit is selected.");
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdU00000000002A: unit ID 42.");
+}
+
+TEST_F(ControllerQuietLine, SaysWhatBecameOfAnEdit) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");
+    SampleUnit changed;
+    changed.destinationPort = {0x0D, 0xC3};
+    receive(changed.acknowledgement());
+    EXPECT_EQ(quietLine(), "The unit accepted ^^IdT0DC3 and was asked for its parameters.");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "The unit still shows 3520 as its destination Port number.");
+    receive(changed.reply());
+    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number.");
+}
+
+TEST_F(ControllerQuietLine, ReloadKeepsWhatItSaysOfAnEdit) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");
+}
+
+TEST_F(ControllerQuietLine, DiscoverShowsWhatBecameOfAnEdit) {
+    discover({SampleUnit()});
+    apply(UnitParameter::devicePortNumber, "10001");
+    SampleUnit changed;
+    changed.devicePort = {0x27, 0x11};
+    discover({changed});
+    EXPECT_EQ(quietLine(), "The unit now shows 10001 as its device Port number.");
+}
+
+TEST_F(ControllerQuietLine, WhoeverChoosesOrTypesAnewIsToldOfThat) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    controller.editTextDidChange("3521");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC1: destination port 3521.");
+    controller.applyEditParameterButton();
+    selectRow(UnitParameter::unitID);
+    receive(SampleUnit().acknowledgement());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdU00000000002A: unit ID 42.");
+}
+
+TEST_F(ControllerQuietLine, TheReportOfOneUnitDoesNotStandBesideAnother) {
+    discoverTwo();
+    apply(UnitParameter::destinationPortNumber, "3523");
+    window.unitSelectPopUp.selectItemWithTitle("01 02 03 04 05 07");
+    controller.unitSelectPopUp();
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+}
+
+TEST_F(ControllerQuietLine, RepliesOfOtherUnitsAreNoAnswer) {
+    discoverTwo();
+    apply(UnitParameter::destinationPortNumber, "3523");
+    SampleUnit second;
+    second.serial.back() = 7;
+    receive(second.acknowledgement());
+    receive(second.reply());
+    receive(joined({textBytes("^^<X>"), Bytes(15), textBytes("$ok\r")})); // tells no serial number
+    EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");
+}
+
+TEST_F(ControllerQuietLine, AUnitWithANewSerialNumberIsRecognized) {
+    discover({SampleUnit()});
+    apply(UnitParameter::serialNumber, "0a 0b 0c 0d 0e 0f");
+    SampleUnit changed;
+    changed.serial = {10, 11, 12, 13, 14, 15};
+    receive(changed.acknowledgement());
+    EXPECT_EQ(quietLine(), "The unit accepted ^^IdS0a0b0c0d0e0f and was asked for its parameters.");
+    receive(changed.reply());
+    EXPECT_EQ(quietLine(), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial number. Discover "
+                           "lists it under that.");
+}
+
+TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::internalIPAddress);
+    store("10.0.0.7");
+    EXPECT_EQ(quietLine(), "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which "
+                           "needs administrator rights. It sends ^^IdI0A000007 to 10.0.0.7.");
+    controller.applyEditParameterButton();
+    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet.");
+    authority.endTools(0);
+    SampleUnit moved;
+    moved.internalIP = {10, 0, 0, 7};
+    receive(moved.reply());
+    EXPECT_EQ(quietLine(), "The unit now shows 10.0.0.7 as its internal IP address.");
+}
+
+TEST_F(ControllerQuietLine, SaysWhyThereIsNoARPEntry) {
+    const std::string none =
+        "Sent ^^IdI0A000007. The unit has not answered yet. The ARP cache has no entry for "
+        "10.0.0.7: ";
+    discover({SampleUnit()});
+    authority.answerDialogsWith(errAuthorizationDenied);
+    apply(UnitParameter::internalIPAddress, "10.0.0.7");
+    EXPECT_EQ(quietLine(), none + "administrator rights were not given.");
+
+    receive(SampleUnit().reply());
+    authority.answerDialogsWith(errAuthorizationSuccess);
+    controller.applyEditParameterButton();
+    authority.endTools(1);
+    EXPECT_EQ(quietLine(), none + "the ARP tool ended with status 1.");
+}
+
+TEST_F(ControllerQuietLine, AToolThatFailsForAnEditOfThePastIsNotMentioned) {
+    discover({SampleUnit()});
+    apply(UnitParameter::internalIPAddress, "10.0.0.7");
+    selectRow(UnitParameter::unitID);
+    const std::string before = quietLine();
+    authority.endTools(1);
+    EXPECT_EQ(quietLine(), before);
+}
+
+TEST_F(ControllerQuietLine, SaysWhyAnEditWasNotSent) {
+    discover({SampleUnit()});
+    apply(UnitParameter::unitID, "");
+    EXPECT_EQ(quietLine(), "Not sent: the value is empty.");
+    apply(UnitParameter::internalIPAddress, "");
+    EXPECT_EQ(quietLine(), "Not sent: the value is empty.");
+    apply(UnitParameter::unitID, "\xFF");
+    EXPECT_EQ(quietLine(), "Not sent: the unit ID is not a text in UTF-8.");
+    apply(UnitParameter::internalMACAddress, "Zürich");
+    EXPECT_EQ(quietLine(), "Not sent: a command can hold ASCII characters only.");
+    apply(UnitParameter::internalIPAddress, "10.0.0.7");
+    apply(UnitParameter::unitID, "7");
+    EXPECT_EQ(quietLine(), "Not sent: the address of the unit is not known.");
+}
+
+TEST_F(ControllerQuietLine, AnEditThatTheNetworkRefusesSaysWhy) {
+    discover({SampleUnit()});
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    apply(UnitParameter::unitID, "7");
+    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH));
+    controller.applyEditParameterButton();
+    EXPECT_EQ(quietLine(), "Sent ^^IdU000000000007. The unit has not answered yet.");
+}
+
+TEST_F(ControllerQuietLine, AnEditThroughAStoppedListenerSaysSo) {
+    discover({SampleUnit()});
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    controller.discoverButton();
+    apply(UnitParameter::unitID, "7");
+    EXPECT_EQ(quietLine(), "Not sent: The UDP listener is not running.");
+}
+
+TEST_F(ControllerQuietLine, SaysWhyAnOptionWasNotSentUntilTheNextAction) {
+    controller.sendOptionButton();
+    EXPECT_EQ(quietLine(), "Not sent: no unit is selected.");
+    discover({SampleUnit()});
+    EXPECT_EQ(quietLine(), "");
+
+    window.optionCommandField.setStringValue("Zürich");
+    controller.sendOptionButton();
+    EXPECT_EQ(quietLine(), "Not sent: a command can hold ASCII characters only.");
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(quietLine(), "");
+
+    window.optionCommandField.setStringValue("V");
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    controller.sendOptionButton();
+    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH));
+    controller.sendOptionButton();
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerQuietLine, ARestoreEndsTheReportOfAnEdit) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    controller.restoreDefaultSettings();
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    receive(SampleUnit().reply());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+}
+
+TEST_F(ControllerQuietLine, ANewLaunchBeginsWithAnEmptyLine) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3523");
+    launch();
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerQuietLine, HelpLeavesTheReportOfAnEditAlone) {
+    discover({SampleUnit()});
+    apply(UnitParameter::destinationPortNumber, "3521");
+    const std::string report = quietLine();
+    EXPECT_NE(report.find("Sent ^^IdT0DC1."), std::string::npos) << report;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), report);
+}
+
+} // namespace kx

@@ -1,0 +1,19 @@
+// Windows that the test lists, by their delegates.
+
+#pragma once
+
+#include "support/InstanceNames.h"
+
+namespace kx {
+
+class ListedApplicationWindows final : public ApplicationWindows {
+public:
+    void addWindow(const WindowDelegate* delegate) { _delegates.push_back(delegate); }
+
+    std::vector<const WindowDelegate*> delegates() const override { return _delegates; }
+
+private:
+    std::vector<const WindowDelegate*> _delegates;
+};
+
+} // namespace kx

@@ -1,0 +1,225 @@
+// What is read from NetworkManager's answer, and that no other answer does harm. Each answer goes
+// over a connection, since a value has its type only there.
+
+#include "platform/linux/ActiveConnections.h"
+
+#include "Wire.h"
+
+#include <gtest/gtest.h>
+
+#include <QDBusObjectPath>
+
+namespace kx {
+
+namespace {
+
+using Paths = QList<QDBusObjectPath>;
+using Profiles = std::vector<ConnectionProfile>;
+
+const QDBusObjectPath managerPath("/org/freedesktop/NetworkManager");
+const QDBusObjectPath connectionPath("/org/freedesktop/NetworkManager/ActiveConnection/2");
+const QDBusObjectPath devicePath("/org/freedesktop/NetworkManager/Devices/3");
+const QDBusObjectPath configurationPath("/org/freedesktop/NetworkManager/IP4Config/4");
+
+const QString managerInterface = "org.freedesktop.NetworkManager";
+const QString activeInterface = "org.freedesktop.NetworkManager.Connection.Active";
+const QString deviceInterface = "org.freedesktop.NetworkManager.Device";
+const QString ipv4Interface = "org.freedesktop.NetworkManager.IP4Config";
+
+class ActiveConnections : public testing::Test {
+protected:
+    ActiveConnections() {
+        objects[managerPath][managerInterface]["ActiveConnections"] = list({connectionPath});
+        auto& active = connection();
+        active["Uuid"] = "1234";
+        active["Id"] = "Büro";
+        active["Devices"] = list({devicePath});
+        active["Ip4Config"] = QVariant::fromValue(configurationPath);
+        active["StateFlags"] = 0x5CU;
+        active["Vpn"] = false;
+        device()["Interface"] = "eth0";
+        device()["IpInterface"] = "eth0";
+        setAddresses({{{"address", "192.0.2.5"}, {"prefix", 24U}}});
+    }
+
+    static QVariant list(const Paths& paths) { return QVariant::fromValue(paths); }
+    QVariantMap& connection() { return objects[connectionPath][activeInterface]; }
+    QVariantMap& device() { return objects[devicePath][deviceInterface]; }
+    void setAddresses(const Dictionaries& addresses) {
+        objects[configurationPath][ipv4Interface]["AddressData"] = QVariant::fromValue(addresses);
+    }
+
+    Profiles read() { return readValue(QVariant::fromValue(objects)); }
+    Profiles readValue(const QVariant& value) { return activeConnections(wire.carried(value)); }
+
+    // The one profile, or one without anything in it.
+    ConnectionProfile only() {
+        const auto profiles = read();
+        EXPECT_EQ(profiles.size(), 1U);
+        return profiles.size() == 1 ? profiles[0] : ConnectionProfile();
+    }
+
+    const ConnectionProfile ordinary{"1234", "Büro", "eth0", {{0xC0000205U, 24}}};
+    Wire wire;
+    ManagedObjects objects;
+};
+
+} // namespace
+
+TEST_F(ActiveConnections, AConnectionIsAProfileWithItsDeviceAndItsAddresses) {
+    EXPECT_EQ(read(), Profiles{ordinary});
+}
+
+TEST_F(ActiveConnections, TheyComeInTheOrderOfTheManagersList) {
+    const QDBusObjectPath other("/org/freedesktop/NetworkManager/ActiveConnection/10");
+    objects[other][activeInterface] = connection();
+    objects[other][activeInterface]["Uuid"] = "5678";
+    objects[managerPath][managerInterface]["ActiveConnections"] = list({other, connectionPath});
+    const auto profiles = read();
+    ASSERT_EQ(profiles.size(), 2U);
+    EXPECT_EQ(profiles[0].identifier, "5678");
+    EXPECT_EQ(profiles[1].identifier, "1234");
+}
+
+TEST_F(ActiveConnections, AProfileThatIsActivatedAnewComesOnce) {
+    const QDBusObjectPath next("/org/freedesktop/NetworkManager/ActiveConnection/3");
+    objects[next][activeInterface] = connection();
+    objects[managerPath][managerInterface]["ActiveConnections"] = list({next, connectionPath});
+    EXPECT_EQ(read(), Profiles{ordinary});
+}
+
+TEST_F(ActiveConnections, SeveralProfilesOnOneDeviceAllCome) {
+    const QDBusObjectPath other("/org/freedesktop/NetworkManager/ActiveConnection/3");
+    objects[other][activeInterface] = connection();
+    objects[other][activeInterface]["Uuid"] = "5678";
+    objects[managerPath][managerInterface]["ActiveConnections"] = list({connectionPath, other});
+    const auto profiles = read();
+    ASSERT_EQ(profiles.size(), 2U);
+    EXPECT_EQ(profiles[1].interfaceName, "eth0");
+}
+
+TEST_F(ActiveConnections, AProfileWithSeveralDevicesComesForEach) {
+    const QDBusObjectPath other("/org/freedesktop/NetworkManager/Devices/4");
+    objects[other][deviceInterface]["Interface"] = "eth1";
+    connection()["Devices"] = list({devicePath, other});
+    const auto profiles = read();
+    ASSERT_EQ(profiles.size(), 2U);
+    EXPECT_EQ(profiles[0].interfaceName, "eth0");
+    EXPECT_EQ(profiles[1].interfaceName, "eth1");
+}
+
+TEST_F(ActiveConnections, AModemsLinkIsNotTheModem) {
+    device()["Interface"] = "cdc-wdm0";
+    device()["IpInterface"] = "wwan0";
+    EXPECT_EQ(only().interfaceName, "wwan0");
+    device()["IpInterface"] = "";
+    EXPECT_EQ(only().interfaceName, "cdc-wdm0") << "it has none yet";
+}
+
+TEST_F(ActiveConnections, AVirtualPrivateNetworkIsNotTheDeviceThatCarriesIt) {
+    connection()["Vpn"] = true;
+    EXPECT_EQ(read(), Profiles());
+}
+
+TEST_F(ActiveConnections, WhatNetworkManagerMadeUpIsNoProfile) {
+    connection()["StateFlags"] = 0xDCU;
+    EXPECT_EQ(read(), Profiles());
+}
+
+TEST_F(ActiveConnections, AConnectionWithoutADeviceIsLeftOut) {
+    connection()["Devices"] = list({});
+    EXPECT_EQ(read(), Profiles());
+    connection()["Devices"] = list({QDBusObjectPath("/gone")});
+    EXPECT_EQ(read(), Profiles());
+    connection()["Devices"] = list({devicePath});
+    device()["Interface"] = device()["IpInterface"] = "";
+    EXPECT_EQ(read(), Profiles());
+}
+
+TEST_F(ActiveConnections, AProfileMayHaveNoAddresses) {
+    connection()["Ip4Config"] = QVariant::fromValue(QDBusObjectPath("/"));
+    EXPECT_EQ(only().addresses, std::vector<IPv4InterfaceAddress>());
+    connection().remove("Ip4Config");
+    EXPECT_EQ(only().addresses, std::vector<IPv4InterfaceAddress>());
+}
+
+TEST_F(ActiveConnections, AddressesThatCannotBeReadAreLeftOut) {
+    setAddresses({{{"address", "192.0.2.5.6"}, {"prefix", 24U}},
+                  {{"address", "2001:db8::1"}, {"prefix", 24U}},
+                  {{"address", ""}, {"prefix", 24U}},
+                  {{"address", 5}, {"prefix", 24U}},
+                  {{"prefix", 24U}},
+                  {{"address", "192.0.2.6"}},
+                  {{"address", "192.0.2.6"}, {"prefix", "24"}},
+                  {{"address", "192.0.2.6"}, {"prefix", 33U}},
+                  {},
+                  {{"address", "192.0.2.7"}, {"prefix", 32U}},
+                  {{"address", "192.0.2.8"}, {"prefix", 0U}, {"more", true}}});
+    EXPECT_EQ(only().addresses,
+              (std::vector<IPv4InterfaceAddress>{{0xC0000207U, 32}, {0xC0000208U, 0}}));
+}
+
+TEST_F(ActiveConnections, AnIdentifierThatWouldNotBeOneInAKeyIsLeftOut) {
+    for (const char* identifier : {"", "=eth0", "12/34", "/"}) {
+        connection()["Uuid"] = identifier;
+        EXPECT_EQ(read(), Profiles()) << identifier;
+    }
+}
+
+TEST_F(ActiveConnections, APropertyOfAnotherTypeCountsAsMissing) {
+    const QVariant strange[] = {
+        5,
+        true,
+        "text",
+        QVariant::fromValue(QDBusObjectPath("/")),
+        QStringList{"a", "b"},
+        QByteArray("bytes"),
+        QVariantMap{{"a", 1}},
+        QVariant::fromValue(Dictionaries{{{"address", 1}}}),
+        QVariant::fromValue(QDBusVariant("inner")),
+    };
+    const auto before = objects;
+    for (const auto& value : strange) {
+        for (const auto& [path, interface, name] :
+             std::initializer_list<std::tuple<QDBusObjectPath, QString, QString>>{
+                 {managerPath, managerInterface, "ActiveConnections"},
+                 {connectionPath, activeInterface, "Devices"},
+                 {connectionPath, activeInterface, "Ip4Config"},
+                 {connectionPath, activeInterface, "Uuid"},
+                 {connectionPath, activeInterface, "Id"},
+                 {connectionPath, activeInterface, "StateFlags"},
+                 {connectionPath, activeInterface, "Vpn"},
+                 {devicePath, deviceInterface, "Interface"},
+                 {devicePath, deviceInterface, "IpInterface"},
+                 {configurationPath, ipv4Interface, "AddressData"}}) {
+            objects = before;
+            objects[path][interface][name] = value;
+            EXPECT_LE(read().size(), 1U) << name.toStdString();
+            objects[path][interface].remove(name);
+            EXPECT_LE(read().size(), 1U) << name.toStdString();
+        }
+    }
+}
+
+TEST_F(ActiveConnections, AnObjectWithoutItsInterfaceCountsAsMissing) {
+    for (const auto& path : {managerPath, connectionPath, devicePath}) {
+        auto objectsBefore = objects;
+        objects[path].clear();
+        EXPECT_EQ(read(), Profiles()) << path.path().toStdString();
+        objects = objectsBefore;
+    }
+    objects.remove(configurationPath);
+    EXPECT_EQ(only().name, "Büro");
+}
+
+TEST_F(ActiveConnections, AnAnswerOfAnotherShapeHasNoProfiles) {
+    EXPECT_EQ(readValue("text"), Profiles());
+    EXPECT_EQ(readValue(5), Profiles());
+    EXPECT_EQ(readValue(QStringList{"a"}), Profiles());
+    EXPECT_EQ(readValue(QVariantMap{{"a", 1}}), Profiles());
+    EXPECT_EQ(readValue(QVariant::fromValue(PropertiesByInterface{{"a", {{"b", 1}}}})), Profiles());
+    EXPECT_EQ(readValue(QVariant::fromValue(ManagedObjects())), Profiles());
+    EXPECT_EQ(activeConnections(QDBusMessage()), Profiles());
+}
+
+} // namespace kx

@@ -1,0 +1,116 @@
+// What the tests of the authorities share: one of them on the real system, and what it did there.
+//
+// They run in in_polkit.sh, inside the lab: who sits at the dialogs, and what the rules say, is in
+// the options of each test's run.
+
+#pragma once
+
+#include "platform/PollLoopDriver.h"
+#include "platform/linux/LinuxAuthorization.h"
+#include "support/Authorization.h"
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class AuthorityFixture : public testing::Test {
+protected:
+    static constexpr auto arpTool = "/usr/sbin/arp";
+    static constexpr auto arpAction = "org.kxconfig.KXConfig.set-arp-entry";
+    static constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
+    static constexpr auto shell = "/bin/sh";
+    static constexpr std::uint32_t asking = kAuthorizationFlagInteractionAllowed;
+    static constexpr std::uint32_t keeping = kAuthorizationFlagExtendRights;
+
+    // An address of the lab's network that no unit has.
+    static constexpr auto newAddress = "192.0.2.77";
+    static constexpr auto unitAddress = "02:00:00:00:00:77";
+
+    static AuthorizationItem rightOf(const std::string& tool) {
+        return {.name = std::string(kAuthorizationRightExecute), .value = tool, .flags = 0};
+    }
+
+    // The actions of the questions that the person was asked so far.
+    static std::vector<std::string> dialogs() {
+        std::ifstream file(std::getenv("KX_DIALOGS"));
+        std::vector<std::string> lines;
+        for (std::string line; std::getline(file, line);) {
+            lines.push_back(line);
+        }
+        return lines;
+    }
+
+    // The hardware address that the host's neighbour table has for the new address.
+    static std::string neighbour() {
+        std::ifstream file("/proc/net/arp");
+        std::string line;
+        while (std::getline(file, line)) {
+            std::istringstream fields(line);
+            std::string address;
+            std::string type;
+            std::string flags;
+            std::string hardwareAddress;
+            fields >> address >> type >> flags >> hardwareAddress;
+            if (address == newAddress) {
+                return hardwareAddress;
+            }
+        }
+        return {};
+    }
+
+    static bool hasChildren() { return ::waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD; }
+
+    static std::ptrdiff_t openDescriptors() {
+        const std::filesystem::directory_iterator descriptors("/proc/self/fd");
+        return std::distance(begin(descriptors), end(descriptors));
+    }
+
+    // Starts a tool and notes its end.
+    std::int32_t run(const std::string& tool, const std::vector<std::string>& arguments) {
+        return reference->executeWithPrivileges(tool, arguments,
+                                                [this](int status) { ends.push_back(status); });
+    }
+    std::int32_t runArp() { return run(arpTool, {"-s", newAddress, unitAddress}); }
+    std::int32_t runShell(const std::string& script) { return run(shell, {"-c", script}); }
+
+    bool runUntilEnd() {
+        return runLoopUntil(loop, [this] { return !ends.empty(); });
+    }
+
+    PollRunLoop loop;
+    std::unique_ptr<AuthorizationService> service = makeAuthorizationService(loop);
+    std::unique_ptr<AuthorizationReference> reference = service->create();
+    std::vector<int> ends;
+};
+
+// A tool that runs until the test lets it end.
+class HeldTool {
+public:
+    HeldTool() { std::system(("mkfifo " + _gate).c_str()); }
+    ~HeldTool() { release(); }
+    HeldTool(const HeldTool&) = delete;
+    HeldTool& operator=(const HeldTool&) = delete;
+
+    std::string script() const { return "read line <" + _gate + "; exit 5"; }
+    void release() {
+        if (!_isReleased) {
+            std::ofstream(_gate) << "go\n";
+        }
+        _isReleased = true;
+    }
+
+private:
+    std::string _gate = std::string(std::getenv("HOME")) + "/gate";
+    bool _isReleased = false;
+};
+
+} // namespace kx

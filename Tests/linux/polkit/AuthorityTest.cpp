@@ -1,0 +1,194 @@
+// Who is asked, how often, and what comes of it. Each suite has a person or a rule of its own.
+
+#include "AuthorityFixture.h"
+
+namespace kx {
+
+namespace {
+
+using Actions = std::vector<std::string>;
+
+// What one person allowed stays allowed for the process, so that each of these tests has a process
+// and a daemon to itself.
+class AnAllowingPerson : public AuthorityFixture {};
+
+TEST_F(AnAllowingPerson, IsAskedOnce) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(AnAllowingPerson, IsNotAskedWhetherTheRightIsHeld) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
+              errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(dialogs(), Actions{});
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(AnAllowingPerson, GrantsNothingForLaterWhenTheRightIsNotToBeKept) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
+              errAuthorizationInteractionNotAllowed);
+}
+
+TEST_F(AnAllowingPerson, GrantsTheRightToOneToolOnly) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightOf(shell), keeping),
+              errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(reference->copyRights(rightOf(shell), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), (Actions{arpAction, anyToolAction}));
+}
+
+TEST_F(AnAllowingPerson, GrantsNothingUnderTheNextReference) {
+    Authorization authorization(*service, arpTool);
+    EXPECT_FALSE(authorization.isAuthenticated());
+    EXPECT_EQ(dialogs(), Actions{});
+    EXPECT_TRUE(authorization.authenticate());
+    EXPECT_TRUE(authorization.isAuthenticated());
+    authorization.deauthenticate();
+    EXPECT_FALSE(authorization.isAuthenticated());
+    EXPECT_TRUE(authorization.authenticate());
+    EXPECT_TRUE(authorization.isAuthenticated());
+}
+
+TEST_F(AnAllowingPerson, IsAskedByTheRunWhenNobodyWasBefore) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+// Longer than the moment that a tool is given.
+TEST_F(AnAllowingPerson, MayTakeTheirTimeInTheRun) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+}
+
+// Longer than a call to another program takes as a rule.
+TEST_F(AnAllowingPerson, MayTakeTheirTime) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(AnAllowingPerson, IsAskedForNothingButRunningATool) {
+    auto right = rightOf(arpTool);
+    right.name = "system.another";
+    EXPECT_EQ(reference->copyRights(right, asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(dialogs(), Actions{});
+}
+
+class ARefusingPerson : public AuthorityFixture {};
+
+TEST_F(ARefusingPerson, LeavesTheRightUnheld) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
+              errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(ARefusingPerson, KeepsTheToolFromBeingStarted) {
+    EXPECT_EQ(runArp(), errAuthorizationDenied);
+    EXPECT_EQ(neighbour(), "");
+    EXPECT_FALSE(hasChildren());
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, std::vector<int>{});
+}
+
+class ADismissingPerson : public AuthorityFixture {};
+
+TEST_F(ADismissingPerson, CancelsTheRequest) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationCanceled);
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
+              errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(ADismissingPerson, CancelsTheRun) {
+    EXPECT_EQ(runArp(), errAuthorizationCanceled);
+    EXPECT_EQ(neighbour(), "");
+    EXPECT_FALSE(hasChildren());
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, std::vector<int>{});
+}
+
+class NobodyAtTheDialogs : public AuthorityFixture {};
+
+TEST_F(NobodyAtTheDialogs, CanAllowAnything) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping),
+              errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(runArp(), errAuthorizationDenied);
+    EXPECT_EQ(neighbour(), "");
+    EXPECT_FALSE(Authorization(*service, arpTool).authenticate());
+}
+
+class ARuleThatAllows : public AuthorityFixture {};
+
+TEST_F(ARuleThatAllows, NeedsNoPerson) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(dialogs(), Actions{});
+}
+
+TEST_F(ARuleThatAllows, MeansNothingBeforeTheRightIsAskedFor) {
+    EXPECT_FALSE(Authorization(*service, arpTool).isAuthenticated());
+}
+
+class ARuleThatForbids : public AuthorityFixture {};
+
+TEST_F(ARuleThatForbids, LeavesNothingToAskAPerson) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(runArp(), errAuthorizationDenied);
+    EXPECT_EQ(neighbour(), "");
+    EXPECT_EQ(dialogs(), Actions{});
+}
+
+class NoAuthority : public AuthorityFixture {};
+
+TEST_F(NoAuthority, GivesNoReference) {
+    EXPECT_EQ(reference, nullptr);
+    Authorization authorization(*service, arpTool);
+    EXPECT_FALSE(authorization.authenticate());
+    EXPECT_FALSE(authorization.isAuthenticated());
+    EXPECT_EQ(authorization.runToolWithArgs({"-s", newAddress, unitAddress}),
+              errAuthorizationInvalidRef);
+}
+
+class AnUnknownAction : public AuthorityFixture {};
+
+TEST_F(AnUnknownAction, IsDenied) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(dialogs(), Actions{});
+}
+
+class NoLauncher : public AuthorityFixture {};
+
+TEST_F(NoLauncher, MeansThatNoToolIsStarted) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationToolExecuteFailure);
+    EXPECT_FALSE(hasChildren());
+}
+
+class TheAdministrator : public AuthorityFixture {};
+
+TEST_F(TheAdministrator, NeedsNobodyElse) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+}
+
+TEST_F(TheAdministrator, HoldsARightOnceItWasAskedFor) {
+    Authorization authorization(*service, arpTool);
+    EXPECT_FALSE(authorization.isAuthenticated());
+    EXPECT_TRUE(authorization.authenticate());
+    EXPECT_TRUE(authorization.isAuthenticated());
+    authorization.deauthenticate();
+    EXPECT_FALSE(authorization.isAuthenticated());
+}
+
+} // namespace
+
+} // namespace kx

@@ -1,0 +1,117 @@
+// kxperson: a person at the dialogs of polkit, who always answers in the same way.
+//
+// usage: kxperson PROCESS ANSWER SECONDS RECORD
+//   PROCESS   whose questions are answered, by its number
+//   ANSWER    allow, refuse (a wrong password) or dismiss
+//   SECONDS   how long the person takes for each answer
+//   RECORD    a file that gets a line with the name of the action for each question
+//
+// Registers as the authentication agent of that process, prints "ready", and serves until it is
+// ended. It runs as the administrator, whom the daemon takes at his word.
+
+#include <unistd.h>
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QStringList>
+#include <QTimer>
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+namespace {
+
+const QString authorityName = QStringLiteral("org.freedesktop.PolicyKit1");
+const QString agentPath = QStringLiteral("/org/kxconfig/Person");
+
+QDBusMessage authorityCall(const QString& method) {
+    return QDBusMessage::createMethodCall(
+        authorityName, QStringLiteral("/org/freedesktop/PolicyKit1/Authority"),
+        QStringLiteral("org.freedesktop.PolicyKit1.Authority"), method);
+}
+
+// The structure (sa{sv}) by which the daemon names processes and people.
+QVariant named(const QString& kind, const QVariantMap& details) {
+    QDBusArgument argument;
+    argument.beginStructure();
+    argument << kind << details;
+    argument.endStructure();
+    return QVariant::fromValue(argument);
+}
+
+class Person : public QDBusVirtualObject {
+public:
+    Person(QString answer, int seconds, std::string record)
+        : _answer(std::move(answer))
+        , _seconds(seconds)
+        , _record(std::move(record)) {}
+
+    QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+        if (message.member() == QStringLiteral("BeginAuthentication")) {
+            std::ofstream(_record, std::ios::app)
+                << message.arguments().at(0).toString().toStdString() << std::endl;
+            QTimer::singleShot(_seconds * 1000, this,
+                               [this, message, connection] { answer(message, connection); });
+        } else {
+            connection.send(message.createReply());
+        }
+        return true;
+    }
+
+private:
+    void answer(const QDBusMessage& question, const QDBusConnection& connection) {
+        if (_answer == QStringLiteral("dismiss")) {
+            connection.send(question.createErrorReply(
+                QStringLiteral("org.freedesktop.PolicyKit1.Error.Cancelled"), {}));
+            return;
+        }
+        if (_answer == QStringLiteral("allow")) {
+            constexpr int cookieOfQuestion = 4;
+            auto word = authorityCall(QStringLiteral("AuthenticationAgentResponse2"));
+            word << static_cast<quint32>(::getuid()) << question.arguments().at(cookieOfQuestion)
+                 << named(QStringLiteral("unix-user"), {{QStringLiteral("uid"), 0U}});
+            const auto reply = connection.call(word);
+            if (reply.type() == QDBusMessage::ErrorMessage) {
+                std::fprintf(stderr, "kxperson: %s\n", qPrintable(reply.errorMessage()));
+            }
+        }
+        connection.send(question.createReply());
+    }
+
+    QString _answer;
+    int _seconds;
+    std::string _record;
+};
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    const QCoreApplication application(argc, argv);
+    const auto words = QCoreApplication::arguments();
+    if (words.size() != 5) {
+        std::fprintf(stderr, "usage: kxperson PROCESS ANSWER SECONDS RECORD\n");
+        return 2;
+    }
+    auto bus = QDBusConnection::systemBus();
+    Person person(words[2], words[3].toInt(), words[4].toStdString());
+    bus.registerVirtualObject(agentPath, &person);
+
+    auto registration = authorityCall(QStringLiteral("RegisterAuthenticationAgent"));
+    registration << named(QStringLiteral("unix-process"),
+                          {{QStringLiteral("pid"), words[1].toUInt()},
+                           {QStringLiteral("start-time"), static_cast<quint64>(0)}})
+                 << QStringLiteral("C") << agentPath;
+    const auto reply = bus.call(registration);
+    if (reply.type() == QDBusMessage::ErrorMessage) {
+        std::fprintf(stderr, "kxperson: %s\n", qPrintable(reply.errorMessage()));
+        return 1;
+    }
+    std::puts("ready");
+    std::fflush(stdout);
+    return QCoreApplication::exec();
+}

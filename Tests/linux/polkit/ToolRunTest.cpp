@@ -1,0 +1,149 @@
+// The start and the end of a tool: the same for a rule that lets the user run it and for root.
+
+#include "AuthorityFixture.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <csignal>
+
+namespace kx {
+
+namespace {
+
+using Ends = std::vector<int>;
+
+class AToolRun : public AuthorityFixture {};
+
+TEST_F(AToolRun, IsDoneWhenTheStartReturns) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbour(), unitAddress);
+}
+
+TEST_F(AToolRun, HasItsEndToldFromTheRunLoop) {
+    ASSERT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(ends, Ends{});
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{0});
+    EXPECT_FALSE(hasChildren());
+}
+
+TEST_F(AToolRun, MayFailAfterItsStart) {
+    EXPECT_EQ(run(arpTool, {"-s", "203.0.113.1", "not-a-hardware-address"}),
+              errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{255});
+}
+
+TEST_F(AToolRun, IsNotTakenForARefusalByItsStatus) {
+    for (const int status : {126, 127}) {
+        ends.clear();
+        EXPECT_EQ(runShell("exit " + std::to_string(status)), errAuthorizationSuccess);
+        EXPECT_TRUE(runUntilEnd());
+        EXPECT_EQ(ends, Ends{status});
+    }
+}
+
+TEST_F(AToolRun, TellsTheSignalThatEndedIt) {
+    EXPECT_EQ(runShell("kill -KILL $$"), errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{128 + SIGKILL});
+}
+
+TEST_F(AToolRun, NeedsAToolThatIsThere) {
+    EXPECT_EQ(run("/usr/sbin/no-such-tool", {}), errAuthorizationToolExecuteFailure);
+    EXPECT_EQ(run("/etc/passwd", {}), errAuthorizationToolExecuteFailure);
+    EXPECT_FALSE(hasChildren());
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, Ends{});
+}
+
+TEST_F(AToolRun, GetsItsArgumentsAsTheyAre) {
+    const std::string script =
+        R"([ $# = 3 ] && [ "$1" = 'a b' ] && [ "$2" = '' ] && [ "$3" = '$HOME;' ])";
+    EXPECT_EQ(run(shell, {"-c", script, "name", "a b", "", "$HOME;"}), errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{0});
+}
+
+TEST_F(AToolRun, MayHaveNoArguments) {
+    EXPECT_EQ(run("/bin/true", {}), errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{0});
+}
+
+TEST_F(AToolRun, IsTheAdministratorsAndReadsNothing) {
+    EXPECT_EQ(runShell("read line && exit 1; exit $(id -u)"), errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{0});
+}
+
+TEST_F(AToolRun, GetsNoDescriptorOfTheApplication) {
+    const int descriptor = ::open("/dev/null", O_RDONLY);
+    ASSERT_GE(descriptor, 0);
+    EXPECT_EQ(runShell("[ ! -e /proc/$$/fd/" + std::to_string(descriptor) + " ]"),
+              errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{0});
+    ::close(descriptor);
+}
+
+TEST_F(AToolRun, GoesOnAfterAMoment) {
+    HeldTool tool;
+    EXPECT_EQ(runShell(tool.script()), errAuthorizationSuccess);
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, Ends{});
+    tool.release();
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{5});
+    EXPECT_FALSE(hasChildren());
+}
+
+TEST_F(AToolRun, IsReapedThoughNobodyWantsToKnow) {
+    HeldTool tool;
+    EXPECT_EQ(runShell(tool.script()), errAuthorizationSuccess);
+    EXPECT_EQ(reference->executeWithPrivileges("/bin/true", {}, {}), errAuthorizationSuccess);
+    reference.reset();
+    tool.release();
+    EXPECT_TRUE(runLoopUntil(loop, [] { return !hasChildren(); }));
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, Ends{});
+}
+
+TEST_F(AToolRun, LetsItsReferenceBeDestroyedByTheWordOfItsEnd) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(reference->executeWithPrivileges(arpTool, {"-s", newAddress, unitAddress},
+                                               [this](int status) {
+                                                   ends.push_back(status);
+                                                   reference.reset();
+                                               }),
+              errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    runLoopFor(loop, std::chrono::milliseconds(300));
+    EXPECT_EQ(ends, (Ends{0, 0}));
+    EXPECT_FALSE(hasChildren());
+}
+
+TEST_F(AToolRun, LeavesNothingBehind) {
+    const auto runAll = [this] {
+        EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping),
+                  errAuthorizationSuccess);
+        EXPECT_EQ(runArp(), errAuthorizationSuccess);
+        EXPECT_EQ(run("/usr/sbin/no-such-tool", {}), errAuthorizationToolExecuteFailure);
+        EXPECT_TRUE(runUntilEnd());
+        ends.clear();
+        reference = service->create();
+    };
+    runAll(); // what the bus library keeps is opened here
+    const auto before = openDescriptors();
+    for (int round = 0; round < 5; ++round) {
+        runAll();
+    }
+    // The bus library closes its last connection in its own time.
+    EXPECT_TRUE(runLoopUntil(loop, [before] { return openDescriptors() <= before; }));
+    EXPECT_FALSE(hasChildren());
+}
+
+} // namespace
+
+} // namespace kx

@@ -1,0 +1,268 @@
+#!/usr/bin/env bash
+#
+# in_polkit.sh - run a command as an ordinary user under a polkit daemon of its own
+#
+# SYNOPSIS
+#   Tests/linux/polkit/in_polkit.sh [option]... [--] command [argument]...
+#
+# DESCRIPTION
+#   Starts the host's own message bus and polkit daemon anew, with a private /run, and runs the
+#   command there as the user kx-user, who is in no administrator's group. The daemon knows the
+#   application's action, from Resources/, and those of polkit itself. A person may sit at the
+#   dialogs of the command; their administrator is root.
+#
+#   It needs root, because a program that changes its user does not do so for anybody else's
+#   namespaces. The mounts and processes are its own, the network is the caller's: run it inside
+#   scripts/lab for a private one with units. Nothing of it is left when the command has ended.
+#
+#   The command finds
+#     HOME           a folder of its own
+#     KX_DIALOGS     a file with one line for each question that the person was asked, the
+#                    action's name
+#
+# OPTIONS
+#   --person ANSWER  who sits at the dialogs: one who will allow, refuse (by a wrong password) or
+#                    dismiss; without this option nobody does
+#   --after SECONDS  how long the person takes for each answer; default 0
+#   --rule RESULT    what the host's rules say of the user's questions, before any dialog: yes or
+#                    no; without this option what the actions themselves say
+#   --without PART   what the host lacks: "action", the application's own, "launcher", the program
+#                    that runs tools, "polkit", the daemon, or "bus", which means the daemon too
+#   --root           run the command as root
+#   --help           this text
+#
+# ENVIRONMENT
+#   KX_BUILD_DIR     where kxperson was built, as bin/kxperson; default build/dev
+#
+# EXIT STATUS
+#   The command's own, 128 and the signal's number when a signal ended it; 125 when this script
+#   itself failed, 2 when it was called wrongly, 77 without the rights that it needs.
+#
+# EXAMPLE
+#   scripts/lab -- Tests/linux/polkit/in_polkit.sh --person allow -- build/dev/bin/kxconfig
+
+set -euo pipefail
+PATH=$PATH:/usr/sbin:/sbin
+
+readonly failed=125 usage_failed=2 skipped=77
+readonly seconds_to_ready=20
+readonly user=kx-user user_id=54321
+
+die() {
+    local status=$1
+    shift
+    printf 'in_polkit: %s\n' "$*" >&2
+    exit "$status"
+}
+
+print_help() {
+    sed -n '3,/^$/{s/^# \{0,1\}//;p}' "$script"
+}
+
+# Copies a file or folder and mounts the copy over it, so that it can be changed here alone.
+mount_copy() {
+    local copy=$scratch/${1//\//_}
+    cp -a -- "$1" "$copy"
+    mount --bind -- "$copy" "$1"
+}
+
+add_user() {
+    mount_copy /etc/passwd
+    mount_copy /etc/group
+    mount_copy /etc/shadow
+    printf '%s:x:%d:%d::%s:/bin/bash\n' "$user" "$user_id" "$user_id" "$home" >>/etc/passwd
+    printf '%s:x:%d:\n' "$user" "$user_id" >>/etc/group
+    printf '%s:!:19000:0:99999:7:::\n' "$user" >>/etc/shadow
+    install -d -m 700 -o "$user_id" -g "$user_id" "$home"
+}
+
+install_actions() {
+    local actions=/usr/share/polkit-1/actions
+    install -d -m 755 "$scratch/actions"
+    cp -- "$actions/org.freedesktop.policykit.policy" "$scratch/actions"
+    [[ $without == action ]] || cp -- "$top"/Resources/*.policy "$scratch/actions"
+    mount --bind -- "$scratch/actions" "$actions"
+}
+
+install_rules() {
+    local rules=/etc/polkit-1/rules.d
+    install -d -m 755 "$scratch/rules"
+    {
+        printf 'polkit.addAdminRule(function(action, subject) { return ["unix-user:root"]; });\n'
+        if [[ -n $rule ]]; then
+            printf 'polkit.addRule(function(action, subject) {\n'
+            printf '    return subject.user == "%s" ? polkit.Result.%s : null;\n});\n' \
+                "$user" "${rule^^}"
+        fi
+    } >"$scratch/rules/10-test.rules"
+    mount --bind -- "$scratch/rules" "$rules"
+}
+
+# The folder of the project may lie below one that is closed to others. Then what lies there besides
+# is hidden, so that the way to it can be opened.
+open_way_to_project() {
+    as_user test -r "$script" && return
+    local closed=/${top#/}
+    while ! as_user test -x "${closed%/*}/" && [[ ${closed%/*} != '' ]]; do
+        closed=${closed%/*}
+    done
+    install -d "$scratch/project"
+    mount --rbind -- "$top" "$scratch/project"
+    mount -t tmpfs -o mode=755 tmpfs "$closed"
+    mkdir -p -- "$top"
+    mount --rbind -- "$scratch/project" "$top"
+    as_user test -r "$script" || die "$failed" "$top is closed to other users"
+}
+
+# Reads the first line that a program writes to the descriptor $2, when it is ready.
+await() {
+    read -r -t "$seconds_to_ready" -u "$2" || {
+        cat -- "$scratch"/bus "$scratch"/polkitd >&2 2>/dev/null || true
+        die "$failed" "$1 did not start"
+    }
+}
+
+has_daemon() {
+    dbus-send --system --print-reply --dest=org.freedesktop.DBus / \
+        org.freedesktop.DBus.GetNameOwner string:org.freedesktop.PolicyKit1 >/dev/null 2>&1
+}
+
+start_bus() {
+    # The bus is not to start any services by itself.
+    mount -t tmpfs -o mode=755 tmpfs /usr/share/dbus-1/system-services
+    exec {ready}< <(exec dbus-daemon --system --nofork --nopidfile --nosyslog --print-address \
+        2>"$scratch/bus")
+    await 'the bus' "$ready"
+}
+
+start_daemon() {
+    /usr/lib/polkit-1/polkitd --no-debug >"$scratch/polkitd" 2>&1 &
+    local end=$((SECONDS + seconds_to_ready))
+    until has_daemon; do
+        ((SECONDS < end)) || die "$failed" "polkit did not start: $(<"$scratch/polkitd")"
+        sleep 0.02
+    done
+}
+
+seat_person() {
+    exec {ready}< <(exec "$kxperson" "$command_pid" "$person" "$seconds" "$dialogs")
+    await 'the person' "$ready"
+}
+
+as_user() {
+    setpriv --reuid "$user_id" --regid "$user_id" --clear-groups -- "$@"
+}
+
+# Becomes the command, once the line comes that says everything is ready for it.
+become_command() {
+    read -r <"$scratch/go"
+    local identity=(--reuid "$user_id" --regid "$user_id" --clear-groups)
+    if $as_root; then
+        identity=()
+    fi
+    exec setpriv "${identity[@]}" -- env --default-signal=INT,QUIT \
+        HOME="$home" USER="$user" LOGNAME="$user" KX_DIALOGS="$dialogs" "$@"
+}
+
+run_inside() {
+    set -E
+    trap 'exit "$failed"' ERR
+    umask 022
+    # The folder of the bus and, so that there is nothing to clean up, of everything else.
+    mount -t tmpfs -o mode=755 tmpfs /run
+    scratch=/run/kx
+    install -d -m 755 /run/dbus "$scratch"
+    home=$scratch/home dialogs=$scratch/dialogs
+    : >"$dialogs"
+    mkfifo -- "$scratch/go"
+
+    add_user
+    open_way_to_project
+    if [[ $without != bus ]]; then
+        start_bus
+    fi
+    if [[ $without == launcher ]]; then
+        mount --bind /dev/null /usr/bin/pkexec
+    fi
+    if [[ $without != @(polkit|bus) ]]; then
+        install_actions
+        install_rules
+        start_daemon
+    fi
+
+    become_command "$@" <&0 &
+    local command_pid=$!
+    if [[ -n $person ]]; then
+        seat_person
+    fi
+    printf 'go\n' >"$scratch/go"
+    trap - ERR
+    local status=0
+    wait "$command_pid" || status=$?
+    exit "$status"
+}
+
+script=$(readlink -f -- "${BASH_SOURCE[0]}")
+top=${script%/Tests/linux/polkit/in_polkit.sh}
+kxperson=${KX_BUILD_DIR:-$top/build/dev}/bin/kxperson
+
+options=() person='' seconds=0 rule='' without='' as_root=false inside=false
+while (($# > 0)); do
+    case $1 in
+    --help)
+        print_help
+        exit 0
+        ;;
+    --inside) inside=true ;;
+    --root)
+        as_root=true
+        options+=("$1")
+        ;;
+    --person | --after | --rule | --without)
+        (($# > 1)) || die "$usage_failed" "$1 needs a value"
+        case $1 in
+        --person) person=$2 ;;
+        --after) seconds=$2 ;;
+        --rule) rule=$2 ;;
+        --without) without=$2 ;;
+        esac
+        options+=("$1" "$2")
+        shift
+        ;;
+    --)
+        shift
+        break
+        ;;
+    -*) die "$usage_failed" "unknown option $1; see --help" ;;
+    *) break ;;
+    esac
+    shift
+done
+(($# > 0)) || die "$usage_failed" 'no command; see --help'
+[[ $person =~ ^(allow|refuse|dismiss|)$ ]] ||
+    die "$usage_failed" '--person needs allow, refuse or dismiss'
+[[ $seconds =~ ^[0-9]+$ ]] || die "$usage_failed" '--after needs a number of seconds'
+[[ $rule =~ ^(yes|no|)$ ]] || die "$usage_failed" '--rule needs yes or no'
+[[ $without =~ ^(action|launcher|polkit|bus|)$ ]] ||
+    die "$usage_failed" '--without needs action, launcher, polkit or bus'
+
+if $inside; then
+    run_inside "$@"
+fi
+# In a namespace in which root is somebody else outside, there is no other user to become.
+if ! reason=$(unshare --mount --pid --fork setpriv --reuid "$user_id" true 2>&1); then
+    printf 'skipped: no right to a private system bus here (%s)\n' "$reason"
+    exit "$skipped"
+fi
+[[ -x $kxperson ]] || die "$failed" "no program $kxperson; build it, or set KX_BUILD_DIR"
+# Everything goes with the process that made the namespaces, which does not outlive this one. It
+# would ignore a mere request to end.
+setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child --mount-proc -- \
+    "$script" --inside ${options[@]+"${options[@]}"} -- "$@" <&0 &
+namespaces=$!
+trap 'kill -KILL "$namespaces"; exit 129' HUP
+trap 'kill -KILL "$namespaces"; exit 130' INT
+trap 'kill -KILL "$namespaces"; exit 143' TERM
+status=0
+wait "$namespaces" || status=$?
+exit "$status"

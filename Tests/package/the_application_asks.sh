@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Runs in the lab: the application of the root file system $1, as a person without rights, off screen,
+# asks every unit for its parameters, as the record $2 tells, and goes on until it is ended.
+set -euo pipefail
+# shellcheck source=Tests/lab/expectations.sh
+source "${BASH_SOURCE[0]%/*}/../lab/expectations.sh"
+root=$1 record=$2
+
+readonly units=3 request=5E5E496458 limit=60
+
+env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 HOME=/home/person XDG_RUNTIME_DIR=/run/person \
+    QT_QPA_PLATFORM=offscreen \
+    chroot --userspec=nobody:nogroup "$root" kxconfig &
+pid=$!
+
+asked() { (($(grep -c " $request\$" "$record") >= units)); }
+SECONDS=0
+until asked || ! kill -0 "$pid" 2>/dev/null || ((SECONDS > limit)); do
+    sleep 0.1
+done
+asked || fail "the units heard: $(<"$record")"
+
+kill -TERM "$pid"
+status=0
+wait "$pid" || status=$?
+expect_equal 'how the application ended' "$((128 + $(kill -l TERM)))" "$status"

@@ -1,0 +1,55 @@
+// Tests that run real children: each must leave no child and no descriptor behind.
+
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+#include <cerrno>
+#include <chrono>
+#include <cstddef>
+#include <filesystem>
+#include <functional>
+#include <iterator>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace kx {
+
+class ChildFixture : public testing::Test {
+public:
+    // Here, when what a test's own fixture holds is gone.
+    ~ChildFixture() override {
+        EXPECT_TRUE(hasNoChild()) << "a child is left";
+        EXPECT_EQ(openDescriptors(), _openAtFirst) << "a descriptor is left";
+    }
+
+protected:
+    // The arguments that make /bin/sh run this script.
+    static std::vector<std::string> script(const std::string& text) { return {"-c", text}; }
+
+    // False when the condition does not hold within a time that only a hang uses up.
+    static bool waitUntil(const std::function<bool()>& condition) {
+        const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+        while (!condition() && std::chrono::steady_clock::now() < end) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+        }
+        return condition();
+    }
+
+    // Whether every child of this process has been reaped; reaps none itself.
+    static bool hasNoChild() {
+        siginfo_t end{};
+        return ::waitid(P_ALL, 0, &end, WEXITED | WNOHANG | WNOWAIT) != 0 && errno == ECHILD;
+    }
+
+    static std::ptrdiff_t openDescriptors() {
+        return std::distance(std::filesystem::directory_iterator("/proc/self/fd"), {});
+    }
+
+private:
+    std::ptrdiff_t _openAtFirst = openDescriptors();
+};
+
+} // namespace kx

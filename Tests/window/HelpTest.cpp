@@ -1,0 +1,381 @@
+// Help over the real desktop seam: the adapters, the viewer, and the window's way to them.
+
+#include "MainWindowFixture.h"
+#include "RecordedBrowser.h"
+#include "contracts/ApplicationWindowsContract.h"
+#include "contracts/HelpServicesContract.h"
+#include "contracts/ViewContract.h"
+#include "platform/qt/HelpViewer.h"
+#include "platform/qt/InstalledResources.h"
+#include "platform/qt/QtApplicationWindows.h"
+#include "platform/qt/QtHelpServices.h"
+#include "platform/qt/QtView.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <memory>
+
+namespace kx {
+
+namespace {
+
+void writeFile(const QString& path, const QByteArray& content, QFile::Permissions permissions) {
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    file.write(content);
+    file.close();
+    ASSERT_TRUE(file.setPermissions(permissions)) << path.toStdString();
+}
+
+// The desktop's register of applications, as the program that is asked for it.
+class ScriptedRegister {
+public:
+    ScriptedRegister() {
+        qputenv("PATH", _folder.path().toLocal8Bit());
+        qunsetenv("BROWSER");
+        setBrowser("browser.desktop");
+    }
+    ~ScriptedRegister() {
+        qputenv("PATH", _pathBefore);
+        if (!_browserBefore.isNull()) {
+            qputenv("BROWSER", _browserBefore);
+        }
+    }
+    ScriptedRegister(const ScriptedRegister&) = delete;
+    ScriptedRegister& operator=(const ScriptedRegister&) = delete;
+
+    void setBrowser(const char* desktopEntry) {
+        const QByteArray script = QByteArray("#!/bin/sh\n"
+                                             "[ \"$*\" = 'query default text/html' ] || exit 1\n"
+                                             "echo ") +
+                                  desktopEntry + '\n';
+        writeFile(program(), script, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+    }
+    void remove() { QFile::remove(program()); }
+
+private:
+    QString program() const { return _folder.filePath("xdg-mime"); }
+
+    QTemporaryDir _folder;
+    QByteArray _pathBefore = qgetenv("PATH");
+    QByteArray _browserBefore = qgetenv("BROWSER");
+};
+
+// A folder of resources with help pages.
+class HelpFolder {
+public:
+    HelpFolder() { QDir(_folder.path()).mkdir("homepage"); }
+
+    void addPage(const std::string& name, const QByteArray& body = {}) {
+        const QByteArray page = "<!DOCTYPE html><html><head><title>Page " +
+                                QByteArray::fromStdString(name) + "</title></head><body>" + body +
+                                "</body></html>";
+        writeFile(pages() + '/' + QString::fromStdString(name) + ".html", page, QFile::ReadOwner);
+    }
+
+    QString path() const { return _folder.path(); }
+    QString pages() const { return _folder.filePath("homepage"); }
+
+private:
+    QTemporaryDir _folder;
+};
+
+HelpViewer* openViewer() {
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+        auto* const viewer = qobject_cast<HelpViewer*>(widget);
+        if (viewer != nullptr && viewer->isVisible()) {
+            return viewer;
+        }
+    }
+    return nullptr;
+}
+
+std::string pageInViewer() {
+    const HelpViewer* viewer = openViewer();
+    return viewer == nullptr ? ""
+                             : viewer->findChild<QTextBrowser*>()
+                                   ->source()
+                                   .fileName()
+                                   .chopped(static_cast<int>(sizeof ".html") - 1)
+                                   .toStdString();
+}
+
+class QtHelpServicesTrait {
+public:
+    QtHelpServicesTrait() {
+        _keyboard.show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(&_keyboard));
+    }
+    HelpServices& services() { return _services; }
+    void addPage(const std::string& name) { _folder.addPage(name); }
+    void holdOptionKey(bool held) {
+        if (held) {
+            QTest::keyPress(_keyboard.windowHandle(), Qt::Key_A, Qt::AltModifier);
+        } else {
+            QTest::keyRelease(_keyboard.windowHandle(), Qt::Key_A);
+        }
+    }
+    void setBrowser(bool exists) { _register.setBrowser(exists ? "browser.desktop" : ""); }
+    std::vector<std::string> openedURLs() { return _browser.urls; }
+    std::string shownPage() { return pageInViewer(); }
+
+private:
+    HelpFolder _folder;
+    ScriptedRegister _register;
+    RecordedBrowser _browser;
+    QWidget _keyboard;
+    QtHelpServices _services{_folder.path()};
+};
+
+class WindowOfDelegate final : public QWidget, public DelegatingWindow {
+public:
+    explicit WindowOfDelegate(const WindowDelegate* delegate)
+        : _delegate(delegate) {}
+    const WindowDelegate* windowDelegate() const override { return _delegate; }
+
+private:
+    const WindowDelegate* _delegate;
+};
+
+class QtApplicationWindowsTrait {
+public:
+    const ApplicationWindows& windows() { return _windows; }
+    void addWindow(const WindowDelegate* delegate) {
+        _widgets.push_back(std::make_unique<WindowOfDelegate>(delegate));
+    }
+
+private:
+    std::vector<std::unique_ptr<QWidget>> _widgets;
+    QtApplicationWindows _windows;
+};
+
+class QtViewTrait {
+public:
+    View& view() { return _view; }
+
+private:
+    QWidget _widget;
+    QtView _view{_widget};
+};
+
+} // namespace
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, HelpServicesContract, QtHelpServicesTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ApplicationWindowsContract, QtApplicationWindowsTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ViewContract, QtViewTrait);
+
+TEST(QtView, WhatLiesInAHiddenViewKeepsItsOwnSetting) {
+    QWidget outer;
+    QWidget inner(&outer);
+    outer.show();
+    QtView outerView(outer);
+    const QtView innerView(inner);
+    hideView(outerView);
+    EXPECT_FALSE(inner.isVisible());
+    EXPECT_FALSE(innerView.isHidden());
+}
+
+TEST(QtApplicationWindows, AWidgetOfAnotherKindHasNoDelegate) {
+    const QWidget plain;
+    EXPECT_EQ(QtApplicationWindows().delegates(), std::vector<const WindowDelegate*>{nullptr});
+}
+
+TEST(QtHelpServices, TheProgramFindsItsResourcesBesideItsOwnFolder) {
+    const QDir programs(QCoreApplication::applicationDirPath());
+    EXPECT_EQ(QFileInfo(installedResourceFolder()).absoluteFilePath(),
+              QFileInfo(programs.filePath("../share/kxconfig"))
+                  .absoluteFilePath()
+                  .replace("/bin/..", ""));
+    EXPECT_TRUE(QtHelpServices(installedResourceFolder())
+                    .pathForResource("index", "html", "homepage")
+                    .has_value());
+}
+
+TEST(QtHelpServices, WhereTheRegisterCannotBeAskedTheDesktopMayTry) {
+    RecordedBrowser browser;
+    ScriptedRegister desktop;
+    desktop.remove();
+    EXPECT_TRUE(QtHelpServices("/nowhere").openInBrowser("file:///a.html"));
+    EXPECT_EQ(browser.urls, std::vector<std::string>{"file:///a.html"});
+}
+
+TEST(QtHelpServices, ABrowserOfTheEnvironmentCounts) {
+    RecordedBrowser browser;
+    ScriptedRegister desktop;
+    desktop.setBrowser("");
+    EXPECT_FALSE(QtHelpServices("/nowhere").openInBrowser("file:///a.html"));
+    qputenv("BROWSER", "lynx");
+    EXPECT_TRUE(QtHelpServices("/nowhere").openInBrowser("file:///a.html"));
+    qunsetenv("BROWSER");
+}
+
+TEST(QtHelpServices, AFolderIsNoPage) {
+    HelpFolder folder;
+    QDir(folder.pages()).mkdir("index.html");
+    EXPECT_EQ(QtHelpServices(folder.path()).pathForResource("index", "html", "homepage"),
+              std::nullopt);
+}
+
+TEST(QtHelpServices, TheViewerGoesWithItsServices) {
+    HelpFolder folder;
+    folder.addPage("index");
+    {
+        QtHelpServices services(folder.path());
+        EXPECT_TRUE(services.openAnchorInBook("index", "Help"));
+        EXPECT_NE(openViewer(), nullptr);
+    }
+    EXPECT_EQ(openViewer(), nullptr);
+}
+
+class HelpViewerTest : public testing::Test {
+protected:
+    HelpViewerTest() {
+        folder.addPage("index", "<a href='log.html'>Log</a>");
+        folder.addPage("log");
+        viewer = std::make_unique<HelpViewer>(folder.pages());
+        viewer->showPage("index", "Help");
+        EXPECT_TRUE(QTest::qWaitForWindowActive(viewer.get()));
+    }
+
+    QPushButton& button(const char* name) { return *viewer->findChild<QPushButton*>(name); }
+    QTextBrowser& pages() { return *viewer->findChild<QTextBrowser*>(); }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+        QTest::keyClick(viewer->windowHandle(), key, modifiers);
+    }
+    void followLink() {
+        pages().setFocus();
+        press(Qt::Key_Tab); // to the first link
+        press(Qt::Key_Return);
+    }
+
+    HelpFolder folder;
+    std::unique_ptr<HelpViewer> viewer;
+};
+
+TEST_F(HelpViewerTest, IsTitledWithThePageAndTheBook) {
+    EXPECT_EQ(viewer->windowTitle(), "Page index – Help");
+    viewer->showPage("log", "Other Help");
+    EXPECT_EQ(viewer->windowTitle(), "Page log – Other Help");
+}
+
+TEST_F(HelpViewerTest, GoesBackAndForwardAndToTheContents) {
+    EXPECT_FALSE(button("helpBackButton").isEnabled());
+    EXPECT_FALSE(button("helpForwardButton").isEnabled());
+    followLink();
+    EXPECT_EQ(pageInViewer(), "log");
+    button("helpBackButton").click();
+    EXPECT_EQ(pageInViewer(), "index");
+    EXPECT_FALSE(button("helpBackButton").isEnabled());
+    button("helpForwardButton").click();
+    EXPECT_EQ(pageInViewer(), "log");
+    button("helpContentsButton").click();
+    EXPECT_EQ(pageInViewer(), "index");
+}
+
+TEST_F(HelpViewerTest, IsDrivenByTheKeyboardAlone) {
+    followLink();
+    EXPECT_EQ(pageInViewer(), "log");
+    press(Qt::Key_Left, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return pageInViewer() == "index"; }));
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return pageInViewer() == "log"; }));
+    press(Qt::Key_Home, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([] { return pageInViewer() == "index"; }));
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(QTest::qWaitFor([] { return openViewer() == nullptr; }));
+}
+
+TEST_F(HelpViewerTest, ClosesByItsButtonAndByTheKeysOfTheDesktop) {
+    button("helpCloseButton").click();
+    EXPECT_FALSE(viewer->isVisible());
+    viewer->showPage("index", "Help");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(viewer.get()));
+    press(Qt::Key_W, Qt::ControlModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return !viewer->isVisible(); }));
+}
+
+TEST_F(HelpViewerTest, LinksThatLeadOutOfTheBookDoNothing) {
+    folder.addPage("links", "<a href='http://127.0.0.1/'>network</a>");
+    folder.addPage("outside", "<a href='../secret.html'>file</a>");
+    writeFile(folder.path() + "/secret.html", "secret", QFile::ReadOwner);
+    for (const char* page : {"links", "outside"}) {
+        viewer->showPage(page, "Help");
+        followLink();
+        EXPECT_EQ(pageInViewer(), page);
+    }
+}
+
+TEST_F(HelpViewerTest, OnlyFilesOfTheBookAreRead) {
+    writeFile(folder.path() + "/secret.css", "p { color: red }", QFile::ReadOwner);
+    for (const char* url : {"../secret.css", "http://127.0.0.1/style.css", "/etc/passwd"}) {
+        EXPECT_FALSE(pages().loadResource(QTextDocument::StyleSheetResource, QUrl(url)).isValid())
+            << url;
+    }
+    EXPECT_TRUE(pages().loadResource(QTextDocument::HtmlResource, QUrl("log.html")).isValid());
+}
+
+TEST_F(HelpViewerTest, RemembersNothingOnceItWasClosed) {
+    QtHelpServices services(folder.path());
+    viewer.reset();
+    ASSERT_TRUE(services.openAnchorInBook("index", "Help"));
+    ASSERT_TRUE(services.openAnchorInBook("log", "Help"));
+    EXPECT_TRUE(openViewer()->findChild<QPushButton*>("helpBackButton")->isEnabled());
+    openViewer()->close();
+    ASSERT_TRUE(services.openAnchorInBook("log", "Help"));
+    EXPECT_FALSE(openViewer()->findChild<QPushButton*>("helpBackButton")->isEnabled());
+}
+
+TEST_F(HelpViewerTest, FollowsTheColoursOfTheApplication) {
+    const QPalette before = QApplication::palette();
+    const auto corner = [this] { return pages().grab().toImage().pixelColor(20, 60).lightness(); };
+    EXPECT_GT(corner(), 200);
+    QApplication::setPalette(QPalette(QColor(53, 53, 53), QColor(45, 45, 45)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return corner() < 100; }));
+    EXPECT_EQ(pageInViewer(), "index");
+    QApplication::setPalette(before);
+}
+
+TEST_F(MainWindowTest, TheHelpButtonAndItsKeyOpenTheHelp) {
+    launch();
+    openHelp = [] { return true; };
+    click("helpButton");
+    EXPECT_EQ(helpAnchors, std::vector<std::string>{"index"});
+    press(Qt::Key_F1);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 2; }));
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(MainWindowTest, WithAltTheKeyOpensTheHelpToo) {
+    launch();
+    Qt::KeyboardModifiers modifiers;
+    openHelp = [&] {
+        modifiers = QGuiApplication::keyboardModifiers();
+        return true;
+    };
+    press(Qt::Key_F1, Qt::AltModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 1; }));
+    EXPECT_EQ(modifiers, Qt::AltModifier);
+}
+
+TEST_F(MainWindowTest, AHelpThatCannotBeOpenedIsSaidInTheQuietLine) {
+    launch();
+    openHelp = [] { return false; };
+    click("helpButton");
+    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, hold the "
+                           "Alt key while you press Help.");
+    openHelp = [] { return true; };
+    click("helpButton");
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(MainWindowTest, TheControllerIsTheDelegateOfItsWindowWhileItIsConnected) {
+    const QtApplicationWindows windows;
+    EXPECT_EQ(window.windowDelegate(), &controller);
+    EXPECT_EQ(instanceCount<KXConfigAppDelegate>(windows), 1U);
+    window.disconnectActions();
+    EXPECT_EQ(instanceCount<KXConfigAppDelegate>(windows), 0U);
+}
+
+} // namespace kx

@@ -1,0 +1,201 @@
+// Editing a parameter with mouse and keyboard: the edit row, Apply, the quiet line and the alert.
+
+#include "MainWindowFixture.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
+
+namespace kx {
+
+namespace {
+
+using Texts = std::vector<std::string>;
+
+class MainWindowApply : public MainWindowTest {
+protected:
+    // Opens the editor of a parameter's value and types into it.
+    void typeInstead(UnitParameter parameter, const char* text) {
+        clickCell("unitParameterTableView", static_cast<int>(parameter), 1);
+        press(Qt::Key_Return);
+        ASSERT_NE(editor(), nullptr);
+        type(text);
+    }
+
+    QLineEdit* editor() {
+        auto* const found =
+            control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
+        return found != nullptr && found->isVisible() ? found : nullptr;
+    }
+
+    bool editorCloses() {
+        return QTest::qWaitFor([this] { return editor() == nullptr; });
+    }
+
+    std::string editedValue() { return cell("editParameterTableView", 0, 1); }
+};
+
+} // namespace
+
+TEST_F(MainWindowApply, AClickOnApplySendsTheEditRowsValue) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 3, 1);
+    newlySent();
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
+}
+
+TEST_F(MainWindowApply, ApplyWithAnOpenEditSendsWhatWasTyped) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "10001");
+    newlySent();
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{"^^IdP2711"});
+    EXPECT_EQ(editedValue(), "10001");
+    EXPECT_EQ(editor(), nullptr);
+}
+
+TEST_F(MainWindowApply, TheShortcutAppliesOutOfAnOpenEdit) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "10001");
+    newlySent();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(newlySent(), Texts{"^^IdP2711"});
+    EXPECT_EQ(quietLine(), "Sent ^^IdP2711. The unit has not answered yet.");
+    EXPECT_EQ(window.focusWidget(), &control<QWidget>("editParameterTableView"));
+    EXPECT_TRUE(editorCloses());
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(newlySent(), Texts{"^^IdP2711"});
+}
+
+TEST_F(MainWindowApply, TheMenuAppliesToo) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 7, 1);
+    newlySent();
+    control<QAction>("applyAction").trigger();
+    EXPECT_EQ(newlySent(), Texts{"^^IdU00000000002A"});
+}
+
+TEST_F(MainWindowApply, TheKeyboardAloneLeadsFromTheRowToApply) {
+    launchWithTwoUnits();
+    control<QWidget>("unitParameterTableView").setFocus();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    ASSERT_EQ(cell("editParameterTableView", 0, 0), "destination Port number");
+    press(Qt::Key_Return);
+    type("3521");
+    press(Qt::Key_Return);
+    ASSERT_TRUE(editorCloses());
+    EXPECT_EQ(editedValue(), "3521");
+    newlySent();
+    press(Qt::Key_Tab);
+    EXPECT_EQ(window.focusWidget(), &control<QWidget>("applyButton"));
+    press(Qt::Key_Return);
+    EXPECT_EQ(newlySent(), Texts{"^^IdT0DC1"});
+    press(Qt::Key_Space);
+    EXPECT_EQ(newlySent(), Texts{"^^IdT0DC1"});
+}
+
+TEST_F(MainWindowApply, TabOutOfAnOpenEditKeepsWhatWasTyped) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "10001");
+    newlySent();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(editorCloses());
+    EXPECT_EQ(editedValue(), "10001");
+}
+
+TEST_F(MainWindowApply, ApplyIsNeverDisabled) {
+    launch();
+    EXPECT_TRUE(control<QPushButton>("applyButton").isEnabled());
+    EXPECT_TRUE(control<QAction>("applyAction").isEnabled());
+    newlySent();
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{});
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(MainWindowApply, TheQuietLineFollowsEveryKey) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 2, 1);
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520.");
+    control<QWidget>("editParameterTableView").setFocus();
+    type("3"); // opens the editor with this character in it
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 3 is outside "
+                           "3520 to 3523.");
+    type("524");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside "
+                           "3520 to 3523.");
+    press(Qt::Key_Backspace);
+    type("3");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    EXPECT_EQ(editedValue(), "3520");
+}
+
+TEST_F(MainWindowApply, AnEditThatIsGivenUpIsForgottenByTheQuietLine) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "1");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP0001: device port 1.");
+    press(Qt::Key_Escape);
+    EXPECT_TRUE(editorCloses());
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2710: device port 10000.");
+    newlySent();
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
+}
+
+TEST_F(MainWindowApply, TheQuietLineShowsTheUnitsAnswer) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::destinationPortNumber, "3523");
+    click("applyButton");
+    SampleUnit changed;
+    changed.destinationPort = {0x0D, 0xC3};
+    receive(changed.acknowledgement());
+    receive(changed.reply());
+    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number.");
+    EXPECT_EQ(cell("unitParameterTableView", 2, 1), "3523");
+}
+
+TEST_F(MainWindowApply, RefusedRightsAreAModalAlertAndTheCommandIsSent) {
+    launchWithTwoUnits();
+    authority.answerDialogsWith(errAuthorizationDenied);
+    typeInstead(UnitParameter::internalIPAddress, "10.0.0.7");
+    newlySent();
+    Texts seen;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, &person, [&] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (box == nullptr || !box->isVisible()) {
+            return;
+        }
+        person.stop();
+        seen = {box->windowTitle().toStdString(), box->text().toStdString(),
+                box->buttons().constFirst()->text().toStdString()};
+        EXPECT_EQ(newlySent(), Texts{});
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    person.start(std::chrono::milliseconds(1));
+    click("applyButton");
+    EXPECT_EQ(seen, (Texts{"KXConfig",
+                           "Authentication was not completed, some features may not be available.",
+                           "OK"}));
+    EXPECT_EQ(newlySent(), Texts{"^^IdI0A000007"});
+    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet. The ARP cache has "
+                           "no entry for 10.0.0.7: administrator rights were not given.");
+}
+
+TEST_F(MainWindowApply, NothingOfAnEditReachesAControllerThatWasTakenAway) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "1");
+    const std::string before = quietLine();
+    newlySent();
+    window.disconnectActions();
+    type("2");
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{});
+    EXPECT_EQ(quietLine(), before);
+}
+
+} // namespace kx

@@ -1,0 +1,93 @@
+// A thousand edits in a row.
+
+#include "LiveBlocks.h"
+#include "WireFixture.h"
+
+#include <array>
+
+namespace kx {
+
+namespace {
+
+using enum UnitParameter;
+
+struct Edit {
+    UnitParameter parameter;
+    std::string value;
+};
+
+// Each parameter by which a unit stays the same for the controller, back and forth.
+const std::array<Edit, 10> edits{{
+    {destinationPortNumber, "3523"},
+    {destinationIPAddress, "192.0.2.98"},
+    {destinationMACAddress, "02:00:00:AA:BB:CC"},
+    {internalMACAddress, "02:4B:58:AA:BB:CC"},
+    {unitID, "sensor"},
+    {destinationPortNumber, "3520"},
+    {destinationIPAddress, "192.0.2.1"},
+    {destinationMACAddress, "02:00:00:00:00:01"},
+    {internalMACAddress, "02:4B:58:00:00:01"},
+    {unitID, "7"},
+}};
+
+constexpr std::size_t editCount = 1000;
+
+} // namespace
+
+using ManyEdits = WireTest;
+
+TEST_F(ManyEdits, EachIsAcknowledgedAndShown) {
+    for (std::size_t i = 0; i < editCount; ++i) {
+        const Edit& edit = edits[i % edits.size()];
+        const std::size_t commandsBefore = link.commandCount();
+        apply(edit.parameter, edit.value);
+        converse();
+        ASSERT_EQ(link.commandCount(), commandsBefore + 2); // the edit and the parameter request
+        ASSERT_EQ(link.acknowledgementCount(), i + 1);
+        ASSERT_EQ(shown(edit.parameter), edit.value);
+    }
+    EXPECT_EQ(systemLog.lines(), std::vector<std::string>{});
+}
+
+TEST_F(ManyEdits, AUnitMovesAThousandTimes) {
+    for (std::size_t i = 0; i < editCount; ++i) {
+        const std::string address =
+            "10.0." + std::to_string(i / 100) + "." + std::to_string(1 + i % 100);
+        apply(internalIPAddress, address);
+        converse();
+        ASSERT_EQ(link.acknowledgementCount(), i + 1);
+        ASSERT_EQ(shown(internalIPAddress), address);
+    }
+    EXPECT_EQ(authority.dialogs(), 1);
+    EXPECT_EQ(authority.referencesAlive(), 1);
+}
+
+// The event log grows, in one block, until the next Discover.
+TEST_F(ManyEdits, LeaveNothingBehind) {
+    const auto applyAll = [&](std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i) {
+            const Edit& edit = edits[i % edits.size()];
+            apply(edit.parameter, edit.value);
+            converse();
+        }
+    };
+    applyAll(100);
+    const std::size_t blocksBefore = liveBlocks();
+    applyAll(editCount);
+    EXPECT_EQ(liveBlocks(), blocksBefore);
+    EXPECT_EQ(link.openCount(), 1U);
+    EXPECT_EQ(runLoop.watchCount(), 1U);
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+    discover();
+    EXPECT_LT(controller.eventLog().size(), 1000U);
+}
+
+TEST(LiveBlocks, CountsWhatIsHeld) {
+    const std::size_t before = liveBlocks();
+    auto* const block = new std::array<char, 100>();
+    EXPECT_EQ(liveBlocks(), before + 1);
+    delete block;
+    EXPECT_EQ(liveBlocks(), before);
+}
+
+} // namespace kx

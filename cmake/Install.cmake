@@ -1,0 +1,69 @@
+# Where everything goes that people install, relative to the prefix.
+#
+#   bin/                        both programs
+#   share/applications, share/metainfo, share/icons, share/man
+#                               what a desktop reads
+#   share/polkit-1/actions      the action that asks for administrator rights; its daemon looks
+#                               there below a prefix of /usr
+#   share/kxconfig/             the help pages and the dissector
+#
+# The version comes from project(), the day from the clock or SOURCE_DATE_EPOCH.
+
+include(GNUInstallDirs)
+
+set(KX_PICTURES_URL "" CACHE STRING
+    "Where docs/pictures is published, for the software centres; empty when it is not")
+
+set(data_dir "${CMAKE_INSTALL_DATADIR}/kxconfig")
+set(generated_dir "${PROJECT_BINARY_DIR}/install")
+string(TIMESTAMP KX_RELEASE_DAY "%Y-%m-%d" UTC)
+
+# Writes FILE.gz beside each file.
+function(kx_compress)
+    find_program(KX_GZIP gzip REQUIRED)
+    execute_process(COMMAND "${KX_GZIP}" -9nkf ${ARGN} COMMAND_ERROR_IS_FATAL ANY)
+endfunction()
+
+# The manual page PAGE, compressed.
+function(kx_install_manual PAGE)
+    configure_file("${PROJECT_SOURCE_DIR}/Resources/man/${PAGE}.in" "${generated_dir}/${PAGE}" @ONLY)
+    kx_compress("${generated_dir}/${PAGE}")
+    install(FILES "${generated_dir}/${PAGE}.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+endfunction()
+
+# Software centres load pictures from the web only.
+function(kx_set_screenshots VARIABLE)
+    set(${VARIABLE} "" PARENT_SCOPE)
+    if(KX_PICTURES_URL)
+        set(${VARIABLE} "  <screenshots>
+    <screenshot type=\"default\">
+      <caption>The main window after a discovery, with the event log open</caption>
+      <image type=\"source\">${KX_PICTURES_URL}/window-log.png</image>
+    </screenshot>
+  </screenshots>
+" PARENT_SCOPE)
+    endif()
+endfunction()
+
+install(TARGETS kxconfig kxunits RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+kx_install_manual(kxconfig.1)
+kx_install_manual(kxunits.1)
+
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.desktop"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.policy"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/polkit-1/actions")
+kx_set_screenshots(KX_SCREENSHOTS)
+configure_file("${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.metainfo.xml.in"
+    "${generated_dir}/org.kxconfig.KXConfig.metainfo.xml" @ONLY)
+install(FILES "${generated_dir}/org.kxconfig.KXConfig.metainfo.xml"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+set(icons_dir "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig.svg"
+    DESTINATION "${icons_dir}/scalable/apps")
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig-symbolic.svg"
+    DESTINATION "${icons_dir}/symbolic/apps")
+
+install(FILES "${PROJECT_SOURCE_DIR}/Resources/wireshark/kxconfig.lua"
+    DESTINATION "${data_dir}/wireshark")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/Resources/homepage" DESTINATION "${data_dir}")
