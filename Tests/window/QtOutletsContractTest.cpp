@@ -20,7 +20,6 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
-#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>

@@ -36,7 +36,7 @@ FindBar::FindBar(LogTextView& log, QWidget* parent)
     _field.setObjectName("logFindField");
     _field.setClearButtonEnabled(true);
     _result.setObjectName("logFindResult");
-    auto* const label = new QLabel(tr("F&ind:"), this);
+    auto* const label = new QLabel(tr("Find:"), this);
     label->setBuddy(&_field);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 4, 0, 0);

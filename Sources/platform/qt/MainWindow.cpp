@@ -49,8 +49,8 @@ struct MainWindow::Controls {
         , optionCommandField(*ui.optionCommandField)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
-        , alert(mainWindow)
-        , findBar(*ui.logTextView, ui.logScrollView) {
+        , findBar(*ui.logTextView, ui.logScrollView)
+        , alert(mainWindow) {
         ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
@@ -68,8 +68,8 @@ struct MainWindow::Controls {
     QtTextField optionCommandField;
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
-    QtAlert alert;
     FindBar findBar;
+    QtAlert alert;
 };
 
 MainWindow::MainWindow(QWidget* parent)
