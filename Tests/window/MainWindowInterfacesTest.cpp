@@ -66,8 +66,11 @@ TEST_F(MainWindowInterfaces, AnInterfaceThatCameLaterCanBeChosen) {
     EXPECT_NE(controller.eventLog().find("with address: 10.255.255.255"), std::string::npos);
 }
 
-TEST_F(MainWindowInterfaces, AGoneInterfaceLeavesAWordInItsPlace) {
+TEST_F(MainWindowInterfaces, AChosenInterfaceThatIsGoneLeavesAWordInItsPlace) {
     launchWithInterface();
+    clickPopUp();
+    ASSERT_TRUE(listIsOpen());
+    QTest::keyClick(popUp().view(), Qt::Key_Return);
     interfaces.clear();
     addWiFi();
     clickPopUp();

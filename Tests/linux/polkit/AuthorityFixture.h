@@ -67,6 +67,12 @@ protected:
         return {};
     }
 
+    // The same, once it has one: a tool on a busy host may still be at work when its start is told.
+    std::string neighbourInTime() {
+        runLoopUntil(loop, [] { return !neighbour().empty(); });
+        return neighbour();
+    }
+
     static bool hasChildren() { return ::waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD; }
 
     static std::ptrdiff_t openDescriptors() {

@@ -23,7 +23,7 @@ TEST_F(AnAllowingPerson, IsAskedOnce) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
@@ -64,14 +64,14 @@ TEST_F(AnAllowingPerson, GrantsNothingUnderTheNextReference) {
 
 TEST_F(AnAllowingPerson, IsAskedByTheRunWhenNobodyWasBefore) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
 // Longer than the moment that a tool is given.
 TEST_F(AnAllowingPerson, MayTakeTheirTimeInTheRun) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
 }
 
 // Longer than a call to another program takes as a rule.
@@ -136,7 +136,7 @@ class ARuleThatAllows : public AuthorityFixture {};
 TEST_F(ARuleThatAllows, NeedsNoPerson) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
     EXPECT_EQ(dialogs(), Actions{});
 }
 
@@ -201,7 +201,7 @@ class TheAdministrator : public AuthorityFixture {};
 TEST_F(TheAdministrator, NeedsNobodyElse) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
 }
 
 TEST_F(TheAdministrator, HoldsARightOnceItWasAskedFor) {

@@ -17,7 +17,7 @@ class AToolRun : public AuthorityFixture {};
 
 TEST_F(AToolRun, IsDoneWhenTheStartReturns) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(neighbour(), unitAddress);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
 }
 
 TEST_F(AToolRun, HasItsEndToldFromTheRunLoop) {
