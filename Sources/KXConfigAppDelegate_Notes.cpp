@@ -72,7 +72,9 @@ void KXConfigAppDelegate::beginReport(EditReport report) {
 }
 
 void KXConfigAppDelegate::showReport() {
-    _outlets.quietLine->setStringValue(_editReport->text());
+    if (_editReport.has_value()) {
+        _outlets.quietLine->setStringValue(_editReport->text());
+    }
 }
 
 void KXConfigAppDelegate::unitDidAccept(const std::optional<std::string>& serial) {

@@ -57,7 +57,7 @@ protected:
     std::string receivedFor(UnitParameter parameter, const std::string& value) {
         const std::size_t before = link.commandCount();
         apply(parameter, value);
-        const std::string received =
+        std::string received =
             link.commandCount() > before ? link.lastCommand() : std::string("(nothing)");
         converse();
         return received;
