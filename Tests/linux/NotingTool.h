@@ -1,0 +1,47 @@
+// A stand-in for a tool of the host that notes what it is given.
+
+#pragma once
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+
+namespace kx {
+
+class NotingTool {
+public:
+    NotingTool() = default;
+    ~NotingTool() { std::filesystem::remove_all(_folder); }
+    NotingTool(const NotingTool&) = delete;
+    NotingTool& operator=(const NotingTool&) = delete;
+
+    // A program that notes its arguments, one on each line, and then runs these commands.
+    std::string program(const std::string& commands) const {
+        return "#!/bin/sh\nfor word in \"$@\"; do echo \"$word\"; done >>" + _folder + "/words\n" +
+               commands + "\n";
+    }
+
+    // What the tool was given so far; empty when it has not run.
+    std::string words() const {
+        std::ostringstream text;
+        const std::ifstream file(_folder + "/words");
+        if (file) {
+            text << file.rdbuf();
+        }
+        return text.str();
+    }
+
+    // A folder of the test's own.
+    const std::string& folder() const { return _folder; }
+
+private:
+    std::string _folder = std::string(::mkdtemp(std::string("/tmp/kx-arp-XXXXXX").data()));
+};
+
+inline std::string saying(const std::string& sentence) {
+    return "echo '" + sentence + "'";
+}
+
+} // namespace kx
