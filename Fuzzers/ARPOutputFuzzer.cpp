@@ -1,25 +1,16 @@
 // The output of the ARP tool.
 
 #include "FuzzInput.h"
+#include "QuietLog.h"
 #include "addresses/ARPTable.h"
 #include "addresses/HardwareAddress.h"
-#include "support/SystemLog.h"
 
 #include <string>
 
 using namespace kx;
 
-namespace {
-
-class NoLog final : public SystemLog {
-    void write(std::string_view /*line*/) override {}
-};
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static NoLog noLog;
-    installSystemLog(&noLog);
+    keepSystemLogQuiet();
     const std::string output(textOfInput(data, size));
 
     const auto found = hwAddressStringInToolOutput(output);

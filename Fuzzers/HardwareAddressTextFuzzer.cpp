@@ -1,25 +1,16 @@
 // The parsers of typed hardware addresses.
 
 #include "FuzzInput.h"
+#include "QuietLog.h"
 #include "addresses/HardwareAddress.h"
-#include "support/SystemLog.h"
 
 #include <array>
 #include <string>
 
 using namespace kx;
 
-namespace {
-
-class NoLog final : public SystemLog {
-    void write(std::string_view /*line*/) override {}
-};
-
-} // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static NoLog noLog;
-    installSystemLog(&noLog);
+    keepSystemLogQuiet();
     const std::string text(textOfInput(data, size));
 
     HardwareAddress::Octets octets{};
