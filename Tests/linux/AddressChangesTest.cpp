@@ -38,9 +38,9 @@ bool hasChildren() {
 // What 300 changes may add to the resident memory, in bytes. The event log grows by less than a
 // fifth of it. The address sanitizer keeps everything that was freed for a while.
 #if defined(__SANITIZE_ADDRESS__)
-constexpr long mostGrowth = 16 * 1024 * 1024;
+constexpr long mostGrowth = 16L * 1024 * 1024;
 #else
-constexpr long mostGrowth = 512 * 1024;
+constexpr long mostGrowth = 512L * 1024;
 #endif
 
 // In bytes.
