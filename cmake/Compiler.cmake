@@ -12,6 +12,7 @@ target_compile_options(kxwarnings INTERFACE
 if(KX_SANITIZE)
     add_compile_options(-fsanitize=${KX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${KX_SANITIZE})
+    add_compile_definitions(KX_SANITIZED)
     # Instrumented code hides from GCC that a value has been set, as in std::regex. The other presets
     # keep this warning.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")

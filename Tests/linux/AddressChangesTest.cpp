@@ -37,7 +37,7 @@ bool hasChildren() {
 
 // What 300 changes may add to the resident memory, in bytes. The event log grows by less than a
 // fifth of it. The address sanitizer keeps everything that was freed for a while.
-#if defined(__SANITIZE_ADDRESS__)
+#if defined(KX_SANITIZED)
 constexpr long mostGrowth = 16L * 1024 * 1024;
 #else
 constexpr long mostGrowth = 512L * 1024;

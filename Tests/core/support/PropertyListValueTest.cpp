@@ -85,7 +85,7 @@ TEST(PropertyListValue, WhatWasMovedFromIsTheEmptyText) {
 }
 
 TEST(PropertyListValue, MayBeAssignedAnElementOfItself) {
-    PropertyListValue value(PropertyList{PropertyList{"inner"}});
+    PropertyListValue value(PropertyList(1, PropertyList{"inner"}));
     value = PropertyListValue(value.list()->front());
     EXPECT_EQ(value.description(), "(inner)");
 }
