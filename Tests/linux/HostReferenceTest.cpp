@@ -44,7 +44,7 @@ class HiddenProcesses {
 public:
     HiddenProcesses() {
         if (::unshare(CLONE_NEWNS) != 0 ||
-            ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0 ||
             ::mount("none", "/proc", "tmpfs", 0, nullptr) != 0) {
             throw std::runtime_error(std::strerror(errno));
         }

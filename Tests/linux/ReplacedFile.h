@@ -27,8 +27,8 @@ public:
         ::close(::mkstemp(copy));
         std::ofstream(copy) << contents;
         const bool isMounted = ::chmod(copy, mode) == 0 && ::unshare(CLONE_NEWNS) == 0 &&
-                               ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-                               ::mount(copy, _path.c_str(), nullptr, MS_BIND, nullptr) == 0;
+                               ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0 &&
+                               ::mount(copy, _path.c_str(), "none", MS_BIND, nullptr) == 0;
         const int errorNumber = errno;
         ::unlink(copy); // the mount keeps it
         if (!isMounted) {

@@ -1,11 +1,11 @@
 #include "platform/posix/ThreadHostResolver.h"
 
+#include "DescriptorsAtRest.h"
 #include "PollLoopDriver.h"
 #include "contracts/BrokenContract.h"
 #include "contracts/HostResolverContract.h"
 #include "doubles/ManualRunLoop.h"
 
-#include <dirent.h>
 #include <netdb.h>
 #include <sys/resource.h>
 
@@ -38,23 +38,6 @@ private:
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Thread, HostResolverContract, ThreadHostResolverTrait);
-
-std::size_t entryCount(const char* path) {
-    std::size_t count = 0;
-    DIR* const directory = ::opendir(path);
-    while (::readdir(directory) != nullptr) {
-        ++count;
-    }
-    ::closedir(directory);
-    return count;
-}
-
-// The number of open descriptors once no lookup holds any: when this thread is the only one left.
-std::size_t descriptorsAtRest(PollRunLoop& loop) {
-    constexpr std::size_t oneThread = 3; // itself, "." and ".."
-    EXPECT_TRUE(runLoopUntil(loop, [] { return entryCount("/proc/self/task") == oneThread; }));
-    return entryCount("/proc/self/fd");
-}
 
 // A lookup that takes as long as the test wants.
 struct SlowLookup {
@@ -216,8 +199,10 @@ TEST(ThreadHostResolver, ALookupThatThrowsIsReportedAsWantOfMemory) {
     EXPECT_FALSE(reported->addresses.has_value());
 }
 
-// The statement of a death test runs in a process of its own, threads and all.
+// The statement of a death test runs in a process of its own, threads and all; one that is not a
+// fork of a process with threads.
 TEST(ThreadHostResolverDeathTest, ARequestIsStartedOnce) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
     const auto startTwice = [] {
         PollRunLoop loop;
         ThreadHostResolver resolver(loop, [](const std::string&) { return HostResolution(); });

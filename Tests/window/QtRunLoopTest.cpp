@@ -6,11 +6,14 @@
 #include "contracts/RunLoopWatchesContract.h"
 #include "support/TaskSupport.h"
 
+#include <qpa/qwindowsysteminterface.h>
 #include <unistd.h>
 
 #include <QAbstractEventDispatcher>
+#include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWindow>
 
 namespace kx {
 
@@ -37,6 +40,14 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopContract, QtRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopCallsContract, QtRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopWatchesContract, QtRunLoopTrait);
+
+class KeyCounter final : public QWindow {
+public:
+    int keys = 0;
+
+protected:
+    void keyPressEvent(QKeyEvent* /*event*/) override { ++keys; }
+};
 
 } // namespace
 
@@ -65,6 +76,27 @@ TEST(QtRunLoop, NothingWakesTheLoopAtRest) {
                              &QAbstractEventDispatcher::awake);
     rest.exec();
     EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+}
+
+TEST(QtRunLoop, WhatAPersonDoesWaitsAndDoesNotKeepTheLoopBusy) {
+    QtRunLoop loop;
+    KeyCounter window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QTest::qWait(50); // what earlier tests left in the queue
+
+    // As the window system tells it: it waits in a queue until the loop takes it.
+    QWindowSystemInterface::handleKeyEvent(&window, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
+    bool isOver = false;
+    int questions = 0;
+    const auto end = loop.callOnceAfter(milliseconds(300), [&] { isOver = true; });
+    loop.runUntil([&] {
+        ++questions;
+        return isOver;
+    });
+    EXPECT_EQ(window.keys, 0);
+    EXPECT_LE(questions, 20);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return window.keys == 1; }));
 }
 
 TEST(QtRunLoop, AToolIsWaitedForWhileTheLoopRuns) {

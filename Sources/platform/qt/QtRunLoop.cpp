@@ -110,6 +110,9 @@ void QtRunLoop::runUntil(const std::function<bool()>& isDone) {
     while (!isDone()) {
         loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
     }
+    // Input that came meanwhile waits in a queue. A dispatcher that has passed over it once does
+    // not look at it again before something wakes it.
+    loop.wakeUp();
 }
 
 } // namespace kx
