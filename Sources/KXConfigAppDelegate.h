@@ -20,6 +20,7 @@
 #include "UDPEcho.h"
 #include "UnitParameters.h"
 #include "support/Authorization.h"
+#include "support/GrowingText.h"
 #include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
@@ -169,7 +170,7 @@ public:
     Window* window() const { return _outlets.window; }
     void setWindow(Window* window) { _outlets.window = window; }
 
-    const std::string& eventLog() const { return logText; }
+    std::string eventLog() const { return logText.text(); } // a copy
     const Registry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null: there is none
@@ -203,6 +204,7 @@ private:
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
+    void showWholeLog();
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
     std::optional<UnitParameter> editedParameter() const;
     std::string editedValue() const;
@@ -231,7 +233,7 @@ private:
 
     std::vector<std::string> _interfaceTitles;   // what the pop-up offers
     std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
-    std::string logText;
+    GrowingText logText;
     std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.
     std::uint32_t localAddress = 0;
