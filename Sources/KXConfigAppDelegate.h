@@ -16,6 +16,7 @@
 #include "EditReport.h"
 #include "KXParameterEntry.h"
 #include "Outlets.h"
+#include "ReceiveBuffers.h"
 #include "System Configuration/NetworkInterfaces.h"
 #include "UDPEcho.h"
 #include "UnitParameters.h"
@@ -57,6 +58,9 @@ public:
         std::function<bool(std::string_view anchor)> openHelpAnchor = {};
 
         AuthorizationService* authorizationService = nullptr; // null: nobody gives rights
+
+        // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
+        ReceiveBuffers* receiveBuffers = nullptr;
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.
@@ -180,6 +184,10 @@ private:
     std::vector<std::string> currentInterfaceTitles() const;
     void restartListener(std::size_t port);
     void stopListener();
+    void enlargeReceiveBuffer();
+    void countDropsSoon();
+    void countDrops();
+    void showDrops(std::uint32_t datagrams);
     void didStartListenerWithAddress(const Bytes& address);
     std::uint32_t firstAddressOfService(const std::optional<std::string>& serviceID,
                                         std::string_view key) const;
@@ -246,6 +254,8 @@ private:
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
     bool _messageStands = false;             // when the quiet line holds a message for a person
     std::optional<std::string> _sendFailure; // why the latest datagram was not sent
+    std::uint32_t _shownDrops = 0;           // what the drop line says
+    bool _dropsWillBeCounted = false;        // by a delayed call
     std::list<RunLoop::Handle> _delayedCalls;
 };
 
