@@ -6,8 +6,8 @@
 
 #pragma once
 
-#include <QElapsedTimer>
 #include <QTimer>
+#include <chrono>
 
 namespace kx {
 
@@ -17,12 +17,18 @@ public:
     LoopWatch();
 
     // So far, the time that is passing now included.
-    qint64 longestWaitInMilliseconds() const;
+    std::chrono::milliseconds longestWait() const;
+
+    // The most that the program's main thread worked between two calls: what is left of the longest
+    // wait on a machine that does nothing else.
+    std::chrono::milliseconds longestWork() const;
 
 private:
     QTimer _tick;
-    QElapsedTimer _sinceTick;
-    qint64 _longest = 0;
+    std::chrono::nanoseconds _timeAtTick;
+    std::chrono::nanoseconds _workAtTick;
+    std::chrono::nanoseconds _longestWait{0};
+    std::chrono::nanoseconds _longestWork{0};
 };
 
 } // namespace kx

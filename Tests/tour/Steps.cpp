@@ -89,7 +89,13 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
     } else if (verb == "watch") {
         _loopWatch = std::make_unique<LoopWatch>();
     } else if (verb == "waited") {
-        expectWait(argument.toInt());
+        expectAtMost("waited", watch().longestWait(), argument);
+    } else if (verb == "worked") {
+        expectAtMost("worked", watch().longestWork(), argument);
+    } else if (verb == "work") {
+        const LoopWatch own;
+        while (own.longestWork() < std::chrono::milliseconds(argument.toInt())) {
+        }
     } else if (verb == "pause") {
         QThread::msleep(argument.toULong());
     } else {
@@ -151,14 +157,19 @@ void Steps::expectDropped(const QString& text) {
     }
 }
 
-void Steps::expectWait(int milliseconds) const {
+const LoopWatch& Steps::watch() const {
     if (_loopWatch == nullptr) {
         throw Disappointment{"nobody has watched the loop"};
     }
-    const qint64 longest = _loopWatch->longestWaitInMilliseconds();
-    print(QString("Longest wait: %1 ms").arg(longest));
-    if (longest > milliseconds) {
-        throw Disappointment{QString("a user's event had to wait for %1 ms").arg(longest)};
+    return *_loopWatch;
+}
+
+void Steps::expectAtMost(const QString& what, std::chrono::milliseconds longest,
+                         const QString& limit) {
+    const auto found = static_cast<int>(longest.count());
+    print(QString("Longest time %1: %2 ms").arg(what).arg(found));
+    if (found > limit.toInt()) {
+        throw Disappointment{QString("%1 for %2 ms").arg(what).arg(found)};
     }
 }
 

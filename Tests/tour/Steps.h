@@ -20,8 +20,9 @@
 //   dropped                  expects that there is no such line
 //   watch                    begins to watch how long a user's event has to wait
 //   waited MILLISECONDS      prints how long one had to at most, and expects no longer time
+//   worked MILLISECONDS      the same of the time that the program worked for it
 //   pause MILLISECONDS       keeps the program from handling anything for so long
-//   picture NAME             leaves a picture (KX_TOUR_PICTURES)
+//   work MILLISECONDS        the same, by keeping it busy
 //   print                    prints the shown parameters and the event log
 //   stay                     leaves the window open at the end; nothing watches it any more
 //   read VARIABLE            prints the lines of the file that this environment variable names
@@ -56,7 +57,9 @@ private:
     QString dropLine() const;
     int droppedDatagrams() const;
     void expectDropped(const QString& text);
-    void expectWait(int milliseconds) const;
+    const LoopWatch& watch() const;
+    static void expectAtMost(const QString& what, std::chrono::milliseconds longest,
+                             const QString& limit);
     void pickUnit(const QString& serial);
     void pickParameter(const QString& name);
     void type(const QString& text);
