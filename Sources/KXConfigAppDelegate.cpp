@@ -42,6 +42,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
 void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
+    _dropsWillBeCounted = false;
     logText.clear();
     stopListener();
     _devicesD.clear();
@@ -145,6 +146,7 @@ void KXConfigAppDelegate::myHelp() {
 
 void KXConfigAppDelegate::restartListener(std::size_t port) {
     stopListener();
+    showDrops(0);
     _udpListener = UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
     _udpListener->setDelegate(this);
     _udpListener->startServerOnPort(port);
@@ -166,6 +168,7 @@ void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
     if (addressForData(address, ip, ip6, &port) == addressFamilyIPv4) {
         appendMessage("%@:%d", {stringForIP(ip), port});
     }
+    enlargeReceiveBuffer();
     if (_services.systemCalls.enableBroadcast(_udpListener->nativeSocket()) != 0) {
         appendMessage("\nError setting SO_BROADCAST %s", {posixErrorText(errno)});
         return;
@@ -186,6 +189,7 @@ void KXConfigAppDelegate::echoDidStartWithAddress(UDPEcho& echo, const Bytes& ad
 }
 
 void KXConfigAppDelegate::echoDidReceiveError(UDPEcho& /*echo*/, const Error& error) {
+    countDropsSoon();
     appendMessage("\nUDP did receive error.");
     appendMessage("\n  %@", {error.localizedDescription()});
 }

@@ -16,10 +16,12 @@
 #include "EditReport.h"
 #include "KXParameterEntry.h"
 #include "Outlets.h"
+#include "ReceiveBuffers.h"
 #include "System Configuration/NetworkInterfaces.h"
 #include "UDPEcho.h"
 #include "UnitParameters.h"
 #include "support/Authorization.h"
+#include "support/GrowingText.h"
 #include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
@@ -56,6 +58,9 @@ public:
         std::function<bool(std::string_view anchor)> openHelpAnchor = {};
 
         AuthorizationService* authorizationService = nullptr; // null: nobody gives rights
+
+        // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
+        ReceiveBuffers* receiveBuffers = nullptr;
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.
@@ -169,7 +174,7 @@ public:
     Window* window() const { return _outlets.window; }
     void setWindow(Window* window) { _outlets.window = window; }
 
-    const std::string& eventLog() const { return logText; }
+    std::string eventLog() const { return logText.text(); } // a copy
     const Registry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null: there is none
@@ -179,6 +184,10 @@ private:
     std::vector<std::string> currentInterfaceTitles() const;
     void restartListener(std::size_t port);
     void stopListener();
+    void enlargeReceiveBuffer();
+    void countDropsSoon();
+    void countDrops();
+    void showDrops(std::uint32_t datagrams);
     void didStartListenerWithAddress(const Bytes& address);
     std::uint32_t firstAddressOfService(const std::optional<std::string>& serviceID,
                                         std::string_view key) const;
@@ -203,6 +212,7 @@ private:
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
+    void showWholeLog();
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
     std::optional<UnitParameter> editedParameter() const;
     std::string editedValue() const;
@@ -231,7 +241,7 @@ private:
 
     std::vector<std::string> _interfaceTitles;   // what the pop-up offers
     std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
-    std::string logText;
+    GrowingText logText;
     std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.
     std::uint32_t localAddress = 0;
@@ -244,6 +254,8 @@ private:
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
     bool _messageStands = false;             // when the quiet line holds a message for a person
     std::optional<std::string> _sendFailure; // why the latest datagram was not sent
+    std::uint32_t _shownDrops = 0;           // what the drop line says
+    bool _dropsWillBeCounted = false;        // by a delayed call
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

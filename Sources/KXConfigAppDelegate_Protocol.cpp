@@ -83,6 +83,7 @@ void KXConfigAppDelegate::echoDidReceiveDataFromAddress(UDPEcho& echo, const Byt
     if (&echo != _udpListener.get()) {
         return; // an endpoint from before a restart
     }
+    countDropsSoon();
     appendMessage("\nUDP listener did receive data. Length: %d",
                   {static_cast<long long>(data.size())});
     try {

@@ -134,6 +134,7 @@ struct MainWindowOutlets {
     Window* window = nullptr;
     PopUpButton* interfacePopUp = nullptr;
     PopUpButton* udpPortPopUp = nullptr;
+    TextLabel* dropLine = nullptr; // how many datagrams the system dropped
     PopUpButton* unitSelectPopUp = nullptr;
     TextField* unitIDField = nullptr;
     TableView* unitParameterTableView = nullptr;

@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/LinuxReceiveBuffers.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
@@ -33,6 +34,7 @@ int main(int argc, char* argv[]) {
     kx::QtRunLoop runLoop;
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
+    kx::LinuxReceiveBuffers receiveBuffers;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
     kx::QtHelpServices helpServices(kx::installedResourceFolder());
@@ -57,7 +59,8 @@ int main(int argc, char* argv[]) {
                                [&helpServices](std::string_view anchor) {
                                    return kx::openHelpAnchor(anchor, helpServices);
                                },
-                           .authorizationService = authorizationService.get()});
+                           .authorizationService = authorizationService.get(),
+                           .receiveBuffers = &receiveBuffers});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

@@ -57,6 +57,17 @@ TEST_F(ControllerEventLog, OpeningTheDrawerShowsTheWholeLogAtOnce) {
     EXPECT_EQ(log().back(), "quiet");
 }
 
+TEST_F(ControllerEventLog, OpeningTheDrawerShowsALongLogWholeToo) {
+    for (int line = 0; line < 20'000; ++line) {
+        controller.appendString("\nline " + std::to_string(line));
+    }
+    window.logTextView.setString("from before");
+    controller.logDrawerButton();
+    EXPECT_TRUE(window.logTextView.text() == controller.eventLog());
+    EXPECT_EQ(log().back(), "line 19999");
+    EXPECT_EQ(window.logTextView.scrollCount(), 0);
+}
+
 TEST_F(ControllerEventLog, TextReachesTheViewInEveryStateButClosed) {
     for (const DrawerState state :
          {DrawerState::opening, DrawerState::open, DrawerState::closing}) {

@@ -13,6 +13,7 @@
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
+#include "doubles/ScriptedReceiveBuffers.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <gtest/gtest.h>
@@ -106,6 +107,7 @@ protected:
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
 
     std::string quietLine() const { return window.quietLine.text(); }
+    std::string dropLine() const { return window.dropLine.text(); }
 
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
     Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }
@@ -118,6 +120,7 @@ protected:
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
     ScriptedAuthorizationService authority;
+    ScriptedReceiveBuffers receiveBuffers;
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
     bool helpOpens = true;
@@ -128,7 +131,7 @@ protected:
                                         helpAnchors.emplace_back(anchor);
                                         return helpOpens;
                                     },
-                                    &authority}};
+                                    &authority, &receiveBuffers}};
 
 private:
     static std::string destination(const Bytes& record) {

@@ -5,6 +5,7 @@
 #include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/LocalizedTextContract.h"
+#include "contracts/ReceiveBuffersContract.h"
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/RunLoopWatchesContract.h"
@@ -16,6 +17,7 @@
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedLocalizedText.h"
+#include "doubles/ScriptedReceiveBuffers.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <netdb.h>
@@ -105,6 +107,22 @@ private:
     std::uint16_t _nextPort = 49152;
 };
 
+class ScriptedReceiveBuffersTrait {
+public:
+    ReceiveBuffers& buffers() { return _buffers; }
+    int newSocket() { return _nextDescriptor++; }
+    int closedDescriptor() { return -2; }
+    std::uint32_t overflow(int descriptor) {
+        constexpr std::uint32_t lost = 17;
+        _buffers.drop(descriptor, lost);
+        return lost;
+    }
+
+private:
+    ScriptedReceiveBuffers _buffers;
+    int _nextDescriptor = 1000;
+};
+
 class RecordedSystemLogTrait {
 public:
     SystemLog& log() { return _log; }
@@ -139,6 +157,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopCallsContract, ManualRunLoopTrait)
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopWatchesContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, ReceiveBuffersContract, ScriptedReceiveBuffersTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fixed, WallClockContract, FixedWallClockTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, LocalizedTextContract, ScriptedLocalizedTextTrait);

@@ -305,6 +305,7 @@ struct RecordedMainWindow {
     RecordedWindow window;
     RecordedPopUpButton interfacePopUp;
     RecordedPopUpButton udpPortPopUp{{"3520", "3521", "3522", "3523"}};
+    RecordedTextLabel dropLine;
     RecordedPopUpButton unitSelectPopUp;
     RecordedTextField unitIDField;
     GXArrayTable unitParameterTable;
@@ -322,6 +323,7 @@ struct RecordedMainWindow {
         outlets.window = &window;
         outlets.interfacePopUp = &interfacePopUp;
         outlets.udpPortPopUp = &udpPortPopUp;
+        outlets.dropLine = &dropLine;
         outlets.unitSelectPopUp = &unitSelectPopUp;
         outlets.unitIDField = &unitIDField;
         outlets.unitParameterTableView = &unitParameterTableView;

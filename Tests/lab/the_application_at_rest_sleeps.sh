@@ -1,19 +1,37 @@
 #!/usr/bin/env bash
-# After its first discovery the application has nothing to do until somebody does something: none of
-# its threads may wake up.
+# After its first discovery the application has nothing to do until somebody does something, whether
+# its event log is closed or open: none of its threads may wake up.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
-kxconfig=$2
+log=$1 kxconfig=$2
 
 # How often the threads of process $1 have gone to sleep, one line a thread.
 sleeps() {
     grep -H voluntary_ctxt_switches /proc/"$1"/task/*/status
 }
 
-QT_QPA_PLATFORM=offscreen "$kxconfig" &
+export QT_QPA_PLATFORM=offscreen
+output=$(mktemp)
+if [[ $log == open ]]; then
+    export QT_QPA_GENERIC_PLUGINS=kxsteps QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
+    export KX_STEPS='
+        discover 3
+        log
+        logs serial:4B 58 00 00 00 03
+        stay'
+fi
+"$kxconfig" >"$output" 2>&1 &
 pid=$!
-trap 'kill "$pid" 2>/dev/null || true' EXIT
+trap 'kill "$pid" 2>/dev/null || true; rm -f -- "$output"' EXIT
+
+visit_is_over() {
+    [[ $log == closed ]] || grep -q '^Tour complete' "$output"
+}
+for ((attempt = 0; attempt < 6; attempt++)); do
+    ! eventually visit_is_over || break
+done
+visit_is_over || fail "the event log was not opened: $(<"$output")"
 
 # A discovery is over when nothing has happened for longer than the 2.0 s that it waits for answers.
 before=

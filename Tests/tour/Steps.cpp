@@ -6,7 +6,10 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTest>
+#include <QThread>
 
 namespace kx {
 
@@ -67,10 +70,106 @@ void Steps::take(const QString& verb, const QString& argument) {
     } else if (verb == "print") {
         _driver.printParameters();
         _driver.printLog();
+    } else if (verb == "stay") {
+        _driver.leaveOpen();
     } else if (verb == "read") {
         printFile(qEnvironmentVariable(argument.toLatin1().constData()));
     } else {
+        takeOfCrowd(verb, argument);
+    }
+}
+
+void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
+    if (verb == "crowd") {
+        discoverCrowd(argument.toInt());
+    } else if (verb == "replies") {
+        expectReplies(argument.toInt());
+    } else if (verb == "dropped") {
+        expectDropped(argument);
+    } else if (verb == "watch") {
+        _loopWatch = std::make_unique<LoopWatch>();
+    } else if (verb == "waited") {
+        expectAtMost("waited", watch().longestWait(), argument);
+    } else if (verb == "worked") {
+        expectAtMost("worked", watch().longestWork(), argument);
+    } else if (verb == "work") {
+        const LoopWatch own;
+        while (own.longestWork() < std::chrono::milliseconds(argument.toInt())) {
+        }
+    } else if (verb == "pause") {
+        QThread::msleep(argument.toULong());
+    } else {
         throw Disappointment{"there is no step " + verb};
+    }
+}
+
+void Steps::discoverCrowd(int units) {
+    constexpr int longestRestInMilliseconds = 16'000;
+    const auto& list = _driver.control<QComboBox>("unitSelectPopUp");
+    const auto discoveryIsOver = [&] { return list.count() > 0; };
+    _driver.waitFor("the units of the launch", discoveryIsOver);
+    for (int rest = 2000; rest <= longestRestInMilliseconds; rest *= 2) {
+        _driver.press("discoverButton");
+        _driver.waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+        _driver.waitFor("the units of the crowd", discoveryIsOver);
+        if (list.count() >= units) {
+            return;
+        }
+        QTest::qWait(rest);
+    }
+    throw Disappointment{QString("%1 units are listed, not %2").arg(list.count()).arg(units)};
+}
+
+void Steps::expectReplies(int units) {
+    static const QRegularExpression reply("^Received command: .* serial:([0-9A-F ]+) cidString:",
+                                          QRegularExpression::MultilineOption);
+    _driver.waitFor(QString("replies of %1 units").arg(units), [&] {
+        const QString log = _driver.logText();
+        const int wanted = units - droppedDatagrams();
+        if (log.count("serial:") < wanted) {
+            return false; // soon said
+        }
+        QSet<QString> serials;
+        for (const auto& match : reply.globalMatch(log)) {
+            serials.insert(match.captured(1));
+        }
+        return serials.size() == wanted;
+    });
+    print(
+        QString("Replies: %1 units, of which %2 were dropped").arg(units).arg(droppedDatagrams()));
+}
+
+QString Steps::dropLine() const {
+    const auto& line = _driver.control<QLabel>("dropLine");
+    return line.isVisible() ? line.text() : QString();
+}
+
+int Steps::droppedDatagrams() const {
+    static const QRegularExpression number("[0-9]+");
+    return number.match(dropLine()).captured().toInt();
+}
+
+void Steps::expectDropped(const QString& text) {
+    if (!text.isEmpty()) {
+        expectText("line below Discover", text, [this] { return dropLine(); });
+    } else if (!dropLine().isEmpty()) {
+        throw Disappointment{dropLine()};
+    }
+}
+
+const LoopWatch& Steps::watch() const {
+    if (_loopWatch == nullptr) {
+        throw Disappointment{"nobody has watched the loop"};
+    }
+    return *_loopWatch;
+}
+
+void Steps::expectAtMost(const QString& what, std::chrono::milliseconds longest,
+                         const QString& limit) {
+    const auto found = static_cast<int>(longest.count());
+    print(QString("Longest time %1: %2 ms").arg(what).arg(found));
+    if (found > limit.toInt()) {
+        throw Disappointment{QString("%1 for %2 ms").arg(what).arg(found)};
     }
 }
 

@@ -2,6 +2,9 @@
 //
 //   interface NAME           chooses the interface of this name in the system
 //   discover COUNT           presses Discover and waits for so many units
+//   crowd COUNT              waits for the discovery of the launch, then presses Discover until so
+//                            many units are listed, with time to rest between: what a slow machine
+//                            reads later than after two seconds is listed by the next one
 //   unit SERIAL              chooses the unit with this serial number
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
@@ -10,9 +13,18 @@
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
 //   logs TEXT                waits until the event log, whose drawer must be open, has the text
+//   replies COUNT            waits until the event log, whose drawer must be open, holds replies
+//                            of so many units, less those that the line below Discover counts
 //   line TEXT                waits until the quiet line contains the text
-//   picture NAME             leaves a picture (KX_TOUR_PICTURES)
+//   dropped TEXT             waits until the line below Discover contains the text
+//   dropped                  expects that there is no such line
+//   watch                    begins to watch how long a user's event has to wait
+//   waited MILLISECONDS      prints how long one had to at most, and expects no longer time
+//   worked MILLISECONDS      the same of the time that the program worked for it
+//   pause MILLISECONDS       keeps the program from handling anything for so long
+//   work MILLISECONDS        the same, by keeping it busy
 //   print                    prints the shown parameters and the event log
+//   stay                     leaves the window open at the end; nothing watches it any more
 //   read VARIABLE            prints the lines of the file that this environment variable names
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
@@ -22,9 +34,11 @@
 
 #pragma once
 
+#include "LoopWatch.h"
 #include "WindowDriver.h"
 
 #include <QTimer>
+#include <memory>
 
 namespace kx {
 
@@ -37,6 +51,15 @@ public:
 
 private:
     void take(const QString& verb, const QString& argument);
+    void takeOfCrowd(const QString& verb, const QString& argument);
+    void discoverCrowd(int units);
+    void expectReplies(int units);
+    QString dropLine() const;
+    int droppedDatagrams() const;
+    void expectDropped(const QString& text);
+    const LoopWatch& watch() const;
+    static void expectAtMost(const QString& what, std::chrono::milliseconds longest,
+                             const QString& limit);
     void pickUnit(const QString& serial);
     void pickParameter(const QString& name);
     void type(const QString& text);
@@ -48,6 +71,7 @@ private:
 
     WindowDriver& _driver;
     QTimer _alertWatch;
+    std::unique_ptr<LoopWatch> _loopWatch;
 };
 
 } // namespace kx

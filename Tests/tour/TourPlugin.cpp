@@ -35,7 +35,9 @@ void visit() {
         return;
     }
     print("Tour complete.");
-    driver.window().close();
+    if (!driver.isLeftOpen()) {
+        driver.window().close();
+    }
 }
 
 } // namespace

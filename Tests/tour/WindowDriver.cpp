@@ -14,7 +14,7 @@ namespace kx {
 
 namespace {
 
-constexpr int patienceInMilliseconds = 10'000;
+constexpr int patienceInMilliseconds = 20'000;
 
 // The drawer takes no click while it moves.
 constexpr int drawerMovesInMilliseconds = 500;

@@ -2,8 +2,8 @@
 // keyboard, and what they would read.
 //
 // It knows the program as controls with object names, and reaches it through the window system's
-// own events. Main thread only; whatever waits does so in a nested event loop, for ten seconds at
-// most, and throws a Disappointment when that was in vain.
+// own events. Main thread only; whatever waits does so in a nested event loop, for twenty seconds
+// at most, and throws a Disappointment when that was in vain.
 
 #pragma once
 
@@ -29,6 +29,10 @@ public:
     // Waits for the program's main window; everything else needs it.
     void findWindow();
     QMainWindow& window() const { return *_window; }
+
+    // The window is not to be closed at the end of the visit, and the program runs on.
+    void leaveOpen() { _isLeftOpen = true; }
+    bool isLeftOpen() const { return _isLeftOpen; }
 
     template<class Control>
     Control& control(const char* objectName) const {
@@ -83,6 +87,7 @@ public:
 
 private:
     QMainWindow* _window = nullptr;
+    bool _isLeftOpen = false;
 };
 
 } // namespace kx

@@ -40,6 +40,7 @@ struct MainWindow::Controls {
         : window(mainWindow)
         , interfacePopUp(*ui.interfacePopUp)
         , udpPortPopUp(*ui.udpPortPopUp)
+        , dropLine(*ui.dropLine, EmptyLabel::isHidden)
         , unitSelectPopUp(*ui.unitSelectPopUp)
         , unitIDField(*ui.unitIDField)
         , unitParameterTableView(*ui.unitParameterTableView, parameterColumns(false))
@@ -59,6 +60,7 @@ struct MainWindow::Controls {
     QtWindow window;
     QtPopUpButton interfacePopUp;
     QtPopUpButton udpPortPopUp;
+    QtTextLabel dropLine;
     QtPopUpButton unitSelectPopUp;
     QtTextField unitIDField;
     QtTableView unitParameterTableView;
@@ -93,6 +95,7 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.window = &_controls->window;
     outlets.interfacePopUp = &_controls->interfacePopUp;
     outlets.udpPortPopUp = &_controls->udpPortPopUp;
+    outlets.dropLine = &_controls->dropLine;
     outlets.unitSelectPopUp = &_controls->unitSelectPopUp;
     outlets.unitIDField = &_controls->unitIDField;
     outlets.unitParameterTableView = &_controls->unitParameterTableView;

@@ -4,13 +4,18 @@
 
 namespace kx {
 
-QtTextLabel::QtTextLabel(QLabel& label)
-    : _label(label) {
+QtTextLabel::QtTextLabel(QLabel& label, EmptyLabel empty)
+    : _label(label)
+    , _empty(empty) {
     label.setTextFormat(Qt::PlainText);
+    QtTextLabel::setStringValue({});
 }
 
 void QtTextLabel::setStringValue(std::string_view text) {
     _label.setText(qtText(text));
+    if (_empty == EmptyLabel::isHidden) {
+        _label.setVisible(!text.empty());
+    }
 }
 
 } // namespace kx

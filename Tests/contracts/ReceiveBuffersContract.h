@@ -1,0 +1,77 @@
+// What every adapter to receive buffers must do: the contract of ReceiveBuffers.h.
+//
+// A test program runs it against its adapter by
+//
+//     INSTANTIATE_TYPED_TEST_SUITE_P(System, ReceiveBuffersContract, SystemTrait);
+//
+// with a trait that is made anew for each test and has
+//
+//     ReceiveBuffers& buffers();
+//     // A datagram socket, open as long as the trait lives.
+//     int newSocket();
+//     // A number that is no open descriptor.
+//     int closedDescriptor();
+//     // More datagrams come for the socket than its buffer holds. Returns how many got lost.
+//     std::uint32_t overflow(int descriptor);
+
+#pragma once
+
+#include "ReceiveBuffers.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+template<typename Trait>
+class ReceiveBuffersContract : public testing::Test {
+protected:
+    std::optional<std::uint32_t> dropped(int descriptor) {
+        return trait.buffers().droppedDatagrams(descriptor);
+    }
+
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(ReceiveBuffersContract);
+
+TYPED_TEST_P(ReceiveBuffersContract, ANewSocketHasDroppedNothing) {
+    EXPECT_EQ(this->dropped(this->trait.newSocket()), 0U);
+}
+
+TYPED_TEST_P(ReceiveBuffersContract, WhatFindsNoRoomIsCountedFromTheBeginning) {
+    const int descriptor = this->trait.newSocket();
+    const std::uint32_t first = this->trait.overflow(descriptor);
+    EXPECT_GT(first, 0U);
+    EXPECT_EQ(this->dropped(descriptor), first);
+    const std::uint32_t second = this->trait.overflow(descriptor);
+    EXPECT_GT(second, 0U);
+    EXPECT_EQ(this->dropped(descriptor), first + second);
+    EXPECT_EQ(this->dropped(descriptor), first + second) << "asking forgets nothing";
+}
+
+TYPED_TEST_P(ReceiveBuffersContract, EverySocketHasItsOwnCount) {
+    const int overflown = this->trait.newSocket();
+    const int other = this->trait.newSocket();
+    this->trait.overflow(overflown);
+    EXPECT_EQ(this->dropped(other), 0U);
+}
+
+TYPED_TEST_P(ReceiveBuffersContract, ALargerBufferKeepsTheCount) {
+    const int descriptor = this->trait.newSocket();
+    const std::uint32_t lost = this->trait.overflow(descriptor);
+    this->trait.buffers().enlarge(descriptor, 1 << 20);
+    EXPECT_EQ(this->dropped(descriptor), lost);
+}
+
+TYPED_TEST_P(ReceiveBuffersContract, AClosedDescriptorHasNoCountAndTakesNoWish) {
+    for (const int descriptor : {this->trait.closedDescriptor(), -1}) {
+        this->trait.buffers().enlarge(descriptor, 1 << 20);
+        EXPECT_EQ(this->dropped(descriptor), std::nullopt);
+    }
+}
+
+REGISTER_TYPED_TEST_SUITE_P(ReceiveBuffersContract, ANewSocketHasDroppedNothing,
+                            WhatFindsNoRoomIsCountedFromTheBeginning, EverySocketHasItsOwnCount,
+                            ALargerBufferKeepsTheCount, AClosedDescriptorHasNoCountAndTakesNoWish);
+
+} // namespace kx

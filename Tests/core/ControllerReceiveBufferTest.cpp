@@ -1,0 +1,201 @@
+// The listener's receive buffer, and the line that says what found no room in it.
+
+#include "ControllerFixture.h"
+
+namespace kx {
+
+namespace {
+
+constexpr auto untilCounted = 250ms;
+
+constexpr const char* oneDropped = "The system dropped 1 datagram before it was read, so a unit "
+                                   "may be missing. Help says how to allow a larger buffer.";
+
+std::string manyDropped(const std::string& count) {
+    return "The system dropped " + count +
+           " datagrams before they were read, so units may be missing. Help says how to allow a "
+           "larger buffer.";
+}
+
+class ControllerReceiveBuffer : public ControllerTest {
+protected:
+    // The system drops so many datagrams; one more is read.
+    void drop(std::uint32_t datagrams) {
+        receiveBuffers.drop(systemCalls.lastDescriptor(), datagrams);
+        receive(SampleUnit().reply());
+    }
+
+    void dropAndCount(std::uint32_t datagrams) {
+        drop(datagrams);
+        runLoop.advanceBy(untilCounted);
+    }
+};
+
+} // namespace
+
+TEST_F(ControllerReceiveBuffer, EveryListenerAsksForFourMebibytes) {
+    using Wish = ScriptedReceiveBuffers::Wish;
+    launch();
+    const int first = systemCalls.lastDescriptor();
+    controller.discoverButton();
+    const int second = systemCalls.lastDescriptor();
+    EXPECT_NE(first, second);
+    EXPECT_EQ(receiveBuffers.wishes(),
+              (std::vector<Wish>{{first, 4'194'304}, {second, 4'194'304}}));
+}
+
+TEST_F(ControllerReceiveBuffer, TheBufferIsThereBeforeAnybodyIsAsked) {
+    bool wasAskedFor = false;
+    systemCalls.setObserver([&](const ScriptedSystemCalls::Call& call) {
+        if (call.operation == Operation::sendTo) {
+            wasAskedFor = !receiveBuffers.wishes().empty();
+        }
+    });
+    launch();
+    EXPECT_TRUE(wasAskedFor);
+}
+
+TEST_F(ControllerReceiveBuffer, AListenerThatDoesNotStartAsksForNothing) {
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    launch();
+    EXPECT_TRUE(receiveBuffers.wishes().empty());
+}
+
+TEST_F(ControllerReceiveBuffer, TheLineIsEmptyWhileNothingIsDropped) {
+    launch();
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(2000ms);
+    EXPECT_GT(receiveBuffers.lookCount(), 0);
+    EXPECT_EQ(dropLine(), "");
+}
+
+TEST_F(ControllerReceiveBuffer, TheLineSaysHowManyDatagramsWereDropped) {
+    launch();
+    dropAndCount(1);
+    EXPECT_EQ(dropLine(), oneDropped);
+    dropAndCount(1233);
+    EXPECT_EQ(dropLine(), manyDropped("1234"));
+}
+
+TEST_F(ControllerReceiveBuffer, TheLargestCountIsSaidToo) {
+    launch();
+    dropAndCount(4'294'967'295U);
+    EXPECT_EQ(dropLine(), manyDropped("4294967295"));
+}
+
+TEST_F(ControllerReceiveBuffer, TheEventLogDoesNotMentionIt) {
+    launch();
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(untilCounted);
+    const std::string expected = controller.eventLog();
+    launch();
+    dropAndCount(5);
+    EXPECT_EQ(controller.eventLog(), expected);
+}
+
+TEST_F(ControllerReceiveBuffer, TheQuietLineKeepsWhatItSays) {
+    launch();
+    discover({SampleUnit()});
+    window.unitParameterTableView.selectRow(static_cast<int>(UnitParameter::destinationPortNumber));
+    controller.tableViewSelectionDidChange();
+    controller.editTextDidChange("3521");
+    const std::string before = quietLine();
+    dropAndCount(5);
+    EXPECT_EQ(dropLine(), manyDropped("5"));
+    EXPECT_EQ(quietLine(), before);
+}
+
+TEST_F(ControllerReceiveBuffer, ABurstIsCountedOnceAndNothingAtRest) {
+    launch();
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(receiveBuffers.lookCount(), 0);
+    for (int reply = 0; reply < 100; ++reply) {
+        drop(1);
+    }
+    EXPECT_EQ(receiveBuffers.lookCount(), 0);
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(receiveBuffers.lookCount(), 1);
+    EXPECT_EQ(dropLine(), manyDropped("100"));
+}
+
+TEST_F(ControllerReceiveBuffer, WhatIsDroppedAfterACountIsCountedWithTheNextRead) {
+    launch();
+    dropAndCount(2);
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 3);
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(dropLine(), manyDropped("2"));
+    dropAndCount(0);
+    EXPECT_EQ(dropLine(), manyDropped("5"));
+}
+
+TEST_F(ControllerReceiveBuffer, AReadThatFailsIsFollowedByACountToo) {
+    launch();
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 7);
+    receive({}); // an empty datagram counts as an error
+    runLoop.advanceBy(untilCounted);
+    EXPECT_EQ(dropLine(), manyDropped("7"));
+}
+
+TEST_F(ControllerReceiveBuffer, DiscoverBeginsAnew) {
+    launch();
+    dropAndCount(5);
+    controller.discoverButton();
+    EXPECT_EQ(dropLine(), "");
+    dropAndCount(1);
+    EXPECT_EQ(dropLine(), oneDropped);
+}
+
+TEST_F(ControllerReceiveBuffer, ACountThatIsStillDueAfterDiscoverIsOfTheNewListener) {
+    launch();
+    drop(5);
+    controller.discoverButton();
+    runLoop.advanceBy(untilCounted);
+    EXPECT_EQ(dropLine(), "");
+    dropAndCount(6);
+    EXPECT_EQ(dropLine(), manyDropped("6"));
+}
+
+TEST_F(ControllerReceiveBuffer, AListenerThatDidNotStartHasDroppedNothing) {
+    launch();
+    drop(5);
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    controller.discoverButton();
+    runLoop.advanceBy(untilCounted);
+    EXPECT_EQ(dropLine(), "");
+}
+
+TEST_F(ControllerReceiveBuffer, WhatTheSystemNoLongerTellsStaysAsItWas) {
+    launch();
+    dropAndCount(5);
+    receiveBuffers.tellNothing();
+    dropAndCount(1);
+    EXPECT_EQ(dropLine(), manyDropped("5"));
+}
+
+TEST_F(ControllerReceiveBuffer, ASystemThatTellsNothingLeavesTheLineEmpty) {
+    receiveBuffers.tellNothing();
+    launch();
+    dropAndCount(5);
+    EXPECT_EQ(dropLine(), "");
+}
+
+TEST_F(ControllerReceiveBuffer, TheNextLaunchCountsAgain) {
+    launch();
+    drop(5);
+    controller.applicationWillTerminate();
+    launch();
+    dropAndCount(6);
+    EXPECT_EQ(dropLine(), manyDropped("6"));
+}
+
+TEST_F(ControllerReceiveBuffer, WithoutTheServiceTheListenerWorksAllTheSame) {
+    KXConfigAppDelegate plain(
+        window.outlets(), {runLoop, hostResolver, systemCalls, wallClock, application, nullptr});
+    plain.applicationDidFinishLaunching();
+    drop(5);
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(plain.devices().size(), 1U);
+    EXPECT_EQ(dropLine(), "");
+}
+
+} // namespace kx

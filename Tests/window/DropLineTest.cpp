@@ -1,0 +1,80 @@
+// The line below Discover that says how many datagrams the system dropped.
+
+#include "MainWindowFixture.h"
+
+namespace kx {
+
+namespace {
+
+constexpr const char* text = "The system dropped 1234 datagrams before they were read, so units "
+                             "may be missing. Help says how to allow a larger buffer.";
+
+class DropLineTest : public MainWindowTest {
+protected:
+    DropLineTest() {
+        launchWithTwoUnits();
+        layOut();
+    }
+
+    void say(const char* said) {
+        window.outlets().dropLine->setStringValue(said);
+        layOut();
+    }
+
+    QRect placeOf(const char* name) {
+        const auto& widget = control<QWidget>(name);
+        return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
+    }
+
+    QLabel& line() { return control<QLabel>("dropLine"); }
+
+private:
+    static void layOut() { QTest::qWait(10); }
+};
+
+} // namespace
+
+TEST_F(DropLineTest, TakesNoPlaceWhileThereIsNothingToSay) {
+    EXPECT_FALSE(line().isVisible());
+    const QRect unitsBefore = placeOf("unitSelectPopUp");
+    say(text);
+    EXPECT_TRUE(line().isVisible());
+    EXPECT_GT(placeOf("unitSelectPopUp").top(), unitsBefore.top());
+    say("");
+    EXPECT_FALSE(line().isVisible());
+    EXPECT_EQ(placeOf("unitSelectPopUp"), unitsBefore);
+}
+
+TEST_F(DropLineTest, StandsBelowDiscoverAndIsShownWhole) {
+    say(text);
+    EXPECT_GT(placeOf("dropLine").top(), placeOf("discoverButton").bottom());
+    EXPECT_LT(placeOf("dropLine").bottom(), placeOf("unitSelectPopUp").top());
+    EXPECT_GE(line().height(), line().heightForWidth(line().width()));
+    window.resize(420, 480);
+    say(text);
+    EXPECT_GE(line().height(), line().heightForWidth(line().width()));
+}
+
+TEST_F(DropLineTest, WhateverAPersonIsAboutToClickBelowTheTableStaysWhereItIs) {
+    const auto places = [&] {
+        std::vector<QRect> all;
+        for (const char* name : {"editParameterTableView", "applyButton", "quietLine",
+                                 "sendOptionButton", "restoreButton", "logDrawerButton"}) {
+            all.push_back(placeOf(name));
+        }
+        return all;
+    };
+    const std::vector<QRect> before = places();
+    const QSize sizeBefore = window.size();
+    say(text);
+    EXPECT_EQ(places(), before);
+    EXPECT_EQ(window.size(), sizeBefore);
+}
+
+TEST_F(DropLineTest, CanBeCopied) {
+    say(text);
+    EXPECT_TRUE(line().textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+    EXPECT_EQ(line().text(), text);
+}
+
+} // namespace kx
