@@ -241,7 +241,7 @@ private:
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
-    bool _arpRightsWereGiven = false;                  // when one was to be, the last time
+    bool _arpRightsWereGiven = false;                  // the last time that one was to be
     std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
     bool _messageStands = false;             // when the quiet line holds a message for a person
