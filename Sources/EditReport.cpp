@@ -135,9 +135,14 @@ std::string EditReport::textOfReply(const UnitRecord& record) const {
                          {shown, name});
 }
 
-void EditReport::arpEntryDidGive(std::int32_t result) {
+void EditReport::arpEntryDidGive(std::optional<std::int32_t> result) {
     const std::string address = shownInNote(_edit.typed);
-    switch (result) {
+    if (!result.has_value()) {
+        _arpFailure = localizedText(
+            "No ARP entry was made for %@: administrator rights were not given.", {address});
+        return;
+    }
+    switch (*result) {
     case errAuthorizationSuccess:
         _arpFailure.clear();
         return;
@@ -154,18 +159,13 @@ void EditReport::arpEntryDidGive(std::int32_t result) {
         _arpFailure =
             localizedText("No ARP entry was made for %@: the ARP tool cannot be run.", {address});
         return;
-    case -1:
-        _arpFailure =
-            asciiBytes(_edit.typed).has_value()
-                ? localizedText(
-                      "No ARP entry was made for %@: administrator rights were not given.",
-                      {address})
-                : localizedText("No ARP entry was made for %@: it can hold ASCII characters only.",
-                                {address});
+    case -1: // never too many arguments here
+        _arpFailure = localizedText(
+            "No ARP entry was made for %@: it can hold ASCII characters only.", {address});
         return;
     default:
         _arpFailure = localizedText(
-            "No ARP entry was made for %@: the ARP tool was not started (%d).", {address, result});
+            "No ARP entry was made for %@: the ARP tool was not started (%d).", {address, *result});
     }
 }
 

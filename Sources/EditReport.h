@@ -46,9 +46,10 @@ public:
     // The unit told its parameters.
     void unitDidReply(const UnitRecord& record);
 
-    // What became of the ARP entry for a new internal IP address: the result of arpSetEAForIP(),
-    // and how the tool ended that was run for `address`. Only failures are worth a sentence.
-    void arpEntryDidGive(std::int32_t result);
+    // What became of the ARP entry for a new internal IP address: the result of
+    // Authorization::runToolWithArgs(), absent when administrator rights were not given, and how
+    // the tool ended that was run for `address`. Only failures are worth a sentence.
+    void arpEntryDidGive(std::optional<std::int32_t> result);
     void arpToolDidEnd(std::string_view address, int status);
 
     // One or two sentences.

@@ -227,6 +227,7 @@ private:
     void refreshEditNote();
     void showMessage(std::string_view message);
     void endMessage();
+    bool showFailedSend();
     void showRefusal(std::optional<CommandRefusal> refusal);
     void showNote(std::string_view note);
     void arpToolDidEnd(const std::string& address, int status);
@@ -250,6 +251,7 @@ private:
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
+    bool _arpRightsWereGiven = false;                  // the last time that one was to be
     std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
     std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
     bool _messageStands = false;             // when the quiet line holds a message for a person

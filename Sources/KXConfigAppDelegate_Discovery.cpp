@@ -66,7 +66,9 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
     requestParametersOfUnit();
-    endMessage();
+    if (!showFailedSend()) {
+        endMessage();
+    }
 }
 
 void KXConfigAppDelegate::requestParametersOfUnit() {

@@ -132,7 +132,8 @@ void KXConfigAppDelegate::edit_internalIP() {
     // Another unit may be selected once a person has been asked.
     const auto unit = _selectedUnit;
     const auto port = unitRequestPort();
-    report.arpEntryDidGive(arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address));
+    const auto result = arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address);
+    report.arpEntryDidGive(_arpRightsWereGiven ? std::optional(result) : std::nullopt);
     const auto record = unit.has_value() ? _devicesD.find(*unit) : _devicesD.end();
     if (record != _devicesD.end()) {
         record->second.removeValue(UnitParameter::internalIPAddress);
@@ -144,7 +145,8 @@ void KXConfigAppDelegate::edit_internalIP() {
 
 std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                                 const std::optional<std::string>& ip) {
-    if (!authenticateForARP()) {
+    _arpRightsWereGiven = authenticateForARP();
+    if (!_arpRightsWereGiven) {
         _outlets.alert->runModal(
             localizedText("KXConfig"),
             localizedText("Authentication was not completed, some features may not be available."),
@@ -190,9 +192,7 @@ void KXConfigAppDelegate::sendOptionButton() {
     const auto command = optionCommand(_outlets.optionCommandField->stringValue());
     if (!sendCommand(command)) {
         showRefusal(refusalOfCommand(command, commandTarget()));
-    } else if (_sendFailure.has_value()) {
-        showMessage(noteOfFailedSend(*_sendFailure));
-    } else {
+    } else if (!showFailedSend()) {
         showEditNote();
     }
 }
@@ -200,7 +200,9 @@ void KXConfigAppDelegate::sendOptionButton() {
 void KXConfigAppDelegate::restoreDefaultSettings() {
     sendRequest(restoreCommand, unitRequestAddress(), unitRequestPort());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersOfUnit);
-    showEditNote();
+    if (!showFailedSend()) {
+        showEditNote();
+    }
 }
 
 } // namespace kx

@@ -3,9 +3,14 @@
 
 #include <utility>
 
-// The quiet line is about one thing at a time: an edit that was sent, until another row is chosen
-// or something is typed, and otherwise what Apply would send. A message, such as why a command was
-// not sent, stands until a person does something: what the network brings does not end it.
+// The quiet line is about one thing at a time: an edit that was sent, a message, such as why a
+// command was not sent, or otherwise what Apply would send.
+//
+// The report of an edit stands until another row is chosen, something is typed, Apply, Send or
+// Restore is pressed, another unit is shown, or there is a message. A message stands until a person
+// does the like, or presses Discover or Reload, or gets help. What the network brings ends neither,
+// nor does an Apply without a parameter, the event log's button, or a choice of interface or
+// option.
 
 namespace kx {
 
@@ -42,6 +47,15 @@ void KXConfigAppDelegate::endMessage() {
 
 void KXConfigAppDelegate::showRefusal(std::optional<CommandRefusal> refusal) {
     showMessage(refusal.has_value() ? noteOfRefusal(*refusal) : std::string());
+}
+
+// Whether the latest datagram was not sent, which the line then says.
+bool KXConfigAppDelegate::showFailedSend() {
+    if (!_sendFailure.has_value()) {
+        return false;
+    }
+    showMessage(noteOfFailedSend(*_sendFailure));
+    return true;
 }
 
 void KXConfigAppDelegate::showMessage(std::string_view message) {

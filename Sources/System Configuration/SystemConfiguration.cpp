@@ -56,15 +56,15 @@ SystemConfiguration::SystemConfiguration(ConfigurationStore& store, KernelQuery&
     : _store(store)
     , _kernelQuery(kernelQuery) {
     const int err = CreateIPAddressListChangeCallbackSCF(_store, myDynamicStoreCallback, nullptr,
-                                                         &_storeRef, &_sourceRef);
+                                                         &storeRef, &sourceRef);
     if (err == noErr) {
-        _sourceRef->addToRunLoop();
+        sourceRef->addToRunLoop();
     }
 }
 
 SystemConfiguration::~SystemConfiguration() {
-    static_cast<void>(_sourceRef.release());
-    static_cast<void>(_storeRef.release());
+    static_cast<void>(sourceRef.release());
+    static_cast<void>(storeRef.release());
 }
 
 void SystemConfiguration::addObserverWithSelector(const void* observer,
@@ -80,7 +80,7 @@ void SystemConfiguration::removeObserver(const void* observer) {
 void SystemConfiguration::dynamicStoreCallback(const std::vector<std::string>& changedKeys) {
     for (const auto& key : changedKeys) {
         const auto serviceID = serviceIDInKey(key);
-        const auto value = _storeRef != nullptr ? _storeRef->copyValue(key) : std::nullopt;
+        const auto value = storeRef != nullptr ? storeRef->copyValue(key) : std::nullopt;
         if (!value.has_value() && !serviceID.has_value()) {
             continue;
         }

@@ -182,8 +182,8 @@ private:
     ConfigurationStore& _store;
     KernelQuery& _kernelQuery;
 
-    std::unique_ptr<DynamicStoreSession> _storeRef;
-    std::unique_ptr<ConfigurationChangeSource> _sourceRef;
+    std::unique_ptr<DynamicStoreSession> storeRef;
+    std::unique_ptr<ConfigurationChangeSource> sourceRef;
     InterfaceIDs _interfaceIDs;
     std::set<std::string> _takenInterfaceIDs; // the values of that
     bool _purgeInterfaceIDs = true;

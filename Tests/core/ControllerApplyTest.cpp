@@ -267,6 +267,17 @@ TEST_F(ControllerApply, AnEditThatRefusesToEndIsEndedByForce) {
     EXPECT_EQ(window.window.endEditingCount(), 1);
 }
 
+TEST_F(ControllerApply, TheEditThatEndsIsInTheWindowThatWasSet) {
+    RecordedWindow other;
+    window.window.beginEdit([] {}, false);
+    other.beginEdit([] {}, false);
+    controller.setWindow(&other);
+    EXPECT_EQ(controller.window(), &other);
+    controller.applyEditParameterButton();
+    EXPECT_FALSE(other.isEditing());
+    EXPECT_TRUE(window.window.isEditing());
+}
+
 TEST_F(ControllerApply, AnEditGoesToTheUnitThatIsSelectedNow) {
     SampleUnit second;
     second.serial.back() = 7;

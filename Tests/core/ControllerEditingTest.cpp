@@ -139,8 +139,17 @@ TEST_F(ControllerEditing, RestoreAsksTheUnitAndReloadsAfterOneSecond) {
 
 TEST_F(ControllerEditing, RestoreWithoutASelectedUnitGoesToEveryUnit) {
     runLoop.advanceBy(2000ms);
+    const auto length = controller.eventLog().size();
     controller.restoreDefaultSettings();
     EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdZ");
+    runLoop.advanceBy(1000ms);
+    const Lines toEveryUnit{"255.255.255.255:3520 ^^IdX", "255.255.255.255:3520 ^^IdZ",
+                            "255.255.255.255:3520 ^^IdX"}; // the first is the launch
+    EXPECT_EQ(sent(), toEveryUnit);
+    EXPECT_EQ(logSince(length), (Lines{"Request unit parameters with address: 255.255.255.255",
+                                       "UDP server did send data.",
+                                       "Request unit parameters with address: 255.255.255.255",
+                                       "UDP server did send data."}));
 }
 
 TEST_F(ControllerEditing, ReloadAfterARestoreAsksWhoeverIsSelectedThen) {

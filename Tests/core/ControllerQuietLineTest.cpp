@@ -191,6 +191,20 @@ TEST_F(ControllerQuietLine, SaysWhyThereIsNoARPEntry) {
     EXPECT_EQ(quietLine(), none + "the ARP tool ended with status 1.");
 }
 
+TEST_F(ControllerQuietLine, TellsRefusedRightsFromAnAddressThatTheToolCannotTake) {
+    const std::string none =
+        "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7ü: ";
+    discover({SampleUnit()});
+    authority.answerDialogsWith(errAuthorizationDenied);
+    apply(UnitParameter::internalIPAddress, "10.0.0.7ü");
+    EXPECT_EQ(quietLine(), none + "administrator rights were not given.");
+
+    receive(SampleUnit().reply());
+    authority.answerDialogsWith(errAuthorizationSuccess);
+    controller.applyEditParameterButton();
+    EXPECT_EQ(quietLine(), none + "it can hold ASCII characters only.");
+}
+
 TEST_F(ControllerQuietLine, AToolThatFailsForAnEditOfThePastIsNotMentioned) {
     discover({SampleUnit()});
     apply(UnitParameter::internalIPAddress, "10.0.0.7");
@@ -300,6 +314,46 @@ TEST_F(ControllerQuietLine, SaysWhyAnOptionWasNotSentUntilTheNextAction) {
     EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH) + ".");
     controller.sendOptionButton();
     EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(ControllerQuietLine, SaysWhyARestoreOrAReloadWasNotSent) {
+    discover({SampleUnit()});
+    const std::string refused = "Not sent: " + posixErrorText(ENETUNREACH) + ".";
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    controller.restoreDefaultSettings();
+    EXPECT_EQ(quietLine(), refused);
+    runLoop.advanceBy(1000ms); // asks for the parameters, which are sent
+    EXPECT_EQ(quietLine(), refused);
+    controller.restoreDefaultSettings();
+    EXPECT_EQ(quietLine(), "");
+    runLoop.advanceBy(1000ms);
+
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(quietLine(), refused);
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(quietLine(), "");
+
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    controller.discoverButton();
+    for (const auto press : {&KXConfigAppDelegate::restoreDefaultSettings,
+                             &KXConfigAppDelegate::reloadUnitParameterButton}) {
+        controller.unitSelectPopUp(); // ends a message
+        EXPECT_EQ(quietLine(), "");
+        (controller.*press)();
+        EXPECT_EQ(quietLine(), "Not sent: The UDP listener is not running.");
+    }
+}
+
+// A person did not press anything then.
+TEST_F(ControllerQuietLine, OfTheRequestThatFollowsARestoreOnlyTheLogSaysThatItWasNotSent) {
+    discover({SampleUnit()});
+    selectRow(UnitParameter::unitID);
+    controller.restoreDefaultSettings();
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    runLoop.advanceBy(1000ms);
+    EXPECT_EQ(log().back(), "  " + posixErrorText(ENETUNREACH));
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdU00000000002A: unit ID 42.");
 }
 
 TEST_F(ControllerQuietLine, ARestoreEndsTheReportOfAnEdit) {

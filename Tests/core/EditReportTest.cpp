@@ -158,7 +158,7 @@ TEST(EditReport, SaysWhyThereIsNoARPEntry) {
     EditReport report = reportOf(internalIPAddress, "10.0.0.7", "192.168.1.10");
     report.arpEntryDidGive(0);
     EXPECT_EQ(report.text(), sent);
-    report.arpEntryDidGive(-1);
+    report.arpEntryDidGive(std::nullopt);
     EXPECT_EQ(report.text(), sent + none + "administrator rights were not given.");
     report.arpEntryDidGive(-60031);
     EXPECT_EQ(report.text(), sent + none + "the ARP tool cannot be run.");
@@ -178,6 +178,9 @@ TEST(EditReport, SaysWhyThereIsNoARPEntry) {
     notASCII.arpEntryDidGive(-1);
     EXPECT_EQ(notASCII.text(), sent + " No ARP entry was made for 10.0.0.7ü: it can hold "
                                       "ASCII characters only.");
+    notASCII.arpEntryDidGive(std::nullopt);
+    EXPECT_EQ(notASCII.text(), sent + " No ARP entry was made for 10.0.0.7ü: administrator rights "
+                                      "were not given.");
 }
 
 TEST(EditReport, AToolThatDidItsWorkOrWorkedForAnotherAddressIsNotMentioned) {
@@ -193,7 +196,7 @@ TEST(EditReport, AToolThatDidItsWorkOrWorkedForAnotherAddressIsNotMentioned) {
 TEST(EditReport, EverySentenceIsLookedUpAsAWhole) {
     const MarkedLocalizedText marked;
     EditReport report = reportOf(internalIPAddress, "10.0.0.7", "192.168.1.10");
-    report.arpEntryDidGive(-1);
+    report.arpEntryDidGive(std::nullopt);
     EXPECT_EQ(report.text(), "<Sent ^^IdI0A000007. The unit has not answered yet.> <No ARP entry "
                              "was made for 10.0.0.7: administrator rights were not given.>");
 }

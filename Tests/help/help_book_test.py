@@ -112,6 +112,14 @@ class TheBookAndTheProgram(unittest.TestCase):
         text = self.pages["controls.html"].text
         self.assertEqual([label for label in sorted(labels) if " ".join(label.split()) not in text], [])
 
+    def test_every_name_of_an_interface_that_only_the_kernel_knows_is_on_the_page_about_the_window(self):
+        source = (SOURCES / "System Configuration/SystemConfiguration_Enumeration.cpp").read_text()
+        body = source.partition("::_userNameForKernelInterface(")[2].partition("\n}")[0]
+        names = {literal for literal in checks.literals(body) if literal[0].isupper()}
+        self.assertEqual(len(names), 3)
+        text = self.pages["controls.html"].text
+        self.assertEqual([name for name in sorted(names) if name not in text], [])
+
     def test_every_parameter_is_on_the_page_about_parameters_with_a_section_of_its_own(self):
         source = (SOURCES / "UnitParameters.h").read_text(encoding="utf-8")
         names = set(re.findall(r'"([a-z]+ [A-Za-z ]+)"', source))

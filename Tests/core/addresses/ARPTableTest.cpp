@@ -1,19 +1,10 @@
 #include "addresses/ARPTable.h"
 
 #include "doubles/RecordedSystemLog.h"
-#include "doubles/SharedConfigurationDoubles.h"
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 namespace kx {
-
-namespace {
-
-using Lines = std::vector<std::string>;
-
-} // namespace
 
 TEST(ARPTable, TheAddressBehindAtIsNormalised) {
     const RecordedSystemLog log;
@@ -57,21 +48,6 @@ TEST(ARPTable, OnlyTheFirstAtCounts) {
                                           "? (10.0.0.5) at 7:8:9:a:b:c on en1\n"),
               "01:02:03:04:05:06");
     EXPECT_EQ(hwAddressStringInToolOutput("flat (10.0.0.5) at 1:2:3:4:5:6 on en0\n"), std::nullopt);
-}
-
-TEST(ARPTable, WithoutATextNothingIsLookedUp) {
-    sharedConfigurationDoubles();
-    EXPECT_EQ(hwAddressStringForIPString(std::nullopt), std::nullopt);
-}
-
-TEST(ARPTable, WhileTheNetworkIsNotReadyNothingIsFound) {
-    sharedConfigurationDoubles();
-    EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
-    std::array<std::uint8_t, 6> octets{1, 2, 3, 4, 5, 6};
-    std::uint8_t length = 6;
-    EXPECT_EQ(hwAddressForIP(0x0A000005U, octets.data(), length), -1);
-    EXPECT_EQ(octets, (std::array<std::uint8_t, 6>{1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(length, 6);
 }
 
 } // namespace kx

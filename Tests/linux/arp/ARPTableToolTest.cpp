@@ -19,20 +19,21 @@ namespace {
 constexpr auto toolPath = "/usr/sbin/arp";
 constexpr mode_t executable = 0755;
 
-// A network that is ready, as the store tells. Replacing the tool is the administrator's right.
+// A network that is ready, as the store tells.
 class ARPTableTool : public testing::Test {
 protected:
     void SetUp() override {
-        if (::geteuid() != 0) {
-            GTEST_SKIP() << "no right to replace the ARP tool here";
-        }
-        auto& store = sharedConfigurationDoubles().store;
         setServiceOrder(store, {"A"});
         setServiceInterface(store, "A", ethernet("Ethernet", "en0"));
-        store.setValue("State:/Network/Interface/en0/Link", {{"Active", 1}});
+        setActive(1);
         ASSERT_TRUE(networkIsReady());
     }
 
+    void setActive(int isActive) {
+        store.setValue("State:/Network/Interface/en0/Link", {{"Active", isActive}});
+    }
+
+    MemoryConfigurationStore& store = sharedConfigurationDoubles().store;
     NotingTool noting;
     RecordedSystemLog log;
 };
@@ -75,6 +76,18 @@ TEST_F(ARPTableTool, WithRoomForFewerThanSixOctetsTheToolIsNotRun) {
 TEST_F(ARPTableTool, WithoutATextTheToolIsNotRun) {
     const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
     EXPECT_EQ(hwAddressStringForIPString(std::nullopt), std::nullopt);
+    EXPECT_EQ(noting.words(), "");
+}
+
+TEST_F(ARPTableTool, WhileTheNetworkIsNotReadyTheToolIsNotRun) {
+    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
+    setActive(0);
+    EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
+    std::array<std::uint8_t, 6> octets{1, 2, 3, 4, 5, 6};
+    std::uint8_t length = 6;
+    EXPECT_EQ(hwAddressForIP(ipForString("10.0.0.5"), octets.data(), length), -1);
+    EXPECT_EQ(octets, (std::array<std::uint8_t, 6>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(length, 6);
     EXPECT_EQ(noting.words(), "");
 }
 
