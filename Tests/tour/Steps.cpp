@@ -1,5 +1,7 @@
 #include "Steps.h"
 
+#include <sys/resource.h>
+
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
@@ -7,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
+#include <cstdlib>
 
 namespace kx {
 
@@ -34,7 +37,9 @@ Steps::Steps(WindowDriver& driver)
 void Steps::run() {
     for (const QString& line : qEnvironmentVariable("KX_STEPS").split('\n', Qt::SkipEmptyParts)) {
         const QString step = line.trimmed();
-        take(step.section(' ', 0, 0), step.section(' ', 1));
+        if (!step.isEmpty()) {
+            take(step.section(' ', 0, 0), step.section(' ', 1));
+        }
     }
 }
 
@@ -51,6 +56,10 @@ void Steps::take(const QString& verb, const QString& argument) {
         type(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
+    } else if (verb == "presses") {
+        for (int left = argument.section(' ', 0, 0).toInt(); left > 0; --left) {
+            _driver.press(argument.section(' ', 1).toLatin1().constData());
+        }
     } else if (verb == "log") {
         _driver.openLog();
     } else if (verb == "shows") {
@@ -69,6 +78,10 @@ void Steps::take(const QString& verb, const QString& argument) {
         _driver.printLog();
     } else if (verb == "read") {
         printFile(qEnvironmentVariable(argument.toLatin1().constData()));
+    } else if (verb == "run") {
+        run(argument);
+    } else if (verb == "descriptors") {
+        allowDescriptors(argument);
     } else {
         throw Disappointment{"there is no step " + verb};
     }
@@ -126,6 +139,23 @@ void Steps::printFile(const QString& path) {
     }
     while (!file.atEnd()) {
         print("Read: " + QString::fromUtf8(file.readLine()).trimmed());
+    }
+}
+
+// Not by means of Qt, which needs descriptors of its own to run a program.
+void Steps::run(const QString& command) {
+    if (std::system(command.toLocal8Bit().constData()) != 0) {
+        throw Disappointment{"failed: " + command};
+    }
+}
+
+void Steps::allowDescriptors(const QString& number) {
+    rlimit limit{};
+    ::getrlimit(RLIMIT_NOFILE, &limit);
+    static const rlim_t before = limit.rlim_cur;
+    limit.rlim_cur = number == "all" ? before : number.toULong();
+    if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) {
+        throw Disappointment{"the system does not allow descriptors: " + number};
     }
 }
 

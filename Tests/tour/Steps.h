@@ -1,4 +1,5 @@
-// A visit to the running program whose steps a test writes, one on a line:
+// A visit to the running program whose steps a test writes, one on a line, with blank lines between
+// them as it likes:
 //
 //   interface NAME           chooses the interface of this name in the system
 //   discover COUNT           presses Discover and waits for so many units
@@ -6,6 +7,7 @@
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
 //   press BUTTON             clicks the button of this object name
+//   presses COUNT BUTTON     the same, so often
 //   log                      opens the event log
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
@@ -14,6 +16,11 @@
 //   picture NAME             leaves a picture (KX_TOUR_PICTURES)
 //   print                    prints the shown parameters and the event log
 //   read VARIABLE            prints the lines of the file that this environment variable names
+//   run COMMAND              runs a command of the shell, which must succeed; the program stands
+//   still
+//                            meanwhile
+//   descriptors NUMBER       has the system open no descriptor from this number on; "descriptors
+//                            all" gives back what it allowed before
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -43,6 +50,8 @@ private:
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);
+    static void run(const QString& command);
+    static void allowDescriptors(const QString& number);
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 
