@@ -46,6 +46,8 @@ void Steps::run() {
 void Steps::take(const QString& verb, const QString& argument) {
     if (verb == "interface") {
         _driver.pickInterface(argument);
+    } else if (verb == "interfaces") {
+        _driver.printInterfaces();
     } else if (verb == "discover") {
         _driver.discover(argument.toInt());
     } else if (verb == "unit") {

@@ -2,6 +2,7 @@
 // them as it likes:
 //
 //   interface NAME           chooses the interface of this name in the system
+//   interfaces               opens the list of interfaces, prints what it offers, and closes it
 //   discover COUNT           presses Discover and waits for so many units
 //   unit SERIAL              chooses the unit with this serial number
 //   parameter NAME           clicks this row of the parameter table

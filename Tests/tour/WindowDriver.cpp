@@ -81,6 +81,19 @@ void WindowDriver::pickInterface(const QString& name) const {
     print("Interface: " + interfaces.currentText());
 }
 
+void WindowDriver::printInterfaces() const {
+    auto& interfaces = control<QComboBox>("interfacePopUp");
+    click(interfaces);
+    QStringList titles;
+    for (int index = 0; index < interfaces.count(); ++index) {
+        titles += interfaces.itemText(index);
+    }
+    if (interfaces.view()->isVisible()) {
+        QTest::keyClick(interfaces.view(), Qt::Key_Escape);
+    }
+    print("Interfaces: " + titles.join("; "));
+}
+
 void WindowDriver::discover(int units) const {
     auto& list = control<QComboBox>("unitSelectPopUp");
     press("discoverButton");
