@@ -33,7 +33,7 @@ bring_interface_back() {
 # Nobody says where the first unit is, so the host keeps what is for it, much more than one program
 # may have on its way.
 units_stand_still() {
-    [[ $(ps -o stat= -p "$units") == T* ]]
+    grep -q '^State:.*stopped' "/proc/$units/status"
 }
 unit_falls_silent() {
     printf '10000000\n' >/proc/sys/net/ipv4/neigh/kx0/unres_qlen_bytes
@@ -52,7 +52,10 @@ if [[ $1 == fault ]]; then
 fi
 
 kxconfig=$2 record=$KX_RECORD
-units=$(ps --ppid "$PPID" -o pid=,comm= | awk '$2 == "kxunits" {print $1}')
+read -ra children <"/proc/$PPID/task/$PPID/children"
+for child in "${children[@]}"; do
+    [[ $(<"/proc/$child/comm") != kxunits ]] || units=$child
+done
 here=$$
 unshare --net sleep 1000 &
 elsewhere=$!
