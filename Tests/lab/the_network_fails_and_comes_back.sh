@@ -52,7 +52,7 @@ if [[ $1 == fault ]]; then
 fi
 
 kxconfig=$2 record=$KX_RECORD
-read -ra children <"/proc/$PPID/task/$PPID/children"
+read -ra children <"/proc/$PPID/task/$PPID/children" || true # without a line end
 for child in "${children[@]}"; do
     [[ $(<"/proc/$child/comm") != kxunits ]] || units=$child
 done

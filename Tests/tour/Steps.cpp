@@ -109,6 +109,7 @@ void Steps::type(const QString& text) {
     auto& editRow = _driver.control<QTableView>("editParameterTableView");
     const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
     const QPoint center = editRow.viewport()->mapTo(&_driver.window(), cell.center());
+    _driver.window().activateWindow(); // after an alert, nobody else does so off screen
     QTest::mouseDClick(_driver.window().windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
     QLineEdit* editor = nullptr;
     _driver.waitFor("an open editor", [&] {
