@@ -23,7 +23,7 @@ export KX_STEPS="
     logs Send to: 192.0.2.50 command: ^^IdIC0000232
     logs UDP server did send data.
     lacks internal IP address
-    run ulimit -n 100 && ip link set lo down
+    run ip link set lo down
     interfaces
     discover 3
     logs UDP did stop with error.

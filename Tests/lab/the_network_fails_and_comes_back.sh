@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# A link that goes down, an address that is taken away or exchanged, a unit without a route, an
-# interface that is gone, a send buffer that is full: the event log of the real program says so each
-# time, what had been received is there, and the program goes on when the network is back.
+# No route, a link that goes down, an address that is taken away or exchanged, an interface that is
+# gone, a send buffer that is full: the event log of the real program says so each time, what had been
+# received is there, and the program goes on when the network is back.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -78,6 +78,11 @@ discover="
     $everyone_answers"
 KX_STEPS="
     log
+    run ip route del default dev kx0
+    press discoverButton
+    logs Network is unreachable
+    run ip route add default dev kx0
+    $discover
     interface kx0
     $discover
 

@@ -1,7 +1,5 @@
 #include "Steps.h"
 
-#include <sys/resource.h>
-
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
@@ -32,6 +30,7 @@ Steps::Steps(WindowDriver& driver)
     : _driver(driver) {
     QObject::connect(&_alertWatch, &QTimer::timeout, &_alertWatch, closeAlert);
     _alertWatch.start(alertWatchInMilliseconds);
+    ::getrlimit(RLIMIT_NOFILE, &_usualDescriptors);
 }
 
 void Steps::run() {
@@ -146,17 +145,22 @@ void Steps::printFile(const QString& path) {
 }
 
 // Not by means of Qt, which needs descriptors of its own to run a program.
-void Steps::run(const QString& command) {
-    if (std::system(command.toLocal8Bit().constData()) != 0) {
+void Steps::run(const QString& command) const {
+    rlimit present{};
+    ::getrlimit(RLIMIT_NOFILE, &present);
+    ::setrlimit(RLIMIT_NOFILE, &_usualDescriptors);
+    const int status = std::system(command.toLocal8Bit().constData());
+    ::setrlimit(RLIMIT_NOFILE, &present);
+    if (status != 0) {
         throw Disappointment{"failed: " + command};
     }
 }
 
-void Steps::allowDescriptors(const QString& number) {
-    rlimit limit{};
-    ::getrlimit(RLIMIT_NOFILE, &limit);
-    static const rlim_t before = limit.rlim_cur;
-    limit.rlim_cur = number == "all" ? before : number.toULong();
+void Steps::allowDescriptors(const QString& number) const {
+    rlimit limit = _usualDescriptors;
+    if (number != "all") {
+        limit.rlim_cur = number.toULong();
+    }
     if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) {
         throw Disappointment{"the system does not allow descriptors: " + number};
     }

@@ -20,8 +20,9 @@
 //   run COMMAND              runs a command of the shell, which must succeed; the program stands
 //   still
 //                            meanwhile
-//   descriptors NUMBER       has the system open no descriptor from this number on; "descriptors
-//                            all" gives back what it allowed before
+//   descriptors NUMBER       has the system open no descriptor from this number on, but for
+//   commands;
+//                            "descriptors all" gives back what it allowed before
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -31,6 +32,8 @@
 #pragma once
 
 #include "WindowDriver.h"
+
+#include <sys/resource.h>
 
 #include <QTimer>
 
@@ -51,13 +54,14 @@ private:
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);
-    static void run(const QString& command);
-    static void allowDescriptors(const QString& number);
+    void run(const QString& command) const;
+    void allowDescriptors(const QString& number) const;
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 
     WindowDriver& _driver;
     QTimer _alertWatch;
+    rlimit _usualDescriptors{}; // as the system allows them
 };
 
 } // namespace kx
