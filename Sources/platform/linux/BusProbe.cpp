@@ -6,7 +6,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <QByteArray>
 #include <algorithm>
 #include <cerrno>
 #include <optional>
@@ -20,25 +19,25 @@ using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 using namespace std::string_view_literals;
 
-constexpr auto pathPrefix = "unix:path=";
+constexpr auto pathPrefix = "unix:path="sv;
 
-// The path of the one socket that the address names.
-std::optional<QByteArray> pathOfAddress(const QString& address) {
-    if (!address.startsWith(pathPrefix) || address.contains(';')) {
-        return std::nullopt;
-    }
-    const QString value = address.section('=', 1).section(',', 0, 0);
-    return QByteArray::fromPercentEncoding(value.toLocal8Bit());
+// The path of the one socket that the address names; further settings of it follow a comma.
+std::optional<std::string_view> pathOfAddress(std::string_view address) {
+    const bool isOnePath =
+        address.starts_with(pathPrefix) && address.find_first_of(";%") == std::string_view::npos;
+    return isOnePath ? std::optional(
+                           address.substr(pathPrefix.size(), address.find(',') - pathPrefix.size()))
+                     : std::nullopt;
 }
 
 // Without waiting: a queue that is full refuses.
-bool connectTo(int socket, const QByteArray& path) {
+bool connectTo(int socket, std::string_view path) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
-    if (static_cast<std::size_t>(path.size()) >= sizeof address.sun_path) {
+    if (path.size() >= sizeof address.sun_path) {
         return false;
     }
-    std::copy(path.begin(), path.end(), std::begin(address.sun_path));
+    path.copy(std::data(address.sun_path), path.size());
     return ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
 }
 
@@ -55,7 +54,7 @@ bool canRead(int socket, milliseconds patience) {
 
 } // namespace
 
-bool busAnswers(const QString& address, milliseconds patience) {
+bool busAnswers(std::string_view address, milliseconds patience) {
     const auto path = pathOfAddress(address);
     if (!path.has_value()) {
         return true;

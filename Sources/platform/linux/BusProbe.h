@@ -6,14 +6,14 @@
 
 #pragma once
 
-#include <QString>
 #include <chrono>
+#include <string_view>
 
 namespace kx {
 
 // Whether the bus at this D-Bus address answers in time. It is asked which kinds of greeting it
 // takes, on a connection of its own. True for an address of another form than one socket in the
-// file system ("unix:path=..."), which is not asked. Any thread.
-bool busAnswers(const QString& address, std::chrono::milliseconds patience);
+// file system with nothing escaped in its path ("unix:path=..."), which is not asked. Any thread.
+bool busAnswers(std::string_view address, std::chrono::milliseconds patience);
 
 } // namespace kx

@@ -33,8 +33,9 @@ QString newConnectionName() {
 QDBusConnection connectionToBus(std::chrono::milliseconds patience) {
     const QString address = busAddress();
     const QString name = newConnectionName();
-    return busAnswers(address, patience) ? QDBusConnection::connectToPeer(address, name)
-                                         : QDBusConnection(name);
+    return busAnswers(address.toLocal8Bit().toStdString(), patience)
+               ? QDBusConnection::connectToPeer(address, name)
+               : QDBusConnection(name);
 }
 
 } // namespace
