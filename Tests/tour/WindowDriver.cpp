@@ -96,8 +96,13 @@ void WindowDriver::printInterfaces() const {
 
 void WindowDriver::discover(int units) const {
     auto& list = control<QComboBox>("unitSelectPopUp");
+    bool wasEmptied = false;
+    const QObject watch;
+    // An earlier Discover may fill it again at once.
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &watch,
+                     [&] { wasEmptied = wasEmptied || list.count() == 0; });
     press("discoverButton");
-    waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+    waitFor("an empty unit pop-up after Discover", [&] { return wasEmptied; });
     takePicture("window-discovering");
     waitFor(QString("%1 units").arg(units), [&] { return list.count() >= units; });
     printUnits();
