@@ -50,7 +50,7 @@ private:
 
 class SyslogSystemLogFaults : public testing::Test {
 protected:
-    ~SyslogSystemLogFaults() override { std::filesystem::remove_all(folder); }
+    void TearDown() override { std::filesystem::remove_all(folder); }
 
     bool readsLine(LogSocket& socket, const std::string& line) const {
         const auto read = socket.read();
@@ -148,7 +148,7 @@ TEST_F(SyslogSystemLogFaults, StandardErrorThatNobodyReadsHoldsNobodyUp) {
     {
         const ReplacedStandardError standardError(pipe.writingEnd.number());
         log.write("a line"); // returns, or the test hangs here
-        log.write(std::string(5 * PIPE_BUF, 'x'));
+        log.write(std::string(std::size_t{5} * PIPE_BUF, 'x'));
     }
     EXPECT_TRUE(readsLine(socket, "a line"));
 }
