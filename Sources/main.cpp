@@ -19,8 +19,12 @@
 #include "platform/qt/QtRunLoop.h"
 
 #include <QApplication>
+#include <csignal>
 
 int main(int argc, char* argv[]) {
+    // Whoever reads standard error may go before the window does.
+    std::signal(SIGPIPE, SIG_IGN);
+
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
     // The name of the desktop entry: by it a desktop gives the window its icon.

@@ -1,5 +1,6 @@
 // The system log and the wall clock of the host.
 
+#include "StandardError.h"
 #include "contracts/SystemLogContract.h"
 #include "contracts/WallClockContract.h"
 #include "platform/posix/SyslogSystemLog.h"
@@ -7,46 +8,12 @@
 
 #include <unistd.h>
 
-#include <cstdio>
 #include <cstdlib>
 #include <optional>
-#include <stdexcept>
 
 namespace kx {
 
 namespace {
-
-// Standard error goes into a file while this object lives.
-class CapturedStandardError {
-public:
-    CapturedStandardError()
-        : _file(std::tmpfile())
-        , _before(::dup(STDERR_FILENO)) {
-        if (_file == nullptr || _before < 0 || ::dup2(::fileno(_file), STDERR_FILENO) < 0) {
-            throw std::runtime_error("standard error cannot be captured");
-        }
-    }
-    ~CapturedStandardError() {
-        ::dup2(_before, STDERR_FILENO);
-        ::close(_before);
-        std::fclose(_file);
-    }
-    CapturedStandardError(const CapturedStandardError&) = delete;
-    CapturedStandardError& operator=(const CapturedStandardError&) = delete;
-
-    std::string text() {
-        std::string result;
-        std::rewind(_file);
-        for (int character = std::fgetc(_file); character != EOF; character = std::fgetc(_file)) {
-            result += static_cast<char>(character);
-        }
-        return result;
-    }
-
-private:
-    std::FILE* _file;
-    int _before;
-};
 
 class SyslogTrait {
 public:

@@ -10,6 +10,7 @@
 #include <QSet>
 #include <QTest>
 #include <QThread>
+#include <cstdlib>
 
 namespace kx {
 
@@ -32,18 +33,23 @@ Steps::Steps(WindowDriver& driver)
     : _driver(driver) {
     QObject::connect(&_alertWatch, &QTimer::timeout, &_alertWatch, closeAlert);
     _alertWatch.start(alertWatchInMilliseconds);
+    ::getrlimit(RLIMIT_NOFILE, &_usualDescriptors);
 }
 
 void Steps::run() {
     for (const QString& line : qEnvironmentVariable("KX_STEPS").split('\n', Qt::SkipEmptyParts)) {
         const QString step = line.trimmed();
-        take(step.section(' ', 0, 0), step.section(' ', 1));
+        if (!step.isEmpty()) {
+            take(step.section(' ', 0, 0), step.section(' ', 1));
+        }
     }
 }
 
 void Steps::take(const QString& verb, const QString& argument) {
     if (verb == "interface") {
         _driver.pickInterface(argument);
+    } else if (verb == "interfaces") {
+        _driver.printInterfaces();
     } else if (verb == "discover") {
         _driver.discover(argument.toInt());
     } else if (verb == "unit") {
@@ -54,6 +60,10 @@ void Steps::take(const QString& verb, const QString& argument) {
         type(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
+    } else if (verb == "presses") {
+        for (int left = argument.section(' ', 0, 0).toInt(); left > 0; --left) {
+            _driver.press(argument.section(' ', 1).toLatin1().constData());
+        }
     } else if (verb == "log") {
         _driver.openLog();
     } else if (verb == "shows") {
@@ -74,6 +84,10 @@ void Steps::take(const QString& verb, const QString& argument) {
         _driver.leaveOpen();
     } else if (verb == "read") {
         printFile(qEnvironmentVariable(argument.toLatin1().constData()));
+    } else if (verb == "run") {
+        run(argument);
+    } else if (verb == "descriptors") {
+        allowDescriptors(argument);
     } else {
         takeOfCrowd(verb, argument);
     }
@@ -193,6 +207,7 @@ void Steps::type(const QString& text) {
     auto& editRow = _driver.control<QTableView>("editParameterTableView");
     const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
     const QPoint center = editRow.viewport()->mapTo(&_driver.window(), cell.center());
+    _driver.window().activateWindow(); // after an alert, nobody else does so off screen
     QTest::mouseDClick(_driver.window().windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
     QLineEdit* editor = nullptr;
     _driver.waitFor("an open editor", [&] {
@@ -225,6 +240,28 @@ void Steps::printFile(const QString& path) {
     }
     while (!file.atEnd()) {
         print("Read: " + QString::fromUtf8(file.readLine()).trimmed());
+    }
+}
+
+// Not by means of Qt, which needs descriptors of its own to run a program.
+void Steps::run(const QString& command) const {
+    rlimit present{};
+    ::getrlimit(RLIMIT_NOFILE, &present);
+    ::setrlimit(RLIMIT_NOFILE, &_usualDescriptors);
+    const int status = std::system(command.toLocal8Bit().constData());
+    ::setrlimit(RLIMIT_NOFILE, &present);
+    if (status != 0) {
+        throw Disappointment{"failed: " + command};
+    }
+}
+
+void Steps::allowDescriptors(const QString& number) const {
+    rlimit limit = _usualDescriptors;
+    if (number != "all") {
+        limit.rlim_cur = number.toULong();
+    }
+    if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) {
+        throw Disappointment{"the system does not allow descriptors: " + number};
     }
 }
 

@@ -1,6 +1,8 @@
-// A visit to the running program whose steps a test writes, one on a line:
+// A visit to the running program whose steps a test writes, one on a line, with blank lines between
+// them as it likes:
 //
 //   interface NAME           chooses the interface of this name in the system
+//   interfaces               opens the list of interfaces, prints what it offers, and closes it
 //   discover COUNT           presses Discover and waits for so many units
 //   crowd COUNT              waits for the discovery of the launch, then presses Discover until so
 //                            many units are listed, with time to rest between: what a slow machine
@@ -9,6 +11,7 @@
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
 //   press BUTTON             clicks the button of this object name
+//   presses COUNT BUTTON     the same, so often
 //   log                      opens the event log
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
@@ -26,6 +29,10 @@
 //   print                    prints the shown parameters and the event log
 //   stay                     leaves the window open at the end; nothing watches it any more
 //   read VARIABLE            prints the lines of the file that this environment variable names
+//   run COMMAND              runs a command of the shell, which must succeed; the program stands
+//                            still meanwhile
+//   descriptors NUMBER       has the system open no descriptor from this number on, but for
+//                            commands; "descriptors all" gives back what it allowed before
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -36,6 +43,8 @@
 
 #include "LoopWatch.h"
 #include "WindowDriver.h"
+
+#include <sys/resource.h>
 
 #include <QTimer>
 #include <memory>
@@ -66,12 +75,15 @@ private:
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);
+    void run(const QString& command) const;
+    void allowDescriptors(const QString& number) const;
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 
     WindowDriver& _driver;
     QTimer _alertWatch;
     std::unique_ptr<LoopWatch> _loopWatch;
+    rlimit _usualDescriptors{}; // as the system allows them
 };
 
 } // namespace kx

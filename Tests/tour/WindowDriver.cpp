@@ -81,10 +81,28 @@ void WindowDriver::pickInterface(const QString& name) const {
     print("Interface: " + interfaces.currentText());
 }
 
+void WindowDriver::printInterfaces() const {
+    auto& interfaces = control<QComboBox>("interfacePopUp");
+    click(interfaces);
+    QStringList titles;
+    for (int index = 0; index < interfaces.count(); ++index) {
+        titles += interfaces.itemText(index);
+    }
+    if (interfaces.view()->isVisible()) {
+        QTest::keyClick(interfaces.view(), Qt::Key_Escape);
+    }
+    print("Interfaces: " + titles.join("; "));
+}
+
 void WindowDriver::discover(int units) const {
     auto& list = control<QComboBox>("unitSelectPopUp");
+    bool wasEmptied = false;
+    const QObject watch;
+    // An earlier Discover may fill it again at once.
+    QObject::connect(list.model(), &QAbstractItemModel::modelReset, &watch,
+                     [&] { wasEmptied = wasEmptied || list.count() == 0; });
     press("discoverButton");
-    waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+    waitFor("an empty unit pop-up after Discover", [&] { return wasEmptied; });
     takePicture("window-discovering");
     waitFor(QString("%1 units").arg(units), [&] { return list.count() >= units; });
     printUnits();

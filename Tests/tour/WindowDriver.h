@@ -54,6 +54,9 @@ public:
     // Opens the list until it offers the interface of this name in the system.
     void pickInterface(const QString& name) const;
 
+    // Opens the list of interfaces, prints its titles in one line, and closes it.
+    void printInterfaces() const;
+
     // Presses Discover, and waits until at least so many units are listed.
     void discover(int units) const;
 

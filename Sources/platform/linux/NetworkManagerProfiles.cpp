@@ -64,7 +64,8 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
 
 void NetworkManagerProfiles::connectToBus() {
     _lastTry = Clock::now();
-    _bus = std::make_unique<SystemBus>([this](const QDBusMessage& signal) { hear(signal); });
+    _bus = std::make_unique<SystemBus>([this](const QDBusMessage& signal) { hear(signal); },
+                                       firstPatience);
     if (!_bus->isOpen()) {
         return;
     }

@@ -5,8 +5,9 @@
 // come, go, come back or hang at any time, and its start is heard. While it hangs, the profiles are
 // the ones that it told last; its answer is awaited without an end, and without a timer.
 //
-// Without a bus there are no profiles. Nobody tells when a bus comes, so each time that the
-// profiles are asked for is a try to reach one, though not more than one a second. At rest nothing
+// Without a bus, or with one that has stopped when it is to be reached, there are no profiles.
+// Nobody tells when a bus comes, so each time that the profiles are asked for is a try to reach
+// one, though not more than one a second. At rest nothing
 // wakes up, with a bus or without.
 //
 // Threading: the main thread only, which needs a QCoreApplication whose event loop runs.

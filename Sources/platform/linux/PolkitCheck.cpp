@@ -130,13 +130,13 @@ bool isPolkitOn(SystemBus& bus) {
 } // namespace
 
 bool isPolkitThere() {
-    SystemBus bus(hearNothing);
+    SystemBus bus(hearNothing, patienceWithBus);
     return isPolkitOn(bus);
 }
 
 // A person types a password meanwhile, so the answer has no time-out.
 PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {
-    SystemBus bus(hearNothing);
+    SystemBus bus(hearNothing, patienceWithBus);
     if (!isPolkitOn(bus)) {
         return PolkitAnswer::unreachable;
     }

@@ -1,12 +1,15 @@
 #include "platform/linux/StartedTool.h"
 
+#include "support/Error.h"
 #include "support/Pipe.h"
 #include "support/PlatformException.h"
 #include "support/SystemLog.h"
+#include "support/TextFormat.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>
 
+#include <cerrno>
 #include <fstream>
 #include <thread>
 #include <utility>
@@ -27,6 +30,10 @@ std::unique_ptr<StartedTool> StartedTool::start(const std::string& path,
                                                 const std::vector<std::string>& arguments,
                                                 const Environment& environment) {
     const FileDescriptor nothing(::open("/dev/null", O_RDWR | O_CLOEXEC));
+    if (nothing.number() < 0) {
+        logToSystem(filledText("Could not open /dev/null: %s", {posixErrorText(errno)}));
+        return nullptr;
+    }
     const ChildProcess::Streams streams{
         .standardInput = nothing.number(), .standardOutput = nothing.number(), .standardError = {}};
     try {

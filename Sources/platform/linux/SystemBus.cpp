@@ -1,5 +1,7 @@
 #include "platform/linux/SystemBus.h"
 
+#include "platform/linux/BusProbe.h"
+
 #include <cstdlib>
 #include <utility>
 
@@ -27,11 +29,21 @@ QString newConnectionName() {
     return QString("kx-system-bus-%1").arg(++count);
 }
 
+// One that is not open when the bus does not answer.
+QDBusConnection connectionToBus(std::chrono::milliseconds patience) {
+    const QString address = busAddress();
+    const QString name = newConnectionName();
+    return busAnswers(address.toLocal8Bit().toStdString(), patience)
+               ? QDBusConnection::connectToPeer(address, name)
+               : QDBusConnection(name);
+}
+
 } // namespace
 
-SystemBus::SystemBus(std::function<void(const QDBusMessage&)> heard)
+SystemBus::SystemBus(std::function<void(const QDBusMessage&)> heard,
+                     std::chrono::milliseconds patience)
     : _heard(std::move(heard))
-    , _connection(QDBusConnection::connectToPeer(busAddress(), newConnectionName())) {
+    , _connection(connectionToBus(patience)) {
     if (!isOpen()) {
         return;
     }

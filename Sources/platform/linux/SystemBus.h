@@ -1,10 +1,10 @@
 // A connection of this object's own to the host's system bus, on which nothing waits for the bus's
-// greeting, nor for an answer unless the caller wants to wait for one. The system call that
-// connects is not in our hands: it waits while so many programs wait for a bus that has stopped
-// that no place is left in its queue.
+// greeting, nor for an answer unless the caller wants to wait for one.
 //
 // That is why it is not one of the toolkit's own bus connections, which wait for the greeting; a
-// bus that has stopped would hold the application up. Nobody answers calls to this end.
+// bus that has stopped would hold the application up. For the same reason the bus has to show first
+// that it answers (BusProbe.h): one that has stopped is as good as none. Nobody answers calls to
+// this end.
 //
 // Threading: the main thread only, which needs a QCoreApplication; what is heard comes from its
 // event loop. A connection that has ended does not come back: make another one.
@@ -26,9 +26,10 @@ class SystemBus final : public QObject {
 
 public:
     // Connects to the bus at the address in the environment variable DBUS_SYSTEM_BUS_ADDRESS, or
-    // else at the well-known one. `heard` is called with every signal that arrives; it may destroy
-    // this object.
-    explicit SystemBus(std::function<void(const QDBusMessage& signal)> heard);
+    // else at the well-known one, if it shows within `patience` that it answers. `heard` is called
+    // with every signal that arrives; it may destroy this object.
+    SystemBus(std::function<void(const QDBusMessage& signal)> heard,
+              std::chrono::milliseconds patience);
     ~SystemBus() override;
     SystemBus(const SystemBus&) = delete;
     SystemBus& operator=(const SystemBus&) = delete;

@@ -1,23 +1,80 @@
 #include "platform/posix/SyslogSystemLog.h"
 
-#include <syslog.h>
+#include "System Configuration/SystemCallWrappers.h"
 
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <syslog.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <climits>
+#include <cstddef>
+#include <ctime>
 #include <utility>
 
 namespace kx {
 
-SyslogSystemLog::SyslogSystemLog(std::string programName)
-    : _programName(std::move(programName)) {
-    ::openlog(_programName.c_str(), LOG_PID | LOG_PERROR, LOG_USER);
+namespace {
+
+FileDescriptor datagramSocket() {
+    return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
 }
 
-SyslogSystemLog::~SyslogSystemLog() {
-    ::closelog();
+// What the daemon reads in front of a line: the priority, and the local time with the month's
+// English name.
+std::string lineHead() {
+    constexpr std::array<const char*, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                                 "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+    const std::time_t now = std::time(nullptr);
+    std::tm local{};
+    ::localtime_r(&now, &local);
+    std::array<char, 32> time{};
+    std::strftime(time.data(), time.size(), "%e %H:%M:%S ", &local);
+    return "<" + std::to_string(LOG_USER | LOG_NOTICE) + ">" +
+           months.at(static_cast<std::size_t>(local.tm_mon)) + " " + time.data();
 }
 
-// The line goes in as an argument, never as the format: it can hold bytes of foreign datagrams.
+// As much as standard error takes at once. A pipe that can be written to has room for PIPE_BUF
+// bytes; one that nobody reads any more would end the process.
+void copyToStandardError(std::string_view text) {
+    pollfd polled{STDERR_FILENO, POLLOUT, 0};
+    while (!text.empty() && ::poll(&polled, 1, 0) > 0 && polled.revents == POLLOUT) {
+        const ssize_t count =
+            Write(STDERR_FILENO, text.data(), std::min<std::size_t>(text.size(), PIPE_BUF));
+        if (count <= 0) {
+            return;
+        }
+        text.remove_prefix(static_cast<std::size_t>(count));
+    }
+}
+
+} // namespace
+
+SyslogSystemLog::SyslogSystemLog(std::string programName, std::string socketPath)
+    : _programName(std::move(programName))
+    , _socketPath(std::move(socketPath))
+    , _socket(datagramSocket()) {}
+
 void SyslogSystemLog::write(std::string_view line) {
-    ::syslog(LOG_NOTICE, "%s", escapedLine(line).c_str());
+    const std::string text =
+        _programName + "[" + std::to_string(::getpid()) + "]: " + escapedLine(line);
+    send(lineHead() + text);
+    copyToStandardError(text + "\n");
+}
+
+void SyslogSystemLog::send(std::string_view text) {
+    if (_socket.number() < 0) {
+        _socket = datagramSocket();
+    }
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    _socketPath.copy(std::data(address.sun_path), sizeof address.sun_path - 1);
+    // To the address each time, so that a daemon that was started anew is found.
+    ::sendto(_socket.number(), text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL,
+             reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }
 
 } // namespace kx

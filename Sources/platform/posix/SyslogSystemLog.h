@@ -1,10 +1,13 @@
-// The system log as syslog(3), with a copy on standard error for whoever started the program from a
-// terminal.
+// The host's system log, by the socket on which its daemon takes lines, with a copy on standard
+// error for whoever started the program from a terminal.
 //
-// syslog(3) is one for the process, so there is one object of this class at most.
+// Not syslog(3), which waits for a daemon that has stopped reading. Here nothing waits: a line for
+// which there is no room is lost, in the log as on standard error. A log that is not there, ends or
+// comes back is tried again with each line.
 
 #pragma once
 
+#include "support/Pipe.h"
 #include "support/SystemLog.h"
 
 #include <string>
@@ -14,16 +17,18 @@ namespace kx {
 
 class SyslogSystemLog final : public SystemLog {
 public:
-    // `programName` and the process's number head each line: "kxconfig[123]: LINE".
-    explicit SyslogSystemLog(std::string programName);
-    ~SyslogSystemLog() override;
-    SyslogSystemLog(const SyslogSystemLog&) = delete;
-    SyslogSystemLog& operator=(const SyslogSystemLog&) = delete;
+    // `programName` and the process's number head each line: "kxconfig[123]: LINE". `socketPath`
+    // names a datagram socket.
+    explicit SyslogSystemLog(std::string programName, std::string socketPath = "/dev/log");
 
     void write(std::string_view line) override;
 
 private:
-    std::string _programName; // syslog(3) keeps a pointer to it
+    void send(std::string_view text);
+
+    std::string _programName;
+    std::string _socketPath;
+    FileDescriptor _socket; // none when the system gave none
 };
 
 } // namespace kx

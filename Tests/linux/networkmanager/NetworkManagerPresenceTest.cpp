@@ -183,7 +183,33 @@ TEST_F(NetworkManagerPresence, ABusThatHangsHoldsNobodyUp) {
               }),
               atOnce);
     host.bus->goOn();
-    EXPECT_TRUE(changesBring(both));
+    namesBecome(both);
+}
+
+// The system call that connects waits for a place in the queue of such a bus.
+TEST_F(NetworkManagerPresence, ABusThatHangsWhileManyWaitForItHoldsNobodyUp) {
+    host.start();
+    host.bus->hang();
+    auto waiting = host.fillQueueOfBus();
+    EXPECT_GT(waiting.size(), 1U);
+    EXPECT_LT(timeOf([&] {
+                  profiles.emplace();
+                  EXPECT_EQ(names(), Names());
+              }),
+              atOnce);
+    waiting.clear();
+    host.bus->goOn();
+    namesBecome(both);
+}
+
+TEST_F(NetworkManagerPresence, ABusThatBeginsToHangKeepsTheNames) {
+    startAndList();
+    host.bus->hang();
+    handleEventsFor(300ms);
+    EXPECT_LT(timeOf([&] { EXPECT_EQ(names(), both); }), atOnce);
+    host.bus->goOn();
+    PrivateHost::nmcli({"connection", "down", PrivateHost::officeID});
+    namesBecome({"Production line"});
 }
 
 TEST_F(NetworkManagerPresence, ItMayEndWhileABusHangs) {

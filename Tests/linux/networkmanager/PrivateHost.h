@@ -112,6 +112,17 @@ public:
     }
     void stopBus() { bus.reset(); }
 
+    // Connections to a bus that hangs, until it takes no more.
+    std::vector<FileDescriptor> fillQueueOfBus() const {
+        std::vector<FileDescriptor> waiting;
+        bool isAccepted = true;
+        while (isAccepted) {
+            waiting.emplace_back(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+            isAccepted = connectToBus(waiting.back().number());
+        }
+        return waiting;
+    }
+
     // Comes to be on the bus a little later. Its view of the devices is the kernel's own, because
     // there is nobody who would prepare them.
     void startNetworkManager() {
@@ -160,15 +171,15 @@ public:
     std::optional<BackgroundProgram> networkManager;
 
 private:
-    bool busListens() const {
+    bool connectToBus(int socket) const {
         sockaddr_un address{};
         address.sun_family = AF_UNIX;
         busSocket().copy(std::data(address.sun_path), sizeof address.sun_path - 1);
-        const int descriptor = ::socket(AF_UNIX, SOCK_STREAM, 0);
-        const bool isConnected =
-            ::connect(descriptor, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
-        ::close(descriptor);
-        return isConnected;
+        return ::connect(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0;
+    }
+    bool busListens() const {
+        const FileDescriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
+        return connectToBus(socket.number());
     }
     std::string busSocket() const { return _folder + "/bus"; }
     std::string busAddress() const { return "unix:path=" + busSocket(); }

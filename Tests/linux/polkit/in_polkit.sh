@@ -19,6 +19,8 @@
 #     HOME           a folder of its own
 #     KX_DIALOGS     a file with one line for each question that the person was asked, the
 #                    action's name
+#     KX_HOST        a pipe: the line "end" in it ends the bus and the daemon, "start" starts
+#                    them anew
 #
 # OPTIONS
 #   --person ANSWER  who sits at the dialogs: one who will allow, refuse (by a wrong password) or
@@ -128,20 +130,34 @@ has_daemon() {
 }
 
 start_bus() {
-    # The bus is not to start any services by itself.
-    mount -t tmpfs -o mode=755 tmpfs /usr/share/dbus-1/system-services
     exec {ready}< <(exec dbus-daemon --system --nofork --nopidfile --nosyslog --print-address \
         2>"$scratch/bus")
+    bus=$!
     await 'the bus' "$ready"
 }
 
 start_daemon() {
     /usr/lib/polkit-1/polkitd --no-debug >"$scratch/polkitd" 2>&1 &
+    daemon=$!
     local end=$((SECONDS + seconds_to_ready))
     until has_daemon; do
         ((SECONDS < end)) || die "$failed" "polkit did not start: $(<"$scratch/polkitd")"
         sleep 0.02
     done
+}
+
+# Takes the words of KX_HOST.
+obey() {
+    local word
+    while read -r word; do
+        case $word in
+        end) kill "$bus" "$daemon" ;;
+        start)
+            start_bus
+            start_daemon
+            ;;
+        esac
+    done <>"$host"
 }
 
 seat_person() {
@@ -161,7 +177,7 @@ become_command() {
         identity=()
     fi
     exec setpriv "${identity[@]}" -- env --default-signal=INT,QUIT \
-        HOME="$home" USER="$user" LOGNAME="$user" KX_DIALOGS="$dialogs" "$@"
+        HOME="$home" USER="$user" LOGNAME="$user" KX_DIALOGS="$dialogs" KX_HOST="$host" "$@"
 }
 
 run_inside() {
@@ -172,12 +188,15 @@ run_inside() {
     mount -t tmpfs -o mode=755 tmpfs /run
     scratch=/run/kx
     install -d -m 755 /run/dbus "$scratch"
-    home=$scratch/home dialogs=$scratch/dialogs
+    home=$scratch/home dialogs=$scratch/dialogs host=$scratch/host
     : >"$dialogs"
     mkfifo -- "$scratch/go"
+    mkfifo -m 622 -- "$host"
 
     add_user
     open_way_to_project
+    # The bus is not to start any services by itself.
+    mount -t tmpfs -o mode=755 tmpfs /usr/share/dbus-1/system-services
     if [[ $without != bus ]]; then
         start_bus
     fi
@@ -188,6 +207,7 @@ run_inside() {
         install_actions
         install_rules
         start_daemon
+        obey &
     fi
 
     become_command "$@" <&0 &

@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# The real program has no descriptor left: the tool cannot be run, the listener cannot be started and
+# the interfaces cannot be listed, and it says so. Once there are some again, all three work.
+set -euo pipefail
+# shellcheck source=Tests/lab/expectations.sh
+source "${BASH_SOURCE[0]%/*}/expectations.sh"
+kxconfig=$2
+
+move="
+    unit 4B 58 00 00 00 01
+    parameter internal IP address
+    type 192.0.2.50
+    press applyButton"
+# A listener that runs goes on; it is the next one that gets no socket. The change of a link has the
+# links read anew.
+export KX_STEPS="
+    log
+    interface kx0
+    discover 3
+    descriptors 4
+    $move
+    logs Stuff ARP cache result: -60031
+    logs Send to: 192.0.2.50 command: ^^IdIC0000232
+    logs UDP server did send data.
+    lacks internal IP address
+    run ip link set lo down
+    interfaces
+    discover 3
+    logs UDP did stop with error.
+    logs Too many open files
+    press reloadButton
+    logs The UDP listener is not running.
+
+    descriptors all
+    interfaces
+    discover 3
+    logs Request unit parameters with address: 192.0.2.255
+    logs serial:4B 58 00 00 00 03
+    $move
+    logs Stuff ARP cache with MAC 02:4B:58:00:00:01 for IP 192.0.2.50
+    shows internal IP address: 192.0.2.50"
+export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsteps QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
+
+errors=$(mktemp)
+trap 'rm -f -- "$errors"' EXIT
+report=$("$kxconfig" 2>"$errors") || fail "the visit failed: $report $(<"$errors")"
+expect_equal 'what the list of interfaces offered' \
+    'Interfaces: No configured interfaces
+Interfaces: Ethernet (kx0)' "$(grep '^Interfaces: ' <<<"$report")"
+expect_equal 'the system log' 'Could not open /dev/null: Too many open files' \
+    "$(sed -n 's/^kxconfig\[[0-9]*\]: //p' "$errors")"
