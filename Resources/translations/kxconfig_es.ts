@@ -86,7 +86,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Command text:</source>
-        <translation>&amp;Texto de la orden:</translation>
+        <translation>Te&amp;xto de la orden:</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>

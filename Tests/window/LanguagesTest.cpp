@@ -38,6 +38,19 @@ void expectRoomForItself(const QWidget& widget) {
     EXPECT_GE(widget.height(), widget.sizeHint().height()) << describe(widget);
 }
 
+// A marked letter is drawn by itself, without the kerning that the whole text is measured with.
+void expectRoomForPieces(const QLabel& label) {
+    const QString text = label.text();
+    const auto mark = text.indexOf('&');
+    if (mark >= 0) {
+        const QFontMetrics metrics = label.fontMetrics();
+        EXPECT_GE(label.width(), metrics.horizontalAdvance(text.left(mark)) +
+                                     metrics.horizontalAdvance(text.mid(mark + 1, 1)) +
+                                     metrics.horizontalAdvance(text.mid(mark + 2)))
+            << text.toStdString();
+    }
+}
+
 void expectRoomForText(const QComboBox& popUp, const QString& text) {
     QStyleOptionComboBox option;
     option.initFrom(&popUp);
@@ -74,6 +87,7 @@ void expectRoomForEverything(const QWidget& window) {
     for (const auto* label : window.findChildren<QLabel*>()) {
         if (label->isVisible() && !label->wordWrap()) {
             expectRoomForItself(*label);
+            expectRoomForPieces(*label);
         }
     }
     for (const auto* button : window.findChildren<QAbstractButton*>()) {

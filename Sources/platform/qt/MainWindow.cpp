@@ -95,6 +95,7 @@ MainWindow::MainWindow(QWidget* parent)
         drawFrameOnPixels(*frame);
     }
     keepEmptyStatesReadable();
+    giveTextsOfButtonsRoom();
     fitToContent();
 }
 
@@ -259,6 +260,15 @@ void MainWindow::connectTables() {
     }
     const int padding = 3 * fontMetrics().averageCharWidth();
     parameters->setColumnWidth(0, widest + padding);
+}
+
+// Some styles leave hardly a pixel beside a long text.
+void MainWindow::giveTextsOfButtonsRoom() {
+    const int room = 4 * fontMetrics().averageCharWidth();
+    for (QPushButton* button : _ui->content->findChildren<QPushButton*>()) {
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        button->setMinimumWidth(text.width() + room);
+    }
 }
 
 // The scroll area around the content would otherwise ask for a small part of it only.
