@@ -267,7 +267,7 @@ void MainWindow::giveTextsOfButtonsRoom() {
     const int room = 4 * fontMetrics().averageCharWidth();
     for (QPushButton* button : _ui->content->findChildren<QPushButton*>()) {
         const QSize text = fontMetrics().size(Qt::TextShowMnemonic, button->text());
-        button->setMinimumWidth(text.width() + room);
+        button->setMinimumWidth(std::max(text.width() + room, button->sizeHint().width()));
     }
 }
 

@@ -19,7 +19,7 @@ QString languageOf(const QString& name) {
 QString chosenLanguage(const QStringList& languages) {
     const QStringList available = QtTranslations::available();
     for (const QString& name : languages) {
-        const QString language = languageOf(name);
+        QString language = languageOf(name);
         if (language == english || available.contains(language)) {
             return language;
         }
