@@ -61,7 +61,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <source>Select a parameter to edit it</source>
-        <translation>Zum Bearbeiten einen Parameter auswählen</translation>
+        <translation>Parameter zum Bearbeiten wählen</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>

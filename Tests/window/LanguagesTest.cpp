@@ -84,6 +84,13 @@ void expectRoomForCells(const QTableView& table) {
     }
 }
 
+void expectRoomForPlaceholder(const ParameterTableView& table) {
+    const QRect room = table.viewport()->rect();
+    const QRect wanted = table.fontMetrics().boundingRect(
+        room, static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, table.placeholderText());
+    EXPECT_TRUE(room.contains(wanted)) << table.placeholderText().toStdString();
+}
+
 // Everything that shows text in a window and cannot scroll.
 void expectRoomForEverything(const QWidget& window) {
     for (const auto* label : window.findChildren<QLabel*>()) {
@@ -99,6 +106,9 @@ void expectRoomForEverything(const QWidget& window) {
     }
     for (const auto* popUp : window.findChildren<QComboBox*>()) {
         expectRoomForTexts(*popUp);
+    }
+    for (const auto* table : window.findChildren<ParameterTableView*>()) {
+        expectRoomForPlaceholder(*table);
     }
 }
 
@@ -211,12 +221,6 @@ TEST_F(EveryTextTest, OfTheAboutBoxAndTheHelpViewerIsLookedUp) {
 TEST_P(LanguagesTest, BeforeAUnitAnsweredNothingIsCutOff) {
     launch();
     expectRoomForEverything(window);
-    for (const auto* table : window.findChildren<ParameterTableView*>()) {
-        const QRect room = table->viewport()->rect();
-        const QRect wanted = table->fontMetrics().boundingRect(
-            room, static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, table->placeholderText());
-        EXPECT_TRUE(room.contains(wanted)) << table->placeholderText().toStdString();
-    }
     expectInSight(roomOfDesktop());
     takePicture(window, "empty");
 }
