@@ -114,7 +114,7 @@ void EditReport::unitDidReply(const UnitRecord& record) {
 }
 
 std::string EditReport::textOfReply(const UnitRecord& record) const {
-    const std::string_view name = nameOfUnitParameter(_edit.parameter);
+    const std::string name = localizedText(nameOfUnitParameter(_edit.parameter));
     const auto found = record.value(_edit.parameter);
     if (!found.has_value()) {
         return localizedText("The unit's parameters hold no %@.", {name});

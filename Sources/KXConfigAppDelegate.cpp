@@ -27,6 +27,10 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     logText.clear();
     _outlets.eventLogDrawer->close();
 
+    for (const UnitParameter parameter : allUnitParameters) {
+        _parameterNamesInLog[static_cast<std::size_t>(parameter)] =
+            localizedText(nameOfUnitParameter(parameter));
+    }
     listInterfaces(currentInterfaceTitles());
 
     stopListener();

@@ -248,6 +248,7 @@ private:
     std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
     Registry _devicesD;
+    ShownParameterNames _parameterNamesInLog;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written

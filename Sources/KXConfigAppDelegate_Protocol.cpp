@@ -132,7 +132,7 @@ void KXConfigAppDelegate::didReceiveDataFromAddress(ByteView data, const Bytes& 
 }
 
 std::string KXConfigAppDelegate::unitParameters(ByteView list) {
-    DecodedUnitParameters decoded = decodeUnitParameters(list);
+    DecodedUnitParameters decoded = decodeUnitParameters(list, &_parameterNamesInLog);
     const auto serial = decoded.record.value(UnitParameter::serialNumber);
     if (serial.has_value()) {
         _devicesD.insert_or_assign(std::string(*serial), decoded.record);

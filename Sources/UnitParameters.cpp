@@ -152,10 +152,21 @@ bool takeValue(ValueForm form, ByteView value, ValueText& text) {
     return identity.has_value();
 }
 
-void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded) {
+void appendLineStart(std::string& displayText, const Item& item, const ShownParameterNames* names) {
+    if (names == nullptr || !item.parameter.has_value()) {
+        displayText += item.lineStart.view();
+    } else {
+        displayText += "\n\t";
+        displayText += (*names)[static_cast<std::size_t>(*item.parameter)];
+        displayText += ": ";
+    }
+}
+
+void decodeItem(const Item& item, ByteView value, const ShownParameterNames* names,
+                DecodedUnitParameters& decoded) {
     ValueText text;
     const bool hasText = takeValue(item.form, value, text);
-    decoded.displayText += item.lineStart.view();
+    appendLineStart(decoded.displayText, item, names);
     decoded.displayText += hasText ? text.view() : missingText;
     if (!item.parameter.has_value()) {
         return;
@@ -188,11 +199,11 @@ bool operator==(const UnitRecord& left, const UnitRecord& right) {
                        [&](UnitParameter each) { return left.value(each) == right.value(each); });
 }
 
-DecodedUnitParameters decodeUnitParameters(ByteView list) {
+DecodedUnitParameters decodeUnitParameters(ByteView list, const ShownParameterNames* names) {
     DecodedUnitParameters decoded;
     decoded.displayText.reserve(usualDisplayLength);
     while (const Item* item = itemAtFrontOf(list)) {
-        decodeItem(*item, subrange(list, tagLength, item->valueLength), decoded);
+        decodeItem(*item, subrange(list, tagLength, item->valueLength), names, decoded);
         list = list.subspan(tagLength + item->valueLength);
     }
     return decoded;

@@ -22,6 +22,7 @@
 #pragma once
 
 #include "support/ByteRange.h"
+#include "support/LocalizedText.h"
 
 #include <array>
 #include <cstddef>
@@ -53,16 +54,19 @@ inline constexpr std::array<UnitParameter, unitParameterCount> allUnitParameters
     UnitParameter::serialNumber,          UnitParameter::unitID,
 };
 
-// The name that a parameter has in tables and in the log.
+// The name that a parameter has in records, and the key of the text that people see for it.
 constexpr std::string_view nameOfUnitParameter(UnitParameter parameter) {
     constexpr std::array<std::string_view, unitParameterCount> names{
-        "destination IP address",  "destination MAC address",
-        "destination Port number", "device Port number",
-        "internal IP address",     "internal MAC address",
-        "serial number",           "unit ID",
+        localizedKey("destination IP address"),  localizedKey("destination MAC address"),
+        localizedKey("destination Port number"), localizedKey("device Port number"),
+        localizedKey("internal IP address"),     localizedKey("internal MAC address"),
+        localizedKey("serial number"),           localizedKey("unit ID"),
     };
     return names[static_cast<std::size_t>(parameter)];
 }
+
+// What people see for each parameter, in the order of UnitParameter.
+using ShownParameterNames = std::array<std::string, unitParameterCount>;
 
 // The parameter with exactly this name, case included; absent when there is none.
 std::optional<UnitParameter> unitParameterForName(std::string_view name);
@@ -109,7 +113,9 @@ struct DecodedUnitParameters {
 // Decodes a list. It ends quietly, with what came before, at a tag that is not in the table or is
 // cut short. A later item of a tag replaces an earlier one in the record; both have their line. A
 // unit ID that is not UTF-8 leaves the record without one and shows as "(null)". Throws
-// RangeFailure for an item whose value is cut short.
-DecodedUnitParameters decodeUnitParameters(ByteView list);
+// RangeFailure for an item whose value is cut short. The display text has the names of the records,
+// or those of `names` where they are given.
+DecodedUnitParameters decodeUnitParameters(ByteView list,
+                                           const ShownParameterNames* names = nullptr);
 
 } // namespace kx

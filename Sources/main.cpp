@@ -17,6 +17,7 @@
 #include "platform/qt/QtHelpServices.h"
 #include "platform/qt/QtLocalizedText.h"
 #include "platform/qt/QtRunLoop.h"
+#include "platform/qt/QtTranslations.h"
 
 #include <QApplication>
 #include <csignal>
@@ -27,11 +28,13 @@ int main(int argc, char* argv[]) {
 
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
+    QApplication::setApplicationVersion(KX_VERSION);
     // The name of the desktop entry: by it a desktop gives the window its icon.
     QApplication::setDesktopFileName("org.kxconfig.KXConfig");
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);
+    const kx::QtTranslations translations;
     const kx::QtLocalizedText localizedText;
     kx::installLocalizedText(&localizedText);
 

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "support/LocalizedText.h"
+
 #include <string_view>
 
 namespace kx {
@@ -52,7 +54,7 @@ inline constexpr std::string_view linkActiveEntry = "Active";
 inline constexpr std::string_view kSCValNetInterfaceTypePPP = "PPP";
 
 // What stands, localized, for every value that is missing.
-inline constexpr std::string_view notAvailableText = "not available";
+inline constexpr std::string_view notAvailableText = localizedKey("not available");
 
 // What marks the service identifier of a kernel interface that no service covers: "=" and the
 // interface's name.

@@ -23,7 +23,7 @@ std::shared_ptr<HardwareAddress> newHardwareAddress() {
 
 void describeError(std::optional<std::string>* errorDescription, std::string_view message) {
     if (errorDescription != nullptr) {
-        *errorDescription = localizedText(message);
+        *errorDescription = message;
     }
 }
 
@@ -97,17 +97,19 @@ bool HardwareAddressFormatter::getObjectValueForStringErrorDescription(
         errorDescription->reset();
     }
     if (text.empty()) {
-        describeError(errorDescription, "HardwareAddressFormatter: inString is nil");
+        describeError(errorDescription, localizedText("HardwareAddressFormatter: inString is nil"));
         return false;
     }
     auto address = newHardwareAddress();
     if (address == nullptr) {
-        describeError(errorDescription, "HardwareAddressFormatter: object could not be allocated");
+        describeError(errorDescription,
+                      localizedText("HardwareAddressFormatter: object could not be allocated"));
         return false;
     }
     const bool isParsed = parseGroups(cursorForText(text), *address);
     if (!isParsed) {
-        describeError(errorDescription, "HardwareAddressFormatter: invalid Ethernet address");
+        describeError(errorDescription,
+                      localizedText("HardwareAddressFormatter: invalid Ethernet address"));
         logToSystem(filledText("Input: %@", {text}));
     }
     object = std::move(address);

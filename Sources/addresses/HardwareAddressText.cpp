@@ -33,7 +33,7 @@ std::uint8_t nextOctet(const ParseCursor& cursor, ParsePosition& position) {
 }
 
 void logInvalidAddress(std::string_view message, std::string_view text) {
-    logToSystem(localizedText(message));
+    logToSystem(message);
     logToSystem(text);
 }
 
@@ -108,7 +108,7 @@ bool eaForString(std::string_view text, std::span<std::uint8_t, hardwareAddressL
             return true;
         }
     }
-    logInvalidAddress("HardwareAddressFormatter: invalid Ethernet address", text);
+    logInvalidAddress(localizedText("HardwareAddressFormatter: invalid Ethernet address"), text);
     return false;
 }
 
@@ -123,7 +123,7 @@ bool ha16ForString(std::string_view text, std::span<std::uint8_t, longestHardwar
     while (position.offset < cursor.length) {
         if (!isAtSeparator(cursor, position)) {
             if (!isComplete(groups)) {
-                logInvalidAddress("HardwareAddress: invalid Ethernet address", text);
+                logInvalidAddress(localizedText("HardwareAddress: invalid Ethernet address"), text);
             }
             break;
         }

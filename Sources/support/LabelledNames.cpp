@@ -15,16 +15,16 @@ struct RankedLabel {
 };
 
 constexpr std::array<RankedLabel, 10> rankedLabels{{
-    {"work", "01"},
-    {"home", "02"},
-    {"iPhone", "03"},
-    {"mobile", "04"},
-    {"main", "05"},
-    {"home fax", "06"},
-    {"work fax", "07"},
-    {"pager", "08"},
-    {"other", "09"},
-    {"vacation", "10"},
+    {localizedKey("work"), "01"},
+    {localizedKey("home"), "02"},
+    {localizedKey("iPhone"), "03"},
+    {localizedKey("mobile"), "04"},
+    {localizedKey("main"), "05"},
+    {localizedKey("home fax"), "06"},
+    {localizedKey("work fax"), "07"},
+    {localizedKey("pager"), "08"},
+    {localizedKey("other"), "09"},
+    {localizedKey("vacation"), "10"},
 }};
 
 std::string_view rankOfLabel(std::string_view tail) {

@@ -22,6 +22,11 @@ public:
     virtual std::string textForKey(std::string_view key) const = 0;
 };
 
+// The key itself. It marks a text that is looked up elsewhere, so that the catalogues list it.
+constexpr std::string_view localizedKey(std::string_view key) {
+    return key;
+}
+
 // Makes `source` the process's source and returns the one before it; null means that keys stand for
 // themselves. The caller keeps ownership and must install another before it destroys this one.
 const LocalizedText* installLocalizedText(const LocalizedText* source);

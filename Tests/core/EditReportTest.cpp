@@ -201,4 +201,10 @@ TEST(EditReport, EverySentenceIsLookedUpAsAWhole) {
                              "was made for 10.0.0.7: administrator rights were not given.>");
 }
 
+TEST(EditReport, NamesTheParameterAsPeopleSeeIt) {
+    const MarkedLocalizedText marked;
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3520", "3523"),
+              "<The unit now shows 3523 as its <destination Port number>.>");
+}
+
 } // namespace kx

@@ -115,6 +115,21 @@ TEST(UnitParameterList, WithEveryItemGivesEveryValue) {
                                    "\n\tserial number: 01 02 03 04 05 06");
 }
 
+TEST(UnitParameterList, IsShownWithTheNamesThatItIsGiven) {
+    ShownParameterNames names;
+    for (const UnitParameter parameter : allUnitParameters) {
+        names[static_cast<std::size_t>(parameter)] =
+            "<" + std::string(nameOfUnitParameter(parameter)) + ">";
+    }
+    const Bytes list = joined(
+        {item("<T>", {0x0D, 0xC0}), item("<O>", {1, 2, 3, 4, 5, 6}), item("<I>", {10, 0, 0, 1})});
+    const auto decoded = decodeUnitParameters(list, &names);
+    EXPECT_EQ(decoded.displayText, "\n\t<destination Port number>: 3520"
+                                   "\n\t<O>: 01:02:03:04:05:06"
+                                   "\n\t<internal IP address>: 10.0.0.1");
+    EXPECT_EQ(decoded.record, decodeUnitParameters(list).record);
+}
+
 TEST(UnitParameterList, OfASampleReplyIsSixtyBytesBehindTheHeader) {
     EXPECT_EQ(SampleUnit().reply().size(), 81U);
     EXPECT_EQ(SampleUnit().header().size(), 21U);

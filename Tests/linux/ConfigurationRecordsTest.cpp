@@ -3,6 +3,7 @@
 #include "platform/linux/ConfigurationRecords.h"
 
 #include "addresses/IPv4Address.h"
+#include "doubles/MarkedLocalizedText.h"
 
 #include <gtest/gtest.h>
 
@@ -128,6 +129,14 @@ TEST(ConfigurationRecords, ALinkIsNamedByItsKind) {
         EXPECT_EQ(entry(records, "Setup:/Network/Service/link-x/Interface", "UserDefinedName"),
                   name);
     }
+}
+
+TEST(ConfigurationRecords, TheNameOfAKindIsInTheLanguageOfThePerson) {
+    const MarkedLocalizedText marked;
+    const auto records = configurationRecords({linkWithAddress(2, "x", LinkKind::wiFi)}, {});
+    EXPECT_EQ(entry(records, "Setup:/Network/Service/link-x/Interface", "UserDefinedName"),
+              "<Wi-Fi>");
+    EXPECT_EQ(entry(records, "Setup:/Network/Service/link-x/Interface", "Type"), "IEEE80211");
 }
 
 TEST(ConfigurationRecords, ADialUpProfileHasTheDialUpType) {

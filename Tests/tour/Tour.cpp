@@ -64,7 +64,7 @@ void Tour::showMenus() {
     for (QAction* action : bar.actions()) {
         _driver.click(bar, bar.actionGeometry(action).center());
         _driver.waitFor("an open menu", [&] { return action->menu()->isVisible(); });
-        _driver.takePicture("menu-" + action->text().remove('&').toLower(), action->menu());
+        _driver.takePicture("menu-" + action->menu()->objectName().remove("Menu"), action->menu());
         QTest::keyClick(action->menu(), Qt::Key_Escape);
         _driver.waitFor("a closed menu", [&] { return !action->menu()->isVisible(); });
     }

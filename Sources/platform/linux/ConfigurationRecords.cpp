@@ -2,6 +2,7 @@
 
 #include "System Configuration/ConfigurationKeys.h"
 #include "addresses/IPv4Address.h"
+#include "support/LocalizedText.h"
 #include "support/TextFormat.h"
 
 #include <arpa/inet.h>
@@ -29,28 +30,28 @@ struct Service {
 };
 
 struct KindNames {
-    std::string_view userDefinedName;
+    std::string_view userDefinedName; // the key of its text
     std::string_view type;
 };
 
 KindNames namesOfKind(LinkKind kind) {
     switch (kind) {
     case LinkKind::ethernet:
-        return {"Ethernet", "Ethernet"};
+        return {localizedKey("Ethernet"), "Ethernet"};
     case LinkKind::wiFi:
-        return {"Wi-Fi", "IEEE80211"};
+        return {localizedKey("Wi-Fi"), "IEEE80211"};
     case LinkKind::bridge:
-        return {"Bridge", "Bridge"};
+        return {localizedKey("Bridge"), "Bridge"};
     case LinkKind::vlan:
-        return {"VLAN", "VLAN"};
+        return {localizedKey("VLAN"), "VLAN"};
     case LinkKind::bond:
-        return {"Bond", "Bond"};
+        return {localizedKey("Bond"), "Bond"};
     case LinkKind::pointToPoint:
-        return {"PPP", kSCValNetInterfaceTypePPP};
+        return {localizedKey("PPP"), kSCValNetInterfaceTypePPP};
     case LinkKind::other:
         break;
     }
-    return {"Network", "Network"};
+    return {localizedKey("Network"), "Network"};
 }
 
 // Lower comes first.
@@ -87,7 +88,7 @@ std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
         if (link.canBroadcast && !link.isLoopback && !link.ipv4Addresses.empty() &&
             !covered.contains(link.name)) {
             services.push_back({std::string(linkServicePrefix) + link.name,
-                                std::string(namesOfKind(link.kind).userDefinedName),
+                                localizedText(namesOfKind(link.kind).userDefinedName),
                                 &link,
                                 {}});
         }

@@ -103,7 +103,8 @@ DataSourceTableModel::Row DataSourceTableModel::rowFromDataSource(int row) const
     Row texts;
     for (const QtTableColumn& column : _columns) {
         const auto value = _dataSource->tableViewObjectValueForTableColumnRow(column.column, row);
-        texts.push_back(value.has_value() ? qtText(value->description()) : QString());
+        const std::string text = value.has_value() ? value->description() : std::string();
+        texts.push_back(qtText(column.showsKeys ? localizedText(text) : text));
     }
     return texts;
 }

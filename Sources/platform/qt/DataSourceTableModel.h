@@ -16,6 +16,7 @@ struct QtTableColumn {
     TableColumn column;
     QString title;
     bool editable = false;
+    bool showsKeys = false; // its texts are keys, shown as their localized texts
 };
 
 class DataSourceTableModel final : public QAbstractTableModel {

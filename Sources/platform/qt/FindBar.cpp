@@ -1,6 +1,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "platform/qt/LogSearch.h"
+#include "platform/qt/QtText.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -36,17 +37,19 @@ FindBar::FindBar(LogTextView& log, QWidget* parent)
     _field.setObjectName("logFindField");
     _field.setClearButtonEnabled(true);
     _result.setObjectName("logFindResult");
-    auto* const label = new QLabel(tr("Find:"), this);
+    auto* const label = new QLabel(localizedQtText("Find:"), this);
     label->setBuddy(&_field);
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 4, 0, 0);
     row->addWidget(label);
     row->addWidget(&_field, 2);
     const QToolButton& previous =
-        addButton(*this, "logFindPreviousButton", tr("Find Previous"), Qt::UpArrow);
-    const QToolButton& next = addButton(*this, "logFindNextButton", tr("Find Next"), Qt::DownArrow);
+        addButton(*this, "logFindPreviousButton", localizedQtText("Find Previous"), Qt::UpArrow);
+    const QToolButton& next =
+        addButton(*this, "logFindNextButton", localizedQtText("Find Next"), Qt::DownArrow);
     row->addWidget(&_result, 1);
-    QToolButton& closer = addButton(*this, "logFindCloseButton", tr("Close"), Qt::NoArrow);
+    QToolButton& closer =
+        addButton(*this, "logFindCloseButton", localizedQtText("Close"), Qt::NoArrow);
     closer.setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
     connect(&_field, &QLineEdit::textEdited, this, &FindBar::findTyped);
     connect(&previous, &QToolButton::clicked, this, &FindBar::findPrevious);
@@ -78,11 +81,12 @@ void FindBar::close() {
 }
 
 void FindBar::findNext() {
-    findFrom(_log.selection().to, findForward, 0, tr("From the beginning"));
+    findFrom(_log.selection().to, findForward, 0, localizedQtText("From the beginning"));
 }
 
 void FindBar::findPrevious() {
-    findFrom(_log.selection().from, findBackward, _log.text().size(), tr("From the end"));
+    findFrom(_log.selection().from, findBackward, _log.text().size(),
+             localizedQtText("From the end"));
 }
 
 void FindBar::findTyped() {
@@ -92,7 +96,7 @@ void FindBar::findTyped() {
         _result.clear();
         return;
     }
-    findFrom(start, findForward, 0, tr("From the beginning"));
+    findFrom(start, findForward, 0, localizedQtText("From the beginning"));
 }
 
 void FindBar::findFrom(std::size_t start, Search search, std::size_t otherEnd,
@@ -110,7 +114,7 @@ void FindBar::findFrom(std::size_t start, Search search, std::size_t otherEnd,
     if (match.has_value()) {
         _log.select(match->from, match->to);
     } else {
-        result = tr("Not found");
+        result = localizedQtText("Not found");
     }
     _result.setText(result);
 }

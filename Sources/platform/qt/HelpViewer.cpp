@@ -1,5 +1,8 @@
 #include "platform/qt/HelpViewer.h"
 
+#include "platform/qt/PixelFrame.h"
+#include "platform/qt/QtText.h"
+
 #include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
@@ -13,7 +16,7 @@ HelpPageView::HelpPageView(const QString& folder, QWidget* parent)
     : QTextBrowser(parent)
     , _folder(QUrl::fromLocalFile(QDir(folder).absolutePath() + '/')) {
     setObjectName("helpPages");
-    setAccessibleName(tr("Help text"));
+    setAccessibleName(localizedQtText("Help text"));
 }
 
 bool HelpPageView::isInFolder(const QUrl& name) const {
@@ -43,11 +46,13 @@ HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
     , _folder(folder)
     , _pages(new HelpPageView(folder, this)) {
     auto* const buttons = new QHBoxLayout;
-    auto* const back = addButton("helpBackButton", tr("Back"), QKeySequence::Back);
-    auto* const forward = addButton("helpForwardButton", tr("Forward"), QKeySequence::Forward);
-    auto* const contents =
-        addButton("helpContentsButton", tr("Contents"), QKeySequence(Qt::ALT | Qt::Key_Home));
-    auto* const close = addButton("helpCloseButton", tr("Close"), QKeySequence(Qt::Key_Escape));
+    auto* const back = addButton("helpBackButton", localizedQtText("Back"), QKeySequence::Back);
+    auto* const forward =
+        addButton("helpForwardButton", localizedQtText("Forward"), QKeySequence::Forward);
+    auto* const contents = addButton("helpContentsButton", localizedQtText("Contents"),
+                                     QKeySequence(Qt::ALT | Qt::Key_Home));
+    auto* const close =
+        addButton("helpCloseButton", localizedQtText("Close"), QKeySequence(Qt::Key_Escape));
     for (QPushButton* button : {back, forward, contents}) {
         buttons->addWidget(button);
     }
@@ -71,6 +76,7 @@ HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
     auto* const closeKey = new QShortcut(QKeySequence::Close, this);
     connect(closeKey, &QShortcut::activated, this, &QWidget::close);
 
+    drawFrameOnPixels(*_pages);
     resize(QSize(760, 680).boundedTo(screen()->availableGeometry().size()));
 }
 

@@ -1,6 +1,7 @@
 // What a person does in the log view with the mouse and the keyboard.
 
 #include "platform/qt/LogTextView.h"
+#include "platform/qt/QtText.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -192,10 +193,11 @@ void LogTextView::dragTo(QPoint point) {
 void LogTextView::contextMenuEvent(QContextMenuEvent* event) {
     auto* const menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
-    QAction* copyAction = menu->addAction(tr("&Copy"), this, &LogTextView::copy);
+    QAction* copyAction = menu->addAction(localizedQtText("&Copy"), this, &LogTextView::copy);
     copyAction->setShortcut(QKeySequence::Copy);
     copyAction->setEnabled(_anchor != _caret);
-    QAction* allAction = menu->addAction(tr("Select &All"), this, &LogTextView::selectAll);
+    QAction* allAction =
+        menu->addAction(localizedQtText("Select &All"), this, &LogTextView::selectAll);
     allAction->setShortcut(QKeySequence::SelectAll);
     allAction->setEnabled(_text.size() > 0);
     if (!actions().isEmpty()) {

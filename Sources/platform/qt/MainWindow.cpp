@@ -2,8 +2,11 @@
 
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
+#include "UnitParameters.h"
+#include "platform/qt/AboutBox.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
+#include "platform/qt/PixelFrame.h"
 #include "platform/qt/QtAlert.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
@@ -19,6 +22,7 @@
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QScreen>
+#include <algorithm>
 
 namespace kx {
 
@@ -26,10 +30,14 @@ namespace {
 
 std::vector<QtTableColumn> parameterColumns(bool valueIsEditable) {
     return {
-        {{std::string(KXParameterEntry::parameterNameKey)}, MainWindow::tr("Parameter"), false},
+        {{std::string(KXParameterEntry::parameterNameKey)},
+         localizedQtText("Parameter"),
+         false,
+         true},
         {{std::string(KXParameterEntry::parameterValueKey)},
-         MainWindow::tr("Value"),
-         valueIsEditable},
+         localizedQtText("Value"),
+         valueIsEditable,
+         false},
     };
 }
 
@@ -84,7 +92,12 @@ MainWindow::MainWindow(QWidget* parent)
     connectMenus();
     connectTables();
     _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
+    for (QFrame* frame : std::initializer_list<QFrame*>{
+             _ui->unitParameterTableView, _ui->editParameterTableView, _ui->logTextView}) {
+        drawFrameOnPixels(*frame);
+    }
     keepEmptyStatesReadable();
+    giveTextsOfButtonsRoom();
     fitToContent();
 }
 
@@ -210,6 +223,7 @@ void MainWindow::connectMenus() {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
     });
+    connect(_ui->aboutAction, &QAction::triggered, this, [this] { showAboutBox(*this); });
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
     connect(_ui->selectAllAction, &QAction::triggered, this, [this] { selectAll(focusWidget()); });
@@ -242,13 +256,27 @@ void MainWindow::connectTables() {
                     editRow->setColumnWidth(0, width);
                 }
             });
-    const QString widest = QStringLiteral("destination Port number");
+    int widest = 0;
+    for (const UnitParameter parameter : allUnitParameters) {
+        const QString name = qtText(localizedText(nameOfUnitParameter(parameter)));
+        widest = std::max(widest, fontMetrics().horizontalAdvance(name));
+    }
     const int padding = 3 * fontMetrics().averageCharWidth();
-    parameters->setColumnWidth(0, fontMetrics().horizontalAdvance(widest) + padding);
+    parameters->setColumnWidth(0, widest + padding);
+}
+
+// Some styles leave hardly a pixel beside a long text.
+void MainWindow::giveTextsOfButtonsRoom() {
+    const int room = 4 * fontMetrics().averageCharWidth();
+    for (QPushButton* button : _ui->content->findChildren<QPushButton*>()) {
+        const QSize text = fontMetrics().size(Qt::TextShowMnemonic, button->text());
+        button->setMinimumWidth(std::max(text.width() + room, button->sizeHint().width()));
+    }
 }
 
 // The scroll area around the content would otherwise ask for a small part of it only.
 void MainWindow::fitToContent() {
+    _ui->content->layout()->activate(); // rows within rows would answer for the texts before
     _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
     const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
     resize(wanted.boundedTo(screen()->availableGeometry().size()));

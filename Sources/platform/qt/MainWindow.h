@@ -59,6 +59,7 @@ private:
     void connectPopUps();
     void connectMenus();
     void connectTables();
+    void giveTextsOfButtonsRoom();
     void fitToContent();
     void keepEmptyStatesReadable();
 

@@ -2,6 +2,7 @@
 
 #include "platform/qt/HelpViewer.h"
 #include "platform/qt/QtText.h"
+#include "support/LocalizedText.h"
 
 #include <QDesktopServices>
 #include <QDir>
@@ -61,7 +62,7 @@ std::optional<std::string> QtHelpServices::helpBookName() const {
     if (!pathForResource("index", "html", "homepage").has_value()) {
         return std::nullopt;
     }
-    return utf8Text(HelpViewer::tr("KXConfig Help"));
+    return localizedText("KXConfig Help");
 }
 
 bool QtHelpServices::openAnchorInBook(std::string_view anchor, std::string_view book) {

@@ -1,0 +1,913 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>KXConfig</name>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Network &amp;interface:</source>
+        <translation>&amp;Interfaz de red:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>No interface is chosen</source>
+        <translation>Ninguna interfaz elegida</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>UDP &amp;port:</source>
+        <translation>&amp;Puerto UDP:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Discover</source>
+        <translation>Buscar unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>U&amp;nit:</source>
+        <translation>U&amp;nidad:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>No units listed</source>
+        <translation>No hay unidades en la lista</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Unit I&amp;D:</source>
+        <translation>I&amp;dentificador:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Reload</source>
+        <translation>Recargar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Unit parameters</source>
+        <translation>Parámetros de la unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>No unit is selected</source>
+        <translation>Ninguna unidad seleccionada</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Edit parameter</source>
+        <translation>Editar parámetro</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Select a parameter to edit it</source>
+        <translation>Seleccione un parámetro para editarlo</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Option command:</source>
+        <translation>&amp;Orden opcional:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>V  Version</source>
+        <translation>V  Versión</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>-Z  Set clock</source>
+        <translation>-Z  Poner en hora</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Command text:</source>
+        <translation>Te&amp;xto de la orden:</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Send</source>
+        <translation>Enviar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Restore Defaults</source>
+        <translation>Restablecer valores de fábrica</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Event Log</source>
+        <translation>Registro de eventos</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Help</source>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Event log text</source>
+        <translation>Texto del registro de eventos</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;File</source>
+        <translation>&amp;Archivo</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Edit</source>
+        <translation>&amp;Editar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Unit</source>
+        <translation>&amp;Unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Help</source>
+        <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Quit</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copiar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
+        <source>Select &amp;All</source>
+        <translation>Seleccionar &amp;todo</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Find in Event Log…</source>
+        <translation>&amp;Buscar en el registro de eventos…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Find &amp;Next</source>
+        <translation>Buscar &amp;siguiente</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Find &amp;Previous</source>
+        <translation>Buscar &amp;anterior</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Discover</source>
+        <translation>&amp;Buscar unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Reload</source>
+        <translation>&amp;Recargar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Apply</source>
+        <translation>&amp;Aplicar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Send Option Command</source>
+        <translation>&amp;Enviar orden opcional</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Restore De&amp;faults</source>
+        <translation>Restablecer valores de &amp;fábrica</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Event Log</source>
+        <translation>&amp;Registro de eventos</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;About KXConfig</source>
+        <translation>Acerca &amp;de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
+        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y nada más que dos puntos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
+        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y esta tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: internal MAC address %@.</source>
+        <translation>«Aplicar» envía %@: dirección MAC interna %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination MAC address %@.</source>
+        <translation>«Aplicar» envía %@: dirección MAC de destino %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
+        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y nada más que espacios.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
+        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y este tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: serial number %@.</source>
+        <translation>«Aplicar» envía %@: número de serie %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination IP address %@.</source>
+        <translation>«Aplicar» envía %@: dirección IP de destino %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>«Aplicar» envía %@: dirección IP de destino 0.0.0.0, porque «%@» no es una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination IP address %@, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@: dirección IP de destino %@, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
+        <translation>«Aplicar» pide derechos de administrador, pero no se conoce ninguna dirección MAC para una entrada ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
+        <translation>«Aplicar» pide derechos de administrador, pero una entrada ARP solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
+        <translation>«Aplicar» entrega «%@» y %@ a la herramienta ARP. Para ello se necesitan derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
+        <translation>«Aplicar» inscribe %@ con %@ en la caché ARP. Para ello se necesitan derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>No unit is selected.</source>
+        <translation>No hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@ to %@.</source>
+        <translation>«Aplicar» envía %@ a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>«Aplicar» envía %@ a 0.0.0.0, porque «%@» no es una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@ a %@, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination port 3520, because “%@” does not begin with a number.</source>
+        <translation>«Aplicar» envía %@: puerto de destino 3520, porque «%@» no empieza por un número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination port 3520, because %@ is outside 3520 to 3523.</source>
+        <translation>«Aplicar» envía %@: puerto de destino 3520, porque %@ no está entre 3520 y 3523.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination port %d, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@: puerto de destino %d, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: destination port %d.</source>
+        <translation>«Aplicar» envía %@: puerto de destino %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: device port 0, because “%@” does not begin with a number.</source>
+        <translation>«Aplicar» envía %@: puerto de la unidad 0, porque «%@» no empieza por un número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
+        <translation>«Aplicar» envía %@, más que los cuatro dígitos de un puerto, porque %@ no está entre 0 y 65535.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: device port %d, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@: puerto de la unidad %d, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: device port %d.</source>
+        <translation>«Aplicar» envía %@: puerto de la unidad %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: the number %d, because that is how “%@” is read. Above 255 it does not show as a number.</source>
+        <translation>«Aplicar» envía %@: el número %d, porque así se lee «%@». Por encima de 255 no se muestra como número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: the number %d, which does not show as a number because it is above 255.</source>
+        <translation>«Aplicar» envía %@: el número %d, que no se muestra como número porque pasa de 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: unit ID %d, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@: identificador de unidad %d, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: unit ID %d.</source>
+        <translation>«Aplicar» envía %@: identificador de unidad %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
+        <translation>«Aplicar» envía %@: el texto «%@», aunque un identificador de unidad tiene 6 bytes y este tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends %@: unit ID “%@”.</source>
+        <translation>«Aplicar» envía %@: identificador de unidad «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: the value is empty.</source>
+        <translation>«Aplicar» no envía nada: el valor está vacío.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
+        <translation>«Aplicar» no envía nada: el identificador de unidad no es un texto en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: no unit is selected.</source>
+        <translation>«Aplicar» no envía nada: no hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
+        <translation>«Aplicar» no envía nada: una orden solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: the address of the unit is not known.</source>
+        <translation>«Aplicar» no envía nada: no se conoce la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: The value is empty.</source>
+        <translation>No se envió: el valor está vacío.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: The unit ID is not a text in UTF-8.</source>
+        <translation>No se envió: el identificador de unidad no es un texto en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: No unit is selected.</source>
+        <translation>No se envió: no hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: A command can hold ASCII characters only.</source>
+        <translation>No se envió: una orden solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: The address of the unit is not known.</source>
+        <translation>No se envió: no se conoce la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: %@</source>
+        <translation>No se envió: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Not sent: %@.</source>
+        <translation>No se envió: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditNotes.cpp"/>
+        <source>Apply sends nothing: the command is too long for a datagram.</source>
+        <translation>«Aplicar» no envía nada: la orden es demasiado larga para un datagrama.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>Sent %@. The unit has not answered yet.</source>
+        <translation>Se envió %@. La unidad aún no ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit accepted %@ and was asked for its parameters. Discover finds it on its new port.</source>
+        <translation>La unidad aceptó %@ y se le pidieron sus parámetros. «Buscar unidades» la encuentra en su nuevo puerto.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit accepted %@ and was asked for its parameters.</source>
+        <translation>La unidad aceptó %@ y se le pidieron sus parámetros.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit&apos;s parameters hold no %@.</source>
+        <translation>Los parámetros de la unidad no contienen «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
+        <translation>La unidad muestra ahora %@ como su número de serie. «Buscar unidades» la incluye en la lista con ese número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit now shows %@ as its %@.</source>
+        <translation>La unidad muestra ahora %@ en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit still shows %@ as its %@.</source>
+        <translation>La unidad sigue mostrando %@ en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
+        <translation>La unidad muestra ahora %@ en «%@», que no es lo que se envió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
+        <translation>No se creó ninguna entrada ARP para %@: se denegó la ejecución de la herramienta ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
+        <translation>No se creó ninguna entrada ARP para %@: se canceló la petición de derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
+        <translation>No se creó ninguna entrada ARP para %@: no se puede ejecutar la herramienta ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>No se creó ninguna entrada ARP para %@: no se concedieron derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
+        <translation>No se creó ninguna entrada ARP para %@: solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
+        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP no se inició (%d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
+        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP terminó con el estado %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>No configured interfaces</source>
+        <translation>No hay interfaces configuradas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>Help could not be opened in a web browser. To read it here, hold the Alt key while you press Help.</source>
+        <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, mantenga pulsada la tecla Alt mientras pulsa «Ayuda».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+UDP listener did start. </source>
+        <translation>
+Escucha UDP iniciada. </translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+Error setting SO_BROADCAST %s</source>
+        <translation>
+Error al establecer SO_BROADCAST %s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+UDP did receive error.</source>
+        <translation>
+Error de recepción UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+UDP server did send data.</source>
+        <translation>
+Datos UDP enviados.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+UDP failed to send data.</source>
+        <translation>
+No se pudieron enviar los datos UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>
+UDP did stop with error.</source>
+        <translation>
+Escucha UDP detenida con un error.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Discovery.cpp"/>
+        <source>[Begin Discover]</source>
+        <translation>[Inicio de la búsqueda]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>
+Unit ID could not be converted to 6-byte UTF-8 string</source>
+        <translation>
+No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>KXConfig</source>
+        <translation>KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>Authentication was not completed, some features may not be available.</source>
+        <translation>No se completó la autenticación, es posible que algunas funciones no estén disponibles.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>
+Stuff ARP cache with MAC %@ for IP %@</source>
+        <translation>
+Caché ARP: MAC %@ inscrita para la IP %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <source>
+Stuff ARP cache result: %d</source>
+        <translation>
+Resultado de la inscripción en la caché ARP: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Send to: %@ command: %@</source>
+        <translation>
+Envío a: %@ orden: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Request unit parameters with address: %@</source>
+        <translation>
+Parámetros de unidad pedidos a la dirección: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>La escucha UDP no está activa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+UDP listener did receive data. Length: %d</source>
+        <translation>
+Datos UDP recibidos. Longitud: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Ignoring short packet</source>
+        <translation>
+Paquete demasiado corto ignorado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Ignoring unknown packet, prefix != ^^</source>
+        <translation>
+Paquete desconocido ignorado, prefijo != ^^</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
+        <translation>
+Orden recibida: ^^%@ identificador:%@ número de serie:%@ contenido:%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
+        <source>
+Received command: ^^%@</source>
+        <translation>
+Orden recibida: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
+        <source>not available</source>
+        <translation>no disponible</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>destination IP address</source>
+        <translation>Dirección IP de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>destination MAC address</source>
+        <translation>Dirección MAC de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>destination Port number</source>
+        <translation>Puerto de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>device Port number</source>
+        <translation>Puerto de la unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>internal IP address</source>
+        <translation>Dirección IP interna</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>internal MAC address</source>
+        <translation>Dirección MAC interna</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>serial number</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/UnitParameters.h"/>
+        <source>unit ID</source>
+        <translation>Identificador de unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
+        <source>HardwareAddressFormatter: inString is nil</source>
+        <translation>HardwareAddressFormatter: inString es nil</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
+        <source>HardwareAddressFormatter: object could not be allocated</source>
+        <translation>HardwareAddressFormatter: no se pudo asignar el objeto</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
+        <location filename="../../Sources/addresses/HardwareAddressText.cpp"/>
+        <source>HardwareAddressFormatter: invalid Ethernet address</source>
+        <translation>HardwareAddressFormatter: dirección Ethernet no válida</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/addresses/HardwareAddressText.cpp"/>
+        <source>HardwareAddress: invalid Ethernet address</source>
+        <translation>HardwareAddress: dirección Ethernet no válida</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>Ethernet</source>
+        <translation>Ethernet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>Wi-Fi</source>
+        <translation>Wi-Fi</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>Bridge</source>
+        <translation>Puente</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>VLAN</source>
+        <translation>VLAN</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>Bond</source>
+        <translation>Agregación</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>PPP</source>
+        <translation>PPP</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
+        <source>Network</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
+        <source>About KXConfig</source>
+        <translation>Acerca de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
+        <source>KXConfig %@</source>
+        <translation>KXConfig %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
+        <source>Finds and configures small networked units over UDP.</source>
+        <translation>Busca y configura pequeñas unidades en red mediante UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
+        <source>Qt %@</source>
+        <translation>Qt %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>Find:</source>
+        <translation>Buscar:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>Find Previous</source>
+        <translation>Buscar anterior</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>Find Next</source>
+        <translation>Buscar siguiente</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>From the beginning</source>
+        <translation>Desde el principio</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>From the end</source>
+        <translation>Desde el final</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>Not found</source>
+        <translation>No encontrado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Help text</source>
+        <translation>Texto de ayuda</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Back</source>
+        <translation>Atrás</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Forward</source>
+        <translation>Adelante</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Contents</source>
+        <translation>Contenido</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <source>Parameter</source>
+        <translation>Parámetro</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
+        <source>KXConfig Help</source>
+        <translation>Ayuda de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/Error.cpp"/>
+        <source>The host has no IPv4 address that can be reached.</source>
+        <translation>El equipo no tiene ninguna dirección IPv4 accesible.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/Error.cpp"/>
+        <source>The host name could not be resolved.</source>
+        <translation>No se pudo resolver el nombre del equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/Error.cpp"/>
+        <source>The operation could not be completed (%@ error %d).</source>
+        <translation>No se pudo completar la operación (%@, error %d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>work</source>
+        <translation>trabajo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>home</source>
+        <translation>casa</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>iPhone</source>
+        <translation>iPhone</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>mobile</source>
+        <translation>móvil</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>main</source>
+        <translation>principal</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>home fax</source>
+        <translation>fax de casa</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>work fax</source>
+        <translation>fax del trabajo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>pager</source>
+        <translation>buscapersonas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>other</source>
+        <translation>otro</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/support/LabelledNames.cpp"/>
+        <source>vacation</source>
+        <translation>vacaciones</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,37 @@
+// The translations for the person at the program: its own texts, and those of Qt, such as the
+// buttons of message boxes.
+//
+// The program carries its own in itself. Qt's are used where the system has them. Both are of one
+// language, so that a window never mixes two.
+//
+// Needs a QCoreApplication, and must be destroyed before it. Main thread only.
+
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+#include <QTranslator>
+
+namespace kx {
+
+class QtTranslations final {
+public:
+    // Installs the translations of the first language that the program has. `languages` are names
+    // such as "de-AT", in the order in which the person prefers them. The program is written in
+    // English: whoever prefers that to a language that it also has gets it.
+    explicit QtTranslations(const QStringList& languages = QLocale::system().uiLanguages());
+
+    // The language of the texts, as in "de"; "en" without a translation.
+    QString language() const { return _language; }
+
+    // The languages that there are translations for, in alphabetical order.
+    static QStringList available();
+
+private:
+    QString _language;
+    QTranslator _ownTexts;
+    QTranslator _textsOfQt;
+};
+
+} // namespace kx

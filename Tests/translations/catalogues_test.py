@@ -1,0 +1,86 @@
+"""Every text of the program is in every catalogue, and each translation fits its text."""
+
+import re
+import unittest
+
+import checks
+
+LANGUAGES = ["de", "es", "fr", "ja"]
+
+# The calls that look up a key which stands as localizedKey() somewhere else, or which another of
+# the functions was given.
+KNOWN_LOOKUPS = {
+    "nameOfUnitParameter(", "namesOfKind(", "notAvailableText)", "label.key)",
+    "key)", "key,", "text)",
+    "Bytes&", "list,",  # another appendMessage()
+}
+
+
+class TheCatalogues(unittest.TestCase):
+    def setUp(self):
+        self.keys = checks.script.keys()
+        self.texts = {path.stem.removeprefix("kxconfig_"): path.read_text(encoding="utf-8")
+                      for path in checks.script.CATALOGUES.iterdir()}
+        self.catalogues = {language: checks.script.entries(text)
+                           for language, text in self.texts.items()}
+
+    def test_are_there_for_every_language(self):
+        self.assertEqual(sorted(self.catalogues), LANGUAGES)
+        for language, text in self.texts.items():
+            self.assertIn(f'language="{language}"', text)
+
+    def test_have_every_text_of_the_program_and_no_other_with_all_its_parts(self):
+        for language, translations in self.catalogues.items():
+            self.assertEqual(checks.faults_of_catalogue(self.keys, translations), [], language)
+
+    def test_stand_as_the_script_writes_them(self):
+        for language, translations in self.catalogues.items():
+            written = checks.script.catalogue(language, self.keys, translations)
+            self.assertEqual(self.texts[language], written,
+                             f"{language}: run scripts/translations and commit what it writes")
+
+    def test_give_no_mnemonic_twice(self):
+        groups = checks.mnemonic_groups(checks.script.WINDOW.read_text(encoding="utf-8"))
+        self.assertEqual(len(groups["window"]), 11)
+        english = {key: key for key in self.keys}
+        for language, translations in {"en": english, **self.catalogues}.items():
+            self.assertEqual(checks.mnemonics_used_twice(groups, translations), [], language)
+
+    def test_keep_apart_what_the_program_tells_apart(self):
+        apart = [["work", "home", "iPhone", "mobile", "main", "home fax", "work fax", "pager",
+                  "other", "vacation"],
+                 [key for key in self.keys if re.fullmatch(r"(destination|device|internal) .*", key)]
+                 + ["serial number", "unit ID"]]
+        self.assertEqual([len(keys) for keys in apart], [10, 8])
+        for language, translations in self.catalogues.items():
+            for keys in apart:
+                self.assertEqual(len({translations[key] for key in keys}), len(keys), language)
+
+    def test_use_the_quotation_marks_of_their_language(self):
+        foreign = {"de": "“[^“]*”|[«»「」]", "es": "[“”„「」]", "fr": "[“”„「」]|«[^\u00a0]|[^\u00a0]»",
+                   "ja": "[“”„«»]"}
+        for language, pattern in foreign.items():
+            for translation in self.catalogues[language].values():
+                self.assertNotRegex(translation or "", pattern, language)
+
+    def test_set_a_fixed_blank_before_a_french_colon(self):
+        for key, translation in self.catalogues["fr"].items():
+            self.assertNotRegex(translation or "", r" [:;?!](?!=)", key)
+
+
+class TheSources(unittest.TestCase):
+    def test_look_up_no_key_that_nobody_has_listed(self):
+        for path in checks.script.sources():
+            for call in checks.script.keys_of_source(path.read_text(encoding="utf-8"))[1]:
+                first = re.match(r"[\w.:&]+[(),]?", call)[0]
+                self.assertIn(first, KNOWN_LOOKUPS, f"{path.name}: {call}")
+
+    def test_translate_by_no_other_way(self):
+        for path in checks.script.sources():
+            text = path.read_text(encoding="utf-8")
+            if path.name != "QtLocalizedText.cpp":
+                self.assertNotRegex(text, r"(?<![\w.])(?:\w+::)?tr\(\"|QT_TR|translate\(", path.name)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,27 @@
+// The process's texts in one language, from construction to destruction.
+
+#pragma once
+
+#include "platform/qt/QtLocalizedText.h"
+#include "platform/qt/QtTranslations.h"
+
+namespace kx {
+
+class InLanguage {
+public:
+    explicit InLanguage(const QString& language)
+        : _translations({language})
+        , _previous(installLocalizedText(&_texts)) {}
+    ~InLanguage() { installLocalizedText(_previous); }
+    InLanguage(const InLanguage&) = delete;
+    InLanguage& operator=(const InLanguage&) = delete;
+
+    QString language() const { return _translations.language(); }
+
+private:
+    QtTranslations _translations;
+    QtLocalizedText _texts;
+    const LocalizedText* _previous;
+};
+
+} // namespace kx
