@@ -183,6 +183,12 @@ void MainWindow::connectPopUps() {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
         popUp->installEventFilter(this);
+        const auto describe = [popUp] {
+            const bool isEmpty = popUp->currentIndex() < 0;
+            popUp->setAccessibleDescription(isEmpty ? popUp->placeholderText() : QString());
+        };
+        connect(popUp, &QComboBox::currentIndexChanged, popUp, describe);
+        describe();
     };
     connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
     connect(_ui->interfacePopUp, &OpeningComboBox::aboutToOpen, this,
@@ -216,6 +222,11 @@ void MainWindow::connectMenus() {
     connect(_ui->findPreviousAction, &QAction::triggered, this,
             [this] { findInLog(&FindBar::findPrevious); });
     _ui->logTextView->addAction(_ui->findAction);
+    for (QWidget* table : std::initializer_list<QWidget*>{_ui->unitParameterTableView,
+                                                          _ui->editParameterTableView}) {
+        table->setContextMenuPolicy(Qt::ActionsContextMenu);
+        table->addAction(_ui->copyAction);
+    }
 }
 
 void MainWindow::connectTables() {

@@ -4,13 +4,8 @@
 
 namespace kx {
 
-QtTextLabel::QtTextLabel(QLabel& label)
-    : _label(label) {
-    label.setTextFormat(Qt::PlainText);
-}
-
 void QtTextLabel::setStringValue(std::string_view text) {
-    _label.setText(qtText(text));
+    _label.say(qtText(text));
 }
 
 } // namespace kx

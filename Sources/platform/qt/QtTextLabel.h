@@ -1,21 +1,22 @@
-// A text label over Qt's label. The widget must outlive it.
+// A text label over a label of the window, whose changes a screen reader says. The widget must
+// outlive it.
 
 #pragma once
 
 #include "Outlets.h"
-
-#include <QLabel>
+#include "platform/qt/SpokenLabel.h"
 
 namespace kx {
 
 class QtTextLabel final : public TextLabel {
 public:
-    explicit QtTextLabel(QLabel& label);
+    explicit QtTextLabel(SpokenLabel& label)
+        : _label(label) {}
 
     void setStringValue(std::string_view text) override;
 
 private:
-    QLabel& _label;
+    SpokenLabel& _label;
 };
 
 } // namespace kx
