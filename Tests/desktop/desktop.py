@@ -1,9 +1,10 @@
 """The running program, driven as assistive technology does it: by what it tells the accessibility bus,
-and by the keyboard.
+and by keyboard and mouse.
 
 Whatever waits does so for twenty seconds at most, and fails when that was in vain.
 """
 
+import os
 import subprocess
 import time
 
@@ -83,8 +84,23 @@ def type_text(text):
         press(character)
 
 
+def place_of(accessible):
+    """Where it is on the screen: left, top, right, bottom."""
+    box = Atspi.Component.get_extents(accessible, Atspi.CoordType.SCREEN)
+    return box.x, box.y, box.x + box.width, box.y + box.height
+
+
+def click(accessible, times=1):
+    left, top, right, bottom = place_of(accessible)
+    center = ((left + right) // 2, (top + bottom) // 2)
+    Atspi.generate_mouse_event(*center, {1: "b1c", 2: "b1d"}[times])
+
+
 class Application:
-    """The program, started anew; its controls by what a person calls them."""
+    """The program, started anew; its controls by what a person calls them.
+
+    It finds no web browser here, whatever the machine has.
+    """
 
     def __init__(self, program):
         self.focused = ("nothing", "")  # role and name of what got the keyboard last
@@ -94,7 +110,9 @@ class Application:
                            self._listen("object:state-changed:showing", self._something_did_appear),
                            self._listen("object:property-change:accessible-description",
                                         self._something_was_described)]
-        self._process = subprocess.Popen([program])
+        environment = {**os.environ, "XDG_DATA_DIRS": "/nonexistent"}
+        environment.pop("BROWSER", None)
+        self._process = subprocess.Popen([program], env=environment)
         self.root = wait_for("the program", lambda: self._named(Atspi.get_desktop(0), "KXConfig"))
         self.root.set_cache_mask(Atspi.Cache.NONE)  # what is asked is what is shown now
         self.window = wait_for("an active window", self._active_window)
@@ -119,6 +137,11 @@ class Application:
                     return each
             return None
         return wait_for(f"the {role} {name}", find)
+
+    def window_titled(self, title):
+        """The window that is on the screen under this title, or None."""
+        window = self._named(self.root, title)
+        return window if window is not None and "showing" in states(window) else None
 
     def button(self, name):
         return self.control("push button", name)
@@ -159,17 +182,24 @@ class Application:
         wait_for("the event log", lambda: "showing" in states(log) and text_of(log))
         return text_of(log).split("\n")
 
+    def choose(self, label, title):
+        """Opens the list of a pop-up with the mouse, and clicks the item of this title."""
+        pop_up = self.pop_up(label)
+        click(pop_up)
+        items = wait_for("an open list", lambda: children(pop_up)[0]
+                         if "showing" in states(children(pop_up)[0]) else None)
+        click(wait_for(f"the item {title}", lambda: self._named(items, title)))
+        wait_for(f"{title} in the pop-up", lambda: self.pop_up(label).get_name() == title)
+
+    def cell(self, table, row, column):
+        return Atspi.Table.get_accessible_at(self.table(table), row, column)
+
     def note(self):
         """The text of the quiet line."""
         notes = [each for each in everything_in(self.window)
                  if each.get_role_name() == "notification" and "showing" in states(each)]
         assert len(notes) == 1, notes
         return notes[0].get_name()
-
-    def place(self, accessible):
-        """Where it is on the screen: left, top, right, bottom."""
-        box = Atspi.Component.get_extents(accessible, Atspi.CoordType.SCREEN)
-        return box.x, box.y, box.x + box.width, box.y + box.height
 
     def wait_for_focus(self, role, name):
         """Waits until the keyboard is at this control, by its name or its label."""

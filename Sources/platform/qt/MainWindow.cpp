@@ -208,7 +208,9 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
-    _ui->helpAction->setShortcuts({Qt::Key_F1, Qt::ALT | Qt::Key_F1}); // with Alt, the viewer
+    // With Alt, the viewer. Many desktops keep Alt+F1 and a click with Alt for themselves.
+    _ui->helpAction->setShortcuts(
+        {Qt::Key_F1, Qt::ALT | Qt::Key_F1, Qt::ALT | Qt::SHIFT | Qt::Key_F1});
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
