@@ -8,6 +8,7 @@ import os
 import pathlib
 import subprocess
 import sys
+import time
 import unittest
 
 from desktop import Application, click, place_of, press, states, text_of, type_text, wait_for
@@ -34,7 +35,8 @@ class ByTheHelpBook(unittest.TestCase):
         folder = os.environ.get("KX_PICTURES")
         if folder:
             self.pictures += 1
-            path = pathlib.Path(folder) / f"{self.pictures:02}-{name}.png"
+            path = pathlib.Path(folder) / f"{self.id().rpartition('_')[2]}-{self.pictures:02}-{name}.png"
+            time.sleep(0.5)  # what moves comes to rest
             subprocess.run(["import", "-window", "root", path], check=True)
 
     def shown(self, parameter):

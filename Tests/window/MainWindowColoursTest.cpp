@@ -85,6 +85,14 @@ TEST_P(MainWindowColours, TheResultOfASearchStandsOut) {
     EXPECT_GE(contrastOfTextIn(control<QLabel>("logFindResult")), readable);
 }
 
+TEST_P(MainWindowColours, TheSignsOnTheFindBarStandOut) {
+    const UsedPalette used(GetParam());
+    launchWithEverything();
+    for (const char* name : {"logFindPreviousButton", "logFindNextButton", "logFindCloseButton"}) {
+        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), 3.0) << name;
+    }
+}
+
 TEST_P(MainWindowColours, WhatIsSelectedHasThePalettesOwnContrast) {
     const UsedPalette used(GetParam());
     launchWithEverything();
