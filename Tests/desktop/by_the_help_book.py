@@ -1,7 +1,8 @@
 """A person who knows the help book alone finds a unit and changes its ports.
 
 Each step quotes what the book says, which must stand there, and is taken with the mouse and the
-keyboard. KX_PICTURES, when set, is a folder for a picture of the screen at every step.
+keyboard. KX_PICTURES, when set, is a folder for a picture of the screen at every step, which
+Debian's package imagemagick takes.
 """
 
 import os
