@@ -143,8 +143,8 @@ void KXConfigAppDelegate::myHelp() {
         endMessage();
     } else {
         showMessage(
-            localizedText("Help could not be opened in a web browser. To read it here, hold "
-                          "the Alt key while you press Help."));
+            localizedText("Help could not be opened in a web browser. To read it here, press "
+                          "Alt+Shift+F1."));
     }
 }
 

@@ -11,6 +11,7 @@
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
+#include "platform/qt/ApplicationIcon.h"
 #include "platform/qt/InstalledResources.h"
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
@@ -29,8 +30,10 @@ int main(int argc, char* argv[]) {
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
     QApplication::setApplicationVersion(KX_VERSION);
-    // The name of the desktop entry: by it a desktop gives the window its icon.
+    // The name of the desktop entry: by it a desktop gives the window its icon, if it does so at
+    // all.
     QApplication::setDesktopFileName("org.kxconfig.KXConfig");
+    QApplication::setWindowIcon(kx::applicationIcon());
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);

@@ -61,6 +61,10 @@ install(FILES "${generated_dir}/org.kxconfig.KXConfig.metainfo.xml"
 set(icons_dir "${CMAKE_INSTALL_DATADIR}/icons/hicolor")
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig.svg"
     DESTINATION "${icons_dir}/scalable/apps")
+foreach(size 16 24 32 48 64 128)
+    install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig-${size}.png"
+        DESTINATION "${icons_dir}/${size}x${size}/apps" RENAME org.kxconfig.KXConfig.png)
+endforeach()
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig-symbolic.svg"
     DESTINATION "${icons_dir}/symbolic/apps")
 

@@ -29,12 +29,15 @@ set(CPACK_PACKAGE_CONTACT "${KX_MAINTAINER}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "find and configure small networked units over UDP")
 set(CPACK_PACKAGE_DESCRIPTION
 "KXConfig finds small networked units on the local IPv4 network, lists them by
-serial number, and shows the parameters of the one that is picked. It sends
-them option commands and restores their factory settings.
+serial number, and shows the parameters of the one that is picked. Each of
+them can be changed, the unit's own IP address included; the window says
+beforehand what will be sent. Option commands and the return to factory
+settings are there too.
 .
-An event log shows everything that is sent and received. The package also
-holds kxunits, which plays units for tests, and a Wireshark dissector of the
-units' protocol.")
+An event log shows everything that is sent and received. A help book explains
+every control, parameter and line of the log, and what to check when no unit
+answers. The package also holds kxunits, which plays units for tests, and a
+Wireshark dissector of the units' protocol.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_CMAKE_PROJECTS
     "${PROJECT_BINARY_DIR};KXConfig;ALL;/"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs the package in a fresh root file system, runs both programs there, removes it again, and
-# compares the file system with what it was before.
+# Installs the package in a fresh root file system, runs both programs there, follows the installed help
+# book, removes the package again, and compares the file system with what it was before.
 #
 # usage: it_leaves_nothing_behind.sh PACKAGE      needs root, and the machine's package mirror
 set -euo pipefail
@@ -86,6 +86,15 @@ run_programs() {
         "$here/the_application_asks.sh" "$root" "$scratch/heard"
 }
 
+# A person who has the package alone reads its help book, and does what it says.
+follow_the_book() {
+    KX_BUILD_DIR=$root/usr KX_ROOT=$root KX_PROGRAM=$here/the_installed_application.sh \
+        KX_BOOK=$root/usr/share/kxconfig/homepage PYTHONDONTWRITEBYTECODE=1 \
+        "$lab" --units 3 -- "$here/../desktop/in_desktop.sh" -- \
+        /usr/bin/python3 -W ignore:Atspi:DeprecationWarning -m unittest discover \
+        --start-directory "$here/../desktop" --pattern by_the_help_book.py
+}
+
 make_root
 snapshot >"$scratch/before"
 cp -- "$package" "$root/package.deb"
@@ -94,6 +103,7 @@ rm -- "$root/package.deb"
 check_installed_files
 check_version
 run_programs
+follow_the_book
 inside dpkg --purge kxconfig
 snapshot >"$scratch/after"
 diff -u "$scratch/before" "$scratch/after" || fail 'the package leaves traces'

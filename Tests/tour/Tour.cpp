@@ -18,6 +18,23 @@ QPalette darkPalette() {
     return dark;
 }
 
+// As people with weak sight set it.
+QPalette contrastPalette() {
+    QPalette contrast(Qt::black);
+    for (const QPalette::ColorRole role :
+         {QPalette::Window, QPalette::Base, QPalette::AlternateBase, QPalette::Button,
+          QPalette::HighlightedText}) {
+        contrast.setColor(role, Qt::black);
+    }
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::PlaceholderText}) {
+        contrast.setColor(role, Qt::white);
+    }
+    contrast.setColor(QPalette::Highlight, Qt::yellow);
+    contrast.setColor(QPalette::Link, Qt::yellow);
+    return contrast;
+}
+
 } // namespace
 
 void Tour::run() {
@@ -43,6 +60,8 @@ void Tour::run() {
 void Tour::showOtherLooks() {
     QMainWindow& window = _driver.window();
     const QPalette light = QApplication::palette();
+    QApplication::setPalette(contrastPalette());
+    _driver.takePicture("window-log-contrast");
     QApplication::setPalette(darkPalette());
     _driver.takePicture("window-log-dark");
     _driver.press("logDrawerButton");

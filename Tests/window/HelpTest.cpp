@@ -357,14 +357,17 @@ TEST_F(MainWindowTest, WithAltTheKeyOpensTheHelpToo) {
     press(Qt::Key_F1, Qt::AltModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 1; }));
     EXPECT_EQ(modifiers, Qt::AltModifier);
+    press(Qt::Key_F1, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 2; }));
+    EXPECT_TRUE(modifiers.testFlag(Qt::AltModifier));
 }
 
 TEST_F(MainWindowTest, AHelpThatCannotBeOpenedIsSaidInTheQuietLine) {
     launch();
     openHelp = [] { return false; };
     click("helpButton");
-    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, hold the "
-                           "Alt key while you press Help.");
+    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, press "
+                           "Alt+Shift+F1.");
     openHelp = [] { return true; };
     click("helpButton");
     EXPECT_EQ(quietLine(), "");

@@ -1,12 +1,10 @@
 // The log view as a screen reader sees it.
 
+#include "ScreenReader.h"
 #include "platform/qt/LogTextView.h"
 #include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
-#include <private/qguiapplication_p.h>
-#include <qpa/qplatformaccessibility.h>
-#include <qpa/qplatformintegration.h>
 
 #include <QAccessible>
 #include <QTest>
@@ -36,28 +34,6 @@ void recordAnnouncement(QAccessibleEvent* event) {
                                   " to " + std::to_string(selection.selectionEnd()));
     }
 }
-
-// What makes the toolkit announce anything; only the platform plugin's own interface can do so.
-class ScreenReader {
-public:
-    ScreenReader() {
-        announcements().clear();
-        platform().setActive(true);
-    }
-    ~ScreenReader() {
-        platform().setActive(false);
-        QAccessible::installUpdateHandler(_before);
-    }
-    ScreenReader(const ScreenReader&) = delete;
-    ScreenReader& operator=(const ScreenReader&) = delete;
-
-private:
-    static QPlatformAccessibility& platform() {
-        return *QGuiApplicationPrivate::platformIntegration()->accessibility();
-    }
-
-    QAccessible::UpdateHandler _before = QAccessible::installUpdateHandler(&recordAnnouncement);
-};
 
 class LogAccessibilityTest : public ::testing::Test {
 protected:
@@ -135,7 +111,8 @@ TEST_F(LogAccessibilityTest, KnowsWhereOnTheScreenALetterIs) {
 }
 
 TEST_F(LogAccessibilityTest, AnnouncesWhatAFrameAddedWhileAScreenReaderListens) {
-    const ScreenReader listening;
+    announcements().clear();
+    const ScreenReader listening(&recordAnnouncement);
     view.append("\nfour");
     view.append(" and five");
     EXPECT_TRUE(QTest::qWaitFor([] { return !announcements().empty(); }));

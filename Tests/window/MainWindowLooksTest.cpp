@@ -1,67 +1,13 @@
-// What the window looks like: empty states, small and large sizes, dark palettes, the drawer's
-// room.
+// What the window looks like: empty states, small and large sizes, the drawer's room.
 
 #include "MainWindowFixture.h"
 #include "platform/qt/ParameterTableView.h"
 
-#include <QApplication>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
-#include <algorithm>
-#include <cmath>
-#include <map>
 
 namespace kx {
-
-namespace {
-
-double linear(double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-}
-
-double luminance(QRgb pixel) {
-    const QColor color(pixel);
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-// The contrast ratio between the most frequent colour, which is the background, and the pixel that
-// differs most from it, which is the core of a letter. The frame is left out.
-double contrastOfTextIn(QWidget& widget) {
-    const QRect inside = widget.rect().adjusted(4, 4, -4, -4);
-    const QImage picture = widget.grab(inside).toImage();
-    std::map<QRgb, int> frequency;
-    for (int y = 0; y < picture.height(); ++y) {
-        for (int x = 0; x < picture.width(); ++x) {
-            ++frequency[picture.pixel(x, y)];
-        }
-    }
-    const auto background = std::max_element(
-        frequency.begin(), frequency.end(),
-        [](const auto& one, const auto& other) { return one.second < other.second; });
-    double contrast = 1.0;
-    for (const auto& [pixel, count] : frequency) {
-        const double one = luminance(pixel) + 0.05;
-        const double other = luminance(background->first) + 0.05;
-        contrast = std::max(contrast, std::max(one, other) / std::min(one, other));
-    }
-    return contrast;
-}
-
-// Sets the application's palette back when the test is over.
-class DarkPalette {
-public:
-    DarkPalette() { QApplication::setPalette(QPalette(QColor(53, 53, 53), QColor(45, 45, 45))); }
-    ~DarkPalette() { QApplication::setPalette(_before); }
-    DarkPalette(const DarkPalette&) = delete;
-    DarkPalette& operator=(const DarkPalette&) = delete;
-
-private:
-    QPalette _before = QApplication::palette();
-};
-
-} // namespace
 
 TEST_F(MainWindowTest, WithoutInterfacesThePopUpSaysSoAndIsDisabled) {
     launch();
@@ -80,41 +26,6 @@ TEST_F(MainWindowTest, BeforeAUnitAnsweredEveryEmptyControlSaysSo) {
     EXPECT_EQ(parameters.placeholderText(), "No unit is selected");
     EXPECT_TRUE(editRow.showsPlaceholder());
     EXPECT_EQ(editRow.placeholderText(), "Select a parameter to edit it");
-    for (const char* name : {"unitSelectPopUp", "unitParameterTableView", "editParameterTableView",
-                             "interfacePopUp"}) {
-        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), 3.0) << name;
-    }
-}
-
-TEST_F(MainWindowTest, TextsAreReadableInLightAndDarkPalettes) {
-    launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 0);
-    click("logDrawerButton");
-    ASSERT_TRUE(drawerComesToRest());
-    const auto expectReadable = [&](const char* palette) {
-        for (const char* name :
-             {"interfacePopUp", "udpPortPopUp", "unitSelectPopUp", "unitIDField",
-              "unitParameterTableView", "editParameterTableView", "optionCommandPopUp",
-              "optionCommandField", "logTextView", "interfaceLabel", "unitLabel", "discoverButton",
-              "reloadButton", "applyButton", "quietLine", "sendOptionButton", "restoreButton",
-              "logDrawerButton"}) {
-            EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), 4.5) << name << ", " << palette;
-        }
-    };
-    expectReadable("light");
-    const DarkPalette dark;
-    QTest::qWait(10);
-    EXPECT_LT(luminance(window.grab().toImage().pixel(2, window.height() / 2)), 0.2);
-    expectReadable("dark");
-}
-
-TEST_F(MainWindowTest, EmptyStatesAreReadableInADarkPalette) {
-    const DarkPalette dark;
-    launch();
-    for (const char* name : {"unitSelectPopUp", "unitParameterTableView", "editParameterTableView",
-                             "interfacePopUp"}) {
-        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), 3.0) << name;
-    }
 }
 
 TEST_F(MainWindowTest, AtItsFirstSizeEveryParameterIsInSight) {

@@ -16,7 +16,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
@@ -80,7 +79,7 @@ public:
     }
 
 private:
-    QLabel _label;
+    SpokenLabel _label;
     QtTextLabel _textLabel{_label};
 };
 

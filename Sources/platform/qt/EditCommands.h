@@ -7,7 +7,8 @@
 namespace kx {
 
 // Puts on the clipboard what is selected in the control: text, the cells of a table's row with a
-// tab between them, or a pop-up's title. Leaves the clipboard alone when nothing is selected.
+// tab between them, or a pop-up's title. In a table without selection it is the row that has the
+// keyboard. Leaves the clipboard alone when nothing is selected.
 // `control` may be null.
 void copySelection(QWidget* control);
 

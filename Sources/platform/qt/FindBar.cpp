@@ -5,6 +5,7 @@
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QStyle>
 #include <QToolButton>
 
@@ -31,7 +32,7 @@ FindBar::FindBar(LogTextView& log, QWidget* parent)
     : QWidget(parent)
     , _log(log)
     , _field(*new QLineEdit(this))
-    , _result(*new QLabel(this))
+    , _result(*new SpokenLabel(this))
     , _escape(*new QShortcut(Qt::Key_Escape, parent)) {
     setObjectName("logFindBar");
     _field.setObjectName("logFindField");
@@ -116,7 +117,7 @@ void FindBar::findFrom(std::size_t start, Search search, std::size_t otherEnd,
     } else {
         result = localizedQtText("Not found");
     }
-    _result.setText(result);
+    _result.say(result);
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {

@@ -10,8 +10,8 @@
 #pragma once
 
 #include "platform/qt/LogTextView.h"
+#include "platform/qt/SpokenLabel.h"
 
-#include <QLabel>
 #include <QLineEdit>
 #include <QShortcut>
 #include <QWidget>
@@ -46,7 +46,7 @@ private:
 
     LogTextView& _log;
     QLineEdit& _field;
-    QLabel& _result;
+    SpokenLabel& _result;
     QShortcut& _escape;
 };
 

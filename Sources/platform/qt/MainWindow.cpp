@@ -199,6 +199,12 @@ void MainWindow::connectPopUps() {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
         popUp->installEventFilter(this);
+        const auto describe = [popUp] {
+            const bool isEmpty = popUp->currentIndex() < 0;
+            popUp->setAccessibleDescription(isEmpty ? popUp->placeholderText() : QString());
+        };
+        connect(popUp, &QComboBox::currentIndexChanged, popUp, describe);
+        describe();
     };
     connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
     connect(_ui->interfacePopUp, &OpeningComboBox::aboutToOpen, this,
@@ -218,7 +224,9 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
-    _ui->helpAction->setShortcuts({Qt::Key_F1, Qt::ALT | Qt::Key_F1}); // with Alt, the viewer
+    // With Alt, the viewer. Many desktops keep Alt+F1 and a click with Alt for themselves.
+    _ui->helpAction->setShortcuts(
+        {Qt::Key_F1, Qt::ALT | Qt::Key_F1, Qt::ALT | Qt::SHIFT | Qt::Key_F1});
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
@@ -233,6 +241,11 @@ void MainWindow::connectMenus() {
     connect(_ui->findPreviousAction, &QAction::triggered, this,
             [this] { findInLog(&FindBar::findPrevious); });
     _ui->logTextView->addAction(_ui->findAction);
+    for (QWidget* table : std::initializer_list<QWidget*>{_ui->unitParameterTableView,
+                                                          _ui->editParameterTableView}) {
+        table->setContextMenuPolicy(Qt::ActionsContextMenu);
+        table->addAction(_ui->copyAction);
+    }
 }
 
 void MainWindow::connectTables() {

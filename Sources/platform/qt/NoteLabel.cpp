@@ -5,8 +5,7 @@
 namespace kx {
 
 NoteLabel::NoteLabel(QWidget* parent)
-    : QLabel(parent) {
-    setTextFormat(Qt::PlainText);
+    : SpokenLabel(parent) {
     setWordWrap(true);
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
 }
@@ -21,7 +20,7 @@ QSize NoteLabel::minimumSizeHint() const {
 }
 
 void NoteLabel::resizeEvent(QResizeEvent* event) {
-    QLabel::resizeEvent(event);
+    SpokenLabel::resizeEvent(event);
     updateGeometry();
 }
 

@@ -6,11 +6,11 @@
 
 #pragma once
 
-#include <QLabel>
+#include "platform/qt/SpokenLabel.h"
 
 namespace kx {
 
-class NoteLabel final : public QLabel {
+class NoteLabel final : public SpokenLabel {
     Q_OBJECT
 
 public:

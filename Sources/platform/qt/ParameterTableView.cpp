@@ -14,7 +14,7 @@ namespace {
 // Wide enough for the longest name and a text of four address widths beside it.
 constexpr int preferredCharacters = 72;
 
-// Tells the view every text that is typed.
+// Tells the view every text that is typed, and a screen reader whose value it is.
 class TypingDelegate final : public QStyledItemDelegate {
 public:
     explicit TypingDelegate(ParameterTableView& view)
@@ -24,7 +24,8 @@ public:
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
         QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
-        if (const auto* const lineEdit = qobject_cast<QLineEdit*>(editor)) {
+        if (auto* const lineEdit = qobject_cast<QLineEdit*>(editor)) {
+            lineEdit->setAccessibleName(index.siblingAtColumn(0).data().toString());
             connect(lineEdit, &QLineEdit::textEdited, &_view, &ParameterTableView::textEdited);
         }
         return editor;
@@ -65,11 +66,16 @@ void ParameterTableView::setMinimumRows(int rows) {
 void ParameterTableView::setPlaceholderText(const QString& text) {
     _placeholderText = text;
     viewport()->update();
+    describe();
 }
 
 void ParameterTableView::setModel(QAbstractItemModel* model) {
     QTableView::setModel(model);
     updateGeometry(); // the header's height depends on the model's titles
+    connect(model, &QAbstractItemModel::dataChanged, this, &ParameterTableView::describe);
+    connect(model, &QAbstractItemModel::rowsInserted, this, &ParameterTableView::describe);
+    connect(model, &QAbstractItemModel::rowsRemoved, this, &ParameterTableView::describe);
+    describe();
 }
 
 void ParameterTableView::beginTyping() {
@@ -105,8 +111,13 @@ QSize ParameterTableView::minimumSizeHint() const {
 
 void ParameterTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
     const QModelIndex cell = currentIndex();
-    QTableView::closeEditor(editor, hint);
+    QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
     emit textEdited(cell.data().toString());
+    if (hint == QAbstractItemDelegate::EditNextItem) {
+        focusNextChild();
+    } else if (hint == QAbstractItemDelegate::EditPreviousItem) {
+        focusPreviousChild();
+    }
 }
 
 void ParameterTableView::changeEvent(QEvent* event) {
@@ -151,6 +162,10 @@ void ParameterTableView::paintEvent(QPaintEvent* event) {
     const int margin = fontMetrics().averageCharWidth();
     painter.drawText(viewport()->rect().adjusted(margin, 0, -margin, 0),
                      static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, _placeholderText);
+}
+
+void ParameterTableView::describe() {
+    setAccessibleDescription(showsPlaceholder() ? _placeholderText : QString());
 }
 
 QModelIndex ParameterTableView::firstEditableCell() const {

@@ -1,8 +1,9 @@
 // A table of parameters as the main window shows it: rows of name and value, sized in rows.
 //
-// Shows a short text in place of the cells while there is nothing in them. Tab leaves the table;
-// Return and a double click choose a row (a table of text alone has no other use for them, and
-// the window's default button must not be pressed from inside a table).
+// Shows a short text in place of the cells while there is nothing in them, which is its description
+// for a screen reader too. Tab leaves the table, also out of an open editor, whose text it keeps.
+// Return and a double click choose a row (a table of text alone has no other use for them, and the
+// window's default button must not be pressed from inside a table).
 
 #pragma once
 
@@ -56,6 +57,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void describe();
     QModelIndex firstEditableCell() const;
     int heightForRows(int rows) const;
     void fitRowsToFont();

@@ -4,15 +4,14 @@
 
 namespace kx {
 
-QtTextLabel::QtTextLabel(QLabel& label, EmptyLabel empty)
+QtTextLabel::QtTextLabel(SpokenLabel& label, EmptyLabel empty)
     : _label(label)
     , _empty(empty) {
-    label.setTextFormat(Qt::PlainText);
     QtTextLabel::setStringValue({});
 }
 
 void QtTextLabel::setStringValue(std::string_view text) {
-    _label.setText(qtText(text));
+    _label.say(qtText(text));
     if (_empty == EmptyLabel::isHidden) {
         _label.setVisible(!text.empty());
     }

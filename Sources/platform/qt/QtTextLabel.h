@@ -1,10 +1,10 @@
-// A text label over Qt's label. The widget must outlive it.
+// A text label over a label of the window, whose changes a screen reader says. The widget must
+// outlive it.
 
 #pragma once
 
 #include "Outlets.h"
-
-#include <QLabel>
+#include "platform/qt/SpokenLabel.h"
 
 namespace kx {
 
@@ -15,12 +15,12 @@ enum class EmptyLabel {
 
 class QtTextLabel final : public TextLabel {
 public:
-    explicit QtTextLabel(QLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
+    explicit QtTextLabel(SpokenLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
 
     void setStringValue(std::string_view text) override;
 
 private:
-    QLabel& _label;
+    SpokenLabel& _label;
     EmptyLabel _empty;
 };
 

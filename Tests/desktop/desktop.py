@@ -1,0 +1,241 @@
+"""The running program, driven as assistive technology does it: by what it tells the accessibility bus,
+and by keyboard and mouse.
+
+Whatever waits does so for twenty seconds at most, and fails when that was in vain.
+"""
+
+import os
+import subprocess
+import time
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+PATIENCE_IN_SECONDS = 20.0
+
+KEYS = {"Tab": 0xFF09, "Return": 0xFF0D, "Escape": 0xFF1B, "Down": 0xFF54, "F1": 0xFFBE}
+MODIFIERS = {"Shift": 50, "Ctrl": 37, "Alt": 64}  # the codes of the keys themselves
+
+
+def wait_for(what, condition):
+    """Waits until the condition gives something true, and returns that."""
+    deadline = time.monotonic() + PATIENCE_IN_SECONDS
+    while True:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        try:
+            found = condition()
+        except GLib.GError:
+            found = None  # what was asked has just gone
+        if found:
+            return found
+        if time.monotonic() > deadline:
+            raise AssertionError(f"waited in vain for {what}")
+        time.sleep(0.02)
+
+
+def children(accessible):
+    found = [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
+    return [child for child in found if child is not None]
+
+
+def everything_in(accessible):
+    yield accessible
+    for child in children(accessible):
+        yield from everything_in(child)
+
+
+def states(accessible):
+    return {state.value_nick for state in accessible.get_state_set().get_states()}
+
+
+def text_of(accessible):
+    return Atspi.Text.get_text(accessible, 0, -1)
+
+
+def label_of(accessible):
+    for relation in accessible.get_relation_set():
+        if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY:
+            return relation.get_target(0).get_name()
+    return None
+
+
+def perform(accessible, action):
+    names = [Atspi.Action.get_action_name(accessible, index)
+             for index in range(Atspi.Action.get_n_actions(accessible))]
+    Atspi.Action.do_action(accessible, names.index(action))
+
+
+def press(combination):
+    """Presses a key, with the modifiers before it, as in "Ctrl+Shift+Return"."""
+    *modifiers, key = combination.split("+")
+    for modifier in modifiers:
+        Atspi.generate_keyboard_event(MODIFIERS[modifier], None, Atspi.KeySynthType.PRESS)
+    Atspi.generate_keyboard_event(KEYS.get(key) or ord(key), None, Atspi.KeySynthType.SYM)
+    for modifier in modifiers:
+        Atspi.generate_keyboard_event(MODIFIERS[modifier], None, Atspi.KeySynthType.RELEASE)
+
+
+def type_text(text):
+    for character in text:
+        press(character)
+
+
+def place_of(accessible):
+    """Where it is on the screen: left, top, right, bottom."""
+    box = Atspi.Component.get_extents(accessible, Atspi.CoordType.SCREEN)
+    return box.x, box.y, box.x + box.width, box.y + box.height
+
+
+def click(accessible, times=1):
+    left, top, right, bottom = place_of(accessible)
+    center = ((left + right) // 2, (top + bottom) // 2)
+    Atspi.generate_mouse_event(*center, {1: "b1c", 2: "b1d"}[times])
+
+
+class Application:
+    """The program, started anew; its controls by what a person calls them.
+
+    It finds no web browser here, whatever the machine has.
+    """
+
+    def __init__(self, program):
+        self.focused = ("nothing", "")  # role and name of what got the keyboard last
+        self.announced = []  # the texts of notifications, as they appeared
+        self.described = []  # the labels of controls that were described anew
+        self._listeners = [self._listen("object:state-changed:focused", self._focus_did_move),
+                           self._listen("object:state-changed:showing", self._something_did_appear),
+                           self._listen("object:property-change:accessible-description",
+                                        self._something_was_described)]
+        environment = {**os.environ, "XDG_DATA_DIRS": "/nonexistent"}
+        environment.pop("BROWSER", None)
+        self._process = subprocess.Popen([program], env=environment)
+        self.root = wait_for("the program", lambda: self._named(Atspi.get_desktop(0), "KXConfig"))
+        self.root.set_cache_mask(Atspi.Cache.NONE)  # what is asked is what is shown now
+        self.window = wait_for("an active window", self._active_window)
+
+    def close(self):
+        """Closes the window with the keyboard, and returns the exit status."""
+        press("Ctrl+q")
+        return self._process.wait(PATIENCE_IN_SECONDS)
+
+    def end(self):
+        """Ends the program if it still runs."""
+        for listener, event in self._listeners:
+            listener.deregister(event)
+        if self._process.poll() is None:
+            self._process.kill()
+            self._process.wait()
+
+    def control(self, role, name):
+        def find():
+            for each in everything_in(self.window):
+                if each.get_role_name() == role and name in (each.get_name(), label_of(each)):
+                    return each
+            return None
+        return wait_for(f"the {role} {name}", find)
+
+    def window_titled(self, title):
+        """The window that is on the screen under this title, or None."""
+        window = self._named(self.root, title)
+        return window if window is not None and "showing" in states(window) else None
+
+    def button(self, name):
+        return self.control("push button", name)
+
+    def pop_up(self, label):
+        return self.control("combo box", label)
+
+    def field(self, label):
+        return self.control("text", label)
+
+    def table(self, name):
+        return self.control("table", name)
+
+    def rows_of(self, name):
+        """The texts of the cells, a list for each row."""
+        table = self.table(name)
+        return [[Atspi.Table.get_accessible_at(table, row, column).get_name()
+                 for column in range(Atspi.Table.get_n_columns(table))]
+                for row in range(Atspi.Table.get_n_rows(table))]
+
+    def discover(self, count):
+        """Presses Discover, once the units of the discovery before are listed, and waits for so many."""
+        self.wait_for_units(count)
+        self.described.clear()
+        perform(self.button("Discover"), "Press")
+        wait_for("an empty list", lambda: "Unit:" in self.described)
+        self.wait_for_units(count)
+
+    def wait_for_units(self, count):
+        """Waits until so many units are listed."""
+        units = self.pop_up("Unit:")
+        wait_for(f"{count} units", lambda: len(children(children(units)[0])) == count)
+
+    def open_log(self):
+        """Opens the event log, and returns its lines."""
+        perform(self.button("Event Log"), "Press")
+        log = self.field("Event log text")
+        wait_for("the event log", lambda: "showing" in states(log) and text_of(log))
+        return text_of(log).split("\n")
+
+    def choose(self, label, title):
+        """Opens the list of a pop-up with the mouse, and clicks the item of this title."""
+        pop_up = self.pop_up(label)
+        click(pop_up)
+        items = wait_for("an open list", lambda: children(pop_up)[0]
+                         if "showing" in states(children(pop_up)[0]) else None)
+        click(wait_for(f"the item {title}", lambda: self._named(items, title)))
+        wait_for(f"{title} in the pop-up", lambda: self.pop_up(label).get_name() == title)
+
+    def cell(self, table, row, column):
+        return Atspi.Table.get_accessible_at(self.table(table), row, column)
+
+    def note(self):
+        """The text of the quiet line."""
+        notes = [each for each in everything_in(self.window)
+                 if each.get_role_name() == "notification" and "showing" in states(each)]
+        assert len(notes) == 1, notes
+        return notes[0].get_name()
+
+    def wait_for_focus(self, role, name):
+        """Waits until the keyboard is at this control, by its name or its label."""
+        wait_for(f"the keyboard at the {role} {name}", lambda: self.focused == (role, name))
+
+    def _active_window(self):
+        for window in children(self.root):
+            if window.get_role_name() == "frame" and "active" in states(window):
+                return window
+        return None
+
+    @staticmethod
+    def _named(parent, name):
+        for child in children(parent):
+            if child.get_name() == name:
+                return child
+        return None
+
+    @staticmethod
+    def _listen(event, heard):
+        def report(told):
+            try:
+                heard(told)
+            except GLib.GError:
+                pass  # it has gone before it could be asked
+        listener = Atspi.EventListener.new(report)
+        listener.register(event)
+        return listener, event
+
+    def _focus_did_move(self, event):
+        if event.detail1:
+            source = event.source
+            self.focused = (source.get_role_name(), label_of(source) or source.get_name())
+
+    def _something_was_described(self, event):
+        self.described.append(label_of(event.source))
+
+    def _something_did_appear(self, event):
+        if event.detail1 and event.source.get_role_name() == "notification":
+            self.announced.append(event.source.get_name())

@@ -1,0 +1,101 @@
+#!/usr/bin/env bash
+#
+# in_desktop.sh - run a command on a desktop of its own, with assistive technology switched on
+#
+# SYNOPSIS
+#   Tests/desktop/in_desktop.sh [option]... [--] command [argument]...
+#
+# DESCRIPTION
+#   Starts an X server without a display, a window manager and a session bus, and runs the command
+#   there. Programs on this desktop tell the accessibility bus what they show, as they do when a
+#   screen reader runs. Nothing of it is left when the command has ended.
+#
+#   It needs dbus-daemon, at-spi2-core, openbox and xvfb. The network is the caller's: run it inside
+#   scripts/lab for a private one with units.
+#
+# OPTIONS
+#   --screen SIZE    the size of the screen; default 1366x768
+#   --help           this text
+#
+# EXIT STATUS
+#   The command's own; 125 when this script itself failed, 2 when it was called wrongly.
+#
+# EXAMPLE
+#   scripts/lab -- Tests/desktop/in_desktop.sh -- build/dev/bin/kxconfig
+
+set -euo pipefail
+
+readonly failed=125 usage_failed=2 tenths_to_ready=200
+
+die() {
+    local status=$1
+    shift
+    printf 'in_desktop: %s\n' "$*" >&2
+    exit "$status"
+}
+
+end_desktop() {
+    local pid
+    for pid in ${manager_pid:-} ${server_pid:-}; do
+        kill -TERM "$pid" 2>/dev/null || true
+        wait "$pid" 2>/dev/null || true
+    done
+    rm -rf -- "$scratch"
+}
+
+start_server() {
+    local number
+    mkfifo -- "$scratch/display"
+    setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp \
+        3>"$scratch/display" 2>"$scratch/server" &
+    server_pid=$!
+    read -r number <"$scratch/display" || die "$failed" "no X server: $(<"$scratch/server")"
+    export DISPLAY=:$number
+}
+
+start_manager() {
+    local tenths
+    setpriv --pdeathsig TERM openbox --startup "touch '$scratch/managed'" >"$scratch/manager" 2>&1 &
+    manager_pid=$!
+    for ((tenths = 0; tenths < tenths_to_ready; tenths++)); do
+        [[ ! -e $scratch/managed ]] || return 0
+        sleep 0.1
+    done
+    die "$failed" "no window manager: $(<"$scratch/manager")"
+}
+
+screen=1366x768
+while (($# > 0)); do
+    case $1 in
+    --help)
+        sed -n '3,/^$/{s/^# \{0,1\}//;p}' "${BASH_SOURCE[0]}"
+        exit 0
+        ;;
+    --screen)
+        (($# > 1)) || die "$usage_failed" '--screen needs a value'
+        screen=$2
+        shift
+        ;;
+    --)
+        shift
+        break
+        ;;
+    -*) die "$usage_failed" "unknown option $1; see --help" ;;
+    *) break ;;
+    esac
+    shift
+done
+(($# > 0)) || die "$usage_failed" 'no command; see --help'
+[[ $screen =~ ^[1-9][0-9]*x[1-9][0-9]*$ ]] || die "$usage_failed" '--screen needs a size such as 1366x768'
+
+scratch=$(mktemp -d)
+trap end_desktop EXIT
+# A home and a runtime folder without anybody's settings.
+export HOME=$scratch XDG_RUNTIME_DIR=$scratch
+unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
+start_server
+start_manager
+export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+status=0
+dbus-run-session -- "$@" || status=$?
+exit "$status"

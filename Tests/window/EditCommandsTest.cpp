@@ -1,0 +1,139 @@
+// Copy and Select All, by the keys, the menu and the context menu, in every kind of control.
+
+#include "MainWindowFixture.h"
+
+#include <QAction>
+#include <QClipboard>
+#include <QGuiApplication>
+
+namespace kx {
+
+namespace {
+
+class EditCommandsTest : public MainWindowTest {
+protected:
+    EditCommandsTest() { QGuiApplication::clipboard()->setText("before"); }
+
+    static std::string clipboard() { return QGuiApplication::clipboard()->text().toStdString(); }
+
+    std::string copiedByKeys() {
+        press(Qt::Key_C, Qt::ControlModifier);
+        return clipboard();
+    }
+
+    QLineEdit* editor() {
+        return control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
+    }
+};
+
+} // namespace
+
+TEST_F(EditCommandsTest, TheSelectedRowIsCopiedWithATabBetweenItsCells) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 3, 1);
+    EXPECT_EQ(copiedByKeys(), "device Port number\t10000");
+}
+
+TEST_F(EditCommandsTest, TheMenuCopiesTheRowToo) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 4, 0);
+    control<QAction>("copyAction").trigger();
+    EXPECT_EQ(clipboard(), "internal IP address\t192.168.1.10");
+}
+
+TEST_F(EditCommandsTest, TheContextMenusOfBothTablesOfferCopy) {
+    launch();
+    for (const char* table : {"unitParameterTableView", "editParameterTableView"}) {
+        auto& view = control<QTableView>(table);
+        EXPECT_EQ(view.contextMenuPolicy(), Qt::ActionsContextMenu);
+        EXPECT_EQ(view.actions(), QList<QAction*>{&control<QAction>("copyAction")});
+    }
+}
+
+TEST_F(EditCommandsTest, ARightClickSelectsTheRowThatCopyThenTakes) {
+    launchWithTwoUnits();
+    auto& table = control<QTableView>("unitParameterTableView");
+    QTest::mouseClick(table.viewport(), Qt::RightButton, Qt::NoModifier,
+                      table.visualRect(table.model()->index(2, 1)).center());
+    control<QAction>("copyAction").trigger();
+    EXPECT_EQ(clipboard(), "destination Port number\t3520");
+}
+
+TEST_F(EditCommandsTest, ATableWithoutASelectionLeavesTheClipboardAlone) {
+    launchWithTwoUnits();
+    control<QWidget>("unitParameterTableView").setFocus();
+    EXPECT_EQ(copiedByKeys(), "before");
+}
+
+TEST_F(EditCommandsTest, TheEditRowCopiesItsNameAndValue) {
+    launchWithTwoUnits();
+    auto& editRow = control<QTableView>("editParameterTableView");
+    editRow.setFocus();
+    EXPECT_EQ(copiedByKeys(), "before"); // nothing is in it yet
+    clickCell("unitParameterTableView", 3, 1);
+    editRow.setFocus();
+    EXPECT_EQ(copiedByKeys(), "device Port number\t10000");
+}
+
+TEST_F(EditCommandsTest, AnOpenEditKeepsItsOwnCopyAndSelectAll) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 3, 1);
+    press(Qt::Key_Return);
+    type("4711");
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    press(Qt::Key_Left, Qt::ShiftModifier);
+    EXPECT_EQ(copiedByKeys(), "11");
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(copiedByKeys(), "4711");
+    EXPECT_NE(editor(), nullptr);
+    control<QAction>("selectAllAction").trigger();
+    control<QAction>("copyAction").trigger();
+    EXPECT_EQ(clipboard(), "4711");
+}
+
+TEST_F(EditCommandsTest, AnOpenEditTakesWhatIsPastedAndGivesWhatIsCut) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 3, 1);
+    press(Qt::Key_Return);
+    QGuiApplication::clipboard()->setText("3522");
+    press(Qt::Key_V, Qt::ControlModifier);
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->text(), "3522");
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(editor()->text(), "");
+    EXPECT_EQ(clipboard(), "3522");
+}
+
+TEST_F(EditCommandsTest, FieldsGiveTheirSelectedText) {
+    launchWithTwoUnits();
+    control<QWidget>("unitIDField").setFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(copiedByKeys(), "42");
+}
+
+TEST_F(EditCommandsTest, APopUpGivesItsTitle) {
+    launchWithTwoUnits();
+    control<QWidget>("unitSelectPopUp").setFocus();
+    EXPECT_EQ(copiedByKeys(), "01 02 03 04 05 06");
+}
+
+TEST_F(EditCommandsTest, TheQuietLineGivesWhatTheMouseSelected) {
+    launch();
+    click("sendOptionButton");
+    auto& line = control<QLabel>("quietLine");
+    QTest::mouseDClick(&line, Qt::LeftButton, Qt::NoModifier, QPoint(10, 8));
+    EXPECT_EQ(window.focusWidget(), &line);
+    EXPECT_EQ(copiedByKeys(), "Not");
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(copiedByKeys(), "Not sent: No unit is selected.");
+}
+
+TEST_F(EditCommandsTest, AButtonGivesNothing) {
+    launch();
+    control<QWidget>("discoverButton").setFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    EXPECT_EQ(copiedByKeys(), "before");
+}
+
+} // namespace kx

@@ -1,0 +1,134 @@
+// What a screen reader hears of the window while the keyboard is elsewhere, and what it is told of
+// controls that are empty.
+
+#include "MainWindowFixture.h"
+#include "ScreenReader.h"
+#include "platform/qt/SpokenLabel.h"
+
+#include <QAccessible>
+
+namespace kx {
+
+namespace {
+
+std::vector<std::string>& heard() {
+    static std::vector<std::string> texts;
+    return texts;
+}
+
+void hear(QAccessibleEvent* event) {
+    const auto* const label = qobject_cast<QLabel*>(event->object());
+    if (event->type() == QAccessible::ObjectShow && label != nullptr) {
+        heard().push_back(label->text().toStdString());
+    }
+}
+
+class MainWindowSpeech : public MainWindowTest {
+protected:
+    MainWindowSpeech() { heard().clear(); }
+
+    static bool hears(const std::string& text) {
+        return QTest::qWaitFor([&] { return !heard().empty() && heard().back() == text; });
+    }
+
+    std::string description(const char* name) {
+        QAccessibleInterface& control = accessible(name);
+        return control.text(QAccessible::Description).toStdString();
+    }
+
+    QAccessibleInterface& accessible(const char* name) {
+        return *QAccessible::queryAccessibleInterface(&control<QWidget>(name));
+    }
+};
+
+} // namespace
+
+TEST_F(MainWindowSpeech, TheQuietLineIsANotificationWithItsText) {
+    launch();
+    click("sendOptionButton");
+    EXPECT_EQ(accessible("quietLine").role(), QAccessible::Notification);
+    EXPECT_EQ(accessible("quietLine").text(QAccessible::Name).toStdString(),
+              "Not sent: No unit is selected.");
+}
+
+TEST_F(MainWindowSpeech, ANoteIsSaidWhenTheTypingRests) {
+    launchWithTwoUnits();
+    const ScreenReader listening(&hear);
+    clickCell("unitParameterTableView", 2, 1);
+    control<QWidget>("editParameterTableView").setFocus();
+    type("3521");
+    EXPECT_TRUE(hears("Apply sends ^^IdT0DC1: destination port 3521."));
+}
+
+TEST_F(MainWindowSpeech, ANoteThatComesAgainIsSaidAgain) {
+    launch();
+    const ScreenReader listening(&hear);
+    click("sendOptionButton");
+    EXPECT_TRUE(hears("Not sent: No unit is selected."));
+    click("sendOptionButton");
+    EXPECT_TRUE(QTest::qWaitFor([] { return heard().size() == 2; }));
+    EXPECT_EQ(heard().front(), heard().back());
+}
+
+TEST_F(MainWindowSpeech, OfTextsThatFollowEachOtherTheLastIsSaid) {
+    SpokenLabel label;
+    label.show();
+    const ScreenReader listening(&hear);
+    label.say("3");
+    label.say("35");
+    label.say("352");
+    EXPECT_TRUE(hears("352"));
+    EXPECT_EQ(heard().size(), 1U);
+}
+
+TEST_F(MainWindowSpeech, ATextThatGoesIsNotSaid) {
+    SpokenLabel label;
+    SpokenLabel later;
+    label.show();
+    later.show();
+    const ScreenReader listening(&hear);
+    label.say("a note");
+    label.say("");
+    later.say("another");
+    EXPECT_TRUE(hears("another"));
+    EXPECT_EQ(heard().size(), 1U);
+}
+
+TEST_F(MainWindowSpeech, TheResultOfASearchIsSaid) {
+    launch();
+    const ScreenReader listening(&hear);
+    press(Qt::Key_F, Qt::ControlModifier);
+    ASSERT_TRUE(drawerComesToRest());
+    type("nowhere");
+    EXPECT_TRUE(hears("Not found"));
+}
+
+TEST_F(MainWindowSpeech, AnEmptyControlIsDescribedAsWhatItShows) {
+    launch();
+    EXPECT_EQ(description("unitParameterTableView"), "No unit is selected");
+    EXPECT_EQ(description("editParameterTableView"), "Select a parameter to edit it");
+    EXPECT_EQ(description("unitSelectPopUp"), "No units listed");
+}
+
+TEST_F(MainWindowSpeech, AControlWithAContentNeedsNoDescription) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 0, 0);
+    for (const char* name : {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp",
+                             "interfacePopUp"}) {
+        EXPECT_EQ(description(name), "") << name;
+    }
+    click("discoverButton");
+    EXPECT_EQ(description("unitSelectPopUp"), "No units listed");
+}
+
+TEST_F(MainWindowSpeech, TheFieldOverAValueIsNamedAfterItsParameter) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", 3, 1);
+    press(Qt::Key_Return);
+    auto* const editor =
+        control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
+    ASSERT_NE(editor, nullptr);
+    EXPECT_EQ(editor->accessibleName().toStdString(), "device Port number");
+}
+
+} // namespace kx

@@ -1,0 +1,35 @@
+// Stands for a screen reader: while it is there the toolkit announces what changes, to a function
+// of the test. Only the platform plugin's own interface can switch that on.
+
+#pragma once
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+
+#include <QAccessible>
+
+namespace kx {
+
+class ScreenReader {
+public:
+    explicit ScreenReader(QAccessible::UpdateHandler hears)
+        : _before(QAccessible::installUpdateHandler(hears)) {
+        platform().setActive(true);
+    }
+    ~ScreenReader() {
+        platform().setActive(false);
+        QAccessible::installUpdateHandler(_before);
+    }
+    ScreenReader(const ScreenReader&) = delete;
+    ScreenReader& operator=(const ScreenReader&) = delete;
+
+private:
+    static QPlatformAccessibility& platform() {
+        return *QGuiApplicationPrivate::platformIntegration()->accessibility();
+    }
+
+    QAccessible::UpdateHandler _before;
+};
+
+} // namespace kx
