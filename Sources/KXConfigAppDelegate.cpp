@@ -31,6 +31,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
     stopListener();
     _devicesD.clear();
+    _serials.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
@@ -45,6 +46,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     logText.clear();
     stopListener();
     _devicesD.clear();
+    _serials.clear();
     _selectedUnit.reset();
     _editTableEntry.reset();
     _auth.reset();
