@@ -3,10 +3,8 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QTest>
 
 namespace kx {
 
@@ -44,11 +42,11 @@ void Steps::take(const QString& verb, const QString& argument) {
     } else if (verb == "discover") {
         _driver.discover(argument.toInt());
     } else if (verb == "unit") {
-        pickUnit(argument);
+        _driver.pickUnit(argument);
     } else if (verb == "parameter") {
         pickParameter(argument);
     } else if (verb == "type") {
-        type(argument);
+        _driver.typeValue(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
     } else if (verb == "log") {
@@ -74,34 +72,12 @@ void Steps::take(const QString& verb, const QString& argument) {
     }
 }
 
-void Steps::pickUnit(const QString& serial) {
-    const int row = _driver.control<QComboBox>("unitSelectPopUp").findText(serial);
-    if (row < 0) {
-        throw Disappointment{"there is no unit " + serial};
-    }
-    _driver.pickUnit(row);
-}
-
 void Steps::pickParameter(const QString& name) {
     const int row = _driver.rowOfParameter(name);
     if (row < 0) {
         throw Disappointment{"there is no parameter " + name};
     }
     _driver.pickParameter(row);
-}
-
-void Steps::type(const QString& text) {
-    auto& editRow = _driver.control<QTableView>("editParameterTableView");
-    const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
-    const QPoint center = editRow.viewport()->mapTo(&_driver.window(), cell.center());
-    QTest::mouseDClick(_driver.window().windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
-    QLineEdit* editor = nullptr;
-    _driver.waitFor("an open editor", [&] {
-        editor = editRow.viewport()->findChild<QLineEdit*>();
-        return editor != nullptr && editor->hasFocus();
-    });
-    editor->selectAll();
-    QTest::keyClicks(editor, text);
 }
 
 void Steps::expectParameter(const QString& nameAndValue) {

@@ -37,9 +37,7 @@ public:
 
 private:
     void take(const QString& verb, const QString& argument);
-    void pickUnit(const QString& serial);
     void pickParameter(const QString& name);
-    void type(const QString& text);
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);

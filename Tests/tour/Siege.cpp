@@ -1,0 +1,64 @@
+#include "Siege.h"
+
+#include "ResponsivenessProbe.h"
+
+#include <QDeadlineTimer>
+
+namespace kx {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+constexpr milliseconds drawerMoves{500};
+
+// What a flood brings at least, and no real network.
+constexpr int fewestInvented = 1000;
+
+void expectAtMost(milliseconds found, const char* limit, const QString& what) {
+    print(QString("%1: %2 ms").arg(what).arg(found.count()));
+    if (found > milliseconds(qEnvironmentVariableIntValue(limit))) {
+        throw Disappointment{"too long: " + what};
+    }
+}
+
+} // namespace
+
+Siege::Siege(WindowDriver& driver)
+    : _driver(driver)
+    , _serials(qEnvironmentVariable("KX_SIEGE_UNITS").split(',')) {}
+
+void Siege::run() {
+    ResponsivenessProbe probe(*_driver.window().windowHandle());
+    probe.start();
+    const QDeadlineTimer end(seconds(qEnvironmentVariableIntValue("KX_SIEGE_SECONDS")));
+    while (!end.hasExpired()) {
+        discover();
+        for (const QString& serial : _serials) {
+            _driver.pickUnit(serial);
+        }
+        _driver.press("logDrawerButton");
+        WindowDriver::letRun(drawerMoves);
+    }
+    print(QString("Discoveries: %1, each of %2 real units found among %3 in the end")
+              .arg(_discoveries)
+              .arg(_serials.size())
+              .arg(_listed));
+    expectAtMost(probe.longestGap(), "KX_SIEGE_WAIT", "longest wait of a person");
+    expectAtMost(probe.longestComputing(), "KX_SIEGE_COMPUTING", "the program's own part in one");
+    if (_listed < fewestInvented) {
+        throw Disappointment{"there was no flood"};
+    }
+}
+
+void Siege::discover() {
+    auto& list = _driver.control<QComboBox>("unitSelectPopUp");
+    _driver.press("discoverButton");
+    WindowDriver::waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+    WindowDriver::waitFor("units", [&] { return list.count() > 0; });
+    ++_discoveries;
+    _listed = list.count();
+}
+
+} // namespace kx
