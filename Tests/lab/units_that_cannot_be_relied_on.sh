@@ -11,6 +11,6 @@ readonly units=8
 
 export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsoak QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
 export KX_SOAK_SECONDS=$seconds KX_SOAK_SEED=$seed KX_SOAK_UNITS=$units
-faults="--seed $seed --late 30 --lose 10 --duplicate 10 --reorder 20 --malform 15 --flood 20"
+faults="--seed $seed --late 30 --lose 10 --duplicate 10 --reorder 20 --malform 15 --flood 50"
 exec "$here/in_lab.sh" --units "$units" --units-options "$faults" \
     -- timeout "$((seconds + 120))" "$kxconfig"

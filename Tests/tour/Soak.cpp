@@ -20,7 +20,7 @@ constexpr seconds end{10};
 constexpr milliseconds discoveryTakes{2500};
 
 // A unit that was invented stays listed, and takes some hundred bytes.
-constexpr std::size_t heapMayGrow = std::size_t{1024} * 1024;
+constexpr std::size_t heapMayGrow = std::size_t{256} * 1024;
 
 constexpr int longestPauseInMilliseconds = 400;
 
@@ -131,6 +131,10 @@ void Soak::edit() {
         return; // no unit is selected, or its reply lacked this one
     }
     _driver.clickParameter(row);
+    const auto& editRow = _driver.control<QTableView>("editParameterTableView");
+    if (WindowDriver::cellText(editRow, 0, 0) != parameter) {
+        return; // the row was selected before, when it was another parameter's
+    }
     _driver.typeValue(value);
     _driver.press("applyButton");
 }
@@ -155,9 +159,12 @@ void Soak::toggleLog() {
     _driver.press("logDrawerButton");
 }
 
-// One in eight is nothing that a unit would take. No address is one at which a unit could no longer
-// be heard: neither the host's own, nor one for all.
+// One in eight is nothing that a unit would take. No unit gets an address at which it could no
+// longer be heard, the host's own or one for all, or a port at which nobody can reach it.
 QString Soak::newValue(const QString& parameter) {
+    if (parameter == "device Port number") {
+        return QString::number(1 + below(70'000));
+    }
     if (below(8) == 0) {
         return "no such value";
     }
@@ -185,7 +192,7 @@ QString Soak::newValue(const QString& parameter) {
     if (parameter == "unit ID") {
         return below(2) == 0 ? QString::number(below(1000)) : "U" + hexadecimal(1 + below(3), ' ');
     }
-    return QString::number(below(2) == 0 ? 3518 + below(8) : below(70'000));
+    return QString::number(3518 + below(8));
 }
 
 QString Soak::hexadecimal(int bytes, QChar separator) {

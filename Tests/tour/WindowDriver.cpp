@@ -106,12 +106,14 @@ void WindowDriver::pickUnit(int row) const {
             [&] { return units.currentIndex() == row && parameters.model()->rowCount() > 0; });
 }
 
-// The list's search starts anew with the first key, and the program runs between keys.
+// The list's search starts anew with the first key. The program runs between keys, which may take
+// so long that the list would take the next one for the beginning of another title.
 void WindowDriver::pickUnit(const QString& serial) const {
     auto& units = control<QComboBox>("unitSelectPopUp");
     click(units);
     QAbstractItemView& list = *units.view();
     waitFor("an open list", [&] { return list.isVisible(); });
+    QApplication::setKeyboardInputInterval(static_cast<int>(longestPatience.count()));
     list.keyboardSearch({});
     for (const QChar character : serial) {
         QTest::keyClick(&list, character.toLatin1());
