@@ -4,6 +4,7 @@
 #include <qpa/qwindowsysteminterface.h>
 
 #include <QCoreApplication>
+#include <QInputDevice>
 #include <QKeyEvent>
 #include <algorithm>
 
@@ -33,6 +34,7 @@ ResponsivenessProbe::ResponsivenessProbe(QWindow& window)
     , _mainThreadClock(clockOfThisThread()) {}
 
 void ResponsivenessProbe::start() {
+    QInputDevice::primaryKeyboard(); // made at its first use, which must not be the other thread's
     QCoreApplication::instance()->installEventFilter(this);
     _person = std::jthread([this](const std::stop_token& stop) {
         while (!stop.stop_requested()) {
