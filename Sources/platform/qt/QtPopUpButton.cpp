@@ -60,7 +60,9 @@ QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
         titles.push_back(utf8Text(comboBox.itemText(index)));
     }
     comboBox.setModel(&_model);
-    showTitles(withoutRepetitions(std::move(titles)), utf8Text(selected));
+    titles = withoutRepetitions(std::move(titles));
+    const bool areAscending = isAscending(titles);
+    showTitles(std::move(titles), areAscending, utf8Text(selected));
 }
 
 QtPopUpButton::~QtPopUpButton() {
@@ -70,27 +72,31 @@ QtPopUpButton::~QtPopUpButton() {
 }
 
 void QtPopUpButton::removeAllItems() {
-    showTitles({}, {});
+    showTitles({}, true, {});
 }
 
 void QtPopUpButton::addItemsWithTitles(std::vector<std::string> titles) {
     const auto selected = titleOfSelectedItem();
-    titles = withoutRepetitions(std::move(titles));
-    std::vector<std::string> all = titlesBut(titles);
-    if (all.empty()) {
-        all = std::move(titles);
-    } else {
-        std::ranges::move(titles, std::back_inserter(all));
+    bool areAscending = isAscending(titles);
+    if (!areAscending) {
+        titles = withoutRepetitions(std::move(titles));
     }
-    const std::string first = all.empty() ? std::string() : all.front();
-    showTitles(std::move(all), selected.value_or(first));
+    if (_model.rowCount() > 0) {
+        std::vector<std::string> all = titlesBut(titles, areAscending);
+        std::ranges::move(titles, std::back_inserter(all));
+        titles = std::move(all);
+        areAscending = isAscending(titles);
+    }
+    const std::string first = titles.empty() ? std::string() : titles.front();
+    showTitles(std::move(titles), areAscending, selected.value_or(first));
 }
 
 // Both lists are in order as a rule, and then compared in one pass.
-std::vector<std::string> QtPopUpButton::titlesBut(const std::vector<std::string>& unwanted) const {
+std::vector<std::string> QtPopUpButton::titlesBut(const std::vector<std::string>& unwanted,
+                                                  bool areAscending) const {
     const std::vector<std::string>& titles = _model.titles();
     std::vector<std::string> kept;
-    if (_isAscending && isAscending(unwanted)) {
+    if (_isAscending && areAscending) {
         std::ranges::set_difference(titles, unwanted, std::back_inserter(kept));
         return kept;
     }
@@ -111,10 +117,11 @@ int QtPopUpButton::indexOf(std::string_view title) const {
     return found != _indexOfTitle.end() ? found->second : -1;
 }
 
-void QtPopUpButton::showTitles(std::vector<std::string> titles, std::string_view selected) {
+void QtPopUpButton::showTitles(std::vector<std::string> titles, bool areAscending,
+                               std::string_view selected) {
     _indexOfTitle.clear(); // it looks into the titles that go
     _model.setTitles(std::move(titles));
-    _isAscending = isAscending(_model.titles());
+    _isAscending = areAscending;
     if (!_isAscending) {
         for (const std::string& title : _model.titles()) {
             _indexOfTitle.emplace(title, static_cast<int>(_indexOfTitle.size()));

@@ -32,9 +32,10 @@ public:
     void setEnabled(bool enabled) override;
 
 private:
-    std::vector<std::string> titlesBut(const std::vector<std::string>& unwanted) const;
+    std::vector<std::string> titlesBut(const std::vector<std::string>& unwanted,
+                                       bool areAscending) const;
     int indexOf(std::string_view title) const;
-    void showTitles(std::vector<std::string> titles, std::string_view selected);
+    void showTitles(std::vector<std::string> titles, bool areAscending, std::string_view selected);
     void prepareForLongList();
 
     QComboBox& _comboBox;
