@@ -3,6 +3,7 @@
 #include "support/Require.h"
 
 #include <algorithm>
+#include <bit>
 
 namespace kx {
 
@@ -25,13 +26,13 @@ void AscendingKeys::add(std::string_view key) {
     }
 }
 
-// From the shortest run to the longest one: their lengths are the binary digits of their sum. What
-// is one run afterwards is as well the runs that it was.
+// The lengths of the runs are the binary digits of their sum. From the shortest one on they become
+// one, which is as well the runs that it was. The longest one, mostly by far, is not touched.
 std::vector<std::string> AscendingKeys::list() {
     std::size_t merged = _keys.size() % shortestRun;
     std::size_t rest = _keys.size() - merged;
     std::sort(_keys.begin() + static_cast<std::ptrdiff_t>(rest), _keys.end());
-    while (rest != 0) {
+    while (!std::has_single_bit(rest) && rest != 0) {
         const std::size_t run = rest & (~rest + 1);
         mergeLast(run, merged);
         merged += run;
@@ -40,8 +41,12 @@ std::vector<std::string> AscendingKeys::list() {
 
     std::vector<std::string> texts;
     texts.reserve(_keys.size());
-    for (const Key& key : _keys) {
-        texts.emplace_back(key.text());
+    auto left = _keys.cbegin();
+    const auto middle = left + static_cast<std::ptrdiff_t>(rest);
+    auto right = middle;
+    while (left != middle || right != _keys.cend()) {
+        const bool takesLeft = right == _keys.cend() || (left != middle && *left < *right);
+        texts.emplace_back((takesLeft ? left++ : right++)->text());
     }
     return texts;
 }
