@@ -20,14 +20,17 @@ public:
     explicit Siege(WindowDriver& driver);
 
     // Stays the whole time, and prints what it met with. Throws a Disappointment when a unit was
-    // not found, when a person had to wait too long, and when there was no flood.
+    // not found in the end, when a person had to wait too long, and when there was no flood.
     void run();
 
 private:
     void discover();
+    void lookForUnits();
 
     WindowDriver& _driver;
     const QStringList _serials;
+    QStringList _missed; // at the last Discover
+    int _found = 0;
     int _discoveries = 0;
     int _listed = 0;
 };

@@ -14,7 +14,7 @@ using std::chrono::seconds;
 constexpr seconds longestFirstPart{60};
 
 // What the end of the visit takes.
-constexpr seconds end{10};
+constexpr seconds end{16};
 
 // Longer than a discovery, and than a reply can be late.
 constexpr milliseconds discoveryTakes{2500};
