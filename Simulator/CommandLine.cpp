@@ -146,20 +146,21 @@ std::string helpText() {
         left.resize(std::max(helpColumn, left.size() + 1), ' ');
         text += left + std::string(option.help) + '\n';
     }
-    text += "  --help                    this text\n"
-            "\n"
-            "Unit N leaves the factory with\n"
-            "  hardware address          02:4B:58 and N in three bytes\n"
-            "  serial number             4B 58 00 and N in three bytes\n"
-            "  IP address                the network's base + 10 + N\n"
-            "  destination               base + 1, 02:00:00:00:00:01, port 3520\n"
-            "  device port               3520 when 3 divides N, otherwise 10000\n"
-            "  unit ID                   odd N up to 255: the number N;\n"
-            "                            otherwise the text \"U\" and N in five digits\n"
-            "\n"
-            "Once the units listen, one line that begins with \"ready\" goes to standard output.\n"
-            "At the end the state of every unit goes to the record, or without one to standard\n"
-            "output.\n";
+    text +=
+        "  --help                    this text\n"
+        "\n"
+        "Unit N leaves the factory with\n"
+        "  hardware address          02:4B:58 and N in three bytes\n"
+        "  serial number             4B 58 00 and N in three bytes\n"
+        "  IP address                the network's base + 10 + N\n"
+        "  destination               base + 1, 02:00:00:00:00:01, port 3520\n"
+        "  device port               3520 when 3 divides N, otherwise 10000\n"
+        "  unit ID                   odd N up to 255: the number N;\n"
+        "                            otherwise the text \"U\" and N in five digits\n"
+        "\n"
+        "Once the units listen, one line that begins with \"ready\" goes to standard output.\n"
+        "At the end, and on SIGUSR2, the state of every unit goes to the record, or without one\n"
+        "to standard output. On SIGUSR1 the faults and the flood end.\n";
     return text;
 }
 

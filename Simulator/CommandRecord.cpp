@@ -57,7 +57,7 @@ void CommandRecord::addCommand(const SimulatedUnit& unit, const Datagram& datagr
               std::to_string(datagram.destination.port) + ' ' + hexOf(datagram.payload) + '\n';
 }
 
-void CommandRecord::addFinalState(const SimulatedUnit& unit) {
+void CommandRecord::addState(const SimulatedUnit& unit) {
     const UnitSettings& settings = unit.settings();
     _lines += "state " + hexOf(settings.serial);
     _lines += " hardware=" + hexOf(settings.hardwareAddress, ":");

@@ -8,7 +8,8 @@
 //   state 4B5800000001 hardware=02:4B:58:00:00:01 address=192.0.2.11 destination=192.0.2.1
 //   destination-port=3520 device-port=10000 unit-id=000000000001
 //   destination-hardware=02:00:00:00:00:01 clock=-
-//       a unit's settings at the end, on one line; a clock that was never set is "-"
+//       a unit's settings when somebody asked for them and at the end, on one line; a clock that
+//       was never set is "-"
 //
 // Lines are kept until flush(), which appends them with one system call as long as the system takes
 // them whole, so that several programs may share one file. Threading: one thread.
@@ -35,7 +36,7 @@ public:
     CommandRecord& operator=(const CommandRecord&) = delete;
 
     void addCommand(const SimulatedUnit& unit, const Datagram& datagram);
-    void addFinalState(const SimulatedUnit& unit);
+    void addState(const SimulatedUnit& unit);
 
     // Throws std::system_error when the lines cannot be written.
     void flush();

@@ -40,6 +40,9 @@ public:
     // sender of the last command and from the port that it used; none before the first command.
     std::vector<OutgoingFrame> unsolicitedReplies(std::size_t count);
 
+    // From now on nothing goes wrong with replies.
+    void beHonest() { _faults = Faults({}); }
+
     const std::vector<SimulatedUnit>& units() const { return _units; }
 
 private:

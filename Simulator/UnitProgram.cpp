@@ -25,25 +25,34 @@ using Clock = std::chrono::steady_clock;
 // At most about 60 MB of frames wait; 10,000 units can be 20 answers behind.
 constexpr std::size_t mostDelayedFrames = 200'000;
 
-// A descriptor that is readable once the process has been asked to end.
-class EndRequest {
+// The signals by which the process is told what to do, as something to wait for and to read.
+class Orders {
 public:
-    EndRequest() {
+    Orders() {
         sigset_t signals;
         ::sigemptyset(&signals);
-        ::sigaddset(&signals, SIGINT);
-        ::sigaddset(&signals, SIGTERM);
+        for (const int signal : {SIGINT, SIGTERM, SIGUSR1, SIGUSR2}) {
+            ::sigaddset(&signals, signal);
+        }
         ::sigprocmask(SIG_BLOCK, &signals, nullptr);
-        _descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC);
+        _descriptor = ::signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK);
         if (_descriptor < 0) {
             throw std::system_error(errno, std::generic_category(), "watch for signals");
         }
     }
-    ~EndRequest() { ::close(_descriptor); }
-    EndRequest(const EndRequest&) = delete;
-    EndRequest& operator=(const EndRequest&) = delete;
+    ~Orders() { ::close(_descriptor); }
+    Orders(const Orders&) = delete;
+    Orders& operator=(const Orders&) = delete;
 
     int descriptor() const { return _descriptor; }
+
+    // The next signal; nothing when none waits.
+    std::optional<int> take() const {
+        signalfd_siginfo information{};
+        const bool isThere =
+            ::read(_descriptor, &information, sizeof information) == sizeof information;
+        return isThere ? std::optional(static_cast<int>(information.ssi_signo)) : std::nullopt;
+    }
 
 private:
     int _descriptor = -1;
@@ -70,7 +79,8 @@ public:
         , _flood(line.floodPerSecond, Clock::now()) {}
 
     void run() {
-        while (waitForWork()) {
+        waitForWork();
+        while (followOrders()) {
             // One frame a turn: what it causes leaves before the next one is read, so that a burst
             // waits in the socket, which bounds it.
             if (const auto frame = _link.receive()) {
@@ -84,22 +94,41 @@ public:
             for (const Bytes& due : _delayed.takeDue(Clock::now())) {
                 _link.send(due);
             }
+            waitForWork();
         }
     }
 
-    const UnitNetwork& network() const { return _network; }
+    void recordStates() {
+        for (const SimulatedUnit& unit : _network.units()) {
+            _record.addState(unit);
+        }
+        _record.flush();
+    }
 
 private:
     // False when the end was asked for.
-    bool waitForWork() {
-        pollfd watched[] = {{_end.descriptor(), POLLIN, 0}, {_link.descriptor(), POLLIN, 0}};
+    bool followOrders() {
+        while (const auto order = _orders.take()) {
+            if (*order == SIGUSR1) {
+                _network.beHonest();
+                _flood = Pace(0, Clock::now());
+            } else if (*order == SIGUSR2) {
+                recordStates();
+            } else {
+                return false;
+            }
+        }
+        return true;
+    }
+
+    void waitForWork() {
+        pollfd watched[] = {{_orders.descriptor(), POLLIN, 0}, {_link.descriptor(), POLLIN, 0}};
         const std::optional<timespec> longest = timeToNextDue();
         const int ready =
             ::ppoll(watched, std::size(watched), longest ? &*longest : nullptr, nullptr);
         if (ready < 0 && errno != EINTR) {
             throw std::system_error(errno, std::generic_category(), "wait for frames");
         }
-        return watched[0].revents == 0;
     }
 
     std::optional<timespec> timeToNextDue() const {
@@ -132,7 +161,7 @@ private:
     }
 
     CommandRecord& _record;
-    EndRequest _end;
+    Orders _orders;
     PacketLink _link;
     UnitNetwork _network;
     Pace _flood;
@@ -143,10 +172,7 @@ void play(const CommandLine& line, CommandRecord& record) {
     UnitLoop loop(line, record);
     std::cout << "ready: " << line.count << " units on " << line.link << std::endl;
     loop.run();
-    for (const SimulatedUnit& unit : loop.network().units()) {
-        record.addFinalState(unit);
-    }
-    record.flush();
+    loop.recordStates();
 }
 
 } // namespace

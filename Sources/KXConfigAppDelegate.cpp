@@ -35,6 +35,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
     stopListener();
     _devicesD.clear();
+    _serials.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
@@ -50,6 +51,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     logText.clear();
     stopListener();
     _devicesD.clear();
+    _serials.clear();
     _selectedUnit.reset();
     _editTableEntry.reset();
     _auth.reset();

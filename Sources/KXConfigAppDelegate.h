@@ -12,6 +12,7 @@
 
 #pragma once
 
+#include "AscendingKeys.h"
 #include "EditNotes.h"
 #include "EditReport.h"
 #include "KXParameterEntry.h"
@@ -249,6 +250,7 @@ private:
     std::uint32_t localMask = 0;
     Registry _devicesD;
     ShownParameterNames _parameterNamesInLog;
+    AscendingKeys _serials; // the keys of _devicesD
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written

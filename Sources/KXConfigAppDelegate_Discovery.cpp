@@ -3,8 +3,6 @@
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
 
-#include <vector>
-
 namespace kx {
 
 using namespace std::chrono_literals;
@@ -12,6 +10,7 @@ using namespace std::chrono_literals;
 void KXConfigAppDelegate::discoverButton() {
     const auto port = integerValue(_outlets.udpPortPopUp->titleOfSelectedItem().value_or(""));
     logText.clear();
+    logText.shrink_to_fit(); // it may have been long
     _outlets.logTextView->setString("");
     appendMessage("[Begin Discover]");
     _outlets.unitSelectPopUp->removeAllItems();
@@ -21,12 +20,7 @@ void KXConfigAppDelegate::discoverButton() {
 }
 
 void KXConfigAppDelegate::discoverComplete() {
-    std::vector<std::string> serials;
-    serials.reserve(_devicesD.size());
-    for (const auto& [serial, record] : _devicesD) {
-        serials.push_back(serial);
-    }
-    _outlets.unitSelectPopUp->addItemsWithTitles(serials);
+    _outlets.unitSelectPopUp->addItemsWithTitles(_serials.list());
     if (_selectedUnit.has_value()) {
         _outlets.unitSelectPopUp->selectItemWithTitle(*_selectedUnit);
     } else {

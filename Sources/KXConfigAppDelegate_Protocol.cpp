@@ -135,7 +135,10 @@ std::string KXConfigAppDelegate::unitParameters(ByteView list) {
     DecodedUnitParameters decoded = decodeUnitParameters(list, &_parameterNamesInLog);
     const auto serial = decoded.record.value(UnitParameter::serialNumber);
     if (serial.has_value()) {
-        _devicesD.insert_or_assign(std::string(*serial), decoded.record);
+        const auto [unit, isNew] = _devicesD.insert_or_assign(std::string(*serial), decoded.record);
+        if (isNew) {
+            _serials.add(unit->first);
+        }
         if (serial == _selectedUnit) {
             showSelectedUnit();
         }

@@ -29,7 +29,7 @@ public:
     // Appends one item for each title, in order. No two items have equal titles: an item that
     // already has the title is replaced, and the new one stands at the end. When nothing was
     // selected, the first item becomes selected; otherwise the selected title stays selected.
-    virtual void addItemsWithTitles(const std::vector<std::string>& titles) = 0;
+    virtual void addItemsWithTitles(std::vector<std::string> titles) = 0;
 
     // Does nothing when there is no such item.
     virtual void selectItemAtIndex(int index) = 0;

@@ -21,8 +21,8 @@ namespace kx {
 class RecordedPopUpButton final : public PopUpButton {
 public:
     RecordedPopUpButton() = default;
-    explicit RecordedPopUpButton(const std::vector<std::string>& titles) {
-        RecordedPopUpButton::addItemsWithTitles(titles);
+    explicit RecordedPopUpButton(std::vector<std::string> titles) {
+        RecordedPopUpButton::addItemsWithTitles(std::move(titles));
     }
 
     void removeAllItems() override {
@@ -30,10 +30,10 @@ public:
         _selected.reset();
     }
 
-    void addItemsWithTitles(const std::vector<std::string>& titles) override {
-        for (const auto& title : titles) {
+    void addItemsWithTitles(std::vector<std::string> titles) override {
+        for (auto& title : titles) {
             std::erase(_titles, title);
-            _titles.push_back(title);
+            _titles.push_back(std::move(title));
         }
         if (!_selected.has_value()) {
             selectItemAtIndex(0);

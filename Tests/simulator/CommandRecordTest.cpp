@@ -41,9 +41,9 @@ TEST_F(CommandRecordTest, CommandIsALineOfSerialDestinationAndBytes) {
 
 TEST_F(CommandRecordTest, FinalStateIsALineOfEverySetting) {
     CommandRecord record(_path);
-    record.addFinalState(_unit);
+    record.addState(_unit);
     _unit.answer(bytesOfText("^^Id-Z03051407\r"));
-    record.addFinalState(_unit);
+    record.addState(_unit);
     record.flush();
     const std::string settings =
         "state 4B5800000002 hardware=02:4B:58:00:00:02 address=192.0.2.12 destination=192.0.2.1 "

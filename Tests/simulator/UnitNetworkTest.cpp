@@ -240,5 +240,12 @@ TEST_F(UnitNetworkTest, ForeignFramesOfEveryLengthDoNoHarm) {
     EXPECT_EQ(broadcast("^^IdX").size(), 3U);
 }
 
+TEST_F(UnitNetworkTest, HonestUnitsLoseNoReply) {
+    play(1, {.losePercent = 100});
+    EXPECT_TRUE(send(hardwareOf(1), addressOf(1), "^^IdX").empty());
+    _network->beHonest();
+    EXPECT_EQ(send(hardwareOf(1), addressOf(1), "^^IdX").size(), 1U);
+}
+
 } // namespace
 } // namespace kx::simulator

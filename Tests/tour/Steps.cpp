@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QFile>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -11,6 +10,7 @@
 #include <QTest>
 #include <QThread>
 #include <cstdlib>
+#include <ctime>
 
 namespace kx {
 
@@ -25,6 +25,18 @@ void closeAlert() {
     }
     print(QString("Alert: %1: %2").arg(alert->windowTitle(), alert->text()));
     alert->buttons().constFirst()->click();
+}
+
+std::chrono::nanoseconds computed() {
+    timespec time{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+void keepBusy(std::chrono::milliseconds time) {
+    const auto end = computed() + time;
+    while (computed() < end) {
+    }
 }
 
 } // namespace
@@ -53,11 +65,11 @@ void Steps::take(const QString& verb, const QString& argument) {
     } else if (verb == "discover") {
         _driver.discover(argument.toInt());
     } else if (verb == "unit") {
-        pickUnit(argument);
+        _driver.pickUnit(argument);
     } else if (verb == "parameter") {
         pickParameter(argument);
     } else if (verb == "type") {
-        type(argument);
+        _driver.typeValue(argument);
     } else if (verb == "press") {
         _driver.press(argument.toLatin1().constData());
     } else if (verb == "presses") {
@@ -101,15 +113,13 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
     } else if (verb == "dropped") {
         expectDropped(argument);
     } else if (verb == "watch") {
-        _loopWatch = std::make_unique<LoopWatch>();
+        watch();
     } else if (verb == "waited") {
-        expectAtMost("waited", watch().longestWait(), argument);
+        expectAtMost("waited", probe().longestGap(), argument);
     } else if (verb == "worked") {
-        expectAtMost("worked", watch().longestWork(), argument);
+        expectAtMost("worked", probe().longestComputing(), argument);
     } else if (verb == "work") {
-        const LoopWatch own;
-        while (own.longestWork() < std::chrono::milliseconds(argument.toInt())) {
-        }
+        keepBusy(std::chrono::milliseconds(argument.toInt()));
     } else if (verb == "pause") {
         QThread::msleep(argument.toULong());
     } else {
@@ -171,11 +181,16 @@ void Steps::expectDropped(const QString& text) {
     }
 }
 
-const LoopWatch& Steps::watch() const {
-    if (_loopWatch == nullptr) {
-        throw Disappointment{"nobody has watched the loop"};
+void Steps::watch() {
+    _probe = std::make_unique<ResponsivenessProbe>(*_driver.window().windowHandle());
+    _probe->start();
+}
+
+const ResponsivenessProbe& Steps::probe() const {
+    if (_probe == nullptr) {
+        throw Disappointment{"nobody watches how long an event waits"};
     }
-    return *_loopWatch;
+    return *_probe;
 }
 
 void Steps::expectAtMost(const QString& what, std::chrono::milliseconds longest,
@@ -187,35 +202,12 @@ void Steps::expectAtMost(const QString& what, std::chrono::milliseconds longest,
     }
 }
 
-void Steps::pickUnit(const QString& serial) {
-    const int row = _driver.control<QComboBox>("unitSelectPopUp").findText(serial);
-    if (row < 0) {
-        throw Disappointment{"there is no unit " + serial};
-    }
-    _driver.pickUnit(row);
-}
-
 void Steps::pickParameter(const QString& name) {
     const int row = _driver.rowOfParameter(name);
     if (row < 0) {
         throw Disappointment{"there is no parameter " + name};
     }
     _driver.pickParameter(row);
-}
-
-void Steps::type(const QString& text) {
-    auto& editRow = _driver.control<QTableView>("editParameterTableView");
-    const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
-    const QPoint center = editRow.viewport()->mapTo(&_driver.window(), cell.center());
-    _driver.window().activateWindow(); // after an alert, nobody else does so off screen
-    QTest::mouseDClick(_driver.window().windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
-    QLineEdit* editor = nullptr;
-    _driver.waitFor("an open editor", [&] {
-        editor = editRow.viewport()->findChild<QLineEdit*>();
-        return editor != nullptr && editor->hasFocus();
-    });
-    editor->selectAll();
-    QTest::keyClicks(editor, text);
 }
 
 void Steps::expectParameter(const QString& nameAndValue) {

@@ -41,7 +41,7 @@
 
 #pragma once
 
-#include "LoopWatch.h"
+#include "ResponsivenessProbe.h"
 #include "WindowDriver.h"
 
 #include <sys/resource.h>
@@ -66,12 +66,11 @@ private:
     QString dropLine() const;
     int droppedDatagrams() const;
     void expectDropped(const QString& text);
-    const LoopWatch& watch() const;
+    void watch();
+    const ResponsivenessProbe& probe() const;
     static void expectAtMost(const QString& what, std::chrono::milliseconds longest,
                              const QString& limit);
-    void pickUnit(const QString& serial);
     void pickParameter(const QString& name);
-    void type(const QString& text);
     void expectParameter(const QString& nameAndValue);
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);
@@ -82,7 +81,7 @@ private:
 
     WindowDriver& _driver;
     QTimer _alertWatch;
-    std::unique_ptr<LoopWatch> _loopWatch;
+    std::unique_ptr<ResponsivenessProbe> _probe;
     rlimit _usualDescriptors{}; // as the system allows them
 };
 

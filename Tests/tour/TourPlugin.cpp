@@ -1,10 +1,13 @@
 #include "TourPlugin.h"
 
+#include "Siege.h"
+#include "Soak.h"
 #include "Steps.h"
 #include "Tour.h"
 #include "WindowDriver.h"
 
 #include <QCoreApplication>
+#include <QHash>
 #include <QTimer>
 #include <cstdio>
 #include <memory>
@@ -40,13 +43,18 @@ void visit() {
     }
 }
 
+using Visit = void (*)();
+const QHash<QString, Visit> visits{{"kxsiege", visit<Siege>},
+                                   {"kxsoak", visit<Soak>},
+                                   {"kxsteps", visit<Steps>},
+                                   {"kxtour", visit<Tour>}};
+
 } // namespace
 
 QObject* TourPlugin::create(const QString& name, const QString& /*specification*/) {
     handlerBefore = qInstallMessageHandler(dropWordsOfThePlatform);
     auto start = std::make_unique<QTimer>();
-    connect(start.get(), &QTimer::timeout, start.get(),
-            name == "kxsteps" ? visit<Steps> : visit<Tour>);
+    connect(start.get(), &QTimer::timeout, start.get(), visits.value(name));
     start->setSingleShot(true);
     start->start(0);
     return start.release();

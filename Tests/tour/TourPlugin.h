@@ -1,6 +1,7 @@
-// How Qt finds the two kinds of visit: as the generic plugins "kxtour" (Tour.h) and "kxsteps"
-// (Steps.h). When a visit is over it closes the window, which ends the program; after a failure it
-// says on standard error what was missing, and ends the program with exit status 1.
+// How Qt finds the kinds of visit: as the generic plugins "kxtour" (Tour.h), "kxsteps" (Steps.h),
+// "kxsoak" (Soak.h) and "kxsiege" (Siege.h). When a visit is over it closes the window, which ends
+// the program; after a failure it says on standard error what was missing, and ends the program
+// with exit status 1.
 
 #pragma once
 

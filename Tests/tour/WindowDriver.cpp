@@ -2,22 +2,29 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QTest>
+#include <QTimer>
 #include <cstdio>
+#include <utility>
 
 namespace kx {
 
 namespace {
 
-constexpr int patienceInMilliseconds = 20'000;
+using std::chrono::milliseconds;
+
+constexpr milliseconds longestPatience{20'000};
+constexpr milliseconds betweenLooks{10};
 
 // The drawer takes no click while it moves.
-constexpr int drawerMovesInMilliseconds = 500;
+constexpr milliseconds drawerMoves{500};
+constexpr milliseconds pictureSettles{50};
 
 } // namespace
 
@@ -117,16 +124,59 @@ void WindowDriver::pickUnit(int row) const {
             [&] { return units.currentIndex() == row && parameters.model()->rowCount() > 0; });
 }
 
-void WindowDriver::pickParameter(int row) const {
+// The list's search starts anew with the first key. The program runs between keys, which may take
+// so long that the list would take the next one for the beginning of another title.
+void WindowDriver::pickUnit(const QString& serial) const {
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    click(units);
+    QAbstractItemView& list = *units.view();
+    waitFor("an open list", [&] { return list.isVisible(); });
+    QApplication::setKeyboardInputInterval(static_cast<int>(longestPatience.count()));
+    list.keyboardSearch({});
+    for (const QChar character : serial) {
+        QTest::keyClick(&list, character.toLatin1());
+        QCoreApplication::processEvents();
+    }
+    const bool found = list.currentIndex().data().toString() == serial;
+    QTest::keyClick(&list, found ? Qt::Key_Return : Qt::Key_Escape);
+    if (!found) {
+        throw Disappointment{"there is no unit " + serial};
+    }
     auto& parameters = control<QTableView>("unitParameterTableView");
-    auto& editRow = control<QTableView>("editParameterTableView");
+    waitFor("the parameters of unit " + serial,
+            [&] { return units.currentText() == serial && parameters.model()->rowCount() > 0; });
+}
+
+void WindowDriver::clickParameter(int row) const {
+    auto& parameters = control<QTableView>("unitParameterTableView");
     const QModelIndex cell = parameters.model()->index(row, 0);
     parameters.scrollTo(cell);
     click(*parameters.viewport(), parameters.visualRect(cell).center());
+}
+
+void WindowDriver::pickParameter(int row) const {
+    auto& parameters = control<QTableView>("unitParameterTableView");
+    auto& editRow = control<QTableView>("editParameterTableView");
+    clickParameter(row);
     waitFor("the chosen parameter in the edit row", [&] {
         return cellText(editRow, 0, 0) == cellText(parameters, row, 0) &&
                cellText(editRow, 0, 1) == cellText(parameters, row, 1);
     });
+}
+
+void WindowDriver::typeValue(const QString& text) const {
+    auto& editRow = control<QTableView>("editParameterTableView");
+    const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
+    const QPoint center = editRow.viewport()->mapTo(_window, cell.center());
+    _window->activateWindow(); // after an alert, nobody else does so off screen
+    QTest::mouseDClick(_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
+    QLineEdit* editor = nullptr;
+    waitFor("an open editor", [&] {
+        editor = editRow.viewport()->findChild<QLineEdit*>();
+        return editor != nullptr && editor->hasFocus();
+    });
+    editor->selectAll();
+    QTest::keyClicks(editor, text);
 }
 
 int WindowDriver::rowOfParameter(const QString& name) const {
@@ -147,7 +197,7 @@ void WindowDriver::openLog() const {
     auto& log = control<QWidget>("logTextView");
     press("logDrawerButton");
     waitFor("the event log", [&] { return log.isVisible() && !logText().isEmpty(); });
-    QTest::qWait(drawerMovesInMilliseconds);
+    letRun(drawerMoves);
 }
 
 QString WindowDriver::logText() const {
@@ -179,10 +229,34 @@ void WindowDriver::printLog() const {
     }
 }
 
-void WindowDriver::waitFor(const QString& what, const std::function<bool()>& condition) const {
-    if (!QTest::qWaitFor(condition, patienceInMilliseconds)) {
+void WindowDriver::waitFor(const QString& what, const std::function<bool()>& condition) {
+    if (!letRunUntil(condition, longestPatience)) {
         throw Disappointment{QString("waited in vain for %1").arg(what)};
     }
+}
+
+bool WindowDriver::letRunUntil(const std::function<bool()>& condition, milliseconds patience) {
+    QTimer looks;
+    bool looksNow = true;
+    QObject::connect(&looks, &QTimer::timeout, &looks, [&] { looksNow = true; });
+    looks.start(betweenLooks);
+    const QDeadlineTimer end(patience);
+    while (true) {
+        if (std::exchange(looksNow, false)) {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            if (condition()) {
+                return true;
+            }
+            if (end.hasExpired()) {
+                return false;
+            }
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents);
+    }
+}
+
+void WindowDriver::letRun(milliseconds time) {
+    letRunUntil([] { return false; }, time);
 }
 
 void WindowDriver::takePicture(const QString& name, QMenu* menu) const {
@@ -194,7 +268,7 @@ void WindowDriver::takePicture(const QString& name, QMenu* menu) const {
         // The pointer away from the buttons, which light up below it.
         QTest::mouseMove(_window->windowHandle(), QPoint(1, _window->height() - 2));
     }
-    QTest::qWait(50);
+    letRun(pictureSettles);
     QPixmap picture = _window->grab();
     if (menu != nullptr) {
         QPainter(&picture).drawPixmap(menu->pos() - _window->pos(), menu->grab());

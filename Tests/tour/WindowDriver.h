@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QString>
 #include <QTableView>
+#include <chrono>
 #include <functional>
 
 namespace kx {
@@ -63,8 +64,18 @@ public:
     // Chooses a unit of the list, and waits for its parameters.
     void pickUnit(int row) const;
 
+    // Chooses a unit of the list by its title, as a person does who types the beginning of a long
+    // list's title.
+    void pickUnit(const QString& serial) const;
+
+    // Clicks a row of the parameter table, whose texts the edit row then has.
+    void clickParameter(int row) const;
+
     // Clicks a row of the parameter table, and waits until the edit row has its texts.
     void pickParameter(int row) const;
+
+    // Opens the value in the edit row, types over it, and leaves the editor open.
+    void typeValue(const QString& text) const;
 
     // The row of the parameter table with this name, -1 without one.
     int rowOfParameter(const QString& name) const;
@@ -82,7 +93,13 @@ public:
     void printParameters() const;
     void printLog() const;
 
-    void waitFor(const QString& what, const std::function<bool()>& condition) const;
+    static void waitFor(const QString& what, const std::function<bool()>& condition);
+
+    // Lets the program run, whose loop turns as it does without a driver. The first one ends early,
+    // and gives true, when the condition has come true; it is asked every few milliseconds.
+    static bool letRunUntil(const std::function<bool()>& condition,
+                            std::chrono::milliseconds patience);
+    static void letRun(std::chrono::milliseconds time);
 
     // Leaves a picture of the window, with an open menu where one is given, in the folder that
     // KX_TOUR_PICTURES names; none when it is absent.

@@ -47,6 +47,24 @@ TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     EXPECT_EQ(popUp.titleOfSelectedItem(), titles.back());
 }
 
+// As when Discover was pressed twice: both completions list every unit.
+TEST(QtPopUpButton, TitlesInOrderThatComeAgainAreMergedInPlace) {
+    QComboBox comboBox;
+    QtPopUpButton popUp(comboBox);
+    popUp.addItemsWithTitles({"b", "d"});
+    popUp.selectItemWithTitle("d");
+    popUp.addItemsWithTitles({"a", "b", "c", "d"});
+    ASSERT_EQ(comboBox.count(), 4);
+    for (const int row : {0, 1, 2, 3}) {
+        EXPECT_EQ(comboBox.itemText(row), QString(QChar('a' + row)));
+    }
+    EXPECT_EQ(popUp.titleOfSelectedItem(), "d");
+    popUp.addItemsWithTitles({"b", "e"}); // the others stay before them
+    EXPECT_EQ(comboBox.itemText(3), "b");
+    popUp.selectItemWithTitle("c");
+    EXPECT_EQ(comboBox.currentIndex(), 1);
+}
+
 TEST(QtTextField, ALongTextShowsItsBeginning) {
     QLineEdit lineEdit;
     QtTextField field(lineEdit);

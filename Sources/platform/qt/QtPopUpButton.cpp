@@ -4,6 +4,9 @@
 #include "platform/qt/UniformListView.h"
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
+#include <unordered_set>
 #include <utility>
 
 namespace kx {
@@ -26,16 +29,40 @@ public:
     }
 };
 
+// Each title comes after the one before it, and so differs from every other one.
+bool isAscending(const std::vector<std::string>& titles) {
+    return std::ranges::adjacent_find(titles, std::ranges::greater_equal()) == titles.end();
+}
+
+// The last one of equal titles is the one that stays.
+std::vector<std::string> withoutRepetitions(std::vector<std::string> titles) {
+    if (isAscending(titles)) {
+        return titles;
+    }
+    std::vector<std::string> kept;
+    std::unordered_set<std::string> known;
+    for (auto title = titles.rbegin(); title != titles.rend(); ++title) {
+        if (known.insert(*title).second) {
+            kept.push_back(std::move(*title));
+        }
+    }
+    std::ranges::reverse(kept);
+    return kept;
+}
+
 } // namespace
 
 QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
     : _comboBox(comboBox) {
     const QString selected = comboBox.currentText();
+    std::vector<std::string> titles;
     for (int index = 0; index < comboBox.count(); ++index) {
-        addTitle(comboBox.itemText(index));
+        titles.push_back(utf8Text(comboBox.itemText(index)));
     }
     comboBox.setModel(&_model);
-    showTitles(selected);
+    titles = withoutRepetitions(std::move(titles));
+    const bool areAscending = isAscending(titles);
+    showTitles(std::move(titles), areAscending, utf8Text(selected));
 }
 
 QtPopUpButton::~QtPopUpButton() {
@@ -45,68 +72,62 @@ QtPopUpButton::~QtPopUpButton() {
 }
 
 void QtPopUpButton::removeAllItems() {
-    _titles.clear();
-    _indexOfTitle.clear();
-    _isAscending = true;
-    showTitles({});
+    showTitles({}, true, {});
 }
 
-void QtPopUpButton::addItemsWithTitles(const std::vector<std::string>& titles) {
-    const bool anySelected = _comboBox.currentIndex() >= 0;
-    const QString selected = _comboBox.currentText();
-    _titles.reserve(_titles.size() + static_cast<qsizetype>(titles.size()));
-    for (const std::string& title : titles) {
-        addTitle(qtText(title));
+void QtPopUpButton::addItemsWithTitles(std::vector<std::string> titles) {
+    const auto selected = titleOfSelectedItem();
+    bool areAscending = isAscending(titles);
+    if (!areAscending) {
+        titles = withoutRepetitions(std::move(titles));
     }
-    closeGaps();
-    showTitles(anySelected || _titles.isEmpty() ? selected : _titles.front());
+    if (_model.rowCount() > 0) {
+        std::vector<std::string> all = titlesBut(titles, areAscending);
+        std::ranges::move(titles, std::back_inserter(all));
+        titles = std::move(all);
+        areAscending = isAscending(titles);
+    }
+    const std::string first = titles.empty() ? std::string() : titles.front();
+    showTitles(std::move(titles), areAscending, selected.value_or(first));
 }
 
-// Titles that come in order differ from each other, which spares the index.
-void QtPopUpButton::addTitle(const QString& title) {
-    if (_isAscending && !_titles.isEmpty() && !(_titles.back() < title)) {
-        _isAscending = false;
-        for (qsizetype index = 0; index < _titles.size(); ++index) {
-            _indexOfTitle.insert(_titles.at(index), index);
+// Both lists are in order as a rule, and then compared in one pass.
+std::vector<std::string> QtPopUpButton::titlesBut(const std::vector<std::string>& unwanted,
+                                                  bool areAscending) const {
+    const std::vector<std::string>& titles = _model.titles();
+    std::vector<std::string> kept;
+    if (_isAscending && areAscending) {
+        std::ranges::set_difference(titles, unwanted, std::back_inserter(kept));
+        return kept;
+    }
+    const std::unordered_set<std::string_view> known(unwanted.begin(), unwanted.end());
+    std::ranges::copy_if(titles, std::back_inserter(kept),
+                         [&](const std::string& title) { return !known.contains(title); });
+    return kept;
+}
+
+int QtPopUpButton::indexOf(std::string_view title) const {
+    const std::vector<std::string>& titles = _model.titles();
+    if (_isAscending) {
+        const auto place = std::ranges::lower_bound(titles, title);
+        const bool isThere = place != titles.end() && *place == title;
+        return isThere ? static_cast<int>(place - titles.begin()) : -1;
+    }
+    const auto found = _indexOfTitle.find(title);
+    return found != _indexOfTitle.end() ? found->second : -1;
+}
+
+void QtPopUpButton::showTitles(std::vector<std::string> titles, bool areAscending,
+                               std::string_view selected) {
+    _indexOfTitle.clear(); // it looks into the titles that go
+    _model.setTitles(std::move(titles));
+    _isAscending = areAscending;
+    if (!_isAscending) {
+        for (const std::string& title : _model.titles()) {
+            _indexOfTitle.emplace(title, static_cast<int>(_indexOfTitle.size()));
         }
     }
-    if (!_isAscending) {
-        const qsizetype known = _indexOfTitle.size();
-        qsizetype& index = _indexOfTitle[title];
-        _hasGaps = _hasGaps || _indexOfTitle.size() == known;
-        index = _titles.size();
-    }
-    _titles.append(title);
-}
-
-void QtPopUpButton::closeGaps() {
-    if (!std::exchange(_hasGaps, false)) {
-        return;
-    }
-    qsizetype kept = 0;
-    for (qsizetype index = 0; index < _titles.size(); ++index) {
-        qsizetype& place = _indexOfTitle[_titles.at(index)];
-        if (place == index) {
-            place = kept;
-            _titles.swapItemsAt(kept, index);
-            ++kept;
-        }
-    }
-    _titles.resize(kept);
-}
-
-int QtPopUpButton::indexOf(const QString& title) const {
-    if (!_isAscending) {
-        return static_cast<int>(_indexOfTitle.value(title, -1));
-    }
-    const auto place = std::lower_bound(_titles.begin(), _titles.end(), title);
-    const bool isThere = place != _titles.end() && *place == title;
-    return isThere ? static_cast<int>(place - _titles.begin()) : -1;
-}
-
-void QtPopUpButton::showTitles(const QString& selected) {
-    _model.setStringList(_titles);
-    if (_titles.size() > longList) {
+    if (_model.rowCount() > longList) {
         prepareForLongList();
     }
     _comboBox.setCurrentIndex(indexOf(selected));
@@ -128,7 +149,7 @@ void QtPopUpButton::selectItemAtIndex(int index) {
 }
 
 void QtPopUpButton::selectItemWithTitle(std::string_view title) {
-    _comboBox.setCurrentIndex(indexOf(qtText(title)));
+    _comboBox.setCurrentIndex(indexOf(title));
 }
 
 std::optional<std::string> QtPopUpButton::titleOfSelectedItem() const {

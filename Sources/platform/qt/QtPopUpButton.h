@@ -8,12 +8,12 @@
 #pragma once
 
 #include "Outlets.h"
+#include "platform/qt/TitleListModel.h"
 
 #include <QComboBox>
-#include <QHash>
 #include <QProxyStyle>
-#include <QStringListModel>
 #include <memory>
+#include <unordered_map>
 
 namespace kx {
 
@@ -25,27 +25,25 @@ public:
     QtPopUpButton& operator=(const QtPopUpButton&) = delete;
 
     void removeAllItems() override;
-    void addItemsWithTitles(const std::vector<std::string>& titles) override;
+    void addItemsWithTitles(std::vector<std::string> titles) override;
     void selectItemAtIndex(int index) override;
     void selectItemWithTitle(std::string_view title) override;
     std::optional<std::string> titleOfSelectedItem() const override;
     void setEnabled(bool enabled) override;
 
 private:
-    void addTitle(const QString& title);
-    void closeGaps();
-    int indexOf(const QString& title) const;
-    void showTitles(const QString& selected);
+    std::vector<std::string> titlesBut(const std::vector<std::string>& unwanted,
+                                       bool areAscending) const;
+    int indexOf(std::string_view title) const;
+    void showTitles(std::vector<std::string> titles, bool areAscending, std::string_view selected);
     void prepareForLongList();
 
     QComboBox& _comboBox;
-    QStringListModel _model;
+    TitleListModel _model;
     std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
 
-    QStringList _titles;
     bool _isAscending = true;
-    QHash<QString, qsizetype> _indexOfTitle; // filled once the titles are not ascending
-    bool _hasGaps = false;                   // a title was added again, and its first place is void
+    std::unordered_map<std::string_view, int> _indexOfTitle; // empty while they are ascending
 };
 
 } // namespace kx

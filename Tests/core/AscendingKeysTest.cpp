@@ -1,0 +1,65 @@
+#include "AscendingKeys.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+#include <set>
+
+namespace kx {
+
+namespace {
+
+std::string randomKey(std::mt19937& random) {
+    std::string key(UnitRecord::longestText, ' ');
+    for (char& character : key) {
+        character = static_cast<char>('0' + random() % 10);
+    }
+    return key;
+}
+
+} // namespace
+
+TEST(AscendingKeys, AreNoneAtFirst) {
+    AscendingKeys keys;
+    EXPECT_TRUE(keys.list().empty());
+}
+
+TEST(AscendingKeys, ComeInOrderHoweverManyWereAddedBetweenTwoLists) {
+    std::mt19937 random(1);
+    AscendingKeys keys;
+    std::set<std::string> expected;
+    for (const int more : {1, 62, 1, 1, 63, 64, 65, 1000, 0, 4096, 7}) {
+        for (int count = 0; count < more; ++count) {
+            const std::string key = randomKey(random);
+            if (expected.insert(key).second) {
+                keys.add(key);
+            }
+        }
+        ASSERT_EQ(keys.list(), std::vector<std::string>(expected.begin(), expected.end()));
+    }
+}
+
+TEST(AscendingKeys, AKeyStandsBeforeLongerOnesThatBeginWithIt) {
+    AscendingKeys keys;
+    keys.add("AB");
+    keys.add("A");
+    keys.add("");
+    keys.add("B");
+    EXPECT_EQ(keys.list(), (std::vector<std::string>{"", "A", "AB", "B"}));
+}
+
+TEST(AscendingKeys, AreForgottenWhenTheyAreCleared) {
+    AscendingKeys keys;
+    keys.add("A");
+    keys.clear();
+    EXPECT_TRUE(keys.list().empty());
+    keys.add("A");
+    EXPECT_EQ(keys.list(), std::vector<std::string>{"A"});
+}
+
+TEST(AscendingKeysDeathTest, AKeyThatIsTooLongBreaksTheContract) {
+    AscendingKeys keys;
+    EXPECT_DEATH(keys.add("18 characters long"), "key.size\\(\\) <= UnitRecord::longestText");
+}
+
+} // namespace kx

@@ -1,0 +1,84 @@
+#include "Siege.h"
+
+#include "ResponsivenessProbe.h"
+
+#include <QDeadlineTimer>
+
+namespace kx {
+
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+constexpr milliseconds drawerMoves{500};
+
+// What a flood brings at least, and no real network.
+constexpr int fewestInvented = 1000;
+
+void expectAtMost(milliseconds found, const char* limit, const QString& what) {
+    if (found > milliseconds(qEnvironmentVariableIntValue(limit))) {
+        throw Disappointment{"too long: " + what};
+    }
+}
+
+} // namespace
+
+Siege::Siege(WindowDriver& driver)
+    : _driver(driver)
+    , _serials(qEnvironmentVariable("KX_SIEGE_UNITS").split(',')) {}
+
+void Siege::run() {
+    ResponsivenessProbe probe(*_driver.window().windowHandle());
+    probe.start();
+    const QDeadlineTimer end(seconds(qEnvironmentVariableIntValue("KX_SIEGE_SECONDS")));
+    while (!end.hasExpired()) {
+        discover();
+        lookForUnits();
+        _driver.press("logDrawerButton");
+        WindowDriver::letRun(drawerMoves);
+    }
+    print(QString("Discoveries: %1, real units found %2 times of %3, among %4 in the end")
+              .arg(_discoveries)
+              .arg(_found)
+              .arg(_discoveries * _serials.size())
+              .arg(_listed));
+    if (!_missed.isEmpty()) {
+        throw Disappointment{"there is no unit " + _missed.join(", ")};
+    }
+    const milliseconds gap = probe.longestGap();
+    const milliseconds computing = probe.longestComputing();
+    print(QString("Longest wait of a person: %1 ms. Most that the program computed in one: %2 ms")
+              .arg(gap.count())
+              .arg(computing.count()));
+    expectAtMost(gap, "KX_SIEGE_WAIT", "a person's longest wait");
+    expectAtMost(computing, "KX_SIEGE_COMPUTING", "the program's own part in a wait");
+    if (_listed < fewestInvented) {
+        throw Disappointment{"there was no flood"};
+    }
+}
+
+// The system drops what does not fit the listener's buffer, a real unit's reply like any other
+// datagram; a person then presses Discover again.
+void Siege::lookForUnits() {
+    _missed.clear();
+    for (const QString& serial : _serials) {
+        try {
+            _driver.pickUnit(serial);
+            ++_found;
+        } catch (const Disappointment&) {
+            _missed.append(serial);
+        }
+    }
+}
+
+void Siege::discover() {
+    auto& list = _driver.control<QComboBox>("unitSelectPopUp");
+    _driver.press("discoverButton");
+    WindowDriver::waitFor("an empty unit pop-up after Discover", [&] { return list.count() == 0; });
+    WindowDriver::waitFor("units", [&] { return list.count() > 0; });
+    ++_discoveries;
+    _listed = list.count();
+}
+
+} // namespace kx

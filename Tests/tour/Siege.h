@@ -1,0 +1,38 @@
+// A visit to the running program while somebody floods it with datagrams: discovers again and
+// again, and each time looks for real units among what the flood invents; every other time the
+// event log is open. Measures how long a person has to wait meanwhile.
+//
+// Main thread only; run() waits in nested event loops. Environment: KX_SIEGE_SECONDS, how long to
+// go on; KX_SIEGE_UNITS, the serial numbers of the real units, with commas in between;
+// KX_SIEGE_WAIT, the milliseconds that a person may have to wait; KX_SIEGE_COMPUTING, how many of
+// them the program may compute.
+
+#pragma once
+
+#include "WindowDriver.h"
+
+#include <QStringList>
+
+namespace kx {
+
+class Siege final {
+public:
+    explicit Siege(WindowDriver& driver);
+
+    // Stays the whole time, and prints what it met with. Throws a Disappointment when a unit was
+    // not found in the end, when a person had to wait too long, and when there was no flood.
+    void run();
+
+private:
+    void discover();
+    void lookForUnits();
+
+    WindowDriver& _driver;
+    const QStringList _serials;
+    QStringList _missed; // at the last Discover
+    int _found = 0;
+    int _discoveries = 0;
+    int _listed = 0;
+};
+
+} // namespace kx
