@@ -177,8 +177,18 @@ class Application:
     def open_log(self):
         """Opens the event log, and returns its lines."""
         perform(self.button("Event Log"), "Press")
+        return self.wait_for_log()
+
+    def wait_for_log(self):
+        """Waits until the event log has slid out, and returns its lines."""
         log = self.field("Event log text")
         wait_for("the event log", lambda: "showing" in states(log) and text_of(log))
+
+        def is_at_rest():
+            window, place = place_of(self.window), place_of(log)
+            # It is then as far from the lower edge as from the one at its side.
+            return window[3] - place[3] == place[0] - window[0]
+        wait_for("the event log at rest", is_at_rest)
         return text_of(log).split("\n")
 
     def choose(self, label, title):
