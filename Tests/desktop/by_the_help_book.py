@@ -12,7 +12,7 @@ import sys
 import time
 import unittest
 
-from desktop import Application, click, press, type_text, wait_for
+from desktop import Application, click, insist, press, type_text, wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "Tests/help"))
@@ -52,8 +52,9 @@ class ByTheHelpBook(unittest.TestCase):
         click(program.cell("Unit parameters", names.index(parameter), 0))
         wait_for(f"{parameter} in the edit row",
                  lambda: program.rows_of("Edit parameter")[0][0] == parameter)
-        click(program.cell("Edit parameter", 0, 1), times=2)
-        program.wait_for_focus("text", parameter)
+        insist(f"the keyboard in the value of {parameter}",
+               lambda: click(program.cell("Edit parameter", 0, 1), times=2),
+               lambda: program.focused == ("text", parameter))
         type_text(value)
 
     def test_finds_a_unit_and_changes_where_it_sends(self):

@@ -36,6 +36,25 @@ def wait_for(what, condition):
         time.sleep(0.02)
 
 
+def insist(what, act, condition):
+    """Acts once every three seconds until the condition holds.
+
+    On a slow machine two clicks may be too far apart for a double click, a key may come before the
+    window listens to it, and a button takes no click while what it moves is still moving.
+    """
+    due = time.monotonic()
+
+    def comes_true():
+        nonlocal due
+        if condition():
+            return True
+        if time.monotonic() >= due:
+            act()
+            due = time.monotonic() + 3.0
+        return False
+    wait_for(what, comes_true)
+
+
 def children(accessible):
     found = [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
     return [child for child in found if child is not None]

@@ -3,7 +3,7 @@
 import os
 import unittest
 
-from desktop import Application, everything_in, perform, place_of, states, wait_for
+from desktop import Application, everything_in, insist, perform, place_of, states
 
 SCREEN = tuple(int(length) for length in os.environ["KX_SCREEN"].split("x"))
 
@@ -38,8 +38,8 @@ class TheWindowOnASmallScreen(unittest.TestCase):
         self.assertTrue(is_inside(place_of(log), (0, 0, *SCREEN)))
         self.assertGreaterEqual(place_of(log)[3] - place_of(log)[1], 60)  # three lines
         self.expect_everything_in_sight()
-        perform(program.button("Event Log"), "Press")
-        wait_for("the window as it was", lambda: place_of(program.window) == closed)
+        insist("the window as it was", lambda: perform(program.button("Event Log"), "Press"),
+               lambda: place_of(program.window) == closed)
 
 
 if __name__ == "__main__":
