@@ -12,7 +12,7 @@ import sys
 import time
 import unittest
 
-from desktop import Application, click, place_of, press, states, text_of, type_text, wait_for
+from desktop import Application, click, insist, press, type_text, wait_for
 
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 sys.path.insert(0, str(ROOT / "Tests/help"))
@@ -52,8 +52,9 @@ class ByTheHelpBook(unittest.TestCase):
         click(program.cell("Unit parameters", names.index(parameter), 0))
         wait_for(f"{parameter} in the edit row",
                  lambda: program.rows_of("Edit parameter")[0][0] == parameter)
-        click(program.cell("Edit parameter", 0, 1), times=2)
-        program.wait_for_focus("text", parameter)
+        insist(f"the keyboard in the value of {parameter}",
+               lambda: click(program.cell("Edit parameter", 0, 1), times=2),
+               lambda: program.focused == ("text", parameter))
         type_text(value)
 
     def test_finds_a_unit_and_changes_where_it_sends(self):
@@ -95,12 +96,11 @@ class ByTheHelpBook(unittest.TestCase):
 
         self.read("first-steps.html", "Press Event Log.")
         click(program.button("Event Log"))
-        log = program.field("Event log text")
-        wait_for("the log", lambda: "showing" in states(log) and "IdT0DC1" in text_of(log))
-        self.read("no-answer.html", "choose the one that leads to the units, even if it stands there already")
-        self.assertIn("Request unit parameters with address: 192.0.2.255", text_of(log).split("\n"))
-        wait_for("the log at rest", lambda: place_of(log)[3] < place_of(program.window)[3])
+        lines = program.wait_for_log()
         self.picture("log")
+        self.assertIn("Send to: 192.0.2.12 command: ^^IdT0DC1", lines)
+        self.read("no-answer.html", "choose the one that leads to the units, even if it stands there already")
+        self.assertIn("Request unit parameters with address: 192.0.2.255", lines)
 
     def test_changes_the_port_on_which_a_unit_listens(self):
         program = self.program

@@ -36,6 +36,25 @@ def wait_for(what, condition):
         time.sleep(0.02)
 
 
+def insist(what, act, condition):
+    """Acts once every three seconds until the condition holds.
+
+    On a slow machine two clicks may be too far apart for a double click, a key may come before the
+    window listens to it, and a button takes no click while what it moves is still moving.
+    """
+    due = time.monotonic()
+
+    def comes_true():
+        nonlocal due
+        if condition():
+            return True
+        if time.monotonic() >= due:
+            act()
+            due = time.monotonic() + 3.0
+        return False
+    wait_for(what, comes_true)
+
+
 def children(accessible):
     found = [accessible.get_child_at_index(index) for index in range(accessible.get_child_count())]
     return [child for child in found if child is not None]
@@ -177,8 +196,18 @@ class Application:
     def open_log(self):
         """Opens the event log, and returns its lines."""
         perform(self.button("Event Log"), "Press")
+        return self.wait_for_log()
+
+    def wait_for_log(self):
+        """Waits until the event log has slid out, and returns its lines."""
         log = self.field("Event log text")
         wait_for("the event log", lambda: "showing" in states(log) and text_of(log))
+
+        def is_at_rest():
+            window, place = place_of(self.window), place_of(log)
+            # It is then as far from the lower edge as from the one at its side.
+            return window[3] - place[3] == place[0] - window[0]
+        wait_for("the event log at rest", is_at_rest)
         return text_of(log).split("\n")
 
     def choose(self, label, title):

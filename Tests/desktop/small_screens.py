@@ -3,7 +3,7 @@
 import os
 import unittest
 
-from desktop import Application, everything_in, perform, place_of, states, wait_for
+from desktop import Application, everything_in, insist, perform, place_of, states
 
 SCREEN = tuple(int(length) for length in os.environ["KX_SCREEN"].split("x"))
 
@@ -35,12 +35,11 @@ class TheWindowOnASmallScreen(unittest.TestCase):
         closed = place_of(program.window)
         program.open_log()
         log = program.field("Event log text")
-        wait_for("a log of at least three lines",
-                 lambda: place_of(log)[3] - place_of(log)[1] >= 60)
-        wait_for("the drawer at rest", lambda: is_inside(place_of(log), (0, 0, *SCREEN)))
+        self.assertTrue(is_inside(place_of(log), (0, 0, *SCREEN)))
+        self.assertGreaterEqual(place_of(log)[3] - place_of(log)[1], 60)  # three lines
         self.expect_everything_in_sight()
-        perform(program.button("Event Log"), "Press")
-        wait_for("the window as it was", lambda: place_of(program.window) == closed)
+        insist("the window as it was", lambda: perform(program.button("Event Log"), "Press"),
+               lambda: place_of(program.window) == closed)
 
 
 if __name__ == "__main__":

@@ -3,8 +3,8 @@
 import os
 import unittest
 
-from desktop import (Application, Atspi, children, everything_in, label_of, perform, press, states, text_of,
-                     type_text, wait_for)
+from desktop import (Application, Atspi, children, everything_in, insist, label_of, perform, press,
+                     states, text_of, type_text, wait_for)
 
 PARAMETERS_OF_THE_SECOND_UNIT = [
     ["destination IP address", "192.0.2.1"],
@@ -54,8 +54,8 @@ class TheWindow(unittest.TestCase):
         program.discover(3)
         self.assertEqual(program.pop_up("Unit:").get_name(), "4B 58 00 00 00 01")
 
-        press("Alt+n")
-        program.wait_for_focus("combo box", "Unit:")
+        insist("the keyboard in the list of units", lambda: press("Alt+n"),
+               lambda: program.focused == ("combo box", "Unit:"))
         press("Down")
         wait_for("the second unit", lambda: text_of(program.field("Unit ID:")) == "U00002")
         self.assertEqual(program.rows_of("Unit parameters"), PARAMETERS_OF_THE_SECOND_UNIT)
