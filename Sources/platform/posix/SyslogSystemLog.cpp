@@ -33,8 +33,13 @@ std::string lineHead() {
     ::localtime_r(&now, &local);
     std::array<char, 32> time{};
     std::strftime(time.data(), time.size(), "%e %H:%M:%S ", &local);
-    return "<" + std::to_string(LOG_USER | LOG_NOTICE) + ">" +
-           months.at(static_cast<std::size_t>(local.tm_mon)) + " " + time.data();
+    std::string head = "<";
+    head += std::to_string(LOG_USER | LOG_NOTICE);
+    head += '>';
+    head += months.at(static_cast<std::size_t>(local.tm_mon));
+    head += ' ';
+    head += time.data();
+    return head;
 }
 
 // As much as standard error takes at once. A pipe that can be written to has room for PIPE_BUF
