@@ -10,7 +10,6 @@ using namespace std::chrono_literals;
 void KXConfigAppDelegate::discoverButton() {
     const auto port = integerValue(_outlets.udpPortPopUp->titleOfSelectedItem().value_or(""));
     logText.clear();
-    logText.shrink_to_fit(); // it may have been long
     _outlets.logTextView->setString("");
     appendMessage("[Begin Discover]");
     _outlets.unitSelectPopUp->removeAllItems();

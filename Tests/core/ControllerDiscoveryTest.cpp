@@ -52,12 +52,6 @@ TEST_F(ControllerDiscovery, EmptiesTheLogBeforeTheFirstEntry) {
     EXPECT_EQ(window.logTextView.text(), controller.eventLog());
 }
 
-TEST_F(ControllerDiscovery, GivesTheMemoryOfALongLogBack) {
-    controller.appendString(std::string(1'000'000, '\n'));
-    controller.discoverButton();
-    EXPECT_LT(controller.eventLog().capacity(), 10'000U);
-}
-
 TEST_F(ControllerDiscovery, EmptiesTheViewOfTheLogAlsoWhileTheDrawerIsClosed) {
     window.eventLogDrawer.setState(DrawerState::closed);
     window.logTextView.setString("shown before");
