@@ -6,7 +6,8 @@
 #include <QFile>
 
 // Only a program that the address sanitizer was built into has it.
-extern "C" __attribute__((weak)) std::size_t __sanitizer_get_current_allocated_bytes();
+extern "C" __attribute__((weak)) std::size_t
+__sanitizer_get_current_allocated_bytes(); // NOLINT(bugprone-reserved-identifier)
 
 namespace kx {
 

@@ -123,7 +123,7 @@ void Soak::edit() {
                                         "destination Port number", "device Port number",
                                         "internal IP address",     "internal MAC address",
                                         "serial number",           "unit ID"};
-    const QString parameter = parameters[below(static_cast<int>(parameters.size()))];
+    const QString& parameter = parameters[below(static_cast<int>(parameters.size()))];
     const QString value = newValue(parameter);
     const int row = _driver.rowOfParameter(parameter);
     if (row < 0) {

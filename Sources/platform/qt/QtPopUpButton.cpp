@@ -41,9 +41,10 @@ std::vector<std::string> withoutRepetitions(std::vector<std::string> titles) {
     }
     std::vector<std::string> kept;
     std::unordered_set<std::string> known;
-    for (auto title = titles.rbegin(); title != titles.rend(); ++title) {
-        if (known.insert(*title).second) {
-            kept.push_back(std::move(*title));
+    std::ranges::reverse(titles);
+    for (std::string& title : titles) {
+        if (known.insert(title).second) {
+            kept.push_back(std::move(title));
         }
     }
     std::ranges::reverse(kept);
@@ -56,6 +57,7 @@ QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
     : _comboBox(comboBox) {
     const QString selected = comboBox.currentText();
     std::vector<std::string> titles;
+    titles.reserve(static_cast<std::size_t>(comboBox.count()));
     for (int index = 0; index < comboBox.count(); ++index) {
         titles.push_back(utf8Text(comboBox.itemText(index)));
     }
