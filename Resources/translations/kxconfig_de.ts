@@ -472,6 +472,11 @@
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Administratorrechte wurden nicht erteilt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
         <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Ausführung des ARP-Programms wurde verweigert.</translation>
     </message>
@@ -484,11 +489,6 @@
         <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
         <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm lässt sich nicht ausführen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Administratorrechte wurden nicht erteilt.</translation>
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
@@ -512,8 +512,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>Help could not be opened in a web browser. To read it here, hold the Alt key while you press Help.</source>
-        <translation>Die Hilfe konnte nicht im Webbrowser geöffnet werden. Um sie hier zu lesen, halten Sie die Alt-Taste gedrückt, während Sie auf „Hilfe“ klicken.</translation>
+        <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
+        <translation>Die Hilfe konnte nicht im Webbrowser geöffnet werden. Um sie hier zu lesen, drücken Sie Alt+Umschalt+F1.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
@@ -651,6 +651,16 @@ Befehl empfangen: ^^%@ Geräte-ID:%@ Seriennummer:%@ Inhalt:%@</translation>
 Received command: ^^%@</source>
         <translation>
 Befehl empfangen: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>

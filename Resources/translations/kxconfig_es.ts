@@ -472,6 +472,11 @@
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>No se creó ninguna entrada ARP para %@: no se concedieron derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
         <translation>No se creó ninguna entrada ARP para %@: se denegó la ejecución de la herramienta ARP.</translation>
     </message>
@@ -484,11 +489,6 @@
         <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
         <translation>No se creó ninguna entrada ARP para %@: no se puede ejecutar la herramienta ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>No se creó ninguna entrada ARP para %@: no se concedieron derechos de administrador.</translation>
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
@@ -512,8 +512,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>Help could not be opened in a web browser. To read it here, hold the Alt key while you press Help.</source>
-        <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, mantenga pulsada la tecla Alt mientras pulsa «Ayuda».</translation>
+        <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
+        <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, pulse Alt+Mayús+F1.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
@@ -651,6 +651,16 @@ Orden recibida: ^^%@ identificador:%@ número de serie:%@ contenido:%@</translat
 Received command: ^^%@</source>
         <translation>
 Orden recibida: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>

@@ -472,6 +472,11 @@
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : les droits d’administrateur n’ont pas été accordés.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
         <translation>Aucune entrée ARP n’a été créée pour %@ : l’exécution de l’outil ARP a été refusée.</translation>
     </message>
@@ -484,11 +489,6 @@
         <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
         <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP ne peut pas être exécuté.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : les droits d’administrateur n’ont pas été accordés.</translation>
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
@@ -512,8 +512,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>Help could not be opened in a web browser. To read it here, hold the Alt key while you press Help.</source>
-        <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, maintenez la touche Alt enfoncée en appuyant sur « Aide ».</translation>
+        <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
+        <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, appuyez sur Alt+Maj+F1.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
@@ -651,6 +651,16 @@ Commande reçue : ^^%@ identifiant:%@ numéro de série:%@ contenu:%@</translat
 Received command: ^^%@</source>
         <translation>
 Commande reçue : ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>

@@ -472,6 +472,11 @@
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限が与えられませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
         <translation>%@ の ARP エントリは作成されませんでした: ARP ツールの実行が拒否されました。</translation>
     </message>
@@ -484,11 +489,6 @@
         <location filename="../../Sources/EditReport.cpp"/>
         <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
         <translation>%@ の ARP エントリは作成されませんでした: ARP ツールを実行できません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限が与えられませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/EditReport.cpp"/>
@@ -512,8 +512,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>Help could not be opened in a web browser. To read it here, hold the Alt key while you press Help.</source>
-        <translation>ヘルプをウェブブラウザーで開けませんでした。ここで読むには、Alt キーを押しながら「ヘルプ」を押してください。</translation>
+        <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
+        <translation>ヘルプをウェブブラウザーで開けませんでした。ここで読むには、Alt+Shift+F1 キーを押してください。</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
@@ -651,6 +651,16 @@ Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
 Received command: ^^%@</source>
         <translation>
 受信コマンド: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>

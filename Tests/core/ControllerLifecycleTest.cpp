@@ -246,8 +246,8 @@ TEST_F(ControllerLifecycle, HelpThatDoesNotOpenSaysHowToReadIt) {
     launch();
     helpOpens = false;
     controller.myHelp();
-    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, hold the "
-                           "Alt key while you press Help.");
+    EXPECT_EQ(quietLine(), "Help could not be opened in a web browser. To read it here, press "
+                           "Alt+Shift+F1.");
     helpOpens = true;
     controller.myHelp();
     EXPECT_EQ(quietLine(), "");

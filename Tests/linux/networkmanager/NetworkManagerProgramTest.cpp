@@ -52,7 +52,7 @@ TEST_F(NetworkManagerProgram, ThePopUpNamesKindsWhileNetworkManagerHangs) {
 
 TEST_F(NetworkManagerProgram, AtRestItSleeps) {
     EXPECT_EQ(QProcess::execute(KX_LAB_TESTS "/the_application_at_rest_sleeps.sh",
-                                {"no-probe", KX_APPLICATION}),
+                                {"closed", KX_APPLICATION}),
               0);
 }
 
