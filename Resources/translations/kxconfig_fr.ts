@@ -655,12 +655,12 @@ Commande reçue : ^^%@</translation>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
         <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
+        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
+        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
