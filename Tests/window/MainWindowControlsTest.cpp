@@ -75,36 +75,6 @@ TEST_F(MainWindowTest, TheDrawerHoldsTheLogInItsScrollView) {
     EXPECT_TRUE(scrollView.isAncestorOf(&control<LogTextView>("logTextView")));
 }
 
-TEST_F(MainWindowTest, TabVisitsTheControlsFromTopToBottom) {
-    launchWithTwoUnits();
-    click("logDrawerButton");
-    ASSERT_TRUE(drawerComesToRest());
-    control<QWidget>("interfacePopUp").setFocus();
-    std::vector<std::string> visited;
-    for (int step = 0; step < 16; ++step) {
-        visited.push_back(window.focusWidget()->objectName().toStdString());
-        press(Qt::Key_Tab);
-    }
-    const std::vector<std::string> expected = {"interfacePopUp",
-                                               "udpPortPopUp",
-                                               "discoverButton",
-                                               "unitSelectPopUp",
-                                               "unitIDField",
-                                               "reloadButton",
-                                               "unitParameterTableView",
-                                               "editParameterTableView",
-                                               "applyButton",
-                                               "optionCommandPopUp",
-                                               "optionCommandField",
-                                               "sendOptionButton",
-                                               "restoreButton",
-                                               "logDrawerButton",
-                                               "helpButton",
-                                               "logTextView"};
-    EXPECT_EQ(visited, expected);
-    EXPECT_EQ(window.focusWidget()->objectName().toStdString(), "interfacePopUp");
-}
-
 TEST_F(MainWindowTest, PortsAndOptionsAreThoseOfTheInterfaceDescription) {
     launch();
     const auto titles = [&](const char* popUp) {
