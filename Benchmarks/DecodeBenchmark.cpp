@@ -83,9 +83,14 @@ void decodePlainly(benchmark::State& state) {
 }
 BENCHMARK(decodePlainly);
 
+// With names, as the application decodes for its log.
 void decode(benchmark::State& state) {
+    ShownParameterNames names;
+    for (const UnitParameter parameter : allUnitParameters) {
+        names[static_cast<std::size_t>(parameter)] = nameOfUnitParameter(parameter);
+    }
     for (auto _ : state) {
-        benchmark::DoNotOptimize(decodeUnitParameters(parameterList));
+        benchmark::DoNotOptimize(decodeUnitParameters(parameterList, &names));
     }
 }
 BENCHMARK(decode);

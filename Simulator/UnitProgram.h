@@ -8,8 +8,7 @@ namespace kx::simulator {
 
 // Plays the units that `line` describes until SIGINT or SIGTERM, then writes their final states.
 // On SIGUSR1 the faults and the flood end, on SIGUSR2 the units' states are recorded. Blocks these
-// signals for the process. Throws std::system_error when the link or the record cannot
-// be used.
+// signals for the process. Throws std::system_error when the link or the record cannot be used.
 void playUnits(const CommandLine& line);
 
 } // namespace kx::simulator

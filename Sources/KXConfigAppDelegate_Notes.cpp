@@ -59,6 +59,7 @@ bool KXConfigAppDelegate::showFailedSend() {
 }
 
 void KXConfigAppDelegate::showMessage(std::string_view message) {
+    showNote({}); // the same message again is a new one, and a screen reader says so
     showNote(message);
     _messageStands = !message.empty();
 }

@@ -81,6 +81,20 @@ TEST_F(MainWindowSpeech, OfTextsThatFollowEachOtherTheLastIsSaid) {
     EXPECT_EQ(heard().size(), 1U);
 }
 
+TEST_F(MainWindowSpeech, ATextThatIsSetAgainWhereItStandsIsNotSaidAgain) {
+    SpokenLabel label;
+    SpokenLabel later;
+    label.show();
+    later.show();
+    const ScreenReader listening(&hear);
+    label.say("a note");
+    ASSERT_TRUE(hears("a note"));
+    label.say("a note");
+    later.say("another");
+    EXPECT_TRUE(hears("another"));
+    EXPECT_EQ(heard().size(), 2U);
+}
+
 TEST_F(MainWindowSpeech, ATextThatGoesIsNotSaid) {
     SpokenLabel label;
     SpokenLabel later;

@@ -7,6 +7,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QVariant>
+#include <algorithm>
 #include <utility>
 
 namespace kx {
@@ -17,6 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds firstPatience{750};
 constexpr std::chrono::seconds timeBetweenTries{1};
+constexpr int restAfterATry = 8; // times as long as the try took
 
 constexpr auto service = "org.freedesktop.NetworkManager";
 constexpr auto rootPath = "/org/freedesktop";
@@ -50,7 +52,7 @@ NetworkManagerProfiles::~NetworkManagerProfiles() = default;
 const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
     if (!_bus->isOpen()) {
         forget();
-        if (Clock::now() - _lastTry >= timeBetweenTries) {
+        if (Clock::now() >= _nextTry) {
             connectToBus();
         }
     }
@@ -63,9 +65,11 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
 }
 
 void NetworkManagerProfiles::connectToBus() {
-    _lastTry = Clock::now();
+    const auto begin = Clock::now();
     _bus = std::make_unique<SystemBus>([this](const QDBusMessage& signal) { hear(signal); },
                                        firstPatience);
+    const auto end = Clock::now();
+    _nextTry = end + std::max<Clock::duration>(timeBetweenTries, restAfterATry * (end - begin));
     if (!_bus->isOpen()) {
         return;
     }

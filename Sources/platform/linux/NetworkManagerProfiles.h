@@ -7,8 +7,8 @@
 //
 // Without a bus, or with one that has stopped when it is to be reached, there are no profiles.
 // Nobody tells when a bus comes, so each time that the profiles are asked for is a try to reach
-// one, though not more than one a second. At rest nothing
-// wakes up, with a bus or without.
+// one, though not more than one a second, and none for six seconds after one that a stopped bus has
+// held up. At rest nothing wakes up, with a bus or without.
 //
 // Threading: the main thread only, which needs a QCoreApplication whose event loop runs.
 
@@ -61,7 +61,7 @@ private:
     void setProfiles(std::vector<ConnectionProfile> profiles);
 
     std::unique_ptr<SystemBus> _bus;
-    std::chrono::steady_clock::time_point _lastTry; // to reach a bus
+    std::chrono::steady_clock::time_point _nextTry; // to reach a bus, at the earliest
     Call _reading;                                  // the call that is under way, or null
     bool _isFirstReading = false;                   // on this bus; it ends by itself
     bool _isOutdated = false;                       // what that call will tell

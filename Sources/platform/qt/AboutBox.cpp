@@ -3,7 +3,6 @@
 #include "platform/qt/QtText.h"
 
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QIcon>
 #include <QMessageBox>
 
@@ -23,8 +22,8 @@ void showAboutBox(QWidget& window) {
         box->setObjectName(boxName);
         box->setAttribute(Qt::WA_DeleteOnClose);
         box->setWindowTitle(localizedQtText("About KXConfig"));
-        box->setIconPixmap(QIcon::fromTheme(QGuiApplication::desktopFileName())
-                               .pixmap(QSize(iconSize, iconSize), box->devicePixelRatioF()));
+        box->setIconPixmap(
+            window.windowIcon().pixmap(QSize(iconSize, iconSize), box->devicePixelRatioF()));
         box->setTextFormat(Qt::PlainText);
         box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         box->setText(qtText(

@@ -1,8 +1,8 @@
 // The translations for the person at the program: its own texts, and those of Qt, such as the
 // buttons of message boxes.
 //
-// The program carries its own in itself. Qt's are used where the system has them. Both are of one
-// language, so that a window never mixes two.
+// The program carries its own in itself. Qt's are used where the system has them, in the same
+// language; where it has not, the buttons of message boxes stay English.
 //
 // Needs a QCoreApplication, and must be destroyed before it. Main thread only.
 

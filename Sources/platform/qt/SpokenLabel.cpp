@@ -39,6 +39,9 @@ SpokenLabel::SpokenLabel(QWidget* parent)
 }
 
 void SpokenLabel::say(const QString& text) {
+    if (text == this->text()) {
+        return;
+    }
     setText(text);
     _rest.stop();
     if (QAccessible::isActive() && !text.isEmpty()) {

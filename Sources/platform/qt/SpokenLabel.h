@@ -19,7 +19,8 @@ class SpokenLabel : public QLabel {
 public:
     explicit SpokenLabel(QWidget* parent = nullptr);
 
-    // Shows the text, as it is and not as markup. A text that stands there already is said again.
+    // Shows the text, as it is and not as markup. A text that stands there already is not said
+    // again, unless it has been taken away in between.
     void say(const QString& text);
 
 protected:

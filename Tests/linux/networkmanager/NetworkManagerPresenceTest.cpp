@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -184,6 +186,19 @@ TEST_F(NetworkManagerPresence, ABusThatHangsHoldsNobodyUp) {
               atOnce);
     host.bus->goOn();
     namesBecome(both);
+}
+
+TEST_F(NetworkManagerPresence, ABusThatHangsIsLeftAloneForAWhile) {
+    constexpr auto patience = 750ms;
+    host.start();
+    host.bus->hang();
+    profiles.emplace();
+    auto shortest = timeOf([&] { EXPECT_EQ(names(), Names()); });
+    for (int i = 0; i < 3; ++i) {
+        std::this_thread::sleep_for(1100ms); // a bus that is not there would be tried again
+        shortest = std::min(shortest, timeOf([&] { EXPECT_EQ(names(), Names()); }));
+    }
+    EXPECT_LT(shortest, patience);
 }
 
 // The system call that connects waits for a place in the queue of such a bus.
