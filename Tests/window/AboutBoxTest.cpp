@@ -2,6 +2,7 @@
 
 #include "InLanguage.h"
 #include "MainWindowFixture.h"
+#include "platform/qt/ApplicationIcon.h"
 
 #include <QAction>
 #include <QApplication>
@@ -38,6 +39,13 @@ TEST_F(AboutBoxTest, ItSaysWhatTheProgramIsAndWhichVersionRuns) {
     EXPECT_EQ(box->informativeText(), "Finds and configures small networked units over UDP.\n\n"
                                       "Qt " +
                                           QString(qVersion()));
+}
+
+TEST_F(AboutBoxTest, ItShowsThePictureOfTheWindow) {
+    window.setWindowIcon(applicationIcon());
+    const QMessageBox* const box = openBox();
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(box->iconPixmap().deviceIndependentSize(), QSizeF(64, 64));
 }
 
 TEST_F(AboutBoxTest, TheMenuEntryHasTheRoleThatDesktopsKnow) {
