@@ -1,10 +1,10 @@
 // The host's system log, by the socket on which its daemon takes lines, with a copy on standard
 // error for whoever started the program from a terminal.
 //
-// Not syslog(3), which waits for a daemon that has stopped reading. Here a line for which the log has
-// no room is lost. Standard error gets as much of it as the system says that there is room for; only
-// a terminal that has stopped reading may say so and then hold a long line up. A log that is not
-// there, ends or comes back is tried again with each line.
+// Not syslog(3), which waits for a daemon that has stopped reading. Here a line for which the log
+// has no room is lost. Standard error gets as much of it as the system says that there is room for;
+// only a terminal that has stopped reading may say so and then hold a long line up. A log that is
+// not there, ends or comes back is tried again with each line.
 
 #pragma once
 
