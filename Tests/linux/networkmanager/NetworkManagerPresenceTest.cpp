@@ -193,7 +193,7 @@ TEST_F(NetworkManagerPresence, ABusThatHangsIsLeftAloneForAWhile) {
     host.start();
     host.bus->hang();
     profiles.emplace();
-    auto shortest = timeOf([&] { EXPECT_EQ(names(), Names()); });
+    auto shortest = std::chrono::milliseconds::max();
     for (int i = 0; i < 3; ++i) {
         std::this_thread::sleep_for(1100ms); // a bus that is not there would be tried again
         shortest = std::min(shortest, timeOf([&] { EXPECT_EQ(names(), Names()); }));
