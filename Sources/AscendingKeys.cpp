@@ -28,7 +28,7 @@ void AscendingKeys::add(std::string_view key) {
 
 // The lengths of the runs are the binary digits of their sum. From the shortest one on they become
 // one, which is as well the runs that it was. The longest one, mostly by far, is not touched.
-std::vector<std::string> AscendingKeys::list() {
+TitleList AscendingKeys::list() {
     std::size_t merged = _keys.size() % shortestRun;
     std::size_t rest = _keys.size() - merged;
     std::sort(_keys.begin() + static_cast<std::ptrdiff_t>(rest), _keys.end());
@@ -39,14 +39,14 @@ std::vector<std::string> AscendingKeys::list() {
         rest -= run;
     }
 
-    std::vector<std::string> texts;
-    texts.reserve(_keys.size());
+    TitleList texts;
+    texts.reserve(_keys.size(), _keys.size() * UnitRecord::longestText);
     auto left = _keys.cbegin();
     const auto middle = left + static_cast<std::ptrdiff_t>(rest);
     auto right = middle;
     while (left != middle || right != _keys.cend()) {
         const bool takesLeft = right == _keys.cend() || (left != middle && *left < *right);
-        texts.emplace_back((takesLeft ? left++ : right++)->text());
+        texts.push_back((takesLeft ? left++ : right++)->text());
     }
     return texts;
 }

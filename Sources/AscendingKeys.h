@@ -5,12 +5,12 @@
 
 #pragma once
 
+#include "TitleList.h"
 #include "UnitParameters.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -24,7 +24,7 @@ public:
     void add(std::string_view key);
 
     // Every key once, in ascending order.
-    std::vector<std::string> list();
+    TitleList list();
 
 private:
     class Key {

@@ -72,7 +72,7 @@ std::vector<std::string> KXConfigAppDelegate::currentInterfaceTitles() const {
 void KXConfigAppDelegate::listInterfaces(std::vector<std::string> titles) {
     auto& popUp = *_outlets.interfacePopUp;
     popUp.removeAllItems();
-    popUp.addItemsWithTitles(titles.empty() ? std::vector{localizedText("No configured interfaces")}
+    popUp.addItemsWithTitles(titles.empty() ? TitleList{localizedText("No configured interfaces")}
                                             : titles);
     popUp.setEnabled(!titles.empty());
     _interfaceTitles = std::move(titles);

@@ -10,10 +10,11 @@
 
 #pragma once
 
+#include "TitleList.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kx {
 
@@ -29,7 +30,7 @@ public:
     // Appends one item for each title, in order. No two items have equal titles: an item that
     // already has the title is replaced, and the new one stands at the end. When nothing was
     // selected, the first item becomes selected; otherwise the selected title stays selected.
-    virtual void addItemsWithTitles(std::vector<std::string> titles) = 0;
+    virtual void addItemsWithTitles(TitleList titles) = 0;
 
     // Does nothing when there is no such item.
     virtual void selectItemAtIndex(int index) = 0;

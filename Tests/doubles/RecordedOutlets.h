@@ -21,8 +21,8 @@ namespace kx {
 class RecordedPopUpButton final : public PopUpButton {
 public:
     RecordedPopUpButton() = default;
-    explicit RecordedPopUpButton(std::vector<std::string> titles) {
-        RecordedPopUpButton::addItemsWithTitles(std::move(titles));
+    explicit RecordedPopUpButton(const TitleList& titles) {
+        RecordedPopUpButton::addItemsWithTitles(titles);
     }
 
     void removeAllItems() override {
@@ -30,10 +30,10 @@ public:
         _selected.reset();
     }
 
-    void addItemsWithTitles(std::vector<std::string> titles) override {
-        for (auto& title : titles) {
+    void addItemsWithTitles(TitleList titles) override {
+        for (const std::string_view title : titles) {
             std::erase(_titles, title);
-            _titles.push_back(std::move(title));
+            _titles.emplace_back(title);
         }
         if (!_selected.has_value()) {
             selectItemAtIndex(0);

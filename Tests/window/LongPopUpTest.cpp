@@ -125,7 +125,7 @@ TEST_F(LongPopUpTest, AClickChoosesTheTitleBelowIt) {
 }
 
 TEST_F(LongPopUpTest, BelowTheLastTitleThereIsNothing) {
-    popUp.addItemsWithTitles({titles.begin(), titles.begin() + 100});
+    popUp.addItemsWithTitles(std::vector(titles.begin(), titles.begin() + 100));
     open();
     list().verticalScrollBar()->setValue(list().verticalScrollBar()->maximum());
     const QRect last = list().visualRect(item(99));

@@ -6,8 +6,10 @@
 #include <algorithm>
 #include <functional>
 #include <iterator>
+#include <ranges>
 #include <unordered_set>
 #include <utility>
+#include <vector>
 
 namespace kx {
 
@@ -30,25 +32,35 @@ public:
 };
 
 // Each title comes after the one before it, and so differs from every other one.
-bool isAscending(const std::vector<std::string>& titles) {
+bool isAscending(const TitleList& titles) {
     return std::ranges::adjacent_find(titles, std::ranges::greater_equal()) == titles.end();
 }
 
 // The last one of equal titles is the one that stays.
-std::vector<std::string> withoutRepetitions(std::vector<std::string> titles) {
-    if (isAscending(titles)) {
-        return titles;
-    }
-    std::vector<std::string> kept;
-    std::unordered_set<std::string> known;
-    std::ranges::reverse(titles);
-    for (std::string& title : titles) {
+TitleList withoutRepetitions(const TitleList& titles) {
+    std::vector<std::string_view> kept;
+    std::unordered_set<std::string_view> known;
+    for (const std::string_view title : titles | std::views::reverse) {
         if (known.insert(title).second) {
-            kept.push_back(std::move(title));
+            kept.push_back(title);
         }
     }
-    std::ranges::reverse(kept);
-    return kept;
+    TitleList list;
+    list.append(kept | std::views::reverse);
+    return list;
+}
+
+// Both lists are in order as a rule, and then compared in one pass.
+TitleList joined(const TitleList& titles, const TitleList& added) {
+    TitleList all;
+    if (isAscending(titles) && isAscending(added)) {
+        std::ranges::set_difference(titles, added, std::back_inserter(all));
+        all.append(added);
+        return all;
+    }
+    all.append(titles);
+    all.append(added);
+    return withoutRepetitions(all);
 }
 
 } // namespace
@@ -56,15 +68,12 @@ std::vector<std::string> withoutRepetitions(std::vector<std::string> titles) {
 QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
     : _comboBox(comboBox) {
     const QString selected = comboBox.currentText();
-    std::vector<std::string> titles;
-    titles.reserve(static_cast<std::size_t>(comboBox.count()));
+    TitleList titles;
     for (int index = 0; index < comboBox.count(); ++index) {
         titles.push_back(utf8Text(comboBox.itemText(index)));
     }
     comboBox.setModel(&_model);
-    titles = withoutRepetitions(std::move(titles));
-    const bool areAscending = isAscending(titles);
-    showTitles(std::move(titles), areAscending, utf8Text(selected));
+    showTitles(joined({}, titles), utf8Text(selected));
 }
 
 QtPopUpButton::~QtPopUpButton() {
@@ -74,43 +83,21 @@ QtPopUpButton::~QtPopUpButton() {
 }
 
 void QtPopUpButton::removeAllItems() {
-    showTitles({}, true, {});
+    showTitles({}, {});
 }
 
-void QtPopUpButton::addItemsWithTitles(std::vector<std::string> titles) {
+void QtPopUpButton::addItemsWithTitles(TitleList titles) {
     const auto selected = titleOfSelectedItem();
-    bool areAscending = isAscending(titles);
-    if (!areAscending) {
-        titles = withoutRepetitions(std::move(titles));
+    if (_model.rowCount() > 0 || !isAscending(titles)) {
+        titles = joined(_model.titles(), titles);
     }
-    if (_model.rowCount() > 0) {
-        std::vector<std::string> all = titlesBut(titles, areAscending);
-        std::ranges::move(titles, std::back_inserter(all));
-        titles = std::move(all);
-        areAscending = isAscending(titles);
-    }
-    const std::string first = titles.empty() ? std::string() : titles.front();
-    showTitles(std::move(titles), areAscending, selected.value_or(first));
-}
-
-// Both lists are in order as a rule, and then compared in one pass.
-std::vector<std::string> QtPopUpButton::titlesBut(const std::vector<std::string>& unwanted,
-                                                  bool areAscending) const {
-    const std::vector<std::string>& titles = _model.titles();
-    std::vector<std::string> kept;
-    if (_isAscending && areAscending) {
-        std::ranges::set_difference(titles, unwanted, std::back_inserter(kept));
-        return kept;
-    }
-    const std::unordered_set<std::string_view> known(unwanted.begin(), unwanted.end());
-    std::ranges::copy_if(titles, std::back_inserter(kept),
-                         [&](const std::string& title) { return !known.contains(title); });
-    return kept;
+    const std::string first(titles.empty() ? "" : titles[0]);
+    showTitles(std::move(titles), selected.value_or(first));
 }
 
 int QtPopUpButton::indexOf(std::string_view title) const {
-    const std::vector<std::string>& titles = _model.titles();
     if (_isAscending) {
+        const TitleList& titles = _model.titles();
         const auto place = std::ranges::lower_bound(titles, title);
         const bool isThere = place != titles.end() && *place == title;
         return isThere ? static_cast<int>(place - titles.begin()) : -1;
@@ -119,13 +106,12 @@ int QtPopUpButton::indexOf(std::string_view title) const {
     return found != _indexOfTitle.end() ? found->second : -1;
 }
 
-void QtPopUpButton::showTitles(std::vector<std::string> titles, bool areAscending,
-                               std::string_view selected) {
+void QtPopUpButton::showTitles(TitleList titles, std::string_view selected) {
     _indexOfTitle.clear(); // it looks into the titles that go
     _model.setTitles(std::move(titles));
-    _isAscending = areAscending;
+    _isAscending = isAscending(_model.titles());
     if (!_isAscending) {
-        for (const std::string& title : _model.titles()) {
+        for (const std::string_view title : _model.titles()) {
             _indexOfTitle.emplace(title, static_cast<int>(_indexOfTitle.size()));
         }
     }

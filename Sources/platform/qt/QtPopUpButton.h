@@ -25,17 +25,15 @@ public:
     QtPopUpButton& operator=(const QtPopUpButton&) = delete;
 
     void removeAllItems() override;
-    void addItemsWithTitles(std::vector<std::string> titles) override;
+    void addItemsWithTitles(TitleList titles) override;
     void selectItemAtIndex(int index) override;
     void selectItemWithTitle(std::string_view title) override;
     std::optional<std::string> titleOfSelectedItem() const override;
     void setEnabled(bool enabled) override;
 
 private:
-    std::vector<std::string> titlesBut(const std::vector<std::string>& unwanted,
-                                       bool areAscending) const;
     int indexOf(std::string_view title) const;
-    void showTitles(std::vector<std::string> titles, bool areAscending, std::string_view selected);
+    void showTitles(TitleList titles, std::string_view selected);
     void prepareForLongList();
 
     QComboBox& _comboBox;

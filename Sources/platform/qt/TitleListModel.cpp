@@ -2,11 +2,24 @@
 
 #include "platform/qt/QtText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kx {
 
-void TitleListModel::setTitles(std::vector<std::string> titles) {
+namespace {
+
+bool startsWith(std::string_view title, const QString& text) {
+    const bool isASCII = std::ranges::none_of(
+        title, [](char character) { return (static_cast<unsigned char>(character) & 0x80) != 0; });
+    return isASCII ? QLatin1StringView(title.data(), static_cast<qsizetype>(title.size()))
+                         .startsWith(text, Qt::CaseInsensitive)
+                   : qtText(title).startsWith(text, Qt::CaseInsensitive);
+}
+
+} // namespace
+
+void TitleListModel::setTitles(TitleList titles) {
     beginResetModel();
     _titles = std::move(titles);
     endResetModel();
@@ -22,6 +35,23 @@ QVariant TitleListModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     return qtText(_titles[static_cast<std::size_t>(index.row())]);
+}
+
+QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const QVariant& value,
+                                      int hits, Qt::MatchFlags flags) const {
+    const bool isTyped =
+        role == Qt::DisplayRole && hits == 1 && flags == (Qt::MatchStartsWith | Qt::MatchWrap);
+    if (!isTyped || !checkIndex(start, CheckIndexOption::IndexIsValid)) {
+        return QAbstractListModel::match(start, role, value, hits, flags);
+    }
+    const QString text = value.toString();
+    for (int distance = 0; distance < rowCount(); ++distance) {
+        const int row = (start.row() + distance) % rowCount();
+        if (startsWith(_titles[static_cast<std::size_t>(row)], text)) {
+            return {index(row)};
+        }
+    }
+    return {};
 }
 
 } // namespace kx

@@ -3,22 +3,27 @@
 
 #pragma once
 
+#include "TitleList.h"
+
 #include <QAbstractListModel>
-#include <string>
-#include <vector>
 
 namespace kx {
 
 class TitleListModel final : public QAbstractListModel {
 public:
-    const std::vector<std::string>& titles() const { return _titles; }
-    void setTitles(std::vector<std::string> titles);
+    const TitleList& titles() const { return _titles; }
+    void setTitles(TitleList titles);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
+    // As the base class has it; what a person types into a list is found without a text of Qt's for
+    // each title on the way.
+    QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
+                          Qt::MatchFlags flags) const override;
+
 private:
-    std::vector<std::string> _titles;
+    TitleList _titles;
 };
 
 } // namespace kx

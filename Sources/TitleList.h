@@ -1,0 +1,118 @@
+// The titles of a pop-up, in order, as texts in UTF-8 that stand one behind the other in memory: a
+// list of a million short titles takes two blocks and no more bytes than it needs, where a text of
+// its own for each of them is a million blocks.
+//
+// Any thread, one at a time. Copies are independent.
+
+#pragma once
+
+#include <cstddef>
+#include <initializer_list>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+class TitleList {
+public:
+    using value_type = std::string_view;
+
+    // Random access, with titles by value.
+    class const_iterator;
+
+    TitleList() = default;
+    TitleList(std::initializer_list<std::string_view> titles) { append(titles); }
+    TitleList(const std::vector<std::string>& titles) { append(titles); }
+
+    bool empty() const { return _ends.empty(); }
+    std::size_t size() const { return _ends.size(); }
+
+    // A view of the title at that index, from 0, valid until the list changes or is moved. There is
+    // such a title.
+    std::string_view operator[](std::size_t index) const {
+        const std::size_t start = index == 0 ? 0 : _ends[index - 1];
+        return std::string_view(_text).substr(start, _ends[index] - start);
+    }
+
+    const_iterator begin() const;
+    const_iterator end() const;
+
+    // Makes room for that many titles with that many bytes altogether. Contents stay as they are.
+    void reserve(std::size_t titles, std::size_t bytes);
+
+    // `title` is no part of this list.
+    void push_back(std::string_view title);
+
+    // Any range of texts that are no part of this list.
+    template<class Titles>
+    void append(const Titles& titles) {
+        for (const std::string_view title : titles) {
+            push_back(title);
+        }
+    }
+
+private:
+    std::string _text;
+    std::vector<std::size_t> _ends; // of each title within the text
+};
+
+class TitleList::const_iterator {
+public:
+    using iterator_concept = std::random_access_iterator_tag;
+    using iterator_category = std::input_iterator_tag; // of those that give references
+    using value_type = std::string_view;
+    using difference_type = std::ptrdiff_t;
+    using reference = std::string_view;
+    using pointer = void;
+
+    const_iterator() = default;
+    const_iterator(const TitleList& titles, std::size_t index)
+        : _titles(&titles)
+        , _index(static_cast<difference_type>(index)) {}
+
+    std::string_view operator*() const { return (*_titles)[static_cast<std::size_t>(_index)]; }
+    std::string_view operator[](difference_type distance) const { return *(*this + distance); }
+
+    const_iterator& operator+=(difference_type distance) {
+        _index += distance;
+        return *this;
+    }
+    const_iterator& operator-=(difference_type distance) { return *this += -distance; }
+    const_iterator& operator++() { return *this += 1; }
+    const_iterator& operator--() { return *this -= 1; }
+    const_iterator operator++(int) { return std::exchange(*this, *this + 1); }
+    const_iterator operator--(int) { return std::exchange(*this, *this - 1); }
+
+    friend const_iterator operator+(const_iterator place, difference_type distance) {
+        return place += distance;
+    }
+    friend const_iterator operator+(difference_type distance, const_iterator place) {
+        return place += distance;
+    }
+    friend const_iterator operator-(const_iterator place, difference_type distance) {
+        return place -= distance;
+    }
+    friend difference_type operator-(const const_iterator& left, const const_iterator& right) {
+        return left._index - right._index;
+    }
+
+    // Only those of one list are compared.
+    friend auto operator<=>(const const_iterator& left, const const_iterator& right) = default;
+
+private:
+    const TitleList* _titles = nullptr;
+    difference_type _index = 0;
+};
+
+inline TitleList::const_iterator TitleList::begin() const {
+    return {*this, 0};
+}
+
+inline TitleList::const_iterator TitleList::end() const {
+    return {*this, size()};
+}
+
+} // namespace kx
