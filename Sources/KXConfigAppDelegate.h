@@ -22,8 +22,8 @@
 #include "UDPEcho.h"
 #include "UnitParameters.h"
 #include "support/Authorization.h"
-#include "support/GrowingText.h"
 #include "support/InstanceNames.h"
+#include "support/LogText.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
@@ -213,7 +213,6 @@ private:
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
-    void showWholeLog();
     void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
     std::optional<UnitParameter> editedParameter() const;
     std::string editedValue() const;
@@ -243,7 +242,7 @@ private:
 
     std::vector<std::string> _interfaceTitles;   // what the pop-up offers
     std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
-    GrowingText logText;
+    LogText logText;
     std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.
     std::uint32_t localAddress = 0;

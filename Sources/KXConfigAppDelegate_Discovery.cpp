@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 void KXConfigAppDelegate::discoverButton() {
     const auto port = integerValue(_outlets.udpPortPopUp->titleOfSelectedItem().value_or(""));
     logText.clear();
-    _outlets.logTextView->setString("");
+    _outlets.logTextView->setString(logText);
     appendMessage("[Begin Discover]");
     _outlets.unitSelectPopUp->removeAllItems();
     restartListener(static_cast<std::size_t>(port));

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "TitleList.h"
+#include "support/LogText.h"
 
 #include <optional>
 #include <string>
@@ -79,7 +80,8 @@ class TextView {
 public:
     virtual ~TextView() = default;
 
-    virtual void setString(std::string_view text) = 0;
+    // However long the text is, it takes no time worth mentioning.
+    virtual void setString(const LogText& text) = 0;
 
     // Replaces the empty range at the end of the text.
     virtual void insertAtEnd(std::string_view text) = 0;

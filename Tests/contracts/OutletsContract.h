@@ -263,7 +263,7 @@ TYPED_TEST_P(TextViewContract, IsEmptyAtFirst) {
 }
 
 TYPED_TEST_P(TextViewContract, InsertsAtTheEndExactlyWhatItIsGiven) {
-    this->control().setString("[Begin Discover]");
+    this->control().setString(LogText("[Begin Discover]"));
     this->control().insertAtEnd("\nUDP listener did start. ");
     this->control().insertAtEnd("0.0.0.0:3520");
     EXPECT_EQ(this->trait.text(), "[Begin Discover]\nUDP listener did start. 0.0.0.0:3520");
@@ -271,21 +271,21 @@ TYPED_TEST_P(TextViewContract, InsertsAtTheEndExactlyWhatItIsGiven) {
 
 TYPED_TEST_P(TextViewContract, SettingTheTextReplacesAllOfIt) {
     this->control().insertAtEnd("\nold");
-    this->control().setString("[Begin Discover]\nnew");
+    this->control().setString(LogText("[Begin Discover]\nnew"));
     EXPECT_EQ(this->trait.text(), "[Begin Discover]\nnew");
-    this->control().setString("");
+    this->control().setString(LogText(""));
     EXPECT_EQ(this->trait.text(), "");
 }
 
 TYPED_TEST_P(TextViewContract, KeepsLineBreaksTabsAndBlanks) {
     const std::string text = "\n\tunit ID: 42\n  two blanks before\n";
-    this->control().setString(text);
+    this->control().setString(LogText(text));
     EXPECT_EQ(this->trait.text(), text);
 }
 
 TYPED_TEST_P(TextViewContract, KeepsEveryOtherCharacterAsItIs) {
     const std::string text = "a\r\nb\rc\v\f\u0085d\u2028e\u2029f\u00A0g\u200B網😀\x7F\x1B[0m";
-    this->control().setString(text);
+    this->control().setString(LogText(text));
     this->control().insertAtEnd(text);
     EXPECT_EQ(this->trait.text(), text + text);
 }

@@ -46,7 +46,7 @@ TEST_F(ControllerDiscovery, LogsTheWholeCycle) {
 TEST_F(ControllerDiscovery, EmptiesTheLogBeforeTheFirstEntry) {
     controller.appendString("\nfrom before");
     window.eventLogDrawer.setState(DrawerState::open);
-    window.logTextView.setString("shown before");
+    window.logTextView.setString(LogText("shown before"));
     controller.discoverButton();
     EXPECT_EQ(log().at(0), "[Begin Discover]");
     EXPECT_EQ(window.logTextView.text(), controller.eventLog());
@@ -54,7 +54,7 @@ TEST_F(ControllerDiscovery, EmptiesTheLogBeforeTheFirstEntry) {
 
 TEST_F(ControllerDiscovery, EmptiesTheViewOfTheLogAlsoWhileTheDrawerIsClosed) {
     window.eventLogDrawer.setState(DrawerState::closed);
-    window.logTextView.setString("shown before");
+    window.logTextView.setString(LogText("shown before"));
     controller.discoverButton();
     EXPECT_EQ(window.logTextView.text(), "");
 }

@@ -42,7 +42,7 @@ private:
 } // namespace
 
 TEST_F(ControllerEventLog, ClosedDrawerKeepsTextFromTheView) {
-    window.logTextView.setString("");
+    window.logTextView.setString(LogText(""));
     controller.appendString("\nquiet");
     EXPECT_EQ(window.logTextView.text(), "");
     EXPECT_EQ(log().back(), "quiet");
@@ -61,7 +61,7 @@ TEST_F(ControllerEventLog, OpeningTheDrawerShowsALongLogWholeToo) {
     for (int line = 0; line < 20'000; ++line) {
         controller.appendString("\nline " + std::to_string(line));
     }
-    window.logTextView.setString("from before");
+    window.logTextView.setString(LogText("from before"));
     controller.logDrawerButton();
     EXPECT_TRUE(window.logTextView.text() == controller.eventLog());
     EXPECT_EQ(log().back(), "line 19999");
@@ -72,7 +72,7 @@ TEST_F(ControllerEventLog, TextReachesTheViewInEveryStateButClosed) {
     for (const DrawerState state :
          {DrawerState::opening, DrawerState::open, DrawerState::closing}) {
         window.eventLogDrawer.setState(state);
-        window.logTextView.setString("");
+        window.logTextView.setString(LogText(""));
         const int inserted = window.logTextView.insertCount();
         const int scrolled = window.logTextView.scrollCount();
         controller.appendString("\nshown");
@@ -85,7 +85,7 @@ TEST_F(ControllerEventLog, TextReachesTheViewInEveryStateButClosed) {
 
 TEST_F(ControllerEventLog, OpenDrawerIsClosed) {
     window.eventLogDrawer.setState(DrawerState::open);
-    window.logTextView.setString("as it was");
+    window.logTextView.setString(LogText("as it was"));
     controller.logDrawerButton();
     EXPECT_EQ(window.eventLogDrawer.state(), DrawerState::closing);
     EXPECT_EQ(window.logTextView.text(), "as it was");
@@ -94,7 +94,7 @@ TEST_F(ControllerEventLog, OpenDrawerIsClosed) {
 TEST_F(ControllerEventLog, MovingDrawerIsLeftAlone) {
     for (const DrawerState state : {DrawerState::opening, DrawerState::closing}) {
         window.eventLogDrawer.setState(state);
-        window.logTextView.setString("as it was");
+        window.logTextView.setString(LogText("as it was"));
         controller.logDrawerButton();
         EXPECT_EQ(window.eventLogDrawer.state(), state);
         EXPECT_EQ(window.logTextView.text(), "as it was");

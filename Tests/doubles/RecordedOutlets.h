@@ -166,8 +166,8 @@ private:
 
 class RecordedTextView final : public TextView {
 public:
-    void setString(std::string_view text) override {
-        _text = text;
+    void setString(const LogText& text) override {
+        _text = text.text();
         _isEndVisible = false;
     }
 

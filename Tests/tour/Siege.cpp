@@ -31,7 +31,10 @@ Siege::Siege(WindowDriver& driver)
 void Siege::run() {
     ResponsivenessProbe probe(*_driver.window().windowHandle());
     probe.start();
-    const QDeadlineTimer end(seconds(qEnvironmentVariableIntValue("KX_SIEGE_SECONDS")));
+    const milliseconds duration = seconds(qEnvironmentVariableIntValue("KX_SIEGE_SECONDS"));
+    const QDeadlineTimer end(duration);
+    WindowDriver::letRun(duration / 3);
+    _driver.press("logDrawerButton");
     while (!end.hasExpired()) {
         discover();
         lookForUnits();

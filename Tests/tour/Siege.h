@@ -1,6 +1,7 @@
-// A visit to the running program while somebody floods it with datagrams: discovers again and
-// again, and each time looks for real units among what the flood invents; every other time the
-// event log is open. Measures how long a person has to wait meanwhile.
+// A visit to the running program while somebody floods it with datagrams: watches for a third of
+// the time, opens the log that has grown meanwhile, then discovers again and again, and each time
+// looks for real units among what the flood invents; every other time the event log is open.
+// Measures how long a person has to wait meanwhile.
 //
 // Main thread only; run() waits in nested event loops. Environment: KX_SIEGE_SECONDS, how long to
 // go on; KX_SIEGE_UNITS, the serial numbers of the real units, with commas in between;

@@ -41,7 +41,7 @@ protected:
         view.setAccessibleName("Event log text");
         view.resize(400, 200);
         view.show();
-        view.setText("Ä😀 one\ntwo words\nthree");
+        view.setText(LogText("Ä😀 one\ntwo words\nthree"));
     }
 
     QAccessibleInterface& accessible() { return *QAccessible::queryAccessibleInterface(&view); }
@@ -117,7 +117,7 @@ TEST_F(LogAccessibilityTest, AnnouncesWhatAFrameAddedWhileAScreenReaderListens) 
     view.append(" and five");
     EXPECT_TRUE(QTest::qWaitFor([] { return !announcements().empty(); }));
     view.select(0, 1);
-    view.setText("new");
+    view.setText(LogText("new"));
     EXPECT_EQ(announcements(), (std::vector<std::string>{
                                    "inserted at 23: \nfour and five",
                                    "selected 0 to 1",

@@ -11,17 +11,17 @@ namespace kx {
 using LogSelectionTest = LogTextViewTest;
 
 TEST_F(LogSelectionTest, WhatIsSelectedStaysSelectedWhileTextArrives) {
-    view.setText("[Begin Discover]\nUDP listener did start. ");
+    view.setText(LogText("[Begin Discover]\nUDP listener did start. "));
     view.select(1, 6);
     showAppended("0.0.0.0:3520");
     EXPECT_EQ(selected(), "Begin");
-    view.setText("");
+    view.setText(LogText(""));
     EXPECT_EQ(selected(), "");
     EXPECT_EQ(view.caret(), 0U);
 }
 
 TEST_F(LogSelectionTest, DraggingSelectsFromLetterToLetter) {
-    view.setText("one two\nthree four");
+    view.setText(LogText("one two\nthree four"));
     drag(leftOf(4), leftOf(8 + 5));
     EXPECT_EQ(selected(), "two\nthree");
     drag(leftOf(8 + 5), leftOf(4));
@@ -32,7 +32,7 @@ TEST_F(LogSelectionTest, DraggingSelectsFromLetterToLetter) {
 }
 
 TEST_F(LogSelectionTest, AClickWithShiftExtendsTheSelection) {
-    view.setText("one two three");
+    view.setText(LogText("one two three"));
     clickAt(4);
     clickAt(7, Qt::ShiftModifier);
     EXPECT_EQ(selected(), "two");
@@ -41,7 +41,7 @@ TEST_F(LogSelectionTest, AClickWithShiftExtendsTheSelection) {
 }
 
 TEST_F(LogSelectionTest, ADoubleClickSelectsTheWordBelowThePointer) {
-    view.setText("Reply of 192.168.1.10: ok");
+    view.setText(LogText("Reply of 192.168.1.10: ok"));
     const QRect lastLetter = view.rectOf(4);
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
                        {lastLetter.right() - 1, lastLetter.center().y()});
@@ -51,7 +51,7 @@ TEST_F(LogSelectionTest, ADoubleClickSelectsTheWordBelowThePointer) {
 }
 
 TEST_F(LogSelectionTest, ATripleClickSelectsTheLine) {
-    view.setText("one\ntwo words\nthree");
+    view.setText(LogText("one\ntwo words\nthree"));
     QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, pointAt(6));
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, pointAt(6));
     EXPECT_EQ(selected(), "two words\n");
@@ -60,7 +60,7 @@ TEST_F(LogSelectionTest, ATripleClickSelectsTheLine) {
 }
 
 TEST_F(LogSelectionTest, ADragHeldBelowScrollsOn) {
-    view.setText(numberedLines(500));
+    view.setText(LogText(numberedLines(500)));
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, leftOf(0));
     moveTo({5, view.viewport()->height() + 10});
     EXPECT_TRUE(QTest::qWaitFor([this] { return firstRow() > 5; }));
@@ -72,16 +72,16 @@ TEST_F(LogSelectionTest, ADragHeldBelowScrollsOn) {
 }
 
 TEST_F(LogSelectionTest, ADragGoesOnHarmlesslyWhenTheTextIsReplaced) {
-    view.setText(numberedLines(500));
+    view.setText(LogText(numberedLines(500)));
     QTest::mousePress(view.viewport(), Qt::LeftButton, Qt::NoModifier, leftOf(40));
     moveTo(leftOf(60));
-    view.setText("short");
+    view.setText(LogText("short"));
     moveTo({300, 150});
     EXPECT_EQ(selected(), "short");
 }
 
 TEST_F(LogSelectionTest, KeysMoveTheCaretAndShiftSelects) {
-    view.setText("one two\nthree\n\nfour");
+    view.setText(LogText("one two\nthree\n\nfour"));
     press(Qt::Key_Right);
     EXPECT_EQ(view.caret(), 1U);
     press(Qt::Key_Right, Qt::ControlModifier);
@@ -110,7 +110,7 @@ TEST_F(LogSelectionTest, KeysMoveTheCaretAndShiftSelects) {
 }
 
 TEST_F(LogSelectionTest, KeysStopAtBothEnds) {
-    view.setText("one\ntwo");
+    view.setText(LogText("one\ntwo"));
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageUp}) {
         press(key);
         EXPECT_EQ(view.caret(), 0U);
@@ -123,7 +123,7 @@ TEST_F(LogSelectionTest, KeysStopAtBothEnds) {
 }
 
 TEST_F(LogSelectionTest, PageKeysScrollByWhatIsInSight) {
-    view.setText(numberedLines(500));
+    view.setText(LogText(numberedLines(500)));
     press(Qt::Key_PageDown);
     EXPECT_EQ(firstRow(), linesInSight() - 1);
     EXPECT_EQ(view.text().rowAt(view.caret()), static_cast<std::size_t>(linesInSight() - 1));
@@ -142,7 +142,7 @@ TEST_F(LogSelectionTest, KeysGoOnFromWhatIsInSight) {
 }
 
 TEST_F(LogSelectionTest, CopiesWhatIsSelectedAndNothingElse) {
-    view.setText("one\r\ntwo\u2028网路😀\tthree");
+    view.setText(LogText("one\r\ntwo\u2028网路😀\tthree"));
     QGuiApplication::clipboard()->setText("before");
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard(), "before");
@@ -152,7 +152,7 @@ TEST_F(LogSelectionTest, CopiesWhatIsSelectedAndNothingElse) {
 }
 
 TEST_F(LogSelectionTest, CannotBeChangedByTyping) {
-    view.setText("as it was");
+    view.setText(LogText("as it was"));
     view.selectAll();
     QTest::keyClicks(&view, "typed");
     for (const Qt::Key key : {Qt::Key_Delete, Qt::Key_Backspace, Qt::Key_Return}) {
@@ -164,7 +164,7 @@ TEST_F(LogSelectionTest, CannotBeChangedByTyping) {
 }
 
 TEST_F(LogSelectionTest, TheContextMenuOffersToCopyAndToSelectAll) {
-    view.setText("one two");
+    view.setText(LogText("one two"));
     QAction extra("Find");
     view.addAction(&extra);
     const auto openMenu = [this] {
@@ -203,7 +203,7 @@ TEST_F(LogSelectionTest, AVeryLongLineIsShownSelectedAndCopiedWhole) {
 }
 
 TEST_F(LogSelectionTest, MovesOverWholeLettersOfEveryScript) {
-    view.setText("a\u0308網😀e");
+    view.setText(LogText("a\u0308網😀e"));
     for (const std::size_t position : {3U, 6U, 10U, 11U}) {
         press(Qt::Key_Right);
         EXPECT_EQ(view.caret(), position);

@@ -87,10 +87,10 @@ TEST_F(LogTextViewTest, AtRestNothingWakesUp) {
 TEST_F(LogTextViewTest, SettingTheTextShowsItsBeginningAtOnce) {
     showAppended(numberedLines(500));
     EXPECT_GT(firstRow(), 0);
-    view.setText(numberedLines(300));
+    view.setText(LogText(numberedLines(300)));
     EXPECT_EQ(firstRow(), 0);
     EXPECT_EQ(view.verticalScrollBar()->maximum(), 300 - linesInSight());
-    view.setText("");
+    view.setText(LogText(""));
     EXPECT_EQ(view.verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(view.toPlainText(), "");
 }
@@ -114,7 +114,7 @@ TEST_F(LogTextViewTest, TheEndStaysInSightWhenTheViewIsResized) {
 }
 
 TEST_F(LogTextViewTest, ALineTooLongForTheViewGoesOnBelow) {
-    view.setText(std::string(120, 'x') + " y\nnext");
+    view.setText(LogText(std::string(120, 'x') + " y\nnext"));
     EXPECT_LE(view.rectOf(119).right(), view.viewport()->width());
     EXPECT_GT(view.rectOf(119).top(), view.rectOf(0).top());
     EXPECT_GT(view.rectOf(123).top(), view.rectOf(121).top());
@@ -132,7 +132,7 @@ TEST_F(LogTextViewTest, TheEndOfALongLastLineComesIntoSight) {
 }
 
 TEST_F(LogTextViewTest, EveryPartOfALineHigherThanTheViewCanBeReached) {
-    view.setText(std::string(LogText::longestRow, 'x'));
+    view.setText(LogText(std::string(LogText::longestRow, 'x')));
     EXPECT_GT(view.verticalScrollBar()->maximum(), 0);
     EXPECT_FALSE(view.showsEnd());
     for (int step = 0; !view.showsEnd() && step < 100; ++step) {
@@ -153,7 +153,7 @@ TEST_F(LogTextViewTest, EveryPartOfALineHigherThanTheViewCanBeReached) {
 }
 
 TEST_F(LogTextViewTest, TheWheelScrollsByLines) {
-    view.setText(numberedLines(500));
+    view.setText(LogText(numberedLines(500)));
     const auto turn = [this](int angle) {
         QWheelEvent event(QPointF(5, 5), view.mapToGlobal(QPointF(5, 5)), {}, {0, angle},
                           Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
@@ -172,7 +172,7 @@ TEST_F(LogTextViewTest, AMillionLinesScrollAndSelect) {
     for (int line = 0; line < 1'000'000; ++line) {
         text += "\nUDP listener did receive data. Length: 81";
     }
-    view.setText(text);
+    view.setText(LogText(text));
     EXPECT_EQ(view.verticalScrollBar()->maximum(), 1'000'001 - linesInSight());
     showAppended("\nlast");
     press(Qt::Key_End, Qt::ControlModifier);
@@ -183,7 +183,7 @@ TEST_F(LogTextViewTest, AMillionLinesScrollAndSelect) {
 }
 
 TEST_F(LogTextViewTest, ALineThatBeginsFromRightToLeftStillBeginsAtTheLeft) {
-    view.setText("שלום unit 42\nunit 42 שלום");
+    view.setText(LogText("שלום unit 42\nunit 42 שלום"));
     const int left = view.rectOf(view.text().row(1).position).left();
     EXPECT_LT(left, 20);
     // Its last letters stand at the right of the foreign name.
@@ -194,7 +194,7 @@ TEST_F(LogTextViewTest, ALineThatBeginsFromRightToLeftStillBeginsAtTheLeft) {
 }
 
 TEST_F(LogTextViewTest, ShowsTheColoursOfThePalette) {
-    view.setText("some text\nmore text");
+    view.setText(LogText("some text\nmore text"));
     view.select(0, 9);
     QPalette contrasting(Qt::black);
     contrasting.setColor(QPalette::Base, Qt::black);
@@ -219,7 +219,7 @@ TEST_F(LogTextViewTest, AnotherFontTakesOtherRoom) {
 }
 
 TEST_F(LogTextViewTest, TheCaretShowsOnlyWhereTheKeyboardIs) {
-    view.setText("");
+    view.setText(LogText(""));
     const QImage focused = view.viewport()->grab().toImage();
     view.clearFocus();
     EXPECT_NE(view.viewport()->grab().toImage(), focused);

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/qt/LogText.h"
+#include "support/LogText.h"
 
 namespace kx {
 

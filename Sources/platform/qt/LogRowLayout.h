@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "platform/qt/LogText.h"
+#include "support/LogText.h"
 
 #include <QColor>
 #include <QFont>

@@ -5,6 +5,7 @@
 
 #include "platform/qt/LogMovement.h"
 
+#include <QString>
 #include <optional>
 
 namespace kx {

@@ -53,7 +53,7 @@ public:
     }
 
     QString text(int start, int end) const override {
-        return _view.text().text(positionOf(start), positionOf(end));
+        return _view.textBetween(positionOf(start), positionOf(end));
     }
     QString textBeforeOffset(int offset, QAccessible::TextBoundaryType type, int* start,
                              int* end) const override {
@@ -117,7 +117,7 @@ private:
     QString textOf(LogRange range, int* start, int* end) const {
         *start = offsetOf(range.from);
         *end = offsetOf(range.to);
-        return _view.text().text(range.from, range.to);
+        return _view.textBetween(range.from, range.to);
     }
 
     static QString nothing(int* start, int* end) {
@@ -146,14 +146,14 @@ void installLogTextAccessible() {
 void announceInsertion(LogTextView& view, std::size_t from) {
     if (QAccessible::isActive() && from < view.text().size()) {
         QAccessibleTextInsertEvent event(&view, offsetOf(view, from),
-                                         view.text().text(from, view.text().size()));
+                                         view.textBetween(from, view.text().size()));
         QAccessible::updateAccessibility(&event);
     }
 }
 
 void announceRemoval(LogTextView& view, std::size_t to) {
     if (QAccessible::isActive() && to > 0) {
-        QAccessibleTextRemoveEvent event(&view, 0, view.text().text(0, to));
+        QAccessibleTextRemoveEvent event(&view, 0, view.textBetween(0, to));
         QAccessible::updateAccessibility(&event);
     }
 }

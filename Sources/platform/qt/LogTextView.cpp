@@ -1,6 +1,7 @@
 #include "platform/qt/LogTextView.h"
 
 #include "platform/qt/LogTextAccessible.h"
+#include "platform/qt/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -38,10 +39,9 @@ LogTextView::LogTextView(QWidget* parent)
     fitToFont();
 }
 
-void LogTextView::setText(std::string_view text) {
+void LogTextView::setText(const LogText& text) {
     announceRemoval(*this, _announced);
-    _text.clear();
-    _text.append(text);
+    _text = text;
     _announced = 0;
     _endIsWanted = false;
     _dragOrigin = {0, 0};
@@ -65,7 +65,20 @@ bool LogTextView::showsEnd() const {
 }
 
 QString LogTextView::toPlainText() const {
-    return _text.text(0, _text.size());
+    return textBetween(0, _text.size());
+}
+
+// Piece by piece: no copy of a long text is needed beside Qt's own.
+QString LogTextView::textBetween(std::size_t from, std::size_t to) const {
+    QString result;
+    result.reserve(static_cast<qsizetype>(to - from));
+    while (from < to) {
+        const LogText::Piece piece = _text.pieceAt(from);
+        const std::string_view part = piece.text.substr(from - piece.position, to - from);
+        result += qtText(part);
+        from += part.size();
+    }
+    return result;
 }
 
 LogRange LogTextView::selection() const {
@@ -73,7 +86,7 @@ LogRange LogTextView::selection() const {
 }
 
 QString LogTextView::selectedText() const {
-    return _text.text(selection().from, selection().to);
+    return textBetween(selection().from, selection().to);
 }
 
 void LogTextView::select(std::size_t anchor, std::size_t caret) {

@@ -18,7 +18,7 @@
 
 #include "platform/qt/LogLines.h"
 #include "platform/qt/LogMovement.h"
-#include "platform/qt/LogText.h"
+#include "support/LogText.h"
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -34,7 +34,7 @@ public:
     explicit LogTextView(QWidget* parent = nullptr);
 
     // Replaces the text, selects nothing and shows the beginning.
-    void setText(std::string_view text);
+    void setText(const LogText& text);
 
     void append(std::string_view text);
 
@@ -46,6 +46,7 @@ public:
 
     // All of it, also what no frame has shown yet.
     QString toPlainText() const;
+    QString textBetween(std::size_t from, std::size_t to) const;
     const LogText& text() const { return _text; }
 
     // A range of positions; a caret is the empty range.

@@ -73,7 +73,8 @@ QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
         titles.push_back(utf8Text(comboBox.itemText(index)));
     }
     comboBox.setModel(&_model);
-    showTitles(joined({}, titles), utf8Text(selected));
+    addItemsWithTitles(std::move(titles));
+    selectItemWithTitle(utf8Text(selected));
 }
 
 QtPopUpButton::~QtPopUpButton() {
@@ -83,16 +84,18 @@ QtPopUpButton::~QtPopUpButton() {
 }
 
 void QtPopUpButton::removeAllItems() {
-    showTitles({}, {});
+    showTitles({}, true, {});
 }
 
 void QtPopUpButton::addItemsWithTitles(TitleList titles) {
     const auto selected = titleOfSelectedItem();
-    if (_model.rowCount() > 0 || !isAscending(titles)) {
+    bool areAscending = isAscending(titles);
+    if (_model.rowCount() > 0 || !areAscending) {
         titles = joined(_model.titles(), titles);
+        areAscending = isAscending(titles);
     }
     const std::string first(titles.empty() ? "" : titles[0]);
-    showTitles(std::move(titles), selected.value_or(first));
+    showTitles(std::move(titles), areAscending, selected.value_or(first));
 }
 
 int QtPopUpButton::indexOf(std::string_view title) const {
@@ -106,10 +109,10 @@ int QtPopUpButton::indexOf(std::string_view title) const {
     return found != _indexOfTitle.end() ? found->second : -1;
 }
 
-void QtPopUpButton::showTitles(TitleList titles, std::string_view selected) {
+void QtPopUpButton::showTitles(TitleList titles, bool areAscending, std::string_view selected) {
     _indexOfTitle.clear(); // it looks into the titles that go
     _model.setTitles(std::move(titles));
-    _isAscending = isAscending(_model.titles());
+    _isAscending = areAscending;
     if (!_isAscending) {
         for (const std::string_view title : _model.titles()) {
             _indexOfTitle.emplace(title, static_cast<int>(_indexOfTitle.size()));

@@ -33,7 +33,7 @@ public:
 
 private:
     int indexOf(std::string_view title) const;
-    void showTitles(TitleList titles, std::string_view selected);
+    void showTitles(TitleList titles, bool areAscending, std::string_view selected);
     void prepareForLongList();
 
     QComboBox& _comboBox;

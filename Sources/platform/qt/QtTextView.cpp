@@ -5,7 +5,7 @@ namespace kx {
 QtTextView::QtTextView(LogTextView& view)
     : _view(view) {}
 
-void QtTextView::setString(std::string_view text) {
+void QtTextView::setString(const LogText& text) {
     _view.setText(text);
 }
 

@@ -11,7 +11,7 @@ class QtTextView final : public TextView {
 public:
     explicit QtTextView(LogTextView& view);
 
-    void setString(std::string_view text) override;
+    void setString(const LogText& text) override;
     void insertAtEnd(std::string_view text) override;
     void scrollEndToVisible() override;
 

@@ -1,10 +1,6 @@
-// The text behind the log view: rows, positions, characters, searching.
+#include "support/LogText.h"
 
-#include "platform/qt/LogText.h"
-
-#include "platform/qt/LogRowLayout.h"
-#include "platform/qt/LogSearch.h"
-#include "platform/qt/QtText.h"
+#include "support/TextEncoding.h"
 
 #include <gtest/gtest.h>
 
@@ -23,10 +19,6 @@ std::vector<std::string> rowsOf(const LogText& text) {
     return rows;
 }
 
-std::string wholeText(const LogText& text) {
-    return utf8Text(text.text(0, text.size()));
-}
-
 // Lines of every length up to a few hundred bytes, with letters of one to four bytes in them.
 std::string manyLines(int count) {
     std::string text;
@@ -35,12 +27,6 @@ std::string manyLines(int count) {
                 std::string(static_cast<std::size_t>(line % 300), 'x');
     }
     return text;
-}
-
-std::string found(const LogText& text, std::optional<LogRange> range) {
-    return range.has_value()
-               ? utf8Text(text.text(range->from, range->to)) + " at " + std::to_string(range->from)
-               : "(none)";
 }
 
 } // namespace
@@ -105,7 +91,7 @@ TEST(LogText, AppendingInPartsGivesTheSameAsAppendingAtOnce) {
         inParts.append(rest.substr(0, end));
         rest.remove_prefix(end);
     }
-    EXPECT_EQ(wholeText(inParts), whole);
+    EXPECT_EQ(inParts.text(), whole);
     EXPECT_EQ(rowsOf(inParts), rowsOf(atOnce));
 }
 
@@ -120,7 +106,7 @@ TEST(LogText, ALongLineGoesOnInTheNextRowWithoutALineFeed) {
     EXPECT_TRUE(text.row(3).endsLine);
     EXPECT_EQ(text.row(4).text, "b");
     EXPECT_EQ(text.rowAt(text.row(2).position), 2U);
-    EXPECT_EQ(wholeText(text), "a\n" + line + "\nb");
+    EXPECT_EQ(text.text(), "a\n" + line + "\nb");
 }
 
 TEST(LogText, ALongLineIsNotBrokenInsideACharacter) {
@@ -132,7 +118,7 @@ TEST(LogText, ALongLineIsNotBrokenInsideACharacter) {
     text.append("." + line);
     std::string joined;
     for (const std::string& row : rowsOf(text)) {
-        EXPECT_EQ(utf8Text(qtText(row)), row);
+        EXPECT_EQ(lengthOfWholeCharacters(bytesOfText(row)), row.size());
         joined += row;
     }
     EXPECT_EQ(joined, "." + line);
@@ -153,15 +139,14 @@ TEST(LogText, BytesThatAreNoTextDoNoHarm) {
 TEST(LogText, CountsCharactersAsUTF16DoesAllThrough) {
     LogText text;
     text.append(manyLines(10)); // counting goes on where it stopped
-    EXPECT_EQ(text.charactersBefore(text.size()),
-              static_cast<std::size_t>(text.text(0, text.size()).size()));
+    EXPECT_EQ(text.charactersBefore(text.size()), lengthInCharacters(text.text()));
     text.append(manyLines(2000));
-    const QString wide = text.text(0, text.size());
-    ASSERT_EQ(text.charactersBefore(text.size()), static_cast<std::size_t>(wide.size()));
+    const std::string whole = text.text();
+    ASSERT_EQ(text.charactersBefore(text.size()), lengthInCharacters(whole));
     for (std::size_t row = 0; row < text.rowCount(); row += 37) {
         const std::size_t position = text.row(row).position;
         const std::size_t characters = text.charactersBefore(position);
-        EXPECT_EQ(text.text(0, position).size(), static_cast<qsizetype>(characters));
+        EXPECT_EQ(characters, lengthInCharacters(whole.substr(0, position)));
         EXPECT_EQ(text.positionAfter(characters), position);
     }
     EXPECT_EQ(text.positionAfter(text.size() + 1), text.size());
@@ -178,65 +163,47 @@ TEST(LogText, AMillionLinesTakeLittleMoreThanTheirBytes) {
     EXPECT_EQ(text.row(777'777).position, 1U + 777'776U * 42U);
 }
 
-TEST(LogRowLayout, ShowsControlCharactersAsWhatCannotHarm) {
-    const std::string text("a\0\r\x1B\x7F\tb", 7);
-    EXPECT_EQ(utf8Text(shownText(text)), "a����\tb");
-    EXPECT_EQ(utf8Text(shownText("\u0085\u2028\u2029\u202E\u2066\u200F")), "������");
-    EXPECT_EQ(utf8Text(shownText("Ä網😀 שלום")), "Ä網😀 שלום");
-}
-
-TEST(LogRowLayout, ShowsTheCarriageReturnThatEndsACommandAsABlank) {
-    EXPECT_EQ(utf8Text(shownText("command: ^^IdV\r")), "command: ^^IdV ");
-    EXPECT_EQ(utf8Text(shownText("\r\r")), "� ");
-}
-
-TEST(LogSearch, FindsInEitherDirectionAndEitherCase) {
-    LogText text;
-    text.append("Reply one\nreply two\nREPLY three");
-    EXPECT_EQ(found(text, findForward(text, "reply", 0)), "Reply at 0");
-    EXPECT_EQ(found(text, findForward(text, "reply", 1)), "reply at 10");
-    EXPECT_EQ(found(text, findForward(text, "reply", 21)), "(none)");
-    EXPECT_EQ(found(text, findBackward(text, "reply", text.size())), "REPLY at 20");
-    EXPECT_EQ(found(text, findBackward(text, "reply", 20)), "reply at 10");
-    EXPECT_EQ(found(text, findBackward(text, "reply", 4)), "(none)");
-    EXPECT_EQ(found(text, findForward(text, "TWO", 0)), "two at 16");
-    EXPECT_EQ(found(text, findForward(text, "four", 0)), "(none)");
-}
-
-TEST(LogSearch, PositionsCountBytesNotCharacters) {
-    LogText text;
-    text.append("Ä網😀 Größe");
-    EXPECT_EQ(found(text, findForward(text, "GRÖSSE", 0)), "(none)");
-    EXPECT_EQ(found(text, findForward(text, "GRÖß", 0)), "Größ at 10");
-    EXPECT_EQ(found(text, findBackward(text, "😀", text.size())), "😀 at 5");
-}
-
-TEST(LogSearch, FindsEveryMatchOfALongTextForwardsAndBackwards) {
-    LogText text;
-    text.append(manyLines(3000));
-    std::vector<std::size_t> forwards;
-    for (auto match = findForward(text, "Ä網😀", 0); match.has_value();
-         match = findForward(text, "Ä網😀", match->to)) {
-        forwards.push_back(match->from);
+TEST(LogText, ItsPiecesInTurnAreAllOfIt) {
+    const LogText text(manyLines(3000));
+    std::string joined;
+    while (joined.size() < text.size()) {
+        const LogText::Piece piece = text.pieceAt(joined.size());
+        ASSERT_EQ(piece.position, joined.size());
+        joined += piece.text;
     }
-    std::vector<std::size_t> backwards;
-    for (auto match = findBackward(text, "Ä網😀", text.size()); match.has_value();
-         match = findBackward(text, "Ä網😀", match->from)) {
-        backwards.insert(backwards.begin(), match->from);
-    }
-    EXPECT_EQ(forwards.size(), 3000U);
-    EXPECT_EQ(backwards, forwards);
+    EXPECT_TRUE(joined == manyLines(3000));
+    EXPECT_EQ(text.pieceAt(text.size()).text.data() + text.pieceAt(text.size()).text.size(),
+              text.row(text.rowCount() - 1).text.data() +
+                  text.row(text.rowCount() - 1).text.size());
 }
 
-TEST(LogSearch, FindsWhatLiesAcrossTheRowsOfALongLine) {
-    const std::string sought = "sought 😀 text";
-    for (std::size_t before = 65'400; before < 65'560; before += 3) {
-        LogText text;
-        text.append(std::string(before, '.') + sought + std::string(9000, '.'));
-        const std::string expected = sought + " at " + std::to_string(before);
-        EXPECT_EQ(found(text, findForward(text, qtText(sought), 0)), expected);
-        EXPECT_EQ(found(text, findBackward(text, qtText(sought), text.size())), expected);
-    }
+TEST(LogText, ACopySharesWhatIsFull) {
+    const LogText text(manyLines(3000));
+    const LogText copy = text; // NOLINT(performance-unnecessary-copy-initialization)
+    EXPECT_TRUE(copy.text() == text.text());
+    EXPECT_EQ(copy.rowCount(), text.rowCount());
+    EXPECT_EQ(copy.pieceAt(0).text.data(), text.pieceAt(0).text.data());
+}
+
+TEST(LogText, ACopyAndItsOriginGrowApart) {
+    const std::string common = manyLines(3000);
+    LogText text(common);
+    LogText copy = text;
+    text.append("\norigin" + manyLines(1000));
+    copy.append("\ncopy" + manyLines(2000));
+    EXPECT_TRUE(text.text() == common + "\norigin" + manyLines(1000));
+    EXPECT_TRUE(copy.text() == common + "\ncopy" + manyLines(2000));
+    EXPECT_EQ(copy.row(3001).text, "copy");
+    EXPECT_EQ(copy.charactersBefore(copy.size()), lengthInCharacters(copy.text()));
+}
+
+TEST(LogText, ACopyOutlivesItsOrigin) {
+    LogText text(manyLines(3000));
+    const LogText copy = text;
+    text.clear();
+    text.append("new");
+    EXPECT_EQ(text.text(), "new");
+    EXPECT_TRUE(copy.text() == manyLines(3000));
 }
 
 } // namespace kx

@@ -1,9 +1,10 @@
-// The text behind the log view: UTF-8 that only grows at its end, cut into rows.
+// The text of the event log: UTF-8 that only grows at its end, cut into rows.
 //
 // A line feed ends a line, and nothing else does. A row is a line, or a part of a line too long to
 // be shown in one piece. Appending costs what is appended, however long the text is: it lies in
 // pieces of whole rows, and none is touched again once it is full. Beside its bytes the text takes
-// two for each row.
+// two for each row. A copy shares all pieces that are full: it takes next to nothing, and is
+// independent of its origin all the same.
 //
 // Positions count bytes from the beginning and stand before a character or at the end. Characters,
 // where they are counted, are UTF-16 units. Main thread only. Views of the text are valid until it
@@ -11,9 +12,9 @@
 
 #pragma once
 
-#include <QString>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,8 +37,10 @@ public:
         std::string_view text;
     };
 
-    LogText();
+    LogText() = default;
+    explicit LogText(std::string_view text) { append(text); }
 
+    // Gives the memory back that no copy shares.
     void clear();
     void append(std::string_view text);
 
@@ -56,7 +59,8 @@ public:
     // the next one begins where this one ends. They break between rows.
     Piece pieceAt(std::size_t position) const;
 
-    QString text(std::size_t from, std::size_t to) const;
+    // All of it, copied.
+    std::string text() const;
 
     // Counted when first asked for and remembered: only a screen reader asks.
     std::size_t charactersBefore(std::size_t position) const;
@@ -76,9 +80,13 @@ private:
     void beginRow();
     void beginChunk();
     std::string_view lastRow() const;
-    const Chunk& chunkAt(std::size_t position) const;
+    std::size_t chunkCount() const { return _full.size() + 1; }
+    const Chunk& chunk(std::size_t index) const;
+    std::size_t chunkAt(std::size_t position) const;
+    std::size_t chunkOfRow(std::size_t row) const;
 
-    std::vector<Chunk> _chunks;
+    std::vector<std::shared_ptr<const Chunk>> _full;
+    Chunk _last;
     mutable std::vector<std::size_t> _charactersBeforeChunk; // for the first chunks, ever more
 };
 

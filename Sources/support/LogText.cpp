@@ -1,9 +1,8 @@
-#include "platform/qt/LogText.h"
-
-#include "platform/qt/QtText.h"
+#include "support/LogText.h"
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 namespace kx {
 
@@ -34,15 +33,8 @@ std::string_view wholeCharacters(std::string_view text, std::size_t most) {
 
 } // namespace
 
-LogText::LogText() {
-    clear();
-}
-
 void LogText::clear() {
-    _chunks.clear();
-    _chunks.shrink_to_fit();
-    _chunks.emplace_back();
-    _charactersBeforeChunk.clear();
+    *this = LogText();
 }
 
 void LogText::append(std::string_view text) {
@@ -63,102 +55,110 @@ void LogText::append(std::string_view text) {
 }
 
 void LogText::addToLastRow(std::string_view text) {
-    if (_chunks.back().text.size() + text.size() > mostInChunk) {
+    if (_last.text.size() + text.size() > mostInChunk) {
         beginChunk();
     }
-    _chunks.back().text += text;
+    _last.text += text;
 }
 
 void LogText::beginRow() {
-    Chunk& chunk = _chunks.back();
-    chunk.rowStarts.push_back(static_cast<std::uint16_t>(chunk.text.size()));
+    _last.rowStarts.push_back(static_cast<std::uint16_t>(_last.text.size()));
 }
 
 // The last row moves on: a chunk holds whole rows.
 void LogText::beginChunk() {
-    Chunk& full = _chunks.back();
-    const std::size_t end = full.rowStarts.back();
+    const std::size_t end = _last.rowStarts.back();
     Chunk next;
-    next.position = full.position + end;
-    next.firstRow = full.firstRow + full.rowStarts.size() - 1;
+    next.position = _last.position + end;
+    next.firstRow = _last.firstRow + _last.rowStarts.size() - 1;
     next.text.reserve(mostInChunk);
-    next.text.assign(full.text, end);
+    next.text.assign(_last.text, end);
+    Chunk full = std::exchange(_last, std::move(next));
     full.text.resize(end);
     full.rowStarts.pop_back();
     full.rowStarts.shrink_to_fit();
-    _chunks.push_back(std::move(next));
+    _full.push_back(std::make_shared<const Chunk>(std::move(full)));
 }
 
 std::string_view LogText::lastRow() const {
-    return std::string_view(_chunks.back().text).substr(_chunks.back().rowStarts.back());
+    return std::string_view(_last.text).substr(_last.rowStarts.back());
 }
 
 std::size_t LogText::size() const {
-    return _chunks.back().position + _chunks.back().text.size();
+    return _last.position + _last.text.size();
 }
 
 std::size_t LogText::rowCount() const {
-    return _chunks.back().firstRow + _chunks.back().rowStarts.size();
+    return _last.firstRow + _last.rowStarts.size();
 }
 
 LogText::Row LogText::row(std::size_t index) const {
-    const auto next =
-        std::upper_bound(_chunks.begin(), _chunks.end(), index,
-                         [](std::size_t row, const Chunk& chunk) { return row < chunk.firstRow; });
-    const Chunk& chunk = *std::prev(next);
-    const std::size_t within = index - chunk.firstRow;
-    const std::size_t start = chunk.rowStarts[within];
-    const bool isLast = within + 1 == chunk.rowStarts.size();
-    const std::size_t end = isLast ? chunk.text.size() : chunk.rowStarts[within + 1];
-    std::string_view text = std::string_view(chunk.text).substr(start, end - start);
+    const Chunk& holder = chunk(chunkOfRow(index));
+    const std::size_t within = index - holder.firstRow;
+    const std::size_t start = holder.rowStarts[within];
+    const bool isLast = within + 1 == holder.rowStarts.size();
+    const std::size_t end = isLast ? holder.text.size() : holder.rowStarts[within + 1];
+    std::string_view text = std::string_view(holder.text).substr(start, end - start);
     const bool endsLine = text.ends_with('\n');
     text.remove_suffix(endsLine ? 1 : 0);
-    return {chunk.position + start, text, endsLine};
+    return {holder.position + start, text, endsLine};
 }
 
 std::size_t LogText::rowAt(std::size_t position) const {
-    const Chunk& chunk = chunkAt(position);
-    const std::size_t within = position - chunk.position;
-    const auto next = std::upper_bound(chunk.rowStarts.begin(), chunk.rowStarts.end(), within);
-    return chunk.firstRow + static_cast<std::size_t>(next - chunk.rowStarts.begin()) - 1;
+    const Chunk& holder = chunk(chunkAt(position));
+    const std::size_t within = position - holder.position;
+    const auto next = std::upper_bound(holder.rowStarts.begin(), holder.rowStarts.end(), within);
+    return holder.firstRow + static_cast<std::size_t>(next - holder.rowStarts.begin()) - 1;
 }
 
-const LogText::Chunk& LogText::chunkAt(std::size_t position) const {
-    const auto next = std::upper_bound(
-        _chunks.begin(), _chunks.end(), position,
-        [](std::size_t sought, const Chunk& chunk) { return sought < chunk.position; });
-    return *std::prev(next);
+const LogText::Chunk& LogText::chunk(std::size_t index) const {
+    return index < _full.size() ? *_full[index] : _last;
+}
+
+std::size_t LogText::chunkAt(std::size_t position) const {
+    if (position >= _last.position) {
+        return _full.size();
+    }
+    const auto next = std::ranges::upper_bound(_full, position, {},
+                                               [](const auto& full) { return full->position; });
+    return static_cast<std::size_t>(next - _full.begin()) - 1;
+}
+
+std::size_t LogText::chunkOfRow(std::size_t row) const {
+    if (row >= _last.firstRow) {
+        return _full.size();
+    }
+    const auto next =
+        std::ranges::upper_bound(_full, row, {}, [](const auto& full) { return full->firstRow; });
+    return static_cast<std::size_t>(next - _full.begin()) - 1;
 }
 
 LogText::Piece LogText::pieceAt(std::size_t position) const {
-    const Chunk& chunk = chunkAt(position);
-    return {chunk.position, chunk.text};
+    const Chunk& holder = chunk(chunkAt(position));
+    return {holder.position, holder.text};
 }
 
-QString LogText::text(std::size_t from, std::size_t to) const {
-    QString result;
-    result.reserve(static_cast<qsizetype>(to - from));
-    while (from < to) {
-        const Piece piece = pieceAt(from);
-        const std::string_view part = piece.text.substr(from - piece.position, to - from);
-        result += qtText(part);
-        from += part.size();
+std::string LogText::text() const {
+    std::string whole;
+    whole.reserve(size());
+    for (std::size_t index = 0; index < chunkCount(); ++index) {
+        whole += chunk(index).text;
     }
-    return result;
+    return whole;
 }
 
 std::size_t LogText::charactersBefore(std::size_t position) const {
-    const Chunk& chunk = chunkAt(position);
-    const auto index = static_cast<std::size_t>(&chunk - _chunks.data());
+    const std::size_t index = chunkAt(position);
     if (_charactersBeforeChunk.empty()) {
         _charactersBeforeChunk.push_back(0);
     }
     while (_charactersBeforeChunk.size() <= index) {
-        const Chunk& counted = _chunks[_charactersBeforeChunk.size() - 1];
+        const Chunk& counted = chunk(_charactersBeforeChunk.size() - 1);
         _charactersBeforeChunk.push_back(_charactersBeforeChunk.back() +
                                          charactersIn(counted.text));
     }
-    const std::string_view before(chunk.text.data(), position - chunk.position);
+    const Chunk& holder = chunk(index);
+    const std::string_view before(holder.text.data(), position - holder.position);
     return _charactersBeforeChunk[index] + charactersIn(before);
 }
 
@@ -167,9 +167,9 @@ std::size_t LogText::positionAfter(std::size_t characters) const {
     const auto next =
         std::upper_bound(_charactersBeforeChunk.begin(), _charactersBeforeChunk.end(), characters);
     const auto index = static_cast<std::size_t>(next - _charactersBeforeChunk.begin()) - 1;
-    const Chunk& chunk = _chunks[index];
-    return chunk.position +
-           bytesOfCharacters(chunk.text, characters - _charactersBeforeChunk[index]);
+    const Chunk& holder = chunk(index);
+    return holder.position +
+           bytesOfCharacters(holder.text, characters - _charactersBeforeChunk[index]);
 }
 
 std::size_t charactersIn(std::string_view text) {

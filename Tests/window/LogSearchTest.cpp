@@ -1,0 +1,89 @@
+// Searching the event log's text, and how its rows are shown.
+
+#include "platform/qt/LogSearch.h"
+
+#include "platform/qt/LogRowLayout.h"
+#include "platform/qt/QtText.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace kx {
+
+namespace {
+
+std::string found(const LogText& text, std::optional<LogRange> range) {
+    return range.has_value() ? text.text().substr(range->from, range->to - range->from) + " at " +
+                                   std::to_string(range->from)
+                             : "(none)";
+}
+
+} // namespace
+
+TEST(LogRowLayout, ShowsControlCharactersAsWhatCannotHarm) {
+    const std::string text("a\0\r\x1B\x7F\tb", 7);
+    EXPECT_EQ(utf8Text(shownText(text)), "a����\tb");
+    EXPECT_EQ(utf8Text(shownText("\u0085\u2028\u2029\u202E\u2066\u200F")), "������");
+    EXPECT_EQ(utf8Text(shownText("Ä網😀 שלום")), "Ä網😀 שלום");
+}
+
+TEST(LogRowLayout, ShowsTheCarriageReturnThatEndsACommandAsABlank) {
+    EXPECT_EQ(utf8Text(shownText("command: ^^IdV\r")), "command: ^^IdV ");
+    EXPECT_EQ(utf8Text(shownText("\r\r")), "� ");
+}
+
+TEST(LogSearch, FindsInEitherDirectionAndEitherCase) {
+    LogText text;
+    text.append("Reply one\nreply two\nREPLY three");
+    EXPECT_EQ(found(text, findForward(text, "reply", 0)), "Reply at 0");
+    EXPECT_EQ(found(text, findForward(text, "reply", 1)), "reply at 10");
+    EXPECT_EQ(found(text, findForward(text, "reply", 21)), "(none)");
+    EXPECT_EQ(found(text, findBackward(text, "reply", text.size())), "REPLY at 20");
+    EXPECT_EQ(found(text, findBackward(text, "reply", 20)), "reply at 10");
+    EXPECT_EQ(found(text, findBackward(text, "reply", 4)), "(none)");
+    EXPECT_EQ(found(text, findForward(text, "TWO", 0)), "two at 16");
+    EXPECT_EQ(found(text, findForward(text, "four", 0)), "(none)");
+}
+
+TEST(LogSearch, PositionsCountBytesNotCharacters) {
+    LogText text;
+    text.append("Ä網😀 Größe");
+    EXPECT_EQ(found(text, findForward(text, "GRÖSSE", 0)), "(none)");
+    EXPECT_EQ(found(text, findForward(text, "GRÖß", 0)), "Größ at 10");
+    EXPECT_EQ(found(text, findBackward(text, "😀", text.size())), "😀 at 5");
+}
+
+TEST(LogSearch, FindsEveryMatchOfALongTextForwardsAndBackwards) {
+    LogText text;
+    for (int line = 0; line < 3000; ++line) {
+        text.append("\n" + std::to_string(line) + " Ä網😀 " +
+                    std::string(static_cast<std::size_t>(line % 300), 'x'));
+    }
+    std::vector<std::size_t> forwards;
+    for (auto match = findForward(text, "Ä網😀", 0); match.has_value();
+         match = findForward(text, "Ä網😀", match->to)) {
+        forwards.push_back(match->from);
+    }
+    std::vector<std::size_t> backwards;
+    for (auto match = findBackward(text, "Ä網😀", text.size()); match.has_value();
+         match = findBackward(text, "Ä網😀", match->from)) {
+        backwards.insert(backwards.begin(), match->from);
+    }
+    EXPECT_EQ(forwards.size(), 3000U);
+    EXPECT_EQ(backwards, forwards);
+}
+
+TEST(LogSearch, FindsWhatLiesAcrossTheRowsOfALongLine) {
+    const std::string sought = "sought 😀 text";
+    for (std::size_t before = 65'400; before < 65'560; before += 3) {
+        LogText text;
+        text.append(std::string(before, '.') + sought + std::string(9000, '.'));
+        const std::string expected = sought + " at " + std::to_string(before);
+        EXPECT_EQ(found(text, findForward(text, qtText(sought), 0)), expected);
+        EXPECT_EQ(found(text, findBackward(text, qtText(sought), text.size())), expected);
+    }
+}
+
+} // namespace kx
