@@ -16,14 +16,13 @@ namespace kx {
 
 namespace {
 
-std::vector<std::string> serialNumbers(int count) {
-    std::vector<std::string> titles;
-    titles.reserve(static_cast<std::size_t>(count));
+TitleList serialNumbers(int count) {
+    TitleList titles;
     for (int unit = 0; unit < count; ++unit) {
         char title[18];
         std::snprintf(title, sizeof title, "4B 58 00 00 %02X %02X", (unit >> 8) & 0xFF,
                       unit & 0xFF);
-        titles.emplace_back(title);
+        titles.push_back(title);
     }
     return titles;
 }
@@ -44,7 +43,7 @@ void fillPlainComboBox(benchmark::State& state) {
         QComboBox comboBox;
         time(state, [&] {
             QStringList texts;
-            for (const std::string& title : titles) {
+            for (const std::string_view title : titles) {
                 texts.append(qtText(title));
             }
             comboBox.addItems(texts);

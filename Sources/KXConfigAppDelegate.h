@@ -23,7 +23,7 @@
 #include "UnitParameters.h"
 #include "support/Authorization.h"
 #include "support/InstanceNames.h"
-#include "support/LogText.h"
+#include "LogText.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"

@@ -11,7 +11,7 @@
 #pragma once
 
 #include "TitleList.h"
-#include "support/LogText.h"
+#include "LogText.h"
 
 #include <optional>
 #include <string>
@@ -80,7 +80,8 @@ class TextView {
 public:
     virtual ~TextView() = default;
 
-    // However long the text is, it takes no time worth mentioning.
+    // Replaces all of the text, by a copy of this one. How long it is makes no difference, but to a
+    // screen reader, which is told all of it.
     virtual void setString(const LogText& text) = 0;
 
     // Replaces the empty range at the end of the text.

@@ -1,6 +1,6 @@
 // The titles of a pop-up, in order, as texts in UTF-8 that stand one behind the other in memory: a
-// list of a million short titles takes two blocks and no more bytes than it needs, where a text of
-// its own for each of them is a million blocks.
+// list of a million short titles takes two blocks, where a text of its own for each of them is a
+// million blocks.
 //
 // Any thread, one at a time. Copies are independent.
 
@@ -29,6 +29,7 @@ public:
 
     bool empty() const { return _ends.empty(); }
     std::size_t size() const { return _ends.size(); }
+    std::size_t bytes() const { return _text.size(); } // of all titles together
 
     // A view of the title at that index, from 0, valid until the list changes or is moved. There is
     // such a title.
@@ -49,7 +50,7 @@ public:
     // Any range of texts that are no part of this list.
     template<class Titles>
     void append(const Titles& titles) {
-        for (const std::string_view title : titles) {
+        for (const auto& title : titles) {
             push_back(title);
         }
     }
@@ -62,7 +63,7 @@ private:
 class TitleList::const_iterator {
 public:
     using iterator_concept = std::random_access_iterator_tag;
-    using iterator_category = std::input_iterator_tag; // of those that give references
+    using iterator_category = std::input_iterator_tag; // the older ones give references
     using value_type = std::string_view;
     using difference_type = std::ptrdiff_t;
     using reference = std::string_view;

@@ -1,8 +1,5 @@
-// Searching the event log's text, and how its rows are shown.
-
 #include "platform/qt/LogSearch.h"
 
-#include "platform/qt/LogRowLayout.h"
 #include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
@@ -21,18 +18,6 @@ std::string found(const LogText& text, std::optional<LogRange> range) {
 }
 
 } // namespace
-
-TEST(LogRowLayout, ShowsControlCharactersAsWhatCannotHarm) {
-    const std::string text("a\0\r\x1B\x7F\tb", 7);
-    EXPECT_EQ(utf8Text(shownText(text)), "a����\tb");
-    EXPECT_EQ(utf8Text(shownText("\u0085\u2028\u2029\u202E\u2066\u200F")), "������");
-    EXPECT_EQ(utf8Text(shownText("Ä網😀 שלום")), "Ä網😀 שלום");
-}
-
-TEST(LogRowLayout, ShowsTheCarriageReturnThatEndsACommandAsABlank) {
-    EXPECT_EQ(utf8Text(shownText("command: ^^IdV\r")), "command: ^^IdV ");
-    EXPECT_EQ(utf8Text(shownText("\r\r")), "� ");
-}
 
 TEST(LogSearch, FindsInEitherDirectionAndEitherCase) {
     LogText text;

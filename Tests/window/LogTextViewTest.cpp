@@ -167,6 +167,16 @@ TEST_F(LogTextViewTest, TheWheelScrollsByLines) {
     EXPECT_EQ(firstRow(), 0);
 }
 
+TEST_F(LogTextViewTest, ATextThatIsSetIsSharedNotCopied) {
+    LogText text(numberedLines(20'000));
+    view.setText(text);
+    EXPECT_EQ(view.text().pieceAt(0).text.data(), text.pieceAt(0).text.data());
+    const std::string before = text.text();
+    text.append("\nonly here");
+    showAppended("\nonly there");
+    EXPECT_TRUE(view.text().text() == before + "\nonly there");
+}
+
 TEST_F(LogTextViewTest, AMillionLinesScrollAndSelect) {
     std::string text;
     for (int line = 0; line < 1'000'000; ++line) {

@@ -11,7 +11,7 @@ constexpr auto whatIsTyped = Qt::MatchStartsWith | Qt::MatchWrap;
 class TitleListModelTest : public ::testing::Test {
 protected:
     TitleListModelTest() {
-        model.setTitles({"apple", "Banana", "büro", "bus", "\u212Aelvin", "pear"});
+        model.setTitles({"apple", "Banana", "büro", "bus", "\u212Aelvin", "kelvin", "pear", ""});
     }
 
     // The row of the first title from `start` on, -1 when there is none.
@@ -28,7 +28,7 @@ protected:
 } // namespace
 
 TEST_F(TitleListModelTest, FindsTheFirstTitleThatBeginsWithWhatIsTyped) {
-    EXPECT_EQ(found(0, "p"), 5);
+    EXPECT_EQ(found(0, "p"), 6);
     EXPECT_EQ(found(0, "b"), 1);
     EXPECT_EQ(found(0, "bu"), 3);
     EXPECT_EQ(found(0, "apple"), 0);
@@ -53,20 +53,28 @@ TEST_F(TitleListModelTest, CapitalsAndSmallLettersAreOneAlsoBeyondASCII) {
     EXPECT_EQ(found(0, "BAN"), 1);
     EXPECT_EQ(found(0, QString::fromUtf8("BÜR")), 2);
     EXPECT_EQ(found(0, "k"), 4); // the Kelvin sign is a capital K
+    EXPECT_EQ(found(5, "\u212AEL"), 5);
 }
 
 TEST_F(TitleListModelTest, EverySearchFindsWhatTheBaseClassFinds) {
-    for (const QString& typed : {QString(), QString("b"), QString::fromUtf8("bÜ"), QString("P"),
-                                 QString("pear tree"), QString("kel")}) {
-        for (int start = 0; start < model.rowCount(); ++start) {
+    const auto expectSame = [&](int start, int role, const QString& text, int hits,
+                                Qt::MatchFlags flags) {
+        const QModelIndex from = model.index(start);
+        EXPECT_EQ(model.match(from, role, text, hits, flags),
+                  model.QAbstractListModel::match(from, role, text, hits, flags))
+            << text.toStdString() << " from " << start << ", role " << role << ", hits " << hits
+            << ", flags " << static_cast<int>(flags);
+    };
+    for (const char* const text : {"", "b", "bÜ", "P", "pear tree", "kel", "\u212Ael", "\u017F"}) {
+        for (int start = -1; start < model.rowCount(); ++start) {
             for (const Qt::MatchFlags flags :
-                 {Qt::MatchFlags(whatIsTyped), Qt::MatchFlags(Qt::MatchStartsWith),
-                  Qt::MatchFlags(Qt::MatchContains), Qt::MatchFlags(Qt::MatchExactly)}) {
+                 {Qt::MatchFlags(whatIsTyped), whatIsTyped | Qt::MatchCaseSensitive,
+                  Qt::MatchFlags(Qt::MatchStartsWith), Qt::MatchFlags(Qt::MatchContains),
+                  Qt::MatchFlags(Qt::MatchExactly)}) {
                 for (const int hits : {1, 2, -1}) {
-                    EXPECT_EQ(model.match(model.index(start), Qt::DisplayRole, typed, hits, flags),
-                              model.QAbstractListModel::match(model.index(start), Qt::DisplayRole,
-                                                              typed, hits, flags))
-                        << typed.toStdString() << " from " << start;
+                    expectSame(start, Qt::DisplayRole, QString::fromUtf8(text), hits, flags);
+                    expectSame(start, Qt::EditRole, QString::fromUtf8(text), hits, flags);
+                    expectSame(start, Qt::ToolTipRole, QString::fromUtf8(text), hits, flags);
                 }
             }
         }

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "support/LogText.h"
+#include "LogText.h"
 
 namespace kx {
 

@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "support/LogText.h"
+#include "LogText.h"
 
 #include <QColor>
 #include <QFont>

@@ -18,7 +18,7 @@
 
 #include "platform/qt/LogLines.h"
 #include "platform/qt/LogMovement.h"
-#include "support/LogText.h"
+#include "LogText.h"
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>
@@ -46,6 +46,8 @@ public:
 
     // All of it, also what no frame has shown yet.
     QString toPlainText() const;
+
+    // What lies between two positions, in this order.
     QString textBetween(std::size_t from, std::size_t to) const;
     const LogText& text() const { return _text; }
 

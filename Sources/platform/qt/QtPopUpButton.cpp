@@ -53,6 +53,7 @@ TitleList withoutRepetitions(const TitleList& titles) {
 // Both lists are in order as a rule, and then compared in one pass.
 TitleList joined(const TitleList& titles, const TitleList& added) {
     TitleList all;
+    all.reserve(titles.size() + added.size(), titles.bytes() + added.bytes());
     if (isAscending(titles) && isAscending(added)) {
         std::ranges::set_difference(titles, added, std::back_inserter(all));
         all.append(added);

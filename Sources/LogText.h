@@ -4,7 +4,7 @@
 // be shown in one piece. Appending costs what is appended, however long the text is: it lies in
 // pieces of whole rows, and none is touched again once it is full. Beside its bytes the text takes
 // two for each row. A copy shares all pieces that are full: it takes next to nothing, and is
-// independent of its origin all the same.
+// independent of its origin all the same. One that was moved from is only assigned to.
 //
 // Positions count bytes from the beginning and stand before a character or at the end. Characters,
 // where they are counted, are UTF-16 units. Main thread only. Views of the text are valid until it
@@ -90,7 +90,7 @@ private:
     mutable std::vector<std::size_t> _charactersBeforeChunk; // for the first chunks, ever more
 };
 
-// The UTF-16 units of a text, and the bytes of its first units, or of all when there are fewer.
+// The UTF-16 units of a text, counted without a look at whether it is well-formed, and the bytes of its first units, or of all when there are fewer.
 std::size_t charactersIn(std::string_view text);
 std::size_t bytesOfCharacters(std::string_view text, std::size_t characters);
 

@@ -1,4 +1,4 @@
-#include "support/LogText.h"
+#include "LogText.h"
 
 #include <algorithm>
 #include <limits>
