@@ -7,7 +7,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Werror)
+    -Wall -Wextra -Wpedantic -Wconversion -Werror
+    # Where files are compiled together, a name hides only another file's.
+    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
 
 # At -O3 GCC 12 takes the joining of a literal and a text for an overlapping copy (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)

@@ -2,9 +2,13 @@
 
 #pragma once
 
+#include "System Configuration/SystemCallWrappers.h"
+
 #include <gtest/gtest.h>
+#include <sys/types.h>
 #include <sys/wait.h>
 
+#include <array>
 #include <cerrno>
 #include <chrono>
 #include <cstddef>
@@ -17,6 +21,13 @@
 
 namespace kx {
 
+// What can be read there at once.
+inline std::string textIn(int descriptor) {
+    std::array<char, 512> buffer{};
+    const ssize_t count = Read(descriptor, buffer.data(), buffer.size());
+    return {buffer.data(), static_cast<std::size_t>(count < 0 ? 0 : count)};
+}
+
 class ChildFixture : public testing::Test {
 public:
     // Here, when what a test's own fixture holds is gone.
@@ -26,6 +37,10 @@ public:
     }
 
 protected:
+    static inline const std::string shell = "/bin/sh";
+    // What a text holds before the call that is to set it.
+    static inline const std::string untouched = "untouched";
+
     // The arguments that make /bin/sh run this script.
     static std::vector<std::string> script(const std::string& text) { return {"-c", text}; }
 

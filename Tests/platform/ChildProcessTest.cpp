@@ -17,8 +17,6 @@ namespace kx {
 
 namespace {
 
-const std::string shell = "/bin/sh";
-
 class ChildProcessTest : public ChildFixture {
 protected:
     // What the child writes to its standard output until it ends.

@@ -8,11 +8,11 @@ namespace kx {
 
 namespace {
 
-constexpr std::uint32_t loopback = 0x7F000001U;
+constexpr std::uint32_t ipv4Loopback = 0x7F000001U;
 
 class SystemTrait {
 public:
-    SystemTrait() { EXPECT_EQ(_calls.bind(_sender, dataForAddress(loopback, 0)), 0); }
+    SystemTrait() { EXPECT_EQ(_calls.bind(_sender, dataForAddress(ipv4Loopback, 0)), 0); }
     ~SystemTrait() { _calls.close(_sender); }
     SystemTrait(const SystemTrait&) = delete;
     SystemTrait& operator=(const SystemTrait&) = delete;
@@ -22,7 +22,7 @@ public:
     // The system's own choice of a port, given back.
     Bytes freeAddress() {
         const int descriptor = _calls.socket();
-        EXPECT_EQ(_calls.bind(descriptor, dataForAddress(loopback, 0)), 0);
+        EXPECT_EQ(_calls.bind(descriptor, dataForAddress(ipv4Loopback, 0)), 0);
         Bytes address = _calls.localAddress(descriptor).value_or(Bytes{});
         _calls.close(descriptor);
         return address;

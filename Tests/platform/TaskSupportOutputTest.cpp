@@ -10,9 +10,6 @@ namespace kx {
 
 namespace {
 
-const std::string shell = "/bin/sh";
-const std::string untouched = "untouched";
-
 class Task : public ChildFixture {
 protected:
     int run(const std::string& path, const std::vector<std::string>& arguments,

@@ -1,5 +1,4 @@
 #include "ChildFixture.h"
-#include "System Configuration/SystemCallWrappers.h"
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "platform/posix/PollRunLoop.h"
@@ -10,7 +9,6 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <csignal>
 #include <stdexcept>
 #include <utility>
@@ -21,14 +19,6 @@ namespace {
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
-
-const std::string shell = "/bin/sh";
-
-std::string textIn(int descriptor) {
-    std::array<char, 512> buffer{};
-    const ssize_t count = Read(descriptor, buffer.data(), buffer.size());
-    return {buffer.data(), static_cast<std::size_t>(count < 0 ? 0 : count)};
-}
 
 class PipedTask : public ChildFixture {
 protected:

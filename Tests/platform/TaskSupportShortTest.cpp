@@ -9,7 +9,6 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
 #include <csignal>
 #include <exception>
@@ -17,9 +16,6 @@
 namespace kx {
 
 namespace {
-
-const std::string shell = "/bin/sh";
-const std::string untouched = "untouched";
 
 class ShortTask : public ChildFixture {
 protected:
@@ -34,12 +30,6 @@ protected:
 
     std::optional<std::string> output;
 };
-
-std::string textIn(int descriptor) {
-    std::array<char, 512> buffer{};
-    const ssize_t count = Read(descriptor, buffer.data(), buffer.size());
-    return {buffer.data(), static_cast<std::size_t>(count < 0 ? 0 : count)};
-}
 
 } // namespace
 

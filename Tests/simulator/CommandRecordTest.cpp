@@ -13,7 +13,7 @@
 namespace kx::simulator {
 namespace {
 
-constexpr Network networkAddress{.base = 0xC0000200, .prefixLength = 24};
+constexpr Network unitNetwork{.base = 0xC0000200, .prefixLength = 24};
 
 class CommandRecordTest : public testing::Test {
 protected:
@@ -26,7 +26,7 @@ protected:
     }
 
     const std::string _path = testing::TempDir() + "a record with blanks";
-    SimulatedUnit _unit{factorySettings(2, networkAddress)};
+    SimulatedUnit _unit{factorySettings(2, unitNetwork)};
 };
 
 TEST_F(CommandRecordTest, CommandIsALineOfSerialDestinationAndBytes) {

@@ -11,24 +11,24 @@
 namespace kx::simulator {
 namespace {
 
-constexpr HardwareAddress hostHardware{0x02, 0, 0, 0, 0, 0x01};
+constexpr HardwareAddress programHardware{0x02, 0, 0, 0, 0, 0x01};
 constexpr IPv4 hostAddress = 0x0A000001;
-constexpr Network networkAddress{.base = 0x0A000000, .prefixLength = 16};
+constexpr Network wideNetwork{.base = 0x0A000000, .prefixLength = 16};
 
 std::vector<SimulatedUnit> units(unsigned count) {
     std::vector<SimulatedUnit> all;
     for (unsigned number = 1; number <= count; ++number) {
-        all.emplace_back(factorySettings(number, networkAddress));
+        all.emplace_back(factorySettings(number, wideNetwork));
     }
     return all;
 }
 
 HardwareAddress hardwareOf(unsigned number) {
-    return factorySettings(number, networkAddress).hardwareAddress;
+    return factorySettings(number, wideNetwork).hardwareAddress;
 }
 
 IPv4 addressOf(unsigned number) {
-    return factorySettings(number, networkAddress).address;
+    return factorySettings(number, wideNetwork).address;
 }
 
 class UnitNetworkTest : public testing::Test {
@@ -42,7 +42,7 @@ protected:
 
     std::vector<OutgoingFrame> send(const HardwareAddress& hardware, IPv4 address,
                                     std::string_view command, std::uint16_t port = 3520) {
-        return _network->receive(datagramFrame({.source = {hostHardware, hostAddress, 3521},
+        return _network->receive(datagramFrame({.source = {programHardware, hostAddress, 3521},
                                                 .destination = {hardware, address, port},
                                                 .payload = bytesOfText(command)}),
                                  UdpChecksum::complete);
@@ -55,7 +55,7 @@ protected:
     // The ARP answers to a question for `address` that was sent to `hardware`.
     std::vector<OutgoingFrame> ask(IPv4 address,
                                    const HardwareAddress& hardware = broadcastHardware) {
-        Bytes frame = arpAnnouncementFrame(hostHardware, address);
+        Bytes frame = arpAnnouncementFrame(programHardware, address);
         std::ranges::copy(hardware, frame.begin());
         return _network->receive(frame, UdpChecksum::complete);
     }
@@ -93,7 +93,7 @@ TEST_F(UnitNetworkTest, RepliesGoToTheSenderFromThePortThatItUsed) {
     play(1);
     const Datagram reply = onlyDatagram(send(hardwareOf(1), addressOf(1), "^^IdX", 10000));
     EXPECT_EQ(reply.source.port, 10000);
-    EXPECT_EQ(reply.destination.hardware, hostHardware);
+    EXPECT_EQ(reply.destination.hardware, programHardware);
     EXPECT_EQ(reply.destination.address, hostAddress);
     EXPECT_EQ(reply.destination.port, 3521);
 }
@@ -102,7 +102,7 @@ TEST_F(UnitNetworkTest, OnlyTheAddressedUnitAnswers) {
     play(3);
     EXPECT_EQ(onlyDatagram(send(hardwareOf(2), addressOf(2), "^^IdX")).source.hardware,
               hardwareOf(2));
-    EXPECT_TRUE(send(hostHardware, addressOf(2), "^^IdX").empty());
+    EXPECT_TRUE(send(programHardware, addressOf(2), "^^IdX").empty());
 }
 
 TEST_F(UnitNetworkTest, OtherPortsAreNotHeard) {
@@ -223,7 +223,7 @@ TEST_F(UnitNetworkTest, TenThousandUnitsAnswerOneBroadcastAndAreEachFound) {
 TEST_F(UnitNetworkTest, ForeignFramesOfEveryLengthDoNoHarm) {
     play(3);
     std::mt19937 random(1);
-    const Bytes request = datagramFrame({.source = {hostHardware, hostAddress, 3521},
+    const Bytes request = datagramFrame({.source = {programHardware, hostAddress, 3521},
                                          .destination = {broadcastHardware, 0xFFFFFFFF, 3520},
                                          .payload = bytesOfText("^^IdX")});
     for (std::size_t length = 0; length <= 200; ++length) {

@@ -180,13 +180,13 @@ TEST(GXDictionaryTable, DictionaryOfDictionariesUsesTheEntriesOwnKeys) {
 }
 
 // Under other keys than the entries' own.
-DictionaryOfDictionaries foreignKeys() {
+DictionaryOfDictionaries foreignDictionaries() {
     return {{"1", KeyedEntry::named("b")->nodeDictionary()},
             {"2", KeyedEntry::named("a")->nodeDictionary()}};
 }
 
 TEST(GXDictionaryTable, LoadedDictionaryReplacesTheContentsByEntriesUnderTheirOwnKeys) {
-    const DictionaryOfDictionaries source = foreignKeys();
+    const DictionaryOfDictionaries source = foreignDictionaries();
     DescendingTable table;
     addNames(table, {"z"});
     table.sortKeys();
@@ -202,7 +202,8 @@ TEST(GXDictionaryTable, LoadedDictionaryReplacesTheContentsByEntriesUnderTheirOw
 TEST(GXDictionaryTable, LoadedDictionaryLeavesOutWhatTheClassRefuses) {
     GXDictionaryTable table;
     EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(
-        foreignKeys(), [](const PropertyDictionary& dictionary) -> std::shared_ptr<GXStateEntry> {
+        foreignDictionaries(),
+        [](const PropertyDictionary& dictionary) -> std::shared_ptr<GXStateEntry> {
             return dictionary.at("name") == "b" ? entryOfClass<KeyedEntry>(dictionary) : nullptr;
         }));
     EXPECT_EQ(table.description(), "Table = {name = b};");
