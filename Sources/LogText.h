@@ -90,7 +90,8 @@ private:
     mutable std::vector<std::size_t> _charactersBeforeChunk; // for the first chunks, ever more
 };
 
-// The UTF-16 units of a text, counted without a look at whether it is well-formed, and the bytes of its first units, or of all when there are fewer.
+// The UTF-16 units of a text, counted without a look at whether it is well-formed, and the bytes of
+// its first units, or of all when there are fewer.
 std::size_t charactersIn(std::string_view text);
 std::size_t bytesOfCharacters(std::string_view text, std::size_t characters);
 

@@ -10,8 +10,8 @@
 
 #pragma once
 
-#include "TitleList.h"
 #include "LogText.h"
+#include "TitleList.h"
 
 #include <optional>
 #include <string>

@@ -11,6 +11,12 @@ target_compile_options(kxwarnings INTERFACE
     # Where files are compiled together, a name hides only another file's.
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
 
+# There GCC also takes the anonymous namespace of an included file for that of a header.
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(kxwarnings INTERFACE
+        $<$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>:-Wno-subobject-linkage>)
+endif()
+
 # At -O3 GCC 12 takes the joining of a literal and a text for an overlapping copy (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(kxwarnings INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)
