@@ -45,8 +45,9 @@ QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const 
         return QAbstractListModel::match(start, role, value, hits, flags);
     }
     const QString text = value.toString();
-    for (int distance = 0; distance < rowCount(); ++distance) {
-        const int row = (start.row() + distance) % rowCount();
+    const int rows = rowCount();
+    for (int distance = 0; distance < rows; ++distance) {
+        const int row = (start.row() + distance) % rows;
         if (startsWith(_titles[static_cast<std::size_t>(row)], text)) {
             return {index(row)};
         }
