@@ -60,6 +60,16 @@ TEST(TitleList, GrowsAtItsEnd) {
     EXPECT_EQ(titlesOf(list), (Titles{"one", "two", "three", "four"}));
 }
 
+TEST(TitleList, AppendsTextsThatARangeMakesAsItGoes) {
+    const Titles titles{"a title too long for", "a text without memory"};
+    TitleList list;
+    list.append(titles | std::views::transform([](const std::string& title) {
+                    return title + " that is made where it is asked for";
+                }));
+    EXPECT_EQ(titlesOf(list), (Titles{"a title too long for that is made where it is asked for",
+                                      "a text without memory that is made where it is asked for"}));
+}
+
 TEST(TitleList, ACopyIsIndependentOfItsOrigin) {
     TitleList list{"one"};
     TitleList copy = list;

@@ -51,10 +51,10 @@ TitleList withoutRepetitions(const TitleList& titles) {
 }
 
 // Both lists are in order as a rule, and then compared in one pass.
-TitleList joined(const TitleList& titles, const TitleList& added) {
+TitleList joined(const TitleList& titles, const TitleList& added, bool areAscending) {
     TitleList all;
     all.reserve(titles.size() + added.size(), titles.bytes() + added.bytes());
-    if (isAscending(titles) && isAscending(added)) {
+    if (areAscending) {
         std::ranges::set_difference(titles, added, std::back_inserter(all));
         all.append(added);
         return all;
@@ -92,7 +92,7 @@ void QtPopUpButton::addItemsWithTitles(TitleList titles) {
     const auto selected = titleOfSelectedItem();
     bool areAscending = isAscending(titles);
     if (_model.rowCount() > 0 || !areAscending) {
-        titles = joined(_model.titles(), titles);
+        titles = joined(_model.titles(), titles, _isAscending && areAscending);
         areAscending = isAscending(titles);
     }
     const std::string first(titles.empty() ? "" : titles[0]);
