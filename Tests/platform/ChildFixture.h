@@ -30,12 +30,20 @@ inline std::string textIn(int descriptor) {
 
 class ChildFixture : public testing::Test {
 public:
-    // Here, when what a test's own fixture holds is gone. A lookup that an earlier test gave up may
-    // still open and close descriptors of its own.
+    // A lookup that an earlier test gave up still opens and closes descriptors of its own for a
+    // moment.
+    static void SetUpTestSuite() {
+        EXPECT_TRUE(waitUntil([] {
+            const std::ptrdiff_t before = openDescriptors();
+            std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            return openDescriptors() == before;
+        }));
+    }
+
+    // Here, when what a test's own fixture holds is gone.
     ~ChildFixture() override {
         EXPECT_TRUE(hasNoChild()) << "a child is left";
-        EXPECT_TRUE(waitUntil([this] { return openDescriptors() <= _openAtFirst; }))
-            << "a descriptor is left";
+        EXPECT_EQ(openDescriptors(), _openAtFirst) << "a descriptor is left";
     }
 
 protected:
