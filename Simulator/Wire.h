@@ -22,15 +22,17 @@ using IPv4 = std::uint32_t;
 
 inline constexpr HardwareAddress broadcastHardware{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
 
-// The lowest `width` bytes of `value`, most significant first, at the end of `bytes`.
-inline void appendNumber(Bytes& bytes, std::uint64_t value, std::size_t width) {
-    for (std::size_t shift = width * 8; shift != 0; shift -= 8) {
-        bytes.push_back(static_cast<std::uint8_t>(value >> (shift - 8)));
-    }
-}
-
 inline void appendBytes(Bytes& bytes, ByteView more) {
     bytes.insert(bytes.end(), more.begin(), more.end());
+}
+
+// The lowest `width` bytes of `value`, most significant first, at the end of `bytes`.
+inline void appendNumber(Bytes& bytes, std::uint64_t value, std::size_t width) {
+    std::array<std::uint8_t, sizeof value> digits{};
+    for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, value >>= 8) {
+        *digit = static_cast<std::uint8_t>(value);
+    }
+    appendBytes(bytes, ByteView(digits).last(width));
 }
 
 // The number in `width` bytes at `offset`. The caller has checked that they are there.

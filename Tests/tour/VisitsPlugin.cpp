@@ -1,0 +1,29 @@
+#include "VisitsPlugin.h"
+
+#include "Siege.h"
+#include "Soak.h"
+#include "Steps.h"
+#include "Visit.h"
+
+namespace kx {
+
+namespace {
+
+template<class Kind>
+QObject* begin() {
+    return beginVisit([](WindowDriver& driver) { Kind(driver).run(); });
+}
+
+} // namespace
+
+QObject* VisitsPlugin::create(const QString& name, const QString& /*specification*/) {
+    if (name == "kxsteps") {
+        return begin<Steps>();
+    }
+    if (name == "kxsoak") {
+        return begin<Soak>();
+    }
+    return name == "kxsiege" ? begin<Siege>() : nullptr;
+}
+
+} // namespace kx
