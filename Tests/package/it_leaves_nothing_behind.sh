@@ -24,11 +24,7 @@ make_root() {
     local suite
     # shellcheck disable=SC1091
     suite=$(. /etc/os-release && printf '%s' "$VERSION_CODENAME")
-    # shellcheck disable=SC2016
-    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
-        'Created-By: Packages' 'Origin: Debian' >"$scratch/sources"
-    [[ -s $scratch/sources ]] || fail 'this machine has no source of Debian packages'
-    apt-config dump Acquire >"$scratch/apt.conf"
+    "$here/../../.ci/package-source" "$suite" "$scratch"
     mmdebstrap --quiet --variant=essential --include="$(dependencies)" \
         --aptopt="$scratch/apt.conf" "$suite" "$root" "$scratch/sources" ||
         fail 'the root file system was not made'
