@@ -1,22 +1,11 @@
-// The wire format between the application and its units, in both directions.
+// What a unit is told: a command is ASCII text, "^^Id", one letter, an argument, without a length and
+// without a checksum.
 //
-// A command is ASCII text: "^^Id", one letter, an argument; no length, no checksum. A reply is a
-// header of 21 bytes and a payload:
-//
-//   offset 0   reply marker, "^"; the byte after it is never looked at
-//          2   reply tag, 3 bytes, for example "<U>"
-//          5   unit ID, 6 bytes, when the reply tag is "<U>"
-//         11   serial tag, 3 bytes
-//         14   serial number, 6 bytes, when the serial tag is "<S>"
-//         20   payload marker; the payload counts only behind "$"
-//         21   payload: a parameter list ("<M>..."), an acknowledgement ("ok..."), or any text
-//
-// Everything here is pure: texts and bytes in, values out, no state, any thread. Texts are UTF-8.
+// Everything here is pure: texts in, texts out, no state, any thread. Texts are UTF-8.
 
 #pragma once
 
-#include "UnitParameters.h"
-#include "support/ByteRange.h"
+#include "units/UnitParameter.h"
 
 #include <cstdint>
 #include <ctime>
@@ -81,38 +70,5 @@ std::string optionTextForTitle(std::string_view title, const std::tm& now);
 // The port to which a unit's commands go, by its "device Port number" text: the low 16 bits of the
 // number, or 3520 for an absent or an empty text.
 std::uint16_t unitPortForText(std::optional<std::string_view> devicePort);
-
-// --- Replies ---
-
-enum class PacketKind {
-    tooShort, // fewer than 5 bytes
-    unknown,  // does not begin with the reply marker
-    reply,
-};
-
-enum class PayloadKind {
-    none,            // no payload marker
-    parameterList,   // behind the marker stands "<M>"
-    acknowledgement, // behind the marker stand "ok" and one more ASCII character
-    other,
-};
-
-struct Reply {
-    std::optional<std::string> tag; // absent when it is not UTF-8
-
-    // As IdentityText.h writes them; absent without their tags, the unit ID also when it has no
-    // text.
-    std::optional<std::string> unitID;
-    std::optional<std::string> serialNumber;
-
-    PayloadKind payloadKind = PayloadKind::none;
-    ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
-};
-
-PacketKind packetKindOfDatagram(ByteView datagram);
-
-// Takes apart a datagram of the kind `reply`; the payload looks into it. Throws RangeFailure when a
-// field that its tag announces, unit ID or serial number, is cut short.
-Reply replyFromDatagram(ByteView datagram);
 
 } // namespace kx

@@ -16,22 +16,7 @@ namespace {
 static_assert(parameterRequestCommand.starts_with(commandPrefix));
 static_assert(restoreCommand.starts_with(commandPrefix));
 
-constexpr std::string_view unitIDTag = "<U>";
-constexpr std::string_view serialTag = "<S>";
-constexpr std::string_view parameterListTag = "<M>";
-constexpr std::string_view acknowledgementPrefix = "ok";
-constexpr std::string_view payloadMarker = "$";
 constexpr std::string_view clockOption = "-Z";
-constexpr std::uint8_t replyMarker = '^';
-
-constexpr std::size_t shortestReply = 5;
-constexpr std::size_t replyTagOffset = 2;
-constexpr std::size_t unitIDOffset = 5;
-constexpr std::size_t serialTagOffset = 11;
-constexpr std::size_t serialOffset = 14;
-constexpr std::size_t payloadMarkerOffset = 20;
-constexpr std::size_t payloadOffset = 21;
-constexpr std::size_t tagLength = 3;
 
 std::string withoutCharacter(std::string_view text, char unwanted) {
     std::string result(text);
@@ -52,27 +37,6 @@ std::string commandText(char letter, std::string_view argument) {
     result += letter;
     result += argument;
     return result;
-}
-
-bool isText(const std::optional<std::string>& text, std::string_view expected) {
-    return text.has_value() && *text == expected;
-}
-
-void takePayload(ByteView datagram, Reply& reply) {
-    if (!isText(stringForDataSubrange(datagram, payloadMarkerOffset, payloadMarker.size()),
-                payloadMarker)) {
-        return;
-    }
-    const auto tag = stringForDataSubrange(datagram, payloadOffset, tagLength);
-    if (isText(tag, parameterListTag)) {
-        reply.payloadKind = PayloadKind::parameterList;
-        reply.payload = datagram.subspan(payloadOffset);
-    } else if (tag.has_value() && tag->starts_with(acknowledgementPrefix)) {
-        reply.payloadKind = PayloadKind::acknowledgement;
-    } else {
-        reply.payloadKind = PayloadKind::other;
-        reply.payload = datagram.subspan(payloadMarkerOffset);
-    }
 }
 
 } // namespace
@@ -159,26 +123,6 @@ std::uint16_t unitPortForText(std::optional<std::string_view> devicePort) {
         return defaultUnitPort;
     }
     return static_cast<std::uint16_t>(integerValue(*devicePort));
-}
-
-PacketKind packetKindOfDatagram(ByteView datagram) {
-    if (datagram.size() < shortestReply) {
-        return PacketKind::tooShort;
-    }
-    return datagram.front() == replyMarker ? PacketKind::reply : PacketKind::unknown;
-}
-
-Reply replyFromDatagram(ByteView datagram) {
-    Reply reply;
-    reply.tag = stringForDataSubrange(datagram, replyTagOffset, tagLength);
-    if (isText(reply.tag, unitIDTag)) {
-        reply.unitID = unitIDforData(subrange(datagram, unitIDOffset, identityLength));
-    }
-    if (isText(stringForDataSubrange(datagram, serialTagOffset, tagLength), serialTag)) {
-        reply.serialNumber = serialNumberText(subrange(datagram, serialOffset, identityLength));
-    }
-    takePayload(datagram, reply);
-    return reply;
 }
 
 } // namespace kx

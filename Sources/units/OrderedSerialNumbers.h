@@ -16,7 +16,7 @@
 
 namespace kx {
 
-class AscendingKeys {
+class OrderedSerialNumbers {
 public:
     void clear() { _keys.clear(); }
 

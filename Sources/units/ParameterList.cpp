@@ -1,21 +1,16 @@
-#include "UnitParameters.h"
+#include "units/ParameterList.h"
 
-#include "IdentityText.h"
 #include "addresses/IPv4Address.h"
-#include "support/Require.h"
+#include "units/IdentityText.h"
 
-#include <algorithm>
+#include <array>
 #include <charconv>
+#include <optional>
+#include <utility>
 
 namespace kx {
 
 namespace {
-
-enum class ValueForm : std::uint8_t { colonHex, blankHex, address, port, unitID };
-
-constexpr std::size_t valueLengthOfForm(ValueForm form) {
-    return form == ValueForm::address ? 4 : form == ValueForm::port ? 2 : identityLength;
-}
 
 // What a line of the display text begins with, joined when the program is compiled.
 class LineStart {
@@ -40,34 +35,41 @@ private:
 };
 
 struct Item {
-    std::string_view tag; // one letter between "<" and ">"
+    char letter; // of its tag
     ValueForm form;
     std::size_t valueLength;
     std::optional<UnitParameter> parameter; // absent: shown under its tag and not kept
     LineStart lineStart;
 
-    consteval Item(std::string_view itsTag, ValueForm itsForm,
-                   std::optional<UnitParameter> itsParameter)
-        : tag(itsTag)
+    consteval Item(std::string_view tag, ValueForm itsForm,
+                   std::optional<UnitParameter> itsParameter, std::string_view name)
+        : letter(tag[1])
         , form(itsForm)
-        , valueLength(valueLengthOfForm(itsForm))
+        , valueLength(lengthOfValue(itsForm))
         , parameter(itsParameter)
-        , lineStart(itsParameter.has_value() ? nameOfUnitParameter(*itsParameter) : itsTag) {}
+        , lineStart(name) {}
 };
 
-using enum UnitParameter;
+constexpr std::size_t itemCount = unitParameterCount + 1;
 
-constexpr std::array<Item, 9> items{{
-    {"<M>", ValueForm::colonHex, internalMACAddress},
-    {"<I>", ValueForm::address, internalIPAddress},
-    {"<D>", ValueForm::address, destinationIPAddress},
-    {"<T>", ValueForm::port, destinationPortNumber},
-    {"<P>", ValueForm::port, devicePortNumber},
-    {"<U>", ValueForm::unitID, unitID},
-    {"<C>", ValueForm::colonHex, destinationMACAddress},
-    {"<O>", ValueForm::colonHex, std::nullopt},
-    {"<S>", ValueForm::blankHex, serialNumber},
-}};
+template<std::size_t... rows>
+consteval std::array<Item, itemCount> itemsOfRows(std::index_sequence<rows...> /*rows*/) {
+    return {Item(parameterTable[rows].tag, parameterTable[rows].form,
+                 parameterTable[rows].parameter, parameterTable[rows].name)...,
+            Item(uninterpretedTag, ValueForm::hardwareAddress, std::nullopt, uninterpretedTag)};
+}
+
+constexpr auto items = itemsOfRows(std::make_index_sequence<unitParameterCount>());
+
+// The index of the item for each letter of a tag; itemCount for every other byte.
+constexpr std::array<std::uint8_t, 256> itemForLetter = [] {
+    std::array<std::uint8_t, 256> indexes{};
+    indexes.fill(itemCount);
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        indexes.at(static_cast<unsigned char>(items.at(i).letter)) = static_cast<std::uint8_t>(i);
+    }
+    return indexes;
+}();
 
 constexpr std::size_t tagLength = 3;
 constexpr std::string_view missingText = "(null)";
@@ -85,12 +87,8 @@ const Item* itemAtFrontOf(ByteView list) {
     if (list.size() < tagLength || list[0] != '<' || list[2] != '>') {
         return nullptr;
     }
-    for (const Item& item : items) {
-        if (list[1] == static_cast<std::uint8_t>(item.tag[1])) {
-            return &item;
-        }
-    }
-    return nullptr;
+    const std::size_t index = itemForLetter[list[1]];
+    return index < itemCount ? &items[index] : nullptr;
 }
 
 // Room for one value's text, so that decoding a list needs no storage but its display text.
@@ -132,19 +130,21 @@ std::uint32_t bigEndianNumber(ByteView bytes) {
 // False when the value has no text.
 bool takeValue(ValueForm form, ByteView value, ValueText& text) {
     switch (form) {
-    case ValueForm::colonHex:
+    case ValueForm::hardwareAddress:
         text.setHex(value, ':');
         return true;
-    case ValueForm::blankHex:
+    case ValueForm::serialNumber:
         text.setHex(value, ' ');
         return true;
-    case ValueForm::address:
+    case ValueForm::ipv4Address:
         text.setText(stringForIP(bigEndianNumber(value)));
         return true;
-    case ValueForm::port:
+    case ValueForm::listeningPort:
+    case ValueForm::anyPort:
         text.setNumber(bigEndianNumber(value));
         return true;
     case ValueForm::unitID:
+    case ValueForm::none:
         break;
     }
     const auto identity = unitIDforData(value);
@@ -157,7 +157,7 @@ void appendLineStart(std::string& displayText, const Item& item, const ShownPara
         displayText += item.lineStart.view();
     } else {
         displayText += "\n\t";
-        displayText += (*names)[static_cast<std::size_t>(*item.parameter)];
+        displayText += (*names)[indexOf(*item.parameter)];
         displayText += ": ";
     }
 }
@@ -179,25 +179,6 @@ void decodeItem(const Item& item, ByteView value, const ShownParameterNames* nam
 }
 
 } // namespace
-
-std::optional<UnitParameter> unitParameterForName(std::string_view name) {
-    const auto found =
-        std::find_if(allUnitParameters.begin(), allUnitParameters.end(),
-                     [&](UnitParameter each) { return nameOfUnitParameter(each) == name; });
-    return found == allUnitParameters.end() ? std::nullopt : std::optional(*found);
-}
-
-void UnitRecord::setValue(UnitParameter parameter, std::string_view text) {
-    require(text.size() <= longestText, "text.size() <= longestText", "Sources/UnitParameters");
-    Slot& slot = _slots[static_cast<std::size_t>(parameter)];
-    slot.length = static_cast<std::uint8_t>(text.copy(slot.text.data(), longestText));
-    slot.isPresent = true;
-}
-
-bool operator==(const UnitRecord& left, const UnitRecord& right) {
-    return std::all_of(allUnitParameters.begin(), allUnitParameters.end(),
-                       [&](UnitParameter each) { return left.value(each) == right.value(each); });
-}
 
 DecodedUnitParameters decodeUnitParameters(ByteView list, const ShownParameterNames* names) {
     DecodedUnitParameters decoded;

@@ -1,4 +1,4 @@
-#include "AscendingKeys.h"
+#include "units/OrderedSerialNumbers.h"
 
 #include "support/Require.h"
 
@@ -13,9 +13,9 @@ constexpr std::size_t shortestRun = 64;
 
 } // namespace
 
-void AscendingKeys::add(std::string_view key) {
+void OrderedSerialNumbers::add(std::string_view key) {
     require(key.size() <= UnitRecord::longestText, "key.size() <= UnitRecord::longestText",
-            "Sources/AscendingKeys");
+            "Sources/OrderedSerialNumbers");
     _keys.emplace_back(key);
     if (_keys.size() % shortestRun != 0) {
         return;
@@ -28,7 +28,7 @@ void AscendingKeys::add(std::string_view key) {
 
 // The lengths of the runs are the binary digits of their sum. From the shortest one on they become
 // one, which is as well the runs that it was. The longest one, mostly by far, is not touched.
-TitleList AscendingKeys::list() {
+TitleList OrderedSerialNumbers::list() {
     std::size_t merged = _keys.size() % shortestRun;
     std::size_t rest = _keys.size() - merged;
     std::sort(_keys.begin() + static_cast<std::ptrdiff_t>(rest), _keys.end());
@@ -52,7 +52,7 @@ TitleList AscendingKeys::list() {
 }
 
 // The last keys are a run of `first` and one of `second`.
-void AscendingKeys::mergeLast(std::size_t first, std::size_t second) {
+void OrderedSerialNumbers::mergeLast(std::size_t first, std::size_t second) {
     const auto middle = _keys.end() - static_cast<std::ptrdiff_t>(second);
     std::inplace_merge(middle - static_cast<std::ptrdiff_t>(first), middle, _keys.end());
 }

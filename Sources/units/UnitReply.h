@@ -1,0 +1,55 @@
+// What a unit says: a datagram taken apart into its header and its payload.
+//
+// A reply is a header of 21 bytes and a payload:
+//
+//   offset 0   reply marker, "^"; the byte after it is never looked at
+//          2   reply tag, 3 bytes, for example "<U>"
+//          5   unit ID, 6 bytes, when the reply tag is "<U>"
+//         11   serial tag, 3 bytes
+//         14   serial number, 6 bytes, when the serial tag is "<S>"
+//         20   payload marker; the payload counts only behind "$"
+//         21   payload: a parameter list ("<M>..."), an acknowledgement ("ok..."), or any text
+//
+// Everything here is pure: bytes in, values out, no state, any thread.
+
+#pragma once
+
+#include "support/ByteRange.h"
+
+#include <optional>
+#include <string>
+
+namespace kx {
+
+enum class PacketKind {
+    tooShort, // fewer than 5 bytes
+    unknown,  // does not begin with the reply marker
+    reply,
+};
+
+enum class PayloadKind {
+    none,            // no payload marker
+    parameterList,   // behind the marker stands "<M>"
+    acknowledgement, // behind the marker stand "ok" and one more ASCII character
+    other,
+};
+
+struct Reply {
+    std::optional<std::string> tag; // absent when it is not UTF-8
+
+    // As IdentityText.h writes them; absent without their tags, the unit ID also when it has no
+    // text.
+    std::optional<std::string> unitID;
+    std::optional<std::string> serialNumber;
+
+    PayloadKind payloadKind = PayloadKind::none;
+    ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
+};
+
+PacketKind packetKindOfDatagram(ByteView datagram);
+
+// Takes apart a datagram of the kind `reply`; the payload looks into it. Throws RangeFailure when a
+// field that its tag announces, unit ID or serial number, is cut short.
+Reply replyFromDatagram(ByteView datagram);
+
+} // namespace kx
