@@ -897,12 +897,12 @@ Befehl empfangen: ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>Fax (privat)</translation>
+        <translation>Privat (Fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>Fax (Arbeit)</translation>
+        <translation>Arbeit (Fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>

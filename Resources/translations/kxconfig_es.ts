@@ -897,12 +897,12 @@ Orden recibida: ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>fax de casa</translation>
+        <translation>casa (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>fax del trabajo</translation>
+        <translation>trabajo (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>

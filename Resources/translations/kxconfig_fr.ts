@@ -897,12 +897,12 @@ Commande reçue : ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>fax domicile</translation>
+        <translation>domicile (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>fax bureau</translation>
+        <translation>bureau (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
