@@ -146,6 +146,16 @@ TEST_F(MainWindowApply, AnEditThatIsGivenUpIsForgottenByTheQuietLine) {
     EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
 }
 
+TEST_F(MainWindowApply, AnEditorThatClosesBecauseAnotherCellBecomesCurrentTellsItsOwnCell) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "10001");
+    auto& editRow = control<QTableView>("editParameterTableView");
+    editRow.setCurrentIndex(editRow.model()->index(0, 0));
+    EXPECT_TRUE(editorCloses());
+    EXPECT_EQ(editedValue(), "10001");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2711: device port 10001.");
+}
+
 TEST_F(MainWindowApply, TheQuietLineShowsTheUnitsAnswer) {
     launchWithTwoUnits();
     typeInstead(UnitParameter::destinationPortNumber, "3523");
