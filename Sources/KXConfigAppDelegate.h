@@ -62,6 +62,9 @@ public:
 
         // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
         ReceiveBuffers* receiveBuffers = nullptr;
+
+        // Whether the help has a page at all, which tells why it did not open. Empty: it has.
+        std::function<bool(std::string_view page)> hasHelpPage = {};
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.

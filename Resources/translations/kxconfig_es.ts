@@ -512,6 +512,11 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>The pages of the help are not installed.</source>
+        <translation>Las páginas de la ayuda no están instaladas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, pulse Alt+Mayús+F1.</translation>
     </message>

@@ -512,6 +512,11 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>The pages of the help are not installed.</source>
+        <translation>Les pages de l’aide ne sont pas installées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, appuyez sur Alt+Maj+F1.</translation>
     </message>

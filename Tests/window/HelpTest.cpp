@@ -406,6 +406,17 @@ TEST_F(MainWindowTest, AHelpThatCannotBeOpenedIsSaidInTheQuietLine) {
     EXPECT_EQ(quietLine(), "");
 }
 
+TEST_F(MainWindowTest, TheKeyOfTheViewerIsNotAdvisedWhereThatHasNothingToShow) {
+    launch();
+    const HelpFolder empty;
+    QtHelpServices services(empty.path());
+    openHelp = [&] { return openHelpAnchor("index", services); };
+    helpIsThere = hasHelpPage("index", services);
+    press(Qt::Key_F1, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 1; }));
+    EXPECT_EQ(quietLine(), "The pages of the help are not installed.");
+}
+
 TEST_F(MainWindowTest, TheControllerIsTheDelegateOfItsWindowWhileItIsConnected) {
     const QtApplicationWindows windows;
     EXPECT_EQ(window.windowDelegate(), &controller);
