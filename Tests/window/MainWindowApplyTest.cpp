@@ -196,6 +196,42 @@ TEST_F(MainWindowApply, RefusedRightsAreAModalAlertAndTheCommandIsSent) {
                            "made for 10.0.0.7: administrator rights were not given.");
 }
 
+// The window lists the interfaces when it becomes active and had none. Some desktops make it active
+// while the alert stands, if only to hand the keyboard on.
+TEST_F(MainWindowApply, WhatTheWindowAsksForWhileTheAlertStandsComesAfterTheAction) {
+    launch();
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(std::chrono::seconds(2));
+    ASSERT_FALSE(control<QComboBox>("interfacePopUp").isEnabled());
+    authority.answerDialogsWith(errAuthorizationDenied);
+    typeInstead(UnitParameter::internalIPAddress, "10.0.0.7");
+    Texts shown;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, &person, [&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box == nullptr || !box->isActiveWindow()) {
+            return;
+        }
+        person.stop();
+        interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window.isActiveWindow(); }));
+        shown.push_back(selected("interfacePopUp"));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    person.start(std::chrono::milliseconds(1));
+    newlySent();
+    systemCalls.setObserver([&](const ScriptedSystemCalls::Call& call) {
+        if (call.operation == ScriptedSystemCalls::Operation::sendTo) {
+            shown.push_back(selected("interfacePopUp"));
+        }
+    });
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{"^^IdI0A000007"});
+    EXPECT_EQ(shown, (Texts{"No configured interfaces", "No configured interfaces"}));
+    EXPECT_EQ(selected("interfacePopUp"), "Ethernet (eth0)");
+}
+
 TEST_F(MainWindowApply, NothingOfAnEditReachesAControllerThatWasTakenAway) {
     launchWithTwoUnits();
     typeInstead(UnitParameter::devicePortNumber, "1");
