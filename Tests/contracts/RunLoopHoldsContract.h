@@ -137,9 +137,14 @@ TYPED_TEST_P(RunLoopHoldsContract, ACallbackMayBeginAHoldThatStandsWhenItHasRetu
         this->trait.setReadable(descriptor, ++reads < 2);
         call("r");
     });
+    const int other = this->newReadableDescriptor();
+    const auto otherWatch = this->watch(other, [&] {
+        this->trait.setReadable(other, false);
+        call("s");
+    });
     const auto first = this->callAfter(0, [&] { call("a"); });
     const auto second = this->callAfter(0, [&] { call("b"); });
-    for (std::size_t count = 1; count <= 4; ++count) {
+    for (std::size_t count = 1; count <= 5; ++count) {
         ASSERT_TRUE(this->trait.runUntil([&] { return this->called.size() >= count; }));
         this->runAWhile();
         EXPECT_EQ(this->called.size(), count); // one alone, of all that could be called
