@@ -143,6 +143,8 @@ void KXConfigAppDelegate::myHelp() {
     }
     if (_services.openHelpAnchor("index")) {
         endMessage();
+    } else if (_services.hasHelpPage && !_services.hasHelpPage("index")) {
+        showMessage(localizedText("The pages of the help are not installed."));
     } else {
         showMessage(
             localizedText("Help could not be opened in a web browser. To read it here, press "

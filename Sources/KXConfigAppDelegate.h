@@ -5,10 +5,10 @@
 // and services through interfaces, so it knows no screen and no operating system.
 //
 // Threading: everything on the main thread; each operation runs to completion before the next
-// event, but for arpSetEAForIP(), whose alert lets events happen while it stands. Ownership: the
-// controller owns what its fields hold; controls and services belong to whoever made it and must
-// outlive it. Failures of the network go to the event log and nothing stops the program; data that
-// breaks its own format is abandoned with a line in the system log.
+// event. arpSetEAForIP(), which asks and alerts a person, holds the run loop meanwhile. Ownership:
+// the controller owns what its fields hold; controls and services belong to whoever made it and
+// must outlive it. Failures of the network go to the event log and nothing stops the program; data
+// that breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -62,6 +62,9 @@ public:
 
         // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
         ReceiveBuffers* receiveBuffers = nullptr;
+
+        // Whether the help has a page at all, which tells why it did not open. Empty: it has.
+        std::function<bool(std::string_view page)> hasHelpPage = {};
     };
 
     // The unit registry: units by the text of their serial number, in ascending order.
@@ -121,15 +124,15 @@ public:
     void edit_serial();
 
     // Also writes a static ARP entry for the new address, and sends to that address, whatever
-    // became of the entry: the unit does not hold it yet. What is sent is for the unit that was
-    // selected at first, on its port, though another may be by then. The unit's record loses its
-    // address, so further commands are not sent until the unit has told its parameters.
+    // became of the entry: the unit does not hold it yet. The unit's record loses its address, so
+    // further commands are not sent until the unit has told its parameters.
     void edit_internalIP();
 
     // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
     // hardware address text, up to the first that is absent. The result is that of
     // Authorization::runToolWithArgs(), and -1, with an alert, when rights were not given. Blocks
-    // while a person is asked, and up to two seconds for the tool.
+    // while a person is asked or told, and up to two seconds for the tool; what comes from the
+    // network or falls due meanwhile is handled afterwards.
     std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                const std::optional<std::string>& ip);
 

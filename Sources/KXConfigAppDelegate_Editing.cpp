@@ -129,22 +129,22 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     EditReport report = reportOfEdit(UnitParameter::internalIPAddress);
     const auto command = editCommand(UnitParameter::internalIPAddress, address);
-    // Another unit may be selected once a person has been asked.
-    const auto unit = _selectedUnit;
-    const auto port = unitRequestPort();
     const auto result = arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address);
     report.arpEntryDidGive(_arpRightsWereGiven ? std::optional(result) : std::nullopt);
-    const auto record = unit.has_value() ? _devicesD.find(*unit) : _devicesD.end();
+    const auto record =
+        _selectedUnit.has_value() ? _devicesD.find(*_selectedUnit) : _devicesD.end();
     if (record != _devicesD.end()) {
         record->second.removeValue(UnitParameter::internalIPAddress);
     }
-    if (sendCommandToAddressOnPort(command, address, port) && unit == _selectedUnit) {
+    if (sendCommandToAddress(command, address)) {
         beginReport(std::move(report));
     }
 }
 
 std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                                 const std::optional<std::string>& ip) {
+    // A dialogue runs the event loop. What comes from elsewhere waits for the end of the action.
+    const auto hold = _services.runLoop.holdCallbacks();
     _arpRightsWereGiven = authenticateForARP();
     if (!_arpRightsWereGiven) {
         _outlets.alert->runModal(

@@ -3,10 +3,10 @@
 // Main thread only. The controller never owns a control. No operation calls back into the
 // controller from inside itself, with three exceptions: Window::makeFirstResponder() and
 // endEditing() may hand a half-typed value to the table's data source, and TableView::reloadData()
-// may ask that data source for its values. While Alert::runModal() waits, the run loop goes on:
-// whatever comes from the network or is due reaches the controller, but nothing that a person does.
-// In particular, selecting an item or setting a text from code runs no action, nor does a reload
-// that drops the selection.
+// may ask that data source for its values. In particular, selecting an item or setting a text from
+// code runs no action, nor does a reload that drops the selection. Nothing that a person does
+// reaches the controller while Alert::runModal() waits. The event loop runs meanwhile, so the
+// controller holds the run loop's callbacks back.
 
 #pragma once
 

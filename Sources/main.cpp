@@ -70,7 +70,11 @@ int main(int argc, char* argv[]) {
                                    return kx::openHelpAnchor(anchor, helpServices);
                                },
                            .authorizationService = authorizationService.get(),
-                           .receiveBuffers = &receiveBuffers});
+                           .receiveBuffers = &receiveBuffers,
+                           .hasHelpPage =
+                               [&helpServices](std::string_view page) {
+                                   return kx::hasHelpPage(page, helpServices);
+                               }});
     window.connectActions(controller);
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
         window.disconnectActions();

@@ -512,6 +512,11 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>The pages of the help are not installed.</source>
+        <translation>Die Seiten der Hilfe sind nicht installiert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>Die Hilfe konnte nicht im Webbrowser geöffnet werden. Um sie hier zu lesen, drücken Sie Alt+Umschalt+F1.</translation>
     </message>
@@ -897,12 +902,12 @@ Befehl empfangen: ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>Fax (privat)</translation>
+        <translation>Privat (Fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>Fax (Arbeit)</translation>
+        <translation>Arbeit (Fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>

@@ -512,6 +512,11 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>The pages of the help are not installed.</source>
+        <translation>Las páginas de la ayuda no están instaladas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, pulse Alt+Mayús+F1.</translation>
     </message>
@@ -897,12 +902,12 @@ Orden recibida: ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>fax de casa</translation>
+        <translation>casa (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>fax del trabajo</translation>
+        <translation>trabajo (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>

@@ -512,6 +512,11 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
+        <source>The pages of the help are not installed.</source>
+        <translation>Les pages de l’aide ne sont pas installées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, appuyez sur Alt+Maj+F1.</translation>
     </message>
@@ -897,12 +902,12 @@ Commande reçue : ^^%@</translation>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>home fax</source>
-        <translation>fax domicile</translation>
+        <translation>domicile (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>work fax</source>
-        <translation>fax bureau</translation>
+        <translation>bureau (fax)</translation>
     </message>
     <message>
         <location filename="../../Sources/support/LabelledNames.cpp"/>

@@ -4,8 +4,20 @@
 
 namespace kx {
 
+namespace {
+
+std::optional<std::string> pathOfPage(std::string_view page, const HelpServices& services) {
+    return services.pathForResource(page, "html", "homepage");
+}
+
+} // namespace
+
+bool hasHelpPage(std::string_view page, const HelpServices& services) {
+    return pathOfPage(page, services).has_value();
+}
+
 bool openHelpFile(std::string_view page, HelpServices& services) {
-    const auto path = services.pathForResource(page, "html", "homepage");
+    const auto path = pathOfPage(page, services);
     const auto url = path.has_value() ? fileURLForPath(*path) : std::nullopt;
     return url.has_value() && services.openInBrowser(*url);
 }

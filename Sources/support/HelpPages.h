@@ -40,6 +40,9 @@ public:
     virtual bool openAnchorInBook(std::string_view anchor, std::string_view book) = 0;
 };
 
+// Whether the program came with this page of the help.
+bool hasHelpPage(std::string_view page, const HelpServices& services);
+
 // Opens a page of the help in the browser; false when there is no such page or no browser.
 bool openHelpFile(std::string_view page, HelpServices& services);
 

@@ -15,7 +15,9 @@ namespace kx {
 // last "[". The labels with a rank, in the user's language and whatever their case, are "work"
 // (01), "home" (02), "iPhone" (03), "mobile" (04), "main" (05), "home fax" (06), "work fax" (07),
 // "pager" (08), "other" (09) and "vacation" (10). The first of them with which the text behind the
-// "[" begins gives its rank, so "home fax" counts as "home"; any other text stands for itself.
+// "[" begins gives its rank, so "home fax" counts as "home"; any other text stands for itself. The
+// translations keep it so: in every language the label of a fax begins with that of its place, and
+// 06 and 07 never come up.
 //
 // Without a colon the key is the whole text; without a "[" it ends before the colon.
 std::string compareStringForCID(std::string_view text);

@@ -56,6 +56,15 @@ public:
     // callback is running may be called again meanwhile. What a person does on the screen waits
     // until it is over.
     virtual void runUntil(const std::function<bool()>& isDone) = 0;
+
+    // Holds the loop until the handle is destroyed: nothing is called, though the loop may run, as
+    // it does under an alert that a person has to dismiss before an action can go on. Afterwards
+    // the loop calls, in its next turns and never from inside the end of the hold, whatever can be
+    // read then, and what fell due meanwhile in the order of its due times. What waits does not
+    // keep the loop busy. Where several holds stand, the last one to end counts.
+    //
+    // Inside a hold runUntil() must not have to wait, since nothing would come.
+    virtual Handle holdCallbacks() = 0;
 };
 
 } // namespace kx

@@ -5,6 +5,7 @@
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopContract, PollRunLoopTrait);
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopCallsContract, PollRunLoopTrait);
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopWatchesContract, PollRunLoopTrait);
+//     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopHoldsContract, PollRunLoopTrait);
 //
 // with a trait that is made anew for each test and has
 //
@@ -21,7 +22,7 @@
 //     // The loop's own clock.
 //     std::chrono::nanoseconds now();
 //
-// The second and the third have headers of their own. PipeDescriptors (contracts/PipeDescriptors.h)
+// All but the first have headers of their own. PipeDescriptors (contracts/PipeDescriptors.h)
 // gives a trait of a real loop its descriptors.
 
 #pragma once

@@ -124,14 +124,15 @@ protected:
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
     bool helpOpens = true;
-    KXConfigAppDelegate controller{window.outlets(),
-                                   {runLoop, hostResolver, systemCalls, wallClock, application,
-                                    &interfaces,
-                                    [this](std::string_view anchor) {
-                                        helpAnchors.emplace_back(anchor);
-                                        return helpOpens;
-                                    },
-                                    &authority, &receiveBuffers}};
+    bool helpIsThere = true;
+    KXConfigAppDelegate controller{
+        window.outlets(),
+        {runLoop, hostResolver, systemCalls, wallClock, application, &interfaces,
+         [this](std::string_view anchor) {
+             helpAnchors.emplace_back(anchor);
+             return helpOpens;
+         },
+         &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; }}};
 
 private:
     static std::string destination(const Bytes& record) {

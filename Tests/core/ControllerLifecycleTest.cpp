@@ -253,6 +253,18 @@ TEST_F(ControllerLifecycle, HelpThatDoesNotOpenSaysHowToReadIt) {
     EXPECT_EQ(quietLine(), "");
 }
 
+// No key would open it either.
+TEST_F(ControllerLifecycle, HelpThatIsNotThereIsNotAdvised) {
+    launch();
+    helpOpens = false;
+    helpIsThere = false;
+    controller.myHelp();
+    EXPECT_EQ(quietLine(), "The pages of the help are not installed.");
+    helpIsThere = true;
+    controller.myHelp();
+    EXPECT_NE(quietLine(), "The pages of the help are not installed.");
+}
+
 TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
     launch();
     discover({SampleUnit()});

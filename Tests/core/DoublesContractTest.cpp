@@ -8,6 +8,7 @@
 #include "contracts/ReceiveBuffersContract.h"
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopHoldsContract.h"
 #include "contracts/RunLoopWatchesContract.h"
 #include "contracts/SystemLogContract.h"
 #include "contracts/WallClockContract.h"
@@ -155,6 +156,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, AuthorizationServiceContract, ScriptedA
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopCallsContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopWatchesContract, ManualRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopHoldsContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, ReceiveBuffersContract, ScriptedReceiveBuffersTrait);

@@ -6,6 +6,7 @@
 
 #pragma once
 
+#include "support/Require.h"
 #include "support/RunLoop.h"
 
 #include <algorithm>
@@ -47,6 +48,7 @@ public:
     // since a real loop would rest for ever.
     void runUntil(const std::function<bool()>& isDone) override {
         while (!isDone()) {
+            require(!isHeld(), "the loop is not held", "Sources/support/RunLoop");
             if (!readyWatches().empty()) {
                 _now += Milliseconds(1);
             } else if (!_calls.empty()) {
@@ -58,14 +60,19 @@ public:
         }
     }
 
+    Handle holdCallbacks() override {
+        ++_holds;
+        return std::make_unique<Registration>([this] { --_holds; });
+    }
+
     // Lets time pass. The clock stops at each due time on the way, in order, for as many turns as
     // there are calls due; calls asked for meanwhile run too when they fall due within the time.
     void advanceBy(Milliseconds time) {
         const auto end = _now + time;
         do {
-            _now = _calls.empty() ? end : std::clamp(_calls.begin()->first.first, _now, end);
+            _now = nothingIsDueBy(end) ? end : std::max(_calls.begin()->first.first, _now);
             runOneTurn();
-        } while (!_calls.empty() && _calls.begin()->first.first <= end);
+        } while (!nothingIsDueBy(end));
         _now = end;
     }
 
@@ -86,18 +93,20 @@ public:
         }
     }
 
-    // Calls the watches of readable descriptors and the calls that are due, each once; no time
-    // passes. What is asked for meanwhile waits for the next turn.
+    // Calls the watches of readable descriptors and the calls that are due, each once, or nothing
+    // while the loop is held; no time passes. What is asked for meanwhile waits for the next turn.
     void runOneTurn() {
         const auto firstLater = _nextOrder;
         for (const auto order : readyWatches()) {
             const auto watch = _watches.find(order);
-            if (watch != _watches.end() && _readable.count(watch->second.descriptor) > 0) {
+            if (!isHeld() && watch != _watches.end() &&
+                _readable.count(watch->second.descriptor) > 0) {
                 const auto readable = watch->second.readable;
                 (*readable)();
             }
         }
-        while (!_calls.empty() && _calls.begin()->first <= CallKey{_now, firstLater - 1}) {
+        while (!isHeld() && !_calls.empty() &&
+               _calls.begin()->first <= CallKey{_now, firstLater - 1}) {
             const auto due = _calls.extract(_calls.begin());
             due.mapped()();
         }
@@ -135,6 +144,11 @@ private:
         std::function<void()> _end;
     };
 
+    bool isHeld() const { return _holds > 0; }
+    bool nothingIsDueBy(Milliseconds time) const {
+        return isHeld() || _calls.empty() || _calls.begin()->first.first > time;
+    }
+
     std::vector<std::uint64_t> readyWatches() const {
         std::vector<std::uint64_t> ready;
         for (const auto& [order, watch] : _watches) {
@@ -145,6 +159,7 @@ private:
         return ready;
     }
 
+    int _holds = 0;
     Milliseconds _now{0};
     std::uint64_t _nextOrder = 1;
     std::map<std::uint64_t, Watch> _watches;

@@ -5,6 +5,7 @@
 #include "support/AuthorizationService.h"
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <set>
 #include <string>
@@ -38,6 +39,9 @@ public:
 
     // What the next dialogs end with; success at first.
     void answerDialogsWith(std::int32_t status) { _dialogAnswer = status; }
+
+    // Runs while a person is asked.
+    void setMeanwhile(std::function<void()> meanwhile) { _meanwhile = std::move(meanwhile); }
 
     // What starting a tool gives from now on; success at first.
     void startToolsWith(std::int32_t status) { _startStatus = status; }
@@ -80,6 +84,9 @@ private:
                 return errAuthorizationInteractionNotAllowed;
             }
             ++_service._dialogs;
+            if (_service._meanwhile) {
+                _service._meanwhile();
+            }
             const bool isKept = (flags & kAuthorizationFlagExtendRights) != 0;
             if (isKept && _service._dialogAnswer == errAuthorizationSuccess) {
                 _held.insert(right.value);
@@ -105,6 +112,7 @@ private:
     bool _isAbsent = false;
     std::int32_t _dialogAnswer = errAuthorizationSuccess;
     std::int32_t _startStatus = errAuthorizationSuccess;
+    std::function<void()> _meanwhile;
     std::vector<Request> _requests;
     std::vector<Run> _runs;
     std::vector<std::pair<Reference*, AuthorizationReference::ToolEndAction>> _running;

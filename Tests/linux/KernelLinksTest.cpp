@@ -31,6 +31,7 @@ public:
         return nullptr;
     }
     void runUntil(const std::function<bool()>& /*isDone*/) override {}
+    Handle holdCallbacks() override { return nullptr; }
 };
 
 // A kernel that answers in time, or does not.

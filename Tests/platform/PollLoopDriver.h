@@ -19,8 +19,14 @@ inline bool runLoopUntil(PollRunLoop& loop, const std::function<bool()>& conditi
 }
 
 inline void runLoopFor(PollRunLoop& loop, std::chrono::milliseconds time) {
-    const auto end = loop.callOnceAfter(time, [&loop] { loop.stop(); });
-    loop.run();
+    using std::chrono::milliseconds;
+    using std::chrono::steady_clock;
+    const auto end = steady_clock::now() + time;
+    auto left = time;
+    do {
+        loop.runOnce(left);
+        left = std::chrono::ceil<milliseconds>(end - steady_clock::now());
+    } while (left > milliseconds::zero());
 }
 
 } // namespace kx

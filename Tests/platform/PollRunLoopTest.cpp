@@ -2,6 +2,7 @@
 #include "contracts/PipeDescriptors.h"
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopHoldsContract.h"
 #include "contracts/RunLoopWatchesContract.h"
 
 #include <sys/resource.h>
@@ -31,6 +32,7 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopContract, PollRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopCallsContract, PollRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopWatchesContract, PollRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopHoldsContract, PollRunLoopTrait);
 
 } // namespace
 
@@ -112,6 +114,21 @@ TEST(PollRunLoop, APollThatFailsDoesNotMakeTheLoopSpin) {
     EXPECT_FALSE(hasCalled);
     EXPECT_GE(time, milliseconds(5));
     EXPECT_LT(time, std::chrono::seconds(2)) << "the poll did not fail";
+}
+
+TEST(PollRunLoop, AHeldLoopRests) {
+    PollRunLoop loop;
+    PipeDescriptors pipes;
+    const int descriptor = pipes.newDescriptor();
+    pipes.setReadable(descriptor, true);
+    int calls = 0;
+    const auto watch = loop.watchForReading(descriptor, [&] { ++calls; });
+    const auto call = loop.callOnceAfter(milliseconds(0), [&] { ++calls; });
+    const auto hold = loop.holdCallbacks();
+    const auto start = steady_clock::now();
+    EXPECT_FALSE(loop.runOnce(milliseconds(20)));
+    EXPECT_GE(steady_clock::now() - start, milliseconds(20));
+    EXPECT_EQ(calls, 0);
 }
 
 TEST(PollRunLoop, AHangUpCountsAsReadable) {

@@ -63,6 +63,7 @@ public:
         });
     }
     void runUntil(const std::function<bool()>& isDone) override { _loop.runUntil(isDone); }
+    Handle holdCallbacks() override { return _loop.holdCallbacks(); }
 
     std::string words;
 

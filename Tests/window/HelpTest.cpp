@@ -51,9 +51,18 @@ public:
                                              "[ \"$*\" = 'query default text/html' ] || exit 1\n"
                                              "echo ") +
                                   desktopEntry + '\n';
-        writeFile(program(), script, QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner);
+        writeFile(program(), script, executable);
     }
     void remove() { QFile::remove(program()); }
+
+    // A file beside the register's program, where programs are looked for.
+    QString addFile(const char* name, QFile::Permissions permissions) {
+        writeFile(_folder.filePath(name), "#!/bin/sh\n", permissions);
+        return _folder.filePath(name);
+    }
+
+    static constexpr QFile::Permissions executable =
+        QFile::ReadOwner | QFile::ExeOwner | QFile::WriteOwner;
 
 private:
     QString program() const { return _folder.filePath("xdg-mime"); }
@@ -206,8 +215,32 @@ TEST(QtHelpServices, ABrowserOfTheEnvironmentCounts) {
     ScriptedRegister desktop;
     desktop.setBrowser("");
     EXPECT_FALSE(QtHelpServices("/nowhere").openInBrowser("file:///a.html"));
-    qputenv("BROWSER", "lynx");
-    EXPECT_TRUE(QtHelpServices("/nowhere").openInBrowser("file:///a.html"));
+    const QByteArray path = desktop.addFile("lynx", ScriptedRegister::executable).toLocal8Bit();
+    for (const QByteArray& value : {QByteArray("lynx"), path, path + " -force_html %s",
+                                    QByteArray("no-such-browser:lynx"), ":" + path + ":"}) {
+        qputenv("BROWSER", value);
+        EXPECT_TRUE(QtHelpServices("/nowhere").openInBrowser("file:///a.html")) << value.data();
+    }
+    EXPECT_EQ(browser.urls.size(), 5U);
+    qunsetenv("BROWSER");
+}
+
+// The opener would try nothing then, and report success.
+TEST(QtHelpServices, AnEnvironmentThatNamesNoProgramThatRunsLeavesItToTheRegister) {
+    RecordedBrowser browser;
+    ScriptedRegister desktop;
+    desktop.addFile("xdg-open", ScriptedRegister::executable); // the opener does not call itself
+    const QByteArray text = desktop.addFile("text", QFile::ReadOwner).toLocal8Bit();
+    for (const QByteArray& value :
+         {QByteArray(), QByteArray(":"), QByteArray("  "), QByteArray("no-such-browser %s"), text,
+          QByteArray("/"), QByteArray("xdg-open"), QByteArray("xdg-open:no-such-browser")}) {
+        qputenv("BROWSER", value);
+        desktop.setBrowser("");
+        EXPECT_FALSE(QtHelpServices("/nowhere").openInBrowser("file:///a.html")) << value.data();
+        desktop.setBrowser("browser.desktop");
+        EXPECT_TRUE(QtHelpServices("/nowhere").openInBrowser("file:///a.html")) << value.data();
+    }
+    EXPECT_EQ(browser.urls.size(), 8U);
     qunsetenv("BROWSER");
 }
 
@@ -371,6 +404,17 @@ TEST_F(MainWindowTest, AHelpThatCannotBeOpenedIsSaidInTheQuietLine) {
     openHelp = [] { return true; };
     click("helpButton");
     EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(MainWindowTest, TheKeyOfTheViewerIsNotAdvisedWhereThatHasNothingToShow) {
+    launch();
+    const HelpFolder empty;
+    QtHelpServices services(empty.path());
+    openHelp = [&] { return openHelpAnchor("index", services); };
+    helpIsThere = hasHelpPage("index", services);
+    press(Qt::Key_F1, Qt::AltModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 1; }));
+    EXPECT_EQ(quietLine(), "The pages of the help are not installed.");
 }
 
 TEST_F(MainWindowTest, TheControllerIsTheDelegateOfItsWindowWhileItIsConnected) {

@@ -146,6 +146,16 @@ TEST_F(MainWindowApply, AnEditThatIsGivenUpIsForgottenByTheQuietLine) {
     EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
 }
 
+TEST_F(MainWindowApply, AnEditorThatClosesBecauseAnotherCellBecomesCurrentTellsItsOwnCell) {
+    launchWithTwoUnits();
+    typeInstead(UnitParameter::devicePortNumber, "10001");
+    auto& editRow = control<QTableView>("editParameterTableView");
+    editRow.setCurrentIndex(editRow.model()->index(0, 0));
+    EXPECT_TRUE(editorCloses());
+    EXPECT_EQ(editedValue(), "10001");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2711: device port 10001.");
+}
+
 TEST_F(MainWindowApply, TheQuietLineShowsTheUnitsAnswer) {
     launchWithTwoUnits();
     typeInstead(UnitParameter::destinationPortNumber, "3523");
@@ -184,6 +194,42 @@ TEST_F(MainWindowApply, RefusedRightsAreAModalAlertAndTheCommandIsSent) {
     EXPECT_EQ(newlySent(), Texts{"^^IdI0A000007"});
     EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was "
                            "made for 10.0.0.7: administrator rights were not given.");
+}
+
+// The window lists the interfaces when it becomes active and had none. Some desktops make it active
+// while the alert stands, if only to hand the keyboard on.
+TEST_F(MainWindowApply, WhatTheWindowAsksForWhileTheAlertStandsComesAfterTheAction) {
+    launch();
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(std::chrono::seconds(2));
+    ASSERT_FALSE(control<QComboBox>("interfacePopUp").isEnabled());
+    authority.answerDialogsWith(errAuthorizationDenied);
+    typeInstead(UnitParameter::internalIPAddress, "10.0.0.7");
+    Texts shown;
+    QTimer person;
+    QObject::connect(&person, &QTimer::timeout, &person, [&] {
+        QWidget* const box = QApplication::activeModalWidget();
+        if (box == nullptr || !box->isActiveWindow()) {
+            return;
+        }
+        person.stop();
+        interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitFor([this] { return window.isActiveWindow(); }));
+        shown.push_back(selected("interfacePopUp"));
+        QTest::keyClick(box, Qt::Key_Return);
+    });
+    person.start(std::chrono::milliseconds(1));
+    newlySent();
+    systemCalls.setObserver([&](const ScriptedSystemCalls::Call& call) {
+        if (call.operation == ScriptedSystemCalls::Operation::sendTo) {
+            shown.push_back(selected("interfacePopUp"));
+        }
+    });
+    click("applyButton");
+    EXPECT_EQ(newlySent(), Texts{"^^IdI0A000007"});
+    EXPECT_EQ(shown, (Texts{"No configured interfaces", "No configured interfaces"}));
+    EXPECT_EQ(selected("interfacePopUp"), "Ethernet (eth0)");
 }
 
 TEST_F(MainWindowApply, NothingOfAnEditReachesAControllerThatWasTakenAway) {

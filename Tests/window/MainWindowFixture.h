@@ -134,16 +134,18 @@ protected:
     ScriptedNetworkInterfaces interfaces;
     std::vector<std::string> helpAnchors;
     std::function<bool()> openHelp = [] { return true; }; // what becomes of each
+    bool helpIsThere = true;
     ScriptedAuthorizationService authority;
     MainWindow window;
     KXConfigAppDelegate controller{
-        window.outlets(), KXConfigAppDelegate::Services{runLoop, hostResolver, systemCalls,
-                                                        wallClock, application, &interfaces,
-                                                        [this](std::string_view anchor) {
-                                                            helpAnchors.emplace_back(anchor);
-                                                            return openHelp();
-                                                        },
-                                                        &authority}};
+        window.outlets(),
+        KXConfigAppDelegate::Services{
+            runLoop, hostResolver, systemCalls, wallClock, application, &interfaces,
+            [this](std::string_view anchor) {
+                helpAnchors.emplace_back(anchor);
+                return openHelp();
+            },
+            &authority, nullptr, [this](std::string_view) { return helpIsThere; }}};
 
 private:
     QWindow* windowWithKeyboard();

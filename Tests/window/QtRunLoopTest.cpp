@@ -3,16 +3,22 @@
 #include "contracts/PipeDescriptors.h"
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
+#include "contracts/RunLoopHoldsContract.h"
 #include "contracts/RunLoopWatchesContract.h"
+#include "platform/qt/QtAlert.h"
 #include "support/TaskSupport.h"
 
 #include <qpa/qwindowsysteminterface.h>
 #include <unistd.h>
 
 #include <QAbstractEventDispatcher>
+#include <QApplication>
+#include <QEventLoop>
 #include <QKeyEvent>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTimer>
+#include <QWidget>
 #include <QWindow>
 
 namespace kx {
@@ -40,6 +46,15 @@ private:
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopContract, QtRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopCallsContract, QtRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopWatchesContract, QtRunLoopTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, RunLoopHoldsContract, QtRunLoopTrait);
+
+class PaintCounter final : public QWidget {
+public:
+    int paintings = 0;
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override { ++paintings; }
+};
 
 class KeyCounter final : public QWindow {
 public:
@@ -76,6 +91,61 @@ TEST(QtRunLoop, NothingWakesTheLoopAtRest) {
                              &QAbstractEventDispatcher::awake);
     rest.exec();
     EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+}
+
+TEST(QtRunLoop, WhatWaitsForTheEndOfAHoldDoesNotWakeTheLoop) {
+    QtRunLoop loop;
+    PipeDescriptors pipes;
+    const int descriptor = pipes.newDescriptor();
+    pipes.setReadable(descriptor, true);
+    int calls = 0;
+    const auto watch = loop.watchForReading(descriptor, [&] { ++calls; });
+    const auto call = loop.callOnceAfter(milliseconds(10), [&] { ++calls; });
+    const auto hold = loop.holdCallbacks();
+    QTest::qWait(50); // what earlier tests left in the queue
+
+    const QSignalSpy wakeUps(QAbstractEventDispatcher::instance(),
+                             &QAbstractEventDispatcher::awake);
+    QEventLoop rest;
+    QTimer::singleShot(milliseconds(300), &rest, &QEventLoop::quit);
+    rest.exec();
+    EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+    EXPECT_EQ(calls, 0);
+}
+
+TEST(QtRunLoop, UnderAnAlertAHeldLoopCallsNothingAndTheWindowIsStillPainted) {
+    QtRunLoop loop;
+    PaintCounter window;
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+
+    PipeDescriptors pipes;
+    const int descriptor = pipes.newDescriptor();
+    pipes.setReadable(descriptor, true);
+    std::string called;
+    RunLoop::Handle watch;
+    watch = loop.watchForReading(descriptor, [&] {
+        called += "r";
+        watch.reset();
+    });
+    const auto second = loop.callOnceAfter(milliseconds(2), [&] { called += "b"; });
+    const auto first = loop.callOnceAfter(milliseconds(1), [&] { called += "a"; });
+    int paintings = 0;
+    QTimer::singleShot(milliseconds(100), &window, [&] {
+        const int before = window.paintings;
+        window.update();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return window.paintings > before; }));
+        paintings = window.paintings - before;
+        QTest::keyClick(QApplication::activeModalWidget(), Qt::Key_Return);
+    });
+    {
+        const auto hold = loop.holdCallbacks();
+        QtAlert(window).runModal("KXConfig", "Some features may not be available.", "OK");
+    }
+    EXPECT_GT(paintings, 0);
+    EXPECT_EQ(called, "");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return called.size() == 3; }));
+    EXPECT_LT(called.find('a'), called.find('b'));
 }
 
 TEST(QtRunLoop, WhatAPersonDoesWaitsAndDoesNotKeepTheLoopBusy) {

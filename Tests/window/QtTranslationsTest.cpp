@@ -1,6 +1,7 @@
 #include "platform/qt/QtTranslations.h"
 
 #include "InLanguage.h"
+#include "support/LabelledNames.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +10,10 @@
 namespace kx {
 
 namespace {
+
+std::string rankOfLabel(const char* label) {
+    return compareStringForCID(":555 [" + localizedText(label) + "]");
+}
 
 std::string languageFor(const QStringList& preferred) {
     return QtTranslations(preferred).language().toStdString();
@@ -56,6 +61,24 @@ TEST(QtTranslations, TheTextsOfQtAreInTheSameLanguage) {
         EXPECT_EQ(cancel(), "Annuler");
     }
     EXPECT_EQ(cancel(), english);
+}
+
+// A fax goes with the other numbers of its place: no entry has the ranks 06 and 07.
+TEST(QtTranslations, InEveryLanguageAFaxCountsAsItsPlaceAndEveryOtherLabelAsItself) {
+    for (const QString& language : QStringList{"en"} + QtTranslations::available()) {
+        const InLanguage spoken(language);
+        ASSERT_EQ(spoken.language(), language);
+        EXPECT_EQ(rankOfLabel("work"), "01") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("home"), "02") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("iPhone"), "03") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("mobile"), "04") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("main"), "05") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("home fax"), "02") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("work fax"), "01") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("pager"), "08") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("other"), "09") << language.toStdString();
+        EXPECT_EQ(rankOfLabel("vacation"), "10") << language.toStdString();
+    }
 }
 
 } // namespace kx

@@ -3,9 +3,9 @@
 // Each question has a connection to the system bus of its own, so a bus that was restarted, or that
 // comes up late, is no different from any other.
 //
-// Threading: the main thread only; a question blocks until it is answered. The bus itself gets a
-// second for each answer, and two to start polkit: one that has stopped is as good as none. A
-// QCoreApplication must exist.
+// Threading: the main thread only; a question blocks until it is answered, and no event is handled
+// meanwhile. The bus itself gets a second for each answer, and two to start polkit: one that has
+// stopped is as good as none. A QCoreApplication must exist.
 
 #pragma once
 

@@ -1,5 +1,7 @@
 #include "platform/posix/PollRunLoop.h"
 
+#include "support/Require.h"
+
 #include <fcntl.h>
 
 #include <algorithm>
@@ -62,8 +64,14 @@ RunLoop::Handle PollRunLoop::callOnceAfter(milliseconds delay, std::function<voi
     return std::make_unique<Registration>([this, key] { _calls.extract(key); });
 }
 
+RunLoop::Handle PollRunLoop::holdCallbacks() {
+    ++_holds;
+    return std::make_unique<Registration>([this] { --_holds; });
+}
+
 void PollRunLoop::runUntil(const std::function<bool()>& isDone) {
     while (!isDone()) {
+        require(!isHeld(), "the loop is not held", "Sources/support/RunLoop");
         runOnce();
     }
 }
@@ -94,7 +102,7 @@ bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
 // Rounded up: a wait that ends just before the due time would turn the loop for nothing.
 int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
     auto wait = longestWait;
-    if (!_calls.empty()) {
+    if (!_calls.empty() && !isHeld()) {
         const auto untilDue =
             std::chrono::ceil<milliseconds>(_calls.begin()->first.first - Clock::now());
         wait = std::min(untilDue, wait.value_or(milliseconds::max()));
@@ -109,7 +117,7 @@ int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
 // How many can be read. An interrupted poll is a turn in which nothing can. The system is asked
 // first without waiting: where something can be read already, preparing a wait costs for nothing.
 int PollRunLoop::pollDescriptors(int timeout) {
-    const auto size = static_cast<nfds_t>(_descriptors.size());
+    const auto size = isHeld() ? nfds_t{0} : static_cast<nfds_t>(_descriptors.size());
     int count = ::poll(_descriptors.data(), size, 0);
     if (count == 0 && timeout != 0) {
         count = ::poll(_descriptors.data(), size, timeout);
@@ -135,12 +143,12 @@ void PollRunLoop::findReady(int count, std::vector<std::uint64_t>& ready) {
 }
 
 // A callback that runs the loop in turn leaves the rest to that run and the next: what could be
-// read before it may have been read in it.
+// read before it may have been read in it. One that holds the loop leaves it to a later turn.
 bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
     const auto turn = ++_turns;
     bool hasCalled = false;
     for (const auto order : ready) {
-        if (_turns != turn) {
+        if (_turns != turn || isHeld()) {
             break;
         }
         const auto watch = findWatch(order); // another callback may have ended it
@@ -155,7 +163,7 @@ bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
 
 bool PollRunLoop::callDue(const CallKey& latest) {
     bool hasCalled = false;
-    while (!_calls.empty() && _calls.begin()->first <= latest) {
+    while (!isHeld() && !_calls.empty() && _calls.begin()->first <= latest) {
         const auto due = _calls.extract(_calls.begin());
         due.mapped()();
         hasCalled = true;

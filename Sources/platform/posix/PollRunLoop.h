@@ -4,7 +4,7 @@
 // read or a call falls due, at rest for as long as that takes; it then calls the watches of the
 // descriptors that can be read and the calls that were due, each once. A descriptor with a pending
 // error or a hang-up counts as one that can be read, since a read of it does not block. The watch
-// of a descriptor that was closed too early ends in silence.
+// of a descriptor that was closed too early ends in silence. A turn of a held loop only waits.
 //
 // Threading: one thread, which is the one that runs it; nothing wakes it from another one but a
 // watched descriptor.
@@ -36,6 +36,7 @@ public:
     Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) override;
 
     void runUntil(const std::function<bool()>& isDone) override;
+    Handle holdCallbacks() override;
 
     // Runs turns until stop() is called.
     void run();
@@ -68,7 +69,9 @@ private:
     void findReady(int count, std::vector<std::uint64_t>& ready);
     bool callReadable(const std::vector<std::uint64_t>& ready);
     bool callDue(const CallKey& latest);
+    bool isHeld() const { return _holds > 0; }
 
+    int _holds = 0;
     bool _running = false;
     std::uint64_t _turns = 0; // to know a run within the run by
     std::uint64_t _nextOrder = 1;

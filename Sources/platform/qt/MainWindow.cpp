@@ -309,9 +309,17 @@ void MainWindow::keepEmptyStatesReadable() {
     }
 }
 
+// An action that is asked for while another one runs, as under its alert, comes after it.
 void MainWindow::perform(Action action) {
-    if (_controller != nullptr) {
-        (_controller->*action)();
+    _actions.push_back(action);
+    if (_actions.size() > 1) {
+        return;
+    }
+    while (!_actions.empty()) {
+        if (_controller != nullptr) {
+            (_controller->*_actions.front())();
+        }
+        _actions.pop_front();
     }
 }
 

@@ -13,6 +13,7 @@
 #include "platform/qt/QtApplicationWindows.h"
 
 #include <QMainWindow>
+#include <deque>
 #include <memory>
 
 namespace kx {
@@ -70,6 +71,7 @@ private:
     std::unique_ptr<Ui::MainWindow> _ui;
     std::unique_ptr<Controls> _controls;
     KXConfigAppDelegate* _controller = nullptr;
+    std::deque<Action> _actions; // the one that runs, and what was asked for since
 };
 
 } // namespace kx

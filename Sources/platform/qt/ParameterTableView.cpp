@@ -14,8 +14,11 @@ namespace {
 // Wide enough for the longest name and a text of four address widths beside it.
 constexpr int preferredCharacters = 72;
 
-// Tells the view every text that is typed, and a screen reader whose value it is.
-class TypingDelegate final : public QStyledItemDelegate {
+} // namespace
+
+// Tells the view which cell is edited and every text that is typed, and a screen reader whose value
+// it is.
+class ParameterTableView::TypingDelegate final : public QStyledItemDelegate {
 public:
     explicit TypingDelegate(ParameterTableView& view)
         : QStyledItemDelegate(&view)
@@ -23,6 +26,7 @@ public:
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override {
+        _view._editedCell = index;
         QWidget* const editor = QStyledItemDelegate::createEditor(parent, option, index);
         if (auto* const lineEdit = qobject_cast<QLineEdit*>(editor)) {
             lineEdit->setAccessibleName(index.siblingAtColumn(0).data().toString());
@@ -34,8 +38,6 @@ public:
 private:
     ParameterTableView& _view;
 };
-
-} // namespace
 
 ParameterTableView::ParameterTableView(QWidget* parent)
     : QTableView(parent) {
@@ -110,9 +112,9 @@ QSize ParameterTableView::minimumSizeHint() const {
 }
 
 void ParameterTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
-    const QModelIndex cell = currentIndex();
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    emit textEdited(cell.data().toString());
+    // Not the current cell: an editor also closes because another cell became current.
+    emit textEdited(_editedCell.data().toString());
     if (hint == QAbstractItemDelegate::EditNextItem) {
         focusNextChild();
     } else if (hint == QAbstractItemDelegate::EditPreviousItem) {

@@ -57,6 +57,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    class TypingDelegate;
+
     void describe();
     QModelIndex firstEditableCell() const;
     int heightForRows(int rows) const;
@@ -65,6 +67,7 @@ private:
     int _preferredRows = 8;
     int _minimumRows = 4;
     QString _placeholderText;
+    QPersistentModelIndex _editedCell; // the one that the latest editor was opened in
 };
 
 } // namespace kx

@@ -9,7 +9,9 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QStandardPaths>
 #include <QUrl>
+#include <algorithm>
 
 namespace kx {
 
@@ -17,10 +19,22 @@ namespace {
 
 constexpr int answerPatienceInMilliseconds = 3'000;
 
+// Whether the variable BROWSER names a program that can be run. It is a list of commands with ":"
+// between them, of which the desktop's opener tries one after the other. The opener passes over
+// itself.
+bool environmentNamesABrowser() {
+    const QStringList commands = qEnvironmentVariable("BROWSER").split(':');
+    return std::ranges::any_of(commands, [](const QString& command) {
+        const QString program = command.simplified().section(' ', 0, 0);
+        return !program.isEmpty() && program != "xdg-open" &&
+               !QStandardPaths::findExecutable(program).isEmpty();
+    });
+}
+
 // The desktop's opener reports success also where it then finds no application, so its own register
 // is asked first. Where that cannot be asked, the opener may try.
 bool desktopKnowsABrowser() {
-    if (qEnvironmentVariableIsSet("BROWSER")) {
+    if (environmentNamesABrowser()) {
         return true;
     }
     QProcess query;

@@ -1,5 +1,7 @@
 #include "platform/qt/QtRunLoop.h"
 
+#include "support/Require.h"
+
 #include <fcntl.h>
 #include <poll.h>
 
@@ -7,7 +9,10 @@
 #include <QSocketNotifier>
 #include <QTimer>
 #include <algorithm>
+#include <cstdint>
 #include <limits>
+#include <map>
+#include <set>
 #include <utility>
 
 namespace kx {
@@ -30,18 +35,113 @@ bool canBeRead(int descriptor) {
     return ::poll(&polled, 1, 0) > 0 && (polled.revents & POLLNVAL) == 0;
 }
 
-class ReadWatch final : public RunLoop::Source {
+class Registration final : public RunLoop::Source {
 public:
-    ReadWatch(int descriptor, std::function<void()> readable)
-        : _watched(std::make_shared<Watched>(Watched{descriptor, std::move(readable)}))
+    explicit Registration(std::function<void()> end)
+        : _end(std::move(end)) {}
+    ~Registration() override { _end(); }
+
+private:
+    std::function<void()> _end;
+};
+
+} // namespace
+
+// The timer runs for the first of the calls; while the loop is held, it does not, and no notifier
+// is enabled: either would keep Qt's loop awake.
+struct QtRunLoop::State {
+    using CallKey = std::pair<Clock::time_point, std::uint64_t>; // due time, order of request
+
+    State() {
+        timer.setSingleShot(true);
+        timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&timer, &QTimer::timeout, &timer, [this] { callDue(); });
+    }
+
+    bool isHeld() const { return holds > 0; }
+
+    void beginHold() {
+        ++holds;
+        enableSources();
+    }
+
+    void endHold() {
+        --holds;
+        enableSources();
+    }
+
+    void enableSources() {
+        for (QSocketNotifier* notifier : notifiers) {
+            notifier->setEnabled(!isHeld());
+        }
+        startTimer();
+    }
+
+    void startTimer() {
+        if (isHeld() || calls.empty()) {
+            timer.stop();
+            return;
+        }
+        const auto left =
+            std::chrono::ceil<milliseconds>(calls.begin()->first.first - Clock::now());
+        timer.start(std::clamp(left, milliseconds::zero(), longestRound));
+    }
+
+    CallKey addCall(milliseconds delay, std::function<void()> call) {
+        const CallKey key{Clock::now() + delay, nextOrder++};
+        const auto added = calls.emplace(key, std::move(call)).first;
+        if (added == calls.begin()) {
+            startTimer();
+        }
+        return key;
+    }
+
+    // Taken out before it is destroyed: what it holds may end further calls.
+    void cancelCall(const CallKey& key) {
+        const bool wasFirst = !calls.empty() && calls.begin()->first == key;
+        const auto cancelled = calls.extract(key);
+        if (wasFirst) {
+            startTimer();
+        }
+    }
+
+    // What the calls themselves ask for has to wait for the next turn. The timer is started before
+    // each call, which may run the loop in turn.
+    void callDue() {
+        const CallKey latest{Clock::now(), nextOrder - 1};
+        while (!isHeld() && !calls.empty() && calls.begin()->first <= latest) {
+            const auto due = calls.extract(calls.begin());
+            startTimer();
+            due.mapped()();
+        }
+        startTimer();
+    }
+
+    int holds = 0;
+    std::set<QSocketNotifier*> notifiers;
+    std::map<CallKey, std::function<void()>> calls;
+    std::uint64_t nextOrder = 1;
+    QTimer timer;
+};
+
+class QtRunLoop::ReadWatch final : public Source {
+public:
+    ReadWatch(State& state, int descriptor, std::function<void()> readable)
+        : _watched(std::make_shared<Watched>(Watched{state, descriptor, std::move(readable)}))
         , _notifier(descriptor, QSocketNotifier::Read) {
+        _notifier.setEnabled(!state.isHeld());
+        state.notifiers.insert(&_notifier);
         QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier,
                          [watched = _watched] { takeTurns(watched); });
     }
-    ~ReadWatch() override { _watched->hasEnded = true; }
+    ~ReadWatch() override {
+        _watched->hasEnded = true;
+        _watched->state.notifiers.erase(&_notifier);
+    }
 
 private:
     struct Watched {
+        State& state;
         int descriptor;
         std::function<void()> readable;
         bool hasEnded = false;
@@ -53,66 +153,48 @@ private:
         do {
             watched->readable();
             ++turns;
-        } while (turns < mostTurnsInOne && !watched->hasEnded && canBeRead(watched->descriptor));
+        } while (turns < mostTurnsInOne && !watched->hasEnded && !watched->state.isHeld() &&
+                 canBeRead(watched->descriptor));
     }
 
     std::shared_ptr<Watched> _watched;
     QSocketNotifier _notifier;
 };
 
-class DelayedCall final : public RunLoop::Source {
-public:
-    DelayedCall(milliseconds delay, std::function<void()> call)
-        : _call(std::make_shared<const std::function<void()>>(std::move(call)))
-        , _due(Clock::now() + delay) {
-        _timer.setSingleShot(true);
-        _timer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&_timer, &QTimer::timeout, &_timer, [this] { timedOut(); });
-        startRound();
-    }
+QtRunLoop::QtRunLoop()
+    : _state(std::make_unique<State>()) {}
 
-private:
-    void startRound() {
-        const auto left = std::chrono::ceil<milliseconds>(_due - Clock::now());
-        _timer.start(std::clamp(left, milliseconds::zero(), longestRound));
-    }
-
-    void timedOut() {
-        if (Clock::now() < _due) {
-            startRound();
-            return;
-        }
-        const auto running = std::exchange(_call, nullptr); // it may destroy this object
-        (*running)();
-    }
-
-    std::shared_ptr<const std::function<void()>> _call;
-    Clock::time_point _due;
-    QTimer _timer;
-};
-
-} // namespace
+QtRunLoop::~QtRunLoop() = default;
 
 RunLoop::Handle QtRunLoop::watchForReading(int descriptor, std::function<void()> readable) {
     if (fcntl(descriptor, F_GETFD) == -1) {
         return nullptr;
     }
-    return std::make_unique<ReadWatch>(descriptor, std::move(readable));
+    return std::make_unique<ReadWatch>(*_state, descriptor, std::move(readable));
 }
 
 RunLoop::Handle QtRunLoop::callOnceAfter(milliseconds delay, std::function<void()> call) {
     const milliseconds bounded = std::clamp(delay, milliseconds::zero(), longestDelay);
-    return std::make_unique<DelayedCall>(bounded, std::move(call));
+    return std::make_unique<Registration>(
+        [&state = *_state, key = _state->addCall(bounded, std::move(call))] {
+            state.cancelCall(key);
+        });
 }
 
 void QtRunLoop::runUntil(const std::function<bool()>& isDone) {
     QEventLoop loop;
     while (!isDone()) {
+        require(!_state->isHeld(), "the loop is not held", "Sources/support/RunLoop");
         loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
     }
     // Input that came meanwhile waits in a queue. A dispatcher that has passed over it once does
     // not look at it again before something wakes it.
     loop.wakeUp();
+}
+
+RunLoop::Handle QtRunLoop::holdCallbacks() {
+    _state->beginHold();
+    return std::make_unique<Registration>([&state = *_state] { state.endHold(); });
 }
 
 } // namespace kx

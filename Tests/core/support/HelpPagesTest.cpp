@@ -51,6 +51,13 @@ TEST_F(HelpPages, AFileThatIsNotThereOpensNothing) {
     EXPECT_TRUE(services.openedURLs.empty());
 }
 
+TEST_F(HelpPages, APageIsThereOrNot) {
+    EXPECT_TRUE(hasHelpPage("index", services));
+    EXPECT_FALSE(hasHelpPage("missing", services));
+    EXPECT_FALSE(hasHelpPage("", services));
+    EXPECT_TRUE(services.openedURLs.empty());
+}
+
 TEST_F(HelpPages, APathThatMakesNoURLOpensNothing) {
     ScriptedHelpServices relative("share/kxconfig");
     relative.addPage("index");

@@ -68,8 +68,8 @@ TEST(LabelledNames, LabelsAreThoseOfTheUsersLanguage) {
     EXPECT_EQ(compareStringForCID("Desk:555 [mobile]"), "Desk04"); // no label is empty
 }
 
-// Only a translation whose text for "home" is no beginning of its "home fax" reaches the later
-// rank.
+// A translation whose text for "home" is no beginning of its "home fax" reaches the later rank; the
+// program's own translations have none.
 TEST(LabelledNames, TheFirstLabelThatFitsGivesTheRank) {
     InstalledTranslations translations;
     translations.source.setTranslation("home fax", "Fax (privat)");

@@ -7,6 +7,8 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
+#include <QCoreApplication>
+#include <QTimer>
 #include <chrono>
 
 namespace kx {
@@ -25,6 +27,18 @@ TEST_F(AnAllowingPerson, IsAskedOnce) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
     EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+// The action that asks goes on before the next event, so Qt's loop must not run under it.
+TEST_F(AnAllowingPerson, IsAskedWhileTheEventLoopStands) {
+    int events = 0;
+    QTimer::singleShot(0, QCoreApplication::instance(), [&] { ++events; });
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+    EXPECT_EQ(events, 0);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(events, 1);
 }
 
 TEST_F(AnAllowingPerson, IsNotAskedWhetherTheRightIsHeld) {
