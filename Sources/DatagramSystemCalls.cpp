@@ -5,8 +5,10 @@
 #include <fcntl.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 
@@ -43,6 +45,19 @@ Bytes recordOf(const sockaddr_storage& storage, socklen_t length) {
     sockaddr_in address{};
     std::memcpy(&address, &storage, sizeof address);
     return dataForAddress(ntohl(address.sin_addr.s_addr), ntohs(address.sin_port));
+}
+
+// The index of the interface by which a message came; 0 when the system did not say.
+std::uint32_t linkOf(msghdr& message) {
+    for (cmsghdr* part = CMSG_FIRSTHDR(&message); part != nullptr;
+         part = CMSG_NXTHDR(&message, part)) {
+        if (part->cmsg_level == IPPROTO_IP && part->cmsg_type == IP_PKTINFO) {
+            in_pktinfo information{};
+            std::memcpy(&information, CMSG_DATA(part), sizeof information);
+            return static_cast<std::uint32_t>(information.ipi_ifindex);
+        }
+    }
+    return 0;
 }
 
 // What getsockname(2) or getpeername(2) says.
@@ -88,6 +103,11 @@ int DatagramSystemCalls::enableBroadcast(int descriptor) {
     return ::setsockopt(descriptor, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
 }
 
+int DatagramSystemCalls::tellLinks(int descriptor) {
+    const std::int32_t on = 1;
+    return ::setsockopt(descriptor, IPPROTO_IP, IP_PKTINFO, &on, sizeof on);
+}
+
 ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data,
                                     std::optional<ByteView> addressRecord) {
     if (!addressRecord) {
@@ -100,13 +120,20 @@ ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data,
 }
 
 ssize_t DatagramSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
-                                         Bytes& sender) {
-    sockaddr_storage storage{};
-    socklen_t length = sizeof storage;
-    const ssize_t received = ::recvfrom(descriptor, buffer.data(), buffer.size(), 0,
-                                        reinterpret_cast<sockaddr*>(&storage), &length);
+                                         DatagramOrigin& origin) {
+    sockaddr_storage sender{};
+    iovec bytes{.iov_base = buffer.data(), .iov_len = buffer.size()};
+    alignas(cmsghdr) std::array<std::byte, CMSG_SPACE(sizeof(in_pktinfo))> control;
+    msghdr message{};
+    message.msg_name = &sender;
+    message.msg_namelen = sizeof sender;
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    const ssize_t received = ::recvmsg(descriptor, &message, 0);
     if (received >= 0) {
-        sender = recordOf(storage, length);
+        origin = {.sender = recordOf(sender, message.msg_namelen), .link = linkOf(message)};
     }
     return received;
 }

@@ -23,6 +23,12 @@ namespace kx {
 // Flags of a socket wrapper (EndpointSocket in UDPEcho.h).
 inline constexpr std::uint32_t kCFSocketCloseOnInvalidate = 128;
 
+// Where a datagram came from.
+struct DatagramOrigin {
+    Bytes sender;           // its record
+    std::uint32_t link = 0; // the index of the interface that it came by; 0: the system did not say
+};
+
 class DatagramSystemCalls {
 public:
     virtual ~DatagramSystemCalls() = default;
@@ -45,14 +51,19 @@ public:
     // setsockopt(2): SO_BROADCAST at level SOL_SOCKET, the 4-byte integer 1. 0, or -1.
     virtual int enableBroadcast(int descriptor);
 
+    // setsockopt(2): IP_PKTINFO at level IPPROTO_IP, the 4-byte integer 1 (ip(7)). 0, or -1. From
+    // then on receiveFrom() tells the link.
+    virtual int tellLinks(int descriptor);
+
     // sendto(2) of the whole of `data`, flags 0, to an IPv4 record; to the peer of a connected
     // socket when `addressRecord` is absent. The bytes sent, or -1.
     virtual ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord);
 
-    // recvfrom(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
-    // received, or -1. On success `sender` holds the sender's record, and is empty for a sender of
-    // another family than IPv4; on failure it is not touched.
-    virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender);
+    // recvmsg(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
+    // received, or -1. On success `origin` holds the sender's record, which is empty for a sender
+    // of another family than IPv4, and the link; on failure it is not touched.
+    virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
+                                DatagramOrigin& origin);
 
     // getsockname(2) and getpeername(2) as records; absent when the call fails, and empty for
     // another family than IPv4.

@@ -1,4 +1,6 @@
-// The controller: the one object that decides what the application does.
+// The window's controller: it takes what a person does to the parts beneath it, and shows what
+// comes back. What is sent and received is the session's business (conversation/UnitSession.h),
+// what units are that of units/, and what a person reads is written in words/.
 //
 // It is the delegate of the application, of the main window, of the UDP endpoint and of the
 // parameter table, and the data source of the one-row edit table. It talks to controls (Outlets.h)
@@ -12,21 +14,22 @@
 
 #pragma once
 
-#include "AscendingKeys.h"
-#include "EditNotes.h"
-#include "EditReport.h"
 #include "KXParameterEntry.h"
-#include "LogText.h"
 #include "Outlets.h"
-#include "ReceiveBuffers.h"
 #include "System Configuration/NetworkInterfaces.h"
-#include "UDPEcho.h"
-#include "UnitParameters.h"
+#include "conversation/CommandTarget.h"
+#include "conversation/EditOutcome.h"
+#include "conversation/InterfaceAddress.h"
+#include "conversation/UnitDestination.h"
+#include "conversation/UnitSession.h"
 #include "support/Authorization.h"
 #include "support/InstanceNames.h"
 #include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
+#include "units/UnitRegistry.h"
+#include "words/LogText.h"
+#include "words/QuietLine.h"
 
 #include <chrono>
 #include <cstddef>
@@ -45,7 +48,8 @@ namespace kx {
 
 class KXConfigAppDelegate final : public UDPEchoDelegate,
                                   public TableViewDataSource,
-                                  public WindowDelegate {
+                                  public WindowDelegate,
+                                  private UnitSessionObserver {
 public:
     struct Services {
         RunLoop& runLoop;
@@ -66,9 +70,6 @@ public:
         // Whether the help has a page at all, which tells why it did not open. Empty: it has.
         std::function<bool(std::string_view page)> hasHelpPage = {};
     };
-
-    // The unit registry: units by the text of their serial number, in ascending order.
-    using Registry = std::map<std::string, UnitRecord, std::less<>>;
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
 
@@ -113,7 +114,7 @@ public:
     // --- Edits of the selected unit's parameters (KXConfigAppDelegate_Editing.cpp) ---
     //
     // Each sends the value of the edit row as the parameter of its name, converted as
-    // CommandProtocol.h says. An empty value sends nothing and logs nothing.
+    // units/UnitCommand.h says. An empty value sends nothing and logs nothing.
 
     void edit_internalMAC();
     void edit_destIP();
@@ -145,7 +146,7 @@ public:
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
-    // --- The endpoint's events ---
+    // --- The endpoint's events, which go on to the session ---
 
     void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
                                        const Bytes& address) override;
@@ -179,63 +180,65 @@ public:
     void setWindow(Window* window) { _outlets.window = window; }
 
     std::string eventLog() const { return logText.text(); } // a copy
-    const Registry& devices() const { return _devicesD; }
+    const UnitRegistry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
-    const UDPEcho* udpListener() const { return _udpListener.get(); } // null: there is none
+    const UDPEcho* udpListener() const { return _session.listener(); } // null: there is none
+    const QuietLine& quietLine() const { return _quietLine; }
 
 private:
+    // --- The session's events (KXConfigAppDelegate_Session.cpp) ---
+
+    void sessionDidStart(const Bytes& localAddress) override;
+    void sessionCanBroadcast() override;
+    void sessionCannotBroadcast(const std::string& reason) override;
+    void sessionDidStop(const Error& error) override;
+    void sessionDidReceiveDatagram(std::size_t length) override;
+    void sessionDidIgnoreDatagram(PacketKind kind) override;
+    void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
+                               const DatagramOrigin& origin) override;
+    void unitDidAccept(const Reply& reply, const DatagramOrigin& origin) override;
+    void unitDidSay(const Reply& reply, const DatagramOrigin& origin) override;
+    void sessionDidReceiveError(const Error& error) override;
+    void sessionDidSend() override;
+    void sessionDidFailToSend(const SendFailure& failure) override;
+    void sessionDidDrop(std::uint32_t datagrams) override;
+
     void listInterfaces(std::vector<std::string> titles);
     std::vector<std::string> currentInterfaceTitles() const;
-    void restartListener(std::size_t port);
-    void stopListener();
-    void enlargeReceiveBuffer();
-    void countDropsSoon();
-    void countDrops();
-    void showDrops(std::uint32_t datagrams);
-    void didStartListenerWithAddress(const Bytes& address);
-    std::uint32_t firstAddressOfService(const std::optional<std::string>& serviceID,
-                                        std::string_view key) const;
-    std::uint32_t directedBroadcastAddress() const;
+    std::uint32_t broadcastAddress() const;
 
     const UnitRecord* selectedRecord() const;
-    std::optional<std::string_view> selectedValue(UnitParameter parameter) const;
     std::optional<std::string> selectedText(UnitParameter parameter) const;
-    std::uint32_t unitRequestAddress() const;
-    std::uint16_t unitRequestPort() const;
-    bool sendCommandToAddressOnPort(const std::optional<std::string>& command,
-                                    const std::optional<std::string>& address, std::uint16_t port);
-    void sendRequest(std::string_view command, std::uint32_t target, std::uint16_t port);
-    void sendThroughListener(const Bytes& data, const Bytes& address);
-    void sendDidFail(const std::string& reason);
+    UnitDestination unitDestination() const;
+    CommandTarget commandTarget() const;
 
-    void didReceiveDataFromAddress(ByteView data, const Bytes& address);
-    std::string unitParameters(ByteView list);
+    // What became of a command: handed to the session, which did or did not send it.
+    struct HandedOver {
+        std::optional<SendFailure> failure;
+    };
+    std::optional<HandedOver> handOver(const std::optional<std::string>& command,
+                                       const std::optional<std::string>& address);
+    std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
+    std::optional<SendFailure> requestParametersOfUnit();
+    void requestParametersAfterRestore();
 
-    void requestParametersOfUnit();
     void discoverComplete();
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
-    void appendMessage(std::string_view key, std::initializer_list<FormatArgument> arguments = {});
     std::optional<UnitParameter> editedParameter() const;
     std::string editedValue() const;
     void sendEdit(UnitParameter parameter);
+    EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
+    bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
     bool authenticateForARP();
+    std::optional<std::int32_t> makeARPEntry(const std::optional<std::string>& hardwareAddress,
+                                             const std::optional<std::string>& ip);
 
-    CommandTarget commandTarget() const;
-    EditReport reportOfEdit(UnitParameter parameter) const;
-    void beginReport(EditReport report);
-    void showReport();
-    void showEditNote();
-    void refreshEditNote();
-    void showMessage(std::string_view message);
-    void endMessage();
-    bool showFailedSend();
-    void showRefusal(std::optional<CommandRefusal> refusal);
-    void showNote(std::string_view note);
-    void arpToolDidEnd(const std::string& address, int status);
-    void unitDidAccept(const std::optional<std::string>& serial);
-    void unitDidReply(const std::string& serial, const UnitRecord& record);
+    std::string forecast() const;
+    void showForecast();
+    void refreshForecast();
+    void showFailureOrForecast(const std::optional<SendFailure>& failure);
 
     void performAfterDelay(std::chrono::milliseconds delay,
                            void (KXConfigAppDelegate::*operation)());
@@ -246,23 +249,17 @@ private:
     std::vector<std::string> _interfaceTitles;   // what the pop-up offers
     std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
     LogText logText;
-    std::shared_ptr<UDPEcho> _udpListener;
     // In host byte order; the address is 0 when no interface with an address has been chosen.
     std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
-    Registry _devicesD;
-    ShownParameterNames _parameterNamesInLog;
-    AscendingKeys _serials; // the keys of _devicesD
+    UnitRegistry _devicesD;
+    UnitSession _session; // owns the listener
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
-    bool _arpRightsWereGiven = false;                  // the last time that one was to be
+    int _latestToolRun = 0;                            // counts the runs of the ARP tool
     std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
-    std::optional<EditReport> _editReport;   // when the quiet line is about an edit that was sent
-    bool _messageStands = false;             // when the quiet line holds a message for a person
-    std::optional<std::string> _sendFailure; // why the latest datagram was not sent
-    std::uint32_t _shownDrops = 0;           // what the drop line says
-    bool _dropsWillBeCounted = false;        // by a delayed call
+    QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

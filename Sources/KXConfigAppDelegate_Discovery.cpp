@@ -1,7 +1,10 @@
-#include "CommandProtocol.h"
 #include "KXConfigAppDelegate.h"
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
+#include "words/EventLogEntries.h"
+#include "words/SendFailureText.h"
+
+#include <utility>
 
 namespace kx {
 
@@ -11,15 +14,15 @@ void KXConfigAppDelegate::discoverButton() {
     const auto port = integerValue(_outlets.udpPortPopUp->titleOfSelectedItem().value_or(""));
     logText.clear();
     _outlets.logTextView->setString(logText);
-    appendMessage("[Begin Discover]");
+    appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
-    restartListener(static_cast<std::size_t>(port));
-    endMessage();
+    _session.start(static_cast<std::size_t>(port));
+    _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
 }
 
 void KXConfigAppDelegate::discoverComplete() {
-    _outlets.unitSelectPopUp->addItemsWithTitles(_serials.list());
+    _outlets.unitSelectPopUp->addItemsWithTitles(_devicesD.serialNumbers());
     if (_selectedUnit.has_value()) {
         _outlets.unitSelectPopUp->selectItemWithTitle(*_selectedUnit);
     } else {
@@ -30,7 +33,7 @@ void KXConfigAppDelegate::discoverComplete() {
 
 void KXConfigAppDelegate::unitSelectPopUp() {
     showSelectedUnit();
-    endMessage();
+    _quietLine.endMessage(forecast());
 }
 
 void KXConfigAppDelegate::showSelectedUnit() {
@@ -39,34 +42,30 @@ void KXConfigAppDelegate::showSelectedUnit() {
 
 void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
     _selectedUnit = key;
-    if (key.has_value() && _editReport.has_value() && key != _editReport->unit()) {
-        _editReport.reset(); // it is about another unit than the one that is shown
+    if (key.has_value()) {
+        _quietLine.unitIsShown(*key);
     }
-    _outlets.unitIDField->setStringValue(selectedValue(UnitParameter::unitID).value_or(""));
+    _outlets.unitIDField->setStringValue(selectedText(UnitParameter::unitID).value_or(""));
     _outlets.unitParameterTable->removeAllObjects();
     for (const UnitParameter parameter : allUnitParameters) {
-        const auto value = selectedValue(parameter);
+        auto value = selectedText(parameter);
         if (value.has_value()) {
             auto entry = std::make_shared<KXParameterEntry>();
             entry->setParameterName(std::string(nameOfUnitParameter(parameter)));
-            entry->setParameterValue(std::string(*value));
+            entry->setParameterValue(std::move(value));
             _outlets.unitParameterTable->addObject(std::move(entry));
         }
     }
     _outlets.unitParameterTableView->reloadData();
-    refreshEditNote();
+    refreshForecast();
 }
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
-    requestParametersOfUnit();
-    if (!showFailedSend()) {
-        endMessage();
+    if (const auto failure = requestParametersOfUnit()) {
+        _quietLine.showMessage(noteOfSendFailure(*failure));
+    } else {
+        _quietLine.endMessage(forecast());
     }
-}
-
-void KXConfigAppDelegate::requestParametersOfUnit() {
-    sendRequest(parameterRequestCommand, unitRequestAddress(), unitRequestPort());
-    refreshEditNote();
 }
 
 void KXConfigAppDelegate::tableViewSelectionDidChange() {
@@ -82,7 +81,7 @@ void KXConfigAppDelegate::tableViewSelectionDidChange() {
     }
     _textBeingTyped.reset();
     _outlets.editParameterTableView->reloadData();
-    showEditNote();
+    showForecast();
 }
 
 } // namespace kx

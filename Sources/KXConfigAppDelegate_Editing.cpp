@@ -1,6 +1,9 @@
-#include "CommandProtocol.h"
 #include "KXConfigAppDelegate.h"
 #include "support/LocalizedText.h"
+#include "units/UnitCommand.h"
+#include "words/EditForecast.h"
+#include "words/EventLogEntries.h"
+#include "words/SendFailureText.h"
 
 #include <utility>
 
@@ -39,7 +42,7 @@ void KXConfigAppDelegate::tableViewSetObjectValueForTableColumnRow(const Propert
     }
     _textBeingTyped.reset();
     _outlets.editParameterTableView->reloadData();
-    showEditNote();
+    showForecast();
 }
 
 std::optional<UnitParameter> KXConfigAppDelegate::editedParameter() const {
@@ -62,22 +65,12 @@ void KXConfigAppDelegate::applyEditParameterButton() {
         return;
     }
     switch (*parameter) {
-    case UnitParameter::internalMACAddress:
-        return edit_internalMAC();
     case UnitParameter::internalIPAddress:
         return edit_internalIP();
-    case UnitParameter::destinationIPAddress:
-        return edit_destIP();
-    case UnitParameter::destinationPortNumber:
-        return edit_destPort();
-    case UnitParameter::devicePortNumber:
-        return edit_devicePort();
     case UnitParameter::unitID:
         return edit_unitID();
-    case UnitParameter::destinationMACAddress:
-        return edit_destMAC();
-    case UnitParameter::serialNumber:
-        return edit_serial();
+    default:
+        return sendEdit(*parameter);
     }
 }
 
@@ -99,7 +92,7 @@ void KXConfigAppDelegate::edit_devicePort() {
 
 void KXConfigAppDelegate::edit_unitID() {
     if (!editCommand(UnitParameter::unitID, editedValue()).has_value()) {
-        appendMessage("\nUnit ID could not be converted to 6-byte UTF-8 string");
+        appendString(entryOfUnitIDThatIsNoText());
     }
     sendEdit(UnitParameter::unitID);
 }
@@ -113,45 +106,72 @@ void KXConfigAppDelegate::edit_serial() {
 }
 
 void KXConfigAppDelegate::sendEdit(UnitParameter parameter) {
-    const std::string typed = editedValue();
-    if (!typed.empty() && sendCommand(editCommand(parameter, typed))) {
-        beginReport(reportOfEdit(parameter));
-    } else {
-        showRefusal(refusalOfEdit(parameter, typed, commandTarget()));
+    const auto edit = editOfParameter(parameter, editedValue());
+    if (const auto refusal = refusalOfEdit(edit, commandTarget())) {
+        _quietLine.showMessage(noteOfRefusal(*refusal));
+        return;
+    }
+    const auto& sent = std::get<ParameterEdit>(edit);
+    if (const auto result =
+            handOver(sent.command, selectedText(UnitParameter::internalIPAddress))) {
+        _quietLine.showOutcome({sent, editedUnit(sent), result->failure});
     }
 }
 
 void KXConfigAppDelegate::edit_internalIP() {
-    const std::string address = editedValue();
-    if (address.empty()) {
-        showRefusal(CommandRefusal::emptyValue);
+    const auto edit = editOfParameter(UnitParameter::internalIPAddress, editedValue());
+    if (const auto refusal = refusalOfEdit(edit, commandTarget())) {
+        _quietLine.showMessage(noteOfRefusal(*refusal));
         return;
     }
-    EditReport report = reportOfEdit(UnitParameter::internalIPAddress);
-    const auto command = editCommand(UnitParameter::internalIPAddress, address);
-    const auto result = arpSetEAForIP(selectedText(UnitParameter::internalMACAddress), address);
-    report.arpEntryDidGive(_arpRightsWereGiven ? std::optional(result) : std::nullopt);
-    const auto record =
-        _selectedUnit.has_value() ? _devicesD.find(*_selectedUnit) : _devicesD.end();
-    if (record != _devicesD.end()) {
-        record->second.removeValue(UnitParameter::internalIPAddress);
+    const auto& move = std::get<ParameterEdit>(edit);
+    EditOutcome::Unit unit = editedUnit(move);
+    const auto entry = makeARPEntry(unit.hardwareAddress, move.typed);
+    if (_selectedUnit.has_value()) {
+        _devicesD.withdrawAddress(*_selectedUnit);
     }
-    if (sendCommandToAddress(command, address)) {
-        beginReport(std::move(report));
+    if (const auto result = handOver(move.command, move.typed)) {
+        EditOutcome outcome(move, std::move(unit), result->failure);
+        outcome.setARPEntry(entry.has_value() ? arpEntryForResult(*entry)
+                                              : ARPEntry{.state = ARPEntryState::rightsNotGiven});
+        _quietLine.showOutcome(std::move(outcome));
     }
+}
+
+EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) const {
+    EditOutcome::Unit unit{.serialNumber = _selectedUnit,
+                           .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
+                           .valueBefore = selectedText(edit.parameter),
+                           .newSerialNumberIsTaken = newSerialNumberIsTaken(edit)};
+    // A record that has lost its address to an edit before this one still had that value.
+    if (edit.parameter == UnitParameter::internalIPAddress && _selectedUnit.has_value()) {
+        unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
+    }
+    return unit;
+}
+
+bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) const {
+    return edit.parameter == UnitParameter::serialNumber && edit.shown.has_value() &&
+           edit.shown != _selectedUnit && _devicesD.find(*edit.shown) != nullptr;
 }
 
 std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                                 const std::optional<std::string>& ip) {
+    return makeARPEntry(hardwareAddress, ip).value_or(-1);
+}
+
+// Absent when rights were not given.
+std::optional<std::int32_t>
+KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddress,
+                                  const std::optional<std::string>& ip) {
     // A dialogue runs the event loop. What comes from elsewhere waits for the end of the action.
     const auto hold = _services.runLoop.holdCallbacks();
-    _arpRightsWereGiven = authenticateForARP();
-    if (!_arpRightsWereGiven) {
+    if (!authenticateForARP()) {
         _outlets.alert->runModal(
             localizedText("KXConfig"),
             localizedText("Authentication was not completed, some features may not be available."),
             localizedText("OK"));
-        return -1;
+        return std::nullopt;
     }
     std::vector<std::string> arguments{"-s"};
     for (const auto* const text : {&ip, &hardwareAddress}) {
@@ -160,15 +180,14 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
         }
         arguments.push_back(**text);
     }
+    // Only how the latest run ended is worth a word.
     const auto result =
-        _auth->runToolWithArgs(arguments, [this, address = ip.value_or("")](int status) {
-            arpToolDidEnd(address, status);
+        _auth->runToolWithArgs(arguments, [this, run = ++_latestToolRun](int status) {
+            if (run == _latestToolRun) {
+                _quietLine.arpToolDidEnd(status);
+            }
         });
-    if (result == 0) {
-        appendMessage("\nStuff ARP cache with MAC %@ for IP %@", {hardwareAddress, ip});
-    } else {
-        appendMessage("\nStuff ARP cache result: %d", {result});
-    }
+    appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
 
@@ -190,18 +209,67 @@ void KXConfigAppDelegate::optionCommandPopUp() {
 
 void KXConfigAppDelegate::sendOptionButton() {
     const auto command = optionCommand(_outlets.optionCommandField->stringValue());
-    if (!sendCommand(command)) {
-        showRefusal(refusalOfCommand(command, commandTarget()));
-    } else if (!showFailedSend()) {
-        showEditNote();
+    if (const auto refusal = refusalOfCommand(command, commandTarget())) {
+        _quietLine.showMessage(noteOfRefusal(*refusal));
+    } else if (const auto result =
+                   handOver(command, selectedText(UnitParameter::internalIPAddress))) {
+        showFailureOrForecast(result->failure);
     }
 }
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
-    sendRequest(restoreCommand, unitRequestAddress(), unitRequestPort());
-    performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersOfUnit);
-    if (!showFailedSend()) {
-        showEditNote();
+    const auto failure = sendRequest(restoreCommand, unitDestination());
+    performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
+    showFailureOrForecast(failure);
+}
+
+void KXConfigAppDelegate::requestParametersAfterRestore() {
+    requestParametersOfUnit();
+}
+
+// --- What the quiet line says of it ---
+
+void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
+    if (text != _textBeingTyped.value_or(editedValue())) {
+        _textBeingTyped = text;
+        showForecast();
+    }
+}
+
+CommandTarget KXConfigAppDelegate::commandTarget() const {
+    return {.unitIsSelected = _selectedUnit.has_value(),
+            .address = selectedText(UnitParameter::internalIPAddress),
+            .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
+            .isListening = _session.isListening()};
+}
+
+std::string KXConfigAppDelegate::forecast() const {
+    const auto parameter = editedParameter();
+    if (!parameter.has_value()) {
+        return {};
+    }
+    const auto edit = editOfParameter(*parameter, _textBeingTyped.value_or(editedValue()));
+    CommandTarget target = commandTarget();
+    const auto* const planned = std::get_if<ParameterEdit>(&edit);
+    target.newSerialNumberIsTaken = planned != nullptr && newSerialNumberIsTaken(*planned);
+    return forecastOfEdit(edit, target);
+}
+
+void KXConfigAppDelegate::showForecast() {
+    _quietLine.showForecast(forecast());
+}
+
+void KXConfigAppDelegate::refreshForecast() {
+    if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
+        showForecast();
+    }
+}
+
+void KXConfigAppDelegate::showFailureOrForecast(const std::optional<SendFailure>& failure) {
+    if (failure.has_value()) {
+        _quietLine.showMessage(noteOfSendFailure(*failure));
+    } else {
+        showForecast();
     }
 }
 

@@ -1,5 +1,4 @@
 #include "KXConfigAppDelegate.h"
-#include "support/LocalizedText.h"
 
 namespace kx {
 
@@ -9,11 +8,6 @@ void KXConfigAppDelegate::appendString(std::string_view text) {
         _outlets.logTextView->insertAtEnd(text);
         _outlets.logTextView->scrollEndToVisible();
     }
-}
-
-void KXConfigAppDelegate::appendMessage(std::string_view key,
-                                        std::initializer_list<FormatArgument> arguments) {
-    appendString(localizedText(key, arguments));
 }
 
 void KXConfigAppDelegate::logDrawerButton() {

@@ -10,8 +10,8 @@
 
 #pragma once
 
-#include "LogText.h"
-#include "TitleList.h"
+#include "support/TitleList.h"
+#include "words/LogText.h"
 
 #include <optional>
 #include <string>

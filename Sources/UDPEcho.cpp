@@ -276,14 +276,15 @@ void UDPEcho::_readData() {
     require(sock >= 0, "sock >= 0", sourcePath);
 
     std::array<std::uint8_t, receiveBufferLength> buffer; // filled by the system, as far as needed
-    Bytes sender;
-    const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, sender);
+    DatagramOrigin origin;
+    const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, origin);
     if (bytesRead > 0) {
         const auto copy = copyOfBytes(buffer, static_cast<std::size_t>(bytesRead));
         const Bytes& dataObj = requireValue(copy, "dataObj != nil", sourcePath);
-        require(!sender.empty(), "addrObj != nil", sourcePath);
+        require(!origin.sender.empty(), "addrObj != nil", sourcePath);
+        _link = origin.link;
         if (_delegate != nullptr) {
-            _delegate->echoDidReceiveDataFromAddress(*this, dataObj, sender);
+            _delegate->echoDidReceiveDataFromAddress(*this, dataObj, origin.sender);
         }
         return;
     }

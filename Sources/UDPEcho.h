@@ -138,6 +138,10 @@ public:
     // The socket's descriptor, for socket options; -1 while there is no socket.
     int nativeSocket() const;
 
+    // Inside echoDidReceiveDataFromAddress(): the index of the interface by which the datagram came
+    // (see if_nametoindex(3)); 0 when the system does not tell.
+    std::uint32_t link() const { return _link; }
+
     // Starts as a server on a port in host byte order and reports echoDidStartWithAddress() before
     // it returns; when the socket cannot be set up, reports echoDidStopWithError() instead and
     // stays stopped. The local address is asked for whenever there is a delegate, also one that
@@ -237,6 +241,7 @@ private:
     std::optional<std::string> _hostName;
     std::optional<Bytes> _hostAddress;
     std::size_t _port = 0;
+    std::uint32_t _link = 0;
     std::unique_ptr<HostResolver::Request> _cfHost;
     std::unique_ptr<EndpointSocket> _cfSocket;
 };

@@ -13,15 +13,15 @@ constexpr std::size_t shortestRun = 64;
 
 } // namespace
 
-void OrderedSerialNumbers::add(std::string_view key) {
-    require(key.size() <= UnitRecord::longestText, "key.size() <= UnitRecord::longestText",
-            "Sources/OrderedSerialNumbers");
-    _keys.emplace_back(key);
-    if (_keys.size() % shortestRun != 0) {
+void OrderedSerialNumbers::add(std::string_view number) {
+    require(number.size() <= UnitRecord::longestText, "number.size() <= UnitRecord::longestText",
+            "Sources/units/OrderedSerialNumbers");
+    _numbers.emplace_back(number);
+    if (_numbers.size() % shortestRun != 0) {
         return;
     }
-    std::sort(_keys.end() - shortestRun, _keys.end());
-    for (std::size_t run = shortestRun; _keys.size() % (2 * run) == 0; run *= 2) {
+    std::sort(_numbers.end() - shortestRun, _numbers.end());
+    for (std::size_t run = shortestRun; _numbers.size() % (2 * run) == 0; run *= 2) {
         mergeLast(run, run);
     }
 }
@@ -29,9 +29,9 @@ void OrderedSerialNumbers::add(std::string_view key) {
 // The lengths of the runs are the binary digits of their sum. From the shortest one on they become
 // one, which is as well the runs that it was. The longest one, mostly by far, is not touched.
 TitleList OrderedSerialNumbers::list() {
-    std::size_t merged = _keys.size() % shortestRun;
-    std::size_t rest = _keys.size() - merged;
-    std::sort(_keys.begin() + static_cast<std::ptrdiff_t>(rest), _keys.end());
+    std::size_t merged = _numbers.size() % shortestRun;
+    std::size_t rest = _numbers.size() - merged;
+    std::sort(_numbers.begin() + static_cast<std::ptrdiff_t>(rest), _numbers.end());
     while (!std::has_single_bit(rest) && rest != 0) {
         const std::size_t run = rest & (~rest + 1);
         mergeLast(run, merged);
@@ -40,12 +40,12 @@ TitleList OrderedSerialNumbers::list() {
     }
 
     TitleList texts;
-    texts.reserve(_keys.size(), _keys.size() * UnitRecord::longestText);
-    auto left = _keys.cbegin();
+    texts.reserve(_numbers.size(), _numbers.size() * UnitRecord::longestText);
+    auto left = _numbers.cbegin();
     const auto middle = left + static_cast<std::ptrdiff_t>(rest);
     auto right = middle;
-    while (left != middle || right != _keys.cend()) {
-        const bool takesLeft = right == _keys.cend() || (left != middle && *left < *right);
+    while (left != middle || right != _numbers.cend()) {
+        const bool takesLeft = right == _numbers.cend() || (left != middle && *left < *right);
         texts.push_back((takesLeft ? left++ : right++)->text());
     }
     return texts;
@@ -53,8 +53,8 @@ TitleList OrderedSerialNumbers::list() {
 
 // The last keys are a run of `first` and one of `second`.
 void OrderedSerialNumbers::mergeLast(std::size_t first, std::size_t second) {
-    const auto middle = _keys.end() - static_cast<std::ptrdiff_t>(second);
-    std::inplace_merge(middle - static_cast<std::ptrdiff_t>(first), middle, _keys.end());
+    const auto middle = _numbers.end() - static_cast<std::ptrdiff_t>(second);
+    std::inplace_merge(middle - static_cast<std::ptrdiff_t>(first), middle, _numbers.end());
 }
 
 } // namespace kx

@@ -1,12 +1,12 @@
-// The keys of the unit registry in ascending order, however many there are: a list of them is ready
-// in a fraction of the time that a walk over the registry takes, which lies scattered in memory.
+// Serial numbers in ascending order, however many there are: a list of them is ready in a fraction
+// of the time that a walk over the registry's records takes, which lie scattered in memory.
 //
-// Keys are short texts, compared by their bytes. Any thread, one at a time.
+// They are short texts, compared by their bytes. Any thread, one at a time.
 
 #pragma once
 
-#include "TitleList.h"
-#include "UnitParameters.h"
+#include "support/TitleList.h"
+#include "units/UnitRecord.h"
 
 #include <array>
 #include <cstddef>
@@ -18,22 +18,22 @@ namespace kx {
 
 class OrderedSerialNumbers {
 public:
-    void clear() { _keys.clear(); }
+    void clear() { _numbers.clear(); }
 
-    // A key that was not added before. Contract: "key.size() <= UnitRecord::longestText".
-    void add(std::string_view key);
+    // A number that was not added before. Contract: "number.size() <= UnitRecord::longestText".
+    void add(std::string_view number);
 
-    // Every key once, in ascending order.
+    // Every number once, in ascending order.
     TitleList list();
 
 private:
-    class Key {
+    class Number {
     public:
-        explicit Key(std::string_view text)
+        explicit Number(std::string_view text)
             : _length(static_cast<std::uint8_t>(text.copy(_text.data(), _text.size()))) {}
 
         std::string_view text() const { return {_text.data(), _length}; }
-        friend bool operator<(const Key& left, const Key& right) {
+        friend bool operator<(const Number& left, const Number& right) {
             return left.text() < right.text();
         }
 
@@ -44,10 +44,10 @@ private:
 
     void mergeLast(std::size_t first, std::size_t second);
 
-    // Ascending runs one after the other. As in a binary counter no two have the same length, but
-    // for a rest at the end that is no run yet: so each key is moved a few times only, and never
-    // many of them at once.
-    std::vector<Key> _keys;
+    // Ascending runs one behind the other. Their lengths are distinct powers of two times the
+    // shortest run, so a number moves O(log n) times; a single add() may merge all of them. What
+    // stands behind the last run is too short for one, and not in order.
+    std::vector<Number> _numbers;
 };
 
 } // namespace kx

@@ -1,9 +1,9 @@
-#include "CommandProtocol.h"
+#include "units/UnitCommand.h"
 
-#include "IdentityText.h"
 #include "addresses/CharacterClass.h"
 #include "addresses/IPv4Address.h"
 #include "support/TextEncoding.h"
+#include "units/IdentityText.h"
 
 #include <array>
 #include <cstddef>
@@ -32,73 +32,58 @@ std::string hexNumber(std::int32_t number, int leastDigits) {
     return {digits.data(), static_cast<std::size_t>(length)};
 }
 
-std::string commandText(char letter, std::string_view argument) {
-    std::string result(commandPrefix);
-    result += letter;
-    result += argument;
-    return result;
-}
-
-} // namespace
-
-std::string macAddressArgument(std::string_view typed) {
-    return withoutCharacter(typed, ':');
-}
-
-std::string ipAddressArgument(std::string_view typed) {
-    return hexNumber(static_cast<std::int32_t>(ipForString(typed)), 8);
-}
-
-std::uint16_t destinationPortForText(std::string_view typed) {
-    const std::int32_t port = integerValue(typed);
-    const bool isAllowed = port >= defaultUnitPort && port <= lastDestinationPort;
-    return isAllowed ? static_cast<std::uint16_t>(port) : defaultUnitPort;
-}
-
-std::string destinationPortArgument(std::string_view typed) {
-    return hexNumber(destinationPortForText(typed), 4);
-}
-
-std::string devicePortArgument(std::string_view typed) {
-    return hexNumber(integerValue(typed), 4);
-}
-
 std::optional<std::string> unitIDArgument(std::string_view typed) {
     const ByteView bytes = bytesOfText(typed);
     if (!isValidUTF8(bytes)) {
         return std::nullopt;
     }
-    if (!typed.empty() && isDigit(typed.front())) {
+    if (isUnitNumber(typed)) {
         return hexNumber(integerValue(typed), 12);
     }
     return hexStringForData(bytes, "");
 }
 
-std::string serialNumberArgument(std::string_view typed) {
-    return withoutCharacter(typed, ' ');
+} // namespace
+
+std::uint16_t listeningPortForText(std::string_view typed) {
+    const std::int32_t port = integerValue(typed);
+    const bool isAllowed = port >= defaultUnitPort && port <= lastListeningPort;
+    return isAllowed ? static_cast<std::uint16_t>(port) : defaultUnitPort;
+}
+
+bool isUnitNumber(std::string_view typed) {
+    return !typed.empty() && isDigit(typed.front());
+}
+
+std::optional<std::string> argumentForText(ValueForm form, std::string_view typed) {
+    switch (form) {
+    case ValueForm::hardwareAddress:
+        return withoutCharacter(typed, ':');
+    case ValueForm::serialNumber:
+        return withoutCharacter(typed, ' ');
+    case ValueForm::ipv4Address:
+        return hexNumber(static_cast<std::int32_t>(ipForString(typed)), 8);
+    case ValueForm::listeningPort:
+        return hexNumber(listeningPortForText(typed), 4);
+    case ValueForm::anyPort:
+        return hexNumber(integerValue(typed), 4);
+    case ValueForm::unitID:
+        return unitIDArgument(typed);
+    case ValueForm::none:
+        break;
+    }
+    return std::nullopt;
 }
 
 std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed) {
-    switch (parameter) {
-    case UnitParameter::internalMACAddress:
-        return commandText('M', macAddressArgument(typed));
-    case UnitParameter::internalIPAddress:
-        return commandText('I', ipAddressArgument(typed));
-    case UnitParameter::destinationIPAddress:
-        return commandText('D', ipAddressArgument(typed));
-    case UnitParameter::destinationPortNumber:
-        return commandText('T', destinationPortArgument(typed));
-    case UnitParameter::devicePortNumber:
-        return commandText('P', devicePortArgument(typed));
-    case UnitParameter::destinationMACAddress:
-        return commandText('C', macAddressArgument(typed));
-    case UnitParameter::serialNumber:
-        return commandText('S', serialNumberArgument(typed));
-    case UnitParameter::unitID:
-        break;
+    const ParameterDescription& description = descriptionOf(parameter);
+    const auto argument = argumentForText(description.form, typed);
+    if (!description.isEditable() || !argument.has_value()) {
+        return std::nullopt;
     }
-    const auto argument = unitIDArgument(typed);
-    return argument.has_value() ? std::optional(commandText('U', *argument)) : std::nullopt;
+    std::string command(commandPrefix);
+    command += description.commandLetter;
+    return command += *argument;
 }
 
 std::string optionCommand(std::string_view text) {

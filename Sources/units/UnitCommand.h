@@ -1,5 +1,5 @@
-// What a unit is told: a command is ASCII text, "^^Id", one letter, an argument, without a length and
-// without a checksum.
+// What a unit is told: a command is ASCII text, "^^Id", one letter, an argument, without a length
+// and without a checksum.
 //
 // Everything here is pure: texts in, texts out, no state, any thread. Texts are UTF-8.
 
@@ -15,9 +15,9 @@
 
 namespace kx {
 
+// Units are asked on this port until they have told their own, and answer to one of four.
 inline constexpr std::uint16_t defaultUnitPort = 3520;
-inline constexpr std::uint16_t lastDestinationPort = 3523;
-inline constexpr std::string_view allOnesBroadcastAddress = "255.255.255.255";
+inline constexpr std::uint16_t lastListeningPort = 3523;
 
 inline constexpr std::string_view commandPrefix = "^^Id";
 
@@ -25,38 +25,31 @@ inline constexpr std::string_view commandPrefix = "^^Id";
 inline constexpr std::string_view parameterRequestCommand = "^^IdX";
 inline constexpr std::string_view restoreCommand = "^^IdZ";
 
-// --- The arguments of the edit commands, made from what a person typed ---
-//
-// The conversions are loose on purpose: separators are removed wherever they stand, and nothing is
-// checked for its length or for being hexadecimal. Numbers are read as integerValue() reads them.
-
-// The typed text without its colons, for MAC addresses.
-std::string macAddressArgument(std::string_view typed);
-
-// Eight hexadecimal digits, first octet first; "00000000" for what does not parse.
-std::string ipAddressArgument(std::string_view typed);
-
 // The port that the text names when that lies in 3520 to 3523, otherwise 3520.
-std::uint16_t destinationPortForText(std::string_view typed);
+std::uint16_t listeningPortForText(std::string_view typed);
 
-// The same as four hexadecimal digits, "0DC0" to "0DC3".
-std::string destinationPortArgument(std::string_view typed);
+// Whether the text of a unit ID stands for a number: when it begins with a digit.
+bool isUnitNumber(std::string_view typed);
 
-// At least four hexadecimal digits, with no check of the range, unlike the destination port: more
-// above 65535, eight for a negative number.
-std::string devicePortArgument(std::string_view typed);
+// The argument of a command, made from what a person typed. The conversions are loose on purpose:
+// separators are removed wherever they stand, nothing is checked for its length or for being
+// hexadecimal, and numbers are read as integerValue() reads them.
+//
+//   hardwareAddress   the text without its colons
+//   serialNumber      the text without its blanks
+//   ipv4Address       eight hexadecimal digits, first octet first; "00000000" for no address
+//   listeningPort     "0DC0" to "0DC3", by listeningPortForText()
+//   anyPort           at least four hexadecimal digits, with no check of the range: more above
+//                     65535, eight for a negative number
+//   unitID            for a number twelve hexadecimal digits; for any other text the two digits of
+//                     each byte, however many there are
+//
+// Absent for a unit ID that is not UTF-8, and for `none`.
+std::optional<std::string> argumentForText(ValueForm form, std::string_view typed);
 
-// For a text that begins with a digit, its number as twelve hexadecimal digits; for any other the
-// two hexadecimal digits of each byte, however many there are. Absent when the text is not UTF-8.
-std::optional<std::string> unitIDArgument(std::string_view typed);
-
-// The typed text without its blanks.
-std::string serialNumberArgument(std::string_view typed);
-
-// --- Command texts ---
-
-// The command that gives a parameter the value that a person typed. Absent when there is none: for
-// a unit ID that is not UTF-8. Whether an empty text is worth a command is the caller's business.
+// The command that gives a parameter the value that a person typed. Absent where there is no
+// argument, and for a parameter that no command changes. Whether an empty text is worth a command
+// is the caller's business.
 std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed);
 
 // The free-form command: the whole text as it stands, and a carriage return.

@@ -1,9 +1,10 @@
-// What a unit's parameters are: one table with a row for each, in the order in which people see them.
+// What a unit's parameters are: one table with a row for each, in the order in which people see
+// them.
 //
-// Whatever depends on a parameter is made from its row: the decoder of replies, the commands, what a
-// unit should show after an edit, the names in tables and on the command line. A parameter without
-// a whole row does not compile. The dissector, the simulated units, the help and docs/protocol.md
-// are written apart, and tested against the table.
+// Whatever depends on a parameter is made from its row: the decoder of replies, the commands, what
+// a unit should show after an edit, the names in tables and on the command line. A parameter
+// without a whole row does not compile. The dissector, the simulated units, the help and
+// docs/protocol.md are written apart, and tested against the table.
 //
 // Everything here is constant and may be used from any thread.
 

@@ -31,9 +31,7 @@ public:
     // longestText".
     void setValue(UnitParameter parameter, std::string_view text);
 
-    void removeValue(UnitParameter parameter) {
-        _slots[indexOf(parameter)] = Slot{};
-    }
+    void removeValue(UnitParameter parameter) { _slots[indexOf(parameter)] = Slot{}; }
 
     // Whether both have the same parameters with the same texts.
     friend bool operator==(const UnitRecord& left, const UnitRecord& right);

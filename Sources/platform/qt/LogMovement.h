@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "LogText.h"
+#include "words/LogText.h"
 
 namespace kx {
 

@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "LogText.h"
+#include "words/LogText.h"
 
 #include <QColor>
 #include <QFont>

@@ -16,9 +16,9 @@
 
 #pragma once
 
-#include "LogText.h"
 #include "platform/qt/LogLines.h"
 #include "platform/qt/LogMovement.h"
+#include "words/LogText.h"
 
 #include <QAbstractScrollArea>
 #include <QBasicTimer>

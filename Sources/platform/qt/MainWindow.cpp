@@ -2,7 +2,6 @@
 
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
-#include "UnitParameters.h"
 #include "platform/qt/AboutBox.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
@@ -18,6 +17,7 @@
 #include "platform/qt/QtWindow.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
+#include "units/UnitParameter.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "TitleList.h"
+#include "support/TitleList.h"
 
 #include <QAbstractListModel>
 

@@ -1,0 +1,159 @@
+#include "KXConfigAppDelegate.h"
+#include "addresses/IPv4Address.h"
+#include "support/TextEncoding.h"
+#include "units/UnitCommand.h"
+#include "words/DropNote.h"
+#include "words/EventLogEntries.h"
+
+#include <utility>
+
+namespace kx {
+
+// --- What is sent ---
+
+bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>& command,
+                                               const std::optional<std::string>& address) {
+    return handOver(command, address).has_value();
+}
+
+bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command) {
+    return sendCommandToAddress(command, selectedText(UnitParameter::internalIPAddress));
+}
+
+std::optional<KXConfigAppDelegate::HandedOver>
+KXConfigAppDelegate::handOver(const std::optional<std::string>& command,
+                              const std::optional<std::string>& address) {
+    if (!command.has_value() || _session.listener() == nullptr || !address.has_value() ||
+        !asciiBytes(*command).has_value()) {
+        return std::nullopt;
+    }
+    appendString(entryOfCommand(*command, *address));
+    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port)};
+}
+
+std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
+                                                            UnitDestination destination) {
+    appendString(entryOfRequest(destination.address));
+    return _session.send(command, destination.address, destination.port);
+}
+
+std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {
+    auto failure = sendRequest(parameterRequestCommand, unitDestination());
+    refreshForecast();
+    return failure;
+}
+
+// --- The selected unit ---
+
+const UnitRecord* KXConfigAppDelegate::selectedRecord() const {
+    return _selectedUnit.has_value() ? _devicesD.find(*_selectedUnit) : nullptr;
+}
+
+std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter parameter) const {
+    const UnitRecord* const record = selectedRecord();
+    const auto value = record != nullptr ? record->value(parameter) : std::nullopt;
+    return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
+}
+
+UnitDestination KXConfigAppDelegate::unitDestination() const {
+    return destinationOfUnit(selectedRecord(), broadcastAddress());
+}
+
+// --- The session's events ---
+
+void KXConfigAppDelegate::sessionDidStart(const Bytes& localAddress) {
+    appendString(entryOfStart(localAddress));
+}
+
+void KXConfigAppDelegate::sessionCanBroadcast() {
+    sendRequest(parameterRequestCommand, {.address = broadcastAddress(), .port = defaultUnitPort});
+}
+
+void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
+    appendString(entryOfRefusedBroadcast(reason));
+}
+
+void KXConfigAppDelegate::sessionDidStop(const Error& error) {
+    appendString(entryOfStop(error));
+}
+
+void KXConfigAppDelegate::sessionDidReceiveDatagram(std::size_t length) {
+    appendString(entryOfDatagram(length));
+}
+
+void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind) {
+    appendString(entryOfIgnoredDatagram(kind));
+}
+
+void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
+                                                const DecodedUnitParameters& parameters,
+                                                const DatagramOrigin& /*origin*/) {
+    if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
+        if (serial == _selectedUnit) {
+            showSelectedUnit();
+        }
+        _quietLine.unitDidTell(*serial, parameters.record);
+    }
+    appendString(entryOfReply(reply, parameters.displayText));
+}
+
+// The request comes first in the log.
+void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
+    const auto failure = requestParametersOfUnit();
+    if (reply.serialNumber.has_value()) {
+        _quietLine.unitDidAccept(*reply.serialNumber, failure);
+    }
+    appendString(entryOfReply(reply, ""));
+}
+
+void KXConfigAppDelegate::unitDidSay(const Reply& reply, const DatagramOrigin& /*origin*/) {
+    appendString(entryOfReply(reply, textFromUTF8(reply.payload)));
+}
+
+void KXConfigAppDelegate::sessionDidReceiveError(const Error& error) {
+    appendString(entryOfReceiveError(error));
+}
+
+void KXConfigAppDelegate::sessionDidSend() {
+    appendString(entryOfSend());
+}
+
+void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
+    appendString(entryOfSendFailure(failure));
+}
+
+void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
+    _outlets.dropLine->setStringValue(noteOfDrops(datagrams));
+}
+
+// --- The endpoint's events ---
+
+void KXConfigAppDelegate::echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
+                                                        const Bytes& address) {
+    _session.echoDidReceiveDataFromAddress(echo, data, address);
+}
+
+void KXConfigAppDelegate::echoDidReceiveError(UDPEcho& echo, const Error& error) {
+    _session.echoDidReceiveError(echo, error);
+}
+
+void KXConfigAppDelegate::echoDidSendDataToAddress(UDPEcho& echo, const Bytes& data,
+                                                   const Bytes& address) {
+    _session.echoDidSendDataToAddress(echo, data, address);
+}
+
+void KXConfigAppDelegate::echoDidFailToSendDataToAddressError(UDPEcho& echo, const Bytes& data,
+                                                              const Bytes& address,
+                                                              const Error& error) {
+    _session.echoDidFailToSendDataToAddressError(echo, data, address, error);
+}
+
+void KXConfigAppDelegate::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
+    _session.echoDidStartWithAddress(echo, address);
+}
+
+void KXConfigAppDelegate::echoDidStopWithError(UDPEcho& echo, const Error& error) {
+    _session.echoDidStopWithError(echo, error);
+}
+
+} // namespace kx

@@ -1,0 +1,29 @@
+#include "conversation/ARPEntry.h"
+
+#include "support/AuthorizationService.h"
+
+namespace kx {
+
+ARPEntry arpEntryForResult(std::int32_t result) {
+    switch (result) {
+    case errAuthorizationSuccess:
+        return {.state = ARPEntryState::started};
+    case errAuthorizationDenied:
+        return {.state = ARPEntryState::refused};
+    case errAuthorizationCanceled:
+        return {.state = ARPEntryState::dismissed};
+    case errAuthorizationToolExecuteFailure:
+        return {.state = ARPEntryState::cannotRun};
+    case -1: // never too many arguments here
+        return {.state = ARPEntryState::notASCII};
+    default:
+        return {.state = ARPEntryState::notStarted, .code = result};
+    }
+}
+
+ARPEntry arpEntryForEndOfTool(std::int32_t status) {
+    return status == 0 ? ARPEntry{.state = ARPEntryState::started}
+                       : ARPEntry{.state = ARPEntryState::ended, .code = status};
+}
+
+} // namespace kx

@@ -1,0 +1,29 @@
+// Where a unit is reached, by what it has told of itself.
+//
+// Pure; any thread. Addresses and ports are in host byte order.
+
+#pragma once
+
+#include "units/UnitRecord.h"
+
+#include <cstdint>
+
+namespace kx {
+
+struct UnitDestination {
+    std::uint32_t address = 0;
+    std::uint16_t port = 0;
+};
+
+// All hosts of the sender's own link (RFC 919), 255.255.255.255.
+inline constexpr std::uint32_t limitedBroadcastAddress = 0xFFFFFFFFU;
+
+// The broadcast address of the subnet of `address`: 255.255.255.255 for the address 0.
+std::uint32_t directedBroadcastAddress(std::uint32_t address, std::uint32_t mask);
+
+// The address in the record, or `everybody` when it has none or there is no record; and the device
+// port in the record, cut to 16 bits, or 3520 when it is absent or empty. An address that does not
+// parse is 0.
+UnitDestination destinationOfUnit(const UnitRecord* record, std::uint32_t everybody);
+
+} // namespace kx

@@ -1,0 +1,196 @@
+#include "conversation/UnitSession.h"
+
+#include "addresses/SocketAddressRecord.h"
+#include "support/SystemLog.h"
+
+#include <cerrno>
+#include <chrono>
+
+namespace kx {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// Room for the replies of ten thousand units in the same instant.
+constexpr int wantedReceiveBuffer = 4 * 1024 * 1024;
+
+// A burst is counted a few times at most, and a person who reads sees no number run.
+constexpr auto timeBetweenCounts = 250ms;
+
+} // namespace
+
+void UnitSessionObserver::sessionDidStart(const Bytes& /*localAddress*/) {}
+void UnitSessionObserver::sessionCanBroadcast() {}
+void UnitSessionObserver::sessionCannotBroadcast(const std::string& /*reason*/) {}
+void UnitSessionObserver::sessionDidStop(const Error& /*error*/) {}
+void UnitSessionObserver::sessionDidReceiveDatagram(std::size_t /*length*/) {}
+void UnitSessionObserver::sessionDidIgnoreDatagram(PacketKind /*kind*/) {}
+void UnitSessionObserver::unitDidTellParameters(const Reply& /*reply*/,
+                                                const DecodedUnitParameters& /*parameters*/,
+                                                const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::unitDidAccept(const Reply& /*reply*/, const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::unitDidSay(const Reply& /*reply*/, const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::sessionDidReceiveError(const Error& /*error*/) {}
+void UnitSessionObserver::sessionDidSend() {}
+void UnitSessionObserver::sessionDidFailToSend(const SendFailure& /*failure*/) {}
+void UnitSessionObserver::sessionDidDrop(std::uint32_t /*datagrams*/) {}
+
+UnitSession::UnitSession(const Services& services, UnitRegistry& registry,
+                         UnitSessionObserver& observer)
+    : _services(services)
+    , _registry(registry)
+    , _observer(observer) {}
+
+UnitSession::~UnitSession() {
+    stop();
+}
+
+void UnitSession::start(std::size_t port) {
+    stop();
+    if (_drops != 0) {
+        _drops = 0;
+        _observer.sessionDidDrop(0);
+    }
+    _listener = UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
+    _listener->setDelegate(this);
+    _listener->startServerOnPort(port);
+}
+
+void UnitSession::stop() {
+    if (_listener != nullptr) {
+        _listener->setDelegate(nullptr);
+        _listener->stop();
+        _listener.reset();
+    }
+    _dropCount.reset();
+}
+
+// A listener that failed to start stays where it is until the next start. Sending through it is no
+// broken contract of the person who pressed a button, so it fails like any other send.
+std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint32_t address,
+                                             std::uint16_t port) {
+    _sendFailure.reset();
+    if (_listener == nullptr) {
+        return std::nullopt;
+    }
+    if (isListening()) {
+        _listener->_sendDataToAddress(Bytes(command.begin(), command.end()),
+                                      dataForAddress(address, port));
+    } else {
+        didFailToSend({});
+    }
+    return std::exchange(_sendFailure, std::nullopt);
+}
+
+void UnitSession::didFailToSend(SendFailure failure) {
+    _sendFailure = std::move(failure);
+    _observer.sessionDidFailToSend(*_sendFailure);
+}
+
+// --- The endpoint's events ---
+
+void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
+    if (&echo != _listener.get()) {
+        return;
+    }
+    try {
+        _observer.sessionDidStart(address);
+        const int descriptor = echo.nativeSocket();
+        if (_services.receiveBuffers != nullptr) {
+            _services.receiveBuffers->enlarge(descriptor, wantedReceiveBuffer);
+        }
+        _services.systemCalls.tellLinks(descriptor); // refused: events come without the link
+        if (_services.systemCalls.enableBroadcast(descriptor) == 0) {
+            _observer.sessionCanBroadcast();
+        } else {
+            _observer.sessionCannotBroadcast(posixErrorText(errno));
+        }
+    } catch (const PlatformException& exception) {
+        logToSystem(
+            filledText("Exception during echo:didStartWithAddress: %@", {exception.reason()}));
+    }
+}
+
+void UnitSession::echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
+                                                const Bytes& address) {
+    if (&echo != _listener.get()) {
+        return; // an endpoint from before a restart
+    }
+    countDropsSoon();
+    _observer.sessionDidReceiveDatagram(data.size());
+    try {
+        didReceiveDataFromAddress(data, {.sender = address, .link = echo.link()});
+    } catch (const PlatformException& exception) {
+        logToSystem(filledText("Exception during echo:didReceiveData:fromAddress: %@",
+                               {exception.reason()}));
+    }
+}
+
+void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin& origin) {
+    const PacketKind kind = packetKindOfDatagram(data);
+    if (kind != PacketKind::reply) {
+        _observer.sessionDidIgnoreDatagram(kind);
+        return;
+    }
+    const Reply reply = replyFromDatagram(data);
+    switch (reply.payloadKind) {
+    case PayloadKind::parameterList: {
+        const auto parameters =
+            decodeUnitParameters(reply.payload, _shownNames.has_value() ? &*_shownNames : nullptr);
+        _registry.store(parameters.record);
+        _observer.unitDidTellParameters(reply, parameters, origin);
+        break;
+    }
+    case PayloadKind::acknowledgement:
+        _observer.unitDidAccept(reply, origin);
+        break;
+    case PayloadKind::none:
+    case PayloadKind::other:
+        _observer.unitDidSay(reply, origin);
+        break;
+    }
+}
+
+void UnitSession::echoDidReceiveError(UDPEcho& /*echo*/, const Error& error) {
+    countDropsSoon();
+    _observer.sessionDidReceiveError(error);
+}
+
+void UnitSession::echoDidSendDataToAddress(UDPEcho& echo, const Bytes& /*data*/,
+                                           const Bytes& /*address*/) {
+    if (&echo == _listener.get()) {
+        _observer.sessionDidSend();
+    }
+}
+
+void UnitSession::echoDidFailToSendDataToAddressError(UDPEcho& /*echo*/, const Bytes& /*data*/,
+                                                      const Bytes& /*address*/,
+                                                      const Error& error) {
+    didFailToSend({.error = error});
+}
+
+void UnitSession::echoDidStopWithError(UDPEcho& /*echo*/, const Error& error) {
+    _observer.sessionDidStop(error);
+}
+
+// --- Datagrams that the system had no room for ---
+
+// Called for every read, a failed one included. A buffer that overflows is full of datagrams, so
+// the last loss is followed by a read, and by a count.
+void UnitSession::countDropsSoon() {
+    if (_services.receiveBuffers != nullptr && _dropCount == nullptr) {
+        _dropCount = _services.runLoop.callOnceAfter(timeBetweenCounts, [this] { countDrops(); });
+    }
+}
+
+void UnitSession::countDrops() {
+    _dropCount.reset();
+    const auto drops = _services.receiveBuffers->droppedDatagrams(_listener->nativeSocket());
+    if (drops.has_value() && *drops != _drops) {
+        _drops = *drops;
+        _observer.sessionDidDrop(_drops);
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,234 @@
+#include "words/EditForecast.h"
+
+#include "addresses/IPv4Address.h"
+#include "support/LocalizedText.h"
+#include "support/TextEncoding.h"
+#include "units/UnitCommand.h"
+#include "words/ShownText.h"
+
+namespace kx {
+
+namespace {
+
+std::string nounOf(const ParameterEdit& edit) {
+    return localizedText(descriptionOf(edit.parameter).noun);
+}
+
+std::string commandOf(const ParameterEdit& edit) {
+    return shownInSentence(edit.command);
+}
+
+long long digitsOf(const ParameterEdit& edit) {
+    return static_cast<long long>(edit.value.size());
+}
+
+// "Apply sends ^^IdT0DC1: destination port 3521."
+std::string forecastOfValue(const ParameterEdit& edit, std::string_view value) {
+    return localizedText("Apply sends %@: %@ %@.", {commandOf(edit), nounOf(edit), value});
+}
+
+std::string forecastOfValueReadAs(const ParameterEdit& edit) {
+    return localizedText("Apply sends %@: %@ %@, because that is how “%@” is read.",
+                         {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+}
+
+std::string forecastOfMACAddress(const ParameterEdit& edit) {
+    switch (edit.change) {
+    case ValueChange::notHexadecimal:
+        return localizedText("Apply sends %@, though a MAC address has 12 hexadecimal digits and "
+                             "nothing else but colons.",
+                             {commandOf(edit)});
+    case ValueChange::wrongLength:
+        return localizedText(
+            "Apply sends %@, though a MAC address has 12 hexadecimal digits and this "
+            "has %d.",
+            {commandOf(edit), digitsOf(edit)});
+    default:
+        return forecastOfValue(edit, edit.value);
+    }
+}
+
+std::string forecastOfSerialNumber(const ParameterEdit& edit, const CommandTarget& target) {
+    switch (edit.change) {
+    case ValueChange::notHexadecimal:
+        return localizedText("Apply sends %@, though a serial number has 12 hexadecimal digits and "
+                             "nothing else but blanks.",
+                             {commandOf(edit)});
+    case ValueChange::wrongLength:
+        return localizedText("Apply sends %@, though a serial number has 12 hexadecimal digits and "
+                             "this has %d.",
+                             {commandOf(edit), digitsOf(edit)});
+    default:
+        break;
+    }
+    return target.newSerialNumberIsTaken
+               ? localizedText("Apply sends %@: serial number %@, which another unit has.",
+                               {commandOf(edit), edit.value})
+               : forecastOfValue(edit, edit.value);
+}
+
+std::string forecastOfIPAddress(const ParameterEdit& edit) {
+    switch (edit.change) {
+    case ValueChange::notAnAddress:
+        return localizedText(
+            "Apply sends %@: %@ %@, because “%@” is not an IPv4 address.",
+            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+    case ValueChange::readAs:
+        return forecastOfValueReadAs(edit);
+    default:
+        return forecastOfValue(edit, edit.value);
+    }
+}
+
+std::string forecastOfPort(const ParameterEdit& edit) {
+    switch (edit.change) {
+    case ValueChange::notANumber:
+        return localizedText(
+            "Apply sends %@: %@ %@, because “%@” does not begin with a number.",
+            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+    case ValueChange::readAs:
+        return forecastOfValueReadAs(edit);
+    case ValueChange::outOfRange:
+        break;
+    default:
+        return forecastOfValue(edit, edit.value);
+    }
+    const std::string number = shownInSentence(numberInFront(edit.typed));
+    return descriptionOf(edit.parameter).form == ValueForm::listeningPort
+               ? localizedText("Apply sends %@: %@ %@, because %@ is outside 3520 to 3523.",
+                               {commandOf(edit), nounOf(edit), edit.value, number})
+               : localizedText("Apply sends %@, more than the four digits of a port, because %@ is "
+                               "outside 0 to 65535.",
+                               {commandOf(edit), number});
+}
+
+// A number above 255 may, besides, have been read out of a longer text.
+std::string forecastOfLargeUnitNumber(const ParameterEdit& edit) {
+    return edit.typed == edit.value
+               ? localizedText(
+                     "Apply sends %@: the number %@, which does not show as a number because "
+                     "it is above 255.",
+                     {commandOf(edit), edit.value})
+               : localizedText("Apply sends %@: the number %@, because that is how “%@” is read. "
+                               "Above 255 it does not show as a number.",
+                               {commandOf(edit), edit.value, shownInSentence(edit.typed)});
+}
+
+std::string forecastOfUnitID(const ParameterEdit& edit) {
+    switch (edit.change) {
+    case ValueChange::notShown:
+        return forecastOfLargeUnitNumber(edit);
+    case ValueChange::readAs:
+        return forecastOfValueReadAs(edit);
+    case ValueChange::wrongLength:
+        return localizedText(
+            "Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has "
+            "%d.",
+            {commandOf(edit), shownInSentence(edit.typed), digitsOf(edit)});
+    default:
+        break;
+    }
+    return isUnitNumber(edit.typed)
+               ? forecastOfValue(edit, edit.value)
+               : localizedText("Apply sends %@: %@ “%@”.",
+                               {commandOf(edit), nounOf(edit), shownInSentence(edit.value)});
+}
+
+// The ARP tool gets the address as it was typed, whatever the command makes of it.
+std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& target) {
+    if (!target.hardwareAddress.has_value()) {
+        return localizedText(
+            "Apply asks for administrator rights, but no MAC address is known for an "
+            "ARP entry.");
+    }
+    if (!asciiBytes(typed).has_value()) {
+        return localizedText("Apply asks for administrator rights, but an ARP entry can hold ASCII "
+                             "characters only.");
+    }
+    if (stringForIP(ipForString(typed)) != typed) {
+        return localizedText("Apply hands “%@” and %@ to the ARP tool, which needs administrator "
+                             "rights.",
+                             {shownInSentence(typed), *target.hardwareAddress});
+    }
+    return localizedText(
+        "Apply enters %@ at %@ in the ARP cache, which needs administrator rights.",
+        {typed, *target.hardwareAddress});
+}
+
+std::string forecastOfMove(const ParameterEdit& edit, const CommandTarget& target) {
+    std::string forecast = forecastOfARPEntry(edit.typed, target) + ' ';
+    if (!target.isListening) {
+        return forecast + localizedText("Apply sends nothing: the UDP listener is not running.");
+    }
+    if (!target.unitIsSelected) {
+        forecast += localizedText("No unit is selected.") + ' ';
+    }
+    switch (edit.change) {
+    case ValueChange::notAnAddress:
+        return forecast +
+               localizedText("Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.",
+                             {commandOf(edit), shownInSentence(edit.typed)});
+    case ValueChange::readAs:
+        return forecast + localizedText("Apply sends %@ to %@, because that is how “%@” is read.",
+                                        {commandOf(edit), edit.value, shownInSentence(edit.typed)});
+    default:
+        return forecast + localizedText("Apply sends %@ to %@.", {commandOf(edit), edit.value});
+    }
+}
+
+std::string forecastOfRefusal(CommandRefusal refusal) {
+    switch (refusal) {
+    case CommandRefusal::notEditable:
+        return localizedText("Apply sends nothing: no command changes this parameter.");
+    case CommandRefusal::emptyValue:
+        return localizedText("Apply sends nothing: the value is empty.");
+    case CommandRefusal::notUTF8:
+        return localizedText("Apply sends nothing: the unit ID is not a text in UTF-8.");
+    case CommandRefusal::noUnit:
+        return localizedText("Apply sends nothing: no unit is selected.");
+    case CommandRefusal::notASCII:
+        return localizedText("Apply sends nothing: a command can hold ASCII characters only.");
+    case CommandRefusal::noAddress:
+        break;
+    }
+    return localizedText("Apply sends nothing: the address of the unit is not known.");
+}
+
+std::string forecastOfForm(const ParameterEdit& edit, const CommandTarget& target) {
+    switch (descriptionOf(edit.parameter).form) {
+    case ValueForm::hardwareAddress:
+        return forecastOfMACAddress(edit);
+    case ValueForm::serialNumber:
+        return forecastOfSerialNumber(edit, target);
+    case ValueForm::ipv4Address:
+        return forecastOfIPAddress(edit);
+    case ValueForm::listeningPort:
+    case ValueForm::anyPort:
+        return forecastOfPort(edit);
+    case ValueForm::unitID:
+    case ValueForm::none:
+        break;
+    }
+    return forecastOfUnitID(edit);
+}
+
+} // namespace
+
+std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
+                           const CommandTarget& target) {
+    if (const auto refusal = refusalOfEdit(edit, target)) {
+        return forecastOfRefusal(*refusal);
+    }
+    const auto& parameterEdit = std::get<ParameterEdit>(edit);
+    if (parameterEdit.isTooLong()) {
+        return localizedText("Apply sends nothing: the command is too long for a datagram.");
+    }
+    if (parameterEdit.parameter == UnitParameter::internalIPAddress) {
+        return forecastOfMove(parameterEdit, target);
+    }
+    return target.isListening
+               ? forecastOfForm(parameterEdit, target)
+               : localizedText("Apply sends nothing: the UDP listener is not running.");
+}
+
+} // namespace kx

@@ -1,0 +1,20 @@
+// What Apply will send for a typed value, in words: a forecast, told before a person presses it.
+//
+// Pure but for looking up the sentences (support/LocalizedText.h), so it belongs to the main
+// thread. Texts are UTF-8.
+
+#pragma once
+
+#include "conversation/CommandTarget.h"
+#include "units/ParameterEdit.h"
+
+#include <string>
+#include <variant>
+
+namespace kx {
+
+// "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside 3520 to 3523."
+std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
+                           const CommandTarget& target);
+
+} // namespace kx

@@ -1,0 +1,106 @@
+#include "words/EditOutcomeText.h"
+
+#include "support/LocalizedText.h"
+#include "words/SendFailureText.h"
+#include "words/ShownText.h"
+
+namespace kx {
+
+namespace {
+
+std::string textOfAcceptance(const EditOutcome& outcome) {
+    if (outcome.requestFailure().has_value()) {
+        return localizedText("The unit accepted a command. It could not be asked for its "
+                             "parameters: %@",
+                             {reasonOfSendFailure(*outcome.requestFailure())});
+    }
+    const bool hasNewPort = outcome.edit().parameter == UnitParameter::devicePortNumber &&
+                            outcome.edit().shown != outcome.valueBefore();
+    return hasNewPort ? localizedText("The unit accepted a command and was asked for its "
+                                      "parameters. Discover finds it on its new port.")
+                      : localizedText("The unit accepted a command and was asked for its "
+                                      "parameters.");
+}
+
+std::string textOfShownValue(const EditOutcome& outcome) {
+    const std::string name = localizedText(nameOfUnitParameter(outcome.edit().parameter));
+    const std::string shown = shownInSentence(outcome.shownValue().value_or(""));
+    switch (outcome.state()) {
+    case EditState::shown:
+        return outcome.edit().parameter == UnitParameter::serialNumber &&
+                       outcome.shownValue() != outcome.unit()
+                   ? localizedText("The unit now shows %@ as its serial number. Discover lists it "
+                                   "under that.",
+                                   {shown})
+                   : localizedText("The unit now shows %@ as its %@.", {shown, name});
+    case EditState::unchanged:
+        return localizedText("The unit still shows %@ as its %@.", {shown, name});
+    case EditState::different:
+        return localizedText("The unit now shows %@ as its %@, which is not what was sent.",
+                             {shown, name});
+    default:
+        return localizedText("The unit's parameters hold no %@.", {name});
+    }
+}
+
+std::string textOfState(const EditOutcome& outcome) {
+    switch (outcome.state()) {
+    case EditState::notSent:
+        return noteOfSendFailure(outcome.failure().value_or(SendFailure()));
+    case EditState::pending:
+        return localizedText("Sent %@. The unit has not answered yet.",
+                             {shownInSentence(outcome.edit().command)});
+    case EditState::accepted:
+        return textOfAcceptance(outcome);
+    case EditState::shown:
+    case EditState::unchanged:
+    case EditState::different:
+    case EditState::untold:
+        break;
+    }
+    return textOfShownValue(outcome);
+}
+
+// Why there is no entry for the new address; empty when there is one, or none is wanted.
+std::string textOfARPEntry(const EditOutcome& outcome) {
+    const std::string address = shownInSentence(outcome.edit().typed);
+    const ARPEntry& entry = outcome.arpEntry();
+    switch (entry.state) {
+    case ARPEntryState::notWanted:
+    case ARPEntryState::started:
+        break;
+    case ARPEntryState::rightsNotGiven:
+        return localizedText("No ARP entry was made for %@: administrator rights were not given.",
+                             {address});
+    case ARPEntryState::refused:
+        return localizedText("No ARP entry was made for %@: running the ARP tool was refused.",
+                             {address});
+    case ARPEntryState::dismissed:
+        return localizedText(
+            "No ARP entry was made for %@: the question for administrator rights was dismissed.",
+            {address});
+    case ARPEntryState::cannotRun:
+        return localizedText("No ARP entry was made for %@: the ARP tool cannot be run.",
+                             {address});
+    case ARPEntryState::notASCII:
+        return localizedText("No ARP entry was made for %@: it can hold ASCII characters only.",
+                             {address});
+    case ARPEntryState::notStarted:
+        return localizedText("No ARP entry was made for %@: the ARP tool was not started (%d).",
+                             {address, entry.code});
+    case ARPEntryState::ended:
+        return localizedText("No ARP entry was made for %@: the ARP tool ended with status %d.",
+                             {address, entry.code});
+    }
+    return {};
+}
+
+} // namespace
+
+std::string textOfEditOutcome(const EditOutcome& outcome) {
+    const std::string entry = textOfARPEntry(outcome);
+    const std::string state = textOfState(outcome);
+    return entry.empty() ? state : state + ' ' + entry;
+}
+
+} // namespace kx

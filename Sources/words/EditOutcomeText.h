@@ -1,0 +1,17 @@
+// What became of an edit that was applied, in words.
+//
+// Pure but for looking up the sentences (support/LocalizedText.h), so it belongs to the main
+// thread. Texts are UTF-8.
+
+#pragma once
+
+#include "conversation/EditOutcome.h"
+
+#include <string>
+
+namespace kx {
+
+// One or two sentences: "The unit now shows 3523 as its destination Port number."
+std::string textOfEditOutcome(const EditOutcome& outcome);
+
+} // namespace kx

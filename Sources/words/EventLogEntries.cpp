@@ -1,0 +1,91 @@
+#include "words/EventLogEntries.h"
+
+#include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
+#include "support/LocalizedText.h"
+#include "words/SendFailureText.h"
+
+namespace kx {
+
+namespace {
+
+std::string continuation(const std::string& text) {
+    return localizedText("\n  %@", {text});
+}
+
+} // namespace
+
+std::string entryOfDiscovery() {
+    return localizedText("[Begin Discover]");
+}
+
+std::string entryOfStart(const Bytes& localAddress) {
+    std::string entry = localizedText("\nUDP listener did start. ");
+    std::uint32_t address = 0;
+    IPv6Octets unused{};
+    std::uint16_t port = 0;
+    if (addressForData(localAddress, address, unused, &port) == addressFamilyIPv4) {
+        entry += localizedText("%@:%d", {stringForIP(address), port});
+    }
+    return entry;
+}
+
+std::string entryOfRefusedBroadcast(std::string_view reason) {
+    return localizedText("\nError setting SO_BROADCAST %s", {reason});
+}
+
+std::string entryOfStop(const Error& error) {
+    return localizedText("\nUDP did stop with error.") + continuation(error.localizedDescription());
+}
+
+std::string entryOfRequest(std::uint32_t target) {
+    return localizedText("\nRequest unit parameters with address: %@", {stringForIP(target)});
+}
+
+std::string entryOfCommand(std::string_view command, std::string_view address) {
+    return localizedText("\nSend to: %@ command: %@", {address, command});
+}
+
+std::string entryOfSend() {
+    return localizedText("\nUDP server did send data.");
+}
+
+std::string entryOfSendFailure(const SendFailure& failure) {
+    return localizedText("\nUDP failed to send data.") + continuation(reasonOfSendFailure(failure));
+}
+
+std::string entryOfDatagram(std::size_t length) {
+    return localizedText("\nUDP listener did receive data. Length: %d",
+                         {static_cast<long long>(length)});
+}
+
+std::string entryOfIgnoredDatagram(PacketKind kind) {
+    return kind == PacketKind::tooShort ? localizedText("\nIgnoring short packet")
+                                        : localizedText("\nIgnoring unknown packet, prefix != ^^");
+}
+
+std::string entryOfReceiveError(const Error& error) {
+    return localizedText("\nUDP did receive error.") + continuation(error.localizedDescription());
+}
+
+std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text) {
+    return reply.unitID.has_value() && reply.serialNumber.has_value()
+               ? localizedText("\nReceived command: ^^%@ unit:%@ serial:%@ cidString:%@",
+                               {reply.tag, reply.unitID, reply.serialNumber, text})
+               : localizedText("\nReceived command: ^^%@", {reply.tag});
+}
+
+std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,
+                            const std::optional<std::string>& address) {
+    return localizedText("\nStuff ARP cache with MAC %@ for IP %@", {hardwareAddress, address});
+}
+
+std::string entryOfARPFailure(std::int32_t result) {
+    return localizedText("\nStuff ARP cache result: %d", {result});
+}
+
+std::string entryOfUnitIDThatIsNoText() {
+    return localizedText("\nUnit ID could not be converted to 6-byte UTF-8 string");
+}
+
+} // namespace kx

@@ -1,0 +1,69 @@
+#include "words/QuietLine.h"
+
+#include "words/EditOutcomeText.h"
+
+#include <utility>
+
+namespace kx {
+
+QuietLine::QuietLine(std::function<void(std::string_view text)> show)
+    : _show(std::move(show)) {}
+
+void QuietLine::showForecast(std::string text) {
+    _show(text);
+    _state = Forecast{std::move(text)};
+}
+
+void QuietLine::showMessage(std::string text) {
+    showForecast({}); // the same message again is a new one
+    if (!text.empty()) {
+        _show(text);
+        _state = Message{std::move(text)};
+    }
+}
+
+void QuietLine::endMessage(std::string forecast) {
+    if (!std::holds_alternative<EditOutcome>(_state)) {
+        showForecast(std::move(forecast));
+    }
+}
+
+void QuietLine::showOutcome(EditOutcome outcome) {
+    _state = std::move(outcome);
+    showOutcomeAnew();
+}
+
+void QuietLine::showOutcomeAnew() {
+    _show(textOfEditOutcome(std::get<EditOutcome>(_state)));
+}
+
+void QuietLine::unitIsShown(std::string_view serialNumber) {
+    const auto* const outcome = std::get_if<EditOutcome>(&_state);
+    if (outcome != nullptr && outcome->unit() != serialNumber) {
+        _state = Forecast{};
+    }
+}
+
+void QuietLine::unitDidAccept(std::string_view serialNumber,
+                              const std::optional<SendFailure>& requestFailure) {
+    auto* const outcome = std::get_if<EditOutcome>(&_state);
+    if (outcome != nullptr && outcome->unitDidAccept(serialNumber, requestFailure)) {
+        showOutcomeAnew();
+    }
+}
+
+void QuietLine::unitDidTell(std::string_view serialNumber, const UnitRecord& record) {
+    auto* const outcome = std::get_if<EditOutcome>(&_state);
+    if (outcome != nullptr && outcome->unitDidTell(serialNumber, record)) {
+        showOutcomeAnew();
+    }
+}
+
+void QuietLine::arpToolDidEnd(std::int32_t status) {
+    if (auto* const outcome = std::get_if<EditOutcome>(&_state)) {
+        outcome->setARPEntry(arpEntryForEndOfTool(status));
+        showOutcomeAnew();
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,16 @@
+// Foreign text within a sentence.
+//
+// Pure; any thread. Texts are UTF-8.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+// On one line, in the order of its characters, and cut behind the first 32 of them. Characters that
+// would change the line or that order show as U+FFFD.
+std::string shownInSentence(std::string_view text);
+
+} // namespace kx
