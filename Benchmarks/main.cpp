@@ -27,12 +27,23 @@ std::vector<Row>& rows() {
     return table;
 }
 
+// Whether a benchmark measured, rather than say why it could not. The library tells it by another
+// name from version 1.8 on.
+template<class Run>
+bool hasRun(const Run& run) {
+    if constexpr (requires { run.error_occurred; }) {
+        return !run.error_occurred;
+    } else {
+        return !static_cast<bool>(run.skipped);
+    }
+}
+
 // Keeps the time of each repetition, beside what the console shows.
 class RepetitionReporter final : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& reports) override {
         for (const Run& run : reports) {
-            if (run.run_type == Run::RT_Iteration && !run.error_occurred) {
+            if (run.run_type == Run::RT_Iteration && hasRun(run)) {
                 const std::string& name = run.run_name.function_name;
                 _times[name].push_back(run.GetAdjustedRealTime());
                 const auto ratio = run.counters.find("ratio");

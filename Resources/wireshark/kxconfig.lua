@@ -3,9 +3,11 @@
 --   wireshark -X lua_script:kxconfig.lua
 --   tshark -X lua_script:kxconfig.lua -r CAPTURE -Y 'kxconfig.serial_number == "4B 58 00 00 00 01"'
 --
--- In the folder of personal Lua plugins (Help, About, Folders) it is loaded at every start. It takes
--- the datagrams from and to the UDP ports 3520 to 3523, on which the application listens, so it sees
--- what goes to a unit's own device port too.
+-- In the folder of personal Lua plugins (Help, About, Folders) it is loaded at every start. Newer
+-- versions of both programs load no scripts when root runs them.
+--
+-- It takes the datagrams from and to the UDP ports 3520 to 3523, on which the application listens, so
+-- it sees what goes to a unit's own device port too.
 --
 -- A datagram that begins with "^^Id" is a command, any other that begins with "^" is a reply.
 -- Commands and replies share the fields of the parameters: kxconfig.device_port is what a command

@@ -70,6 +70,12 @@ def states(accessible):
     return {state.value_nick for state in accessible.get_state_set().get_states()}
 
 
+def role_of(accessible):
+    """The name of its role. Older versions of the bindings call a button a push button."""
+    name = accessible.get_role_name()
+    return "button" if name == "push button" else name
+
+
 def text_of(accessible):
     return Atspi.Text.get_text(accessible, 0, -1)
 
@@ -151,7 +157,7 @@ class Application:
     def control(self, role, name):
         def find():
             for each in everything_in(self.window):
-                if each.get_role_name() == role and name in (each.get_name(), label_of(each)):
+                if role_of(each) == role and name in (each.get_name(), label_of(each)):
                     return each
             return None
         return wait_for(f"the {role} {name}", find)
@@ -162,7 +168,7 @@ class Application:
         return window if window is not None and "showing" in states(window) else None
 
     def button(self, name):
-        return self.control("push button", name)
+        return self.control("button", name)
 
     def pop_up(self, label):
         return self.control("combo box", label)
@@ -225,7 +231,7 @@ class Application:
     def note(self):
         """The text of the quiet line."""
         notes = [each for each in everything_in(self.window)
-                 if each.get_role_name() == "notification" and "showing" in states(each)]
+                 if role_of(each) == "notification" and "showing" in states(each)]
         assert len(notes) == 1, notes
         return notes[0].get_name()
 
@@ -235,7 +241,7 @@ class Application:
 
     def _active_window(self):
         for window in children(self.root):
-            if window.get_role_name() == "frame" and "active" in states(window):
+            if role_of(window) == "frame" and "active" in states(window):
                 return window
         return None
 
@@ -260,11 +266,11 @@ class Application:
     def _focus_did_move(self, event):
         if event.detail1:
             source = event.source
-            self.focused = (source.get_role_name(), label_of(source) or source.get_name())
+            self.focused = (role_of(source), label_of(source) or source.get_name())
 
     def _something_was_described(self, event):
         self.described.append(label_of(event.source))
 
     def _something_did_appear(self, event):
-        if event.detail1 and event.source.get_role_name() == "notification":
+        if event.detail1 and role_of(event.source) == "notification":
             self.announced.append(event.source.get_name())

@@ -3,7 +3,7 @@
 import os
 import unittest
 
-from desktop import Application, everything_in, insist, perform, place_of, states
+from desktop import Application, everything_in, insist, perform, place_of, role_of, states
 
 SCREEN = tuple(int(length) for length in os.environ["KX_SCREEN"].split("x"))
 
@@ -24,7 +24,7 @@ class TheWindowOnASmallScreen(unittest.TestCase):
         window = place_of(program.window)
         self.assertTrue(is_inside(window, screen), f"the window is at {window}")
         for each in everything_in(program.window):
-            if each.get_role_name() in ("push button", "combo box") and "showing" in states(each):
+            if role_of(each) in ("button", "combo box") and "showing" in states(each):
                 place = place_of(each)
                 self.assertTrue(is_inside(place, window), f"{each.get_name()} is at {place}")
 

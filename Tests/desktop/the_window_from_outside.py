@@ -4,7 +4,7 @@ import os
 import unittest
 
 from desktop import (Application, Atspi, children, everything_in, insist, label_of, perform, press,
-                     states, text_of, type_text, wait_for)
+                     role_of, states, text_of, type_text, wait_for)
 
 PARAMETERS_OF_THE_SECOND_UNIT = [
     ["destination IP address", "192.0.2.1"],
@@ -43,9 +43,9 @@ class TheWindow(unittest.TestCase):
         self.assertEqual(menus, ["File", "Edit", "Unit", "View", "Help"])
 
     def test_nothing_that_can_be_pressed_or_typed_into_is_without_a_name(self):
-        unnamed = [each.get_role_name() for each in everything_in(self.program.window)
+        unnamed = [role_of(each) for each in everything_in(self.program.window)
                    if "focusable" in states(each) and "showing" in states(each)
-                   and each.get_role_name() not in ("notification", "table cell", "list item")
+                   and role_of(each) not in ("notification", "table cell", "list item")
                    and not each.get_name() and not label_of(each)]
         self.assertEqual(unnamed, [])
 
@@ -63,7 +63,7 @@ class TheWindow(unittest.TestCase):
         press("Tab")
         program.wait_for_focus("text", "Unit ID:")
         press("Tab")
-        program.wait_for_focus("push button", "Reload")
+        program.wait_for_focus("button", "Reload")
         press("Tab")
         program.wait_for_focus("table", "Unit parameters")
         press("Down")

@@ -27,10 +27,13 @@ leave_traces='
 
 has_traces() { [[ -e $scratch/traces ]]; }
 
+# One that has ended may still be in the list of processes, until the system's first one looks.
+runs() { grep -qs '^State:[[:space:]]*[^XZ]' "/proc/$1/status"; }
+
 nothing_runs() {
     local units namespaces
     { read -r units; mapfile -t namespaces; } <"$scratch/traces"
-    ! kill -0 "$units" 2>/dev/null || return 1
+    ! runs "$units" || return 1
     local process
     for process in /proc/[0-9]*/ns/net; do
         local namespace

@@ -40,6 +40,14 @@ TEST(LogSearch, PositionsCountBytesNotCharacters) {
     EXPECT_EQ(found(text, findBackward(text, "😀", text.size())), "😀 at 5");
 }
 
+TEST(LogSearch, ALetterMatchesOneThatTakesMoreBytes) {
+    LogText text;
+    text.append("4 \u212A, 5 K, 6 k"); // the first is the sign for kelvin
+    EXPECT_EQ(found(text, findForward(text, "4 k", 0)), "4 \u212A at 0");
+    EXPECT_EQ(found(text, findForward(text, "5 \u212A", 0)), "5 K at 7");
+    EXPECT_EQ(found(text, findBackward(text, "\u212A", text.size())), "k at 14");
+}
+
 TEST(LogSearch, FindsEveryMatchOfALongTextForwardsAndBackwards) {
     LogText text;
     for (int line = 0; line < 3000; ++line) {
@@ -69,6 +77,15 @@ TEST(LogSearch, FindsWhatLiesAcrossTheRowsOfALongLine) {
         EXPECT_EQ(found(text, findForward(text, qtText(sought), 0)), expected);
         EXPECT_EQ(found(text, findBackward(text, qtText(sought), text.size())), expected);
     }
+}
+
+TEST(LogSearch, FindsLettersOfTwoUnitsInEitherCaseInALongLine) {
+    const std::string written = "Written \U00010400 Text"; // a letter in upper case
+    const std::string sought = "wRITTEN \U00010428 tEXT";  // and in lower case
+    LogText text;
+    text.append(std::string(9000, '.') + written + std::string(9000, '.'));
+    EXPECT_EQ(found(text, findForward(text, qtText(sought), 0)), written + " at 9000");
+    EXPECT_EQ(found(text, findBackward(text, qtText(sought), text.size())), written + " at 9000");
 }
 
 } // namespace kx

@@ -18,7 +18,7 @@ mergecap -a -w "$scratch/capture" "${cuts[@]}"
 expect_no_failure "$scratch/capture"
 
 # Length as sent, length as captured, without the headers.
-dissect "$scratch/capture" -T fields -e udp.length -e frame.cap_len >"$scratch/lengths"
+fields_of "$scratch/capture" -e udp.length -e frame.cap_len >"$scratch/lengths"
 paste "$scratch/lengths" <(summaries_and_marks "$scratch/capture") >"$scratch/rows"
 
 # The marks of the whole datagrams are those of the last cut, which cuts nothing.

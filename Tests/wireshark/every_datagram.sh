@@ -15,7 +15,7 @@ for mark in $(all_marks | grep -vx capture); do
 done
 
 # The application's word on what it abandons, with the name of the field.
-dissect "$scratch/capture" -T fields -Y kxconfig.expert.cut_short -e _ws.expert.message \
+fields_of "$scratch/capture" -Y kxconfig.expert.cut_short -e _ws.expert.message \
     >"$scratch/messages"
 for field in 'unit ID' 'serial number' 'device port number' 'internal IP address'; do
     grep -q "^The $field is cut short; the application abandons the datagram\$" \

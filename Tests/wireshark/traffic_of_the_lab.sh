@@ -51,7 +51,7 @@ expect_count 1 'kxconfig.internal_ip == 192.0.2.99'
 # The whole first unit as it left the factory.
 names=(internal_mac internal_ip destination_ip destination_port device_port unit_id destination_mac
     serial_number)
-dissect "$traffic" -T fields -E separator=/s \
+fields_of "$traffic" -E separator=/s \
     -Y 'kxconfig.list && kxconfig.serial_number == "4B 58 00 00 00 01"' \
     "${names[@]/#/-ekxconfig.}" >"$scratch/unit"
 expect_equal 'the first unit' \

@@ -74,6 +74,7 @@ void NetworkManagerProfiles::connectToBus() {
         return;
     }
     _bus->hearSignals(busService, busService, ownerChanged, service);
+    _ownerAnswer.reset(new QDBusPendingCallWatcher(_bus->owner(service)));
     for (const auto* const interface : readInterfaces) {
         _bus->hearSignals(service, "org.freedesktop.DBus.Properties", "PropertiesChanged",
                           interface);
@@ -93,6 +94,7 @@ void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
 // Whoever told the profiles is gone, and will not answer any more.
 void NetworkManagerProfiles::forget() {
     endReading();
+    _ownerAnswer.reset();
     _owner.clear();
     setProfiles({});
 }
@@ -107,7 +109,6 @@ void NetworkManagerProfiles::takeAnswer() {
     bool mustReadAgain = _isOutdated;
     endReading();
     if (answer.type() == QDBusMessage::ReplyMessage) {
-        _owner = answer.service();
         setProfiles(activeConnections(answer));
     } else if (QDBusError(answer).type() == QDBusError::NoReply) {
         mustReadAgain = true; // it hangs, or ended just now
@@ -139,10 +140,21 @@ void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
             hearOwner(arguments.value(2).toString());
         }
     } else if (_reading != nullptr) {
-        _isOutdated = _isOutdated || _owner.isEmpty() || signal.service() == _owner;
-    } else if (!_owner.isEmpty() && signal.service() == _owner) {
+        _isOutdated = _isOutdated || owner().isEmpty() || signal.service() == owner();
+    } else if (!owner().isEmpty() && signal.service() == owner()) {
         read(SystemBus::endlessPatience);
     }
+}
+
+const QString& NetworkManagerProfiles::owner() {
+    if (_ownerAnswer != nullptr && _ownerAnswer->isFinished()) {
+        const QDBusMessage answer = _ownerAnswer->reply();
+        if (answer.type() == QDBusMessage::ReplyMessage) { // otherwise it has no owner
+            _owner = answer.arguments().value(0).toString();
+        }
+        _ownerAnswer.reset();
+    }
+    return _owner;
 }
 
 void NetworkManagerProfiles::hearOwner(const QString& owner) {

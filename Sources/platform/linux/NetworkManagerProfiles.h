@@ -54,6 +54,7 @@ private:
     void connectToBus();
     void hear(const QDBusMessage& signal);
     void hearOwner(const QString& owner);
+    const QString& owner(); // NetworkManager's own name on the bus; empty while it is not known
     void read(std::chrono::milliseconds patience);
     void forget();
     void endReading();
@@ -65,7 +66,8 @@ private:
     Call _reading;                                  // the call that is under way, or null
     bool _isFirstReading = false;                   // on this bus; it ends by itself
     bool _isOutdated = false;                       // what that call will tell
-    QString _owner; // NetworkManager's own name on the bus; empty while it is not known
+    Call _ownerAnswer;                              // the bus is being asked for the owner, or null
+    QString _owner;                                 // as last told; read it by owner()
     std::vector<ConnectionProfile> _profiles;
     std::uint64_t _generation = 0;
     std::function<void()> _changeAction;

@@ -74,6 +74,12 @@ void SystemBus::hearSignals(const QString& sender, const QString& interface, con
     _connection.connect(QString(), QString(), interface, name, this, SLOT(receive(QDBusMessage)));
 }
 
+QDBusPendingCall SystemBus::owner(const QString& service) {
+    QDBusMessage request = busCall("GetNameOwner");
+    request << service;
+    return call(request, endlessPatience);
+}
+
 QDBusPendingCall SystemBus::call(QDBusMessage message, std::chrono::milliseconds patience) {
     message.setAutoStartService(false);
     return _connection.asyncCall(message, static_cast<int>(patience.count()));

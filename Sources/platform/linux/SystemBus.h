@@ -43,6 +43,11 @@ public:
     void hearSignals(const QString& sender, const QString& interface, const QString& name,
                      const QString& firstArgument = {});
 
+    // Asks the bus which connection has a service's name. The answer is that connection's own name,
+    // or an error when nobody has it. It comes before any signal of a later change of the owner,
+    // and before the answer to a call that is made later.
+    QDBusPendingCall owner(const QString& service);
+
     // Calls a method. An error is the answer when none has come in time, and at once without a
     // connection. No service is started for it.
     QDBusPendingCall call(QDBusMessage message, std::chrono::milliseconds patience);

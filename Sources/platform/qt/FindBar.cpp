@@ -6,16 +6,34 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QStyle>
+#include <QPainter>
+#include <QPen>
 #include <QToolButton>
 
 namespace kx {
 
 namespace {
 
-QToolButton& addButton(QWidget& bar, const char* objectName, const QString& name,
-                       Qt::ArrowType arrow) {
-    auto* const button = new QToolButton(&bar);
+// A cross in the colour of texts on buttons. The style's own sign is hard to see in a dark window.
+class CrossButton final : public QToolButton {
+public:
+    using QToolButton::QToolButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QToolButton::paintEvent(event);
+        QRectF cross(QPointF(), QSizeF(iconSize()) / 2);
+        cross.moveCenter(QRectF(rect()).center());
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(palette().color(QPalette::ButtonText), 1.5));
+        painter.drawLine(cross.topLeft(), cross.bottomRight());
+        painter.drawLine(cross.bottomLeft(), cross.topRight());
+    }
+};
+
+QToolButton* addButton(QWidget& bar, QToolButton* button, const char* objectName,
+                       const QString& name, Qt::ArrowType arrow) {
     button->setObjectName(objectName);
     button->setAccessibleName(name);
     button->setToolTip(name);
@@ -23,7 +41,7 @@ QToolButton& addButton(QWidget& bar, const char* objectName, const QString& name
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::StrongFocus);
     bar.layout()->addWidget(button);
-    return *button;
+    return button;
 }
 
 } // namespace
@@ -44,18 +62,18 @@ FindBar::FindBar(LogTextView& log, QWidget* parent)
     row->setContentsMargins(0, 4, 0, 0);
     row->addWidget(label);
     row->addWidget(&_field, 2);
-    const QToolButton& previous =
-        addButton(*this, "logFindPreviousButton", localizedQtText("Find Previous"), Qt::UpArrow);
-    const QToolButton& next =
-        addButton(*this, "logFindNextButton", localizedQtText("Find Next"), Qt::DownArrow);
+    const QToolButton* const previous =
+        addButton(*this, new QToolButton(this), "logFindPreviousButton",
+                  localizedQtText("Find Previous"), Qt::UpArrow);
+    const QToolButton* const next = addButton(*this, new QToolButton(this), "logFindNextButton",
+                                              localizedQtText("Find Next"), Qt::DownArrow);
     row->addWidget(&_result, 1);
-    QToolButton& closer =
-        addButton(*this, "logFindCloseButton", localizedQtText("Close"), Qt::NoArrow);
-    closer.setIcon(style()->standardIcon(QStyle::SP_TitleBarCloseButton));
+    QToolButton* const closer = addButton(*this, new CrossButton(this), "logFindCloseButton",
+                                          localizedQtText("Close"), Qt::NoArrow);
     connect(&_field, &QLineEdit::textEdited, this, &FindBar::findTyped);
-    connect(&previous, &QToolButton::clicked, this, &FindBar::findPrevious);
-    connect(&next, &QToolButton::clicked, this, &FindBar::findNext);
-    connect(&closer, &QToolButton::clicked, this, &FindBar::close);
+    connect(previous, &QToolButton::clicked, this, &FindBar::findPrevious);
+    connect(next, &QToolButton::clicked, this, &FindBar::findNext);
+    connect(closer, &QToolButton::clicked, this, &FindBar::close);
     _escape.setContext(Qt::WidgetWithChildrenShortcut);
     _escape.setEnabled(false);
     connect(&_escape, &QShortcut::activated, this, &FindBar::close);

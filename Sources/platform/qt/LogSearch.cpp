@@ -10,6 +10,30 @@ std::size_t bytesIn(QStringView text) {
     return static_cast<std::size_t>(text.toUtf8().size());
 }
 
+// Every letter in the case in which letters are compared, and as many units as before. The toolkit
+// compares in either case by itself, but Qt 6.8 then finds nothing that has a character of two
+// units in a long text.
+QString folded(QString text) {
+    QChar* const units = text.data();
+    const qsizetype size = text.size();
+    for (qsizetype i = 0; i < size; ++i) {
+        const char16_t unit = units[i].unicode();
+        if (unit < 0x80) { // nearly all of a log: no table is asked
+            if (unit >= u'A' && unit <= u'Z') {
+                units[i] = QChar(unit - u'A' + u'a');
+            }
+        } else if (QChar::isHighSurrogate(unit) && i + 1 < size && units[i + 1].isLowSurrogate()) {
+            const char32_t character =
+                QChar::toCaseFolded(QChar::surrogateToUcs4(units[i], units[i + 1]));
+            units[i] = QChar::highSurrogate(character);
+            units[++i] = QChar::lowSurrogate(character);
+        } else {
+            units[i] = units[i].toCaseFolded();
+        }
+    }
+    return text;
+}
+
 // A match may lie across two pieces: this much of the one is searched together with the other.
 QString tailOf(const QString& text, qsizetype units) {
     QString tail = text.right(units);
@@ -29,13 +53,14 @@ LogRange rangeIn(const QString& searched, std::size_t position, qsizetype index,
 } // namespace
 
 std::optional<LogRange> findForward(const LogText& text, const QString& sought, std::size_t start) {
+    const QString wanted = folded(sought);
     QString before;
     while (start < text.size()) {
         const LogText::Piece piece = text.pieceAt(start);
         const std::size_t end = piece.position + piece.text.size();
         const std::size_t position = start - bytesIn(before);
         const QString searched = before + qtText(piece.text.substr(start - piece.position));
-        const qsizetype index = searched.indexOf(sought, 0, Qt::CaseInsensitive);
+        const qsizetype index = folded(searched).indexOf(wanted);
         if (index >= 0) {
             return rangeIn(searched, position, index, sought.size());
         }
@@ -46,11 +71,12 @@ std::optional<LogRange> findForward(const LogText& text, const QString& sought, 
 }
 
 std::optional<LogRange> findBackward(const LogText& text, const QString& sought, std::size_t end) {
+    const QString wanted = folded(sought);
     QString after;
     while (end > 0) {
         const LogText::Piece piece = text.pieceAt(end - 1);
         const QString searched = qtText(piece.text.substr(0, end - piece.position)) + after;
-        const qsizetype index = searched.lastIndexOf(sought, Qt::CaseInsensitive);
+        const qsizetype index = folded(searched).lastIndexOf(wanted);
         if (index >= 0) {
             return rangeIn(searched, piece.position, index, sought.size());
         }

@@ -1,9 +1,39 @@
 #include "platform/qt/QtTableView.h"
 
+#include <QEvent>
 #include <QItemSelectionModel>
+#include <QMouseEvent>
+#include <QObject>
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// Lets a click below the rows select none. Newer versions of the toolkit keep the selection then.
+class ClicksBelowRows final : public QObject {
+public:
+    explicit ClicksBelowRows(QTableView& view)
+        : QObject(&view)
+        , _view(view) {
+        view.viewport()->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) {
+            const auto* const press = static_cast<QMouseEvent*>(event);
+            if (press->button() == Qt::LeftButton && !_view.indexAt(press->pos()).isValid()) {
+                _view.clearSelection();
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QTableView& _view;
+};
+
+} // namespace
 
 QtTableView::QtTableView(QTableView& view, std::vector<QtTableColumn> columns)
     : _view(view)
@@ -19,6 +49,7 @@ QtTableView::QtTableView(QTableView& view, std::vector<QtTableColumn> columns)
     view.setModel(&_model);
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(QAbstractItemView::SingleSelection);
+    new ClicksBelowRows(view); // belongs to the view
     QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &_model,
                      [this] {
                          if (!_reloading && _selectionAction) {

@@ -162,6 +162,17 @@ TEST_F(NetworkManagerNames, ANewAddressIsToldOnce) {
     EXPECT_EQ(sources->toldAtRest(), (Counts{{addressKey(line), 1}}));
 }
 
+TEST_F(NetworkManagerNames, AnAddressThatIsReplacedSlowlyIsToldAsItGoesAndAsTheNewOneComes) {
+    startAndList();
+    sources->watch(addressPattern);
+    PrivateHost::nmcli({"connection", "modify", line.c_str(), "ipv4.addresses", "203.0.113.9/28",
+                        "ipv4.dad-timeout", "600"});
+    PrivateHost::nmcli({"device", "reapply", "kx1"});
+    EXPECT_TRUE(handleEventsUntil(
+        [&] { return sources->choice("Production line (kx1)") == "203.0.113.9/255.255.255.240"; }));
+    EXPECT_EQ(sources->toldAtRest(), (Counts{{addressKey(line), 2}}));
+}
+
 TEST_F(NetworkManagerNames, AProfileThatGoesAndComesIsToldOnceEachTime) {
     startAndList();
     sources->watch(addressPattern);

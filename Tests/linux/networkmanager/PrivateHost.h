@@ -160,10 +160,11 @@ public:
               "[connection]\nuuid=" + identifier + "\nid=" + name + "\n" + settings);
     }
 
-    // Settings of a profile for an interface; `ipv4` are further lines about its addresses.
+    // Settings of a profile for an interface; `ipv4` are further lines about its addresses. An
+    // address is used at once: by default, newer versions first ask whether another host has it.
     static std::string ethernet(const std::string& interface, const std::string& ipv4) {
-        return "type=ethernet\ninterface-name=" + interface + "\n[ipv4]\nmethod=manual\n" + ipv4 +
-               "[ipv6]\nmethod=disabled\n";
+        return "type=ethernet\ninterface-name=" + interface +
+               "\n[ipv4]\nmethod=manual\ndad-timeout=0\n" + ipv4 + "[ipv6]\nmethod=disabled\n";
     }
 
     PrivateNetwork network;
