@@ -21,7 +21,9 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <vector>
 
 namespace kx {
@@ -90,6 +92,20 @@ TYPED_TEST_P(DatagramSystemCallsContract, ABoundSocketHasItsAddress) {
     EXPECT_EQ(this->calls().bind(descriptor, address), 0);
     EXPECT_EQ(this->calls().localAddress(descriptor), address);
     EXPECT_EQ(this->calls().peerAddress(descriptor), std::nullopt);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, APortIsRefusedToASecondSocketUntilTheFirstIsClosed) {
+    const Bytes address = this->trait.freeAddress();
+    Bytes everyAddress = address;
+    std::fill(everyAddress.begin() + 4, everyAddress.begin() + 8, std::uint8_t{0});
+    const int first = this->calls().socket();
+    ASSERT_EQ(this->calls().bind(first, address), 0);
+    const int second = this->newSocket();
+    EXPECT_FAILURE(this->calls().bind(second, address), EADDRINUSE);
+    EXPECT_FAILURE(this->calls().bind(second, everyAddress), EADDRINUSE);
+    EXPECT_EQ(this->calls().close(first), 0);
+    EXPECT_EQ(this->calls().bind(second, everyAddress), 0);
+    EXPECT_FAILURE(this->calls().bind(this->newSocket(), address), EADDRINUSE);
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, AConnectedSocketHasItsPeer) {
@@ -222,6 +238,7 @@ TYPED_TEST_P(DatagramSystemCallsContract, ASocketWrapperClosesItsDescriptorAtFir
 
 REGISTER_TYPED_TEST_SUITE_P(DatagramSystemCallsContract, StatusFlagsAreKept,
                             ANewSocketHasNeitherAddressNorPeer, ABoundSocketHasItsAddress,
+                            APortIsRefusedToASecondSocketUntilTheFirstIsClosed,
                             AConnectedSocketHasItsPeer,
                             WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
                             ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,

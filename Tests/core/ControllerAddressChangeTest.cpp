@@ -100,6 +100,15 @@ TEST_F(ControllerAddressChange, FurtherCommandsAreNotSentUntilTheUnitAnswers) {
     EXPECT_EQ(lastSent(), "10.0.0.7:10000 ^^IdT0DC0");
 }
 
+TEST_F(ControllerAddressChange, ACommandThatCannotBeSentLeavesTheRecordWithoutTheAddress) {
+    systemCalls.failNext(Operation::sendTo, EHOSTUNREACH);
+    changeAddress("10.0.0.7");
+    ASSERT_EQ(newLog().back(), "  " + posixErrorText(EHOSTUNREACH));
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "(absent)");
+    controller.edit_destPort();
+    EXPECT_EQ(newlySent(), Lines{"10.0.0.7:10000 ^^IdI0A000007"}) << "it goes nowhere else";
+}
+
 TEST_F(ControllerAddressChange, AnEmptyValueAsksNobodyAndSendsNothing) {
     changeAddress("");
     EXPECT_EQ(newlySent(), Lines{});

@@ -78,6 +78,21 @@ TEST_F(ControllerEditing, ClockOptionTakesTheLocalTime) {
     EXPECT_EQ(prepared("-Z  Set clock"), "-Z11152347");
 }
 
+TEST_F(ControllerEditing, ClockOptionTakesTheTimeAtWhichItIsChosen) {
+    EXPECT_EQ(prepared("-Z  Set clock"), "-Z11152347");
+    wallClock = FixedWallClock(2024, 3, 5, 14, 7, 0);
+    EXPECT_EQ(prepared("-Z  Set clock"), "-Z03051407");
+}
+
+TEST_F(ControllerEditing, BlanksAtTheEndsOfAnOptionBelongToIt) {
+    discover({SampleUnit()});
+    EXPECT_EQ(prepared(" V "), " V ");
+    EXPECT_EQ(prepared("\tV\n"), "\tV\n");
+    window.optionCommandField.setStringValue("  -q 5 \t");
+    controller.sendOptionButton();
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^Id  -q 5 \t\\r");
+}
+
 TEST_F(ControllerEditing, PreparingAnOptionSendsNothing) {
     const auto before = controller.eventLog();
     prepared("-Z  Set clock");
@@ -135,6 +150,23 @@ TEST_F(ControllerEditing, RestoreAsksTheUnitAndReloadsAfterOneSecond) {
         (Lines{"Request unit parameters with address: 192.168.1.10", "UDP server did send data.",
                "Request unit parameters with address: 192.168.1.10", "UDP server did send data."}));
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+}
+
+TEST_F(ControllerEditing, EveryRestoreIsFollowedByARequestOfItsOwn) {
+    discover({SampleUnit()});
+    const auto before = static_cast<std::ptrdiff_t>(sent().size());
+    const auto sentSince = [&] {
+        const Lines all = sent();
+        return Lines(all.begin() + before, all.end());
+    };
+    const std::string unit = "192.168.1.10:10000 ";
+    controller.restoreDefaultSettings();
+    runLoop.advanceBy(500ms);
+    controller.restoreDefaultSettings();
+    runLoop.advanceBy(500ms);
+    EXPECT_EQ(sentSince(), (Lines{unit + "^^IdZ", unit + "^^IdZ", unit + "^^IdX"}));
+    runLoop.advanceBy(500ms);
+    EXPECT_EQ(sentSince(), (Lines{unit + "^^IdZ", unit + "^^IdZ", unit + "^^IdX", unit + "^^IdX"}));
 }
 
 TEST_F(ControllerEditing, RestoreWithoutASelectedUnitGoesToEveryUnit) {

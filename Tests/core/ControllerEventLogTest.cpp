@@ -1,6 +1,7 @@
 // The event log and its drawer.
 
 #include "ControllerFixture.h"
+#include "doubles/MarkedLocalizedText.h"
 #include "support/LocalizedText.h"
 
 namespace kx {
@@ -135,6 +136,28 @@ TEST_F(ControllerEventLog, EveryMessageIsLookedUpByItsEnglishText) {
                "  " + posixErrorText(EACCES), "UDP DID RECEIVE ERROR.",
                "  " + posixErrorText(EACCES)}));
     EXPECT_EQ(window.interfacePopUp.titles(), Titles{"NO CONFIGURED INTERFACES"});
+}
+
+TEST_F(ControllerEventLog, TheListenersAddressIsWrittenInTheLanguageOfThePerson) {
+    const MarkedLocalizedText marked;
+    controller.discoverButton();
+    EXPECT_NE(controller.eventLog().find("<0.0.0.0:3520>"), std::string::npos)
+        << controller.eventLog();
+}
+
+TEST_F(ControllerEventLog, EveryReasonIsWrittenInTheLanguageOfThePerson) {
+    const MarkedLocalizedText marked;
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    const std::string reason = "<\n  " + posixErrorText(EACCES) + ">";
+    const auto endsWithReason = [&] { return controller.eventLog().ends_with(reason); };
+    controller.echoDidReceiveError(*stranger, posixError(EACCES));
+    EXPECT_TRUE(endsWithReason()) << controller.eventLog();
+    controller.discoverButton();
+    controller.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(EACCES));
+    EXPECT_TRUE(endsWithReason()) << controller.eventLog();
+    controller.discoverButton();
+    controller.echoDidStopWithError(*stranger, posixError(EACCES));
+    EXPECT_TRUE(endsWithReason()) << controller.eventLog();
 }
 
 TEST_F(ControllerEventLog, MessageOfARefusedBroadcastIsLookedUpToo) {

@@ -134,6 +134,10 @@ public:
         if (socket == nullptr) {
             return -1;
         }
+        if (isTaken(ipv4PartOf(addressRecord))) {
+            errno = EADDRINUSE;
+            return -1;
+        }
         socket->localAddress = ipv4PartOf(addressRecord);
         return 0;
     }
@@ -289,6 +293,22 @@ private:
             return false;
         }
         return true;
+    }
+
+    // Whether an open socket has this port at this address, or one of the two is at every address.
+    // A port of 0 lets the system choose one.
+    bool isTaken(const Bytes& address) const {
+        const auto portOf = [](const Bytes& record) { return Bytes{record[2], record[3]}; };
+        const auto everywhere = [](const Bytes& record) {
+            return std::all_of(record.begin() + 4, record.begin() + 8,
+                               [](std::uint8_t octet) { return octet == 0; });
+        };
+        return portOf(address) != Bytes{0, 0} &&
+               std::any_of(_sockets.begin(), _sockets.end(), [&](const auto& entry) {
+                   const Bytes& other = entry.second.localAddress;
+                   return portOf(other) == portOf(address) &&
+                          (other == address || everywhere(other) || everywhere(address));
+               });
     }
 
     static Bytes ipv4PartOf(ByteView record) { return bytesOf(record.first(ipv4RecordLength)); }

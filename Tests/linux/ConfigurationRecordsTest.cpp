@@ -121,13 +121,22 @@ TEST(ConfigurationRecords, AProfileOnSeveralLinksIsAServiceForEach) {
 }
 
 TEST(ConfigurationRecords, ALinkIsNamedByItsKind) {
-    const std::pair<LinkKind, std::string> names[] = {
-        {LinkKind::ethernet, "Ethernet"}, {LinkKind::wiFi, "Wi-Fi"}, {LinkKind::bridge, "Bridge"},
-        {LinkKind::vlan, "VLAN"},         {LinkKind::bond, "Bond"},  {LinkKind::other, "Network"}};
-    for (const auto& [kind, name] : names) {
+    struct {
+        LinkKind kind;
+        std::string name;
+        std::string type;
+    } const kinds[] = {{LinkKind::ethernet, "Ethernet", "Ethernet"},
+                       {LinkKind::wiFi, "Wi-Fi", "IEEE80211"},
+                       {LinkKind::bridge, "Bridge", "Bridge"},
+                       {LinkKind::vlan, "VLAN", "VLAN"},
+                       {LinkKind::bond, "Bond", "Bond"},
+                       {LinkKind::pointToPoint, "PPP", "PPP"},
+                       {LinkKind::other, "Network", "Network"}};
+    for (const auto& [kind, name, type] : kinds) {
         const auto records = configurationRecords({linkWithAddress(2, "x", kind)}, {});
-        EXPECT_EQ(entry(records, "Setup:/Network/Service/link-x/Interface", "UserDefinedName"),
-                  name);
+        const std::string key = "Setup:/Network/Service/link-x/Interface";
+        EXPECT_EQ(entry(records, key, "UserDefinedName"), name);
+        EXPECT_EQ(entry(records, key, "Type"), type);
     }
 }
 

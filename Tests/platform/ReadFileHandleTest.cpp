@@ -7,8 +7,12 @@
 #include <gtest/gtest.h>
 #include <sys/resource.h>
 #include <sys/time.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <string>
 
@@ -35,8 +39,32 @@ void interruptThenWrite(int /*signal*/) {
     static_cast<void>(::write(alarmDescriptor, "x", 1) == 1);
 }
 
+// As many descriptors as the system allows, while this object lives.
+class MoreDescriptors {
+public:
+    MoreDescriptors() {
+        EXPECT_EQ(::getrlimit(RLIMIT_NOFILE, &_before), 0);
+        const rlimit most{_before.rlim_max, _before.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_NOFILE, &most), 0);
+    }
+    ~MoreDescriptors() { ::setrlimit(RLIMIT_NOFILE, &_before); }
+    MoreDescriptors(const MoreDescriptors&) = delete;
+    MoreDescriptors& operator=(const MoreDescriptors&) = delete;
+
+private:
+    rlimit _before{};
+};
+
 class ReadFileHandle : public testing::Test {
 protected:
+    // From now on a read gives what one write wrote, and no more.
+    void makePacketPipe() {
+        std::array<int, 2> ends{};
+        ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC | O_DIRECT), 0);
+        pipe.readingEnd = FileDescriptor(ends[0]);
+        pipe.writingEnd = FileDescriptor(ends[1]);
+    }
+
     void write(const std::string& bytes) {
         ASSERT_EQ(Write(pipe.writingEnd.number(), bytes.data(), bytes.size()),
                   static_cast<ssize_t>(bytes.size()));
@@ -144,24 +172,64 @@ TEST_F(ReadFileHandle, ASignalDoesNotEndTheWait) {
     Signal(SIGALRM, before);
 }
 
-TEST_F(ReadFileHandle, ADescriptorBeyondTheReachOfSelectIsReadPieceByPiece) {
-    rlimit limit{};
-    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &limit), 0);
-    const rlimit before = limit;
-    limit.rlim_cur = limit.rlim_max;
-    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);
-    {
-        const FileDescriptor high(
-            ::fcntl(pipe.readingEnd.number(), F_DUPFD_CLOEXEC, FD_SETSIZE + 1));
-        ASSERT_GT(high.number(), FD_SETSIZE);
-        write("piece");
-        EXPECT_EQ(readFileHandle(high.number(), &data), 5);
-        EXPECT_EQ(text(), "piece");
-        pipe.writingEnd.close();
-        data.reset();
-        EXPECT_EQ(readFileHandle(high.number(), &data), -1);
+TEST_F(ReadFileHandle, WhatArrivesInPiecesIsReadOnWhileThereIsRoom) {
+    makePacketPipe();
+    write("first");
+    write("second");
+    EXPECT_EQ(read(), 11);
+    EXPECT_EQ(text(), "firstsecond");
+
+    write(std::string(500, 'x'));
+    write("twelve bytes"); // all the room that is left
+    write("rest");
+    EXPECT_EQ(read(), 512);
+    EXPECT_EQ(text(), std::string(500, 'x') + "twelve bytes");
+    EXPECT_EQ(read(), 4);
+}
+
+// The shortest of several waits: how long this process is kept from running is not of interest.
+TEST_F(ReadFileHandle, MoreIsWaitedForNoLongerThanAMoment) {
+    using Clock = std::chrono::steady_clock;
+    auto shortest = Clock::duration::max();
+    for (int i = 0; i < 20; ++i) {
+        write("x");
+        const auto start = Clock::now();
+        EXPECT_EQ(read(), 1);
+        shortest = std::min(shortest, Clock::now() - start);
     }
-    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_LT(shortest, std::chrono::milliseconds(5));
+}
+
+TEST_F(ReadFileHandle, ADescriptorBeyondTheReachOfSelectIsReadPieceByPiece) {
+    const MoreDescriptors more;
+    makePacketPipe();
+    for (const int number : {FD_SETSIZE, FD_SETSIZE + 1}) {
+        const FileDescriptor high(::fcntl(pipe.readingEnd.number(), F_DUPFD_CLOEXEC, number));
+        ASSERT_EQ(high.number(), number);
+        write("first");
+        write("second");
+        data.reset();
+        ASSERT_EQ(readFileHandle(high.number(), &data), 5);
+        EXPECT_EQ(text(), "first");
+        data.reset();
+        EXPECT_EQ(readFileHandle(high.number(), &data), 6);
+        EXPECT_EQ(text(), "second");
+    }
+    const FileDescriptor high(::fcntl(pipe.readingEnd.number(), F_DUPFD_CLOEXEC, FD_SETSIZE));
+    pipe.writingEnd.close();
+    data.reset();
+    EXPECT_EQ(readFileHandle(high.number(), &data), -1);
+}
+
+TEST_F(ReadFileHandle, TheLastDescriptorWithinTheReachOfSelectIsReadLikeAnyOther) {
+    const MoreDescriptors more;
+    makePacketPipe();
+    const FileDescriptor last(::fcntl(pipe.readingEnd.number(), F_DUPFD_CLOEXEC, FD_SETSIZE - 1));
+    ASSERT_EQ(last.number(), FD_SETSIZE - 1);
+    write("first");
+    write("second");
+    EXPECT_EQ(readFileHandle(last.number(), &data), 11);
+    EXPECT_EQ(text(), "firstsecond");
 }
 
 } // namespace kx

@@ -98,6 +98,8 @@ void Steps::take(const QString& verb, const QString& argument) {
         printFile(qEnvironmentVariable(argument.toLatin1().constData()));
     } else if (verb == "run") {
         run(argument);
+    } else if (verb == "last") {
+        takeAtLast(argument.section(' ', 0, 0), argument.section(' ', 1));
     } else if (verb == "descriptors") {
         allowDescriptors(argument);
     } else {
@@ -245,6 +247,24 @@ void Steps::run(const QString& command) const {
     if (status != 0) {
         throw Disappointment{"failed: " + command};
     }
+}
+
+// The program is told of its end before the visit is, which comes later. The window is hidden then,
+// so a button can only be clicked by itself.
+void Steps::takeAtLast(const QString& verb, const QString& argument) {
+    if (verb != "click" && verb != "run") {
+        throw Disappointment{"there is no last step " + verb};
+    }
+    auto* const button = verb == "click"
+                             ? &_driver.control<QAbstractButton>(argument.toLatin1().constData())
+                             : nullptr;
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [button, argument] {
+        if (button != nullptr) {
+            button->click();
+        } else if (std::system(argument.toLocal8Bit().constData()) != 0) {
+            print("failed: " + argument);
+        }
+    });
 }
 
 void Steps::allowDescriptors(const QString& number) const {

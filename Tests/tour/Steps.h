@@ -31,6 +31,9 @@
 //   read VARIABLE            prints the lines of the file that this environment variable names
 //   run COMMAND              runs a command of the shell, which must succeed; the program stands
 //                            still meanwhile
+//   last run COMMAND         runs a command of the shell when the program has put away its work and
+//                            its window is still there; what it prints follows the record
+//   last click BUTTON        clicks the button of this object name then
 //   descriptors NUMBER       has the system open no descriptor from this number on, but for
 //                            commands; "descriptors all" gives back what it allowed before
 //
@@ -75,6 +78,7 @@ private:
     void expectNoParameter(const QString& name);
     static void printFile(const QString& path);
     void run(const QString& command) const;
+    void takeAtLast(const QString& verb, const QString& argument);
     void allowDescriptors(const QString& number) const;
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);

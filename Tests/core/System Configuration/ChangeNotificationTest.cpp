@@ -52,6 +52,15 @@ TEST_F(ChangeNotification, AKeyWithNeitherIsSkipped) {
     EXPECT_TRUE(notifications.empty());
 }
 
+TEST_F(ChangeNotification, WhatFollowsASkippedKeyIsStillAnnounced) {
+    configuration.dynamicStoreCallback({"State:/Network/Global/IPv4",
+                                        "State:/Network/Service/A/IPv4", "",
+                                        "State:/Network/Service/B/IPv4"});
+    ASSERT_EQ(notifications.size(), 2U);
+    EXPECT_EQ(notifications[0].userInfo.at("ServiceID"), "A");
+    EXPECT_EQ(notifications[1].userInfo.at("ServiceID"), "B");
+}
+
 TEST_F(ChangeNotification, TheServiceStandsBetweenThePrefixAndTheFirstEntity) {
     configuration.dynamicStoreCallback({"x State:/Network/Service/A/B/IPv4/IPv4 y",
                                         "State:/Network/Service//IPv4",

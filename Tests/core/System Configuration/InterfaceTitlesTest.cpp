@@ -16,6 +16,12 @@ TEST(InterfaceTitles, ANameThatEndsWithItsIdentifierStaysAsItIs) {
     EXPECT_EQ(titleForNameAndID("Ethernet(en0)", "en0"), "Ethernet(en0) (en0)");
 }
 
+TEST(InterfaceTitles, AnIdentifierWithinTheNameIsNoEnd) {
+    EXPECT_EQ(titleForNameAndID("Ethernet (en0) left", "en0"), "Ethernet (en0) left (en0)");
+    EXPECT_EQ(titleForNameAndID(" (en0)(en1)", "en0"), " (en0)(en1) (en0)");
+    EXPECT_EQ(titleForNameAndID("Left (en0) (en0)", "en0"), "Left (en0) (en0)");
+}
+
 TEST(InterfaceTitles, PercentSignsInNamesAreNoFormat) {
     EXPECT_EQ(titleForNameAndID("%@ 100%", "%d"), "%@ 100% (%d)");
 }

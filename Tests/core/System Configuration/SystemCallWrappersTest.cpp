@@ -49,6 +49,7 @@ void interruptThenDrain(int /*signal*/) {
 }
 
 void doNothing(int /*signal*/) {}
+void doNothingEither(int /*signal*/) {}
 
 class SystemCallWrappers : public testing::Test {
 protected:
@@ -147,6 +148,14 @@ TEST(Signal, InstallsAHandlerThatRestartsSystemCallsAndBlocksNothing) {
     EXPECT_NE(action.sa_flags & SA_RESTART, 0);
     EXPECT_EQ(sigismember(&action.sa_mask, SIGUSR2), 0);
     EXPECT_EQ(Signal(SIGUSR1, previous), doNothing) << "the previous handler is returned";
+}
+
+TEST(Signal, EachHandlerIsReturnedByTheInstallationOfTheNext) {
+    const SignalHandler atFirst = installedAction(SIGUSR1).sa_handler;
+    EXPECT_EQ(Signal(SIGUSR1, doNothing), atFirst);
+    EXPECT_EQ(Signal(SIGUSR1, doNothingEither), doNothing);
+    EXPECT_EQ(Signal(SIGUSR1, atFirst), doNothingEither);
+    EXPECT_EQ(installedAction(SIGUSR1).sa_handler, atFirst);
 }
 
 TEST(Signal, AnAlarmInterruptsSystemCalls) {

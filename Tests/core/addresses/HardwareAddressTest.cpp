@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 
 namespace kx {
@@ -182,6 +183,18 @@ TEST(HardwareAddressFormatter, BlanksAndNothingAtAllAreNoSeparators) {
     EXPECT_FALSE(Parse("001122334455").isParsed);
     EXPECT_FALSE(Parse(" 00:11:22:33:44:55").isParsed);
     EXPECT_EQ(Parse("001122334455").object->stringValue(), "55:00:00:00:00:00");
+}
+
+TEST(HardwareAddressFormatter, ColonAndHyphenAreTheOnlySeparators) {
+    const RecordedSystemLog log;
+    for (int byte = 0; byte < 128; ++byte) {
+        std::string text = "g1g2g3g4g5g6"; // g stands for the character
+        std::ranges::replace(text, 'g', static_cast<char>(byte));
+        const bool isSeparator = byte == ':' || byte == '-';
+        EXPECT_EQ(Parse("0" + text.substr(0, 10)).isParsed, isSeparator) << byte;
+        HardwareAddress address;
+        EXPECT_EQ(address.setStringValue("0" + text), isSeparator) << byte;
+    }
 }
 
 TEST(HardwareAddressFormatter, TheInputIsLoggedAlsoWhenNobodyWantsTheError) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -190,6 +191,15 @@ TEST(EaForString, OctetsReadBeforeTheFailureStayAndTheOthersAreNotWritten) {
     EXPECT_EQ(EthernetText("12:34 56").octets, (Octets{0x12, 0x34, 0xEE, 0xEE, 0xEE, 0xEE}));
 }
 
+TEST(EaForString, ColonAndHyphenAreTheOnlySeparators) {
+    const RecordedSystemLog log;
+    for (int byte = 0; byte < 128; ++byte) {
+        std::string text = "0g1g2g3g4g5"; // g stands for the character
+        std::ranges::replace(text, 'g', static_cast<char>(byte));
+        EXPECT_EQ(EthernetText(text).isParsed, byte == ':' || byte == '-') << byte;
+    }
+}
+
 TEST(EaForString, LeadingBlanksAreNotSkipped) {
     const RecordedSystemLog log;
     EXPECT_FALSE(EthernetText(" 00:11:22:33:44:55").isParsed);
@@ -250,6 +260,15 @@ TEST(Ha16ForString, AnotherNumberOfGroupsFailsSilently) {
         EXPECT_EQ(parsed.count, 0U) << text;
     }
     EXPECT_EQ(log.lines(), Lines{});
+}
+
+TEST(Ha16ForString, ColonAndHyphenAreTheOnlySeparators) {
+    const RecordedSystemLog log;
+    for (int byte = 0; byte < 128; ++byte) {
+        std::string text = "0g1g2g3g4g5"; // g stands for the character
+        std::ranges::replace(text, 'g', static_cast<char>(byte));
+        EXPECT_EQ(GroupText(text).isParsed, byte == ':' || byte == '-') << byte;
+    }
 }
 
 TEST(Ha16ForString, AWrongCharacterAfterAnotherNumberOfGroupsLogsTheMessageAndTheText) {

@@ -8,6 +8,7 @@
 #include <limits>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kx {
 namespace {
@@ -86,7 +87,9 @@ TEST(PropertyListCoding, EveryTruncationOfAnObjectIsRefused) {
     const std::string whole =
         coded(PropertyDictionary{{"a", PropertyList{1, "text", PropertyDictionary{}}}, {"b", -7}});
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        EXPECT_EQ(decoded(whole.substr(0, length)), std::nullopt) << whole.substr(0, length);
+        const std::string part = whole.substr(0, length);
+        PropertyListDecoder decoder(bytesOfText(part));
+        EXPECT_EQ(decoder.decodeObject(), std::nullopt) << part;
     }
     EXPECT_NE(decoded(whole), std::nullopt);
 }
@@ -145,6 +148,38 @@ TEST(PropertyListCoding, ForeignBytesAreRefused) {
     for (const char* bytes : foreign) {
         EXPECT_EQ(decoded(bytes), std::nullopt) << bytes;
     }
+}
+
+// Each kind of object with the end of another, and with every byte that is none.
+TEST(PropertyListCoding, ANumberEndsWithTheCharacterOfItsKindAndNoOther) {
+    const std::pair<std::string, std::string> objects[] = {
+        {"t1", "a"}, {"i12", ""}, {"l1", "i1;"}, {"d1", "t1:ai1;"}, {"l1:i1", ""}, {"t0", ""}};
+    for (const auto& [number, rest] : objects) {
+        const bool isInteger = number.find('i') != std::string::npos;
+        for (int byte = 0; byte < 256; ++byte) {
+            const std::string bytes = number + static_cast<char>(byte) + rest;
+            EXPECT_EQ(decoded(bytes).has_value(), byte == (isInteger ? ';' : ':')) << bytes;
+        }
+    }
+}
+
+// The end of one number is not looked for in the next object.
+TEST(PropertyListCoding, ANumberWithoutItsEndIsRefusedWhateverFollows) {
+    for (const char* bytes : {"i1", "i12", "t0", "l0", "d0", "l1:i1", "i1t1:a", "i1 2;",
+                              "t1ai1;:", "l1i1;:", "i12i3;", "d0i1:", "t0t0:"}) {
+        PropertyListDecoder decoder(bytesOfText(bytes));
+        EXPECT_EQ(decoder.decodeObject(), std::nullopt) << bytes;
+        EXPECT_FALSE(decoder.isAtEnd()) << bytes;
+    }
+}
+
+TEST(PropertyListCoding, WhatFollowsTheEndOfANumberIsLeftToTheNextObject) {
+    PropertyListDecoder decoder(bytesOfText("i1;i-23;t0:i4;"));
+    for (const PropertyListValue& value : {PropertyListValue(1), PropertyListValue(-23),
+                                           PropertyListValue(""), PropertyListValue(4)}) {
+        EXPECT_EQ(decoder.decodeObject(), value);
+    }
+    EXPECT_TRUE(decoder.isAtEnd());
 }
 
 TEST(PropertyListCoding, NestingUpToTheLimitIsWrittenAndRead) {

@@ -63,6 +63,23 @@ TEST(GXArrayTable, TableDictionaryMapsTheEntriesByTheirKeys) {
               (DictionaryOfDictionaries{{"a", entry->nodeDictionary()}}));
 }
 
+TEST(GXArrayTable, OfTwoEntriesWithOneKeyTheLastIsInTheDictionaries) {
+    GXArrayTable table;
+    table.addObject(KeyedEntry::named("a"));
+    const auto last = KeyedEntry::named("a");
+    table.addObject(last);
+    EXPECT_EQ(table.tableDictionary(), (EntryDictionary{{"a", last}}));
+    EXPECT_EQ(table.dictionaryOfDictionaries(),
+              (DictionaryOfDictionaries{{"a", last->nodeDictionary()}}));
+}
+
+TEST(GXArrayTable, OfTwoEntriesOfADictionaryWithOneKeyTheLastIsKept) {
+    GXArrayTable table;
+    const auto last = KeyedEntry::named("a");
+    table.setTableDictionary({{"x", KeyedEntry::named("a")}, {"y", last}});
+    EXPECT_EQ(*table.tableArray(), EntryArray{last});
+}
+
 TEST(GXArrayTable, SetTableDictionarySortsTheEntriesByTheirOwnKeys) {
     GXArrayTable table;
     storeNumbers(table, {9});
@@ -95,6 +112,20 @@ TEST(GXArrayTable, LoadedDictionaryOfPlainEntriesAppendsThem) {
                                                                 GXStateEntry::entryFromDictionary));
     EXPECT_EQ(table.description(), "({name = b}, {name = a})");
     EXPECT_TRUE(log.contains("GXStateEntry: override key for subclass"));
+}
+
+TEST(GXArrayTable, LoadingFillsTheArrayThatIsThere) {
+    GXArrayTable table;
+    const auto array = table.tableArray();
+    EXPECT_TRUE(table.loadArrayOfDictionariesForEntryClass(
+        DictionaryArray{KeyedEntry::named("a")->nodeDictionary()}, entryOfClass<KeyedEntry>));
+    EXPECT_EQ(array->size(), 1U);
+    EXPECT_TRUE(
+        table.loadDictionaryOfDictionariesForEntryClass(foreignKeys(), entryOfClass<KeyedEntry>));
+    EXPECT_EQ(array->size(), 2U);
+    table.setTableDictionary({});
+    EXPECT_TRUE(array->empty());
+    EXPECT_EQ(table.tableArray(), array);
 }
 
 TEST(GXArrayTable, LoadingNoDictionaryEmptiesTheTableAndFails) {

@@ -42,6 +42,18 @@ TEST(GXArrayTable, KeyedStoreReturnsWhereTheSearchEnded) {
     EXPECT_EQ(numbers(table), (Numbers{5, 7, 10, 20}));
 }
 
+TEST(GXArrayTable, KeyedStoreLooksAtTheFirstOfTwoMiddleEntriesFirst) {
+    GXArrayTable two;
+    storeNumbers(two, {1, 5});
+    EXPECT_EQ(two.setObjectForKeyInt(KeyedEntry::numbered(3), 3), 1);
+    EXPECT_EQ(numbers(two), (Numbers{1, 3, 5}));
+
+    GXArrayTable four;
+    storeNumbers(four, {1, 5, 9, 13});
+    EXPECT_EQ(four.setObjectForKeyInt(KeyedEntry::numbered(7), 7), 2);
+    EXPECT_EQ(numbers(four), (Numbers{1, 5, 7, 9, 13}));
+}
+
 TEST(GXArrayTable, KeyedStoreTrustsTheKeyThatItIsGiven) {
     GXArrayTable table;
     storeNumbers(table, {1, 5});

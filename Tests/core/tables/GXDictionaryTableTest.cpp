@@ -130,6 +130,37 @@ TEST(GXDictionaryTable, RemovalDropsTheSortedKeys) {
     EXPECT_FALSE(table.hasSortedKeys());
 }
 
+TEST(GXDictionaryTable, RemovalOfWhatIsNotThereDropsTheSortedKeysAllTheSame) {
+    DescendingTable table;
+    addNames(table, {"a"});
+    const auto dropsSortedKeys = [&table](const auto& change) {
+        table.sortKeys();
+        change();
+        return !table.hasSortedKeys();
+    };
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeObject(KeyedEntry::named("b")); }));
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeObject(std::make_shared<KeyedEntry>()); }));
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeObject(nullptr); }));
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeObjectForKey("b"); }));
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeObjectForKey(std::nullopt); }));
+    EXPECT_EQ(table.count(), 1);
+    table.removeAllObjects();
+    EXPECT_TRUE(dropsSortedKeys([&] { table.removeAllObjects(); })) << "nothing is there";
+    EXPECT_TRUE(dropsSortedKeys([&] { table.setTableDictionary(table.tableDictionary()); }));
+    EXPECT_TRUE(dropsSortedKeys([&] { table.setTableDictionary(nullptr); }));
+}
+
+TEST(GXDictionaryTable, LoadingDropsTheSortedKeysAlsoWhenThereIsNothingToLoad) {
+    DescendingTable table;
+    for (const auto& source :
+         {std::optional(DictionaryOfDictionaries()), std::optional<DictionaryOfDictionaries>()}) {
+        addNames(table, {"a"});
+        table.sortKeys();
+        table.loadDictionaryOfDictionariesForEntryClass(source, entryOfClass<KeyedEntry>);
+        EXPECT_FALSE(table.hasSortedKeys());
+    }
+}
+
 TEST(GXDictionaryTable, RemovalOfWhatIsNotThereLeavesTheEntries) {
     GXDictionaryTable table;
     addNames(table, {"a"});
@@ -215,6 +246,35 @@ TEST(GXDictionaryTable, LoadingNoDictionaryEmptiesTheTableAndFails) {
     EXPECT_FALSE(
         table.loadDictionaryOfDictionariesForEntryClass(std::nullopt, entryOfClass<KeyedEntry>));
     EXPECT_EQ(table.count(), 0);
+}
+
+TEST(GXDictionaryTable, EmptyingAndLoadingReachTheCopiesToo) {
+    GXDictionaryTable table;
+    addNames(table, {"z"});
+    const auto copy = table.copy();
+    table.removeAllObjects();
+    EXPECT_EQ(copy->count(), 0);
+    EXPECT_TRUE(table.loadDictionaryOfDictionariesForEntryClass(foreignDictionaries(),
+                                                                entryOfClass<KeyedEntry>));
+    EXPECT_EQ(copy->count(), 2);
+    EXPECT_EQ(copy->tableDictionary(), table.tableDictionary());
+}
+
+TEST(GXDictionaryTable, OfTwoEntriesWithOneKeyTheLastIsKept) {
+    GXDictionaryTable table;
+    const auto last = KeyedEntry::named("own");
+    table.setObjectForKey(KeyedEntry::named("own"), "1");
+    table.setObjectForKey(last, "2");
+    EXPECT_EQ(table.dictionaryOfDictionaries(),
+              (DictionaryOfDictionaries{{"own", last->nodeDictionary()}}));
+
+    last->setValueForKey(PropertyListValue(7), "number");
+    GXDictionaryTable loaded;
+    EXPECT_TRUE(loaded.loadDictionaryOfDictionariesForEntryClass(
+        DictionaryOfDictionaries{{"1", KeyedEntry::named("own")->nodeDictionary()},
+                                 {"2", last->nodeDictionary()}},
+        entryOfClass<KeyedEntry>));
+    EXPECT_EQ(loaded.description(), "Table = " + last->description() + ";");
 }
 
 TEST(GXDictionaryTable, CopySharesTheDictionaryAndHasNoDelegate) {

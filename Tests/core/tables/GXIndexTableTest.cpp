@@ -117,6 +117,15 @@ TEST(GXIndexTable, RemovingAllRowsResetsTheCount) {
     EXPECT_TRUE(table.tableDictionary()->empty());
 }
 
+TEST(GXIndexTable, RemovingAllRowsReachesTheCopiesToo) {
+    GXIndexTable table;
+    table.setObjectAtIndex(KeyedEntry::named("a"), 4);
+    const auto copy = table.copy();
+    table.removeAllObjects();
+    EXPECT_EQ(copy->objectAtIndex(4), nullptr);
+    EXPECT_EQ(copy->tableDictionary(), table.tableDictionary());
+}
+
 TEST(GXIndexTable, SetDictionaryIsSharedAndLeavesTheCount) {
     GXIndexTable table;
     setRows(table, {4});
