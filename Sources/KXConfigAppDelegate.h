@@ -180,7 +180,7 @@ public:
     void setWindow(Window* window) { _outlets.window = window; }
 
     std::string eventLog() const { return logText.text(); } // a copy
-    const UnitRegistry& devices() const { return _devicesD; }
+    const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _session.listener(); } // null: there is none
     const QuietLine& quietLine() const { return _quietLine; }

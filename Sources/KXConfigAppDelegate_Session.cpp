@@ -61,8 +61,8 @@ UnitDestination KXConfigAppDelegate::unitDestination() const {
 
 // --- The session's events ---
 
-void KXConfigAppDelegate::sessionDidStart(const Bytes& localAddress) {
-    appendString(entryOfStart(localAddress));
+void KXConfigAppDelegate::sessionDidStart(const Bytes& address) {
+    appendString(entryOfStart(address));
 }
 
 void KXConfigAppDelegate::sessionCanBroadcast() {

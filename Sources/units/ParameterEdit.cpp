@@ -33,6 +33,16 @@ Bytes sixBytesOfDigits(std::string_view digits) {
     return bytes;
 }
 
+// "00:1a:2B:3C:4D:5E" from twelve digits.
+std::string grouped(std::string_view digits, std::string_view separator) {
+    std::string result;
+    for (std::size_t i = 0; i < digits.size(); i += 2) {
+        result += i > 0 ? separator : std::string_view();
+        result += digits.substr(i, 2);
+    }
+    return result;
+}
+
 // Six octets, typed as twelve hexadecimal digits.
 void takeOctets(ParameterEdit& edit, std::string_view separator) {
     edit.value = argumentOf(edit);
@@ -41,8 +51,8 @@ void takeOctets(ParameterEdit& edit, std::string_view separator) {
     } else if (edit.value.size() != 2 * identityLength) {
         edit.change = ValueChange::wrongLength;
     } else {
-        edit.value = hexStringForData(sixBytesOfDigits(edit.value), separator);
-        edit.shown = edit.value;
+        edit.shown = hexStringForData(sixBytesOfDigits(edit.value), separator);
+        edit.value = grouped(edit.value, separator);
     }
 }
 
@@ -152,8 +162,10 @@ std::variant<ParameterEdit, EditRefusal> editOfParameter(UnitParameter parameter
         return descriptionOf(parameter).isEditable() ? EditRefusal::notUTF8
                                                      : EditRefusal::notEditable;
     }
-    ParameterEdit edit{
-        .parameter = parameter, .typed = std::string(typed), .command = std::move(*command)};
+    ParameterEdit edit;
+    edit.parameter = parameter;
+    edit.typed = typed;
+    edit.command = std::move(*command);
     takeValue(edit);
     return edit;
 }

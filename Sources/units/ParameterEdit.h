@@ -51,8 +51,9 @@ struct ParameterEdit {
     std::string typed;
     std::string command;
 
-    // The value that the command carries, as units show such values; for a value without such a
-    // form the digits or the text that are sent, for a unit number its decimal digits.
+    // The value that the command carries, in the form in which units show such values, though the
+    // case of hexadecimal digits is as typed; for a value without such a form the digits or the
+    // text that are sent, for a unit number its decimal digits.
     std::string value;
 
     // How a unit that has taken the value shows it; absent when it cannot. A unit ID comes without

@@ -60,7 +60,8 @@ void QuietLine::unitDidTell(std::string_view serialNumber, const UnitRecord& rec
 }
 
 void QuietLine::arpToolDidEnd(std::int32_t status) {
-    if (auto* const outcome = std::get_if<EditOutcome>(&_state)) {
+    auto* const outcome = std::get_if<EditOutcome>(&_state);
+    if (outcome != nullptr && outcome->arpEntry().state != ARPEntryState::notWanted) {
         outcome->setARPEntry(arpEntryForEndOfTool(status));
         showOutcomeAnew();
     }

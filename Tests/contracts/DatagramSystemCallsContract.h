@@ -130,38 +130,39 @@ TYPED_TEST_P(DatagramSystemCallsContract, ADatagramArrivesWholeAndWithItsSender)
     const int descriptor = this->newBoundSocket();
     const Bytes expectedSender = this->trait.deliver(descriptor, this->data);
     Bytes buffer(100);
-    Bytes sender;
-    ASSERT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 3);
+    DatagramOrigin origin;
+    ASSERT_EQ(this->calls().receiveFrom(descriptor, buffer, origin), 3);
     buffer.resize(3);
     EXPECT_EQ(buffer, this->data);
-    EXPECT_EQ(sender, expectedSender);
+    EXPECT_EQ(origin.sender, expectedSender);
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, WhatDoesNotFitOfADatagramIsCut) {
     const int descriptor = this->newBoundSocket();
     this->trait.deliver(descriptor, this->data);
     Bytes buffer(2);
-    Bytes sender;
-    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 2);
+    DatagramOrigin origin;
+    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, origin), 2);
     EXPECT_EQ(buffer, (Bytes{1, 2}));
-    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EAGAIN);
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EAGAIN);
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, ADatagramWithoutBytesIsReadAsNone) {
     const int descriptor = this->newBoundSocket();
     const Bytes expectedSender = this->trait.deliver(descriptor, {});
     Bytes buffer(100);
-    Bytes sender;
-    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, sender), 0);
-    EXPECT_EQ(sender, expectedSender);
+    DatagramOrigin origin;
+    EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, origin), 0);
+    EXPECT_EQ(origin.sender, expectedSender);
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, AReadThatFailsLeavesTheSenderAlone) {
     const int descriptor = this->newBoundSocket();
     Bytes buffer(100);
-    Bytes sender = {7};
-    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EAGAIN);
-    EXPECT_EQ(sender, Bytes{7});
+    DatagramOrigin origin{.sender = {7}, .link = 7};
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EAGAIN);
+    EXPECT_EQ(origin.sender, Bytes{7});
+    EXPECT_EQ(origin.link, 7U);
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, ASendTellsHowManyBytesItSent) {
@@ -211,7 +212,7 @@ TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
     const Bytes address = this->trait.freeAddress();
     EXPECT_EQ(this->calls().close(descriptor), 0);
     Bytes buffer(100);
-    Bytes sender = {7};
+    DatagramOrigin origin{.sender = {7}, .link = 7};
     EXPECT_FAILURE(this->calls().close(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().bind(descriptor, address), EBADF);
     EXPECT_FAILURE(this->calls().connect(descriptor, address), EBADF);
@@ -220,8 +221,9 @@ TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
     EXPECT_FAILURE(this->calls().enableBroadcast(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView(address)), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EBADF);
-    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, sender), EBADF);
-    EXPECT_EQ(sender, Bytes{7});
+    EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EBADF);
+    EXPECT_EQ(origin.sender, Bytes{7});
+    EXPECT_EQ(origin.link, 7U);
     EXPECT_EQ(this->calls().localAddress(descriptor), std::nullopt);
     EXPECT_EQ(this->calls().peerAddress(descriptor), std::nullopt);
 }

@@ -93,7 +93,7 @@ TEST_F(ControllerQuietLine, SaysWhatBecameOfAnEdit) {
     SampleUnit changed;
     changed.destinationPort = {0x0D, 0xC3};
     receive(changed.acknowledgement());
-    EXPECT_EQ(quietLine(), "The unit accepted ^^IdT0DC3 and was asked for its parameters.");
+    EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
     receive(SampleUnit().reply());
     EXPECT_EQ(quietLine(), "The unit still shows 3520 as its destination Port number.");
     receive(changed.reply());
@@ -155,7 +155,7 @@ TEST_F(ControllerQuietLine, AUnitWithANewSerialNumberIsRecognized) {
     SampleUnit changed;
     changed.serial = {10, 11, 12, 13, 14, 15};
     receive(changed.acknowledgement());
-    EXPECT_EQ(quietLine(), "The unit accepted ^^IdS0a0b0c0d0e0f and was asked for its parameters.");
+    EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
     receive(changed.reply());
     EXPECT_EQ(quietLine(), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial number. Discover "
                            "lists it under that.");
@@ -293,7 +293,7 @@ TEST_F(ControllerQuietLine, AReplyThatWasUnderWayAlreadyDoesNotHideTheAcceptance
     receive(SampleUnit().reply());
     EXPECT_EQ(quietLine(), "The unit still shows 3520 as its destination Port number.");
     receive(SampleUnit().acknowledgement());
-    EXPECT_EQ(quietLine(), "The unit accepted ^^IdT0DC3 and was asked for its parameters.");
+    EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
 }
 
 TEST_F(ControllerQuietLine, SaysWhyAnOptionWasNotSentUntilTheNextAction) {

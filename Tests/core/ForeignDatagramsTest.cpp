@@ -2,7 +2,7 @@
 // say, and the program running.
 
 #include "ControllerFixture.h"
-#include "PlainDecoder.h"
+#include "units/PlainDecoder.h"
 
 #include <random>
 

@@ -36,6 +36,7 @@ public:
         statusFlags,
         setStatusFlags,
         enableBroadcast,
+        tellLinks,
         sendTo,
         receiveFrom,
         localAddress,
@@ -68,8 +69,8 @@ public:
     }
 
     // Queues a datagram for receiveFrom(), which fails with EAGAIN when there is none.
-    void queueDatagram(Bytes data, Bytes sender) {
-        _incoming.push_back({std::move(data), std::move(sender)});
+    void queueDatagram(Bytes data, Bytes sender, std::uint32_t link = 0) {
+        _incoming.push_back({std::move(data), {.sender = std::move(sender), .link = link}});
     }
 
     // The flags that new socket wrappers start with.
@@ -182,6 +183,18 @@ public:
         return openSocket(descriptor) != nullptr ? 0 : -1;
     }
 
+    int tellLinks(int descriptor) override {
+        if (const auto outcome = record({Operation::tellLinks, descriptor})) {
+            return static_cast<int>(*outcome);
+        }
+        Socket* const socket = openSocket(descriptor);
+        if (socket == nullptr) {
+            return -1;
+        }
+        socket->tellsLinks = true;
+        return 0;
+    }
+
     ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord) override {
         const Bytes address = bytesOf(addressRecord.value_or(ByteView()));
         if (const auto outcome = record({Operation::sendTo, descriptor, bytesOf(data), address})) {
@@ -199,11 +212,13 @@ public:
         return static_cast<ssize_t>(data.size());
     }
 
-    ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer, Bytes& sender) override {
+    ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
+                        DatagramOrigin& origin) override {
         if (const auto outcome = record({Operation::receiveFrom, descriptor})) {
             return *outcome;
         }
-        if (openSocket(descriptor) == nullptr) {
+        const Socket* const socket = openSocket(descriptor);
+        if (socket == nullptr) {
             return -1;
         }
         if (_incoming.empty()) {
@@ -214,7 +229,10 @@ public:
         _incoming.pop_front();
         const auto length = std::min(datagram.data.size(), buffer.size());
         std::copy_n(datagram.data.begin(), length, buffer.begin());
-        sender = datagram.address;
+        origin = datagram.origin;
+        if (!socket->tellsLinks) {
+            origin.link = 0;
+        }
         return static_cast<ssize_t>(length);
     }
 
@@ -247,6 +265,12 @@ private:
         Bytes localAddress = dataForAddress(0, 0);
         std::optional<Bytes> peerAddress = std::nullopt;
         int statusFlags = O_RDWR;
+        bool tellsLinks = false;
+    };
+
+    struct Incoming {
+        Bytes data;
+        DatagramOrigin origin;
     };
 
     struct Outcome {
@@ -317,7 +341,7 @@ private:
     std::map<Operation, std::deque<Outcome>> _script;
     std::vector<Call> _calls;
     std::function<void(const Call&)> _observer;
-    std::deque<Datagram> _incoming;
+    std::deque<Incoming> _incoming;
     std::map<int, Socket> _sockets; // that are open, by descriptor
     std::uint32_t _socketFlags = kCFSocketCloseOnInvalidate;
     int _nextDescriptor = 1000;

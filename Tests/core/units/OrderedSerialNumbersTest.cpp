@@ -1,4 +1,4 @@
-#include "AscendingKeys.h"
+#include "units/OrderedSerialNumbers.h"
 
 #include <gtest/gtest.h>
 
@@ -19,21 +19,21 @@ std::string randomKey(std::mt19937& random) {
     return key;
 }
 
-std::vector<std::string> listed(AscendingKeys& keys) {
+std::vector<std::string> listed(OrderedSerialNumbers& keys) {
     const TitleList list = keys.list();
     return {list.begin(), list.end()};
 }
 
 } // namespace
 
-TEST(AscendingKeys, AreNoneAtFirst) {
-    AscendingKeys keys;
+TEST(OrderedSerialNumbers, AreNoneAtFirst) {
+    OrderedSerialNumbers keys;
     EXPECT_TRUE(keys.list().empty());
 }
 
-TEST(AscendingKeys, ComeInOrderHoweverManyWereAddedBetweenTwoLists) {
+TEST(OrderedSerialNumbers, ComeInOrderHoweverManyWereAddedBetweenTwoLists) {
     std::mt19937 random(1);
-    AscendingKeys keys;
+    OrderedSerialNumbers keys;
     std::set<std::string> expected;
     for (const int more : {1, 62, 1, 1, 63, 64, 65, 1000, 0, 4096, 7}) {
         for (int count = 0; count < more; ++count) {
@@ -46,8 +46,8 @@ TEST(AscendingKeys, ComeInOrderHoweverManyWereAddedBetweenTwoLists) {
     }
 }
 
-TEST(AscendingKeys, AKeyStandsBeforeLongerOnesThatBeginWithIt) {
-    AscendingKeys keys;
+TEST(OrderedSerialNumbers, AKeyStandsBeforeLongerOnesThatBeginWithIt) {
+    OrderedSerialNumbers keys;
     keys.add("AB");
     keys.add("A");
     keys.add("");
@@ -55,8 +55,8 @@ TEST(AscendingKeys, AKeyStandsBeforeLongerOnesThatBeginWithIt) {
     EXPECT_EQ(listed(keys), (std::vector<std::string>{"", "A", "AB", "B"}));
 }
 
-TEST(AscendingKeys, AreForgottenWhenTheyAreCleared) {
-    AscendingKeys keys;
+TEST(OrderedSerialNumbers, AreForgottenWhenTheyAreCleared) {
+    OrderedSerialNumbers keys;
     keys.add("A");
     keys.clear();
     EXPECT_TRUE(keys.list().empty());
@@ -64,9 +64,9 @@ TEST(AscendingKeys, AreForgottenWhenTheyAreCleared) {
     EXPECT_EQ(listed(keys), std::vector<std::string>{"A"});
 }
 
-TEST(AscendingKeysDeathTest, AKeyThatIsTooLongBreaksTheContract) {
-    AscendingKeys keys;
-    EXPECT_DEATH(keys.add("18 characters long"), "key.size\\(\\) <= UnitRecord::longestText");
+TEST(OrderedSerialNumbersDeathTest, ANumberThatIsTooLongBreaksTheContract) {
+    OrderedSerialNumbers keys;
+    EXPECT_DEATH(keys.add("18 characters long"), "number.size\\(\\) <= UnitRecord::longestText");
 }
 
 } // namespace kx

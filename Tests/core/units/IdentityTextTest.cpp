@@ -1,4 +1,4 @@
-#include "IdentityText.h"
+#include "units/IdentityText.h"
 
 #include <gtest/gtest.h>
 

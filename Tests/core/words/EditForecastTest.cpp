@@ -1,6 +1,6 @@
 // What Apply will send, in words.
 
-#include "EditNotes.h"
+#include "words/EditForecast.h"
 
 #include "doubles/MarkedLocalizedText.h"
 #include "doubles/ScriptedLocalizedText.h"
@@ -21,17 +21,21 @@ CommandTarget knownUnit() {
         .unitIsSelected = true, .address = "192.168.1.10", .hardwareAddress = "00:1A:2B:3C:4D:5E"};
 }
 
-void expectNotes(UnitParameter parameter,
-                 const std::vector<std::pair<std::string, std::string>>& cases) {
+std::string forecast(UnitParameter parameter, std::string_view typed, const CommandTarget& target) {
+    return forecastOfEdit(editOfParameter(parameter, typed), target);
+}
+
+void expectForecasts(UnitParameter parameter,
+                     const std::vector<std::pair<std::string, std::string>>& cases) {
     for (const auto& [typed, note] : cases) {
-        EXPECT_EQ(noteOfEdit(parameter, typed, knownUnit()), note);
+        EXPECT_EQ(forecast(parameter, typed, knownUnit()), note);
     }
 }
 
 } // namespace
 
-TEST(EditNotes, ADestinationPortOutsideItsRangeSaysWhatIsSentInstead) {
-    expectNotes(
+TEST(EditForecast, ADestinationPortOutsideItsRangeSaysWhatIsSentInstead) {
+    expectForecasts(
         destinationPortNumber,
         {
             {"3523", "Apply sends ^^IdT0DC3: destination port 3523."},
@@ -52,8 +56,8 @@ TEST(EditNotes, ADestinationPortOutsideItsRangeSaysWhatIsSentInstead) {
         });
 }
 
-TEST(EditNotes, ADevicePortIsNotKeptInARange) {
-    expectNotes(
+TEST(EditForecast, ADevicePortIsNotKeptInARange) {
+    expectForecasts(
         devicePortNumber,
         {
             {"10001", "Apply sends ^^IdP2711: device port 10001."},
@@ -70,8 +74,8 @@ TEST(EditNotes, ADevicePortIsNotKeptInARange) {
         });
 }
 
-TEST(EditNotes, AnIPAddressThatCannotBeReadIsZero) {
-    expectNotes(
+TEST(EditForecast, AnIPAddressThatCannotBeReadIsZero) {
+    expectForecasts(
         destinationIPAddress,
         {
             {"192.168.1.20", "Apply sends ^^IdDC0A80114: destination IP address 192.168.1.20."},
@@ -93,8 +97,8 @@ TEST(EditNotes, AnIPAddressThatCannotBeReadIsZero) {
         });
 }
 
-TEST(EditNotes, AMACAddressSaysWhenItIsNone) {
-    expectNotes(
+TEST(EditForecast, AMACAddressSaysWhenItIsNone) {
+    expectForecasts(
         internalMACAddress,
         {
             {"00:1A:2b:3C:4D:5E",
@@ -109,13 +113,14 @@ TEST(EditNotes, AMACAddressSaysWhenItIsNone) {
                                   "hexadecimal digits and nothing else but colons."},
             {"Zürich", "Apply sends nothing: a command can hold ASCII characters only."},
         });
-    expectNotes(destinationMACAddress,
-                {{"000A0B0C0D0E",
-                  "Apply sends ^^IdC000A0B0C0D0E: destination MAC address 00:0A:0B:0C:0D:0E."}});
+    expectForecasts(
+        destinationMACAddress,
+        {{"000A0B0C0D0E",
+          "Apply sends ^^IdC000A0B0C0D0E: destination MAC address 00:0A:0B:0C:0D:0E."}});
 }
 
-TEST(EditNotes, ASerialNumberSaysWhenItIsNone) {
-    expectNotes(
+TEST(EditForecast, ASerialNumberSaysWhenItIsNone) {
+    expectForecasts(
         serialNumber,
         {
             {"00 1A 2B 3C 4D 5E",
@@ -128,8 +133,8 @@ TEST(EditNotes, ASerialNumberSaysWhenItIsNone) {
         });
 }
 
-TEST(EditNotes, AUnitIDIsANumberOrAText) {
-    expectNotes(
+TEST(EditForecast, AUnitIDIsANumberOrAText) {
+    expectForecasts(
         unitID,
         {
             {"7", "Apply sends ^^IdU000000000007: unit ID 7."},
@@ -157,8 +162,8 @@ TEST(EditNotes, AUnitIDIsANumberOrAText) {
         });
 }
 
-TEST(EditNotes, TheInternalIPAddressNeedsAnARPEntry) {
-    expectNotes(
+TEST(EditForecast, TheInternalIPAddressNeedsAnARPEntry) {
+    expectForecasts(
         internalIPAddress,
         {
             {"10.0.0.7", "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
@@ -178,88 +183,47 @@ TEST(EditNotes, TheInternalIPAddressNeedsAnARPEntry) {
         });
 }
 
-TEST(EditNotes, TheInternalIPAddressIsSentWithoutAUnitToo) {
-    EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", {}),
+TEST(EditForecast, TheInternalIPAddressIsSentWithoutAUnitToo) {
+    EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", {}),
               "Apply asks for administrator rights, but no MAC address is known for an ARP entry. "
               "No unit is selected. Apply sends ^^IdI0A000007 to 10.0.0.7.");
-    EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", {.unitIsSelected = true}),
+    EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", {.unitIsSelected = true}),
               "Apply asks for administrator rights, but no MAC address is known for an ARP entry. "
               "Apply sends ^^IdI0A000007 to 10.0.0.7.");
 }
 
-TEST(EditNotes, WithoutAUnitOrItsAddressNothingElseIsSent) {
+TEST(EditForecast, WithoutAUnitOrItsAddressNothingElseIsSent) {
     for (const UnitParameter parameter : allUnitParameters) {
         if (parameter != internalIPAddress) {
-            EXPECT_EQ(noteOfEdit(parameter, "7", {}), "Apply sends nothing: no unit is selected.");
-            EXPECT_EQ(noteOfEdit(parameter, "7", {.unitIsSelected = true}),
+            EXPECT_EQ(forecast(parameter, "7", {}), "Apply sends nothing: no unit is selected.");
+            EXPECT_EQ(forecast(parameter, "7", {.unitIsSelected = true}),
                       "Apply sends nothing: the address of the unit is not known.");
         }
-        EXPECT_EQ(noteOfEdit(parameter, "", {}), "Apply sends nothing: the value is empty.");
+        EXPECT_EQ(forecast(parameter, "", {}), "Apply sends nothing: the value is empty.");
     }
 }
 
-TEST(EditNotes, ARefusalSaysWhyNothingWasSent) {
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::emptyValue), "Not sent: The value is empty.");
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::notUTF8),
-              "Not sent: The unit ID is not a text in UTF-8.");
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::noUnit), "Not sent: No unit is selected.");
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::notASCII),
-              "Not sent: A command can hold ASCII characters only.");
-    EXPECT_EQ(noteOfRefusal(CommandRefusal::noAddress),
-              "Not sent: The address of the unit is not known.");
-}
-
-TEST(EditNotes, WhatTheNetworkSaysOfASendEndsWithAFullStop) {
-    EXPECT_EQ(noteOfFailedSend("Network is unreachable"), "Not sent: Network is unreachable.");
-    EXPECT_EQ(noteOfFailedSend("The UDP listener is not running."),
-              "Not sent: The UDP listener is not running.");
-}
-
-TEST(EditNotes, ACommandIsRefusedForTheFirstReasonThatAPersonCanMend) {
-    EXPECT_EQ(refusalOfCommand("^^IdV\r", knownUnit()), std::nullopt);
-    EXPECT_EQ(refusalOfCommand("^^IdÄ\r", knownUnit()), CommandRefusal::notASCII);
-    EXPECT_EQ(refusalOfCommand("^^IdÄ\r", {}), CommandRefusal::noUnit);
-    EXPECT_EQ(refusalOfCommand("^^IdÄ\r", {.unitIsSelected = true}), CommandRefusal::notASCII);
-    EXPECT_EQ(refusalOfCommand("^^IdV\r", {.unitIsSelected = true}), CommandRefusal::noAddress);
-}
-
-TEST(EditNotes, AForeignTextStaysOnOneLineAndIsCut) {
-    EXPECT_EQ(shownInNote(std::string(32, 'A')), std::string(32, 'A'));
-    EXPECT_EQ(shownInNote(std::string(33, 'A')), std::string(32, 'A') + "…");
-    std::string umlauts;
-    for (int i = 0; i < 40; ++i) {
-        umlauts += "ü";
-    }
-    EXPECT_EQ(shownInNote(umlauts), umlauts.substr(0, 64) + "…");
-    EXPECT_EQ(shownInNote("a\n\tb\r"), "a\uFFFD\uFFFDb\uFFFD");
-    EXPECT_EQ(shownInNote(std::string_view("a\0b", 3)), "a\uFFFDb");
-    EXPECT_EQ(shownInNote("a\u0085\u2028\u2029b"), "a\uFFFD\uFFFD\uFFFDb");
-    EXPECT_EQ(shownInNote("1\u202E2\u20663\u200F4"), "1\uFFFD2\uFFFD3\uFFFD4");
-    EXPECT_EQ(shownInNote(std::string(100, '\x80')), std::string(32, '\x80') + "…");
-}
-
-TEST(EditNotes, AnOverlongValueMakesAShortNote) {
+TEST(EditForecast, AnOverlongValueMakesAShortNote) {
     for (const UnitParameter parameter : allUnitParameters) {
         for (const char filling : {'7', 'A', '\n', '%'}) {
-            const std::string note =
-                noteOfEdit(parameter, std::string(10'000, filling), knownUnit());
+            const std::string note = forecast(parameter, std::string(10'000, filling), knownUnit());
             EXPECT_LT(note.size(), 400U) << note;
             EXPECT_EQ(note.find('\n'), std::string::npos) << note;
         }
     }
 }
 
-TEST(EditNotes, PlaceholdersInATypedTextStandAsTheyAre) {
-    EXPECT_EQ(noteOfEdit(devicePortNumber, "%@%d%n", knownUnit()),
+TEST(EditForecast, PlaceholdersInATypedTextStandAsTheyAre) {
+    EXPECT_EQ(forecast(devicePortNumber, "%@%d%n", knownUnit()),
               "Apply sends ^^IdP0000: device port 0, because “%@%d%n” does not begin with a "
               "number.");
 }
 
-TEST(EditNotes, EverySentenceIsLookedUpAsAWhole) {
+TEST(EditForecast, EverySentenceIsLookedUpAsAWhole) {
     const MarkedLocalizedText marked;
-    EXPECT_EQ(noteOfEdit(unitID, "7", knownUnit()), "<Apply sends ^^IdU000000000007: unit ID 7.>");
-    EXPECT_EQ(noteOfEdit(unitID, "7", {}), "<Apply sends nothing: no unit is selected.>");
-    EXPECT_EQ(noteOfEdit(internalIPAddress, "10.0.0.7", knownUnit()),
+    EXPECT_EQ(forecast(unitID, "7", knownUnit()), "<Apply sends ^^IdU000000000007: <unit ID> 7.>");
+    EXPECT_EQ(forecast(unitID, "7", {}), "<Apply sends nothing: no unit is selected.>");
+    EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", knownUnit()),
               "<Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
               "administrator rights.> <Apply sends ^^IdI0A000007 to 10.0.0.7.>");
 }

@@ -1,4 +1,4 @@
-#include "TitleList.h"
+#include "support/TitleList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "UnitParameters.h"
+#include "units/ParameterList.h"
 
-#include "UnitReplies.h"
+#include "core/UnitReplies.h"
 
 #include <gtest/gtest.h>
 

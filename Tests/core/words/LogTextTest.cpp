@@ -1,4 +1,4 @@
-#include "LogText.h"
+#include "words/LogText.h"
 
 #include "support/TextEncoding.h"
 

@@ -1,6 +1,4 @@
-#include "CommandProtocol.h"
-
-#include "UnitReplies.h"
+#include "units/UnitCommand.h"
 
 #include <gtest/gtest.h>
 
@@ -21,10 +19,6 @@ std::tm localTime(int month, int day, int hour, int minute) {
     return time;
 }
 
-std::string textOf(ByteView bytes) {
-    return {bytes.begin(), bytes.end()};
-}
-
 } // namespace
 
 TEST(CommandProtocol, DefaultPortIsHexadecimal0DC0) {
@@ -37,45 +31,45 @@ TEST(CommandProtocol, RequestsHaveNoArgument) {
 }
 
 TEST(MACAddressArgument, IsTheTextWithoutColonsWhereverTheyStand) {
-    EXPECT_EQ(macAddressArgument("00:1a:2B:3c:4D:5e"), "001a2B3c4D5e");
-    EXPECT_EQ(macAddressArgument("::a b::"), "a b");
-    EXPECT_EQ(macAddressArgument(""), "");
+    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, "00:1a:2B:3c:4D:5e"), "001a2B3c4D5e");
+    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, "::a b::"), "a b");
+    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, ""), "");
 }
 
 TEST(IPAddressArgument, IsEightDigitsFirstOctetFirst) {
-    EXPECT_EQ(ipAddressArgument("192.168.1.20"), "C0A80114");
-    EXPECT_EQ(ipAddressArgument("0.0.0.1"), "00000001");
-    EXPECT_EQ(ipAddressArgument("nowhere"), "00000000");
+    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "192.168.1.20"), "C0A80114");
+    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "0.0.0.1"), "00000001");
+    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "nowhere"), "00000000");
 }
 
 TEST(DestinationPortArgument, Is3520UnlessItIsOneOfTheFourPorts) {
-    EXPECT_EQ(destinationPortArgument("3519"), "0DC0");
-    EXPECT_EQ(destinationPortArgument("3520"), "0DC0");
-    EXPECT_EQ(destinationPortArgument("3522"), "0DC2");
-    EXPECT_EQ(destinationPortArgument("3523"), "0DC3");
-    EXPECT_EQ(destinationPortArgument("3524"), "0DC0");
-    EXPECT_EQ(destinationPortArgument(""), "0DC0");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3519"), "0DC0");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3520"), "0DC0");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3522"), "0DC2");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3523"), "0DC3");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3524"), "0DC0");
+    EXPECT_EQ(argumentForText(ValueForm::listeningPort, ""), "0DC0");
 }
 
 TEST(DevicePortArgument, IsAnyNumberInFourDigitsOrMore) {
-    EXPECT_EQ(devicePortArgument("0"), "0000");
-    EXPECT_EQ(devicePortArgument("65535"), "FFFF");
-    EXPECT_EQ(devicePortArgument("65536"), "10000");
-    EXPECT_EQ(devicePortArgument("-2"), "FFFFFFFE");
-    EXPECT_EQ(devicePortArgument(""), "0000");
+    EXPECT_EQ(argumentForText(ValueForm::anyPort, "0"), "0000");
+    EXPECT_EQ(argumentForText(ValueForm::anyPort, "65535"), "FFFF");
+    EXPECT_EQ(argumentForText(ValueForm::anyPort, "65536"), "10000");
+    EXPECT_EQ(argumentForText(ValueForm::anyPort, "-2"), "FFFFFFFE");
+    EXPECT_EQ(argumentForText(ValueForm::anyPort, ""), "0000");
 }
 
 TEST(UnitIDArgument, IsANumberOrTheBytesOfTheText) {
-    EXPECT_EQ(unitIDArgument("12"), "00000000000C");
-    EXPECT_EQ(unitIDArgument("AB"), "4142");
-    EXPECT_EQ(unitIDArgument(""), "");
-    EXPECT_EQ(unitIDArgument("A\xFF"), std::nullopt);
+    EXPECT_EQ(argumentForText(ValueForm::unitID, "12"), "00000000000C");
+    EXPECT_EQ(argumentForText(ValueForm::unitID, "AB"), "4142");
+    EXPECT_EQ(argumentForText(ValueForm::unitID, ""), "");
+    EXPECT_EQ(argumentForText(ValueForm::unitID, "A\xFF"), std::nullopt);
 }
 
 TEST(SerialNumberArgument, IsTheTextWithoutBlanksWhereverTheyStand) {
-    EXPECT_EQ(serialNumberArgument("00 1A 2B 3C 4D 5E"), "001A2B3C4D5E");
-    EXPECT_EQ(serialNumberArgument("  a:b  "), "a:b");
-    EXPECT_EQ(serialNumberArgument(""), "");
+    EXPECT_EQ(argumentForText(ValueForm::serialNumber, "00 1A 2B 3C 4D 5E"), "001A2B3C4D5E");
+    EXPECT_EQ(argumentForText(ValueForm::serialNumber, "  a:b  "), "a:b");
+    EXPECT_EQ(argumentForText(ValueForm::serialNumber, ""), "");
 }
 
 TEST(EditCommand, DestinationPortWithinItsRangeIsSent) {
@@ -190,118 +184,6 @@ TEST(UnitPort, IsTheNumberCutTo16Bits) {
     EXPECT_EQ(unitPortForText("70000"), 4464);
     EXPECT_EQ(unitPortForText("-1"), 65535);
     EXPECT_EQ(unitPortForText("none"), 0);
-}
-
-TEST(DataSubrangeText, IsAbsentBeyondTheEnd) {
-    const Bytes data = textBytes("abcde");
-    EXPECT_EQ(stringForDataSubrange(data, 3, 2), "de");
-    EXPECT_EQ(stringForDataSubrange(data, 4, 2), std::nullopt);
-}
-
-TEST(PacketKind, FourBytesAreTooShortWhateverTheyHold) {
-    EXPECT_EQ(packetKindOfDatagram(Bytes{}), PacketKind::tooShort);
-    EXPECT_EQ(packetKindOfDatagram(textBytes("^^<U")), PacketKind::tooShort);
-    EXPECT_EQ(packetKindOfDatagram(textBytes("abcd")), PacketKind::tooShort);
-}
-
-TEST(PacketKind, OnlyTheFirstByteMakesAReply) {
-    EXPECT_EQ(packetKindOfDatagram(textBytes("^^<X>")), PacketKind::reply);
-    EXPECT_EQ(packetKindOfDatagram(textBytes("^?<X>")), PacketKind::reply);
-    EXPECT_EQ(packetKindOfDatagram(textBytes("?^<X>")), PacketKind::unknown);
-}
-
-TEST(ReplyHeader, GivesTagUnitIDAndSerialNumber) {
-    const Bytes datagram = SampleUnit().reply();
-    const Reply reply = replyFromDatagram(datagram);
-    EXPECT_EQ(reply.tag, "<U>");
-    EXPECT_EQ(reply.unitID, "42");
-    EXPECT_EQ(reply.serialNumber, "01 02 03 04 05 06");
-    EXPECT_EQ(reply.payloadKind, PayloadKind::parameterList);
-    EXPECT_EQ(textOf(reply.payload), textOf(SampleUnit().parameterList()));
-}
-
-TEST(ReplyHeader, OfFiveBytesHasOnlyATag) {
-    const Bytes datagram = textBytes("^^<X>");
-    const Reply reply = replyFromDatagram(datagram);
-    EXPECT_EQ(reply.tag, "<X>");
-    EXPECT_EQ(reply.unitID, std::nullopt);
-    EXPECT_EQ(reply.serialNumber, std::nullopt);
-    EXPECT_EQ(reply.payloadKind, PayloadKind::none);
-}
-
-TEST(ReplyHeader, UnitIDCutShortIsARangeFailure) {
-    const Bytes whole = textBytes("^^<U>ABCDEF");
-    for (std::size_t length = 5; length < whole.size(); ++length) {
-        EXPECT_THROW(replyFromDatagram(ByteView(whole).first(length)), RangeFailure) << length;
-    }
-    EXPECT_EQ(replyFromDatagram(whole).unitID, "ABCDEF");
-}
-
-TEST(ReplyHeader, SerialNumberCutShortIsARangeFailureUnderEveryTag) {
-    for (const char* tag : {"<U>", "<X>"}) {
-        const Bytes whole = joined(
-            {textBytes("^^"), item(tag, textBytes("ABCDEF")), item("<S>", {1, 2, 3, 4, 5, 6})});
-        for (std::size_t length = 14; length < whole.size(); ++length) {
-            EXPECT_THROW(replyFromDatagram(ByteView(whole).first(length)), RangeFailure) << length;
-        }
-        EXPECT_EQ(replyFromDatagram(whole).serialNumber, "01 02 03 04 05 06");
-    }
-}
-
-TEST(ReplyHeader, SerialTagCutShortIsNoSerialNumber) {
-    for (std::size_t length = 11; length < 14; ++length) {
-        const Bytes whole = textBytes("^^<U>ABCDEF<S>");
-        const Reply reply = replyFromDatagram(ByteView(whole).first(length));
-        EXPECT_EQ(reply.unitID, "ABCDEF");
-        EXPECT_EQ(reply.serialNumber, std::nullopt);
-    }
-}
-
-TEST(ReplyHeader, UnitIDIsReadOnlyUnderItsTag) {
-    for (const char* tag : {"<u>", "<X>", " U>"}) {
-        const Bytes datagram = joined({textBytes("^^"), item(tag, textBytes("ABCDEF"))});
-        EXPECT_EQ(replyFromDatagram(datagram).unitID, std::nullopt) << tag;
-    }
-}
-
-TEST(ReplyHeader, TagThatIsNotUTF8IsAbsent) {
-    const Bytes datagram = joined({textBytes("^^"), {0xFF, 'U', '>'}});
-    EXPECT_EQ(replyFromDatagram(datagram).tag, std::nullopt);
-}
-
-TEST(ReplyPayload, CountsOnlyBehindItsMarker) {
-    Bytes datagram = SampleUnit().reply();
-    datagram[20] = '#';
-    EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::none);
-}
-
-TEST(ReplyPayload, AcknowledgementHasAFreeThirdByte) {
-    for (const char* payload : {"ok\r", "ok!", "okay"}) {
-        const Bytes datagram = joined({SampleUnit().header(), textBytes(payload)});
-        EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::acknowledgement);
-    }
-}
-
-TEST(ReplyPayload, AcknowledgementIsLowerCaseAndThreeBytesOfText) {
-    for (const Bytes& payload :
-         {textBytes("ok"), textBytes("OK\r"), textBytes(" ok"), Bytes{'o', 'k', 0xFF}}) {
-        const Bytes datagram = joined({SampleUnit().header(), payload});
-        EXPECT_EQ(replyFromDatagram(datagram).payloadKind, PayloadKind::other);
-    }
-}
-
-TEST(ReplyPayload, AnythingElseIsTakenFromItsMarkerOn) {
-    const Bytes datagram = joined({SampleUnit().header(), textBytes("hello")});
-    const Reply reply = replyFromDatagram(datagram);
-    EXPECT_EQ(reply.payloadKind, PayloadKind::other);
-    EXPECT_EQ(textOf(reply.payload), "$hello");
-}
-
-TEST(ReplyPayload, MayBeTheMarkerAlone) {
-    const Bytes datagram = SampleUnit().header();
-    const Reply reply = replyFromDatagram(datagram);
-    EXPECT_EQ(reply.payloadKind, PayloadKind::other);
-    EXPECT_EQ(textOf(reply.payload), "$");
 }
 
 } // namespace kx

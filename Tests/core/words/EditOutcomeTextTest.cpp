@@ -1,0 +1,136 @@
+#include "words/EditOutcomeText.h"
+
+#include "core/conversation/EditOutcomes.h"
+#include "doubles/MarkedLocalizedText.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+
+namespace kx {
+
+namespace {
+
+using enum UnitParameter;
+
+// The text once the unit shows `value`.
+std::string textAfterReply(UnitParameter parameter, const std::string& typed,
+                           const std::string& before, std::string_view value) {
+    EditOutcome outcome = outcomeOf(parameter, typed, before);
+    outcome.unitDidTell(editedUnit, recordWith(parameter, value));
+    return textOfEditOutcome(outcome);
+}
+
+std::string textAfterAcceptance(UnitParameter parameter, const std::string& typed,
+                                const std::string& before) {
+    EditOutcome outcome = outcomeOf(parameter, typed, before);
+    outcome.unitDidAccept(editedUnit, {});
+    return textOfEditOutcome(outcome);
+}
+
+std::string textWithARPEntry(const std::string& typed, ARPEntry entry) {
+    EditOutcome outcome = outcomeOf(internalIPAddress, typed, "192.168.1.10");
+    outcome.setARPEntry(entry);
+    return textOfEditOutcome(outcome);
+}
+
+} // namespace
+
+TEST(EditOutcomeText, SaysWhatWasSent) {
+    EXPECT_EQ(textOfEditOutcome(outcomeOf(destinationPortNumber, "3523", "3520")),
+              "Sent ^^IdT0DC3. The unit has not answered yet.");
+}
+
+// It does not say which: an acknowledgement names none.
+TEST(EditOutcomeText, SaysThatACommandWasAccepted) {
+    EXPECT_EQ(textAfterAcceptance(destinationPortNumber, "3523", "3520"),
+              "The unit accepted a command and was asked for its parameters.");
+}
+
+TEST(EditOutcomeText, SaysThatTheUnitCouldNotBeAsked) {
+    EditOutcome outcome = outcomeOf(unitID, "7", "42");
+    outcome.unitDidAccept(editedUnit, SendFailure{posixError(ENETUNREACH)});
+    EXPECT_EQ(textOfEditOutcome(outcome), "The unit accepted a command. It could not be asked for "
+                                          "its parameters: Network is unreachable");
+}
+
+TEST(EditOutcomeText, ANewDevicePortIsSeenByDiscover) {
+    EXPECT_EQ(textAfterAcceptance(devicePortNumber, "10001", "10000"),
+              "The unit accepted a command and was asked for its parameters. Discover finds it on "
+              "its new port.");
+    EXPECT_EQ(textAfterAcceptance(devicePortNumber, "10000", "10000"),
+              "The unit accepted a command and was asked for its parameters.");
+}
+
+TEST(EditOutcomeText, SaysWhatTheUnitShows) {
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3520", "3523"),
+              "The unit now shows 3523 as its destination Port number.");
+    EXPECT_EQ(textAfterReply(devicePortNumber, "10001", "10000", "10000"),
+              "The unit still shows 10000 as its device Port number.");
+    EXPECT_EQ(textAfterReply(devicePortNumber, "70000", "10000", "4464"),
+              "The unit now shows 4464 as its device Port number, which is not what was sent.");
+    EXPECT_EQ(textAfterReply(unitID, "AB", "42", std::string_view("AB\0\0\0\0", 6)),
+              "The unit now shows AB as its unit ID.");
+    EditOutcome outcome = outcomeOf(unitID, "7", "42");
+    outcome.unitDidTell(editedUnit, UnitRecord());
+    EXPECT_EQ(textOfEditOutcome(outcome), "The unit's parameters hold no unit ID.");
+}
+
+TEST(EditOutcomeText, AUnitWithANewSerialNumberIsListedUnderIt) {
+    EditOutcome outcome = outcomeOf(serialNumber, "0a0b0c0d0e0f", editedUnit);
+    outcome.unitDidTell("0A 0B 0C 0D 0E 0F", recordWith(serialNumber, "0A 0B 0C 0D 0E 0F"));
+    EXPECT_EQ(textOfEditOutcome(outcome), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial "
+                                          "number. Discover lists it under that.");
+    EXPECT_EQ(textAfterReply(serialNumber, editedUnit, editedUnit, editedUnit),
+              "The unit now shows 01 02 03 04 05 06 as its serial number.");
+}
+
+TEST(EditOutcomeText, AFailedSendSaysWhy) {
+    const EditOutcome refused(editOf(unitID, "7"), {}, SendFailure{posixError(ENETUNREACH)});
+    EXPECT_EQ(textOfEditOutcome(refused), "Not sent: Network is unreachable.");
+    const EditOutcome stopped(editOf(unitID, "7"), {}, SendFailure{});
+    EXPECT_EQ(textOfEditOutcome(stopped), "Not sent: The UDP listener is not running.");
+}
+
+TEST(EditOutcomeText, SaysWhyThereIsNoARPEntry) {
+    const std::string sent = "Sent ^^IdI0A000007. The unit has not answered yet.";
+    const std::string none = sent + " No ARP entry was made for 10.0.0.7: ";
+    const auto text = [](ARPEntryState state, std::int32_t code = 0) {
+        return textWithARPEntry("10.0.0.7", {state, code});
+    };
+    EXPECT_EQ(text(ARPEntryState::started), sent);
+    EXPECT_EQ(text(ARPEntryState::rightsNotGiven), none + "administrator rights were not given.");
+    EXPECT_EQ(text(ARPEntryState::cannotRun), none + "the ARP tool cannot be run.");
+    EXPECT_EQ(text(ARPEntryState::refused), none + "running the ARP tool was refused.");
+    EXPECT_EQ(text(ARPEntryState::dismissed),
+              none + "the question for administrator rights was dismissed.");
+    EXPECT_EQ(text(ARPEntryState::notStarted, -60002),
+              none + "the ARP tool was not started (-60002).");
+    EXPECT_EQ(text(ARPEntryState::ended, 255), none + "the ARP tool ended with status 255.");
+    EXPECT_EQ(textWithARPEntry("10.0.0.7ü", {ARPEntryState::notASCII}),
+              sent + " No ARP entry was made for 10.0.0.7ü: it can hold ASCII characters only.");
+}
+
+TEST(EditOutcomeText, WhyThereIsNoARPEntryStandsBehindWhatTheUnitShows) {
+    EditOutcome outcome = outcomeOf(internalIPAddress, "10.0.0.7", "192.168.1.10");
+    outcome.setARPEntry({ARPEntryState::ended, 255});
+    outcome.unitDidTell(editedUnit, recordWith(internalIPAddress, "10.0.0.7"));
+    EXPECT_EQ(textOfEditOutcome(outcome),
+              "The unit now shows 10.0.0.7 as its internal IP address. No ARP entry was made for "
+              "10.0.0.7: the ARP tool ended with status 255.");
+}
+
+TEST(EditOutcomeText, EverySentenceIsLookedUpAsAWhole) {
+    const MarkedLocalizedText marked;
+    EXPECT_EQ(textWithARPEntry("10.0.0.7", {ARPEntryState::rightsNotGiven}),
+              "<Sent ^^IdI0A000007. The unit has not answered yet.> <No ARP entry was made for "
+              "10.0.0.7: administrator rights were not given.>");
+}
+
+TEST(EditOutcomeText, NamesTheParameterAsPeopleSeeIt) {
+    const MarkedLocalizedText marked;
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3520", "3523"),
+              "<The unit now shows 3523 as its <destination Port number>.>");
+}
+
+} // namespace kx
