@@ -4,7 +4,7 @@
 #include "Comparison.h"
 #include "ProcessorTime.h"
 #include "platform/qt/QtPopUpButton.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <benchmark/benchmark.h>
 

@@ -1,6 +1,6 @@
 // Whether a message bus is heard, with a socket of the test in its place.
 
-#include "platform/linux/BusProbe.h"
+#include "platform/qtcore/BusProbe.h"
 
 #include "System Configuration/SystemCallWrappers.h"
 #include "support/Pipe.h"

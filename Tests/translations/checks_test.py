@@ -111,7 +111,7 @@ class TheTextsOfTheProgram(unittest.TestCase):
         self.assertEqual(checks.script.keys_of_window(window), ["&File"])
 
     def test_come_back_from_the_catalogue_that_is_written_of_them(self):
-        path = checks.ROOT / "Sources/main.cpp"
+        path = checks.ROOT / "Sources/kxconfig.cpp"
         keys = {"\nA <b> & \"c\": ": [path], "New": [path]}
         written = checks.script.catalogue("de", keys, {"\nA <b> & \"c\": ": "\nÄ <b> & „c“: "})
         self.assertEqual(checks.script.entries(written),

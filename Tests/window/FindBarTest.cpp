@@ -3,7 +3,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "MainWindowFixture.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 namespace kx {
 

@@ -2,8 +2,8 @@
 
 #pragma once
 
-#include "platform/qt/QtLocalizedText.h"
-#include "platform/qt/QtTranslations.h"
+#include "platform/qtcore/QtLocalizedText.h"
+#include "platform/qtcore/QtTranslations.h"
 
 namespace kx {
 

@@ -1,4 +1,4 @@
-#include "platform/qt/QtLocalizedText.h"
+#include "platform/qtcore/QtLocalizedText.h"
 
 #include "contracts/LocalizedTextContract.h"
 

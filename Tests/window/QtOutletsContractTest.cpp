@@ -8,7 +8,7 @@
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"

@@ -1,7 +1,7 @@
 // The comparison of texts, character by character, against the toolkit's own knowledge of Unicode.
 // The toolkit folds each character to one, so what folds to several is not for it to witness.
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "support/TextComparison.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "platform/linux/NetworkManagerProfiles.h"
 
 #include "platform/linux/ActiveConnections.h"
-#include "platform/linux/SystemBus.h"
+#include "platform/qtcore/SystemBus.h"
 
 #include <QDBusError>
 #include <QDBusMessage>

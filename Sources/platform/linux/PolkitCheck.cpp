@@ -1,6 +1,6 @@
 #include "platform/linux/PolkitCheck.h"
 
-#include "platform/linux/SystemBus.h"
+#include "platform/qtcore/SystemBus.h"
 
 #include <unistd.h>
 

@@ -1,7 +1,7 @@
 #include "platform/qt/HelpViewer.h"
 
 #include "platform/qt/PixelFrame.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QDir>
 #include <QEvent>

@@ -1,7 +1,7 @@
 #include "platform/qt/LogTextView.h"
 
 #include "platform/qt/LogTextAccessible.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>

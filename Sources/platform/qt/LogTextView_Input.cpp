@@ -1,7 +1,7 @@
 // What a person does in the log view with the mouse and the keyboard.
 
 #include "platform/qt/LogTextView.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

@@ -1,7 +1,7 @@
 #include "platform/qt/QtHelpServices.h"
 
 #include "platform/qt/HelpViewer.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "support/LocalizedText.h"
 
 #include <QDesktopServices>

@@ -1,6 +1,6 @@
 #include "platform/qt/QtPopUpButton.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "platform/qt/UniformListView.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "contracts/ConnectionProfilesContract.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 namespace kx {
 

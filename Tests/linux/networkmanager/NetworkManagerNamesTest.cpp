@@ -7,7 +7,7 @@
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 #include <gtest/gtest.h>
 

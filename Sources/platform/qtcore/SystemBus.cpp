@@ -1,6 +1,6 @@
-#include "platform/linux/SystemBus.h"
+#include "platform/qtcore/SystemBus.h"
 
-#include "platform/linux/BusProbe.h"
+#include "platform/qtcore/BusProbe.h"
 
 #include <cstdlib>
 #include <utility>

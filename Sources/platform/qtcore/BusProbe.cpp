@@ -1,4 +1,4 @@
-#include "platform/linux/BusProbe.h"
+#include "platform/qtcore/BusProbe.h"
 
 #include "support/Pipe.h"
 

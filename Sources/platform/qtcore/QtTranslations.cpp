@@ -1,4 +1,4 @@
-#include "platform/qt/QtTranslations.h"
+#include "platform/qtcore/QtTranslations.h"
 
 #include <QCoreApplication>
 #include <QDir>

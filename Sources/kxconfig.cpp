@@ -16,9 +16,9 @@
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHelpServices.h"
-#include "platform/qt/QtLocalizedText.h"
-#include "platform/qt/QtRunLoop.h"
-#include "platform/qt/QtTranslations.h"
+#include "platform/qtcore/QtLocalizedText.h"
+#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qtcore/QtTranslations.h"
 
 #include <QApplication>
 #include <csignal>

@@ -1,4 +1,4 @@
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 #include "support/Require.h"
 

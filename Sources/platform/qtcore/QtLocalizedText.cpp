@@ -1,6 +1,6 @@
-#include "platform/qt/QtLocalizedText.h"
+#include "platform/qtcore/QtLocalizedText.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QCoreApplication>
 
