@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Floods the real program from its start on, as fast as the system sends; Tests/tour/Siege.h tells
+# Floods the real program from its start on, as fast as the system sends; Tests/visits/tests/Siege.h tells
 # what a person does meanwhile. WAIT is how many milliseconds a person may wait, and COMPUTING how
 # many of them the program may compute: the rest is the fault of a machine that does other things.
 #

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Keeps the real program among units whose replies get lost, late, doubled, overtaken, cut short,
-# invented and unasked, for so many seconds; Tests/tour/Soak.h tells what happens there and what must
+# invented and unasked, for so many seconds; Tests/visits/tests/Soak.h tells what happens there and what must
 # hold at the end. The seed is printed: the same one gives the same steps and the same faults.
 #
 # usage: Tests/lab/units_that_cannot_be_relied_on.sh KXCONFIG SECONDS [SEED]

@@ -1,4 +1,4 @@
-#include "ResponsivenessProbe.h"
+#include "tests/ResponsivenessProbe.h"
 
 #include <pthread.h>
 #include <qpa/qwindowsysteminterface.h>

@@ -9,9 +9,9 @@
 
 #pragma once
 
-#include "ResourceUse.h"
-#include "UnitStates.h"
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
+#include "tests/ResourceUse.h"
+#include "tests/UnitStates.h"
 
 #include <chrono>
 #include <random>

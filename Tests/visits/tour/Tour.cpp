@@ -1,4 +1,4 @@
-#include "Tour.h"
+#include "tour/Tour.h"
 
 #include <QApplication>
 #include <QMenuBar>

@@ -1,4 +1,4 @@
-#include "Steps.h"
+#include "tests/Steps.h"
 
 #include <QApplication>
 #include <QFile>

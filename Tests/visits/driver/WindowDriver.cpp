@@ -1,4 +1,4 @@
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -7,7 +7,7 @@
 
 #pragma once
 
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
 
 #include <QObject>
 #include <functional>

@@ -1,6 +1,6 @@
-#include "UnitStates.h"
+#include "tests/UnitStates.h"
 
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
 
 #include <QFile>
 #include <QStringDecoder>

@@ -1,4 +1,4 @@
-#include "Visit.h"
+#include "driver/Visit.h"
 
 #include <QCoreApplication>
 #include <QTimer>

@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
 
 #include <QStringList>
 

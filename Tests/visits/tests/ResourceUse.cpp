@@ -1,4 +1,4 @@
-#include "ResourceUse.h"
+#include "tests/ResourceUse.h"
 
 #include <malloc.h>
 

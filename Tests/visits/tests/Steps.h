@@ -44,8 +44,8 @@
 
 #pragma once
 
-#include "ResponsivenessProbe.h"
-#include "WindowDriver.h"
+#include "driver/WindowDriver.h"
+#include "tests/ResponsivenessProbe.h"
 
 #include <sys/resource.h>
 

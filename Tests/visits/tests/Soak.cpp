@@ -1,4 +1,4 @@
-#include "Soak.h"
+#include "tests/Soak.h"
 
 #include <QLineEdit>
 #include <algorithm>

@@ -1,6 +1,6 @@
-#include "Siege.h"
+#include "tests/Siege.h"
 
-#include "ResponsivenessProbe.h"
+#include "tests/ResponsivenessProbe.h"
 
 #include <QDeadlineTimer>
 

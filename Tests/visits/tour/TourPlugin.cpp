@@ -1,7 +1,7 @@
-#include "TourPlugin.h"
+#include "tour/TourPlugin.h"
 
-#include "Tour.h"
-#include "Visit.h"
+#include "driver/Visit.h"
+#include "tour/Tour.h"
 
 namespace kx {
 

@@ -1,9 +1,9 @@
-#include "VisitsPlugin.h"
+#include "tests/VisitsPlugin.h"
 
-#include "Siege.h"
-#include "Soak.h"
-#include "Steps.h"
-#include "Visit.h"
+#include "driver/Visit.h"
+#include "tests/Siege.h"
+#include "tests/Soak.h"
+#include "tests/Steps.h"
 
 namespace kx {
 
