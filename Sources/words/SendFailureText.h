@@ -18,7 +18,7 @@ std::string reasonOfSendFailure(const SendFailure& failure);
 // "Not sent: " and the reason, with one full stop at the end.
 std::string noteOfSendFailure(const SendFailure& failure);
 
-// "Not sent: No unit is selected."
+// For example "Not sent: No unit is selected."
 std::string noteOfRefusal(CommandRefusal refusal);
 
 } // namespace kx

@@ -1,8 +1,7 @@
-// Whether a bus is there, asked before a connection to it is made.
+// Asks whether a bus is there, before a connection to it is made.
 //
-// The system call that connects waits without an end where a bus has stopped and so many programs
-// wait for it that no place is left in its queue. The bus library makes that call itself and cannot
-// be told not to wait.
+// The system call that connects waits without an end when a bus has stopped and its queue is full
+// of waiting programs. The bus library makes that call itself and has no option to limit the wait.
 
 #pragma once
 
@@ -11,9 +10,10 @@
 
 namespace kx {
 
-// Whether the bus at this D-Bus address answers in time. It is asked which kinds of greeting it
-// takes, on a connection of its own. True for an address of another form than one socket in the
-// file system with nothing escaped in its path ("unix:path=..."), which is not asked. Any thread.
+// Whether the bus at this D-Bus address answers within `patience`. The probe opens a connection of
+// its own and asks which kinds of authentication the bus takes. It asks only at an address of the
+// form "unix:path=...", with one socket in the file system and nothing escaped in its path. For
+// every other address the result is true. Any thread.
 bool busAnswers(std::string_view address, std::chrono::milliseconds patience);
 
 } // namespace kx

@@ -4,8 +4,8 @@
 // from that thread's event loop, nested loops (menus, dialogues) included; an action that shows a
 // dialogue holds them back. At rest nothing wakes up: a watch is a socket notifier, and one
 // single-shot timer waits for the first of the delayed calls. While a descriptor stays readable,
-// one turn of Qt's loop may hold several turns of this one, 32 at most, since Qt's own turn costs
-// more than most of what is read.
+// one turn of Qt's loop may hold several turns of this one, 32 at most, because a turn of Qt's loop
+// costs more than most reads.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// Text on its way between the core (UTF-8) and Qt (UTF-16), and the texts of the window in the
-// language of the person at it.
+// Conversion of text between the core (UTF-8) and Qt (UTF-16), and the texts of the window in the
+// user's language.
 
 #pragma once
 
@@ -19,8 +19,8 @@ inline std::string utf8Text(const QString& text) {
     return text.toStdString();
 }
 
-// The text for an English key, for whatever Qt shows. Has the form in which the interface
-// description calls it; the note to translators goes to nobody at run time.
+// The localized text for an English key, as a text of Qt's. It has the signature with which the
+// interface description calls it. The note to translators is not used at run time.
 inline QString localizedQtText(const char* key, const char* /*note*/ = nullptr) {
     return qtText(localizedText(key));
 }

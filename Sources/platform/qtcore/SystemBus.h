@@ -1,13 +1,13 @@
-// A connection of this object's own to the host's system bus, on which nothing waits for the bus's
-// greeting, nor for an answer unless the caller wants to wait for one.
+// A private connection to the host's system bus. Nothing waits for the bus's greeting, and a caller
+// waits for an answer only when it wants to.
 //
-// That is why it is not one of the toolkit's own bus connections, which wait for the greeting; a
-// bus that has stopped would hold the application up. For the same reason the bus has to show first
-// that it answers (BusProbe.h): one that has stopped is as good as none. Nobody answers calls to
-// this end.
+// The toolkit's own bus connections are not used, because they wait for the greeting; a bus that
+// has stopped would hold the application up. For the same reason the bus has to show first that it
+// answers (BusProbe.h): a bus that has stopped counts as no bus. This end of the connection answers
+// no calls.
 //
-// Threading: the main thread only, which needs a QCoreApplication; what is heard comes from its
-// event loop. A connection that has ended does not come back: make another one.
+// Threading: the main thread only, which needs a QCoreApplication; signals come from its event
+// loop. A connection that has ended does not come back: make another one.
 
 #pragma once
 
@@ -34,7 +34,8 @@ public:
     SystemBus(const SystemBus&) = delete;
     SystemBus& operator=(const SystemBus&) = delete;
 
-    // Whether there is a connection. Its end is heard as the signal that endsConnection() knows.
+    // Whether there is a connection. When the connection ends, a signal arrives for which
+    // endsConnection() is true.
     bool isOpen() const { return _connection.isConnected(); }
     static bool endsConnection(const QDBusMessage& signal);
 
@@ -44,15 +45,16 @@ public:
                      const QString& firstArgument = {});
 
     // Asks the bus which connection has a service's name. The answer is that connection's own name,
-    // or an error when nobody has it. It comes before any signal of a later change of the owner,
-    // and before the answer to a call that is made later.
+    // or an error when no connection has it. It comes before any signal of a later change of the
+    // owner, and before the answer to a call that is made later.
     QDBusPendingCall owner(const QString& service);
 
-    // Calls a method. An error is the answer when none has come in time, and at once without a
-    // connection. No service is started for it.
+    // Calls a method. The answer is an error when none has come in time, and at once when there is
+    // no connection. The call starts no service.
     QDBusPendingCall call(QDBusMessage message, std::chrono::milliseconds patience);
 
-    // For an answer that may take for ever. The bus says when the one who was called is gone.
+    // The patience for an answer that may take for ever. The bus tells when the called connection
+    // is gone.
     static constexpr std::chrono::milliseconds endlessPatience{0x7FFFFFFF};
 
 private Q_SLOTS:
