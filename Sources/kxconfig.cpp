@@ -24,14 +24,14 @@
 #include <csignal>
 
 int main(int argc, char* argv[]) {
-    // Whoever reads standard error may go before the window does.
+    // The reader of standard error may end before the window does.
     std::signal(SIGPIPE, SIG_IGN);
 
     QApplication qtApplication(argc, argv);
     QApplication::setApplicationName("KXConfig");
     QApplication::setApplicationVersion(KX_VERSION);
-    // The name of the desktop entry: by it a desktop gives the window its icon, if it does so at
-    // all.
+    // The name of the desktop entry. A desktop finds the icon of the window by this name, if it
+    // looks for one.
     QApplication::setDesktopFileName("org.kxconfig.KXConfig");
     QApplication::setWindowIcon(kx::applicationIcon());
 

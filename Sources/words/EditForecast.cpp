@@ -22,7 +22,7 @@ long long digitsOf(const ParameterEdit& edit) {
     return static_cast<long long>(edit.value.size());
 }
 
-// "Apply sends ^^IdT0DC1: destination port 3521."
+// For example "Apply sends ^^IdT0DC1: destination port 3521."
 std::string forecastOfValue(const ParameterEdit& edit, std::string_view value) {
     return localizedText("Apply sends %@: %@ %@.", {commandOf(edit), nounOf(edit), value});
 }
@@ -102,7 +102,7 @@ std::string forecastOfPort(const ParameterEdit& edit) {
                                {commandOf(edit), number});
 }
 
-// A number above 255 may, besides, have been read out of a longer text.
+// A number above 255 may also have been read out of a longer text.
 std::string forecastOfLargeUnitNumber(const ParameterEdit& edit) {
     return edit.typed == edit.value
                ? localizedText(
@@ -134,7 +134,7 @@ std::string forecastOfUnitID(const ParameterEdit& edit) {
                                {commandOf(edit), nounOf(edit), shownInSentence(edit.value)});
 }
 
-// The ARP tool gets the address as it was typed, whatever the command makes of it.
+// The ARP tool gets the address as it was typed, even when the command carries another one.
 std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& target) {
     if (!target.hardwareAddress.has_value()) {
         return localizedText(

@@ -61,7 +61,7 @@ std::string textOfState(const EditOutcome& outcome) {
     return textOfShownValue(outcome);
 }
 
-// Why there is no entry for the new address; empty when there is one, or none is wanted.
+// The reason why there is no entry for the new address; empty when there is one, or none is wanted.
 std::string textOfARPEntry(const EditOutcome& outcome) {
     const std::string address = shownInSentence(outcome.edit().typed);
     const ARPEntry& entry = outcome.arpEntry();

@@ -15,7 +15,7 @@ void QuietLine::showForecast(std::string text) {
 }
 
 void QuietLine::showMessage(std::string text) {
-    showForecast({}); // the same message again is a new one
+    showForecast({}); // the line is cleared first, so the same message counts as new
     if (!text.empty()) {
         _show(text);
         _state = Message{std::move(text)};

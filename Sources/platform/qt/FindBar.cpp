@@ -14,7 +14,8 @@ namespace kx {
 
 namespace {
 
-// A cross in the colour of texts on buttons. The style's own sign is hard to see in a dark window.
+// A cross in the colour of texts on buttons, because the style's own sign is hard to see in a dark
+// window.
 class CrossButton final : public QToolButton {
 public:
     using QToolButton::QToolButton;

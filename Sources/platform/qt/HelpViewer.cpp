@@ -37,7 +37,7 @@ void HelpPageView::doSetSource(const QUrl& name, QTextDocument::ResourceType typ
 void HelpPageView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
-        reload(); // the colours of links are set while a page is read
+        reload(); // link colours are set while a page is read
     }
 }
 

@@ -21,7 +21,7 @@ using namespace std::string_view_literals;
 
 constexpr auto pathPrefix = "unix:path="sv;
 
-// The path of the one socket that the address names; further settings of it follow a comma.
+// The path of the one socket that the address names. A comma ends it; further settings follow.
 std::optional<std::string_view> pathOfAddress(std::string_view address) {
     const bool isOnePath =
         address.starts_with(pathPrefix) && address.find_first_of(";%") == std::string_view::npos;
@@ -30,7 +30,7 @@ std::optional<std::string_view> pathOfAddress(std::string_view address) {
                      : std::nullopt;
 }
 
-// Without waiting: a queue that is full refuses.
+// Does not wait: a full queue refuses the connection.
 bool connectTo(int socket, std::string_view path) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
@@ -59,7 +59,7 @@ bool busAnswers(std::string_view address, milliseconds patience) {
     if (!path.has_value()) {
         return true;
     }
-    // Every conversation begins with a zero byte.
+    // Every conversation with a bus begins with a zero byte.
     constexpr auto question = "\0AUTH\r\n"sv;
     const FileDescriptor probe(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     return connectTo(probe.number(), *path) &&

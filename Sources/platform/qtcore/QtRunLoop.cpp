@@ -22,12 +22,12 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
-// Qt's timers count milliseconds in an int; longer delays are waited for in several rounds.
+// Qt's timers count milliseconds in an int, so a longer delay is waited for in several rounds.
 constexpr milliseconds longestRound{std::numeric_limits<int>::max()};
 
-// How many turns of ours one turn of Qt's loop may hold for one watch. Qt spends several times as
-// long on an event as the system on a datagram, so a burst is taken in small batches; a batch is
-// over long before a person notices it.
+// The number of our turns that one turn of Qt's loop may hold for one watch. Qt spends several
+// times as long on an event as the system on a datagram, so a burst is read in small batches. A
+// batch ends long before a person notices it.
 constexpr int mostTurnsInOne = 32;
 
 bool canBeRead(int descriptor) {
@@ -47,8 +47,8 @@ private:
 
 } // namespace
 
-// The timer runs for the first of the calls; while the loop is held, it does not, and no notifier
-// is enabled: either would keep Qt's loop awake.
+// The timer runs for the first of the calls. While the loop is held, the timer does not run and no
+// notifier is enabled, because either would keep Qt's loop awake.
 struct QtRunLoop::State {
     using CallKey = std::pair<Clock::time_point, std::uint64_t>; // due time, order of request
 
@@ -96,7 +96,8 @@ struct QtRunLoop::State {
         return key;
     }
 
-    // Taken out before it is destroyed: what it holds may end further calls.
+    // The call is taken out before it is destroyed, because the objects in it may end further
+    // calls.
     void cancelCall(const CallKey& key) {
         const bool wasFirst = !calls.empty() && calls.begin()->first == key;
         const auto cancelled = calls.extract(key);
@@ -105,8 +106,8 @@ struct QtRunLoop::State {
         }
     }
 
-    // What the calls themselves ask for has to wait for the next turn. The timer is started before
-    // each call, which may run the loop in turn.
+    // A call that is requested by these calls has to wait for the next turn. The timer is started
+    // before each call, because the call may run the loop in turn.
     void callDue() {
         const CallKey latest{Clock::now(), nextOrder - 1};
         while (!isHeld() && !calls.empty() && calls.begin()->first <= latest) {
@@ -147,7 +148,7 @@ private:
         bool hasEnded = false;
     };
 
-    // By value: a call may end the watch, and with it every other share.
+    // By value: a call may end the watch, and then this is the last share.
     static void takeTurns(std::shared_ptr<Watched> watched) { // NOLINT(*-unnecessary-value-param)
         int turns = 0;
         do {
@@ -187,8 +188,8 @@ void QtRunLoop::runUntil(const std::function<bool()>& isDone) {
         require(!_state->isHeld(), "the loop is not held", "Sources/support/RunLoop");
         loop.processEvents(QEventLoop::WaitForMoreEvents | QEventLoop::ExcludeUserInputEvents);
     }
-    // Input that came meanwhile waits in a queue. A dispatcher that has passed over it once does
-    // not look at it again before something wakes it.
+    // Input that came meanwhile waits in a queue. A dispatcher that has passed over the queue once
+    // does not look at it again until something wakes it.
     loop.wakeUp();
 }
 

@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-const QString folder = QStringLiteral(":/translations"); // in the program itself
+const QString folder = QStringLiteral(":/translations"); // inside the program
 const QString english = QStringLiteral("en");
 
 // "de" of "de-AT" and of "de_AT".
@@ -34,7 +34,7 @@ QtTranslations::QtTranslations(const QStringList& languages)
     if (_language == english) {
         return;
     }
-    // The last one that is installed is asked first.
+    // The translator that was installed last is asked first.
     if (_textsOfQt.load("qtbase_" + _language,
                         QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&_textsOfQt);

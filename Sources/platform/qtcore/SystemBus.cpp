@@ -14,7 +14,7 @@ constexpr auto localInterface = "org.freedesktop.DBus.Local";
 constexpr auto localPath = "/org/freedesktop/DBus/Local";
 constexpr auto disconnectedSignal = "Disconnected";
 
-// As every program on a bus finds it.
+// Every program finds the bus in this way.
 constexpr auto addressVariable = "DBUS_SYSTEM_BUS_ADDRESS";
 constexpr auto wellKnownAddress = "unix:path=/var/run/dbus/system_bus_socket";
 
@@ -23,13 +23,13 @@ QString busAddress() {
     return QString::fromLocal8Bit(address != nullptr ? address : wellKnownAddress);
 }
 
-// The toolkit keeps connections by name.
+// The toolkit keeps its connections by name, so each needs a new one.
 QString newConnectionName() {
     static int count = 0;
     return QString("kx-system-bus-%1").arg(++count);
 }
 
-// One that is not open when the bus does not answer.
+// The connection; it is not open when the bus does not answer.
 QDBusConnection connectionToBus(std::chrono::milliseconds patience) {
     const QString address = busAddress();
     const QString name = newConnectionName();
@@ -70,7 +70,8 @@ void SystemBus::hearSignals(const QString& sender, const QString& interface, con
     QDBusMessage request = busCall("AddMatch");
     request << rule;
     _connection.send(request);
-    // A second time, for another first argument, this is refused and needless.
+    // The second call for an interface and a name, with another first argument, is refused and is
+    // not needed.
     _connection.connect(QString(), QString(), interface, name, this, SLOT(receive(QDBusMessage)));
 }
 
@@ -86,7 +87,7 @@ QDBusPendingCall SystemBus::call(QDBusMessage message, std::chrono::milliseconds
 }
 
 void SystemBus::receive(const QDBusMessage& signal) {
-    const auto heard = _heard; // outlives this object, if need be
+    const auto heard = _heard; // lives on when the call destroys this object
     heard(signal);
 }
 
