@@ -1,4 +1,4 @@
-// The choice of a network interface, which says where broadcasts go.
+// The choice of a network interface, which decides where broadcasts go.
 
 #include "ControllerFixture.h"
 
@@ -12,7 +12,7 @@ protected:
         interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
     }
 
-    // Chooses the interface of this title and gives back where a discovery then goes.
+    // Chooses the interface with this title and returns the target of the next discovery.
     std::string broadcastThrough(const std::string& title) {
         window.interfacePopUp.selectItemWithTitle(title);
         controller.interfaceSelect();
@@ -20,8 +20,8 @@ protected:
         return lastSent();
     }
 
-    // The same for a further interface at this address. One whose broadcasts go elsewhere is chosen
-    // before it, so that no address or mask passes for new because it was there already.
+    // The same for a further interface at this address. An interface with another broadcast address
+    // is chosen before it, so that an old address or mask cannot be taken for the new one.
     std::string broadcastAfterChoosing(const std::string& address, const std::string& mask) {
         interfaces.addService("Wi-Fi", "wlan0", address, mask);
         launch();
@@ -29,7 +29,7 @@ protected:
         return broadcastThrough("Wi-Fi (wlan0)");
     }
 
-    // The same for an interface whose configuration holds `value` in place of a list of addresses.
+    // The same for an interface whose configuration holds `value` instead of a list of addresses.
     std::string broadcastAfterSetting(const std::string& key, const PropertyListValue& value) {
         interfaces.setData("service-eth0", "IPv4", "Addresses", PropertyList{"192.168.1.20"});
         interfaces.setData("service-eth0", "IPv4", "SubnetMasks", PropertyList{"255.255.255.0"});

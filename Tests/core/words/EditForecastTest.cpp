@@ -1,4 +1,4 @@
-// What Apply will send, in words.
+// Forecasts of Apply, in words.
 
 #include "words/EditForecast.h"
 
