@@ -7,7 +7,7 @@
 // with a trait that is made anew for each test and has
 //
 //     SystemLog& log();
-//     // Everything written, line by line, without the head that the log puts before a line. Once.
+//     // Everything written, line by line, without the head that the log puts before a line.
 //     std::vector<std::string> lines();
 
 #pragma once

@@ -1,4 +1,4 @@
-// The process's texts in one language, from construction to destruction.
+// Sets the language of the process's texts from its construction to its destruction.
 
 #pragma once
 

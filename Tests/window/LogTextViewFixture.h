@@ -1,4 +1,4 @@
-// A log view on the screen with the keyboard in it, and what a person does with it.
+// A log view on the screen with the keyboard focus, and a person's actions on it.
 
 #pragma once
 

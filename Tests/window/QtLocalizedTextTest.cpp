@@ -14,7 +14,7 @@ namespace kx {
 
 namespace {
 
-// An installed translator that knows texts of the context "KXConfig".
+// An installed translator that has texts of the context "KXConfig".
 class ScriptedTranslator final : public QTranslator {
 public:
     ScriptedTranslator() { QCoreApplication::installTranslator(this); }

@@ -12,7 +12,8 @@ namespace {
 
 QtMessageHandler handlerBefore = nullptr;
 
-// The offscreen platform says at each picture what it cannot do; that is no news of a visit.
+// At each picture the offscreen platform reports a function that it lacks. A visit does not show
+// this.
 void dropWordsOfThePlatform(QtMsgType type, const QMessageLogContext& context,
                             const QString& text) {
     if (!text.startsWith("This plugin does not support")) {

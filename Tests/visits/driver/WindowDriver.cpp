@@ -124,8 +124,8 @@ void WindowDriver::pickUnit(int row) const {
             [&] { return units.currentIndex() == row && parameters.model()->rowCount() > 0; });
 }
 
-// The list's search starts anew with the first key. The program runs between keys, which may take
-// so long that the list would take the next one for the beginning of another title.
+// The list's search starts anew with the first key. The program runs between keys. This may take so
+// long that the list would take the next key for the beginning of another title.
 void WindowDriver::pickUnit(const QString& serial) const {
     auto& units = control<QComboBox>("unitSelectPopUp");
     click(units);
@@ -168,7 +168,7 @@ void WindowDriver::typeValue(const QString& text) const {
     auto& editRow = control<QTableView>("editParameterTableView");
     const QRect cell = editRow.visualRect(editRow.model()->index(0, 1));
     const QPoint center = editRow.viewport()->mapTo(_window, cell.center());
-    _window->activateWindow(); // after an alert, nobody else does so off screen
+    _window->activateWindow(); // off screen nobody else does this after an alert
     QTest::mouseDClick(_window->windowHandle(), Qt::LeftButton, Qt::NoModifier, center);
     QLineEdit* editor = nullptr;
     waitFor("an open editor", [&] {
@@ -265,7 +265,7 @@ void WindowDriver::takePicture(const QString& name, QMenu* menu) const {
         return;
     }
     if (menu == nullptr) {
-        // The pointer away from the buttons, which light up below it.
+        // Moves the pointer away from the buttons, because a button lights up under it.
         QTest::mouseMove(_window->windowHandle(), QPoint(1, _window->height() - 2));
     }
     letRun(pictureSettles);

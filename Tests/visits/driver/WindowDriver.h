@@ -1,9 +1,9 @@
-// The running program's window, driven from outside: what a person would do with the mouse and the
-// keyboard, and what they would read.
+// Drives the running program's window from outside: it acts as a person with the mouse and the
+// keyboard, and reads the texts that a person would read.
 //
 // It knows the program as controls with object names, and reaches it through the window system's
-// own events. Main thread only; whatever waits does so in a nested event loop, for twenty seconds
-// at most, and throws a Disappointment when that was in vain.
+// own events. Main thread only. Operations that wait do so in a nested event loop, for twenty
+// seconds at most, and throw a Disappointment when the wait was in vain.
 
 #pragma once
 
@@ -17,7 +17,7 @@
 
 namespace kx {
 
-// What ends a visit early; the text says what was expected.
+// Ends a visit early. The text says what was expected.
 struct Disappointment {
     QString text;
 };
@@ -31,7 +31,7 @@ public:
     void findWindow();
     QMainWindow& window() const { return *_window; }
 
-    // The window is not to be closed at the end of the visit, and the program runs on.
+    // Keeps the window open at the end of the visit, so that the program runs on.
     void leaveOpen() { _isLeftOpen = true; }
     bool isLeftOpen() const { return _isLeftOpen; }
 
@@ -44,12 +44,12 @@ public:
         return *found;
     }
 
-    // Clicks through the window system's events, so that what lies on top gets the click.
+    // Clicks through the window system's events, so that a widget on top gets the click.
     void click(QWidget& widget, QPoint position) const;
     void click(QWidget& widget) const;
     void press(const char* buttonName) const;
 
-    // Chooses a row of a list that is open, or is about to be.
+    // Chooses a row of a list that is open, or is about to open.
     void pickFromList(QComboBox& popUp, int row) const;
 
     // Opens the list until it offers the interface of this name in the system.
@@ -58,17 +58,17 @@ public:
     // Opens the list of interfaces, prints its titles in one line, and closes it.
     void printInterfaces() const;
 
-    // Presses Discover, and waits until at least so many units are listed.
+    // Presses Discover, and waits until at least this many units are listed.
     void discover(int units) const;
 
     // Chooses a unit of the list, and waits for its parameters.
     void pickUnit(int row) const;
 
-    // Chooses a unit of the list by its title, as a person does who types the beginning of a long
-    // list's title.
+    // Chooses a unit of the list by its title, as a person who types the beginning of a title in a
+    // long list.
     void pickUnit(const QString& serial) const;
 
-    // Clicks a row of the parameter table, whose texts the edit row then has.
+    // Clicks a row of the parameter table, so that the edit row gets its texts.
     void clickParameter(int row) const;
 
     // Clicks a row of the parameter table, and waits until the edit row has its texts.
@@ -83,7 +83,7 @@ public:
     // The text that a table shows.
     static QString cellText(const QTableView& table, int row, int column);
 
-    // Opens the event log, and waits until it stands still.
+    // Opens the event log, and waits until the drawer stands still.
     void openLog() const;
 
     // The whole text of the event log.
@@ -95,14 +95,14 @@ public:
 
     static void waitFor(const QString& what, const std::function<bool()>& condition);
 
-    // Lets the program run, whose loop turns as it does without a driver. The first one ends early,
-    // and gives true, when the condition has come true; it is asked every few milliseconds.
+    // Lets the program run as it runs without a driver. The first function ends early, and returns
+    // true, when the condition has become true; it checks the condition every few milliseconds.
     static bool letRunUntil(const std::function<bool()>& condition,
                             std::chrono::milliseconds patience);
     static void letRun(std::chrono::milliseconds time);
 
-    // Leaves a picture of the window, with an open menu where one is given, in the folder that
-    // KX_TOUR_PICTURES names; none when it is absent.
+    // Saves a picture of the window, with an open menu where one is given, in the folder that
+    // KX_TOUR_PICTURES names. Saves none when the variable is absent.
     void takePicture(const QString& name, QMenu* menu = nullptr) const;
 
 private:

@@ -5,7 +5,7 @@
 #include <QDir>
 #include <QFile>
 
-// Only a program that the address sanitizer was built into has it.
+// Only a program with the address sanitizer has this function.
 extern "C" __attribute__((weak)) std::size_t
 __sanitizer_get_current_allocated_bytes(); // NOLINT(bugprone-reserved-identifier)
 

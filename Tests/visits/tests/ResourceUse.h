@@ -1,4 +1,4 @@
-// What this process holds of the host. Any thread.
+// The resources of the host that this process holds. Any thread.
 
 #pragma once
 
@@ -8,10 +8,10 @@
 namespace kx {
 
 struct ResourceUse {
-    std::size_t heapBytes = 0; // handed out by the allocator, the sanitizer's where there is one
+    std::size_t heapBytes = 0; // given out by the allocator, or by the sanitizer's
     std::size_t descriptors = 0;
     std::size_t threads = 0;
-    std::size_t children = 0; // processes, those included that nobody has waited for yet
+    std::size_t children = 0; // processes, including ended ones that nobody has reaped
 
     static ResourceUse now();
 

@@ -34,7 +34,7 @@ ResponsivenessProbe::ResponsivenessProbe(QWindow& window)
     , _mainThreadClock(clockOfThisThread()) {}
 
 void ResponsivenessProbe::start() {
-    QInputDevice::primaryKeyboard(); // made at its first use, which must not be the other thread's
+    QInputDevice::primaryKeyboard(); // made here first, because the other thread must not make it
     QCoreApplication::instance()->installEventFilter(this);
     _person = std::jthread([this](const std::stop_token& stop) {
         while (!stop.stop_requested()) {

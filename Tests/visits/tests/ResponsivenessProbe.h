@@ -1,10 +1,10 @@
-// How long a person waits for the running program to take what they do.
+// Measures how long a person waits for the running program to take their input.
 //
-// A thread of the probe's own presses a key that means nothing, through the window system, each
-// time a few milliseconds after the last one was taken. It is swallowed when the program's event
-// loop comes to it, so that no widget ever sees it. The processor's time that the main thread took
-// meanwhile is measured, too: on a machine that does other things it is what the program itself is
-// to blame for.
+// A thread of the probe presses a key without a meaning, through the window system, each time a few
+// milliseconds after the last key was taken. The probe swallows the key when the program's event
+// loop comes to it, so no widget ever sees it. The probe also measures the processor time that the
+// main thread used meanwhile. On a machine that does other things, the program itself is to blame
+// only for this time.
 //
 // Belongs to the main thread.
 
@@ -23,16 +23,16 @@ class ResponsivenessProbe final : public QObject {
     Q_OBJECT
 
 public:
-    // Keys go to `window`, which must outlive the probe and stay open.
+    // The probe sends keys to `window`, which must outlive the probe and stay open.
     explicit ResponsivenessProbe(QWindow& window);
 
-    // Begins to measure. Once.
+    // Begins to measure. Must be called only once.
     void start();
 
-    // The longest that a key has waited, one that waits still included.
+    // The longest wait of a key, including a key that still waits.
     std::chrono::milliseconds longestGap() const;
 
-    // The most that the main thread has computed while a key waited.
+    // The most processor time that the main thread used while a key waited.
     std::chrono::milliseconds longestComputing() const;
 
     bool eventFilter(QObject* receiver, QEvent* event) override;
@@ -40,7 +40,7 @@ public:
 private:
     struct Moment {
         std::chrono::nanoseconds time;
-        std::chrono::nanoseconds computed; // by the main thread, since it began
+        std::chrono::nanoseconds computed; // processor time of the main thread since its start
     };
 
     void pressWhenTaken();
@@ -50,7 +50,7 @@ private:
     QWindow& _window;
     const clockid_t _mainThreadClock;
     std::atomic<bool> _waits = false;
-    Moment _pressed{}; // belongs to the main thread while a key waits, else to the other one
+    Moment _pressed{}; // belongs to the main thread while a key waits, otherwise to _person
     Moment _longest{};
     std::jthread _person;
 };

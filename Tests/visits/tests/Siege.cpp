@@ -13,7 +13,7 @@ using std::chrono::seconds;
 
 constexpr milliseconds drawerMoves{500};
 
-// What a flood brings at least, and no real network.
+// A flood brings at least this many invented units; a real network brings fewer.
 constexpr int fewestInvented = 1000;
 
 void expectAtMost(milliseconds found, const char* limit, const QString& what) {
@@ -61,8 +61,8 @@ void Siege::run() {
     }
 }
 
-// The system drops what does not fit the listener's buffer, a real unit's reply like any other
-// datagram; a person then presses Discover again.
+// The system drops datagrams that do not fit into the listener's buffer, and may drop a real unit's
+// reply. A person then presses Discover again.
 void Siege::lookForUnits() {
     _missed.clear();
     for (const QString& serial : _serials) {

@@ -10,17 +10,17 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-// After this time, or a third of a shorter visit, everything has been used once.
+// After this time, or after a third of a shorter visit, every function has been used once.
 constexpr seconds longestFirstPart{60};
 
-// What the end of the visit takes.
+// The time that the end of the visit takes.
 constexpr seconds end{16};
 
-// Longer than a discovery, and than a reply can be late.
+// Longer than a discovery, and longer than the delay of a late reply.
 constexpr milliseconds discoveryTakes{2500};
 
-// A unit that was invented stays listed, and takes some hundred bytes; Qt remembers what it has
-// drawn. Up to 360 KiB of both were seen.
+// An invented unit stays listed and takes some hundred bytes. Qt remembers what it has drawn. Both
+// together took up to 360 KiB.
 constexpr std::size_t heapMayGrow = std::size_t{1024} * 1024;
 
 constexpr int longestPauseInMilliseconds = 400;
@@ -52,7 +52,7 @@ void Soak::run() {
     print(QString("After %1 steps: %2").arg(_steps).arg(after.text()));
 
     makeUnitsHonest();
-    WindowDriver::letRun(discoveryTakes); // what was on its way arrives
+    WindowDriver::letRun(discoveryTakes); // lets datagrams on their way arrive
     discoverAtRest();
     expectShown(askUnitsForStates(qEnvironmentVariableIntValue("KX_SOAK_UNITS")));
 
@@ -64,7 +64,7 @@ void Soak::run() {
     }
 }
 
-// Each kind once at first, so that what a kind needs is there before it is measured.
+// Takes a step of each kind once at first, so that its resources exist before they are measured.
 void Soak::takeStepsUntil(Clock::time_point until) {
     while (Clock::now() < until) {
         takeStep(_steps < 20 ? _steps : below(20));
@@ -109,7 +109,7 @@ void Soak::letDiscoveryEnd() {
     WindowDriver::letRun(std::max(left, milliseconds::zero()));
 }
 
-// Not while a discovery may fill the list anew.
+// Waits first, because a discovery may fill the list anew.
 void Soak::pickUnit() {
     letDiscoveryEnd();
     const auto& units = _driver.control<QComboBox>("unitSelectPopUp");
@@ -127,12 +127,12 @@ void Soak::edit() {
     const QString value = newValue(parameter);
     const int row = _driver.rowOfParameter(parameter);
     if (row < 0) {
-        return; // no unit is selected, or its reply lacked this one
+        return; // no unit is selected, or its reply lacked this parameter
     }
     _driver.clickParameter(row);
     const auto& editRow = _driver.control<QTableView>("editParameterTableView");
     if (WindowDriver::cellText(editRow, 0, 0) != parameter) {
-        return; // the row was selected before, when it was another parameter's
+        return; // this row was selected before, with another parameter
     }
     _driver.typeValue(value);
     _driver.press("applyButton");
@@ -158,8 +158,9 @@ void Soak::toggleLog() {
     _driver.press("logDrawerButton");
 }
 
-// One in eight is nothing that a unit would take. No unit gets an address at which it could no
-// longer be heard, the host's own or one for all, or a port at which nobody can reach it.
+// A new value; one in eight is no valid value for a unit. No unit gets an address at which it could
+// not be heard, such as the host's own or a broadcast address, or a port at which nobody can reach
+// it.
 QString Soak::newValue(const QString& parameter) {
     if (parameter == "device Port number") {
         return QString::number(1 + below(70'000));
@@ -202,7 +203,7 @@ QString Soak::hexadecimal(int bytes, QChar separator) {
     return pairs.join(separator);
 }
 
-// The same on every machine, unlike the standard distributions.
+// Gives the same on every machine; the standard distributions may not.
 int Soak::below(int bound) {
     return static_cast<int>(_random() % static_cast<unsigned>(bound));
 }
@@ -215,7 +216,7 @@ void Soak::discoverAtRest() {
     WindowDriver::letRun(discoveryTakes);
 }
 
-// With the drawer closed, and the log and the list of units just emptied.
+// The resources with the drawer closed and with the log and the list of units just emptied.
 ResourceUse Soak::useAtRest() {
     auto& drawer = _driver.control<QWidget>("eventLogDrawer");
     if (drawer.isVisible()) {
@@ -230,7 +231,7 @@ ResourceUse Soak::useAtRest() {
     return ResourceUse::now();
 }
 
-// Where several units have the same serial number, the registry holds one of them.
+// When several units have the same serial number, the registry holds one of them.
 void Soak::expectShown(const std::vector<ShownParameters>& units) {
     QMap<QString, std::vector<ShownParameters>> unitsOfSerial;
     for (const ShownParameters& unit : units) {

@@ -1,11 +1,12 @@
-// A long visit to the running program among units whose replies cannot be relied on: discoveries,
-// edits, moves of address, reloads, restores and options in a random order. At the end the units
-// become honest, and after one discovery more the window must show of each what it holds; memory,
-// descriptors and threads must be where they were after the first part, and no child is left.
+// A long visit to the running program among units with unreliable replies: discoveries, edits,
+// moves of address, reloads, restores and options in a random order. At the end the replies become
+// reliable. After one more discovery the window must show the settings of each unit. Memory,
+// descriptors and threads must be back at their numbers after the first part, and no child may be
+// left.
 //
-// Main thread only; run() waits in nested event loops. Environment: KX_SOAK_SECONDS, how long the
-// visit takes; KX_SOAK_SEED, from which all that is random follows; KX_SOAK_UNITS, how many
-// simulated units there are; and that of UnitStates.h.
+// Main thread only; run() waits in nested event loops. Environment: KX_SOAK_SECONDS, the length of
+// the visit; KX_SOAK_SEED, the seed of everything random; KX_SOAK_UNITS, the number of simulated
+// units; and the variables of UnitStates.h.
 
 #pragma once
 
@@ -23,7 +24,7 @@ class Soak final {
 public:
     explicit Soak(WindowDriver& driver);
 
-    // Throws a Disappointment that says what was not as it must be.
+    // Throws a Disappointment that says what was not as expected.
     void run();
 
 private:
@@ -53,7 +54,7 @@ private:
     WindowDriver& _driver;
     std::mt19937 _random;
     int _steps = 0;
-    Clock::time_point _discoveryEnds; // of the last one
+    Clock::time_point _discoveryEnds; // end of the latest discovery
 };
 
 } // namespace kx

@@ -153,7 +153,7 @@ void Steps::expectReplies(int units) {
         const QString log = _driver.logText();
         const int wanted = units - droppedDatagrams();
         if (log.count("serial:") < wanted) {
-            return false; // soon said
+            return false; // counted fast, without looking at each line
         }
         QSet<QString> serials;
         for (const auto& match : reply.globalMatch(log)) {
@@ -237,7 +237,7 @@ void Steps::printFile(const QString& path) {
     }
 }
 
-// Not by means of Qt, which needs descriptors of its own to run a program.
+// Does not use Qt, which needs descriptors of its own to run a program.
 void Steps::run(const QString& command) const {
     rlimit present{};
     ::getrlimit(RLIMIT_NOFILE, &present);
@@ -249,8 +249,8 @@ void Steps::run(const QString& command) const {
     }
 }
 
-// The program is told of its end before the visit is, which comes later. The window is hidden then,
-// so a button can only be clicked by itself.
+// The program is told of its end before the visit is, which takes this step later. The window is
+// hidden then, so the only way to click a button is through its own function.
 void Steps::takeAtLast(const QString& verb, const QString& argument) {
     if (verb != "click" && verb != "run") {
         throw Disappointment{"there is no last step " + verb};

@@ -1,41 +1,41 @@
-// A visit to the running program whose steps a test writes, one on a line, with blank lines between
-// them as it likes:
+// A visit to the running program in steps that a test writes, one on a line, with any number of
+// blank lines between them:
 //
 //   interface NAME           chooses the interface of this name in the system
-//   interfaces               opens the list of interfaces, prints what it offers, and closes it
-//   discover COUNT           presses Discover and waits for so many units
-//   crowd COUNT              waits for the discovery of the launch, then presses Discover until so
-//                            many units are listed, with time to rest between: what a slow machine
-//                            reads later than after two seconds is listed by the next one
+//   interfaces               opens the list of interfaces, prints its titles, and closes it
+//   discover COUNT           presses Discover and waits for this many units
+//   crowd COUNT              waits for the discovery of the launch, then presses Discover until
+//                            this many units are listed, with pauses: replies that a slow machine
+//                            reads later than after two seconds are listed by the next Discover
 //   unit SERIAL              chooses the unit with this serial number
 //   parameter NAME           clicks this row of the parameter table
 //   type TEXT                types over the value in the edit row, and leaves the editor open
 //   press BUTTON             clicks the button of this object name
-//   presses COUNT BUTTON     the same, so often
+//   presses COUNT BUTTON     clicks it this many times
 //   log                      opens the event log
 //   shows NAME: VALUE        waits until the parameter table has this row
 //   lacks NAME               waits until the parameter table has no row of this name
 //   logs TEXT                waits until the event log, whose drawer must be open, has the text
 //   replies COUNT            waits until the event log, whose drawer must be open, holds replies
-//                            of so many units, less those that the line below Discover counts
+//                            of this many units, less those that the line below Discover counts
 //   line TEXT                waits until the quiet line contains the text
 //   dropped TEXT             waits until the line below Discover contains the text
 //   dropped                  expects that there is no such line
 //   watch                    begins to watch how long a user's event has to wait
-//   waited MILLISECONDS      prints how long one had to at most, and expects no longer time
-//   worked MILLISECONDS      the same of the time that the program worked for it
-//   pause MILLISECONDS       keeps the program from handling anything for so long
-//   work MILLISECONDS        the same, by keeping it busy
+//   waited MILLISECONDS      prints the longest wait of an event, and expects no longer one
+//   worked MILLISECONDS      does the same for the time that the program worked for an event
+//   pause MILLISECONDS       keeps the program from handling anything for this long
+//   work MILLISECONDS        does the same by keeping the program busy
 //   print                    prints the shown parameters and the event log
 //   stay                     leaves the window open at the end; nothing watches it any more
 //   read VARIABLE            prints the lines of the file that this environment variable names
-//   run COMMAND              runs a command of the shell, which must succeed; the program stands
-//                            still meanwhile
+//   run COMMAND              runs a command of the shell, which must succeed; the program does
+//                            nothing meanwhile
 //   last run COMMAND         runs a command of the shell when the program has put away its work and
-//                            its window is still there; what it prints follows the record
-//   last click BUTTON        clicks the button of this object name then
-//   descriptors NUMBER       has the system open no descriptor from this number on, but for
-//                            commands; "descriptors all" gives back what it allowed before
+//                            its window still exists; the command's output follows the record
+//   last click BUTTON        clicks the button of this object name at that time
+//   descriptors NUMBER       makes the system open no descriptor from this number on, except for
+//                            commands; "descriptors all" restores the system's own limit
 //
 // A message box that comes up meanwhile is printed as "Alert: TITLE: TEXT" and closed by its
 // button.
@@ -58,7 +58,7 @@ class Steps final {
 public:
     explicit Steps(WindowDriver& driver);
 
-    // Takes every step. A step that is not one of the above throws a Disappointment.
+    // Takes every step. A step that is not in the list above throws a Disappointment.
     void run();
 
 private:
@@ -86,7 +86,7 @@ private:
     WindowDriver& _driver;
     QTimer _alertWatch;
     std::unique_ptr<ResponsivenessProbe> _probe;
-    rlimit _usualDescriptors{}; // as the system allows them
+    rlimit _usualDescriptors{}; // the system's own limit
 };
 
 } // namespace kx

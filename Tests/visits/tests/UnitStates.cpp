@@ -26,7 +26,8 @@ QString inPairs(const QString& digits, QChar separator) {
     return pairs.join(separator);
 }
 
-// A number when the first five bytes are zero, otherwise a text, and nothing when it is none.
+// Adds a number when the first five bytes are zero, otherwise a text. Adds nothing when the bytes
+// are no text.
 void addUnitID(ShownParameters& shown, const QString& digits) {
     const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
     if (bytes.startsWith(QByteArray(5, '\0'))) {
@@ -40,7 +41,7 @@ void addUnitID(ShownParameters& shown, const QString& digits) {
     }
 }
 
-// The line without the word "state".
+// Takes a line without the word "state".
 ShownParameters shownOfState(const QString& line) {
     ShownParameters shown;
     const QStringList fields = line.split(' ');

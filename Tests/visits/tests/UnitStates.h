@@ -1,5 +1,5 @@
-// The simulated units' own states, read from their record (Simulator/README.md), as what a window
-// has to show of them. Shares no code with the program under test. Main thread only.
+// The simulated units' own states, read from their record (Simulator/README.md), in the form that a
+// window has to show. Shares no code with the program under test. Main thread only.
 //
 // Environment: KX_UNITS_PIDS, the processes of the units; KX_UNITS_RECORD, their record.
 
@@ -14,11 +14,11 @@ namespace kx {
 // Parameter names and values.
 using ShownParameters = QMap<QString, QString>;
 
-// Ends everything that goes wrong with the units' replies.
+// Ends all faults of the units' replies.
 void makeUnitsHonest();
 
-// What a window has to show of each unit, in no particular order. Waits for the record in a nested
-// event loop, and throws a Disappointment when that was in vain.
+// The values that a window has to show for each unit, in no particular order. Waits for the record
+// in a nested event loop, and throws a Disappointment when the wait was in vain.
 std::vector<ShownParameters> askUnitsForStates(int units);
 
 } // namespace kx

@@ -1,5 +1,5 @@
-// How Qt finds the visits of the tests, as the generic plugins "kxsteps" (Steps.h), "kxsoak"
-// (Soak.h) and "kxsiege" (Siege.h).
+// Gives Qt the visits of the tests as the generic plugins "kxsteps" (Steps.h), "kxsoak" (Soak.h)
+// and "kxsiege" (Siege.h).
 
 #pragma once
 
@@ -12,7 +12,7 @@ class VisitsPlugin final : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "kxvisits.json")
 
 public:
-    // Null for a name that is none of these.
+    // Null for any other name.
     QObject* create(const QString& name, const QString& specification) override;
 };
 

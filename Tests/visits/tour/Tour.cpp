@@ -18,7 +18,7 @@ QPalette darkPalette() {
     return dark;
 }
 
-// As people with weak sight set it.
+// Colours of high contrast, as people with weak sight set them.
 QPalette contrastPalette() {
     QPalette contrast(Qt::black);
     for (const QPalette::ColorRole role :

@@ -1,4 +1,4 @@
-// How Qt finds the tour (Tour.h), as the generic plugin "kxtour".
+// Gives Qt the tour (Tour.h) as the generic plugin "kxtour".
 
 #pragma once
 
