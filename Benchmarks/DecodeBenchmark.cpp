@@ -1,5 +1,5 @@
-// Decoding the 81-byte reply's parameter list, beside the code that one would write first: a map
-// from name to text, and a stream for each text.
+// Decoding the 81-byte reply's parameter list, compared with a straightforward decoder: a map from
+// name to text, and a stream for each text.
 
 #include "Comparison.h"
 #include "UnitParameters.h"
@@ -83,7 +83,7 @@ void decodePlainly(benchmark::State& state) {
 }
 BENCHMARK(decodePlainly);
 
-// With names, as the application decodes for its log.
+// Decodes with names, as the application does for its log.
 void decode(benchmark::State& state) {
     ShownParameterNames names;
     for (const UnitParameter parameter : allUnitParameters) {

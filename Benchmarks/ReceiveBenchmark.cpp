@@ -1,5 +1,5 @@
-// Receiving datagrams over loopback through the endpoint, on both run loops, beside a bare loop of
-// epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
+// Receives datagrams over loopback through the endpoint, on both run loops, compared with a bare
+// loop of epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
 
 #include "Comparison.h"
 #include "LoopbackBatches.h"

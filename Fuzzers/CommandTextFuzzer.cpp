@@ -1,4 +1,4 @@
-// What a person can type into the edit row and the option command field.
+// Texts that a person can type into the edit row and the option command field.
 
 #include "CommandProtocol.h"
 #include "EditNotes.h"

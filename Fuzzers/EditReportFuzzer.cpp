@@ -1,5 +1,5 @@
-// What a unit answers to an edit, as the sentences about it: a byte for the parameter, a line of
-// typed text, and behind it the parameter list of the reply.
+// A unit's answer to an edit, and the sentences about it. The input is a byte for the parameter, a
+// line of typed text, and the parameter list of the reply.
 
 #include "EditReport.h"
 #include "FuzzInput.h"
