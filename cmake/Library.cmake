@@ -1,9 +1,9 @@
-# A library of Sources/: where a file lies decides which one it belongs to.
+# A library of Sources/. The folder of a file decides to which library the file belongs.
 #
 #   kx_library(NAME FILES GLOB... [EXCEPT FILE...] USES LIBRARY...)
 #
-# The globs and files are relative to Sources/. What a library uses, its users see as well: its headers
-# name it.
+# The globs and files are relative to Sources/. The users of a library also see the libraries that it
+# uses, because its headers name them.
 function(kx_library NAME)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "FILES;EXCEPT;USES")
     list(TRANSFORM ARG_FILES PREPEND "${CMAKE_CURRENT_SOURCE_DIR}/")
