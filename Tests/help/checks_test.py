@@ -1,4 +1,4 @@
-"""The checks of the help book find what they are there to find."""
+"""The checks of the help book find the faults that they are made for."""
 
 import pathlib
 import tempfile

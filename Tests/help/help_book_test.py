@@ -1,4 +1,4 @@
-"""The help book: whole in itself, and true to the program."""
+"""The help book is complete in itself, and agrees with the program."""
 
 import pathlib
 import re

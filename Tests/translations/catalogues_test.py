@@ -7,8 +7,8 @@ import checks
 
 LANGUAGES = ["de", "es", "fr", "ja"]
 
-# The calls that look up a key which stands as localizedKey() somewhere else, or which another of
-# the functions was given.
+# The calls that look up a key which another place marks with localizedKey(), or which another of the
+# functions has got.
 KNOWN_LOOKUPS = {
     "nameOfUnitParameter(", "namesOfKind(", "notAvailableText)", "label.key)",
     "key)", "key,", "text)",

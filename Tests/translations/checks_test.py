@@ -1,4 +1,4 @@
-"""The checks of the catalogues find what they are there to find."""
+"""The checks of the catalogues find the faults that they are made for."""
 
 import unittest
 
