@@ -79,7 +79,7 @@ public:
     virtual void echoDidStopWithError(UDPEcho& echo, const Error& error);
 };
 
-// The base of the objects that plain callbacks are given, so that each finds its own.
+// The base of the object that a plain callback is given as its context.
 class CallbackInfo {
 public:
     virtual ~CallbackInfo() = default;

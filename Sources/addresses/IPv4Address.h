@@ -21,8 +21,8 @@ namespace kx {
 // segment is ignored.
 //
 // A segment is up to 3 decimal digits, or "0x" (lower case) and up to 2 hexadecimal digits; a
-// segment without digits is 0. Segments are not range-checked: the excess of a value above 255 is
-// OR'ed into the segment before it, and the excess of the first segment is lost.
+// segment without digits is 0. Segments are not range-checked: the bits of a value above its low
+// 8 are OR'ed into the segment before it, and those of the first segment are lost.
 //
 // The result is also 0 for an empty text, for one of more than 254 characters, and for one of more
 // than 254 bytes in UTF-8.

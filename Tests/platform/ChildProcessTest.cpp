@@ -226,7 +226,7 @@ TEST_F(ChildProcessTest, AMovedChildBelongsToItsNewObject) {
     const pid_t identifier = first.processIdentifier();
     ChildProcess second(std::move(first));
     EXPECT_EQ(second.processIdentifier(), identifier);
-    // NOLINTBEGIN(bugprone-use-after-move): what is left is told
+    // NOLINTBEGIN(bugprone-use-after-move): tests the state after a move
     EXPECT_EQ(first.exitStatus(), -1);
     EXPECT_EQ(first.processIdentifier(), -1);
     first.terminate();

@@ -1,8 +1,8 @@
 // A label for sentences of changing length. It has room for two lines from the start, so that the
 // controls below it do not move when a text comes or goes. Longer texts make it grow.
 //
-// Its height follows from its width, but it does not tell layouts so. A scroll area gives a content
-// that tells it the preferred height, and not the smaller height that is enough.
+// Its height follows from its width, but it does not tell layouts so. If it did, a scroll
+// area would give its content the preferred height, and never the smaller height that is enough.
 
 #pragma once
 
