@@ -3,8 +3,7 @@
 //   a forecast   what Apply will send; stands until something else is to be said
 //   an outcome   what became of an edit: stands until another row is chosen, something is typed,
 //                Apply, Send or Restore is pressed, another unit is shown, or there is a message
-//   a message    such as why a command was not sent: stands until a person does the like, or
-//   presses
+//   a message    such as why a command was not sent: stands until a person does the like, presses
 //                Discover or Reload, or gets help
 //
 // What the network brings ends neither outcome nor message.
