@@ -2,7 +2,7 @@
 // name to text, and a stream for each text.
 
 #include "Comparison.h"
-#include "UnitParameters.h"
+#include "units/ParameterList.h"
 
 #include <benchmark/benchmark.h>
 
@@ -87,7 +87,7 @@ BENCHMARK(decodePlainly);
 void decode(benchmark::State& state) {
     ShownParameterNames names;
     for (const UnitParameter parameter : allUnitParameters) {
-        names[static_cast<std::size_t>(parameter)] = nameOfUnitParameter(parameter);
+        names[indexOf(parameter)] = nameOfUnitParameter(parameter);
     }
     for (auto _ : state) {
         benchmark::DoNotOptimize(decodeUnitParameters(parameterList, &names));

@@ -72,7 +72,7 @@ constexpr std::size_t lengthOfValue(ValueForm form) {
 struct ParameterDescription {
     UnitParameter parameter = UnitParameter::end;
     std::string_view name;       // in records and tables; the key of the localized name
-    std::string_view noun;       // the name within a sentence; also a localization key
+    std::string_view phrase;     // name and value within a sentence, also a key: "device port %@"
     std::string_view identifier; // for scripts; never translated
     std::string_view tag;        // stands before the value in a reply: a letter between "<" and ">"
     char commandLetter = 0;      // letter of the command that changes it; 0 when there is none
@@ -83,22 +83,24 @@ struct ParameterDescription {
 
 inline constexpr std::array<ParameterDescription, unitParameterCount> parameterTable{{
     {UnitParameter::destinationIPAddress, localizedKey("destination IP address"),
-     localizedKey("destination IP address"), "destination-ip", "<D>", 'D', ValueForm::ipv4Address},
+     localizedKey("destination IP address %@"), "destination-ip", "<D>", 'D',
+     ValueForm::ipv4Address},
     {UnitParameter::destinationMACAddress, localizedKey("destination MAC address"),
-     localizedKey("destination MAC address"), "destination-mac", "<C>", 'C',
+     localizedKey("destination MAC address %@"), "destination-mac", "<C>", 'C',
      ValueForm::hardwareAddress},
     {UnitParameter::destinationPortNumber, localizedKey("destination Port number"),
-     localizedKey("destination port"), "destination-port", "<T>", 'T', ValueForm::listeningPort},
+     localizedKey("destination port %@"), "destination-port", "<T>", 'T', ValueForm::listeningPort},
     {UnitParameter::devicePortNumber, localizedKey("device Port number"),
-     localizedKey("device port"), "device-port", "<P>", 'P', ValueForm::anyPort},
+     localizedKey("device port %@"), "device-port", "<P>", 'P', ValueForm::anyPort},
     {UnitParameter::internalIPAddress, localizedKey("internal IP address"),
-     localizedKey("internal IP address"), "internal-ip", "<I>", 'I', ValueForm::ipv4Address},
+     localizedKey("internal IP address %@"), "internal-ip", "<I>", 'I', ValueForm::ipv4Address},
     {UnitParameter::internalMACAddress, localizedKey("internal MAC address"),
-     localizedKey("internal MAC address"), "internal-mac", "<M>", 'M', ValueForm::hardwareAddress},
-    {UnitParameter::serialNumber, localizedKey("serial number"), localizedKey("serial number"),
+     localizedKey("internal MAC address %@"), "internal-mac", "<M>", 'M',
+     ValueForm::hardwareAddress},
+    {UnitParameter::serialNumber, localizedKey("serial number"), localizedKey("serial number %@"),
      "serial", "<S>", 'S', ValueForm::serialNumber},
-    {UnitParameter::unitID, localizedKey("unit ID"), localizedKey("unit ID"), "unit-id", "<U>", 'U',
-     ValueForm::unitID},
+    {UnitParameter::unitID, localizedKey("unit ID"), localizedKey("unit ID %@"), "unit-id", "<U>",
+     'U', ValueForm::unitID},
 }};
 
 constexpr const ParameterDescription& descriptionOf(UnitParameter parameter) {
@@ -137,7 +139,7 @@ constexpr bool comesBefore(std::string_view left, std::string_view right) {
 }
 
 constexpr bool isWhole(const ParameterDescription& row) {
-    return !row.name.empty() && !row.noun.empty() && !row.identifier.empty() &&
+    return !row.name.empty() && row.phrase.ends_with("%@") && !row.identifier.empty() &&
            row.form != ValueForm::none && row.tag.size() == 3 && row.tag.front() == '<' &&
            row.tag.back() == '>';
 }

@@ -10,8 +10,9 @@ namespace kx {
 
 namespace {
 
-std::string nounOf(const ParameterEdit& edit) {
-    return localizedText(descriptionOf(edit.parameter).noun);
+// "destination port 3521"
+std::string parameterAndValue(const ParameterEdit& edit) {
+    return localizedText(descriptionOf(edit.parameter).phrase, {edit.value});
 }
 
 std::string commandOf(const ParameterEdit& edit) {
@@ -23,13 +24,13 @@ long long digitsOf(const ParameterEdit& edit) {
 }
 
 // For example "Apply sends ^^IdT0DC1: destination port 3521."
-std::string forecastOfValue(const ParameterEdit& edit, std::string_view value) {
-    return localizedText("Apply sends %@: %@ %@.", {commandOf(edit), nounOf(edit), value});
+std::string forecastOfValue(const ParameterEdit& edit) {
+    return localizedText("Apply sends %@: %@.", {commandOf(edit), parameterAndValue(edit)});
 }
 
 std::string forecastOfValueReadAs(const ParameterEdit& edit) {
-    return localizedText("Apply sends %@: %@ %@, because that is how “%@” is read.",
-                         {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+    return localizedText("Apply sends %@: %@, because that is how “%@” is read.",
+                         {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
 }
 
 std::string forecastOfMACAddress(const ParameterEdit& edit) {
@@ -44,7 +45,7 @@ std::string forecastOfMACAddress(const ParameterEdit& edit) {
             "has %d.",
             {commandOf(edit), digitsOf(edit)});
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
 }
 
@@ -64,19 +65,19 @@ std::string forecastOfSerialNumber(const ParameterEdit& edit, const CommandTarge
     return target.newSerialNumberIsTaken
                ? localizedText("Apply sends %@: serial number %@, which another unit has.",
                                {commandOf(edit), edit.value})
-               : forecastOfValue(edit, edit.value);
+               : forecastOfValue(edit);
 }
 
 std::string forecastOfIPAddress(const ParameterEdit& edit) {
     switch (edit.change) {
     case ValueChange::notAnAddress:
         return localizedText(
-            "Apply sends %@: %@ %@, because “%@” is not an IPv4 address.",
-            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+            "Apply sends %@: %@, because “%@” is not an IPv4 address.",
+            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
 }
 
@@ -84,19 +85,19 @@ std::string forecastOfPort(const ParameterEdit& edit) {
     switch (edit.change) {
     case ValueChange::notANumber:
         return localizedText(
-            "Apply sends %@: %@ %@, because “%@” does not begin with a number.",
-            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+            "Apply sends %@: %@, because “%@” does not begin with a number.",
+            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     case ValueChange::outOfRange:
         break;
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
     const std::string number = shownInSentence(numberInFront(edit.typed));
     return descriptionOf(edit.parameter).form == ValueForm::listeningPort
-               ? localizedText("Apply sends %@: %@ %@, because %@ is outside 3520 to 3523.",
-                               {commandOf(edit), nounOf(edit), edit.value, number})
+               ? localizedText("Apply sends %@: %@, because %@ is outside 3520 to 3523.",
+                               {commandOf(edit), parameterAndValue(edit), number})
                : localizedText("Apply sends %@, more than the four digits of a port, because %@ is "
                                "outside 0 to 65535.",
                                {commandOf(edit), number});
@@ -128,10 +129,9 @@ std::string forecastOfUnitID(const ParameterEdit& edit) {
     default:
         break;
     }
-    return isUnitNumber(edit.typed)
-               ? forecastOfValue(edit, edit.value)
-               : localizedText("Apply sends %@: %@ “%@”.",
-                               {commandOf(edit), nounOf(edit), shownInSentence(edit.value)});
+    return isUnitNumber(edit.typed) ? forecastOfValue(edit)
+                                    : localizedText("Apply sends %@: unit ID “%@”.",
+                                                    {commandOf(edit), shownInSentence(edit.value)});
 }
 
 // The ARP tool gets the address as it was typed, even when the command carries another one.

@@ -100,18 +100,34 @@ def pattern(message):
     return re.sub(r"%[@ds]", "%", message)
 
 
-def logged_entries(source_folder):
-    """Every entry that the sources can append to the event log, with "%" for its arguments."""
+def logged_entries(path):
+    """Every entry for the event log that a source words, with "%" for its arguments."""
     entries = []
-    for path in sorted(pathlib.Path(source_folder).glob("*.cpp")):
-        text = path.read_text(encoding="utf-8")
-        for call in re.finditer(r'appendMessage\(\s*((?:"(?:[^"\\\n]|\\.)*"\s*)+)', text):
-            message = pattern("".join(literals(call[1])))
-            if message.startswith(("\n", "[")) or not entries:
-                entries.append(message)
-            else:
-                entries[-1] += message  # it continues the entry before it
+    text = pathlib.Path(path).read_text(encoding="utf-8")
+    for call in re.finditer(r'localizedText\(\s*((?:"(?:[^"\\\n]|\\.)*"\s*)+)', text):
+        message = pattern("".join(literals(call[1])))
+        if message.startswith(("\n", "[")) or not entries:
+            entries.append(message)
+        else:
+            entries[-1] += message  # it continues the entry before it
     return {entry.strip() for entry in entries}
+
+
+def functions_of_entries(header):
+    """The functions of a header that word an entry."""
+    text = pathlib.Path(header).read_text(encoding="utf-8")
+    return set(re.findall(r"std::string (entryOf\w+)\(", text))
+
+
+def appended(source_folder):
+    """What the sources append to the event log: how each argument, or each choice of one, begins."""
+    found = set()
+    for path in pathlib.Path(source_folder).rglob("*.cpp"):
+        text = path.read_text(encoding="utf-8")
+        for call in re.finditer(r"\bappendString\((?!std::)([^;]*?)\);", text):
+            choices = re.split(r"\s[?:]\s", call[1])
+            found |= {choice.partition("(")[0] for choice in choices[1:] or choices}
+    return found
 
 
 def localized_texts(path):

@@ -91,13 +91,13 @@ class Checks(unittest.TestCase):
 class TheTextsOfTheProgram(unittest.TestCase):
     def test_are_found_however_a_source_writes_them(self):
         source = ('localizedText("No ä.");\nf(localizedQtText(\n    "It (%@ "\n    "%d)."), a);\n'
-                  'localizedText("Is \\"b\\".", {c});\nappendMessage("\\nStart. ");\n'
+                  'localizedText("Is \\"b\\".", {c});\nlocalizedText("\\nStart. ");\n'
                   '{localizedKey("work"), "01"}\n')
         self.assertEqual(checks.script.keys_of_source(source),
                          (["No ä.", "It (%@ %d).", 'Is "b".', "\nStart. ", "work"], []))
 
     def test_are_not_found_in_what_has_no_words(self):
-        source = 'appendMessage("\\n  %@", {a});\nappendMessage("%@:%d", {a, b});\n'
+        source = 'localizedText("\\n  %@", {a});\nlocalizedText("%@:%d", {a, b});\n'
         self.assertEqual(checks.script.keys_of_source(source), ([], []))
 
     def test_a_key_that_is_no_literal_is_told(self):

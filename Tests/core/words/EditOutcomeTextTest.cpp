@@ -51,7 +51,12 @@ TEST(EditOutcomeText, SaysThatTheUnitCouldNotBeAsked) {
     EditOutcome outcome = outcomeOf(unitID, "7", "42");
     outcome.unitDidAccept(editedUnit, SendFailure{posixError(ENETUNREACH)});
     EXPECT_EQ(textOfEditOutcome(outcome), "The unit accepted a command. It could not be asked for "
-                                          "its parameters: Network is unreachable");
+                                          "its parameters: Network is unreachable.");
+    EditOutcome without = outcomeOf(unitID, "7", "42");
+    without.unitDidAccept(editedUnit, SendFailure());
+    EXPECT_EQ(textOfEditOutcome(without),
+              "The unit accepted a command. It could not be asked for its parameters: The UDP "
+              "listener is not running.");
 }
 
 TEST(EditOutcomeText, ANewDevicePortIsSeenByDiscover) {
