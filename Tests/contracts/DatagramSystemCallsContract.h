@@ -12,6 +12,8 @@
 //     // A datagram arrives at the socket, which is bound to an address of freeAddress(). Returns
 //     // the sender's record when it can be read.
 //     Bytes deliver(int descriptor, const Bytes& data);
+//     // The index of the interface by which deliver() delivers, not 0.
+//     std::uint32_t link();
 
 #pragma once
 
@@ -165,6 +167,33 @@ TYPED_TEST_P(DatagramSystemCallsContract, AReadThatFailsLeavesTheSenderAlone) {
     EXPECT_EQ(origin.link, 7U);
 }
 
+TYPED_TEST_P(DatagramSystemCallsContract, TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor) {
+    const int descriptor = this->newBoundSocket();
+    const auto linkOfNext = [&] {
+        const Bytes sender = this->trait.deliver(descriptor, this->data);
+        Bytes buffer(100);
+        DatagramOrigin origin{.sender = {7}, .link = 7};
+        EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, origin), 3);
+        EXPECT_EQ(origin.sender, sender);
+        return origin.link;
+    };
+    EXPECT_EQ(linkOfNext(), 0U);
+    EXPECT_EQ(this->calls().tellLinks(descriptor), 0);
+    ASSERT_NE(this->trait.link(), 0U);
+    EXPECT_EQ(linkOfNext(), this->trait.link());
+    EXPECT_EQ(linkOfNext(), this->trait.link());
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, OneSocketTellsTheLinkAndAnotherDoesNot) {
+    EXPECT_EQ(this->calls().tellLinks(this->newBoundSocket()), 0);
+    const int other = this->newBoundSocket();
+    this->trait.deliver(other, this->data);
+    Bytes buffer(100);
+    DatagramOrigin origin{.sender = {}, .link = 7};
+    EXPECT_EQ(this->calls().receiveFrom(other, buffer, origin), 3);
+    EXPECT_EQ(origin.link, 0U);
+}
+
 TYPED_TEST_P(DatagramSystemCallsContract, ASendTellsHowManyBytesItSent) {
     const int descriptor = this->newBoundSocket();
     const Bytes address = this->calls().localAddress(descriptor).value_or(Bytes{});
@@ -219,6 +248,7 @@ TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
     EXPECT_FAILURE(this->calls().statusFlags(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().setStatusFlags(descriptor, 0), EBADF);
     EXPECT_FAILURE(this->calls().enableBroadcast(descriptor), EBADF);
+    EXPECT_FAILURE(this->calls().tellLinks(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView(address)), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EBADF);
     EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EBADF);
@@ -245,7 +275,9 @@ REGISTER_TYPED_TEST_SUITE_P(DatagramSystemCallsContract, StatusFlagsAreKept,
                             WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
                             ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,
                             ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
-                            ASendTellsHowManyBytesItSent, OnlyAConnectedSocketSendsWithoutAnAddress,
+                            TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor,
+                            OneSocketTellsTheLinkAndAnotherDoesNot, ASendTellsHowManyBytesItSent,
+                            OnlyAConnectedSocketSendsWithoutAnAddress,
                             ARecordOfAnotherFamilyIsRefused, ARecordThatIsTooShortIsRefused,
                             AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
                             BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);

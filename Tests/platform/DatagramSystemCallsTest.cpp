@@ -2,6 +2,7 @@
 
 #include "contracts/DatagramSystemCallsContract.h"
 
+#include <net/if.h>
 #include <poll.h>
 
 namespace kx {
@@ -37,6 +38,8 @@ public:
         EXPECT_EQ(::poll(&readable, 1, fiveSeconds), 1);
         return _calls.localAddress(_sender).value_or(Bytes{});
     }
+
+    std::uint32_t link() { return ::if_nametoindex("lo"); }
 
 private:
     DatagramSystemCalls _calls;

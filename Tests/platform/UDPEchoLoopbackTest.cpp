@@ -7,6 +7,7 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <net/if.h>
 #include <sys/socket.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -15,6 +16,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kx {
@@ -54,7 +56,9 @@ public:
     }
     Bytes receive(Bytes& sender) {
         Bytes buffer(65536);
-        const auto length = _systemCalls.receiveFrom(_descriptor, buffer, sender);
+        DatagramOrigin origin;
+        const auto length = _systemCalls.receiveFrom(_descriptor, buffer, origin);
+        sender = std::move(origin.sender);
         buffer.resize(length < 0 ? 0 : static_cast<std::size_t>(length));
         return buffer;
     }
@@ -73,6 +77,7 @@ class CollectingDelegate final : public UDPEchoDelegate {
 public:
     std::vector<Bytes> received;
     std::vector<Bytes> senders;
+    std::vector<std::uint32_t> links;
     std::vector<Bytes> sent;
     std::vector<Bytes> startAddresses;
     std::vector<Error> receiveErrors;
@@ -80,9 +85,11 @@ public:
     std::vector<Error> stopErrors;
     std::function<void()> onEvent = [] {};
 
-    void echoDidReceiveDataFromAddress(UDPEcho&, const Bytes& data, const Bytes& from) override {
+    void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
+                                       const Bytes& from) override {
         received.push_back(data);
         senders.push_back(from);
+        links.push_back(echo.link());
         actOnEvent();
     }
     void echoDidReceiveError(UDPEcho&, const Error& error) override {
@@ -155,6 +162,16 @@ TEST_F(UDPEchoLoopback, TheOwnerMayAllowBroadcasts) {
     EXPECT_EQ(systemCalls.enableBroadcast(echo->nativeSocket()), 0);
     ::getsockopt(echo->nativeSocket(), SOL_SOCKET, SO_BROADCAST, &on, &length);
     EXPECT_NE(on, 0);
+}
+
+TEST_F(UDPEchoLoopback, TheOwnerMayAskForTheLinkOfEachDatagram) {
+    const auto port = startServer();
+    peer.sendTo({1}, port);
+    ASSERT_TRUE(runUntil([&] { return delegate.links.size() == 1; }));
+    EXPECT_EQ(systemCalls.tellLinks(echo->nativeSocket()), 0);
+    peer.sendTo({2}, port);
+    ASSERT_TRUE(runUntil([&] { return delegate.links.size() == 2; }));
+    EXPECT_EQ(delegate.links, (std::vector<std::uint32_t>{0, ::if_nametoindex("lo")}));
 }
 
 TEST_F(UDPEchoLoopback, APortInUseStopsWithAddressInUseAndLeavesPort0) {

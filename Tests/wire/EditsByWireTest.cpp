@@ -152,7 +152,7 @@ TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
     EXPECT_EQ(settings().devicePort, 10001);
     EXPECT_EQ(
         window.quietLine.text(),
-        "The unit accepted ^^IdP2711 and was asked for its parameters. Discover finds it on its "
+        "The unit accepted a command and was asked for its parameters. Discover finds it on its "
         "new port.");
     discover();
     EXPECT_EQ(shown(devicePortNumber), "10001");

@@ -50,6 +50,7 @@ public:
     int statusFlags(int /*descriptor*/) override { return 0; }
     int setStatusFlags(int /*descriptor*/, int /*flags*/) override { return 0; }
     int enableBroadcast(int /*descriptor*/) override { return 0; }
+    int tellLinks(int /*descriptor*/) override { return 0; }
 
     ssize_t sendTo(int /*descriptor*/, ByteView data,
                    std::optional<ByteView> addressRecord) override {
@@ -68,7 +69,7 @@ public:
     }
 
     ssize_t receiveFrom(int /*descriptor*/, std::span<std::uint8_t> buffer,
-                        Bytes& sender) override {
+                        DatagramOrigin& origin) override {
         if (_replies.empty()) {
             errno = EAGAIN;
             return -1;
@@ -77,7 +78,8 @@ public:
         _replies.pop_front();
         const std::size_t length = std::min(reply.size(), buffer.size());
         std::copy_n(reply.begin(), length, buffer.begin());
-        sender = dataForAddress(_unit.settings().address, simulator::commonPort);
+        origin = {.sender = dataForAddress(_unit.settings().address, simulator::commonPort),
+                  .link = 1};
         return static_cast<ssize_t>(length);
     }
 
