@@ -3,6 +3,7 @@
 #pragma once
 
 #include "KXConfigAppDelegate.h"
+#include "SentDatagrams.h"
 #include "UnitReplies.h"
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
@@ -75,14 +76,7 @@ protected:
     // The listener as it names itself in its events.
     UDPEcho& listener() { return const_cast<UDPEcho&>(*controller.udpListener()); }
 
-    // Everything sent, as "address:port text"; a carriage return shows as "\r".
-    Lines sent() const {
-        Lines lines;
-        for (const auto& datagram : systemCalls.sentDatagrams()) {
-            lines.push_back(destination(datagram.address) + " " + readable(datagram.data));
-        }
-        return lines;
-    }
+    Lines sent() const { return sentThrough(systemCalls); }
 
     std::string lastSent() const {
         const Lines all = sent();
@@ -133,23 +127,6 @@ protected:
              return helpOpens;
          },
          &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; }}};
-
-private:
-    static std::string destination(const Bytes& record) {
-        std::uint32_t address = 0;
-        IPv6Octets address6{};
-        std::uint16_t port = 0;
-        addressForData(record, address, address6, &port);
-        return stringForIP(address) + ":" + std::to_string(port);
-    }
-
-    static std::string readable(const Bytes& data) {
-        std::string text(data.begin(), data.end());
-        if (!text.empty() && text.back() == '\r') {
-            text.replace(text.size() - 1, 1, "\\r");
-        }
-        return text;
-    }
 };
 
 } // namespace kx
