@@ -4,6 +4,7 @@
 
 #include <cerrno>
 #include <chrono>
+#include <memory>
 #include <stdexcept>
 
 namespace kx {

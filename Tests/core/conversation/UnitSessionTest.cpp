@@ -3,6 +3,8 @@
 #include "SessionFixture.h"
 
 #include <cerrno>
+#include <memory>
+#include <set>
 #include <stdexcept>
 
 namespace kx {
@@ -82,6 +84,15 @@ TEST_F(UnitSessionLife, AStopIsSilentAndGivesEverythingBack) {
     EXPECT_EQ(observer.events, Events{});
 }
 
+TEST_F(UnitSessionLife, StopsAListenerThatSomebodyStillHolds) {
+    start();
+    const std::shared_ptr<const UDPEcho> held = session.listener()->shared_from_this();
+    session.stop();
+    EXPECT_EQ(held->port(), 0U);
+    EXPECT_EQ(held->delegate(), nullptr);
+    EXPECT_TRUE(systemCalls.openDescriptors().empty());
+}
+
 TEST_F(UnitSessionLife, TheEndOfASessionIsSilentToo) {
     {
         UnitSession brief({runLoop, hostResolver, systemCalls}, registry, observer);
@@ -130,6 +141,13 @@ TEST_F(UnitSessionLife, AFailedSendIsAResultAndAnEvent) {
     EXPECT_EQ(observer.taken(), Events{"not sent: " + errorText(ENETUNREACH)});
     EXPECT_EQ(resultOfSend("^^IdX"), "sent") << "an earlier failure is not that of this one";
     EXPECT_EQ(observer.taken(), Events{"sent"});
+}
+
+TEST_F(UnitSessionLife, TheFailureOfAnotherEndpointIsNotThatOfTheNextSend) {
+    start();
+    const auto stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+    session.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(EIO));
+    EXPECT_EQ(resultOfSend("^^IdX"), "sent");
 }
 
 TEST_F(UnitSessionLife, ASendThroughAStoppedListenerFailsWithoutASystemCall) {
