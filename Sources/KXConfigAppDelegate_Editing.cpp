@@ -261,7 +261,7 @@ void KXConfigAppDelegate::showForecast() {
 
 void KXConfigAppDelegate::refreshForecast() {
     if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
-        showForecast();
+        _quietLine.refreshForecast(forecast());
     }
 }
 

@@ -3,9 +3,8 @@
 //   a forecast   what Apply will send; stands until something else is to be said
 //   an outcome   what became of an edit: stands until another row is chosen, something is typed,
 //                Apply, Send or Restore is pressed, another unit is shown, or there is a message
-//   a message    such as why a command was not sent: stands until a person does the like, or
-//   presses
-//                Discover or Reload, or gets help
+//   a message    such as why a command was not sent: stands until a person does the like,
+//                presses Discover or Reload, or gets help
 //
 // What the network brings ends neither outcome nor message.
 //
@@ -42,6 +41,10 @@ public:
     // A person chose, typed or pressed something: whatever stood ends.
     void showForecast(std::string text);
 
+    // The forecast as it is now, where one stands: what a unit or the network did may have changed
+    // it. Shown only when it says something else than the line does.
+    void refreshForecast(std::string text);
+
     // An empty message is the end of whatever stood, and leaves the line empty.
     void showMessage(std::string text);
 
@@ -61,9 +64,11 @@ public:
     void arpToolDidEnd(std::int32_t status);
 
 private:
+    void show(std::string_view text);
     void showOutcomeAnew();
 
     std::function<void(std::string_view text)> _show;
+    std::string _shown;
     State _state;
 };
 

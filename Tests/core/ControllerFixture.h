@@ -19,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -71,6 +72,43 @@ protected:
             receive(unit.reply());
         }
         runLoop.advanceBy(2000ms);
+    }
+
+    // Both units answer; the sample unit, the first by its number, is selected.
+    void discoverTwo() { discover({SampleUnit(), secondSampleUnit()}); }
+
+    // A discovery whose listener cannot start; a unit that is selected stays so.
+    void discoverInVain() {
+        systemCalls.failNext(Operation::bind, EADDRINUSE);
+        discover({});
+    }
+
+    void selectUnit(const std::string& serial) {
+        window.unitSelectPopUp.selectItemWithTitle(serial);
+        controller.unitSelectPopUp();
+    }
+
+    // Chooses the row of a parameter of a unit that has told them all.
+    void selectRow(UnitParameter parameter) {
+        window.unitParameterTableView.selectRow(static_cast<int>(indexOf(parameter)));
+        controller.tableViewSelectionDidChange();
+    }
+
+    // Types a value into the edit row and leaves its editor.
+    void store(const std::string& value) {
+        window.editParameterTableView.typeIntoCell(0, "parameterValue", value);
+    }
+
+    // The same for both columns, without a row of the parameter table.
+    void fillEditRow(const std::string& name, const std::string& value) {
+        window.editParameterTableView.typeIntoCell(0, "parameterName", name);
+        store(value);
+    }
+
+    void apply(UnitParameter parameter, const std::string& value) {
+        selectRow(parameter);
+        store(value);
+        controller.applyEditParameterButton();
     }
 
     // The listener as it names itself in its events.
