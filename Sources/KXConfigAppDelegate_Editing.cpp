@@ -166,6 +166,7 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
                                   const std::optional<std::string>& ip) {
     // A dialogue runs the event loop. What comes from elsewhere waits for the end of the action.
     const auto hold = _services.runLoop.holdCallbacks();
+    const int attempt = ++_latestARPAttempt;
     if (!authenticateForARP()) {
         _outlets.alert->runModal(
             localizedText("KXConfig"),
@@ -180,13 +181,12 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
         }
         arguments.push_back(**text);
     }
-    // Only how the latest run ended is worth a word.
-    const auto result =
-        _auth->runToolWithArgs(arguments, [this, run = ++_latestToolRun](int status) {
-            if (run == _latestToolRun) {
-                _quietLine.arpToolDidEnd(status);
-            }
-        });
+    // How the tool of an earlier attempt ends is not worth a word any more.
+    const auto result = _auth->runToolWithArgs(arguments, [this, attempt](int status) {
+        if (attempt == _latestARPAttempt) {
+            _quietLine.arpToolDidEnd(status);
+        }
+    });
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }

@@ -10,9 +10,14 @@ namespace {
 
 std::string textOfAcceptance(const EditOutcome& outcome) {
     if (outcome.requestFailure().has_value()) {
-        return localizedText("The unit accepted a command. It could not be asked for its "
-                             "parameters: %@",
-                             {reasonOfSendFailure(*outcome.requestFailure())});
+        const std::string reason = reasonOfSendFailure(*outcome.requestFailure());
+        return reason.ends_with('.')
+                   ? localizedText("The unit accepted a command. It could not be asked for its "
+                                   "parameters: %@",
+                                   {reason})
+                   : localizedText("The unit accepted a command. It could not be asked for its "
+                                   "parameters: %@.",
+                                   {reason});
     }
     const bool hasNewPort = outcome.edit().parameter == UnitParameter::devicePortNumber &&
                             outcome.edit().shown != outcome.valueBefore();
