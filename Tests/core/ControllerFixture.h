@@ -19,6 +19,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <string>
@@ -88,9 +89,15 @@ protected:
         controller.unitSelectPopUp();
     }
 
-    // Chooses the row of a parameter of a unit that has told them all.
+    // Chooses the row of a parameter that the selected unit has told.
     void selectRow(UnitParameter parameter) {
-        window.unitParameterTableView.selectRow(static_cast<int>(indexOf(parameter)));
+        const auto& rows = window.unitParameterTableView.rows();
+        const auto isItsRow = [name = nameOfUnitParameter(parameter)](const auto& row) {
+            return row.at("parameterName") == name;
+        };
+        const auto found = std::ranges::find_if(rows, isItsRow);
+        ASSERT_NE(found, rows.end()) << nameOfUnitParameter(parameter);
+        window.unitParameterTableView.selectRow(static_cast<int>(found - rows.begin()));
         controller.tableViewSelectionDidChange();
     }
 
