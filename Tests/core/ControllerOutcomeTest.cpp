@@ -90,14 +90,20 @@ TEST_F(ControllerOutcome, TheFailureOfAnEarlierToolDoesNotStayWhenTheLaterOneWen
 }
 
 TEST_F(ControllerOutcome, AToolThatEndsLateDoesNotSpeakForTheOneThatWasStartedAfterIt) {
+    const std::string pending = "Sent ^^IdI0A000007. The unit has not answered yet.";
     apply(internalIPAddress, "10.0.0.7");
     applyAgain();
     ASSERT_EQ(authority.runs().size(), 2U);
     authority.endOldestTool(1);
-    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet.");
+    EXPECT_EQ(quietLine(), pending);
+    authority.endOldestTool(0);
+    EXPECT_EQ(quietLine(), pending);
+
+    applyAgain();
+    applyAgain();
+    authority.endOldestTool(0);
     authority.endOldestTool(2);
-    EXPECT_EQ(quietLine(), "Sent ^^IdI0A000007. The unit has not answered yet." + noEntry +
-                               "the ARP tool ended with status 2.");
+    EXPECT_EQ(quietLine(), pending + noEntry + "the ARP tool ended with status 2.");
 }
 
 TEST_F(ControllerOutcome, AToolThatEndsWellDoesNotSpeakForALaterOneThatWasNotStarted) {
