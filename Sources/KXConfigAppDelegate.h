@@ -263,7 +263,7 @@ private:
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
-    int _latestToolRun = 0;                            // number of runs of the ARP tool
+    int _latestARPAttempt = 0;                         // number of attempts, refused ones included
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;

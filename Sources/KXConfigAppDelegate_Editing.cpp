@@ -166,6 +166,7 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
                                   const std::optional<std::string>& ip) {
     // A dialogue runs the event loop. Events from outside wait for the end of the action.
     const auto hold = _services.runLoop.holdCallbacks();
+    const int attempt = ++_latestARPAttempt;
     if (!authenticateForARP()) {
         _outlets.alert->runModal(
             localizedText("KXConfig"),
@@ -180,13 +181,12 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
         }
         arguments.push_back(**text);
     }
-    // Only the end of the latest run is shown.
-    const auto result =
-        _auth->runToolWithArgs(arguments, [this, run = ++_latestToolRun](int status) {
-            if (run == _latestToolRun) {
-                _quietLine.arpToolDidEnd(status);
-            }
-        });
+    // Only the end of the latest attempt is shown.
+    const auto result = _auth->runToolWithArgs(arguments, [this, attempt](int status) {
+        if (attempt == _latestARPAttempt) {
+            _quietLine.arpToolDidEnd(status);
+        }
+    });
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
@@ -261,7 +261,7 @@ void KXConfigAppDelegate::showForecast() {
 
 void KXConfigAppDelegate::refreshForecast() {
     if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
-        showForecast();
+        _quietLine.refreshForecast(forecast());
     }
 }
 

@@ -38,9 +38,7 @@ std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view com
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {
-    auto failure = sendRequest(parameterRequestCommand, unitDestination());
-    refreshForecast();
-    return failure;
+    return sendRequest(parameterRequestCommand, unitDestination());
 }
 
 // --- The selected unit ---
@@ -91,6 +89,8 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
         if (serial == _selectedUnit) {
             showSelectedUnit();
+        } else {
+            refreshForecast(); // another unit may have the serial number that is typed
         }
         _quietLine.unitDidTell(*serial, parameters.record);
     }

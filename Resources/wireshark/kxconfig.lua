@@ -164,8 +164,8 @@ local function ipAddress(bytes)
     return Address.ip(table.concat({ bytes:byte(1, -1) }, "."))
 end
 
--- By the tag of a list's item; a command has the same letter. `value` makes what the field shows of
--- the bytes.
+-- By the tag of a list's item; the command that sets it has the same letter. `value` makes what the
+-- field shows of the bytes.
 local parameters = {
     M = { name = "internal MAC address", length = 6, field = fields.internalMAC,
         value = hardwareAddress },
@@ -178,7 +178,8 @@ local parameters = {
     U = { name = "unit ID", length = 6, field = fields.unitID, value = unitIDText },
     C = { name = "destination MAC address", length = 6, field = fields.destinationMAC,
         value = hardwareAddress },
-    O = { name = "item <O>", length = 6, field = fields.uninterpreted, value = octetsText },
+    O = { name = "item <O>", length = 6, isReadOnly = true, field = fields.uninterpreted,
+        value = octetsText },
     S = { name = "serial number", length = 6, field = fields.serialNumber,
         value = serialNumberText },
 }
@@ -272,8 +273,7 @@ local function dissectArgument(datagram, tree, letter, argument)
         end
         return requests[letter]
     end
-    -- Units report <O>, but no command sets it.
-    if letter == "O" or not parameters[letter] then
+    if not parameters[letter] or parameters[letter].isReadOnly then
         item:add_proto_expert_info(experts.letter)
         return "unknown command " .. visible(letter .. argument)
     end

@@ -84,9 +84,10 @@ std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint
     return std::exchange(_sendFailure, std::nullopt);
 }
 
+// Told first: what the front sends inside the event has a result of its own.
 void UnitSession::didFailToSend(SendFailure failure) {
+    _observer.sessionDidFailToSend(failure);
     _sendFailure = std::move(failure);
-    _observer.sessionDidFailToSend(*_sendFailure);
 }
 
 // --- The endpoint's events ---
@@ -95,8 +96,12 @@ void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
     if (&echo != _listener.get()) {
         return;
     }
+    const auto started = _listener; // the front may stop it, or start another
     try {
         _observer.sessionDidStart(address);
+        if (started != _listener) {
+            return;
+        }
         const int descriptor = echo.nativeSocket();
         if (_services.receiveBuffers != nullptr) {
             _services.receiveBuffers->enlarge(descriptor, wantedReceiveBuffer);
@@ -118,8 +123,12 @@ void UnitSession::echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data
     if (&echo != _listener.get()) {
         return; // it is an endpoint from before a restart
     }
+    const auto receiving = _listener; // the front may stop it, or start another
     countDropsSoon();
     _observer.sessionDidReceiveDatagram(data.size());
+    if (receiving != _listener) {
+        return;
+    }
     try {
         didReceiveDataFromAddress(data, {.sender = address, .link = echo.link()});
     } catch (const PlatformException& exception) {

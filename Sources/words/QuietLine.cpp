@@ -9,15 +9,26 @@ namespace kx {
 QuietLine::QuietLine(std::function<void(std::string_view text)> show)
     : _show(std::move(show)) {}
 
-void QuietLine::showForecast(std::string text) {
+void QuietLine::show(std::string_view text) {
+    _shown = text;
     _show(text);
+}
+
+void QuietLine::showForecast(std::string text) {
+    show(text);
     _state = Forecast{std::move(text)};
+}
+
+void QuietLine::refreshForecast(std::string text) {
+    if (std::holds_alternative<Forecast>(_state) && text != _shown) {
+        showForecast(std::move(text));
+    }
 }
 
 void QuietLine::showMessage(std::string text) {
     showForecast({}); // the line is cleared first, so the same message counts as new
     if (!text.empty()) {
-        _show(text);
+        show(text);
         _state = Message{std::move(text)};
     }
 }
@@ -34,7 +45,7 @@ void QuietLine::showOutcome(EditOutcome outcome) {
 }
 
 void QuietLine::showOutcomeAnew() {
-    _show(textOfEditOutcome(std::get<EditOutcome>(_state)));
+    show(textOfEditOutcome(std::get<EditOutcome>(_state)));
 }
 
 void QuietLine::unitIsShown(std::string_view serialNumber) {

@@ -42,6 +42,10 @@ public:
     // A person chose, typed or pressed something, so the present sentence ends.
     void showForecast(std::string text);
 
+    // Replaces a forecast that stands, after a unit or the network changed what it says. Shows it only
+    // when the text is another one.
+    void refreshForecast(std::string text);
+
     // An empty message ends the present sentence and leaves the line empty.
     void showMessage(std::string text);
 
@@ -61,9 +65,11 @@ public:
     void arpToolDidEnd(std::int32_t status);
 
 private:
+    void show(std::string_view text);
     void showOutcomeAnew();
 
     std::function<void(std::string_view text)> _show;
+    std::string _shown;
     State _state;
 };
 

@@ -20,13 +20,8 @@ protected:
         sentBefore = sent().size();
     }
 
-    void typeAddress(const std::string& address) {
-        window.editParameterTableView.typeIntoCell(0, "parameterName", "internal IP address");
-        window.editParameterTableView.typeIntoCell(0, "parameterValue", address);
-    }
-
     void changeAddress(const std::string& address) {
-        typeAddress(address);
+        fillEditRow("internal IP address", address);
         controller.applyEditParameterButton();
     }
 
@@ -212,8 +207,7 @@ TEST_F(ControllerAddressChange, ARefusedRightIsAskedForAgainUnderTheSameReferenc
 }
 
 TEST_F(ControllerAddressChange, NoRightIsAskedForByOtherEdits) {
-    window.editParameterTableView.typeIntoCell(0, "parameterName", "destination IP address");
-    window.editParameterTableView.typeIntoCell(0, "parameterValue", "10.0.0.7");
+    fillEditRow("destination IP address", "10.0.0.7");
     controller.applyEditParameterButton();
     EXPECT_EQ(authority.referencesMade(), 0);
 }
@@ -266,8 +260,7 @@ TEST_F(ControllerAddressChange, NothingIsHandledWhileThePersonIsAskedOrToldAndNo
 }
 
 TEST_F(ControllerAddressChange, ADiscoveryThatIsOverWhileThePersonIsToldIsCompletedAfterwards) {
-    SampleUnit second;
-    second.serial.back() = 7;
+    SampleUnit second = secondSampleUnit();
     second.devicePort = {0x27, 0x11};
     controller.discoverButton();
     receive(second.reply());

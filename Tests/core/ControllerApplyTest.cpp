@@ -12,10 +12,7 @@ class ControllerApply : public ControllerTest {
 protected:
     ControllerApply() { launch(); }
 
-    void fillEditRow(const std::string& name, const std::string& value) {
-        window.editParameterTableView.typeIntoCell(0, "parameterName", name);
-        window.editParameterTableView.typeIntoCell(0, "parameterValue", value);
-    }
+    using ControllerTest::apply;
 
     void apply(const std::string& name, const std::string& value) {
         fillEditRow(name, value);
@@ -280,15 +277,11 @@ TEST_F(ControllerApply, TheEditThatEndsIsInTheWindowThatWasSet) {
 }
 
 TEST_F(ControllerApply, AnEditGoesToTheUnitThatIsSelectedNow) {
-    SampleUnit second;
-    second.serial.back() = 7;
-    second.internalIP.back() = 11;
+    SampleUnit second = secondSampleUnit();
     second.devicePort = {0x0D, 0xC1};
     discover({SampleUnit(), second});
-    window.unitParameterTableView.selectRow(7);
-    controller.tableViewSelectionDidChange();
-    window.unitSelectPopUp.selectItemWithTitle("01 02 03 04 05 07");
-    controller.unitSelectPopUp();
+    selectRow(UnitParameter::unitID);
+    selectUnit("01 02 03 04 05 07");
     controller.applyEditParameterButton();
     EXPECT_EQ(lastSent(), "192.168.1.11:3521 ^^IdU00000000002A");
 }

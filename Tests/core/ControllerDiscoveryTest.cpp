@@ -105,18 +105,15 @@ TEST_F(ControllerDiscovery, StillListsAUnitThatDoesNotAnswerAnyMore) {
 
 TEST_F(ControllerDiscovery, ListsAndReselectsUnitsAlsoWhenTheListenerCannotStart) {
     discover({unitWithSerial(5), unitWithSerial(6)});
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
-    systemCalls.failNext(Operation::bind, EADDRINUSE);
-    discover({});
+    selectUnit(serialSix);
+    discoverInVain();
     EXPECT_EQ(window.unitSelectPopUp.titles(), (Titles{serialFive, serialSix}));
     EXPECT_EQ(selectedUnit(), serialSix);
 }
 
 TEST_F(ControllerDiscovery, SelectedUnitThatDoesNotAnswerStaysSelected) {
     discover({unitWithSerial(5), unitWithSerial(6)});
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
+    selectUnit(serialSix);
     discover({unitWithSerial(5)});
     EXPECT_EQ(selectedUnit(), serialSix);
     EXPECT_EQ(window.unitSelectPopUp.titleOfSelectedItem(), serialSix);
@@ -125,8 +122,7 @@ TEST_F(ControllerDiscovery, SelectedUnitThatDoesNotAnswerStaysSelected) {
 
 TEST_F(ControllerDiscovery, AnswerOfTheSelectedUnitDropsTheSelectionUntilTheFirstIsSelected) {
     discover({unitWithSerial(5), unitWithSerial(6)});
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
+    selectUnit(serialSix);
 
     controller.discoverButton();
     EXPECT_EQ(selectedUnit(), serialSix);
@@ -200,8 +196,7 @@ TEST_F(ControllerDiscovery, SecondCompletionKeepsAChoiceMadeMeanwhile) {
     runLoop.advanceBy(1000ms);
     controller.discoverButton();
     runLoop.advanceBy(1000ms); // the completions of the launch and of the first Discover
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
+    selectUnit(serialSix);
     runLoop.advanceBy(1000ms);
     EXPECT_EQ(selectedUnit(), serialSix);
 }
@@ -217,8 +212,7 @@ TEST_F(ControllerDiscovery, EveryRestartMakesANewListener) {
 
 TEST_F(ControllerDiscovery, ChosenUnitIsShown) {
     discover({unitWithSerial(5), unitWithSerial(6)});
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
+    selectUnit(serialSix);
     EXPECT_EQ(selectedUnit(), serialSix);
     EXPECT_EQ(window.unitIDField.stringValue(), "6");
     EXPECT_EQ(parameterRows().at(4), "internal IP address = 192.168.1.6");
@@ -280,15 +274,13 @@ TEST_F(ControllerDiscovery, ReloadOfAUnitAtAddressZeroTriesIt) {
 
 TEST_F(ControllerDiscovery, ChosenRowIsCopiedIntoTheEditRow) {
     discover({unitWithSerial(5)});
-    window.unitParameterTableView.selectRow(4);
-    controller.tableViewSelectionDidChange();
+    selectRow(UnitParameter::internalIPAddress);
     EXPECT_EQ(editRows(), Lines{"internal IP address = 192.168.1.5"});
 }
 
 TEST_F(ControllerDiscovery, NoSelectedRowLeavesTheEditRowUnchanged) {
     discover({unitWithSerial(5)});
-    window.unitParameterTableView.selectRow(7);
-    controller.tableViewSelectionDidChange();
+    selectRow(UnitParameter::unitID);
     window.unitParameterTableView.selectRow(-1);
     controller.tableViewSelectionDidChange();
     window.editParameterTableView.reloadData();
@@ -297,18 +289,15 @@ TEST_F(ControllerDiscovery, NoSelectedRowLeavesTheEditRowUnchanged) {
 
 TEST_F(ControllerDiscovery, EditRowKeepsItsContentWhenAnotherUnitIsShown) {
     discover({unitWithSerial(5), unitWithSerial(6)});
-    window.unitParameterTableView.selectRow(7);
-    controller.tableViewSelectionDidChange();
-    window.unitSelectPopUp.selectItemWithTitle(serialSix);
-    controller.unitSelectPopUp();
+    selectRow(UnitParameter::unitID);
+    selectUnit(serialSix);
     window.editParameterTableView.reloadData();
     EXPECT_EQ(editRows(), Lines{"unit ID = 5"});
 }
 
 TEST_F(ControllerDiscovery, EditingTheCopyDoesNotChangeTheTable) {
     discover({unitWithSerial(5)});
-    window.unitParameterTableView.selectRow(7);
-    controller.tableViewSelectionDidChange();
+    selectRow(UnitParameter::unitID);
     window.editParameterTableView.typeIntoCell(0, "parameterValue", "9");
     window.unitParameterTableView.reloadData();
     EXPECT_EQ(parameterRows().back(), "unit ID = 5");
@@ -317,8 +306,7 @@ TEST_F(ControllerDiscovery, EditingTheCopyDoesNotChangeTheTable) {
 
 TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {
     discover({unitWithSerial(5)});
-    window.unitParameterTableView.selectRow(7);
-    controller.tableViewSelectionDidChange();
+    selectRow(UnitParameter::unitID);
     window.unitParameterTable.removeAllObjects();
     controller.tableViewSelectionDidChange();
     EXPECT_EQ(editRows(), Lines{" = "});

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "KXConfigAppDelegate.h"
+#include "SentDatagrams.h"
 #include "UnitReplies.h"
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
@@ -18,6 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cerrno>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -72,17 +75,53 @@ protected:
         runLoop.advanceBy(2000ms);
     }
 
+    // Both units answer; the sample unit, the first by its number, is selected.
+    void discoverTwo() { discover({SampleUnit(), secondSampleUnit()}); }
+
+    // A discovery whose listener cannot start; a unit that is selected stays so.
+    void discoverInVain() {
+        systemCalls.failNext(Operation::bind, EADDRINUSE);
+        discover({});
+    }
+
+    void selectUnit(const std::string& serial) {
+        window.unitSelectPopUp.selectItemWithTitle(serial);
+        controller.unitSelectPopUp();
+    }
+
+    // Chooses the row of a parameter that the selected unit has told.
+    void selectRow(UnitParameter parameter) {
+        const auto& rows = window.unitParameterTableView.rows();
+        const auto isItsRow = [name = nameOfUnitParameter(parameter)](const auto& row) {
+            return row.at("parameterName") == name;
+        };
+        const auto found = std::ranges::find_if(rows, isItsRow);
+        ASSERT_NE(found, rows.end()) << nameOfUnitParameter(parameter);
+        window.unitParameterTableView.selectRow(static_cast<int>(found - rows.begin()));
+        controller.tableViewSelectionDidChange();
+    }
+
+    // Types a value into the edit row and leaves its editor.
+    void store(const std::string& value) {
+        window.editParameterTableView.typeIntoCell(0, "parameterValue", value);
+    }
+
+    // The same for both columns, without a row of the parameter table.
+    void fillEditRow(const std::string& name, const std::string& value) {
+        window.editParameterTableView.typeIntoCell(0, "parameterName", name);
+        store(value);
+    }
+
+    void apply(UnitParameter parameter, const std::string& value) {
+        selectRow(parameter);
+        store(value);
+        controller.applyEditParameterButton();
+    }
+
     // The listener, without const, as its events have it.
     UDPEcho& listener() { return const_cast<UDPEcho&>(*controller.udpListener()); }
 
-    // Everything sent, as "address:port text"; a carriage return shows as "\r".
-    Lines sent() const {
-        Lines lines;
-        for (const auto& datagram : systemCalls.sentDatagrams()) {
-            lines.push_back(destination(datagram.address) + " " + readable(datagram.data));
-        }
-        return lines;
-    }
+    Lines sent() const { return sentThrough(systemCalls); }
 
     std::string lastSent() const {
         const Lines all = sent();
@@ -133,23 +172,6 @@ protected:
              return helpOpens;
          },
          &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; }}};
-
-private:
-    static std::string destination(const Bytes& record) {
-        std::uint32_t address = 0;
-        IPv6Octets address6{};
-        std::uint16_t port = 0;
-        addressForData(record, address, address6, &port);
-        return stringForIP(address) + ":" + std::to_string(port);
-    }
-
-    static std::string readable(const Bytes& data) {
-        std::string text(data.begin(), data.end());
-        if (!text.empty() && text.back() == '\r') {
-            text.replace(text.size() - 1, 1, "\\r");
-        }
-        return text;
-    }
 };
 
 } // namespace kx

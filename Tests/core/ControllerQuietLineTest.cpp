@@ -9,28 +9,6 @@ namespace {
 class ControllerQuietLine : public ControllerTest {
 protected:
     ControllerQuietLine() { launch(); }
-
-    void selectRow(UnitParameter parameter) {
-        window.unitParameterTableView.selectRow(static_cast<int>(parameter));
-        controller.tableViewSelectionDidChange();
-    }
-
-    void store(const std::string& value) {
-        window.editParameterTableView.typeIntoCell(0, "parameterValue", value);
-    }
-
-    void apply(UnitParameter parameter, const std::string& value) {
-        selectRow(parameter);
-        store(value);
-        controller.applyEditParameterButton();
-    }
-
-    // Two units, of which the first is selected.
-    void discoverTwo() {
-        SampleUnit second;
-        second.serial.back() = 7;
-        discover({SampleUnit(), second});
-    }
 };
 
 } // namespace
@@ -131,8 +109,7 @@ TEST_F(ControllerQuietLine, WhoeverChoosesOrTypesAnewIsToldOfThat) {
 TEST_F(ControllerQuietLine, TheReportOfOneUnitDoesNotStandBesideAnother) {
     discoverTwo();
     apply(UnitParameter::destinationPortNumber, "3523");
-    window.unitSelectPopUp.selectItemWithTitle("01 02 03 04 05 07");
-    controller.unitSelectPopUp();
+    selectUnit("01 02 03 04 05 07");
     EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
     receive(SampleUnit().reply());
     EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
@@ -141,10 +118,8 @@ TEST_F(ControllerQuietLine, TheReportOfOneUnitDoesNotStandBesideAnother) {
 TEST_F(ControllerQuietLine, RepliesOfOtherUnitsAreNoAnswer) {
     discoverTwo();
     apply(UnitParameter::destinationPortNumber, "3523");
-    SampleUnit second;
-    second.serial.back() = 7;
-    receive(second.acknowledgement());
-    receive(second.reply());
+    receive(secondSampleUnit().acknowledgement());
+    receive(secondSampleUnit().reply());
     receive(joined({textBytes("^^<X>"), Bytes(15), textBytes("$ok\r")})); // tells no serial number
     EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");
 }
@@ -249,9 +224,7 @@ TEST_F(ControllerQuietLine, AnEditThroughAStoppedListenerSaysSo) {
 TEST_F(ControllerQuietLine, WhatTheNetworkBringsDoesNotEndAMessage) {
     const auto expectThatTrafficLeaves = [&](const std::string& message) {
         EXPECT_EQ(quietLine().substr(0, message.size()), message);
-        SampleUnit second;
-        second.serial.back() = 7;
-        for (const SampleUnit& unit : {SampleUnit(), second}) {
+        for (const SampleUnit& unit : {SampleUnit(), secondSampleUnit()}) {
             receive(unit.acknowledgement());
             receive(unit.reply());
         }

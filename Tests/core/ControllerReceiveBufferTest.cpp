@@ -96,8 +96,7 @@ TEST_F(ControllerReceiveBuffer, TheEventLogDoesNotMentionIt) {
 TEST_F(ControllerReceiveBuffer, TheQuietLineKeepsWhatItSays) {
     launch();
     discover({SampleUnit()});
-    window.unitParameterTableView.selectRow(static_cast<int>(UnitParameter::destinationPortNumber));
-    controller.tableViewSelectionDidChange();
+    selectRow(UnitParameter::destinationPortNumber);
     controller.editTextDidChange("3521");
     const std::string before = quietLine();
     dropAndCount(5);

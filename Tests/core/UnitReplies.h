@@ -53,4 +53,13 @@ struct SampleUnit {
     Bytes acknowledgement() const { return joined({header(), textBytes("ok\r")}); }
 };
 
+// Another unit: its hardware address, its IP address and its serial number are its own.
+inline SampleUnit secondSampleUnit() {
+    SampleUnit unit;
+    unit.internalMAC.back() = 0x5F;
+    unit.internalIP.back() = 11;
+    unit.serial.back() = 7;
+    return unit;
+}
+
 } // namespace kx

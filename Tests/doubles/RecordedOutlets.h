@@ -99,12 +99,19 @@ private:
 
 class RecordedTextLabel final : public TextLabel {
 public:
-    void setStringValue(std::string_view text) override { _text = text; }
+    void setStringValue(std::string_view text) override {
+        _text = text;
+        ++_setCount;
+    }
 
     const std::string& text() const { return _text; }
 
+    // How often a text was set, also the same one again: a screen reader says each.
+    int setCount() const { return _setCount; }
+
 private:
     std::string _text;
+    int _setCount = 0;
 };
 
 // Asks its data source only in reloadData(), and shows the answers of that time.

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <set>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -46,14 +47,25 @@ public:
     // Sets the result of starting a tool; success at first.
     void startToolsWith(std::int32_t status) { _startStatus = status; }
 
+    // Ends the rights that were given: a person is asked anew.
+    void revokeRights() { ++_revocations; }
+
+    // Ends the tool that has run longest.
+    void endOldestTool(int status) {
+        if (_running.empty()) {
+            throw std::logic_error("no tool runs");
+        }
+        const auto ended = std::move(_running.front().second);
+        _running.erase(_running.begin()); // first, because it may destroy references
+        if (ended) {
+            ended(status);
+        }
+    }
+
     // Ends the running tools, each with this status, as a turn of the run loop would report it.
     void endTools(int status) {
         for (auto left = _running.size(); left > 0 && !_running.empty(); --left) {
-            const auto ended = std::move(_running.front().second);
-            _running.erase(_running.begin()); // first, because it may destroy references
-            if (ended) {
-                ended(status);
-            }
+            endOldestTool(status);
         }
     }
 
@@ -77,6 +89,9 @@ private:
 
         std::int32_t copyRights(const AuthorizationItem& right, std::uint32_t flags) override {
             _service._requests.push_back({right, flags});
+            if (std::exchange(_revocations, _service._revocations) != _service._revocations) {
+                _held.clear();
+            }
             if (_held.contains(right.value)) {
                 return errAuthorizationSuccess;
             }
@@ -107,6 +122,7 @@ private:
     private:
         ScriptedAuthorizationService& _service;
         std::set<std::string> _held; // values of the held rights
+        int _revocations = _service._revocations;
     };
 
     bool _isAbsent = false;
@@ -116,6 +132,7 @@ private:
     std::vector<Request> _requests;
     std::vector<Run> _runs;
     std::vector<std::pair<Reference*, AuthorizationReference::ToolEndAction>> _running;
+    int _revocations = 0;
     int _dialogs = 0;
     int _references = 0;
     int _aliveReferences = 0;

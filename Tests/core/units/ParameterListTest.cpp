@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <string>
-#include <utility>
-#include <vector>
 
 namespace kx {
 
@@ -21,79 +19,7 @@ std::ptrdiff_t linesIn(const std::string& text) {
     return std::count(text.begin(), text.end(), '\n');
 }
 
-using Names = std::vector<std::string_view>;
-
 } // namespace
-
-TEST(UnitParameterNames, AreTheEightNamesInTableOrder) {
-    Names names;
-    for (const UnitParameter parameter : allUnitParameters) {
-        names.push_back(nameOfUnitParameter(parameter));
-    }
-    EXPECT_EQ(names, (Names{"destination IP address", "destination MAC address",
-                            "destination Port number", "device Port number", "internal IP address",
-                            "internal MAC address", "serial number", "unit ID"}));
-}
-
-TEST(UnitParameterNames, AreFoundByTheirExactText) {
-    for (const UnitParameter parameter : allUnitParameters) {
-        EXPECT_EQ(unitParameterForName(nameOfUnitParameter(parameter)), parameter);
-    }
-    EXPECT_EQ(unitParameterForName("Unit ID"), std::nullopt);
-    EXPECT_EQ(unitParameterForName(""), std::nullopt);
-}
-
-TEST(UnitRecord, HasNothingAtFirst) {
-    const UnitRecord record;
-    for (const UnitParameter parameter : allUnitParameters) {
-        EXPECT_EQ(record.value(parameter), std::nullopt) << nameOfUnitParameter(parameter);
-    }
-}
-
-TEST(UnitRecord, KeepsAnEmptyTextApartFromNone) {
-    UnitRecord record;
-    record.setValue(UnitParameter::devicePortNumber, "");
-    EXPECT_EQ(value(record, UnitParameter::devicePortNumber), "");
-    EXPECT_NE(record, UnitRecord());
-}
-
-TEST(UnitRecord, ReplacesAndRemovesValues) {
-    UnitRecord record;
-    record.setValue(UnitParameter::internalIPAddress, "192.168.1.10");
-    record.setValue(UnitParameter::internalIPAddress, "10.0.0.7");
-    EXPECT_EQ(value(record, UnitParameter::internalIPAddress), "10.0.0.7");
-    record.removeValue(UnitParameter::internalIPAddress);
-    EXPECT_EQ(value(record, UnitParameter::internalIPAddress), "(absent)");
-    EXPECT_EQ(record, UnitRecord());
-}
-
-TEST(UnitRecord, ComparesByItsTextsAlone) {
-    UnitRecord left;
-    UnitRecord right;
-    left.setValue(UnitParameter::unitID, "a longer text");
-    left.setValue(UnitParameter::unitID, "42");
-    right.setValue(UnitParameter::unitID, "42");
-    EXPECT_EQ(left, right);
-    right.setValue(UnitParameter::unitID, "43");
-    EXPECT_NE(left, right);
-    right.removeValue(UnitParameter::unitID);
-    EXPECT_NE(left, right);
-}
-
-TEST(UnitRecord, KeepsZeroBytes) {
-    UnitRecord record;
-    const std::string text("ABC\0\0\0", 6);
-    record.setValue(UnitParameter::unitID, text);
-    EXPECT_EQ(record.value(UnitParameter::unitID), text);
-}
-
-TEST(UnitRecordDeathTest, TakesNoTextThatIsLongerThanAnyValue) {
-    UnitRecord record;
-    record.setValue(UnitParameter::unitID, std::string(17, 'x'));
-    EXPECT_EQ(record.value(UnitParameter::unitID), std::string(17, 'x'));
-    EXPECT_DEATH(record.setValue(UnitParameter::unitID, std::string(18, 'x')),
-                 "text.size\\(\\) <= longestText");
-}
 
 TEST(UnitParameterList, WithEveryItemGivesEveryValue) {
     const auto decoded = decodeUnitParameters(SampleUnit().parameterList());

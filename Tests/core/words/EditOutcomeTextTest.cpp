@@ -47,16 +47,17 @@ TEST(EditOutcomeText, SaysThatACommandWasAccepted) {
               "The unit accepted a command and was asked for its parameters.");
 }
 
-TEST(EditOutcomeText, SaysThatTheUnitCouldNotBeAsked) {
-    EditOutcome outcome = outcomeOf(unitID, "7", "42");
-    outcome.unitDidAccept(editedUnit, SendFailure{posixError(ENETUNREACH)});
-    EXPECT_EQ(textOfEditOutcome(outcome), "The unit accepted a command. It could not be asked for "
-                                          "its parameters: Network is unreachable.");
-    EditOutcome without = outcomeOf(unitID, "7", "42");
-    without.unitDidAccept(editedUnit, SendFailure());
-    EXPECT_EQ(textOfEditOutcome(without),
-              "The unit accepted a command. It could not be asked for its parameters: The UDP "
-              "listener is not running.");
+TEST(EditOutcomeText, SaysThatTheUnitCouldNotBeAskedAndEndsWithAFullStop) {
+    const auto text = [](const SendFailure& failure) {
+        EditOutcome outcome = outcomeOf(unitID, "7", "42");
+        outcome.unitDidAccept(editedUnit, failure);
+        return textOfEditOutcome(outcome);
+    };
+    EXPECT_EQ(text({posixError(ENETUNREACH)}),
+              "The unit accepted a command. It could not be asked for its parameters: Network is "
+              "unreachable.");
+    EXPECT_EQ(text({}), "The unit accepted a command. It could not be asked for its parameters: "
+                        "The UDP listener is not running.");
 }
 
 TEST(EditOutcomeText, ANewDevicePortIsSeenByDiscover) {

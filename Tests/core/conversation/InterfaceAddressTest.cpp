@@ -1,0 +1,74 @@
+#include "conversation/InterfaceAddress.h"
+
+#include "doubles/ScriptedNetworkInterfaces.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+class InterfaceAddressOfHost : public testing::Test {
+protected:
+    InterfaceAddressOfHost() {
+        interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
+    }
+
+    void set(const std::string& key, PropertyListValue value) {
+        interfaces.setData("service-eth0", "IPv4", key, std::move(value));
+    }
+
+    InterfaceAddress found(std::string_view name = "eth0") {
+        return addressOfInterface(interfaces, name);
+    }
+
+    ScriptedNetworkInterfaces interfaces;
+};
+
+} // namespace
+
+TEST_F(InterfaceAddressOfHost, IsTheFirstOneOfTheService) {
+    EXPECT_EQ(found().address, 0xC0A80114U);
+    EXPECT_EQ(found().mask, 0xFFFFFF00U);
+    set("Addresses", PropertyList{"10.1.2.3", "10.9.9.9"});
+    set("SubnetMasks", PropertyList{"255.255.0.0", "255.0.0.0"});
+    EXPECT_EQ(found().address, 0x0A010203U);
+    EXPECT_EQ(found().mask, 0xFFFF0000U);
+}
+
+TEST_F(InterfaceAddressOfHost, IsThatOfTheInterfaceThatIsNamed) {
+    interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
+    EXPECT_EQ(found("eth0").address, 0xC0A80114U);
+    EXPECT_EQ(found("wlan0").address, 0x0A010203U);
+}
+
+TEST_F(InterfaceAddressOfHost, IsNoneWithoutAService) {
+    EXPECT_EQ(found("tun0").address, 0U);
+    EXPECT_EQ(found("tun0").mask, 0U);
+    EXPECT_EQ(found("").address, 0U);
+}
+
+TEST_F(InterfaceAddressOfHost, AddressAndMaskAreMissingEachForItself) {
+    interfaces.setService("wlan0", "b");
+    interfaces.setData("b", "IPv4", "Addresses", PropertyList{"192.168.1.30"});
+    EXPECT_EQ(found("wlan0").address, 0xC0A8011EU);
+    EXPECT_EQ(found("wlan0").mask, 0U);
+    interfaces.setService("wlan1", "c");
+    interfaces.setData("c", "IPv4", "SubnetMasks", PropertyList{"255.255.255.0"});
+    EXPECT_EQ(found("wlan1").address, 0U);
+    EXPECT_EQ(found("wlan1").mask, 0xFFFFFF00U);
+}
+
+TEST_F(InterfaceAddressOfHost, ConfigurationOfAnUnexpectedShapeIsNoAddress) {
+    for (const PropertyListValue& shape :
+         {PropertyListValue("192.168.1.20"), PropertyListValue(PropertyList{}),
+          PropertyListValue(PropertyList{5}), PropertyListValue(PropertyList{"not an address"}),
+          PropertyListValue(PropertyDictionary{{"0", "192.168.1.20"}})}) {
+        set("Addresses", shape);
+        set("SubnetMasks", shape);
+        EXPECT_EQ(found().address, 0U) << shape.description();
+        EXPECT_EQ(found().mask, 0U) << shape.description();
+    }
+}
+
+} // namespace kx

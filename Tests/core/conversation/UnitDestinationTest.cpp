@@ -1,0 +1,71 @@
+#include "conversation/UnitDestination.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+using enum UnitParameter;
+
+constexpr std::uint32_t everybody = 0xC0A801FFU; // 192.168.1.255
+
+UnitDestination destinationOf(std::string_view address, std::string_view port) {
+    UnitRecord record;
+    record.setValue(internalIPAddress, address);
+    record.setValue(devicePortNumber, port);
+    return destinationOfUnit(&record, everybody);
+}
+
+} // namespace
+
+TEST(DirectedBroadcast, IsTheLastAddressOfTheSubnet) {
+    EXPECT_EQ(directedBroadcastAddress(0xC0A80114U, 0xFFFFFF00U), 0xC0A801FFU);
+    EXPECT_EQ(directedBroadcastAddress(0xC0A80114U, 0xFFFF0000U), 0xC0A8FFFFU);
+    EXPECT_EQ(directedBroadcastAddress(0xC0A80114U, 0xFFFFFFFFU), 0xC0A80114U);
+}
+
+TEST(DirectedBroadcast, IsEverywhereWithoutAMaskOrAnAddress) {
+    EXPECT_EQ(directedBroadcastAddress(0xC0A80114U, 0), limitedBroadcastAddress);
+    EXPECT_EQ(directedBroadcastAddress(0, 0xFFFFFF00U), limitedBroadcastAddress);
+    EXPECT_EQ(directedBroadcastAddress(0, 0), 0xFFFFFFFFU);
+}
+
+TEST(UnitDestination, IsWhatTheUnitHasToldOfItself) {
+    const UnitDestination unit = destinationOf("192.168.1.10", "10000");
+    EXPECT_EQ(unit.address, 0xC0A8010AU);
+    EXPECT_EQ(unit.port, 10000);
+}
+
+TEST(UnitDestination, WithoutARecordIsEverybodyOnTheDefaultPort) {
+    const UnitDestination nobody = destinationOfUnit(nullptr, everybody);
+    EXPECT_EQ(nobody.address, everybody);
+    EXPECT_EQ(nobody.port, 3520);
+}
+
+TEST(UnitDestination, WithoutAnAddressIsEverybodyOnTheUnitsOwnPort) {
+    UnitRecord record;
+    record.setValue(devicePortNumber, "10000");
+    const UnitDestination moving = destinationOfUnit(&record, everybody);
+    EXPECT_EQ(moving.address, everybody);
+    EXPECT_EQ(moving.port, 10000);
+}
+
+TEST(UnitDestination, WithoutAPortIsTheUnitOnTheDefaultPort) {
+    UnitRecord record;
+    record.setValue(internalIPAddress, "192.168.1.10");
+    EXPECT_EQ(destinationOfUnit(&record, everybody).address, 0xC0A8010AU);
+    EXPECT_EQ(destinationOfUnit(&record, everybody).port, 3520);
+    EXPECT_EQ(destinationOf("192.168.1.10", "").port, 3520);
+}
+
+TEST(UnitDestination, AnAddressThatDoesNotParseIsZeroAndNotEverybody) {
+    EXPECT_EQ(destinationOf("nowhere", "10000").address, 0U);
+    EXPECT_EQ(destinationOf("", "10000").address, 0U);
+}
+
+TEST(UnitDestination, APortIsCutTo16Bits) {
+    EXPECT_EQ(destinationOf("192.168.1.10", "70000").port, 4464);
+}
+
+} // namespace kx

@@ -1,0 +1,212 @@
+// What a session tells of the datagrams that come, and of those that do not.
+
+#include "SessionFixture.h"
+
+#include <cerrno>
+#include <chrono>
+#include <memory>
+#include <stdexcept>
+
+namespace kx {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+const std::string unitItself = "01 02 03 04 05 06 from 192.168.1.10:3520 by 3";
+
+class UnitSessionEvents : public SessionTest {
+protected:
+    UnitSessionEvents() { start(); }
+
+    // The system drops so many datagrams; one more is read, and the time of a count passes.
+    void drop(std::uint32_t datagrams) {
+        receiveBuffers.drop(systemCalls.lastDescriptor(), datagrams);
+        receive(SampleUnit().acknowledgement());
+        observer.taken();
+        runLoop.advanceBy(250ms);
+    }
+
+    // An endpoint from before, or from elsewhere.
+    std::shared_ptr<UDPEcho> stranger = UDPEcho::make(runLoop, hostResolver, systemCalls);
+};
+
+} // namespace
+
+TEST_F(UnitSessionEvents, EveryDatagramIsCountedBeforeItIsTold) {
+    EXPECT_EQ(eventsOf(textBytes("^^<U")), (Events{"datagram of 4", "ignored: too short"}));
+    EXPECT_EQ(eventsOf(textBytes("x^<U>")), (Events{"datagram of 5", "ignored: unknown"}));
+    EXPECT_EQ(eventsOf(SampleUnit().reply()),
+              (Events{"datagram of 81", "parameters of " + unitItself}));
+    EXPECT_EQ(eventsOf(SampleUnit().acknowledgement()),
+              (Events{"datagram of 24", "acceptance of " + unitItself}));
+    EXPECT_EQ(eventsOf(joined({SampleUnit().header(), textBytes("hello")})),
+              (Events{"datagram of 26", "\"$hello\" of " + unitItself}));
+    EXPECT_EQ(eventsOf(textBytes("^^<X>")),
+              (Events{"datagram of 5", "\"\" of (nobody) from 192.168.1.10:3520 by 3"}));
+    EXPECT_EQ(systemLog.lines(), Events{});
+}
+
+TEST_F(UnitSessionEvents, AnEventNamesTheSenderAndTheLinkOfItsOwnDatagram) {
+    systemCalls.queueDatagram(SampleUnit().acknowledgement(), dataForAddress(0x0A000007U, 4000), 7);
+    systemCalls.queueDatagram(SampleUnit().reply(), dataForAddress(0x0A000008U, 4001), 8);
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    EXPECT_EQ(
+        observer.events,
+        (Events{"datagram of 24", "acceptance of 01 02 03 04 05 06 from 10.0.0.7:4000 by 7",
+                "datagram of 81", "parameters of 01 02 03 04 05 06 from 10.0.0.8:4001 by 8"}));
+}
+
+TEST_F(UnitSessionEvents, ParametersAreInTheRegistryBeforeTheyAreTold) {
+    bool wereThere = false;
+    inside("parameters of " + unitItself,
+           [&] { wereThere = registry.find("01 02 03 04 05 06") != nullptr; });
+    receive(SampleUnit().reply());
+    EXPECT_TRUE(wereThere);
+    EXPECT_EQ(*registry.find("01 02 03 04 05 06"),
+              decodeUnitParameters(SampleUnit().parameterList()).record);
+    EXPECT_EQ(observer.lastParameters.record, *registry.find("01 02 03 04 05 06"));
+}
+
+TEST_F(UnitSessionEvents, ParametersWithoutASerialNumberAreToldAndNotKept) {
+    const Bytes list = item("<M>", {1, 2, 3, 4, 5, 6});
+    EXPECT_EQ(eventsOf(joined({SampleUnit().header(), list})),
+              (Events{"datagram of 30", "parameters of " + unitItself}));
+    EXPECT_EQ(observer.lastParameters.displayText, "\n\tinternal MAC address: 01:02:03:04:05:06");
+    EXPECT_TRUE(registry.records().empty());
+}
+
+TEST_F(UnitSessionEvents, ParametersComeWithTheNamesThatTheFrontShows) {
+    ShownParameterNames names;
+    names[indexOf(UnitParameter::internalMACAddress)] = "eigene MAC-Adresse";
+    session.setShownNames(names);
+    receive(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6})}));
+    EXPECT_EQ(observer.lastParameters.displayText, "\n\teigene MAC-Adresse: 01:02:03:04:05:06");
+}
+
+TEST_F(UnitSessionEvents, ADatagramThatBreaksItsFormatIsCountedAndLeftToTheSystemLog) {
+    Bytes cutShort = SampleUnit().reply();
+    cutShort.pop_back();
+    EXPECT_EQ(eventsOf(cutShort), Events{"datagram of 80"});
+    EXPECT_EQ(systemLog.lines(), Events{"Exception during echo:didReceiveData:fromAddress: "
+                                        "range {3, 6} exceeds data length 8"});
+    EXPECT_TRUE(registry.records().empty());
+}
+
+TEST_F(UnitSessionEvents, AnExceptionOfThePlatformInsideAnEventGoesToTheSystemLog) {
+    for (const std::string& event :
+         {"parameters of " + unitItself, "acceptance of " + unitItself}) {
+        inside(event, [] { throw PlatformException("no such text"); });
+        receive(SampleUnit().reply());
+        receive(SampleUnit().acknowledgement());
+    }
+    EXPECT_EQ(systemLog.lines(),
+              Events(2, "Exception during echo:didReceiveData:fromAddress: no such text"));
+    EXPECT_TRUE(session.isListening());
+}
+
+TEST_F(UnitSessionEvents, OtherExceptionsInsideAnEventArePassedOn) {
+    inside("acceptance of " + unitItself, [] { throw std::logic_error("a mistake"); });
+    EXPECT_THROW(receive(SampleUnit().acknowledgement()), std::logic_error);
+    EXPECT_EQ(systemLog.lines(), Events{});
+}
+
+TEST_F(UnitSessionEvents, AFrontThatStopsInsideADatagramHearsNoMoreOfIt) {
+    inside("datagram of 81", [&] { session.stop(); });
+    EXPECT_EQ(eventsOf(SampleUnit().reply()), Events{"datagram of 81"});
+    EXPECT_TRUE(registry.records().empty());
+}
+
+TEST_F(UnitSessionEvents, AFrontThatStartsAnewInsideADatagramHearsNoMoreOfIt) {
+    inside("datagram of 81", [&] { session.start(3521); });
+    EXPECT_EQ(eventsOf(SampleUnit().reply()),
+              (Events{"datagram of 81", "started at 0.0.0.0:3521", "can broadcast"}));
+    EXPECT_TRUE(registry.records().empty());
+    EXPECT_EQ(eventsOf(SampleUnit().reply()).back(), "parameters of " + unitItself);
+}
+
+TEST_F(UnitSessionEvents, AFailedReadIsToldAndTheSessionGoesOn) {
+    systemCalls.failNext(Operation::receiveFrom, ECONNREFUSED);
+    runLoop.makeReadable(systemCalls.lastDescriptor());
+    EXPECT_EQ(observer.events,
+              Events{"receive error: " + posixError(ECONNREFUSED).localizedDescription()});
+    EXPECT_EQ(eventsOf(SampleUnit().reply()).size(), 2U);
+}
+
+TEST_F(UnitSessionEvents, AnotherEndpointHasNothingToTellButItsErrors) {
+    session.echoDidStartWithAddress(*stranger, dataForAddress(0, 3520));
+    session.echoDidReceiveDataFromAddress(*stranger, SampleUnit().reply(), {});
+    session.echoDidSendDataToAddress(*stranger, {}, {});
+    EXPECT_EQ(observer.events, Events{});
+    EXPECT_TRUE(registry.records().empty());
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+
+    session.echoDidReceiveError(*stranger, posixError(EIO));
+    session.echoDidFailToSendDataToAddressError(*stranger, {}, {}, posixError(EIO));
+    session.echoDidStopWithError(*stranger, posixError(EIO));
+    const std::string reason = posixError(EIO).localizedDescription();
+    EXPECT_EQ(observer.events,
+              (Events{"receive error: " + reason, "not sent: " + reason, "stopped: " + reason}));
+    EXPECT_TRUE(session.isListening());
+}
+
+TEST_F(UnitSessionEvents, DropsAreToldWhenTheirNumberChanges) {
+    drop(5);
+    EXPECT_EQ(observer.taken(), Events{"dropped 5"});
+    drop(0);
+    EXPECT_EQ(observer.taken(), Events{});
+    drop(1);
+    EXPECT_EQ(observer.taken(), Events{"dropped 6"});
+}
+
+TEST_F(UnitSessionEvents, AStartForgetsTheDropsAndSaysSoFirst) {
+    session.start(3520);
+    EXPECT_EQ(observer.taken(), (Events{"started at 0.0.0.0:3520", "can broadcast"}));
+    drop(5);
+    observer.taken();
+    session.start(3520);
+    EXPECT_EQ(observer.taken(), (Events{"dropped 0", "started at 0.0.0.0:3520", "can broadcast"}));
+}
+
+TEST_F(UnitSessionEvents, ABurstIsCountedOnceAndRestIsNotCounted) {
+    for (int reply = 0; reply < 100; ++reply) {
+        receive(SampleUnit().acknowledgement());
+    }
+    runLoop.advanceBy(249ms);
+    EXPECT_EQ(receiveBuffers.lookCount(), 0);
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(receiveBuffers.lookCount(), 1);
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+}
+
+TEST_F(UnitSessionEvents, ASystemThatCannotCountIsNotAskedForSentences) {
+    receiveBuffers.tellNothing();
+    drop(5);
+    EXPECT_EQ(receiveBuffers.lookCount(), 1);
+    EXPECT_EQ(observer.events, Events{});
+}
+
+TEST(UnitSessionObserver, NeedsNoMethodAtAll) {
+    ManualRunLoop runLoop;
+    ScriptedHostResolver hostResolver;
+    ScriptedSystemCalls systemCalls;
+    UnitRegistry registry;
+    UnitSessionObserver silent;
+    UnitSession session({runLoop, hostResolver, systemCalls}, registry, silent);
+    systemCalls.failNext(ScriptedSystemCalls::Operation::enableBroadcast, EPERM);
+    session.start(3520);
+    systemCalls.failNext(ScriptedSystemCalls::Operation::bind, EADDRINUSE);
+    session.start(3520);
+    session.send("^^IdX", 0, 3520);
+    session.start(3520);
+    session.send("^^IdX", 0, 3520);
+    for (const Bytes& datagram : {textBytes("x"), textBytes("^^<X>"), SampleUnit().reply(),
+                                  SampleUnit().acknowledgement(), Bytes()}) {
+        systemCalls.queueDatagram(datagram, dataForAddress(0, 3520));
+        runLoop.makeReadable(systemCalls.lastDescriptor());
+    }
+    EXPECT_EQ(registry.records().size(), 1U);
+}
+
+} // namespace kx
