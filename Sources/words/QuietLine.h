@@ -42,8 +42,8 @@ public:
     // A person chose, typed or pressed something, so the present sentence ends.
     void showForecast(std::string text);
 
-    // Replaces a forecast that stands, after a unit or the network changed what it says. Shows it only
-    // when the text is another one.
+    // Replaces a forecast that stands, after a unit or the network changed what it says. Shows it
+    // only when the text is another one.
     void refreshForecast(std::string text);
 
     // An empty message ends the present sentence and leaves the line empty.

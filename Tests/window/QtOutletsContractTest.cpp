@@ -8,11 +8,11 @@
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
-#include "platform/qtcore/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QAbstractButton>
 #include <QApplication>

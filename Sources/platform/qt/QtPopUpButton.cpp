@@ -1,7 +1,7 @@
 #include "platform/qt/QtPopUpButton.h"
 
-#include "platform/qtcore/QtText.h"
 #include "platform/qt/UniformListView.h"
+#include "platform/qtcore/QtText.h"
 
 #include <algorithm>
 #include <functional>
