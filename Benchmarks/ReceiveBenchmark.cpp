@@ -1,5 +1,6 @@
 // Receives datagrams over loopback through the endpoint, on both run loops, compared with a bare
-// loop of epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
+// loop of epoll_wait(2) and recvmsg(2) that also takes one datagram for each event, and also learns
+// its link. How much the system takes for the link is a comparison of its own.
 
 #include "Comparison.h"
 #include "LoopbackBatches.h"
@@ -14,6 +15,7 @@
 #include <netinet/in.h>
 #include <sys/epoll.h>
 #include <sys/socket.h>
+#include <sys/uio.h>
 #include <unistd.h>
 
 #include <QApplication>
@@ -45,6 +47,7 @@ void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
         state.SkipWithError("the port is taken");
         return;
     }
+    systemCalls.tellLinks(echo->nativeSocket()); // as for a session with units
     timeBatches(state, [&] {
         const int wanted = counter.received + batch;
         while (counter.received < wanted) {
@@ -53,25 +56,50 @@ void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
     });
 }
 
-void receiveBare(benchmark::State& state) {
+using Buffer = std::array<char, 65536>;
+
+// What the endpoint asks of the system, and no more: the datagram, its sender and its link.
+void receiveWithLink(int sock, Buffer& buffer) {
+    sockaddr_in sender{};
+    iovec bytes{buffer.data(), buffer.size()};
+    alignas(cmsghdr) std::array<char, CMSG_SPACE(sizeof(in_pktinfo))> control;
+    msghdr message{};
+    message.msg_name = &sender;
+    message.msg_namelen = sizeof sender;
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    ::recvmsg(sock, &message, 0);
+    benchmark::DoNotOptimize(control.data());
+}
+
+void receiveWithoutLink(int sock, Buffer& buffer) {
+    sockaddr_in sender{};
+    socklen_t length = sizeof sender;
+    ::recvfrom(sock, buffer.data(), buffer.size(), 0, reinterpret_cast<sockaddr*>(&sender),
+               &length);
+}
+
+template<void (*receive)(int sock, Buffer& buffer)>
+void receiveOnBareEpoll(benchmark::State& state) {
     const int sock = ::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    const std::int32_t wantsLink = receive == receiveWithLink ? 1 : 0;
     sockaddr_in address{};
     address.sin_family = AF_INET;
     address.sin_port = htons(port);
     const int poller = ::epoll_create1(EPOLL_CLOEXEC);
     epoll_event event{EPOLLIN, {}};
-    if (::bind(sock, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
+    if (::setsockopt(sock, IPPROTO_IP, IP_PKTINFO, &wantsLink, sizeof wantsLink) != 0 ||
+        ::bind(sock, reinterpret_cast<sockaddr*>(&address), sizeof address) != 0 ||
         ::epoll_ctl(poller, EPOLL_CTL_ADD, sock, &event) != 0) {
         state.SkipWithError("the port is taken");
     } else {
         timeBatches(state, [&] {
-            std::array<char, 65536> buffer; // NOLINT: filled by the system
+            Buffer buffer; // NOLINT: filled by the system
             for (int received = 0; received < batch; ++received) {
                 ::epoll_wait(poller, &event, 1, -1);
-                sockaddr_storage sender{};
-                socklen_t length = sizeof sender;
-                ::recvfrom(sock, buffer.data(), buffer.size(), 0,
-                           reinterpret_cast<sockaddr*>(&sender), &length);
+                receive(sock, buffer);
                 benchmark::DoNotOptimize(buffer.data());
             }
         });
@@ -79,7 +107,16 @@ void receiveBare(benchmark::State& state) {
     ::close(poller);
     ::close(sock);
 }
+
+void receiveBare(benchmark::State& state) {
+    receiveOnBareEpoll<receiveWithLink>(state);
+}
 BENCHMARK(receiveBare)->UseManualTime();
+
+void receiveBareWithoutLink(benchmark::State& state) {
+    receiveOnBareEpoll<receiveWithoutLink>(state);
+}
+BENCHMARK(receiveBareWithoutLink)->UseManualTime();
 
 void receiveOnPollLoop(benchmark::State& state) {
     PollRunLoop runLoop;
@@ -98,6 +135,8 @@ const Comparison pollComparison("receive through the endpoint on the poll loop, 
                                 "receiveOnPollLoop", "receiveBare");
 const Comparison qtComparison("receive through the endpoint on the Qt loop, beside bare epoll",
                               "receiveOnQtLoop", "receiveBare");
+const Comparison linkComparison("receive on bare epoll with the link, beside without",
+                                "receiveBare", "receiveBareWithoutLink");
 
 } // namespace
 

@@ -177,8 +177,9 @@ void UDPEcho::_scheduleSocket(int sock) {
     require((_cfSocket->flags() & kCFSocketCloseOnInvalidate) != 0,
             "CFSocketGetSocketFlags(self->_cfSocket) & kCFSocketCloseOnInvalidate", sourcePath);
 
+    // The delegate may release the endpoint inside the event. Nothing of it is used afterwards, so
+    // the callback need not hold it, which would cost two atomic operations for each datagram.
     auto rls = _runLoop.watchForReading(sock, [this, socket = _cfSocket.get()] {
-        const auto self = shared_from_this(); // the delegate may release the endpoint
         SocketReadCallback(socket, SocketCallbackType::read, nullptr, nullptr, this);
     });
     require(rls != nullptr, "rls != NULL", sourcePath);
@@ -330,7 +331,7 @@ void UDPEcho::_stopWithStreamError(const StreamError& streamError) {
 
 void SocketReadCallback(const EndpointSocket* socket, SocketCallbackType type, const Bytes* address,
                         const void* data, CallbackInfo* info) {
-    auto* const obj = dynamic_cast<UDPEcho*>(info);
+    auto* const obj = info != nullptr ? info->endpoint() : nullptr;
     require(obj != nullptr, "[obj isKindOfClass:[UDPEcho class]]", sourcePath);
     require(socket == obj->_cfSocket.get(), "s == obj->_cfSocket", sourcePath);
     require(type == SocketCallbackType::read, "type == kCFSocketReadCallBack", sourcePath);
@@ -341,7 +342,7 @@ void SocketReadCallback(const EndpointSocket* socket, SocketCallbackType type, c
 
 void HostResolveCallback(const HostResolver::Request* host, HostInfoType typeInfo,
                          const HostResolution& resolution, CallbackInfo* info) {
-    auto* const obj = dynamic_cast<UDPEcho*>(info);
+    auto* const obj = info != nullptr ? info->endpoint() : nullptr;
     require(obj != nullptr, "[obj isKindOfClass:[UDPEcho class]]", sourcePath);
     require(host == obj->_cfHost.get(), "theHost == obj->_cfHost", sourcePath);
     require(typeInfo == HostInfoType::addresses, "typeInfo == kCFHostAddresses", sourcePath);

@@ -83,6 +83,10 @@ public:
 class CallbackInfo {
 public:
     virtual ~CallbackInfo() = default;
+
+    // The object itself when it is an endpoint, otherwise null. A dynamic cast would take longer
+    // than everything else that a callback checks.
+    virtual UDPEcho* endpoint() { return nullptr; }
 };
 
 enum class SocketCallbackType { none = 0, read = 1, accept = 2, data = 3, connect = 4 };
@@ -116,6 +120,7 @@ public:
 
     // Stops without a report to the delegate.
     ~UDPEcho() override;
+    UDPEcho* endpoint() final { return this; }
     UDPEcho(const UDPEcho&) = delete;
     UDPEcho& operator=(const UDPEcho&) = delete;
 

@@ -14,14 +14,13 @@ constexpr std::size_t ipv6AddressOffset = 8;
 constexpr std::size_t ipv6AddressEnd = ipv6AddressOffset + std::tuple_size_v<IPv6Octets>;
 static_assert(ipv4AddressEnd <= ipv4RecordLength && ipv6AddressEnd <= ipv6RecordLength);
 
-// A zero-filled record with its length, family and port.
-Bytes recordForPort(std::size_t length, int family, std::uint16_t port) {
-    Bytes record(length);
+// Makes `record` a zero-filled one with its length, family and port.
+void setPort(Bytes& record, std::size_t length, int family, std::uint16_t port) {
+    record.assign(length, 0);
     record[0] = static_cast<std::uint8_t>(length);
     record[familyOffset] = static_cast<std::uint8_t>(family);
     record[portOffset] = static_cast<std::uint8_t>(port >> 8U);
     record[portOffset + 1] = static_cast<std::uint8_t>(port & 0xFFU);
-    return record;
 }
 
 std::uint16_t portOfRecord(ByteView record) {
@@ -35,16 +34,22 @@ int familyOfRecord(ByteView record) {
 }
 
 Bytes dataForAddress(std::uint32_t address, std::uint16_t port) {
-    Bytes record = recordForPort(ipv4RecordLength, addressFamilyIPv4, port);
+    Bytes record;
+    setRecord(record, address, port);
+    return record;
+}
+
+void setRecord(Bytes& record, std::uint32_t address, std::uint16_t port) {
+    setPort(record, ipv4RecordLength, addressFamilyIPv4, port);
     for (std::size_t i = ipv4AddressEnd; i > ipv4AddressOffset; --i) {
         record[i - 1] = static_cast<std::uint8_t>(address & 0xFFU);
         address >>= 8U;
     }
-    return record;
 }
 
 Bytes dataForAddress6(const IPv6Octets& address, std::uint16_t port) {
-    Bytes record = recordForPort(ipv6RecordLength, addressFamilyIPv6, port);
+    Bytes record;
+    setPort(record, ipv6RecordLength, addressFamilyIPv6, port);
     std::copy(address.begin(), address.end(), record.begin() + ipv6AddressOffset);
     return record;
 }

@@ -35,6 +35,9 @@ int familyOfRecord(ByteView record);
 // The IPv4 record of an address and a port.
 Bytes dataForAddress(std::uint32_t address, std::uint16_t port);
 
+// Makes `record` the same, in the storage that it has.
+void setRecord(Bytes& record, std::uint32_t address, std::uint16_t port);
+
 // The IPv6 record of an address and a port.
 Bytes dataForAddress6(const IPv6Octets& address, std::uint16_t port);
 

@@ -88,7 +88,7 @@ void PollRunLoop::stop() {
     _running = false;
 }
 
-bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
+bool PollRunLoop::runOnce(const std::optional<milliseconds>& longestWait) {
     std::vector<std::uint64_t> ready = std::exchange(_ready, {});
     ready.clear();
     findReady(pollDescriptors(pollTimeout(longestWait)), ready);
@@ -101,7 +101,7 @@ bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
 }
 
 // Rounded up, because a wait that ends just before the due time would turn the loop for nothing.
-int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
+int PollRunLoop::pollTimeout(const std::optional<milliseconds>& longestWait) const {
     auto wait = longestWait;
     if (!_calls.empty() && !isHeld()) {
         const auto untilDue =

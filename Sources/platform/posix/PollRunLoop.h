@@ -46,7 +46,7 @@ public:
 
     // Runs one turn, which waits no longer than `longestWait`, or without a limit when it is
     // absent. False when the wait ended without anything to call.
-    bool runOnce(std::optional<std::chrono::milliseconds> longestWait = std::nullopt);
+    bool runOnce(const std::optional<std::chrono::milliseconds>& longestWait = std::nullopt);
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -64,7 +64,7 @@ private:
 
     Watches::iterator findWatch(std::uint64_t order);
     void endWatch(std::uint64_t order);
-    int pollTimeout(std::optional<std::chrono::milliseconds> longestWait) const;
+    int pollTimeout(const std::optional<std::chrono::milliseconds>& longestWait) const;
     int pollDescriptors(int timeout);
     void findReady(int count, std::vector<std::uint64_t>& ready);
     bool callReadable(const std::vector<std::uint64_t>& ready);
