@@ -199,6 +199,31 @@ TEST(EditForecast, WithoutAUnitOrItsAddressNothingElseIsSent) {
     }
 }
 
+TEST(EditForecast, NothingIsSentForAParameterThatNoCommandChanges) {
+    EXPECT_EQ(forecastOfEdit(EditRefusal::notEditable, knownUnit()),
+              "Apply sends nothing: no command changes this parameter.");
+}
+
+TEST(EditForecast, NothingIsSentWhileTheListenerIsStopped) {
+    CommandTarget target = knownUnit();
+    target.isListening = false;
+    const std::string nothing = "Apply sends nothing: the UDP listener is not running.";
+    EXPECT_EQ(forecast(unitID, "7", target), nothing);
+    EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", target),
+              "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
+              "administrator rights. " +
+                  nothing);
+    EXPECT_EQ(forecast(unitID, "", target), "Apply sends nothing: the value is empty.");
+}
+
+TEST(EditForecast, ASerialNumberThatAnotherUnitHasIsSaidToBe) {
+    CommandTarget target = knownUnit();
+    target.newSerialNumberIsTaken = true;
+    EXPECT_EQ(forecast(serialNumber, "0a 0b 0c 0d 0e 0f", target),
+              "Apply sends ^^IdS0a0b0c0d0e0f: serial number 0a 0b 0c 0d 0e 0f, which another unit "
+              "has.");
+}
+
 TEST(EditForecast, AnOverlongValueMakesAShortNote) {
     for (const UnitParameter parameter : allUnitParameters) {
         for (const char filling : {'7', 'A', '\n', '%'}) {
