@@ -7,14 +7,14 @@
 
 namespace kx {
 
-// Adds a row to the table: the time of the benchmark named `ours` divided by that of `reference`.
+// Adds a row to the table: the time of the benchmark `ours` divided by the time of `reference`.
 // Called at static initialisation, beside the benchmarks.
 struct Comparison {
     Comparison(std::string what, std::string ours, std::string reference);
 };
 
-// Adds a row to the table: a ratio that the benchmark itself finds and leaves in its counter
-// "ratio". Called at static initialisation, too.
+// Adds a row to the table: a ratio that the benchmark finds itself and leaves in its counter
+// "ratio". Also called at static initialisation.
 struct MeasuredRatio {
     MeasuredRatio(std::string what, std::string benchmark);
 };

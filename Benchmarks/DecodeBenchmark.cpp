@@ -1,8 +1,8 @@
-// Decoding the 81-byte reply's parameter list, beside the code that one would write first: a map
-// from name to text, and a stream for each text.
+// Decoding the 81-byte reply's parameter list, compared with a straightforward decoder: a map from
+// name to text, and a stream for each text.
 
 #include "Comparison.h"
-#include "UnitParameters.h"
+#include "units/ParameterList.h"
 
 #include <benchmark/benchmark.h>
 
@@ -83,11 +83,11 @@ void decodePlainly(benchmark::State& state) {
 }
 BENCHMARK(decodePlainly);
 
-// With names, as the application decodes for its log.
+// Decodes with names, as the application does for its log.
 void decode(benchmark::State& state) {
     ShownParameterNames names;
     for (const UnitParameter parameter : allUnitParameters) {
-        names[static_cast<std::size_t>(parameter)] = nameOfUnitParameter(parameter);
+        names[indexOf(parameter)] = nameOfUnitParameter(parameter);
     }
     for (auto _ : state) {
         benchmark::DoNotOptimize(decodeUnitParameters(parameterList, &names));

@@ -1,5 +1,5 @@
-// What the start of the application is compared with: an empty window with the same kinds and
-// numbers of controls, and nothing behind them.
+// The reference for the start of the application: an empty window with the same kinds and numbers
+// of controls, and no code behind them.
 
 #include <QApplication>
 #include <QComboBox>

@@ -41,7 +41,7 @@ public:
         const auto* const widget = qobject_cast<QWidget*>(watched);
         if (event->type() == QEvent::Paint && widget != nullptr && widget->isWindow()) {
             qApp->removeEventFilter(this);
-            // After the paint itself has been handled.
+            // The report comes after the paint itself has been handled.
             QTimer::singleShot(0, this, report);
         }
         return false;

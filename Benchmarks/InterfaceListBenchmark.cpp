@@ -1,8 +1,8 @@
-// Listing the interfaces of a host as the pop-up does when it opens, and with an identifier for
-// each as the full enumeration does, with 10, 100 and 1,000 links: bridges with an address each, in
-// a network namespace that this program makes. Each round reads the links from the kernel anew, as
-// it is after a change. What is timed is the processor, the kernel's work included, so that other
-// programs do not disturb.
+// Lists the interfaces of a host with 10, 100 and 1,000 links in two ways: as the pop-up does when
+// it opens, and with an identifier for each as the full enumeration does. The links are bridges
+// with an address each, in a network namespace that this program makes. Each round reads the links
+// from the kernel again, as after a change. The benchmark counts processor time, including the
+// kernel's work, so that other programs do not disturb.
 
 #include "Comparison.h"
 #include "System Configuration/SystemConfiguration.h"
@@ -30,7 +30,8 @@ int openNetwork() {
     return ::open("/proc/self/ns/net", O_RDONLY | O_CLOEXEC);
 }
 
-// A network with links. Made once, because that takes longer than all that is timed.
+// A network with links. It is made once, because making it takes longer than everything that is
+// timed.
 class HostWithLinks {
 public:
     static HostWithLinks& withCount(long count) {
@@ -57,7 +58,7 @@ public:
     HostWithLinks(const HostWithLinks&) = delete;
     HostWithLinks& operator=(const HostWithLinks&) = delete;
 
-    // While it lives, this thread is on the host.
+    // While this object lives, the thread is on the host.
     class Visit {
     public:
         explicit Visit(const HostWithLinks& host) {
@@ -71,7 +72,7 @@ public:
         Visit(const Visit&) = delete;
         Visit& operator=(const Visit&) = delete;
 
-        // So that the links are read anew.
+        // Makes the next listing read the links again.
         void change() {
             PrivateNetwork::run(_isUp ? "ip link set lo down" : "ip link set lo up");
             _isUp = !_isUp;
@@ -98,7 +99,7 @@ Titles popUpTitles(SystemConfiguration& configuration) {
     return configuration.bsdTitlesAndServiceIDs(nullptr);
 }
 
-// As the first one is, which knows no identifiers yet.
+// Lists all titles as the first listing does, which knows no identifiers yet.
 Titles allTitles(SystemConfiguration& configuration) {
     configuration.purgeInterfaceIDs();
     return configuration.interfaceTitlesAndServiceIDs(nullptr);

@@ -1,5 +1,5 @@
 // The event log in the real window: replies with the drawer open and closed, appending to long
-// logs, the memory that they take, opening the drawer on them.
+// logs, the memory that long logs take, and opening the drawer on them.
 
 #include "Comparison.h"
 #include "LogWindow.h"
@@ -19,13 +19,13 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using Seconds = std::chrono::duration<double>;
 
-// Of datagrams, as the Qt loop hands them over between two turns of Qt's.
+// The number of datagrams that the Qt loop hands over between two turns of Qt's own loop.
 constexpr std::size_t batch = 32;
 
 constexpr int longLog = 1'000'000;
 constexpr int shortLog = 100'000;
 
-// The longest turn of the loop meanwhile.
+// Returns the longest turn of the loop meanwhile.
 Seconds receiveReplies(LogWindow& window, const std::vector<Bytes>& replies) {
     Seconds longest{};
     for (std::size_t next = 0; next < replies.size();) {
@@ -50,7 +50,7 @@ void receiveReplies(benchmark::State& state, bool drawerIsOpen) {
         const auto before = processorTime();
         receiveReplies(window, replies);
         state.SetIterationTime((processorTime() - before).count());
-        window.controller().discoverButton(); // empties the log
+        window.controller().discoverButton(); // this empties the log
         LogWindow::handleEvents();
     }
     state.SetItemsProcessed(state.iterations() * static_cast<std::int64_t>(replies.size()));
@@ -86,10 +86,10 @@ const MeasuredRatio
     longestTurnRow("10,000 replies, drawer open: longest turn of the loop, beside 50 ms",
                    "longestTurnDuringReplies");
 
-// Fresh pages of memory cost more than used ones. What earlier rounds have left would serve the
-// shorter log only, so both get fresh ones.
+// New pages of memory cost more than used ones. Memory left by earlier rounds would be enough only
+// for the shorter log, so both logs get new pages.
 void forgetFreedMemory() {
-    mallopt(M_MMAP_THRESHOLD, 1 << 20); // once set, it no longer grows with what was freed
+    mallopt(M_MMAP_THRESHOLD, 1 << 20); // once set, it does not grow with freed memory
     malloc_trim(0);
 }
 
@@ -126,14 +126,14 @@ BENCHMARK(appendToLongLog)->UseManualTime()->Iterations(2)->Unit(benchmark::kMil
 const Comparison appendRow("append to a log of 1,000,000 lines beside one of 100,000, drawer open",
                            "appendToLongLog", "appendToShortLog");
 
-// What the allocator has handed out.
+// The bytes that the allocator has given out.
 double allocatedBytes() {
     const struct mallinfo2 allocated = mallinfo2();
     return static_cast<double>(allocated.uordblks) + static_cast<double>(allocated.hblkhd);
 }
 
-// The controller's own copy of the text included. At the worst moment from half of the log on: what
-// grows by doubling takes most just after it has grown.
+// Measures the most memory over the second half of the log, including the controller's own copy of
+// the text. A buffer that grows by doubling takes the most memory just after it has grown.
 void memoryOfLongLog(benchmark::State& state) {
     constexpr int step = 1000;
     double worst = 0;
@@ -157,7 +157,7 @@ BENCHMARK(memoryOfLongLog)->Iterations(1)->Unit(benchmark::kMillisecond);
 const MeasuredRatio memoryRow("memory of a log of 1,000,000 lines, drawer open, beside its text",
                               "memoryOfLongLog");
 
-// Says when the first paint of a widget is over.
+// Reports when the first paint of a widget is over.
 class FirstPaint final : public QObject {
 public:
     explicit FirstPaint(QObject& widget)

@@ -1,5 +1,5 @@
-// The real window and the real controller off screen, with a scripted network: what the benchmarks
-// of the event log have in common.
+// The real window and the real controller off screen, with a scripted network: the common part of
+// the benchmarks of the event log.
 
 #pragma once
 
@@ -23,16 +23,17 @@ public:
     LogWindow(const LogWindow&) = delete;
     LogWindow& operator=(const LogWindow&) = delete;
 
-    // Waits until the drawer is out.
+    // Waits until the drawer is fully open.
     void openDrawer();
 
-    // A whole line, as long as the longest of those that come with every reply.
+    // Appends whole lines, as long as the longest line of a reply's entry.
     void appendLines(int count);
 
-    // What the Qt loop does between two batches of datagrams.
+    // Does the work of the Qt loop between two batches of datagrams.
     static void handleEvents();
 
-    // Handles events until the view shows the end of the log. At once with the drawer closed.
+    // Handles events until the view shows the end of the log. Returns at once with the drawer
+    // closed.
     void showEnd();
 
     KXConfigAppDelegate& controller() { return _controller; }
@@ -52,7 +53,7 @@ private:
     KXConfigAppDelegate _controller;
 };
 
-// Replies of 81 bytes, each of another unit.
+// Replies of 81 bytes, each from another unit.
 std::vector<Bytes> repliesOfUnits(int count);
 
 } // namespace kx

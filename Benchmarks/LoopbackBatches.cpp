@@ -12,7 +12,7 @@ namespace kx {
 
 namespace {
 
-// Sends from a socket of its own to the port on loopback.
+// Sends from its own socket to the port on loopback.
 class Sender {
 public:
     Sender()

@@ -1,6 +1,6 @@
 // Batches of datagrams over loopback, for the benchmarks that receive them.
 //
-// Each round sends a batch that fits into the default receive buffer, and times only its reception.
+// Each round sends a batch that fits into the default receive buffer, and times only the reception.
 
 #pragma once
 
@@ -12,14 +12,15 @@
 namespace kx {
 
 inline constexpr int batch = 128;
-inline constexpr std::size_t datagramLength = 81; // that of a unit's reply
+inline constexpr std::size_t datagramLength = 81; // length of a unit's reply
 inline constexpr std::uint16_t port = 35200;
 inline constexpr std::uint32_t loopbackAddress = 0x7F000001;
 
 // Times `receiveBatch`, which returns when a whole batch has arrived at `port`.
 void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch);
 
-// The same for a receiver that takes its own time: `receiveBatch` returns the seconds it took.
+// The same for a receiver that measures its own time: `receiveBatch` returns the seconds that it
+// took.
 void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch);
 
 } // namespace kx

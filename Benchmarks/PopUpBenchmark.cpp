@@ -1,10 +1,11 @@
-// The unit pop-up with as many units as a network can hold: filling it, beside adding plain items
-// to a combo box, and opening its list for the first time, beside opening one of a hundred units.
+// The unit pop-up with as many units as a network can hold. Filling it is compared with adding
+// plain items to a combo box. Opening its list for the first time is compared with opening a list
+// of a hundred units.
 
 #include "Comparison.h"
 #include "ProcessorTime.h"
 #include "platform/qt/QtPopUpButton.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <benchmark/benchmark.h>
 
@@ -29,7 +30,7 @@ TitleList serialNumbers(int count) {
 
 constexpr int everyUnit = 65'536;
 
-// Without what comes before and after, such as releasing the items.
+// Times the work alone, without the steps before and after it, such as releasing the items.
 template<class Work>
 void time(benchmark::State& state, Work work) {
     const auto before = processorTime();
@@ -65,7 +66,7 @@ BENCHMARK(fillUnitPopUp)->UseManualTime()->Unit(benchmark::kMillisecond);
 const Comparison fillRow("fill the unit pop-up with 65,536 units, beside adding plain items",
                          "fillUnitPopUp", "fillPlainComboBox");
 
-// Up to the first paint of the list.
+// Times the opening up to the first paint of the list.
 void openUnitPopUp(benchmark::State& state, int units) {
     const auto titles = serialNumbers(units);
     for (auto _ : state) {

@@ -1,5 +1,5 @@
-// The processor's time that this process has used, for work that would otherwise be measured with
-// the waiting in between, such as for the next frame of a view.
+// The processor time that this process has used. It is for work whose measured time would otherwise
+// include waiting, for example for the next frame of a view.
 
 #pragma once
 

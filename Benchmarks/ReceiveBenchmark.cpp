@@ -1,5 +1,5 @@
-// Receiving datagrams over loopback through the endpoint, on both run loops, beside a bare loop of
-// epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
+// Receives datagrams over loopback through the endpoint, on both run loops, compared with a bare
+// loop of epoll_wait(2) and recvfrom(2) that also takes one datagram for each event.
 
 #include "Comparison.h"
 #include "LoopbackBatches.h"
@@ -7,7 +7,7 @@
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "platform/posix/PollRunLoop.h"
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 #include <arpa/inet.h>
 #include <benchmark/benchmark.h>

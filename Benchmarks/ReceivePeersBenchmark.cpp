@@ -1,7 +1,8 @@
-// The same reception by other libraries, for the record: how long each takes for one datagram,
-// beside the endpoint on the poll loop or, where it runs on Qt's loop, on that one.
+// The same reception by other libraries, for information: the time of each for one datagram,
+// compared with the endpoint on the poll loop or, for a library on Qt's loop, with the endpoint on
+// that loop.
 //
-// asio and libuv decide by themselves how many datagrams they take before they wait again; the
+// asio and libuv decide by themselves how many datagrams they take before they wait again. The
 // others take one for each event.
 
 #include "Comparison.h"
@@ -114,7 +115,7 @@ void receiveByQUdpSocket(benchmark::State& state) {
 }
 BENCHMARK(receiveByQUdpSocket)->UseManualTime();
 
-// A process of Python that waits until it is told to receive a batch, and then says how long that
+// A process of Python. It waits until it is told to receive a batch, and then prints how long this
 // took.
 void receiveByPythonAsyncio(benchmark::State& state) {
     QProcess python;

@@ -1,6 +1,6 @@
-// From the start of the process to the first paint of its window, and the most memory that it takes
-// for that, for the application and for an empty window with the same controls. Each runs off
-// screen in a network namespace of its own, where its first broadcast reaches nobody.
+// The time from the start of the process to the first paint of its window, and the most memory that
+// it takes until then, for the application and for an empty window with the same controls. Each
+// runs off screen in its own network namespace, where its first broadcast reaches nobody.
 
 #include "Comparison.h"
 
@@ -40,7 +40,7 @@ struct FirstPaint {
     double peakMemoryInKiB = 0;
 };
 
-// What the program printed, absent when it printed nothing or failed.
+// The printed report of the program; absent when it printed nothing or failed.
 std::optional<FirstPaint> firstPaintOfProgram(const char* program) {
     std::array<int, 2> ends{};
     if (::pipe(ends.data()) != 0) {
@@ -69,7 +69,7 @@ std::optional<FirstPaint> firstPaintOfProgram(const char* program) {
     return FirstPaint{Clock::time_point(std::chrono::nanoseconds(nanoseconds)), peakMemoryInKiB};
 }
 
-// `measure` says what of a start counts, as seconds.
+// `measure` returns the value of a start that counts, as seconds.
 void measureStarts(benchmark::State& state, const char* program,
                    double (*measure)(Clock::time_point begin, const FirstPaint& painted)) {
     for (auto _ : state) {
@@ -87,7 +87,7 @@ double timeToPaint(Clock::time_point begin, const FirstPaint& painted) {
     return std::chrono::duration<double>(painted.time - begin).count();
 }
 
-// A benchmark's figure is a time: a microsecond stands for a KiB.
+// The figure of a benchmark is a time, so a microsecond stands for a KiB.
 double peakMemory(Clock::time_point /*begin*/, const FirstPaint& painted) {
     return painted.peakMemoryInKiB * 1e-6;
 }

@@ -1,9 +1,9 @@
-"""Receives batches of datagrams through an asyncio endpoint, for the benchmark of reception.
+"""Receives batches of datagrams through an asyncio endpoint, for the reception benchmark.
 
 usage: asyncio_receiver.py PORT BATCH
 
-Says "ready" when the port is bound. For each line on standard input it runs the loop until a batch
-has arrived, and prints the seconds that this took.
+Prints "ready" when the port is bound. For each line on standard input it runs the loop until a
+batch has arrived, and prints the seconds that this took.
 """
 import asyncio
 import sys
@@ -11,7 +11,7 @@ import time
 
 
 class Receiver(asyncio.DatagramProtocol):
-    """Counts datagrams, and stops the loop when the batch is whole."""
+    """Counts datagrams, and stops the loop when the batch is complete."""
 
     def __init__(self, loop, batch):
         self.loop, self.batch, self.received = loop, batch, 0

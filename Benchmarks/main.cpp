@@ -19,7 +19,7 @@ namespace {
 struct Row {
     std::string what;
     std::string ours;
-    std::string reference; // empty when ours finds the ratio itself
+    std::string reference; // empty when `ours` finds the ratio itself
 };
 
 std::vector<Row>& rows() {
@@ -27,8 +27,8 @@ std::vector<Row>& rows() {
     return table;
 }
 
-// Whether a benchmark measured, rather than say why it could not. The library tells it by another
-// name from version 1.8 on.
+// Whether a benchmark measured something. Otherwise it says why it could not. From version 1.8 on
+// the library reports this under another name.
 template<class Run>
 bool hasRun(const Run& run) {
     if constexpr (requires { run.error_occurred; }) {
@@ -38,7 +38,7 @@ bool hasRun(const Run& run) {
     }
 }
 
-// Keeps the time of each repetition, beside what the console shows.
+// Keeps the time of each repetition, in addition to the output on the console.
 class RepetitionReporter final : public benchmark::ConsoleReporter {
 public:
     void ReportRuns(const std::vector<Run>& reports) override {
@@ -55,8 +55,8 @@ public:
         ConsoleReporter::ReportRuns(reports);
     }
 
-    // The ratio of each repetition of ours to the one of the reference that ran in the same round,
-    // or the one that it found itself, in ascending order. Empty when one of them did not run.
+    // The ratio of each repetition of ours to the repetition of the reference in the same round, or
+    // the ratio that ours found itself, in ascending order. Empty when one of them did not run.
     std::vector<double> ratios(const Row& row) const {
         std::vector<double> result = row.reference.empty() ? foundBy(row.ours) : quotients(row);
         std::sort(result.begin(), result.end());

@@ -1,5 +1,5 @@
-// Links and connection profiles of the host, as the records of a configuration store: names are the
-// kernel's and what people typed, and numbers are whatever the bus carried.
+// Links and connection profiles of the host, as the records of a configuration store. Names come
+// from the kernel and from people, and numbers have any value that the bus can carry.
 
 #include "FuzzInput.h"
 #include "System Configuration/ConfigurationKeys.h"
@@ -13,7 +13,8 @@ using namespace kx;
 
 namespace {
 
-// Takes the input apart from its front; behind its end everything is 0 and empty.
+// Takes the input apart from its beginning. Behind its end every number is 0 and every text is
+// empty.
 class Source {
 public:
     explicit Source(ByteView rest)
@@ -32,7 +33,7 @@ public:
         const ByteView taken = take(length);
         return {taken.begin(), taken.end()};
     }
-    // Whoever reads the kernel and the bus passes on nothing but UTF-8.
+    // The readers of the kernel and of the bus pass on only UTF-8.
     std::string text(const char* otherwise) {
         return textFromUTF8(take(byte() % 8)).value_or(otherwise);
     }
@@ -47,7 +48,8 @@ private:
     ByteView _rest;
 };
 
-// What may not be part of a key is in no name of the kernel's, and not passed on from the bus.
+// Removes the characters that may not be part of a key: the kernel's names do not have them, and
+// the reader of the bus does not pass them on.
 std::string component(std::string text) {
     std::erase_if(text, [](char c) { return c == '/' || c == '='; });
     return text;

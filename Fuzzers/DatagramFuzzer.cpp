@@ -1,5 +1,5 @@
-// Datagrams from the network, through the endpoint and the controller, one after the other: two
-// lengths at the front split the input into up to three datagrams for the same controller.
+// Datagrams from the network, through the endpoint and the controller, one after the other. Two
+// lengths at the beginning split the input into up to three datagrams for the same controller.
 
 #include "FuzzInput.h"
 #include "KXConfigAppDelegate.h"

@@ -1,4 +1,4 @@
-// What the fuzzers share: the input as text, and a check that ends the run as a finding.
+// Helpers of the fuzzers: the input as text, and a check that ends the run as a finding.
 
 #pragma once
 
@@ -14,7 +14,7 @@ inline std::string_view textOfInput(const std::uint8_t* data, std::size_t size) 
     return {reinterpret_cast<const char*>(data), size};
 }
 
-// Ends the process, which the fuzzer reports as a finding, when a promise does not hold.
+// Ends the process when a promise does not hold. The fuzzer reports this as a finding.
 inline void promise(bool holds, const char* text) {
     if (!holds) {
         std::fprintf(stderr, "Promise not kept: %s\n", text);

@@ -1,4 +1,5 @@
-// A system log that drops every line: what a parser says of millions of bad inputs helps nobody.
+// A system log that drops every line, because a parser's lines about millions of bad inputs help
+// nobody.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// The walks over the kernel's interface list: the enumeration of interfaces, and every question
-// about each of them that the kernel's list answers.
+// The walks over the kernel's interface list: the enumeration of interfaces, and every query about
+// each of them that the list can answer.
 
 #include "FuzzInput.h"
 #include "System Configuration/RoutingMessages.h"
@@ -23,7 +23,8 @@ bool isText(const std::string& text) {
     return !text.empty() && isValidUTF8(bytesOfText(text));
 }
 
-// A host on which the kernel knows these interfaces and nobody has configured any.
+// Makes every query on a host whose kernel knows these interfaces and which has no configured
+// service.
 void askEverything(ByteView list) {
     MemoryConfigurationStore store;
     MemoryKernelQuery kernelQuery;

@@ -1,5 +1,6 @@
-// Frames from the link, to the simulated units: the input as a whole frame, as the IPv4 packet of
-// one, whose header gets a right checksum, and as a command to all units.
+// Frames from the link to the simulated units. The input is used in three ways: as a whole frame,
+// as the IPv4 packet of a frame, with a right checksum in its header, and as a command to all
+// units.
 
 #include "FuzzInput.h"
 #include "Simulator/FactorySettings.h"

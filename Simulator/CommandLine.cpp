@@ -37,8 +37,8 @@ Network networkOf(const std::string& text) {
     return {.base = base & (~IPv4{0} << (32 - prefixLength)), .prefixLength = prefixLength};
 }
 
-// One option: its name, what stands for its value in the help, its explanation, and what its value
-// does.
+// One option: its name, the word for its value in the help, its explanation, and the function that
+// applies its value.
 struct Option {
     std::string_view name;
     std::string_view value;

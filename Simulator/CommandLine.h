@@ -22,15 +22,17 @@ struct CommandLine {
     std::optional<std::string> recordPath;
 };
 
-// An option that does not exist, lacks its value or has an impossible one; what() says which.
+// Thrown for an option that does not exist, lacks its value or has an impossible one. what() names
+// the option.
 class UsageFailure : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
-// `arguments` without the program's name. Throws UsageFailure.
+// `arguments` must not contain the program's name. Throws UsageFailure.
 CommandLine readCommandLine(std::span<const char* const> arguments);
 
-// What --help prints: the options with their defaults, the units' factory settings, the outputs.
+// The text that --help prints: the options with their defaults, the units' factory settings, the
+// outputs.
 std::string helpText();
 
 } // namespace kx::simulator

@@ -1,18 +1,19 @@
-// What the units heard, and how they ended, as lines of text that a test can search.
+// The datagrams that the units heard, and the units' settings, as lines of text that a test can
+// search.
 //
-// Two kinds of line, fields separated by single blanks:
+// There are two kinds of line. Single blanks separate the fields:
 //
 //   4B5800000001 192.0.2.11 3520 5E5E496458
-//       a datagram that a unit took: the unit's serial number when it arrived, the destination IP
+//       a datagram that a unit took: the unit's serial number at its arrival, the destination IP
 //       address and port, the bytes
 //   state 4B5800000001 hardware=02:4B:58:00:00:01 address=192.0.2.11 destination=192.0.2.1
 //   destination-port=3520 device-port=10000 unit-id=000000000001
 //   destination-hardware=02:00:00:00:00:01 clock=-
-//       a unit's settings when somebody asked for them and at the end, on one line; a clock that
-//       was never set is "-"
+//       a unit's settings on request and at the end, on one line; a clock that was never set
+//       is "-"
 //
-// Lines are kept until flush(), which appends them with one system call as long as the system takes
-// them whole, so that several programs may share one file. Threading: one thread.
+// Lines are kept until flush(). It appends them with one system call as long as the system takes
+// them whole, so several programs may share one file. Threading: one thread.
 
 #pragma once
 

@@ -1,6 +1,6 @@
-// Frames that wait for their time to leave, earliest first; those of the same time in the order in
-// which they came. Holds a bounded number: what does not fit is lost, as in a switch. Any thread,
-// one at a time.
+// Frames that wait for their time to leave, earliest first. Frames of the same time leave in the
+// order in which they came. Holds a bounded number of frames; further ones are lost, as in a
+// switch. Any thread, one at a time.
 
 #pragma once
 
@@ -21,10 +21,10 @@ public:
     // False when the frame was lost because `capacity` frames wait already.
     bool add(TimePoint due, Bytes frame);
 
-    // When the next frame leaves; nothing when none waits.
+    // The time at which the next frame leaves; absent when no frame waits.
     std::optional<TimePoint> nextDue() const;
 
-    // The frames that are due at `now`, taken out.
+    // Removes and returns the frames that are due at `now`.
     std::vector<Bytes> takeDue(TimePoint now);
 
 private:

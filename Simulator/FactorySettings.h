@@ -1,5 +1,5 @@
-// How units leave the factory: settings that follow from the unit's number and its network alone,
-// so that tests can foretell them.
+// The factory settings of units. They follow only from the unit's number and its network, so that
+// tests can predict them.
 
 #pragma once
 
@@ -7,7 +7,7 @@
 
 namespace kx::simulator {
 
-// A unit's number has five decimal digits at most.
+// A unit's number has at most five decimal digits.
 inline constexpr unsigned highestUnitNumber = 99'999;
 
 struct Network {
@@ -26,8 +26,8 @@ struct Network {
 //                      number in five digits
 UnitSettings factorySettings(unsigned number, const Network& network);
 
-// True when the addresses of the units up to `highestNumber` are host addresses of `network`, its
-// directed broadcast address left out.
+// True when the addresses of the units up to `highestNumber` are host addresses of `network`, and
+// none is its directed broadcast address.
 bool networkHoldsUnits(const Network& network, unsigned highestNumber);
 
 } // namespace kx::simulator

@@ -36,7 +36,7 @@ std::vector<Delivery> Faults::deliveriesOf(Bytes reply) {
     return deliveries;
 }
 
-// The standard distributions may differ between libraries; the remainder does not, and its tiny
+// The standard distributions may differ between libraries. The remainder does not, and its tiny
 // unevenness does no harm here.
 std::size_t Faults::below(std::size_t bound) {
     return static_cast<std::size_t>(_random() % bound);
@@ -46,8 +46,8 @@ bool Faults::strikes(unsigned percent) {
     return percent != 0 && below(100) < percent;
 }
 
-// The ways in which a reply is wrong in practice: one byte, the end missing, something behind it,
-// or nothing but noise.
+// Damages a reply in one of the ways that happen in practice: one wrong byte, a missing end, extra
+// bytes behind it, or only noise.
 void Faults::damage(Bytes& reply) {
     const auto noise = [this] { return static_cast<std::uint8_t>(_random()); };
     switch (reply.empty() ? 3 : below(4)) {

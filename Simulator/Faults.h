@@ -1,5 +1,5 @@
-// What goes wrong between a unit and its listener: replies that are late, lost, doubled, overtaken,
-// cut short or damaged.
+// The faults between a unit and its listener: replies that are late, lost, doubled, overtaken, cut
+// short or damaged.
 //
 // The same plan, seed and replies give the same faults, on every machine. Any thread, one at a
 // time.
@@ -17,10 +17,10 @@ namespace kx::simulator {
 // Percentages are 0 to 100 and apply to each reply by itself.
 struct FaultPlan {
     std::chrono::milliseconds late{0}; // every reply leaves this much later
-    unsigned losePercent = 0;          // never leaves
-    unsigned duplicatePercent = 0;     // leaves twice
-    unsigned reorderPercent = 0;       // waits overtakingTime, so that later ones overtake
-    unsigned malformPercent = 0;       // leaves with wrong bytes
+    unsigned losePercent = 0;          // the reply never leaves
+    unsigned duplicatePercent = 0;     // the reply leaves twice
+    unsigned reorderPercent = 0;       // the reply waits overtakingTime, so later ones overtake it
+    unsigned malformPercent = 0;       // the reply leaves with wrong bytes
     std::optional<std::size_t> truncatedLength =
         std::nullopt; // every reply is cut to so many bytes
     std::uint64_t seed = 1;
@@ -28,7 +28,7 @@ struct FaultPlan {
 
 inline constexpr std::chrono::milliseconds overtakingTime{50};
 
-// A reply as it leaves, `delay` after the unit made it.
+// A reply that leaves `delay` after the unit made it.
 struct Delivery {
     std::chrono::milliseconds delay{0};
     Bytes payload;
@@ -38,7 +38,7 @@ class Faults {
 public:
     explicit Faults(const FaultPlan& plan);
 
-    // None to two deliveries of `reply`.
+    // The deliveries of `reply`; none to two.
     std::vector<Delivery> deliveriesOf(Bytes reply);
 
 private:

@@ -79,7 +79,7 @@ Bytes udpPacket(const Datagram& datagram) {
 
     std::uint16_t checksum =
         udpChecksum(datagram.source.address, datagram.destination.address, packet);
-    // 0 would say that there is no checksum; its other form in ones' complement stands for it.
+    // 0 would mean that there is no checksum. Its other form in ones' complement stands for it.
     if (checksum == 0) {
         checksum = 0xFFFF;
     }
@@ -93,7 +93,7 @@ Bytes ipv4Header(IPv4 source, IPv4 destination, std::size_t payloadLength) {
     header.reserve(shortestIPv4Header);
     appendNumber(header, 0x4500, 2);
     appendNumber(header, shortestIPv4Header + payloadLength, 2);
-    appendNumber(header, 0x0000'4000, 4); // no identification, not to be fragmented
+    appendNumber(header, 0x0000'4000, 4); // no identification; must not be fragmented
     appendNumber(header, 64, 1);
     appendNumber(header, protocolUdp, 1);
     appendNumber(header, 0, 2);
@@ -105,7 +105,7 @@ Bytes ipv4Header(IPv4 source, IPv4 destination, std::size_t payloadLength) {
     return header;
 }
 
-// The UDP packet inside an IPv4 packet, or nothing.
+// The UDP packet inside an IPv4 packet; absent when there is none.
 std::optional<ByteView> udpInside(ByteView packet) {
     if (packet.size() < shortestIPv4Header || packet[0] >> 4 != 4) {
         return std::nullopt;

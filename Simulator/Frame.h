@@ -1,7 +1,8 @@
 // Ethernet frames as far as a unit understands them: ARP requests, and UDP datagrams over IPv4.
 //
-// Pure functions, bytes in and values out; any thread. What is not whole and correct (cut short, a
-// wrong checksum, a fragment, another protocol) reads as nothing, as it does for a unit.
+// Pure functions, bytes in and values out; any thread. A frame that is not whole and correct (cut
+// short, a wrong checksum, a fragment, another protocol) gives no value, because a unit ignores it
+// too.
 
 #pragma once
 
@@ -11,8 +12,8 @@
 
 namespace kx::simulator {
 
-// Asks who holds `target`. `destination` is the hardware address that the frame was sent to: hosts
-// ask everybody first, and later only the holder that they remember.
+// Asks which host holds `target`. The frame was sent to the hardware address `destination`: hosts
+// first ask everybody, and later only the holder that they remember.
 struct ArpRequest {
     HardwareAddress destination{};
     HardwareAddress senderHardware{};
@@ -33,8 +34,8 @@ struct Datagram {
     Bytes payload;
 };
 
-// On a virtual link the sending host leaves the UDP checksum to a network card that is not there;
-// such a frame arrives with its checksum still pending, and nothing to verify.
+// On a virtual link the sending host leaves the UDP checksum to a network card that does not exist.
+// Such a frame arrives with its checksum still pending, so there is no checksum to verify.
 enum class UdpChecksum { complete, pending };
 
 // The Internet checksum: the ones' complement of the ones' complement sum of 16-bit words; an odd
@@ -47,7 +48,7 @@ std::optional<Datagram> readDatagram(ByteView frame, UdpChecksum checksum);
 // The answer to `request` by the holder of its target.
 Bytes arpReplyFrame(const ArpRequest& request, const HardwareAddress& holder);
 
-// Tells every host on the link that `holder` holds `address` from now on.
+// Tells every host on the link that `holder` now holds `address`.
 Bytes arpAnnouncementFrame(const HardwareAddress& holder, IPv4 address);
 
 // The whole frame of a datagram, with checksums, padded to the shortest frame that Ethernet allows.

@@ -28,7 +28,7 @@ std::size_t Pace::take(TimePoint now) {
     if (_interval == nanoseconds::zero() || now < _next) {
         return 0;
     }
-    // At a rate below ten a second one interval alone is longer than the arrears that count.
+    // At a rate below ten a second, one interval alone is longer than the arrears that count.
     _next = std::max(_next, now - std::max(longestArrears, _interval));
     const auto due = (now - _next) / _interval + 1;
     _next += due * _interval;

@@ -1,5 +1,6 @@
-// A steady number of events a second, for the flood. It keeps the rate over time however unevenly
-// it is asked, but does not catch up on more than a tenth of a second. Any thread, one at a time.
+// A steady number of events a second, for the flood. It keeps the rate over time even when the
+// calls come at uneven times, but it catches up on at most a tenth of a second. Any thread, one at
+// a time.
 
 #pragma once
 
@@ -12,10 +13,10 @@ public:
     // `perSecond` 0 means that nothing ever falls due. At most 1,000,000.
     Pace(unsigned perSecond, TimePoint start);
 
-    // When the next event falls due; nothing when none ever does.
+    // The time at which the next event falls due; absent when no event ever does.
     std::optional<TimePoint> nextDue() const;
 
-    // How many events have fallen due by `now` since the last call.
+    // The number of events that have fallen due by `now` since the last call.
     std::size_t take(TimePoint now);
 
 private:

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t longestFrame = 65'536;
 
-// A burst of commands waits here while thousands of units answer the first.
+// A burst of commands waits in this buffer while thousands of units answer the first one.
 constexpr int receiveBuffer = 4 * 1024 * 1024;
 
 [[noreturn]] void fail(const std::string& what) {
@@ -40,7 +40,8 @@ void configure(int socket, int linkIndex) {
     promiscuous.mr_type = PACKET_MR_PROMISC;
     setOption(socket, SOL_PACKET, PACKET_ADD_MEMBERSHIP, promiscuous, "hear every frame");
 
-    // Only the host's administrator may pass the limit for everybody; what is granted will do.
+    // Only the host's administrator may exceed the limit for everybody. Otherwise the size that the
+    // system grants is enough.
     if (::setsockopt(socket, SOL_SOCKET, SO_RCVBUFFORCE, &receiveBuffer, sizeof receiveBuffer) !=
         0) {
         setOption(socket, SOL_SOCKET, SO_RCVBUF, receiveBuffer, "ask for a receive buffer");
@@ -50,7 +51,7 @@ void configure(int socket, int linkIndex) {
     address.sll_family = AF_PACKET;
     address.sll_protocol = htons(ETH_P_ALL);
     address.sll_ifindex = linkIndex;
-    // The socket interface takes every kind of address through this one type.
+    // The socket interface takes all kinds of address through this one type.
     if (::bind(socket, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0) {
         fail("bind to the link");
     }
@@ -78,7 +79,7 @@ PacketLink::PacketLink(const std::string& linkName) {
     if (linkIndex == 0) {
         fail("link " + linkName);
     }
-    // Protocol 0 keeps it deaf until it is bound to this one link.
+    // With protocol 0 the socket hears nothing until it is bound to this one link.
     _socket = ::socket(AF_PACKET, SOCK_RAW | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
     if (_socket < 0) {
         fail("open a packet socket");

@@ -1,5 +1,5 @@
-// A network link as its frames: a raw packet socket. Needs the right to open one (CAP_NET_RAW in
-// the network namespace of the link).
+// The frames of a network link, through a raw packet socket. Needs the right to open one
+// (CAP_NET_RAW in the network namespace of the link).
 //
 // Ownership: owns its socket. Threading: one thread.
 
@@ -19,20 +19,20 @@ struct ReceivedFrame {
 
 class PacketLink {
 public:
-    // Hears every frame that arrives over the link from now on, whomever it is for. Throws
+    // Starts to hear every frame that arrives over the link, for any receiver. Throws
     // std::system_error when there is no such link or no right to listen to it.
     explicit PacketLink(const std::string& linkName);
     ~PacketLink();
     PacketLink(const PacketLink&) = delete;
     PacketLink& operator=(const PacketLink&) = delete;
 
-    // Readable when a frame waits.
+    // The descriptor is readable when a frame waits.
     int descriptor() const { return _socket; }
 
-    // The next frame; nothing when none waits.
+    // The next frame; absent when none waits.
     std::optional<ReceivedFrame> receive();
 
-    // Puts a frame on the link. A frame that the link does not take is lost without a word, as on
+    // Puts a frame on the link. A frame that the link does not take is lost without a report, as on
     // a cable.
     void send(ByteView frame);
 

@@ -15,7 +15,7 @@ void appendText(Bytes& bytes, std::string_view text) {
     bytes.insert(bytes.end(), text.begin(), text.end());
 }
 
-// The number that `text` writes with exactly `digits` digits.
+// The number that `text` stands for, with exactly `digits` digits.
 std::optional<std::uint64_t> numberOf(std::string_view text, std::size_t digits, int base) {
     std::uint64_t value = 0;
     const char* const end = text.data() + text.size();
@@ -46,7 +46,7 @@ bool setBytes(SixBytes& setting, std::string_view argument) {
     return value.has_value();
 }
 
-// A text that is shorter than six bytes stands at the left, as it was typed.
+// A text that is shorter than six bytes is written at the left, as it was typed.
 bool setUnitID(SixBytes& setting, std::string_view argument) {
     if (argument.size() % 2 != 0 || argument.size() > setting.size() * 2) {
         return false;
@@ -62,7 +62,7 @@ bool isBetween(std::optional<std::uint64_t> value, std::uint64_t low, std::uint6
     return value && *value >= low && *value <= high;
 }
 
-// The year is not told, so February may have 29 days.
+// The command does not tell the year, so February may have 29 days.
 std::uint64_t longestMonth(std::optional<std::uint64_t> month) {
     if (month == 2) {
         return 29;
@@ -77,7 +77,7 @@ SimulatedUnit::SimulatedUnit(const UnitSettings& factory)
     , _settings(factory) {}
 
 std::optional<Bytes> SimulatedUnit::answer(ByteView command) {
-    // Kept in a text of its own: the argument is compared and parsed as characters below.
+    // A separate text, because the argument is compared and parsed as characters below.
     const std::string text(command.begin(), command.end());
     std::string_view rest = text;
     if (!rest.starts_with(commandPrefix) || rest.size() == commandPrefix.size()) {

@@ -1,4 +1,4 @@
-// One unit: its settings, and what it answers to a command.
+// One unit: its settings, and its answers to commands.
 //
 // Pure: command bytes in, reply bytes out. A unit knows no link and no time. Any thread, one at a
 // time.
@@ -58,10 +58,10 @@ public:
         return port == commonPort || port == _settings.devicePort;
     }
 
-    // The reply to `command`; nothing when the command is malformed.
+    // The reply to `command`; absent when the command is malformed.
     std::optional<Bytes> answer(ByteView command);
 
-    // The reply to X, as it stands now.
+    // The reply to X with the present settings.
     Bytes parameterReply() const;
 
 private:

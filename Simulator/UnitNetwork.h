@@ -3,10 +3,10 @@
 // Pure: no socket and no clock; the caller sends each frame when its delay has passed. Any thread,
 // one at a time.
 //
-// A unit takes a datagram that was sent to its hardware address or to all, whatever IP address it
-// names, and answers ARP requests for the IP address that it holds. Units are found by address;
-// only a frame for all of them costs work for each. A unit whose hardware or IP address changes
-// announces itself, as hosts do.
+// A unit takes a datagram that was sent to its hardware address or to all, with any destination IP
+// address. It answers ARP requests for the IP address that it holds. Units are found by address;
+// only a frame for all of them costs work for each unit. A unit whose hardware or IP address
+// changes announces itself, as hosts do.
 
 #pragma once
 
@@ -27,20 +27,20 @@ struct OutgoingFrame {
 
 class UnitNetwork {
 public:
-    // Told of every datagram that a unit takes, malformed ones too, before the unit answers.
-    // It must not call back into the network.
+    // Called for every datagram that a unit takes, malformed ones included, before the unit
+    // answers. It must not call back into the network.
     using Observer = std::function<void(const SimulatedUnit&, const Datagram&)>;
 
     UnitNetwork(std::vector<SimulatedUnit> units, const FaultPlan& plan, Observer observer);
 
-    // What the units send because of `frame`, in the order in which it leaves.
+    // The frames that the units send in answer to `frame`, in the order in which they leave.
     std::vector<OutgoingFrame> receive(ByteView frame, UdpChecksum checksum);
 
-    // `count` parameter replies that nobody asked for, from one unit after the other, to the
-    // sender of the last command and from the port that it used; none before the first command.
+    // `count` unsolicited parameter replies, from one unit after the other. They go to the sender
+    // of the last command, from the port that the command used. None before the first command.
     std::vector<OutgoingFrame> unsolicitedReplies(std::size_t count);
 
-    // From now on nothing goes wrong with replies.
+    // Ends all faults of replies.
     void beHonest() { _faults = Faults({}); }
 
     const std::vector<SimulatedUnit>& units() const { return _units; }

@@ -25,7 +25,7 @@ using Clock = std::chrono::steady_clock;
 // At most about 60 MB of frames wait; 10,000 units can be 20 answers behind.
 constexpr std::size_t mostDelayedFrames = 200'000;
 
-// The signals by which the process is told what to do, as something to wait for and to read.
+// The signals that give the process its orders, as a descriptor to wait for and to read.
 class Orders {
 public:
     Orders() {
@@ -46,7 +46,7 @@ public:
 
     int descriptor() const { return _descriptor; }
 
-    // The next signal; nothing when none waits.
+    // The next signal; absent when none waits.
     std::optional<int> take() const {
         signalfd_siginfo information{};
         const bool isThere =
@@ -81,12 +81,13 @@ public:
     void run() {
         waitForWork();
         while (followOrders()) {
-            // One frame a turn: what it causes leaves before the next one is read, so that a burst
-            // waits in the socket, which bounds it.
+            // One frame in each turn: its answers leave before the next frame is read. A burst then
+            // waits in the socket, which limits it.
             if (const auto frame = _link.receive()) {
                 std::vector<OutgoingFrame> answers =
                     _network.receive(frame->bytes, frame->checksum);
-                // Before the answers leave: who has seen a reply finds its command in the record.
+                // The record is written before the answers leave, so a receiver of a reply finds
+                // its command in the record.
                 _record.flush();
                 dispatch(std::move(answers));
             }
@@ -106,7 +107,7 @@ public:
     }
 
 private:
-    // False when the end was asked for.
+    // Returns false when the process was asked to end.
     bool followOrders() {
         while (const auto order = _orders.take()) {
             if (*order == SIGUSR1) {

@@ -1,4 +1,5 @@
-// The loop of kxunits: frames from the link to the units, and theirs back when their time has come.
+// The loop of kxunits: it passes frames from the link to the units, and their frames back when they
+// are due.
 
 #pragma once
 

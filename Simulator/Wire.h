@@ -1,5 +1,5 @@
-// The plain values that travel between simulated units and the link, and how numbers are laid into
-// bytes. Every number on the wire is big-endian.
+// The plain values that travel between simulated units and the link, and the conversion of numbers
+// to bytes. Every number on the wire is big-endian.
 
 #pragma once
 
@@ -17,7 +17,7 @@ using ByteView = std::span<const std::uint8_t>;
 using SixBytes = std::array<std::uint8_t, 6>;
 using HardwareAddress = SixBytes;
 
-// First dotted segment in the most significant byte.
+// The first dotted segment is the most significant byte.
 using IPv4 = std::uint32_t;
 
 inline constexpr HardwareAddress broadcastHardware{0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
@@ -26,7 +26,7 @@ inline void appendBytes(Bytes& bytes, ByteView more) {
     bytes.insert(bytes.end(), more.begin(), more.end());
 }
 
-// The lowest `width` bytes of `value`, most significant first, at the end of `bytes`.
+// Appends the lowest `width` bytes of `value` to `bytes`, most significant first.
 inline void appendNumber(Bytes& bytes, std::uint64_t value, std::size_t width) {
     std::array<std::uint8_t, sizeof value> digits{};
     for (auto digit = digits.rbegin(); digit != digits.rend(); ++digit, value >>= 8) {
@@ -35,7 +35,7 @@ inline void appendNumber(Bytes& bytes, std::uint64_t value, std::size_t width) {
     appendBytes(bytes, ByteView(digits).last(width));
 }
 
-// The number in `width` bytes at `offset`. The caller has checked that they are there.
+// The number in `width` bytes at `offset`. The caller must make sure that they are there.
 inline std::uint64_t numberAt(ByteView bytes, std::size_t offset, std::size_t width) {
     std::uint64_t value = 0;
     for (const std::uint8_t byte : bytes.subspan(offset, width)) {

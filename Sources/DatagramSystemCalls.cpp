@@ -37,7 +37,7 @@ std::optional<sockaddr_in> hostAddress(ByteView record) {
     return result;
 }
 
-// The record of an address that the system named; empty for one that is not IPv4.
+// The record of an address that the system gave; empty for an address that is not IPv4.
 Bytes recordOf(const sockaddr_storage& storage, socklen_t length) {
     if (length < sizeof(sockaddr_in) || storage.ss_family != AF_INET) {
         return {};
@@ -47,7 +47,7 @@ Bytes recordOf(const sockaddr_storage& storage, socklen_t length) {
     return dataForAddress(ntohl(address.sin_addr.s_addr), ntohs(address.sin_port));
 }
 
-// The index of the interface by which a message came; 0 when the system did not say.
+// The index of the interface by which a message came; 0 when the system did not tell it.
 std::uint32_t linkOf(msghdr& message) {
     for (cmsghdr* part = CMSG_FIRSTHDR(&message); part != nullptr;
          part = CMSG_NXTHDR(&message, part)) {
@@ -60,7 +60,7 @@ std::uint32_t linkOf(msghdr& message) {
     return 0;
 }
 
-// What getsockname(2) or getpeername(2) says.
+// The result of getsockname(2) or getpeername(2).
 std::optional<Bytes> nameOf(int descriptor, int (*nameCall)(int, sockaddr*, socklen_t*)) {
     sockaddr_storage storage{};
     socklen_t length = sizeof storage;

@@ -25,8 +25,8 @@ inline constexpr std::uint32_t kCFSocketCloseOnInvalidate = 128;
 
 // Where a datagram came from.
 struct DatagramOrigin {
-    Bytes sender;           // its record
-    std::uint32_t link = 0; // the index of the interface that it came by; 0: the system did not say
+    Bytes sender;           // socket address record of the sender
+    std::uint32_t link = 0; // index of the interface; 0 when the system did not tell it
 };
 
 class DatagramSystemCalls {
@@ -37,10 +37,10 @@ public:
     // starts do not inherit it.
     virtual int socket();
 
-    // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family, or of no
-    // bytes, fails with EAFNOSUPPORT, one that is too short for its family with EINVAL, without a
-    // system call; so it is with sendTo(). What follows the 16 bytes of a longer record is not
-    // looked at.
+    // bind(2) and connect(2) with an IPv4 record. 0, or -1. A record of another family or without
+    // bytes fails with EAFNOSUPPORT, and one that is too short for its family fails with EINVAL; no
+    // system call is made then. sendTo() checks its record in the same way. Bytes behind the first
+    // 16 of a longer record are ignored.
     virtual int bind(int descriptor, ByteView addressRecord);
     virtual int connect(int descriptor, ByteView addressRecord);
 
@@ -51,17 +51,17 @@ public:
     // setsockopt(2): SO_BROADCAST at level SOL_SOCKET, the 4-byte integer 1. 0, or -1.
     virtual int enableBroadcast(int descriptor);
 
-    // setsockopt(2): IP_PKTINFO at level IPPROTO_IP, the 4-byte integer 1 (ip(7)). 0, or -1. From
-    // then on receiveFrom() tells the link.
+    // setsockopt(2): IP_PKTINFO at level IPPROTO_IP, the 4-byte integer 1 (ip(7)). 0, or -1. After
+    // that receiveFrom() tells the link.
     virtual int tellLinks(int descriptor);
 
-    // sendto(2) of the whole of `data`, flags 0, to an IPv4 record; to the peer of a connected
-    // socket when `addressRecord` is absent. The bytes sent, or -1.
+    // sendto(2) of the whole of `data`, flags 0, to an IPv4 record. When `addressRecord` is absent,
+    // the datagram goes to the peer of a connected socket. The bytes sent, or -1.
     virtual ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord);
 
-    // recvmsg(2), flags 0, of one datagram into `buffer`; what does not fit is cut. The bytes
-    // received, or -1. On success `origin` holds the sender's record, which is empty for a sender
-    // of another family than IPv4, and the link; on failure it is not touched.
+    // recvmsg(2), flags 0, of one datagram into `buffer`; bytes that do not fit are lost. The bytes
+    // received, or -1. On success `origin` holds the link and the sender's record, which is empty
+    // for a sender of another family than IPv4. On failure `origin` does not change.
     virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                 DatagramOrigin& origin);
 

@@ -75,8 +75,9 @@ void KXConfigAppDelegate::listInterfaces(std::vector<std::string> titles) {
 }
 
 // The chosen interface stays selected while it exists, also under another name, and is selected
-// again when it comes back. While it is gone nothing is selected: another interface must not look
-// as if it had been chosen. Before any choice, what is selected stays so, or else the first is.
+// again when it comes back. While it is gone nothing is selected, because another interface must
+// not look as if it had been chosen. Before any choice the selected interface stays selected; when
+// it is gone, the first one is selected.
 void KXConfigAppDelegate::interfacePopUpWillOpen() {
     auto titles = currentInterfaceTitles();
     if (titles == _interfaceTitles) {

@@ -1,6 +1,6 @@
-// The window's controller: it takes what a person does to the parts beneath it, and shows what
-// comes back. What is sent and received is the session's business (conversation/UnitSession.h),
-// what units are that of units/, and what a person reads is written in words/.
+// The window's controller: it passes a person's actions to the parts beneath it and shows their
+// results. conversation/UnitSession.h sends and receives, units/ describes units, and words/ writes
+// the texts that a person reads.
 //
 // It is the delegate of the application, of the main window, of the UDP endpoint and of the
 // parameter table, and the data source of the one-row edit table. It talks to controls (Outlets.h)
@@ -8,9 +8,9 @@
 //
 // Threading: everything on the main thread; each operation runs to completion before the next
 // event. arpSetEAForIP(), which asks and alerts a person, holds the run loop meanwhile. Ownership:
-// the controller owns what its fields hold; controls and services belong to whoever made it and
-// must outlive it. Failures of the network go to the event log and nothing stops the program; data
-// that breaks its own format is abandoned with a line in the system log.
+// the controller owns the values of its fields. Controls and services belong to the maker of the
+// controller and must outlive it. Failures of the network go to the event log, and no failure stops
+// the program. Data that breaks its own format is abandoned with a line in the system log.
 
 #pragma once
 
@@ -57,23 +57,26 @@ public:
         DatagramSystemCalls& systemCalls;
         const WallClock& wallClock;
         Application& application;
-        NetworkInterfaces* networkInterfaces; // null: the host's configuration is not read
+        NetworkInterfaces* networkInterfaces; // when null, the host's configuration is not read
 
-        // Opens the help at an anchor; false when there is no such page. Empty: there is no help.
+        // Opens the help at an anchor and returns false when there is no such page. Empty when
+        // there is no help.
         std::function<bool(std::string_view anchor)> openHelpAnchor = {};
 
-        AuthorizationService* authorizationService = nullptr; // null: nobody gives rights
+        AuthorizationService* authorizationService = nullptr; // when null, nobody gives rights
 
-        // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
+        // May be null. The listener then keeps the buffer that it begins with, and lost datagrams
+        // are not reported.
         ReceiveBuffers* receiveBuffers = nullptr;
 
-        // Whether the help has a page at all, which tells why it did not open. Empty: it has.
+        // Returns whether the help has the page, so that a message can say why it did not open.
+        // When this is empty, every page counts as present.
         std::function<bool(std::string_view page)> hasHelpPage = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
 
-    // Stops the endpoint, which reports nothing any more.
+    // Stops the endpoint, which reports nothing after that.
     ~KXConfigAppDelegate() override;
     KXConfigAppDelegate(const KXConfigAppDelegate&) = delete;
     KXConfigAppDelegate& operator=(const KXConfigAppDelegate&) = delete;
@@ -91,7 +94,7 @@ public:
 
     // --- Actions of the controls ---
 
-    void interfacePopUpWillOpen();    // lists the interfaces as they are now; chooses none
+    void interfacePopUpWillOpen();    // lists the interfaces as they are now; changes no choice
     void interfaceSelect();           // takes over address and mask; sends and logs nothing
     void udpPortSelect();             // discovers on the chosen port
     void discoverButton();            // restarts the listener and broadcasts a parameter request
@@ -107,8 +110,9 @@ public:
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
 
-    // The text in the edit row's open editor is this now. The quiet line says what Apply would send
-    // for it; nothing is stored. Whoever closes an editor without storing tells the old text again.
+    // The text in the edit row's open editor changed to `text`. The quiet line says what Apply
+    // would send for it; nothing is stored. When an edit is cancelled, call this with the stored
+    // text.
     void editTextDidChange(std::string_view text);
 
     // --- Edits of the selected unit's parameters (KXConfigAppDelegate_Editing.cpp) ---
@@ -124,21 +128,22 @@ public:
     void edit_destMAC();
     void edit_serial();
 
-    // Also writes a static ARP entry for the new address, and sends to that address, whatever
-    // became of the entry: the unit does not hold it yet. The unit's record loses its address, so
-    // further commands are not sent until the unit has told its parameters.
+    // Also writes a static ARP entry for the new address, because the unit does not hold that
+    // address yet. The command goes to the new address even when the entry could not be written.
+    // The unit's record loses its address, so no further command is sent until the unit has told
+    // its parameters.
     void edit_internalIP();
 
-    // Writes a static entry into the host's ARP cache. The tool gets "-s", the IP text and the
-    // hardware address text, up to the first that is absent. The result is that of
-    // Authorization::runToolWithArgs(), and -1, with an alert, when rights were not given. Blocks
-    // while a person is asked or told, and up to two seconds for the tool; what comes from the
-    // network or falls due meanwhile is handled afterwards.
+    // Writes a static entry into the host's ARP cache. The arguments of the tool are "-s", the IP
+    // text and the hardware address text; the list ends before the first text that is absent.
+    // Returns the result of Authorization::runToolWithArgs(), or -1, with an alert, when rights
+    // were not given. Blocks while a person is asked or told, and up to two seconds for the tool.
+    // Datagrams and delayed calls that come meanwhile are handled afterwards.
     std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                const std::optional<std::string>& ip);
 
     // --- The edit table's values: always one row, the columns of KXParameterEntry ---
-    // A column of any other identifier reads as the empty text and takes nothing.
+    // A column of any other identifier reads as the empty text and stores nothing.
 
     int numberOfRowsInTableView() override;
     std::optional<PropertyListValue>
@@ -146,7 +151,7 @@ public:
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
-    // --- The endpoint's events, which go on to the session ---
+    // --- The endpoint's events, passed on to the session ---
 
     void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
                                        const Bytes& address) override;
@@ -159,10 +164,10 @@ public:
 
     // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
 
-    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520.
-    // True when the command was handed to the listener, whatever became of it: a send that fails is
-    // in the event log. False, with nothing logged, when a text is absent, there is no listener, or
-    // the command is not ASCII.
+    // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520. True
+    // when the command was handed to the listener; the event log tells when the send then fails.
+    // False, with nothing logged, when a text is absent, there is no listener, or the command is
+    // not ASCII.
     bool sendCommandToAddress(const std::optional<std::string>& command,
                               const std::optional<std::string>& address);
 
@@ -174,7 +179,7 @@ public:
     // Appends one entry. An entry begins with its own line break.
     void appendString(std::string_view text);
 
-    // --- What the fields hold, to be read by tests and fronts ---
+    // --- Values of the fields, for tests and fronts ---
 
     Window* window() const { return _outlets.window; }
     void setWindow(Window* window) { _outlets.window = window; }
@@ -182,7 +187,7 @@ public:
     std::string eventLog() const { return logText.text(); } // a copy
     const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
-    const UDPEcho* udpListener() const { return _session.listener(); } // null: there is none
+    const UDPEcho* udpListener() const { return _session.listener(); } // null when there is none
     const QuietLine& quietLine() const { return _quietLine; }
 
 private:
@@ -212,7 +217,7 @@ private:
     UnitDestination unitDestination() const;
     CommandTarget commandTarget() const;
 
-    // What became of a command: handed to the session, which did or did not send it.
+    // A command was handed to the session. `failure` says why the session did not send it.
     struct HandedOver {
         std::optional<SendFailure> failure;
     };
@@ -246,10 +251,11 @@ private:
     MainWindowOutlets _outlets;
     Services _services;
 
-    std::vector<std::string> _interfaceTitles;   // what the pop-up offers
-    std::optional<std::string> _chosenInterface; // its title at the choice; absent before any
+    std::vector<std::string> _interfaceTitles;   // titles in the pop-up
+    std::optional<std::string> _chosenInterface; // title at the time of the choice; absent before
     LogText logText;
-    // In host byte order; the address is 0 when no interface with an address has been chosen.
+    // Both are in host byte order. The address is 0 when no interface with an address has been
+    // chosen.
     std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
     UnitRegistry _devicesD;
@@ -257,8 +263,8 @@ private:
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
-    int _latestARPAttempt = 0;                         // counts them, also those refused
-    std::optional<std::string> _textBeingTyped;        // in the edit row, not stored yet
+    int _latestARPAttempt = 0;                         // number of attempts, refused ones included
+    std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;
 };

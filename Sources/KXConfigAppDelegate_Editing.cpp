@@ -15,7 +15,7 @@ int KXConfigAppDelegate::numberOfRowsInTableView() {
     return 1;
 }
 
-// A window may ask once more while the application ends, when the entry is gone.
+// A window may ask once more while the application ends, when the entry is gone already.
 std::optional<PropertyListValue>
 KXConfigAppDelegate::tableViewObjectValueForTableColumnRow(const TableColumn& column, int /*row*/) {
     const PropertyListValue emptyText;
@@ -143,7 +143,7 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
                            .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
                            .valueBefore = selectedText(edit.parameter),
                            .newSerialNumberIsTaken = newSerialNumberIsTaken(edit)};
-    // A record that has lost its address to an edit before this one still had that value.
+    // When an earlier edit has taken the address out of the record, the unit still had that value.
     if (edit.parameter == UnitParameter::internalIPAddress && _selectedUnit.has_value()) {
         unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
     }
@@ -164,7 +164,7 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
 std::optional<std::int32_t>
 KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddress,
                                   const std::optional<std::string>& ip) {
-    // A dialogue runs the event loop. What comes from elsewhere waits for the end of the action.
+    // A dialogue runs the event loop. Events from outside wait for the end of the action.
     const auto hold = _services.runLoop.holdCallbacks();
     const int attempt = ++_latestARPAttempt;
     if (!authenticateForARP()) {
@@ -181,7 +181,7 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
         }
         arguments.push_back(**text);
     }
-    // How the tool of an earlier attempt ends is not worth a word any more.
+    // Only the end of the latest attempt is shown.
     const auto result = _auth->runToolWithArgs(arguments, [this, attempt](int status) {
         if (attempt == _latestARPAttempt) {
             _quietLine.arpToolDidEnd(status);
@@ -227,7 +227,7 @@ void KXConfigAppDelegate::requestParametersAfterRestore() {
     requestParametersOfUnit();
 }
 
-// --- What the quiet line says of it ---
+// --- The quiet line ---
 
 void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
     if (text != _textBeingTyped.value_or(editedValue())) {

@@ -9,7 +9,7 @@
 
 namespace kx {
 
-// --- What is sent ---
+// --- Sending ---
 
 bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>& command,
                                                const std::optional<std::string>& address) {
@@ -97,7 +97,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     appendString(entryOfReply(reply, parameters.displayText));
 }
 
-// The request comes first in the log.
+// The log has the request before the acknowledgement.
 void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
     const auto failure = requestParametersOfUnit();
     if (reply.serialNumber.has_value()) {

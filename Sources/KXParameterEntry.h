@@ -19,8 +19,8 @@ public:
     static constexpr std::string_view parameterNameKey = "parameterName";
     static constexpr std::string_view parameterValueKey = "parameterValue";
 
-    // Each is absent when the dictionary has no such field; storing an absent text removes it. A
-    // field that is not a text reads as its description.
+    // Each is absent when the dictionary has no such field. Storing an absent text removes the
+    // field. A field that is not a text reads as its description.
     std::optional<std::string> parameterName() const;
     void setParameterName(const std::optional<std::string>& name);
     std::optional<std::string> parameterValue() const;

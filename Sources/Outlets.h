@@ -1,12 +1,13 @@
-// The controls that the controller talks to, each as the few operations that it needs.
+// The controls that the controller talks to. Each has only the few operations that the controller
+// needs.
 //
 // Main thread only. The controller never owns a control. No operation calls back into the
 // controller from inside itself, with three exceptions: Window::makeFirstResponder() and
 // endEditing() may hand a half-typed value to the table's data source, and TableView::reloadData()
-// may ask that data source for its values. In particular, selecting an item or setting a text from
-// code runs no action, nor does a reload that drops the selection. Nothing that a person does
-// reaches the controller while Alert::runModal() waits. The event loop runs meanwhile, so the
-// controller holds the run loop's callbacks back.
+// may ask that data source for its values. In particular, no action runs when code selects an item,
+// sets a text, or reloads a table and drops its selection. While Alert::runModal() waits, a
+// person's actions do not reach the controller. The event loop runs meanwhile, so the controller
+// holds the run loop's callbacks back.
 
 #pragma once
 
@@ -53,7 +54,7 @@ public:
     virtual std::string stringValue() const = 0;
 };
 
-// A text that nobody types into. It is shown as it stands, whatever characters it holds.
+// A text that a person cannot edit. Every character of it is shown unchanged.
 class TextLabel {
 public:
     virtual ~TextLabel() = default;
@@ -61,8 +62,7 @@ public:
     virtual void setStringValue(std::string_view text) = 0;
 };
 
-// A table view; its values come from its TableViewDataSource, which whoever makes the view
-// connects.
+// A table view. The maker of the view connects it to the TableViewDataSource that gives its values.
 class TableView {
 public:
     virtual ~TableView() = default;
@@ -80,8 +80,8 @@ class TextView {
 public:
     virtual ~TextView() = default;
 
-    // Replaces all of the text, by a copy of this one. How long it is makes no difference, but to a
-    // screen reader, which is told all of it.
+    // Replaces all of the text by a copy of this one. The cost does not depend on the length of the
+    // text, except that a screen reader is told all of it.
     virtual void setString(const LogText& text) = 0;
 
     // Replaces the empty range at the end of the text.
@@ -97,7 +97,7 @@ class Drawer {
 public:
     virtual ~Drawer() = default;
 
-    // open() and close() may take their time: the state is then opening or closing meanwhile.
+    // open() and close() may take some time. Until they are done the state is opening or closing.
     virtual void open() = 0;
     virtual void close() = 0;
     virtual DrawerState state() const = 0;
@@ -118,8 +118,8 @@ class Alert {
 public:
     virtual ~Alert() = default;
 
-    // Shows a message above the window, which takes nothing else meanwhile, and returns once the
-    // person has dismissed it by its one button.
+    // Shows a message above the window and returns when the person has dismissed it with its one
+    // button. The window takes no other input meanwhile.
     virtual void runModal(std::string_view title, std::string_view message,
                           std::string_view button) = 0;
 };
@@ -138,13 +138,13 @@ struct MainWindowOutlets {
     Window* window = nullptr;
     PopUpButton* interfacePopUp = nullptr;
     PopUpButton* udpPortPopUp = nullptr;
-    TextLabel* dropLine = nullptr; // how many datagrams the system dropped
+    TextLabel* dropLine = nullptr; // says how many datagrams the system dropped
     PopUpButton* unitSelectPopUp = nullptr;
     TextField* unitIDField = nullptr;
     TableView* unitParameterTableView = nullptr;
     GXArrayTable* unitParameterTable = nullptr;  // the data source of unitParameterTableView
     TableView* editParameterTableView = nullptr; // its data source is the controller
-    TextLabel* quietLine = nullptr;              // what Apply will send, what became of it
+    TextLabel* quietLine = nullptr;              // says what Apply will send, and its outcome
     PopUpButton* optionCommandPopUp = nullptr;
     TextField* optionCommandField = nullptr;
     Drawer* eventLogDrawer = nullptr;

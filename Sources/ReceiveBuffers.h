@@ -1,9 +1,10 @@
-// Where the system keeps the datagrams of a socket until they are read.
+// The buffers in which the system keeps the datagrams of a socket until they are read.
 //
-// A request to everybody is answered by everybody in the same instant. What finds no room in the
-// buffer then is dropped, and neither side hears of it: units would be missing without a word.
+// When a request goes to every unit, all units answer in the same instant. The system drops a
+// datagram that finds no room in the buffer, and tells neither side. Units would then be missing
+// without a word.
 //
-// Threading: keeps no state; any thread. Descriptors stay their owner's.
+// Threading: keeps no state; any thread. Ownership: the callers keep their descriptors.
 
 #pragma once
 
@@ -16,15 +17,15 @@ class ReceiveBuffers {
 public:
     virtual ~ReceiveBuffers() = default;
 
-    // Asks for room for so many bytes, the system's own bookkeeping not counted, and takes what the
-    // system allows when that is less. A socket that has as much already is left alone, and so is
-    // one for which the system refuses.
+    // Asks the system for room for `bytes` bytes, not counting the system's own bookkeeping. Takes
+    // less when the system allows less. Leaves the socket alone when it has as much already, and
+    // when the system refuses.
     virtual void enlarge(int descriptor, int bytes) = 0;
 
-    // How many datagrams that came for this socket the system has dropped since the socket was
-    // made. After 2^32 - 1 it begins again at 0. Nearly all of them found no room; a few may have
-    // had a wrong checksum, which the system does not tell apart. Absent when the system does not
-    // say, as for a descriptor that is closed.
+    // The number of datagrams for this socket that the system has dropped since the socket was
+    // made. After 2^32 - 1 the number begins again at 0. Nearly all of these datagrams found no
+    // room; a few may have had a wrong checksum, because the system does not tell the two apart.
+    // Absent when the system does not tell the number, for example for a closed descriptor.
     virtual std::optional<std::uint32_t> droppedDatagrams(int descriptor) = 0;
 };
 

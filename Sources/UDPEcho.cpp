@@ -36,8 +36,8 @@ int makeNonBlocking(DatagramSystemCalls& systemCalls, int sock) {
     return done ? 0 : errno;
 }
 
-// The first `count` bytes of the buffer; absent when a system claims to have filled more of it than
-// there is.
+// The first `count` bytes of the buffer; absent when a system claims to have filled more bytes than
+// the buffer has.
 std::optional<Bytes> copyOfBytes(ByteView buffer, std::size_t count) {
     if (count > buffer.size()) {
         return std::nullopt;
@@ -158,8 +158,8 @@ bool UDPEcho::_setupSocketConnectedToAddressPortError(const std::optional<Bytes>
     return err == 0;
 }
 
-// Creates, binds or connects, and makes the socket non-blocking: 0 or the errno value of the first
-// step that failed. `sock` is the descriptor, -1 when none was made.
+// Creates the socket, binds or connects it, and makes it non-blocking. Returns 0, or the errno
+// value of the first step that failed. `sock` is the descriptor, -1 when none was made.
 int UDPEcho::_openSocket(int& sock, const std::optional<Bytes>& address, std::size_t port) {
     sock = _systemCalls.socket();
     int err = sock < 0 ? errno : 0;
@@ -214,8 +214,8 @@ void UDPEcho::_hostResolutionDone(const HostResolution& resolution) {
     }
 }
 
-// Sets up the socket with the first IPv4 address that accepts. Absent when one did, and when there
-// was none to try; otherwise why the last one did not.
+// Sets up the socket with the first IPv4 address that accepts. The result is absent when one
+// accepted, and when there was none to try; otherwise it is the error of the last one.
 std::optional<Error> UDPEcho::_connectToFirstOf(const std::vector<Bytes>& addresses) {
     std::optional<Error> error;
     for (const auto& address : addresses) {
@@ -247,11 +247,11 @@ void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
     const int sock = nativeSocket();
     require(sock >= 0, "sock >= 0", sourcePath);
 
-    // A copy, since the delegate may stop the endpoint.
+    // A copy, because the delegate may stop the endpoint.
     const std::optional<Bytes> destination = address.has_value() ? address : _hostAddress;
     const Bytes& addr = requireValue(destination, "addr != nil", sourcePath);
 
-    // A connected socket is given no address.
+    // sendTo() gets no address for a connected socket.
     const auto addressToSend = address.has_value() ? std::optional<ByteView>(addr) : std::nullopt;
     const ssize_t bytesWritten = _systemCalls.sendTo(sock, bytes, addressToSend);
     int err = 0;
@@ -275,7 +275,7 @@ void UDPEcho::_readData() {
     const int sock = nativeSocket();
     require(sock >= 0, "sock >= 0", sourcePath);
 
-    std::array<std::uint8_t, receiveBufferLength> buffer; // filled by the system, as far as needed
+    std::array<std::uint8_t, receiveBufferLength> buffer; // the system fills as much as it needs
     DatagramOrigin origin;
     const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, origin);
     if (bytesRead > 0) {

@@ -8,19 +8,20 @@
 //            address that accepts, and sends to that peer (sendData()).
 //
 // The endpoint has no protocol: a datagram is one buffer of bytes and a socket address. It sets no
-// socket option; its owner may, through nativeSocket().
+// socket option; its owner may do so through nativeSocket().
 //
 // Threading: everything, callbacks included, on the thread of the run loop. Sends and reads never
 // block. One datagram is read for each readable event, so a flood on this socket cannot keep other
 // events waiting.
 //
-// Ownership: held by std::shared_ptr, and made by make() only. The delegate is not owned; clear it
-// or outlive the endpoint. Run loop, resolver and system calls must outlive it too.
+// Ownership: endpoints are held by std::shared_ptr, and made by make() only. The delegate is not
+// owned; it must outlive the endpoint or be cleared before it ends. Run loop, resolver and system
+// calls must outlive the endpoint too.
 //
-// Errors: what the network does wrong reaches the delegate as an Error; sends and reads that fail
-// do not stop the endpoint. What the caller does wrong, and what a system must not do, breaks a
-// contract and ends the process (support/Require.h, source path "Sources/UDPEcho"). The contracts
-// are named at the operations; those of an operation that another one takes hold there too.
+// Errors: a failure of the network reaches the delegate as an Error; sends and reads that fail do
+// not stop the endpoint. A mistake of the caller, and a result that no system may give, break a
+// contract and end the process (support/Require.h, source path "Sources/UDPEcho"). The comments at
+// the operations name the contracts. When one operation calls another, the contracts of both hold.
 
 #pragma once
 
@@ -42,14 +43,14 @@ namespace kx {
 
 class UDPEcho;
 
-// Receives the events of an endpoint. Every method is optional. All calls are synchronous, made
-// from inside the endpoint's own operation or run-loop callback. Addresses are socket address
-// records in the BSD layout (addresses/SocketAddressRecord.h).
+// Receives the events of an endpoint. Every method is optional. All calls are synchronous; the
+// endpoint makes them from inside its own operation or run-loop callback. Addresses are socket
+// address records in the BSD layout (addresses/SocketAddressRecord.h).
 //
 // Inside every event the delegate may stop the endpoint, start it again after that in either mode,
 // give up the last reference to it, clear or change its delegate, and send, as long as the endpoint
-// runs. The endpoint touches nothing of itself after the event, and what a method is given stays as
-// it is until the method returns.
+// runs. The endpoint touches nothing of itself after the event. The arguments of a method do not
+// change until the method returns.
 class UDPEchoDelegate {
 public:
     virtual ~UDPEchoDelegate() = default;
@@ -64,20 +65,21 @@ public:
     // A datagram was sent whole. A send from inside this event is reported inside it.
     virtual void echoDidSendDataToAddress(UDPEcho& echo, const Bytes& data, const Bytes& address);
 
-    // A send failed; the endpoint goes on. A send of nothing counts as EPIPE, an address that is
-    // no IPv4 record as EAFNOSUPPORT or, cut short, as EINVAL.
+    // A send failed; the endpoint goes on. A send of nothing counts as EPIPE. An address that is no
+    // IPv4 record counts as EAFNOSUPPORT, or as EINVAL when it is cut short.
     virtual void echoDidFailToSendDataToAddressError(UDPEcho& echo, const Bytes& data,
                                                      const Bytes& address, const Error& error);
 
-    // The endpoint started: with its local address as a server, with the peer's as a client.
+    // The endpoint started. `address` is its local address as a server, and the peer's address as a
+    // client.
     virtual void echoDidStartWithAddress(UDPEcho& echo, const Bytes& address);
 
-    // The endpoint stopped because of an error; never after stop(). It is stopped already, so it
-    // may be started again here, but cannot send.
+    // The endpoint stopped because of an error. stop() does not report this event. The endpoint is
+    // stopped already, so it may be started again here, but cannot send.
     virtual void echoDidStopWithError(UDPEcho& echo, const Error& error);
 };
 
-// What a plain callback is given to find its object by.
+// The base of the object that a plain callback is given as its context.
 class CallbackInfo {
 public:
     virtual ~CallbackInfo() = default;
@@ -112,12 +114,12 @@ public:
     static std::shared_ptr<UDPEcho> make(RunLoop& runLoop, HostResolver& hostResolver,
                                          DatagramSystemCalls& systemCalls);
 
-    // Stops without a word to the delegate.
+    // Stops without a report to the delegate.
     ~UDPEcho() override;
     UDPEcho(const UDPEcho&) = delete;
     UDPEcho& operator=(const UDPEcho&) = delete;
 
-    // True in server mode and when stopped: there is no host name.
+    // True in server mode and when stopped, because there is no host name then.
     bool isServer() const { return !_hostName.has_value(); }
 
     // The port in host byte order; 0 when stopped.
@@ -143,29 +145,30 @@ public:
     std::uint32_t link() const { return _link; }
 
     // Starts as a server on a port in host byte order and reports echoDidStartWithAddress() before
-    // it returns; when the socket cannot be set up, reports echoDidStopWithError() instead and
-    // stays stopped. The local address is asked for whenever there is a delegate, also one that
-    // does not listen to the start.
+    // it returns. When the socket cannot be set up, reports echoDidStopWithError() instead and
+    // stays stopped. The local address is read whenever there is a delegate, even one that does not
+    // implement the event.
     // Contracts: "(port > 0) && (port < 65536)", "self.port == 0", those of
     // _setupSocketConnectedToAddressPortError(), "localAddress != NULL".
     void startServerOnPort(std::size_t port);
 
-    // Starts as a client: resolves, then connects, then reports echoDidStartWithAddress(). The
-    // first IPv4 address that accepts is the peer: a client whose first address refuses and whose
-    // second accepts runs, and nobody hears of the first. Every failure reports
-    // echoDidStopWithError(), from inside this call when the resolution cannot start.
+    // Starts as a client: resolves, then connects, then reports echoDidStartWithAddress(). The peer
+    // is the first IPv4 address that accepts; refusals of earlier addresses are not reported. Every
+    // failure reports echoDidStopWithError(), from inside this call when the resolution cannot
+    // start.
     // Contracts: "hostName != nil", "(port > 0) && (port < 65536)", "self.port == 0",
     // "self->_cfHost == NULL", "self->_cfHost != NULL"; at the end of the resolution those of
     // HostResolveCallback().
     void startConnectedToHostNamePort(const std::optional<std::string>& hostName, std::size_t port);
 
-    // Client mode: sends one datagram to the peer. Contracts: "NO" unless connected, those of
+    // Client mode: sends one datagram to the peer. Contracts: "NO" unless connected, and those of
     // _sendDataToAddress().
     void sendData(const std::optional<Bytes>& data);
 
-    // Sends one datagram: to `address` in server mode, to the peer without one in client mode.
-    // Reports echoDidSendDataToAddress() or echoDidFailToSendDataToAddressError() before it
-    // returns. An address that is present but empty is an address, and fails to send.
+    // Sends one datagram. In server mode it goes to `address`. In client mode it goes to the peer,
+    // and `address` is absent. Reports echoDidSendDataToAddress() or
+    // echoDidFailToSendDataToAddressError() before it returns. An address that is present but empty
+    // counts as present, and fails to send.
     // Contracts: "data != nil", "(addr != nil) == self.isServer",
     // "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", "sock >= 0",
     // "addr != nil" (a client without a peer), "(NSUInteger) bytesWritten == [data length]".
@@ -189,14 +192,15 @@ public:
                                     const HostResolution& resolution, CallbackInfo* info);
 
 protected:
-    // A derived class, too, must see to it that its objects are held by std::shared_ptr.
+    // Objects of a derived class must be held by std::shared_ptr too.
     UDPEcho(RunLoop& runLoop, HostResolver& hostResolver, DatagramSystemCalls& systemCalls);
 
-    // The steps of the operations above. They are not for owners; derived classes may take them one
+    // The steps of the operations above. Owners do not call them; derived classes may call them one
     // by one.
 
     // Creates the socket, binds it to `port` (no address) or connects it to `address` at `port`,
-    // and watches it. On failure false, and the reason in `error` unless that is null.
+    // and watches it. On failure returns false and stores the reason in `error`, unless that is
+    // null.
     // Contracts: "(address == nil) == self.isServer",
     // "(address == nil) || ([address length] <= sizeof(struct sockaddr_storage))", "port < 65536",
     // "self->_cfSocket == NULL", "NO" (an address of more than 16 bytes),
@@ -206,8 +210,9 @@ protected:
     bool _setupSocketConnectedToAddressPortError(const std::optional<Bytes>& address,
                                                  std::size_t port, std::optional<Error>* error);
 
-    // Connects to the first IPv4 address that accepts, and reports the start or the stop: with the
-    // last address's error when none accepted, with kCFHostErrorHostNotFound when there was none.
+    // Connects to the first IPv4 address that accepts, and reports the start. Reports the stop when
+    // none accepted, with the last address's error, and when there was none, with
+    // kCFHostErrorHostNotFound.
     // Contracts: "self.port != 0", "self->_cfHost != NULL", "self->_cfSocket == NULL",
     // "self.hostAddress == nil", "addrLen >= sizeof(struct sockaddr)", those of
     // _setupSocketConnectedToAddressPortError(), "hostAddress != NULL".
@@ -224,8 +229,8 @@ protected:
     void _stopWithError(const std::optional<Error>& error);
 
     // Stops, then reports kCFHostErrorUnknown. An error of the resolver itself
-    // (kCFStreamErrorDomainNetDB) has its code as user info, under kCFGetAddrInfoFailureKey; one of
-    // another domain has no user info.
+    // (kCFStreamErrorDomainNetDB) has its code as user info, under kCFGetAddrInfoFailureKey. An
+    // error of another domain has no user info.
     void _stopWithStreamError(const StreamError& streamError);
 
 private:

@@ -1,7 +1,7 @@
-# One place for the language level, the warnings and the sanitizers of every target.
+# The one place for the language level, the warnings and the sanitizers of every target.
 #
-# A warning does not end the build: another compiler may have one that nobody has seen. The continuous
-# integration makes errors of them, with CMAKE_COMPILE_WARNING_AS_ERROR.
+# A warning does not end the build, because another compiler may have a warning that nobody has seen yet.
+# The continuous integration turns warnings into errors with CMAKE_COMPILE_WARNING_AS_ERROR.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -11,16 +11,17 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion
-    # Where files are compiled together, a name hides only another file's.
+    # When files are compiled together, a name can only hide a name of another file.
     $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
 
-# There GCC also takes the anonymous namespace of an included file for that of a header.
+# When files are compiled together, GCC takes the anonymous namespace of an included file for the
+# namespace of a header.
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(kxwarnings INTERFACE
         $<$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>:-Wno-subobject-linkage>)
 endif()
 
-# At -O3 GCC 12 takes the joining of a literal and a text for an overlapping copy (GCC bug 105651).
+# At -O3 GCC 12 mistakes the joining of a literal and a text for an overlapping copy (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
     target_compile_options(kxwarnings INTERFACE $<$<CONFIG:Release>:-Wno-restrict>)
 endif()
@@ -29,7 +30,7 @@ if(KX_SANITIZE)
     add_compile_options(-fsanitize=${KX_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${KX_SANITIZE})
     add_compile_definitions(KX_SANITIZED)
-    # Instrumented code hides from GCC that a value has been set, as in std::regex. The other presets
+    # In instrumented code GCC cannot see that a value has been set, as in std::regex. The other presets
     # keep this warning.
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         target_compile_options(kxwarnings INTERFACE -Wno-maybe-uninitialized)

@@ -1,13 +1,13 @@
-# Where everything goes that people install, relative to the prefix.
+# The places of all installed files, relative to the prefix.
 #
 #   bin/                        both programs
 #   share/applications, share/metainfo, share/icons, share/man
-#                               what a desktop reads
+#                               files that a desktop reads
 #   share/polkit-1/actions      the action that asks for administrator rights; its daemon looks
 #                               there below a prefix of /usr
 #   share/kxconfig/             the help pages and the dissector
 #
-# The version comes from project(), the day from the clock or SOURCE_DATE_EPOCH.
+# The version comes from project(), and the day comes from the clock or from SOURCE_DATE_EPOCH.
 
 include(GNUInstallDirs)
 
@@ -31,7 +31,7 @@ function(kx_install_manual PAGE)
     install(FILES "${generated_dir}/${PAGE}.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 endfunction()
 
-# Software centres load pictures from the web only.
+# Software centres load pictures only from the web.
 function(kx_set_screenshots VARIABLE)
     set(${VARIABLE} "" PARENT_SCOPE)
     if(KX_PICTURES_URL)

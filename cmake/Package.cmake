@@ -1,9 +1,10 @@
-# The Debian package, made by cpack in a build folder; scripts/package does all of it.
+# The Debian package. cpack makes it in a build folder; scripts/package does all the steps.
 #
-# Depends is what the libraries need, found by dpkg-shlibdeps, and net-tools, whose arp makes a unit
-# reachable at its new address. Recommends is what a person may lack and still work: polkit asks for
-# the administrator's password (root needs none), a desktop without xdg-utils opens no help pages,
-# Qt speaks X11 where it cannot speak Wayland, and English where it has no translations.
+# Depends lists the packages that the libraries need, found by dpkg-shlibdeps, and net-tools, whose arp
+# makes a unit reachable at its new address. Recommends lists packages without which a person can still
+# work: polkit asks for the administrator's password (root needs none), xdg-utils opens the help pages on
+# a desktop, and Qt's packages let it run on Wayland and show translations; without them Qt uses X11 and
+# English.
 
 set(KX_MAINTAINER "KXConfig maintainers <maintainers@kxconfig.invalid>" CACHE STRING
     "Who answers for the package, as NAME <ADDRESS>")

@@ -1,5 +1,5 @@
-# The catalogues of Resources/translations, compiled and put into the program, which so finds them
-# wherever it lies.
+# The catalogues of Resources/translations, compiled and embedded in the program, so that it finds them
+# wherever it is installed.
 
 function(kx_embed_translations TARGET)
     find_program(KX_LRELEASE NAMES lrelease lrelease-qt6 REQUIRED

@@ -206,306 +206,6 @@
         <translation>Ü&amp;ber KXConfig</translation>
     </message>
     <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
-        <translation>„Anwenden“ sendet %@, obwohl eine MAC-Adresse aus 12 Hexadezimalziffern besteht und außer ihnen nur Doppelpunkte enthält.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
-        <translation>„Anwenden“ sendet %@, obwohl eine MAC-Adresse 12 Hexadezimalziffern hat und diese %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: internal MAC address %@.</source>
-        <translation>„Anwenden“ sendet %@: interne MAC-Adresse %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination MAC address %@.</source>
-        <translation>„Anwenden“ sendet %@: Ziel-MAC-Adresse %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
-        <translation>„Anwenden“ sendet %@, obwohl eine Seriennummer aus 12 Hexadezimalziffern besteht und außer ihnen nur Leerzeichen enthält.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
-        <translation>„Anwenden“ sendet %@, obwohl eine Seriennummer 12 Hexadezimalziffern hat und diese %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: serial number %@.</source>
-        <translation>„Anwenden“ sendet %@: Seriennummer %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@.</source>
-        <translation>„Anwenden“ sendet %@: Ziel-IP-Adresse %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>„Anwenden“ sendet %@: Ziel-IP-Adresse 0.0.0.0, denn „%@“ ist keine IPv4-Adresse.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@, because that is how “%@” is read.</source>
-        <translation>„Anwenden“ sendet %@: Ziel-IP-Adresse %@, denn so wird „%@“ gelesen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
-        <translation>„Anwenden“ fragt nach Administratorrechten, doch für einen ARP-Eintrag ist keine MAC-Adresse bekannt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
-        <translation>„Anwenden“ fragt nach Administratorrechten, doch ein ARP-Eintrag kann nur ASCII-Zeichen enthalten.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
-        <translation>„Anwenden“ übergibt „%@“ und %@ an das ARP-Programm. Dazu sind Administratorrechte nötig.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>„Anwenden“ trägt %@ mit %@ in den ARP-Cache ein. Dazu sind Administratorrechte nötig.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>No unit is selected.</source>
-        <translation>Kein Gerät ist ausgewählt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@.</source>
-        <translation>„Anwenden“ sendet %@ an %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>„Anwenden“ sendet %@ an 0.0.0.0, denn „%@“ ist keine IPv4-Adresse.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
-        <translation>„Anwenden“ sendet %@ an %@, denn so wird „%@“ gelesen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because “%@” does not begin with a number.</source>
-        <translation>„Anwenden“ sendet %@: Zielport 3520, denn „%@“ beginnt nicht mit einer Zahl.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because %@ is outside 3520 to 3523.</source>
-        <translation>„Anwenden“ sendet %@: Zielport 3520, denn %@ liegt außerhalb von 3520 bis 3523.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d, because that is how “%@” is read.</source>
-        <translation>„Anwenden“ sendet %@: Zielport %d, denn so wird „%@“ gelesen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d.</source>
-        <translation>„Anwenden“ sendet %@: Zielport %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port 0, because “%@” does not begin with a number.</source>
-        <translation>„Anwenden“ sendet %@: Geräteport 0, denn „%@“ beginnt nicht mit einer Zahl.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
-        <translation>„Anwenden“ sendet %@, mehr als die vier Ziffern eines Ports, denn %@ liegt außerhalb von 0 bis 65535.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d, because that is how “%@” is read.</source>
-        <translation>„Anwenden“ sendet %@: Geräteport %d, denn so wird „%@“ gelesen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d.</source>
-        <translation>„Anwenden“ sendet %@: Geräteport %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, because that is how “%@” is read. Above 255 it does not show as a number.</source>
-        <translation>„Anwenden“ sendet %@: die Zahl %d, denn so wird „%@“ gelesen. Über 255 wird sie nicht als Zahl angezeigt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, which does not show as a number because it is above 255.</source>
-        <translation>„Anwenden“ sendet %@: die Zahl %d, die über 255 liegt und deshalb nicht als Zahl angezeigt wird.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d, because that is how “%@” is read.</source>
-        <translation>„Anwenden“ sendet %@: Geräte-ID %d, denn so wird „%@“ gelesen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d.</source>
-        <translation>„Anwenden“ sendet %@: Geräte-ID %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
-        <translation>„Anwenden“ sendet %@: den Text „%@“, obwohl eine Geräte-ID 6 Bytes hat und dieser %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID “%@”.</source>
-        <translation>„Anwenden“ sendet %@: Geräte-ID „%@“.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the value is empty.</source>
-        <translation>„Anwenden“ sendet nichts: Der Wert ist leer.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
-        <translation>„Anwenden“ sendet nichts: Die Geräte-ID ist kein Text in UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: no unit is selected.</source>
-        <translation>„Anwenden“ sendet nichts: Kein Gerät ist ausgewählt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
-        <translation>„Anwenden“ sendet nichts: Ein Befehl kann nur ASCII-Zeichen enthalten.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the address of the unit is not known.</source>
-        <translation>„Anwenden“ sendet nichts: Die Adresse des Geräts ist nicht bekannt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The value is empty.</source>
-        <translation>Nicht gesendet: Der Wert ist leer.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The unit ID is not a text in UTF-8.</source>
-        <translation>Nicht gesendet: Die Geräte-ID ist kein Text in UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: No unit is selected.</source>
-        <translation>Nicht gesendet: Kein Gerät ist ausgewählt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: A command can hold ASCII characters only.</source>
-        <translation>Nicht gesendet: Ein Befehl kann nur ASCII-Zeichen enthalten.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The address of the unit is not known.</source>
-        <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@</source>
-        <translation>Nicht gesendet: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@.</source>
-        <translation>Nicht gesendet: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the command is too long for a datagram.</source>
-        <translation>„Anwenden“ sendet nichts: Der Befehl ist zu lang für ein Datagramm.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>Sent %@. The unit has not answered yet.</source>
-        <translation>%@ gesendet. Das Gerät hat noch nicht geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>Das Gerät hat %@ angenommen und wurde nach seinen Parametern gefragt. „Geräte suchen“ findet es an seinem neuen Port.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters.</source>
-        <translation>Das Gerät hat %@ angenommen und wurde nach seinen Parametern gefragt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit&apos;s parameters hold no %@.</source>
-        <translation>Die Parameter des Geräts enthalten keinen Eintrag „%@“.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
-        <translation>Das Gerät zeigt jetzt %@ als seine Seriennummer. „Geräte suchen“ führt es darunter auf.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@.</source>
-        <translation>Das Gerät zeigt jetzt %@ unter „%@“.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit still shows %@ as its %@.</source>
-        <translation>Das Gerät zeigt weiterhin %@ unter „%@“.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
-        <translation>Das Gerät zeigt jetzt %@ unter „%@“. Das ist nicht, was gesendet wurde.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Administratorrechte wurden nicht erteilt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Ausführung des ARP-Programms wurde verweigert.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Frage nach Administratorrechten wurde abgebrochen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm lässt sich nicht ausführen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Er kann nur ASCII-Zeichen enthalten.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm wurde nicht gestartet (%d).</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
-        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm endete mit Status %d.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>No configured interfaces</source>
         <translation>Keine konfigurierten Schnittstellen</translation>
@@ -519,60 +219,6 @@
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>Die Hilfe konnte nicht im Webbrowser geöffnet werden. Um sie hier zu lesen, drücken Sie Alt+Umschalt+F1.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP listener did start. </source>
-        <translation>
-UDP-Empfang gestartet. </translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-Error setting SO_BROADCAST %s</source>
-        <translation>
-Fehler beim Setzen von SO_BROADCAST %s</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did receive error.</source>
-        <translation>
-UDP-Fehler beim Empfangen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP server did send data.</source>
-        <translation>
-UDP-Daten gesendet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP failed to send data.</source>
-        <translation>
-UDP-Daten konnten nicht gesendet werden.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did stop with error.</source>
-        <translation>
-UDP-Empfang mit Fehler beendet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Discovery.cpp"/>
-        <source>[Begin Discover]</source>
-        <translation>[Beginn der Suche]</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Unit ID could not be converted to 6-byte UTF-8 string</source>
-        <translation>
-Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
@@ -590,127 +236,9 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache with MAC %@ for IP %@</source>
-        <translation>
-ARP-Cache: MAC %@ eingetragen für IP %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache result: %d</source>
-        <translation>
-Ergebnis des ARP-Cache-Eintrags: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Send to: %@ command: %@</source>
-        <translation>
-Senden an: %@ Befehl: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Request unit parameters with address: %@</source>
-        <translation>
-Geräteparameter angefordert bei Adresse: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>Der UDP-Empfang ist nicht gestartet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-UDP listener did receive data. Length: %d</source>
-        <translation>
-UDP-Daten empfangen. Länge: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring short packet</source>
-        <translation>
-Zu kurzes Paket ignoriert</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring unknown packet, prefix != ^^</source>
-        <translation>
-Unbekanntes Paket ignoriert, Präfix != ^^</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
-        <translation>
-Befehl empfangen: ^^%@ Geräte-ID:%@ Seriennummer:%@ Inhalt:%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@</source>
-        <translation>
-Befehl empfangen: ^^%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>nicht verfügbar</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination IP address</source>
-        <translation>Ziel-IP-Adresse</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination MAC address</source>
-        <translation>Ziel-MAC-Adresse</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination Port number</source>
-        <translation>Zielport</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>device Port number</source>
-        <translation>Geräteport</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal IP address</source>
-        <translation>Interne IP-Adresse</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal MAC address</source>
-        <translation>Interne MAC-Adresse</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>serial number</source>
-        <translation>Seriennummer</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>unit ID</source>
-        <translation>Geräte-ID</translation>
     </message>
     <message>
         <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
@@ -923,6 +451,498 @@ Befehl empfangen: ^^%@</translation>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>vacation</source>
         <translation>Urlaub</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address</source>
+        <translation>Ziel-IP-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address %@</source>
+        <translation>Ziel-IP-Adresse %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address</source>
+        <translation>Ziel-MAC-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address %@</source>
+        <translation>Ziel-MAC-Adresse %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination Port number</source>
+        <translation>Zielport</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination port %@</source>
+        <translation>Zielport %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device Port number</source>
+        <translation>Geräteport</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device port %@</source>
+        <translation>Geräteport %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address</source>
+        <translation>Interne IP-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address %@</source>
+        <translation>interne IP-Adresse %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address</source>
+        <translation>Interne MAC-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address %@</source>
+        <translation>interne MAC-Adresse %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number</source>
+        <translation>Seriennummer</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number %@</source>
+        <translation>Seriennummer %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID</source>
+        <translation>Geräte-ID</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID %@</source>
+        <translation>Geräte-ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@.</source>
+        <translation>„Anwenden“ sendet %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because that is how “%@” is read.</source>
+        <translation>„Anwenden“ sendet %@: %@, denn so wird „%@“ gelesen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
+        <translation>„Anwenden“ sendet %@, obwohl eine MAC-Adresse aus 12 Hexadezimalziffern besteht und außer ihnen nur Doppelpunkte enthält.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
+        <translation>„Anwenden“ sendet %@, obwohl eine MAC-Adresse 12 Hexadezimalziffern hat und diese %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
+        <translation>„Anwenden“ sendet %@, obwohl eine Seriennummer aus 12 Hexadezimalziffern besteht und außer ihnen nur Leerzeichen enthält.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
+        <translation>„Anwenden“ sendet %@, obwohl eine Seriennummer 12 Hexadezimalziffern hat und diese %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: serial number %@, which another unit has.</source>
+        <translation>„Anwenden“ sendet %@: Seriennummer %@, die ein anderes Gerät hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” is not an IPv4 address.</source>
+        <translation>„Anwenden“ sendet %@: %@, denn „%@“ ist keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” does not begin with a number.</source>
+        <translation>„Anwenden“ sendet %@: %@, denn „%@“ beginnt nicht mit einer Zahl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because %@ is outside 3520 to 3523.</source>
+        <translation>„Anwenden“ sendet %@: %@, denn %@ liegt außerhalb von 3520 bis 3523.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
+        <translation>„Anwenden“ sendet %@, mehr als die vier Ziffern eines Ports, denn %@ liegt außerhalb von 0 bis 65535.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, which does not show as a number because it is above 255.</source>
+        <translation>„Anwenden“ sendet %@: die Zahl %@, die über 255 liegt und deshalb nicht als Zahl angezeigt wird.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, because that is how “%@” is read. Above 255 it does not show as a number.</source>
+        <translation>„Anwenden“ sendet %@: die Zahl %@, denn so wird „%@“ gelesen. Über 255 wird sie nicht als Zahl angezeigt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
+        <translation>„Anwenden“ sendet %@: den Text „%@“, obwohl eine Geräte-ID 6 Bytes hat und dieser %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: unit ID “%@”.</source>
+        <translation>„Anwenden“ sendet %@: Geräte-ID „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
+        <translation>„Anwenden“ fragt nach Administratorrechten, doch für einen ARP-Eintrag ist keine MAC-Adresse bekannt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
+        <translation>„Anwenden“ fragt nach Administratorrechten, doch ein ARP-Eintrag kann nur ASCII-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
+        <translation>„Anwenden“ übergibt „%@“ und %@ an das ARP-Programm. Dazu sind Administratorrechte nötig.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
+        <translation>„Anwenden“ trägt %@ mit %@ in den ARP-Cache ein. Dazu sind Administratorrechte nötig.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the UDP listener is not running.</source>
+        <translation>„Anwenden“ sendet nichts: Der UDP-Empfang ist nicht gestartet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit is selected.</source>
+        <translation>Kein Gerät ist ausgewählt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>„Anwenden“ sendet %@ an 0.0.0.0, denn „%@“ ist keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
+        <translation>„Anwenden“ sendet %@ an %@, denn so wird „%@“ gelesen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@.</source>
+        <translation>„Anwenden“ sendet %@ an %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no command changes this parameter.</source>
+        <translation>„Anwenden“ sendet nichts: Kein Befehl ändert diesen Parameter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the value is empty.</source>
+        <translation>„Anwenden“ sendet nichts: Der Wert ist leer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
+        <translation>„Anwenden“ sendet nichts: Die Geräte-ID ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no unit is selected.</source>
+        <translation>„Anwenden“ sendet nichts: Kein Gerät ist ausgewählt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
+        <translation>„Anwenden“ sendet nichts: Ein Befehl kann nur ASCII-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the address of the unit is not known.</source>
+        <translation>„Anwenden“ sendet nichts: Die Adresse des Geräts ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the command is too long for a datagram.</source>
+        <translation>„Anwenden“ sendet nichts: Der Befehl ist zu lang für ein Datagramm.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@</source>
+        <translation>Das Gerät hat einen Befehl angenommen. Es konnte nicht nach seinen Parametern gefragt werden: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@.</source>
+        <translation>Das Gerät hat einen Befehl angenommen. Es konnte nicht nach seinen Parametern gefragt werden: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
+        <translation>Das Gerät hat einen Befehl angenommen und wurde nach seinen Parametern gefragt. „Geräte suchen“ findet es an seinem neuen Port.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters.</source>
+        <translation>Das Gerät hat einen Befehl angenommen und wurde nach seinen Parametern gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
+        <translation>Das Gerät zeigt jetzt %@ als seine Seriennummer. „Geräte suchen“ führt es darunter auf.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@.</source>
+        <translation>Das Gerät zeigt jetzt %@ unter „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit still shows %@ as its %@.</source>
+        <translation>Das Gerät zeigt weiterhin %@ unter „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
+        <translation>Das Gerät zeigt jetzt %@ unter „%@“. Das ist nicht, was gesendet wurde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit&apos;s parameters hold no %@.</source>
+        <translation>Die Parameter des Geräts enthalten keinen Eintrag „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered yet.</source>
+        <translation>%@ gesendet. Das Gerät hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Administratorrechte wurden nicht erteilt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Ausführung des ARP-Programms wurde verweigert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Die Frage nach Administratorrechten wurde abgebrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm lässt sich nicht ausführen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Er kann nur ASCII-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm wurde nicht gestartet (%d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm endete mit Status %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[Begin Discover]</source>
+        <translation>[Beginn der Suche]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did start. </source>
+        <translation>
+UDP-Empfang gestartet. </translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Error setting SO_BROADCAST %s</source>
+        <translation>
+Fehler beim Setzen von SO_BROADCAST %s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did stop with error.</source>
+        <translation>
+UDP-Empfang mit Fehler beendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Request unit parameters with address: %@</source>
+        <translation>
+Geräteparameter angefordert bei Adresse: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Send to: %@ command: %@</source>
+        <translation>
+Senden an: %@ Befehl: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP server did send data.</source>
+        <translation>
+UDP-Daten gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP failed to send data.</source>
+        <translation>
+UDP-Daten konnten nicht gesendet werden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did receive data. Length: %d</source>
+        <translation>
+UDP-Daten empfangen. Länge: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring short packet</source>
+        <translation>
+Zu kurzes Paket ignoriert</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring unknown packet, prefix != ^^</source>
+        <translation>
+Unbekanntes Paket ignoriert, Präfix != ^^</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did receive error.</source>
+        <translation>
+UDP-Fehler beim Empfangen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
+        <translation>
+Befehl empfangen: ^^%@ Geräte-ID:%@ Seriennummer:%@ Inhalt:%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@</source>
+        <translation>
+Befehl empfangen: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache with MAC %@ for IP %@</source>
+        <translation>
+ARP-Cache: MAC %@ eingetragen für IP %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache result: %d</source>
+        <translation>
+Ergebnis des ARP-Cache-Eintrags: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Unit ID could not be converted to 6-byte UTF-8 string</source>
+        <translation>
+Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>Der UDP-Empfang ist nicht gestartet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@</source>
+        <translation>Nicht gesendet: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@.</source>
+        <translation>Nicht gesendet: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No command changes this parameter.</source>
+        <translation>Nicht gesendet: Kein Befehl ändert diesen Parameter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The value is empty.</source>
+        <translation>Nicht gesendet: Der Wert ist leer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The unit ID is not a text in UTF-8.</source>
+        <translation>Nicht gesendet: Die Geräte-ID ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No unit is selected.</source>
+        <translation>Nicht gesendet: Kein Gerät ist ausgewählt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: A command can hold ASCII characters only.</source>
+        <translation>Nicht gesendet: Ein Befehl kann nur ASCII-Zeichen enthalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The address of the unit is not known.</source>
+        <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
     </message>
 </context>
 </TS>

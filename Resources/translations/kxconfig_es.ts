@@ -206,306 +206,6 @@
         <translation>Acerca &amp;de KXConfig</translation>
     </message>
     <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
-        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y nada más que dos puntos.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
-        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y esta tiene %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: internal MAC address %@.</source>
-        <translation>«Aplicar» envía %@: dirección MAC interna %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination MAC address %@.</source>
-        <translation>«Aplicar» envía %@: dirección MAC de destino %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
-        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y nada más que espacios.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
-        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y este tiene %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: serial number %@.</source>
-        <translation>«Aplicar» envía %@: número de serie %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@.</source>
-        <translation>«Aplicar» envía %@: dirección IP de destino %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>«Aplicar» envía %@: dirección IP de destino 0.0.0.0, porque «%@» no es una dirección IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@, because that is how “%@” is read.</source>
-        <translation>«Aplicar» envía %@: dirección IP de destino %@, porque así se lee «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
-        <translation>«Aplicar» pide derechos de administrador, pero no se conoce ninguna dirección MAC para una entrada ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
-        <translation>«Aplicar» pide derechos de administrador, pero una entrada ARP solo puede contener caracteres ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
-        <translation>«Aplicar» entrega «%@» y %@ a la herramienta ARP. Para ello se necesitan derechos de administrador.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>«Aplicar» inscribe %@ con %@ en la caché ARP. Para ello se necesitan derechos de administrador.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>No unit is selected.</source>
-        <translation>No hay ninguna unidad seleccionada.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@.</source>
-        <translation>«Aplicar» envía %@ a %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>«Aplicar» envía %@ a 0.0.0.0, porque «%@» no es una dirección IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
-        <translation>«Aplicar» envía %@ a %@, porque así se lee «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because “%@” does not begin with a number.</source>
-        <translation>«Aplicar» envía %@: puerto de destino 3520, porque «%@» no empieza por un número.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because %@ is outside 3520 to 3523.</source>
-        <translation>«Aplicar» envía %@: puerto de destino 3520, porque %@ no está entre 3520 y 3523.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d, because that is how “%@” is read.</source>
-        <translation>«Aplicar» envía %@: puerto de destino %d, porque así se lee «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d.</source>
-        <translation>«Aplicar» envía %@: puerto de destino %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port 0, because “%@” does not begin with a number.</source>
-        <translation>«Aplicar» envía %@: puerto de la unidad 0, porque «%@» no empieza por un número.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
-        <translation>«Aplicar» envía %@, más que los cuatro dígitos de un puerto, porque %@ no está entre 0 y 65535.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d, because that is how “%@” is read.</source>
-        <translation>«Aplicar» envía %@: puerto de la unidad %d, porque así se lee «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d.</source>
-        <translation>«Aplicar» envía %@: puerto de la unidad %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, because that is how “%@” is read. Above 255 it does not show as a number.</source>
-        <translation>«Aplicar» envía %@: el número %d, porque así se lee «%@». Por encima de 255 no se muestra como número.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, which does not show as a number because it is above 255.</source>
-        <translation>«Aplicar» envía %@: el número %d, que no se muestra como número porque pasa de 255.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d, because that is how “%@” is read.</source>
-        <translation>«Aplicar» envía %@: identificador de unidad %d, porque así se lee «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d.</source>
-        <translation>«Aplicar» envía %@: identificador de unidad %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
-        <translation>«Aplicar» envía %@: el texto «%@», aunque un identificador de unidad tiene 6 bytes y este tiene %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID “%@”.</source>
-        <translation>«Aplicar» envía %@: identificador de unidad «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the value is empty.</source>
-        <translation>«Aplicar» no envía nada: el valor está vacío.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
-        <translation>«Aplicar» no envía nada: el identificador de unidad no es un texto en UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: no unit is selected.</source>
-        <translation>«Aplicar» no envía nada: no hay ninguna unidad seleccionada.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
-        <translation>«Aplicar» no envía nada: una orden solo puede contener caracteres ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the address of the unit is not known.</source>
-        <translation>«Aplicar» no envía nada: no se conoce la dirección de la unidad.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The value is empty.</source>
-        <translation>No se envió: el valor está vacío.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The unit ID is not a text in UTF-8.</source>
-        <translation>No se envió: el identificador de unidad no es un texto en UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: No unit is selected.</source>
-        <translation>No se envió: no hay ninguna unidad seleccionada.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: A command can hold ASCII characters only.</source>
-        <translation>No se envió: una orden solo puede contener caracteres ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The address of the unit is not known.</source>
-        <translation>No se envió: no se conoce la dirección de la unidad.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@</source>
-        <translation>No se envió: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@.</source>
-        <translation>No se envió: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the command is too long for a datagram.</source>
-        <translation>«Aplicar» no envía nada: la orden es demasiado larga para un datagrama.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>Sent %@. The unit has not answered yet.</source>
-        <translation>Se envió %@. La unidad aún no ha respondido.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>La unidad aceptó %@ y se le pidieron sus parámetros. «Buscar unidades» la encuentra en su nuevo puerto.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters.</source>
-        <translation>La unidad aceptó %@ y se le pidieron sus parámetros.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit&apos;s parameters hold no %@.</source>
-        <translation>Los parámetros de la unidad no contienen «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
-        <translation>La unidad muestra ahora %@ como su número de serie. «Buscar unidades» la incluye en la lista con ese número.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@.</source>
-        <translation>La unidad muestra ahora %@ en «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit still shows %@ as its %@.</source>
-        <translation>La unidad sigue mostrando %@ en «%@».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
-        <translation>La unidad muestra ahora %@ en «%@», que no es lo que se envió.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>No se creó ninguna entrada ARP para %@: no se concedieron derechos de administrador.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
-        <translation>No se creó ninguna entrada ARP para %@: se denegó la ejecución de la herramienta ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
-        <translation>No se creó ninguna entrada ARP para %@: se canceló la petición de derechos de administrador.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
-        <translation>No se creó ninguna entrada ARP para %@: no se puede ejecutar la herramienta ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
-        <translation>No se creó ninguna entrada ARP para %@: solo puede contener caracteres ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
-        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP no se inició (%d).</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
-        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP terminó con el estado %d.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>No configured interfaces</source>
         <translation>No hay interfaces configuradas</translation>
@@ -519,60 +219,6 @@
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, pulse Alt+Mayús+F1.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP listener did start. </source>
-        <translation>
-Escucha UDP iniciada. </translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-Error setting SO_BROADCAST %s</source>
-        <translation>
-Error al establecer SO_BROADCAST %s</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did receive error.</source>
-        <translation>
-Error de recepción UDP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP server did send data.</source>
-        <translation>
-Datos UDP enviados.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP failed to send data.</source>
-        <translation>
-No se pudieron enviar los datos UDP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did stop with error.</source>
-        <translation>
-Escucha UDP detenida con un error.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Discovery.cpp"/>
-        <source>[Begin Discover]</source>
-        <translation>[Inicio de la búsqueda]</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Unit ID could not be converted to 6-byte UTF-8 string</source>
-        <translation>
-No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
@@ -590,127 +236,9 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <translation>Aceptar</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache with MAC %@ for IP %@</source>
-        <translation>
-Caché ARP: MAC %@ inscrita para la IP %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache result: %d</source>
-        <translation>
-Resultado de la inscripción en la caché ARP: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Send to: %@ command: %@</source>
-        <translation>
-Envío a: %@ orden: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Request unit parameters with address: %@</source>
-        <translation>
-Parámetros de unidad pedidos a la dirección: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>La escucha UDP no está activa.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-UDP listener did receive data. Length: %d</source>
-        <translation>
-Datos UDP recibidos. Longitud: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring short packet</source>
-        <translation>
-Paquete demasiado corto ignorado</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring unknown packet, prefix != ^^</source>
-        <translation>
-Paquete desconocido ignorado, prefijo != ^^</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
-        <translation>
-Orden recibida: ^^%@ identificador:%@ número de serie:%@ contenido:%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@</source>
-        <translation>
-Orden recibida: ^^%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>no disponible</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination IP address</source>
-        <translation>Dirección IP de destino</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination MAC address</source>
-        <translation>Dirección MAC de destino</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination Port number</source>
-        <translation>Puerto de destino</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>device Port number</source>
-        <translation>Puerto de la unidad</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal IP address</source>
-        <translation>Dirección IP interna</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal MAC address</source>
-        <translation>Dirección MAC interna</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>serial number</source>
-        <translation>Número de serie</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>unit ID</source>
-        <translation>Identificador de unidad</translation>
     </message>
     <message>
         <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
@@ -923,6 +451,498 @@ Orden recibida: ^^%@</translation>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>vacation</source>
         <translation>vacaciones</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address</source>
+        <translation>Dirección IP de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address %@</source>
+        <translation>dirección IP de destino %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address</source>
+        <translation>Dirección MAC de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address %@</source>
+        <translation>dirección MAC de destino %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination Port number</source>
+        <translation>Puerto de destino</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination port %@</source>
+        <translation>puerto de destino %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device Port number</source>
+        <translation>Puerto de la unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device port %@</source>
+        <translation>puerto de la unidad %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address</source>
+        <translation>Dirección IP interna</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address %@</source>
+        <translation>dirección IP interna %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address</source>
+        <translation>Dirección MAC interna</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address %@</source>
+        <translation>dirección MAC interna %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number</source>
+        <translation>Número de serie</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number %@</source>
+        <translation>número de serie %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID</source>
+        <translation>Identificador de unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID %@</source>
+        <translation>identificador de unidad %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@.</source>
+        <translation>«Aplicar» envía %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@: %@, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
+        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y nada más que dos puntos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
+        <translation>«Aplicar» envía %@, aunque una dirección MAC tiene 12 dígitos hexadecimales y esta tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
+        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y nada más que espacios.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
+        <translation>«Aplicar» envía %@, aunque un número de serie tiene 12 dígitos hexadecimales y este tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: serial number %@, which another unit has.</source>
+        <translation>«Aplicar» envía %@: número de serie %@, que tiene otra unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” is not an IPv4 address.</source>
+        <translation>«Aplicar» envía %@: %@, porque «%@» no es una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” does not begin with a number.</source>
+        <translation>«Aplicar» envía %@: %@, porque «%@» no empieza por un número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because %@ is outside 3520 to 3523.</source>
+        <translation>«Aplicar» envía %@: %@, porque %@ no está entre 3520 y 3523.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
+        <translation>«Aplicar» envía %@, más que los cuatro dígitos de un puerto, porque %@ no está entre 0 y 65535.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, which does not show as a number because it is above 255.</source>
+        <translation>«Aplicar» envía %@: el número %@, que no se muestra como número porque pasa de 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, because that is how “%@” is read. Above 255 it does not show as a number.</source>
+        <translation>«Aplicar» envía %@: el número %@, porque así se lee «%@». Por encima de 255 no se muestra como número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
+        <translation>«Aplicar» envía %@: el texto «%@», aunque un identificador de unidad tiene 6 bytes y este tiene %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: unit ID “%@”.</source>
+        <translation>«Aplicar» envía %@: identificador de unidad «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
+        <translation>«Aplicar» pide derechos de administrador, pero no se conoce ninguna dirección MAC para una entrada ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
+        <translation>«Aplicar» pide derechos de administrador, pero una entrada ARP solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
+        <translation>«Aplicar» entrega «%@» y %@ a la herramienta ARP. Para ello se necesitan derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
+        <translation>«Aplicar» inscribe %@ con %@ en la caché ARP. Para ello se necesitan derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the UDP listener is not running.</source>
+        <translation>«Aplicar» no envía nada: la escucha UDP no está activa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit is selected.</source>
+        <translation>No hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>«Aplicar» envía %@ a 0.0.0.0, porque «%@» no es una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
+        <translation>«Aplicar» envía %@ a %@, porque así se lee «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@.</source>
+        <translation>«Aplicar» envía %@ a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no command changes this parameter.</source>
+        <translation>«Aplicar» no envía nada: ninguna orden cambia este parámetro.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the value is empty.</source>
+        <translation>«Aplicar» no envía nada: el valor está vacío.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
+        <translation>«Aplicar» no envía nada: el identificador de unidad no es un texto en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no unit is selected.</source>
+        <translation>«Aplicar» no envía nada: no hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
+        <translation>«Aplicar» no envía nada: una orden solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the address of the unit is not known.</source>
+        <translation>«Aplicar» no envía nada: no se conoce la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the command is too long for a datagram.</source>
+        <translation>«Aplicar» no envía nada: la orden es demasiado larga para un datagrama.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@</source>
+        <translation>La unidad aceptó una orden. No se le pudieron pedir sus parámetros: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@.</source>
+        <translation>La unidad aceptó una orden. No se le pudieron pedir sus parámetros: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
+        <translation>La unidad aceptó una orden y se le pidieron sus parámetros. «Buscar unidades» la encuentra en su nuevo puerto.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters.</source>
+        <translation>La unidad aceptó una orden y se le pidieron sus parámetros.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
+        <translation>La unidad muestra ahora %@ como su número de serie. «Buscar unidades» la incluye en la lista con ese número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@.</source>
+        <translation>La unidad muestra ahora %@ en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit still shows %@ as its %@.</source>
+        <translation>La unidad sigue mostrando %@ en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
+        <translation>La unidad muestra ahora %@ en «%@», que no es lo que se envió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit&apos;s parameters hold no %@.</source>
+        <translation>Los parámetros de la unidad no contienen «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered yet.</source>
+        <translation>Se envió %@. La unidad aún no ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>No se creó ninguna entrada ARP para %@: no se concedieron derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
+        <translation>No se creó ninguna entrada ARP para %@: se denegó la ejecución de la herramienta ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
+        <translation>No se creó ninguna entrada ARP para %@: se canceló la petición de derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
+        <translation>No se creó ninguna entrada ARP para %@: no se puede ejecutar la herramienta ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
+        <translation>No se creó ninguna entrada ARP para %@: solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
+        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP no se inició (%d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
+        <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP terminó con el estado %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[Begin Discover]</source>
+        <translation>[Inicio de la búsqueda]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did start. </source>
+        <translation>
+Escucha UDP iniciada. </translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Error setting SO_BROADCAST %s</source>
+        <translation>
+Error al establecer SO_BROADCAST %s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did stop with error.</source>
+        <translation>
+Escucha UDP detenida con un error.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Request unit parameters with address: %@</source>
+        <translation>
+Parámetros de unidad pedidos a la dirección: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Send to: %@ command: %@</source>
+        <translation>
+Envío a: %@ orden: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP server did send data.</source>
+        <translation>
+Datos UDP enviados.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP failed to send data.</source>
+        <translation>
+No se pudieron enviar los datos UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did receive data. Length: %d</source>
+        <translation>
+Datos UDP recibidos. Longitud: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring short packet</source>
+        <translation>
+Paquete demasiado corto ignorado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring unknown packet, prefix != ^^</source>
+        <translation>
+Paquete desconocido ignorado, prefijo != ^^</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did receive error.</source>
+        <translation>
+Error de recepción UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
+        <translation>
+Orden recibida: ^^%@ identificador:%@ número de serie:%@ contenido:%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@</source>
+        <translation>
+Orden recibida: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache with MAC %@ for IP %@</source>
+        <translation>
+Caché ARP: MAC %@ inscrita para la IP %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache result: %d</source>
+        <translation>
+Resultado de la inscripción en la caché ARP: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Unit ID could not be converted to 6-byte UTF-8 string</source>
+        <translation>
+No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>La escucha UDP no está activa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@</source>
+        <translation>No se envió: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@.</source>
+        <translation>No se envió: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No command changes this parameter.</source>
+        <translation>No se envió: ninguna orden cambia este parámetro.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The value is empty.</source>
+        <translation>No se envió: el valor está vacío.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The unit ID is not a text in UTF-8.</source>
+        <translation>No se envió: el identificador de unidad no es un texto en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No unit is selected.</source>
+        <translation>No se envió: no hay ninguna unidad seleccionada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: A command can hold ASCII characters only.</source>
+        <translation>No se envió: una orden solo puede contener caracteres ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The address of the unit is not known.</source>
+        <translation>No se envió: no se conoce la dirección de la unidad.</translation>
     </message>
 </context>
 </TS>

@@ -206,306 +206,6 @@
         <translation>À &amp;propos de KXConfig</translation>
     </message>
     <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
-        <translation>« Appliquer » envoie %@, bien qu’une adresse MAC se compose de 12 chiffres hexadécimaux et de deux-points, sans rien d’autre.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
-        <translation>« Appliquer » envoie %@, bien qu’une adresse MAC ait 12 chiffres hexadécimaux et que celle-ci en ait %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: internal MAC address %@.</source>
-        <translation>« Appliquer » envoie %@ : adresse MAC interne %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination MAC address %@.</source>
-        <translation>« Appliquer » envoie %@ : adresse MAC de destination %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
-        <translation>« Appliquer » envoie %@, bien qu’un numéro de série se compose de 12 chiffres hexadécimaux et d’espaces, sans rien d’autre.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
-        <translation>« Appliquer » envoie %@, bien qu’un numéro de série ait 12 chiffres hexadécimaux et que celui-ci en ait %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: serial number %@.</source>
-        <translation>« Appliquer » envoie %@ : numéro de série %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@.</source>
-        <translation>« Appliquer » envoie %@ : adresse IP de destination %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>« Appliquer » envoie %@ : adresse IP de destination 0.0.0.0, car « %@ » n’est pas une adresse IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@, because that is how “%@” is read.</source>
-        <translation>« Appliquer » envoie %@ : adresse IP de destination %@, car « %@ » est lu ainsi.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
-        <translation>« Appliquer » demande les droits d’administrateur, mais aucune adresse MAC n’est connue pour une entrée ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
-        <translation>« Appliquer » demande les droits d’administrateur, mais une entrée ARP ne peut contenir que des caractères ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
-        <translation>« Appliquer » transmet « %@ » et %@ à l’outil ARP, ce qui nécessite les droits d’administrateur.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP, ce qui nécessite les droits d’administrateur.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>No unit is selected.</source>
-        <translation>Aucune unité n’est sélectionnée.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@.</source>
-        <translation>« Appliquer » envoie %@ à %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>« Appliquer » envoie %@ à 0.0.0.0, car « %@ » n’est pas une adresse IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
-        <translation>« Appliquer » envoie %@ à %@, car « %@ » est lu ainsi.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because “%@” does not begin with a number.</source>
-        <translation>« Appliquer » envoie %@ : port de destination 3520, car « %@ » ne commence pas par un nombre.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because %@ is outside 3520 to 3523.</source>
-        <translation>« Appliquer » envoie %@ : port de destination 3520, car %@ n’est pas compris entre 3520 et 3523.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d, because that is how “%@” is read.</source>
-        <translation>« Appliquer » envoie %@ : port de destination %d, car « %@ » est lu ainsi.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d.</source>
-        <translation>« Appliquer » envoie %@ : port de destination %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port 0, because “%@” does not begin with a number.</source>
-        <translation>« Appliquer » envoie %@ : port de l’unité 0, car « %@ » ne commence pas par un nombre.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
-        <translation>« Appliquer » envoie %@, plus que les quatre chiffres d’un port, car %@ n’est pas compris entre 0 et 65535.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d, because that is how “%@” is read.</source>
-        <translation>« Appliquer » envoie %@ : port de l’unité %d, car « %@ » est lu ainsi.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d.</source>
-        <translation>« Appliquer » envoie %@ : port de l’unité %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, because that is how “%@” is read. Above 255 it does not show as a number.</source>
-        <translation>« Appliquer » envoie %@ : le nombre %d, car « %@ » est lu ainsi. Au-delà de 255, il ne s’affiche pas comme un nombre.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, which does not show as a number because it is above 255.</source>
-        <translation>« Appliquer » envoie %@ : le nombre %d, qui ne s’affiche pas comme un nombre car il dépasse 255.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d, because that is how “%@” is read.</source>
-        <translation>« Appliquer » envoie %@ : identifiant d’unité %d, car « %@ » est lu ainsi.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d.</source>
-        <translation>« Appliquer » envoie %@ : identifiant d’unité %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
-        <translation>« Appliquer » envoie %@ : le texte « %@ », bien qu’un identifiant d’unité ait 6 octets et que celui-ci en ait %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID “%@”.</source>
-        <translation>« Appliquer » envoie %@ : identifiant d’unité « %@ ».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the value is empty.</source>
-        <translation>« Appliquer » n’envoie rien : la valeur est vide.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
-        <translation>« Appliquer » n’envoie rien : l’identifiant d’unité n’est pas un texte en UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: no unit is selected.</source>
-        <translation>« Appliquer » n’envoie rien : aucune unité n’est sélectionnée.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
-        <translation>« Appliquer » n’envoie rien : une commande ne peut contenir que des caractères ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the address of the unit is not known.</source>
-        <translation>« Appliquer » n’envoie rien : l’adresse de l’unité n’est pas connue.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The value is empty.</source>
-        <translation>Non envoyé : la valeur est vide.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The unit ID is not a text in UTF-8.</source>
-        <translation>Non envoyé : l’identifiant d’unité n’est pas un texte en UTF-8.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: No unit is selected.</source>
-        <translation>Non envoyé : aucune unité n’est sélectionnée.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: A command can hold ASCII characters only.</source>
-        <translation>Non envoyé : une commande ne peut contenir que des caractères ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The address of the unit is not known.</source>
-        <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@</source>
-        <translation>Non envoyé : %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@.</source>
-        <translation>Non envoyé : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the command is too long for a datagram.</source>
-        <translation>« Appliquer » n’envoie rien : la commande est trop longue pour un datagramme.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>Sent %@. The unit has not answered yet.</source>
-        <translation>%@ a été envoyé. L’unité n’a pas encore répondu.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>L’unité a accepté %@ et ses paramètres lui ont été demandés. « Détecter » la trouve sur son nouveau port.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters.</source>
-        <translation>L’unité a accepté %@ et ses paramètres lui ont été demandés.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit&apos;s parameters hold no %@.</source>
-        <translation>Les paramètres de l’unité ne contiennent pas « %@ ».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
-        <translation>L’unité affiche maintenant %@ comme numéro de série. « Détecter » la présente sous ce numéro.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@.</source>
-        <translation>L’unité affiche maintenant %@ sous « %@ ».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit still shows %@ as its %@.</source>
-        <translation>L’unité affiche toujours %@ sous « %@ ».</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
-        <translation>L’unité affiche maintenant %@ sous « %@ », ce qui n’est pas ce qui a été envoyé.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : les droits d’administrateur n’ont pas été accordés.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : l’exécution de l’outil ARP a été refusée.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : la demande des droits d’administrateur a été annulée.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP ne peut pas être exécuté.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : elle ne peut contenir que des caractères ASCII.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP n’a pas été lancé (%d).</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
-        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP s’est terminé avec l’état %d.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>No configured interfaces</source>
         <translation>Aucune interface configurée</translation>
@@ -519,60 +219,6 @@
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, appuyez sur Alt+Maj+F1.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP listener did start. </source>
-        <translation>
-Écoute UDP démarrée. </translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-Error setting SO_BROADCAST %s</source>
-        <translation>
-Erreur lors du réglage de SO_BROADCAST %s</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did receive error.</source>
-        <translation>
-Erreur de réception UDP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP server did send data.</source>
-        <translation>
-Données UDP envoyées.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP failed to send data.</source>
-        <translation>
-Les données UDP n’ont pas pu être envoyées.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did stop with error.</source>
-        <translation>
-Écoute UDP arrêtée sur une erreur.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Discovery.cpp"/>
-        <source>[Begin Discover]</source>
-        <translation>[Début de la détection]</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Unit ID could not be converted to 6-byte UTF-8 string</source>
-        <translation>
-L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octets</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
@@ -590,127 +236,9 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache with MAC %@ for IP %@</source>
-        <translation>
-Cache ARP : MAC %@ inscrite pour l’IP %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache result: %d</source>
-        <translation>
-Résultat de l’inscription dans le cache ARP : %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Send to: %@ command: %@</source>
-        <translation>
-Envoi à : %@ commande : %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Request unit parameters with address: %@</source>
-        <translation>
-Paramètres d’unité demandés à l’adresse : %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>L’écoute UDP n’est pas active.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-UDP listener did receive data. Length: %d</source>
-        <translation>
-Données UDP reçues. Longueur : %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring short packet</source>
-        <translation>
-Paquet trop court ignoré</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring unknown packet, prefix != ^^</source>
-        <translation>
-Paquet inconnu ignoré, préfixe != ^^</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
-        <translation>
-Commande reçue : ^^%@ identifiant:%@ numéro de série:%@ contenu:%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@</source>
-        <translation>
-Commande reçue : ^^%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>non disponible</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination IP address</source>
-        <translation>Adresse IP de destination</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination MAC address</source>
-        <translation>Adresse MAC de destination</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination Port number</source>
-        <translation>Port de destination</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>device Port number</source>
-        <translation>Port de l’unité</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal IP address</source>
-        <translation>Adresse IP interne</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal MAC address</source>
-        <translation>Adresse MAC interne</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>serial number</source>
-        <translation>Numéro de série</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>unit ID</source>
-        <translation>Identifiant d’unité</translation>
     </message>
     <message>
         <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
@@ -923,6 +451,498 @@ Commande reçue : ^^%@</translation>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>vacation</source>
         <translation>vacances</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address</source>
+        <translation>Adresse IP de destination</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address %@</source>
+        <translation>adresse IP de destination %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address</source>
+        <translation>Adresse MAC de destination</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address %@</source>
+        <translation>adresse MAC de destination %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination Port number</source>
+        <translation>Port de destination</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination port %@</source>
+        <translation>port de destination %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device Port number</source>
+        <translation>Port de l’unité</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device port %@</source>
+        <translation>port de l’unité %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address</source>
+        <translation>Adresse IP interne</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address %@</source>
+        <translation>adresse IP interne %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address</source>
+        <translation>Adresse MAC interne</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address %@</source>
+        <translation>adresse MAC interne %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number</source>
+        <translation>Numéro de série</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number %@</source>
+        <translation>numéro de série %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID</source>
+        <translation>Identifiant d’unité</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID %@</source>
+        <translation>identifiant d’unité %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@.</source>
+        <translation>« Appliquer » envoie %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because that is how “%@” is read.</source>
+        <translation>« Appliquer » envoie %@ : %@, car « %@ » est lu ainsi.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
+        <translation>« Appliquer » envoie %@, bien qu’une adresse MAC se compose de 12 chiffres hexadécimaux et de deux-points, sans rien d’autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
+        <translation>« Appliquer » envoie %@, bien qu’une adresse MAC ait 12 chiffres hexadécimaux et que celle-ci en ait %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
+        <translation>« Appliquer » envoie %@, bien qu’un numéro de série se compose de 12 chiffres hexadécimaux et d’espaces, sans rien d’autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
+        <translation>« Appliquer » envoie %@, bien qu’un numéro de série ait 12 chiffres hexadécimaux et que celui-ci en ait %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: serial number %@, which another unit has.</source>
+        <translation>« Appliquer » envoie %@ : numéro de série %@, qui est celui d’une autre unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” is not an IPv4 address.</source>
+        <translation>« Appliquer » envoie %@ : %@, car « %@ » n’est pas une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” does not begin with a number.</source>
+        <translation>« Appliquer » envoie %@ : %@, car « %@ » ne commence pas par un nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because %@ is outside 3520 to 3523.</source>
+        <translation>« Appliquer » envoie %@ : %@, car %@ n’est pas compris entre 3520 et 3523.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
+        <translation>« Appliquer » envoie %@, plus que les quatre chiffres d’un port, car %@ n’est pas compris entre 0 et 65535.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, which does not show as a number because it is above 255.</source>
+        <translation>« Appliquer » envoie %@ : le nombre %@, qui ne s’affiche pas comme un nombre car il dépasse 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, because that is how “%@” is read. Above 255 it does not show as a number.</source>
+        <translation>« Appliquer » envoie %@ : le nombre %@, car « %@ » est lu ainsi. Au-delà de 255, il ne s’affiche pas comme un nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
+        <translation>« Appliquer » envoie %@ : le texte « %@ », bien qu’un identifiant d’unité ait 6 octets et que celui-ci en ait %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: unit ID “%@”.</source>
+        <translation>« Appliquer » envoie %@ : identifiant d’unité « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
+        <translation>« Appliquer » demande les droits d’administrateur, mais aucune adresse MAC n’est connue pour une entrée ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
+        <translation>« Appliquer » demande les droits d’administrateur, mais une entrée ARP ne peut contenir que des caractères ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
+        <translation>« Appliquer » transmet « %@ » et %@ à l’outil ARP, ce qui nécessite les droits d’administrateur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
+        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP, ce qui nécessite les droits d’administrateur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the UDP listener is not running.</source>
+        <translation>« Appliquer » n’envoie rien : l’écoute UDP n’est pas active.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit is selected.</source>
+        <translation>Aucune unité n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>« Appliquer » envoie %@ à 0.0.0.0, car « %@ » n’est pas une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
+        <translation>« Appliquer » envoie %@ à %@, car « %@ » est lu ainsi.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@.</source>
+        <translation>« Appliquer » envoie %@ à %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no command changes this parameter.</source>
+        <translation>« Appliquer » n’envoie rien : aucune commande ne modifie ce paramètre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the value is empty.</source>
+        <translation>« Appliquer » n’envoie rien : la valeur est vide.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
+        <translation>« Appliquer » n’envoie rien : l’identifiant d’unité n’est pas un texte en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no unit is selected.</source>
+        <translation>« Appliquer » n’envoie rien : aucune unité n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
+        <translation>« Appliquer » n’envoie rien : une commande ne peut contenir que des caractères ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the address of the unit is not known.</source>
+        <translation>« Appliquer » n’envoie rien : l’adresse de l’unité n’est pas connue.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the command is too long for a datagram.</source>
+        <translation>« Appliquer » n’envoie rien : la commande est trop longue pour un datagramme.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@</source>
+        <translation>L’unité a accepté une commande. Ses paramètres n’ont pas pu lui être demandés : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@.</source>
+        <translation>L’unité a accepté une commande. Ses paramètres n’ont pas pu lui être demandés : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
+        <translation>L’unité a accepté une commande et ses paramètres lui ont été demandés. « Détecter » la trouve sur son nouveau port.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters.</source>
+        <translation>L’unité a accepté une commande et ses paramètres lui ont été demandés.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
+        <translation>L’unité affiche maintenant %@ comme numéro de série. « Détecter » la présente sous ce numéro.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@.</source>
+        <translation>L’unité affiche maintenant %@ sous « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit still shows %@ as its %@.</source>
+        <translation>L’unité affiche toujours %@ sous « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
+        <translation>L’unité affiche maintenant %@ sous « %@ », ce qui n’est pas ce qui a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit&apos;s parameters hold no %@.</source>
+        <translation>Les paramètres de l’unité ne contiennent pas « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered yet.</source>
+        <translation>%@ a été envoyé. L’unité n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : les droits d’administrateur n’ont pas été accordés.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : l’exécution de l’outil ARP a été refusée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : la demande des droits d’administrateur a été annulée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP ne peut pas être exécuté.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : elle ne peut contenir que des caractères ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP n’a pas été lancé (%d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP s’est terminé avec l’état %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[Begin Discover]</source>
+        <translation>[Début de la détection]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did start. </source>
+        <translation>
+Écoute UDP démarrée. </translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Error setting SO_BROADCAST %s</source>
+        <translation>
+Erreur lors du réglage de SO_BROADCAST %s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did stop with error.</source>
+        <translation>
+Écoute UDP arrêtée sur une erreur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Request unit parameters with address: %@</source>
+        <translation>
+Paramètres d’unité demandés à l’adresse : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Send to: %@ command: %@</source>
+        <translation>
+Envoi à : %@ commande : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP server did send data.</source>
+        <translation>
+Données UDP envoyées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP failed to send data.</source>
+        <translation>
+Les données UDP n’ont pas pu être envoyées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did receive data. Length: %d</source>
+        <translation>
+Données UDP reçues. Longueur : %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring short packet</source>
+        <translation>
+Paquet trop court ignoré</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring unknown packet, prefix != ^^</source>
+        <translation>
+Paquet inconnu ignoré, préfixe != ^^</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did receive error.</source>
+        <translation>
+Erreur de réception UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
+        <translation>
+Commande reçue : ^^%@ identifiant:%@ numéro de série:%@ contenu:%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@</source>
+        <translation>
+Commande reçue : ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache with MAC %@ for IP %@</source>
+        <translation>
+Cache ARP : MAC %@ inscrite pour l’IP %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache result: %d</source>
+        <translation>
+Résultat de l’inscription dans le cache ARP : %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Unit ID could not be converted to 6-byte UTF-8 string</source>
+        <translation>
+L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octets</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>L’écoute UDP n’est pas active.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@</source>
+        <translation>Non envoyé : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@.</source>
+        <translation>Non envoyé : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No command changes this parameter.</source>
+        <translation>Non envoyé : aucune commande ne modifie ce paramètre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The value is empty.</source>
+        <translation>Non envoyé : la valeur est vide.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The unit ID is not a text in UTF-8.</source>
+        <translation>Non envoyé : l’identifiant d’unité n’est pas un texte en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No unit is selected.</source>
+        <translation>Non envoyé : aucune unité n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: A command can hold ASCII characters only.</source>
+        <translation>Non envoyé : une commande ne peut contenir que des caractères ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The address of the unit is not known.</source>
+        <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
     </message>
 </context>
 </TS>

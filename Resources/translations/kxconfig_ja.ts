@@ -206,306 +206,6 @@
         <translation>KXConfig について(&amp;A)</translation>
     </message>
     <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
-        <translation>「適用」を押すと %@ を送信します。ただし、MAC アドレスは 12 桁の 16 進数で、コロン以外の文字は含みません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
-        <translation>「適用」を押すと %@ を送信します。ただし、MAC アドレスは 12 桁の 16 進数ですが、これは %d 桁です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: internal MAC address %@.</source>
-        <translation>「適用」を押すと %@ を送信します: 内部 MAC アドレス %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination MAC address %@.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先 MAC アドレス %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
-        <translation>「適用」を押すと %@ を送信します。ただし、シリアル番号は 12 桁の 16 進数で、空白以外の文字は含みません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
-        <translation>「適用」を押すと %@ を送信します。ただし、シリアル番号は 12 桁の 16 進数ですが、これは %d 桁です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: serial number %@.</source>
-        <translation>「適用」を押すと %@ を送信します: シリアル番号 %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先 IP アドレス %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先 IP アドレス 0.0.0.0（「%@」は IPv4 アドレスではないため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination IP address %@, because that is how “%@” is read.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先 IP アドレス %@（「%@」はこのように読み取られるため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
-        <translation>「適用」を押すと管理者権限を求めますが、ARP エントリに使う MAC アドレスがわかりません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
-        <translation>「適用」を押すと管理者権限を求めますが、ARP エントリには ASCII 文字しか使えません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
-        <translation>「適用」を押すと「%@」と %@ を ARP ツールに渡します。これには管理者権限が必要です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>「適用」を押すと %@ を %@ として ARP キャッシュに登録します。これには管理者権限が必要です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>No unit is selected.</source>
-        <translation>ユニットが選択されていません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@.</source>
-        <translation>「適用」を押すと %@ を %@ に送信します。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
-        <translation>「適用」を押すと %@ を 0.0.0.0 に送信します（「%@」は IPv4 アドレスではないため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
-        <translation>「適用」を押すと %@ を %@ に送信します（「%@」はこのように読み取られるため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because “%@” does not begin with a number.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先ポート 3520（「%@」は数字で始まっていないため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port 3520, because %@ is outside 3520 to 3523.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先ポート 3520（%@ は 3520～3523 の範囲外のため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d, because that is how “%@” is read.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先ポート %d（「%@」はこのように読み取られるため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: destination port %d.</source>
-        <translation>「適用」を押すと %@ を送信します: 宛先ポート %d。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port 0, because “%@” does not begin with a number.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニットのポート 0（「%@」は数字で始まっていないため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
-        <translation>「適用」を押すと %@ を送信します。%@ は 0～65535 の範囲外のため、ポートの 4 桁を超えています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d, because that is how “%@” is read.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニットのポート %d（「%@」はこのように読み取られるため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: device port %d.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニットのポート %d。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, because that is how “%@” is read. Above 255 it does not show as a number.</source>
-        <translation>「適用」を押すと %@ を送信します: 数値 %d（「%@」はこのように読み取られるため）。255 を超えると数値としては表示されません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the number %d, which does not show as a number because it is above 255.</source>
-        <translation>「適用」を押すと %@ を送信します: 数値 %d（255 を超えるため、数値としては表示されません）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d, because that is how “%@” is read.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニット ID %d（「%@」はこのように読み取られるため）。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID %d.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニット ID %d。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
-        <translation>「適用」を押すと %@ を送信します: テキスト「%@」。ただし、ユニット ID は 6 バイトですが、これは %d バイトです。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends %@: unit ID “%@”.</source>
-        <translation>「適用」を押すと %@ を送信します: ユニット ID「%@」。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the value is empty.</source>
-        <translation>「適用」を押しても何も送信されません: 値が空です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
-        <translation>「適用」を押しても何も送信されません: ユニット ID が UTF-8 のテキストではありません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: no unit is selected.</source>
-        <translation>「適用」を押しても何も送信されません: ユニットが選択されていません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
-        <translation>「適用」を押しても何も送信されません: コマンドには ASCII 文字しか使えません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the address of the unit is not known.</source>
-        <translation>「適用」を押しても何も送信されません: ユニットのアドレスがわかりません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The value is empty.</source>
-        <translation>送信しませんでした: 値が空です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The unit ID is not a text in UTF-8.</source>
-        <translation>送信しませんでした: ユニット ID が UTF-8 のテキストではありません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: No unit is selected.</source>
-        <translation>送信しませんでした: ユニットが選択されていません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: A command can hold ASCII characters only.</source>
-        <translation>送信しませんでした: コマンドには ASCII 文字しか使えません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: The address of the unit is not known.</source>
-        <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@</source>
-        <translation>送信しませんでした: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Not sent: %@.</source>
-        <translation>送信しませんでした: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditNotes.cpp"/>
-        <source>Apply sends nothing: the command is too long for a datagram.</source>
-        <translation>「適用」を押しても何も送信されません: コマンドがデータグラムに収まりません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>Sent %@. The unit has not answered yet.</source>
-        <translation>%@ を送信しました。ユニットはまだ応答していません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>ユニットは %@ を受け付け、パラメータを要求されました。「検出」を押すと新しいポートで見つかります。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit accepted %@ and was asked for its parameters.</source>
-        <translation>ユニットは %@ を受け付け、パラメータを要求されました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit&apos;s parameters hold no %@.</source>
-        <translation>ユニットのパラメータに「%@」がありません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
-        <translation>ユニットのシリアル番号は %@ になりました。「検出」を押すと、この番号で一覧に表示されます。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@.</source>
-        <translation>ユニットは現在 %@ を「%@」として示しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit still shows %@ as its %@.</source>
-        <translation>ユニットはまだ %@ を「%@」として示しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
-        <translation>ユニットは現在 %@ を「%@」として示していますが、送信した値と異なります。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: administrator rights were not given.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限が与えられませんでした。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールの実行が拒否されました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限の確認が取り消されました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールを実行できません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: ASCII 文字しか使えません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
-        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールが起動しませんでした (%d)。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/EditReport.cpp"/>
-        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
-        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールがステータス %d で終了しました。</translation>
-    </message>
-    <message>
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>No configured interfaces</source>
         <translation>設定済みのインターフェースがありません</translation>
@@ -519,60 +219,6 @@
         <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
         <source>Help could not be opened in a web browser. To read it here, press Alt+Shift+F1.</source>
         <translation>ヘルプをウェブブラウザーで開けませんでした。ここで読むには、Alt+Shift+F1 キーを押してください。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP listener did start. </source>
-        <translation>
-UDP リスナーを開始しました。 </translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-Error setting SO_BROADCAST %s</source>
-        <translation>
-SO_BROADCAST の設定エラー %s</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did receive error.</source>
-        <translation>
-UDP の受信でエラーが発生しました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP server did send data.</source>
-        <translation>
-UDP データを送信しました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP failed to send data.</source>
-        <translation>
-UDP データを送信できませんでした。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate.cpp"/>
-        <source>
-UDP did stop with error.</source>
-        <translation>
-UDP リスナーがエラーで停止しました。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Discovery.cpp"/>
-        <source>[Begin Discover]</source>
-        <translation>[検出開始]</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Unit ID could not be converted to 6-byte UTF-8 string</source>
-        <translation>
-ユニット ID を 6 バイトの UTF-8 文字列に変換できませんでした</translation>
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
@@ -590,127 +236,9 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache with MAC %@ for IP %@</source>
-        <translation>
-ARP キャッシュに登録: MAC %@、IP %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
-        <source>
-Stuff ARP cache result: %d</source>
-        <translation>
-ARP キャッシュ登録の結果: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Send to: %@ command: %@</source>
-        <translation>
-送信先: %@ コマンド: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Request unit parameters with address: %@</source>
-        <translation>
-ユニットのパラメータを要求、アドレス: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>UDP リスナーが動作していません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-UDP listener did receive data. Length: %d</source>
-        <translation>
-UDP データを受信しました。長さ: %d</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring short packet</source>
-        <translation>
-短すぎるパケットを無視しました</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Ignoring unknown packet, prefix != ^^</source>
-        <translation>
-不明なパケットを無視しました、プレフィックス != ^^</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
-        <translation>
-受信コマンド: ^^%@ ユニット ID:%@ シリアル番号:%@ 内容:%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_Protocol.cpp"/>
-        <source>
-Received command: ^^%@</source>
-        <translation>
-受信コマンド: ^^%@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/KXConfigAppDelegate_ReceiveBuffer.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>利用不可</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination IP address</source>
-        <translation>宛先 IP アドレス</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination MAC address</source>
-        <translation>宛先 MAC アドレス</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>destination Port number</source>
-        <translation>宛先ポート番号</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>device Port number</source>
-        <translation>ユニットのポート番号</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal IP address</source>
-        <translation>内部 IP アドレス</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>internal MAC address</source>
-        <translation>内部 MAC アドレス</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>serial number</source>
-        <translation>シリアル番号</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/UnitParameters.h"/>
-        <source>unit ID</source>
-        <translation>ユニット ID</translation>
     </message>
     <message>
         <location filename="../../Sources/addresses/HardwareAddress.cpp"/>
@@ -923,6 +451,498 @@ Received command: ^^%@</source>
         <location filename="../../Sources/support/LabelledNames.cpp"/>
         <source>vacation</source>
         <translation>休暇</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address</source>
+        <translation>宛先 IP アドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination IP address %@</source>
+        <translation>宛先 IP アドレス %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address</source>
+        <translation>宛先 MAC アドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination MAC address %@</source>
+        <translation>宛先 MAC アドレス %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination Port number</source>
+        <translation>宛先ポート番号</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>destination port %@</source>
+        <translation>宛先ポート %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device Port number</source>
+        <translation>ユニットのポート番号</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>device port %@</source>
+        <translation>ユニットのポート %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address</source>
+        <translation>内部 IP アドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal IP address %@</source>
+        <translation>内部 IP アドレス %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address</source>
+        <translation>内部 MAC アドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>internal MAC address %@</source>
+        <translation>内部 MAC アドレス %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number</source>
+        <translation>シリアル番号</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>serial number %@</source>
+        <translation>シリアル番号 %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID</source>
+        <translation>ユニット ID</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/units/UnitParameter.h"/>
+        <source>unit ID %@</source>
+        <translation>ユニット ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DropNote.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@.</source>
+        <translation>「適用」を押すと %@ を送信します: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because that is how “%@” is read.</source>
+        <translation>「適用」を押すと %@ を送信します: %@（「%@」はこのように読み取られるため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and nothing else but colons.</source>
+        <translation>「適用」を押すと %@ を送信します。ただし、MAC アドレスは 12 桁の 16 進数で、コロン以外の文字は含みません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a MAC address has 12 hexadecimal digits and this has %d.</source>
+        <translation>「適用」を押すと %@ を送信します。ただし、MAC アドレスは 12 桁の 16 進数ですが、これは %d 桁です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and nothing else but blanks.</source>
+        <translation>「適用」を押すと %@ を送信します。ただし、シリアル番号は 12 桁の 16 進数で、空白以外の文字は含みません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, though a serial number has 12 hexadecimal digits and this has %d.</source>
+        <translation>「適用」を押すと %@ を送信します。ただし、シリアル番号は 12 桁の 16 進数ですが、これは %d 桁です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: serial number %@, which another unit has.</source>
+        <translation>「適用」を押すと %@ を送信します: シリアル番号 %@（別のユニットが使用しています）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” is not an IPv4 address.</source>
+        <translation>「適用」を押すと %@ を送信します: %@（「%@」は IPv4 アドレスではないため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because “%@” does not begin with a number.</source>
+        <translation>「適用」を押すと %@ を送信します: %@（「%@」は数字で始まっていないため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: %@, because %@ is outside 3520 to 3523.</source>
+        <translation>「適用」を押すと %@ を送信します: %@（%@ は 3520～3523 の範囲外のため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@, more than the four digits of a port, because %@ is outside 0 to 65535.</source>
+        <translation>「適用」を押すと %@ を送信します。%@ は 0～65535 の範囲外のため、ポートの 4 桁を超えています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, which does not show as a number because it is above 255.</source>
+        <translation>「適用」を押すと %@ を送信します: 数値 %@（255 を超えるため、数値としては表示されません）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the number %@, because that is how “%@” is read. Above 255 it does not show as a number.</source>
+        <translation>「適用」を押すと %@ を送信します: 数値 %@（「%@」はこのように読み取られるため）。255 を超えると数値としては表示されません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has %d.</source>
+        <translation>「適用」を押すと %@ を送信します: テキスト「%@」。ただし、ユニット ID は 6 バイトですが、これは %d バイトです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@: unit ID “%@”.</source>
+        <translation>「適用」を押すと %@ を送信します: ユニット ID「%@」。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no MAC address is known for an ARP entry.</source>
+        <translation>「適用」を押すと管理者権限を求めますが、ARP エントリに使う MAC アドレスがわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but an ARP entry can hold ASCII characters only.</source>
+        <translation>「適用」を押すと管理者権限を求めますが、ARP エントリには ASCII 文字しか使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
+        <translation>「適用」を押すと「%@」と %@ を ARP ツールに渡します。これには管理者権限が必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
+        <translation>「適用」を押すと %@ を %@ として ARP キャッシュに登録します。これには管理者権限が必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the UDP listener is not running.</source>
+        <translation>「適用」を押しても何も送信されません: UDP リスナーが動作していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit is selected.</source>
+        <translation>ユニットが選択されていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.</source>
+        <translation>「適用」を押すと %@ を 0.0.0.0 に送信します（「%@」は IPv4 アドレスではないため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@, because that is how “%@” is read.</source>
+        <translation>「適用」を押すと %@ を %@ に送信します（「%@」はこのように読み取られるため）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends %@ to %@.</source>
+        <translation>「適用」を押すと %@ を %@ に送信します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no command changes this parameter.</source>
+        <translation>「適用」を押しても何も送信されません: このパラメータを変更するコマンドはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the value is empty.</source>
+        <translation>「適用」を押しても何も送信されません: 値が空です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the unit ID is not a text in UTF-8.</source>
+        <translation>「適用」を押しても何も送信されません: ユニット ID が UTF-8 のテキストではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: no unit is selected.</source>
+        <translation>「適用」を押しても何も送信されません: ユニットが選択されていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: a command can hold ASCII characters only.</source>
+        <translation>「適用」を押しても何も送信されません: コマンドには ASCII 文字しか使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the address of the unit is not known.</source>
+        <translation>「適用」を押しても何も送信されません: ユニットのアドレスがわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply sends nothing: the command is too long for a datagram.</source>
+        <translation>「適用」を押しても何も送信されません: コマンドがデータグラムに収まりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@</source>
+        <translation>ユニットはコマンドを受け付けました。パラメータを要求できませんでした: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command. It could not be asked for its parameters: %@.</source>
+        <translation>ユニットはコマンドを受け付けました。パラメータを要求できませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
+        <translation>ユニットはコマンドを受け付け、パラメータを要求されました。「検出」を押すと新しいポートで見つかります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit accepted a command and was asked for its parameters.</source>
+        <translation>ユニットはコマンドを受け付け、パラメータを要求されました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number. Discover lists it under that.</source>
+        <translation>ユニットのシリアル番号は %@ になりました。「検出」を押すと、この番号で一覧に表示されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@.</source>
+        <translation>ユニットは現在 %@ を「%@」として示しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit still shows %@ as its %@.</source>
+        <translation>ユニットはまだ %@ を「%@」として示しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@, which is not what was sent.</source>
+        <translation>ユニットは現在 %@ を「%@」として示していますが、送信した値と異なります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit&apos;s parameters hold no %@.</source>
+        <translation>ユニットのパラメータに「%@」がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered yet.</source>
+        <translation>%@ を送信しました。ユニットはまだ応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: administrator rights were not given.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限が与えられませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: running the ARP tool was refused.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールの実行が拒否されました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the question for administrator rights was dismissed.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: 管理者権限の確認が取り消されました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool cannot be run.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールを実行できません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: it can hold ASCII characters only.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: ASCII 文字しか使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool was not started (%d).</source>
+        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールが起動しませんでした (%d)。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: the ARP tool ended with status %d.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: ARP ツールがステータス %d で終了しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[Begin Discover]</source>
+        <translation>[検出開始]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did start. </source>
+        <translation>
+UDP リスナーを開始しました。 </translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Error setting SO_BROADCAST %s</source>
+        <translation>
+SO_BROADCAST の設定エラー %s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did stop with error.</source>
+        <translation>
+UDP リスナーがエラーで停止しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Request unit parameters with address: %@</source>
+        <translation>
+ユニットのパラメータを要求、アドレス: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Send to: %@ command: %@</source>
+        <translation>
+送信先: %@ コマンド: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP server did send data.</source>
+        <translation>
+UDP データを送信しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP failed to send data.</source>
+        <translation>
+UDP データを送信できませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP listener did receive data. Length: %d</source>
+        <translation>
+UDP データを受信しました。長さ: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring short packet</source>
+        <translation>
+短すぎるパケットを無視しました</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Ignoring unknown packet, prefix != ^^</source>
+        <translation>
+不明なパケットを無視しました、プレフィックス != ^^</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+UDP did receive error.</source>
+        <translation>
+UDP の受信でエラーが発生しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@ unit:%@ serial:%@ cidString:%@</source>
+        <translation>
+受信コマンド: ^^%@ ユニット ID:%@ シリアル番号:%@ 内容:%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Received command: ^^%@</source>
+        <translation>
+受信コマンド: ^^%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache with MAC %@ for IP %@</source>
+        <translation>
+ARP キャッシュに登録: MAC %@、IP %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Stuff ARP cache result: %d</source>
+        <translation>
+ARP キャッシュ登録の結果: %d</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>
+Unit ID could not be converted to 6-byte UTF-8 string</source>
+        <translation>
+ユニット ID を 6 バイトの UTF-8 文字列に変換できませんでした</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>UDP リスナーが動作していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@</source>
+        <translation>送信しませんでした: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: %@.</source>
+        <translation>送信しませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No command changes this parameter.</source>
+        <translation>送信しませんでした: このパラメータを変更するコマンドはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The value is empty.</source>
+        <translation>送信しませんでした: 値が空です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The unit ID is not a text in UTF-8.</source>
+        <translation>送信しませんでした: ユニット ID が UTF-8 のテキストではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: No unit is selected.</source>
+        <translation>送信しませんでした: ユニットが選択されていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: A command can hold ASCII characters only.</source>
+        <translation>送信しませんでした: コマンドには ASCII 文字しか使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>Not sent: The address of the unit is not known.</source>
+        <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
     </message>
 </context>
 </TS>

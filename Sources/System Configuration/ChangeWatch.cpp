@@ -28,7 +28,7 @@ auto unlessOutOfMemory(Make make) -> std::optional<decltype(make())> {
 }
 
 // Chooses the IPv4 state of every service. Pattern and list lie in memory of the default memory
-// resource, because running out of it has a status code of its own.
+// resource, because a lack of memory has a status code of its own.
 int watchIPv4States(const ConfigurationStore& store, DynamicStoreSession& session) {
     const auto pattern = unlessOutOfMemory([] {
         return std::pmr::string(filledText(

@@ -1,7 +1,7 @@
 // The watch on the host's IPv4 configuration: one session with the dynamic store, told about the
 // IPv4 state of every service, with its change feed. Main thread only.
 //
-// Who calls these wrongly breaks a contract and ends the process (support/Require.h, source path
+// A wrong call breaks a contract and ends the process (support/Require.h, source path
 // "Sources/System Configuration/SystemConfiguration").
 
 #pragma once
@@ -27,8 +27,8 @@ int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStore
                                          void* info, std::unique_ptr<DynamicStoreSession>* storeRef,
                                          std::unique_ptr<ConfigurationChangeSource>* sourceRef);
 
-// A watch is there as a whole or not at all. Contracts: "(err == noErr) == (*storeRef != NULL)",
-// "(err == noErr) == (*sourceRef != NULL)", reported for the function at `location`.
+// Checks that a watch has both of its parts, or neither. Contracts: "(err == noErr) == (*storeRef
+// != NULL)", "(err == noErr) == (*sourceRef != NULL)", reported for the function at `location`.
 void requireWatchOutcome(int err, const DynamicStoreSession* store,
                          const ConfigurationChangeSource* source,
                          std::source_location location = std::source_location::current());

@@ -1,5 +1,5 @@
-// The fixed texts of the host's network configuration: how sessions name themselves, and where a
-// record lies in the store. Where a text has placeholders, support/TextFormat.h fills them.
+// The fixed texts of the host's network configuration: the names of sessions, and the keys of
+// records in the store. support/TextFormat.h fills the placeholders of a text.
 
 #pragma once
 
@@ -9,15 +9,15 @@
 
 namespace kx {
 
-// What the application calls itself when it opens a session.
+// The name under which the application opens a session.
 inline constexpr std::string_view applicationIdentifier = "org.kxconfig.KXConfig";
 
-// What the session that carries the change watch is called.
+// The name of the session that carries the change watch.
 inline constexpr std::string_view changeWatchSessionName = "AddIPAddressListChangeCallbackSCF";
 
-// Domains, components and entities of which keys are made.
+// Domains, components and entities that keys are made of.
 inline constexpr std::string_view kSCDynamicStoreDomainState = "State:";
-inline constexpr std::string_view kSCCompAnyRegex = "[^/]+"; // any one component of a key
+inline constexpr std::string_view kSCCompAnyRegex = "[^/]+"; // matches any one component of a key
 inline constexpr std::string_view kSCEntNetIPv4 = "IPv4";
 inline constexpr std::string_view ipv6Entity = "IPv6";
 inline constexpr std::string_view linkEntity = "Link";
@@ -29,14 +29,15 @@ inline constexpr std::string_view setupServiceInterfaceKey = "Setup:/Network/Ser
 inline constexpr std::string_view stateServiceEntityKey = "State:/Network/Service/%@/%@";
 inline constexpr std::string_view stateInterfaceEntityKey = "State:/Network/Interface/%@/%@";
 inline constexpr std::string_view networkServiceEntityKey =
-    "%@/Network/Service/%@/%@"; // of a domain
+    "%@/Network/Service/%@/%@"; // the first placeholder is the domain
 inline constexpr std::string_view stateServicePrefix = "State:/Network/Service/";
 
 // Saved preferences: keys, and paths into them.
 inline constexpr std::string_view kSCPrefCurrentSet = "CurrentSet";
 inline constexpr std::string_view kSCPrefSets = "Sets";
 inline constexpr std::string_view setsPrefix = "/Sets/";
-inline constexpr std::string_view setGlobalIPv4Path = "%@/Network/Global/IPv4"; // of a set's path
+// The placeholder is the path of a set.
+inline constexpr std::string_view setGlobalIPv4Path = "%@/Network/Global/IPv4";
 inline constexpr std::string_view savedServiceEntityPath = "/NetworkServices/%@/%@";
 
 // Entries of the records.
@@ -53,14 +54,14 @@ inline constexpr std::string_view linkActiveEntry = "Active";
 // The interface type of a dial-up service.
 inline constexpr std::string_view kSCValNetInterfaceTypePPP = "PPP";
 
-// What stands, localized, for every value that is missing.
+// The localized text that stands for every missing value.
 inline constexpr std::string_view notAvailableText = localizedKey("not available");
 
-// What marks the service identifier of a kernel interface that no service covers: "=" and the
-// interface's name.
+// The first character of the service identifier of a kernel interface that no service covers. The
+// name of the interface follows it.
 inline constexpr char kernelOnlyMark = '=';
 
-// Status codes. Every other one is the platform's own.
+// Status codes. All others are the platform's own.
 inline constexpr int noErr = 0;
 inline constexpr int unspecifiedFailureStatus = 1001; // a failure without a code of its own
 inline constexpr int listNotMadeStatus = -4960;       // a list could not be made

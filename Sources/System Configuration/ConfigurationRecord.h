@@ -1,5 +1,6 @@
-// Entries of records that may be missing, as the kind that is wanted. An entry of another kind
-// counts as missing. All functions are pure and may be called from any thread.
+// Reads entries of records as the kind of value that the caller wants. A record, an entry or a
+// value may be missing, and an entry of another kind counts as missing. All functions are pure and
+// may be called from any thread.
 
 #pragma once
 
@@ -21,10 +22,10 @@ std::optional<std::string> textOf(const std::optional<PropertyListValue>& value)
 // No elements when the value is missing.
 PropertyList listOf(const std::optional<PropertyListValue>& value);
 
-// The texts among the elements.
+// The texts among the elements, without the others.
 std::vector<std::string> textsOf(const std::optional<PropertyListValue>& value);
 
-// A number, or the number that a text begins with.
+// A number, or the number at the beginning of a text.
 std::optional<std::int64_t> numberOf(const std::optional<PropertyListValue>& value);
 
 } // namespace kx

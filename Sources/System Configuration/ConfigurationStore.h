@@ -1,8 +1,8 @@
 // The host's network configuration as keyed records: the current state with a change feed (the
-// dynamic store), and what is saved (the preferences).
+// dynamic store), and the saved configuration (the preferences).
 //
 // A record is a dictionary under a key such as "State:/Network/Service/ID/IPv4"
-// (ConfigurationKeys.h has the keys that are read here). What an adapter must answer:
+// (ConfigurationKeys.h has the keys that are read here). An adapter must answer these:
 //
 //   Setup:/Network/Global/IPv4            ServiceOrder: service identifiers, preferred first
 //   Setup:/Network/Service/ID/Interface   DeviceName, Type ("PPP" for dial-up), UserDefinedName
@@ -17,13 +17,14 @@
 //   path /NetworkServices/ID/Interface    DeviceName, Type, UserDefinedName, as saved
 //   path /NetworkServices/ID/IPv4         Addresses, SubnetMasks, as saved
 //
-// A record or an entry that the host does not have is missing, never empty in its place.
+// When the host does not have a record or an entry, it is missing; an empty one never takes its
+// place.
 //
 // Threading: the main thread only. Reads may take a moment; they run on user actions and on change
 // notifications. No callback comes from inside an operation.
 //
 // Ownership: sessions and sources are handles; destroying one closes it. They must not outlive
-// their store, and a source must not outlive its session. The run loop is the adapter's business.
+// their store, and a source must not outlive its session. The adapter takes care of the run loop.
 
 #pragma once
 
@@ -44,8 +45,8 @@ class ConfigurationChangeSource {
 public:
     virtual ~ConfigurationChangeSource() = default;
 
-    // Begins to deliver changes on the main run loop. Changes before that are not delivered, nor
-    // are those before the store could first read its records.
+    // Begins to deliver changes on the main run loop. Earlier changes are not delivered, and
+    // neither are changes before the store could first read its records.
     virtual void addToRunLoop() = 0;
 
 protected:
@@ -59,13 +60,14 @@ class DynamicStoreSession {
 public:
     virtual ~DynamicStoreSession() = default;
 
-    // The record under a key; absent when there is none. A session with a callback answers as it is
-    // now, one without may answer as it was when the session was opened.
+    // The record under a key; absent when there is none. A session with a callback answers with the
+    // present state. A session without one may answer with the state at its opening.
     virtual std::optional<PropertyDictionary> copyValue(std::string_view key) = 0;
 
-    // Chooses the keys whose changes the session's callback is told: plain keys, and patterns. A
-    // pattern is a regular expression over the whole key; the only construct in use is "[^/]+", any
-    // one component. False when the choice could not be made; the one before it then stays.
+    // Chooses the keys whose changes are told to the session's callback: plain keys, and patterns.
+    // A pattern is a regular expression over the whole key; the only construct in use is "[^/]+",
+    // which matches any one component. False when the choice could not be made; the earlier choice
+    // then stays.
     virtual bool setNotificationKeys(std::span<const std::string_view> keys,
                                      std::span<const std::string_view> patterns) = 0;
 
@@ -78,9 +80,9 @@ protected:
     DynamicStoreSession& operator=(const DynamicStoreSession&) = delete;
 };
 
-// What a session calls when watched keys have changed: a record came, went or got another content.
-// `changedKeys` names each once; they are read with copyValue(). `info` is what openSession() was
-// given.
+// A session calls this function when watched keys have changed: a record came, went or got another
+// content. `changedKeys` names each key once; copyValue() reads their records. `info` is the
+// pointer that openSession() was given.
 using DynamicStoreCallBack = void (*)(DynamicStoreSession& store,
                                       const std::vector<std::string>& changedKeys, void* info);
 

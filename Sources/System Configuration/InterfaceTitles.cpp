@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-// A character may take several bytes in UTF-8: continuation bytes and the byte that leads them.
+// A character may take several bytes in UTF-8: a leading byte and continuation bytes.
 std::string_view withoutFinalCharacter(std::string_view text) {
     while (!text.empty()) {
         const auto byte = static_cast<unsigned char>(text.back());

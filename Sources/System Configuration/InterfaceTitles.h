@@ -1,10 +1,10 @@
 // The titles by which people choose a network interface: a name, a blank and an interface
 // identifier in parentheses, such as "Ethernet 2 (en0:1)". An interface identifier is the name of
-// the interface in the system, with ":" and a number behind it where a second service shares the
-// interface.
+// the interface in the system. When a second service shares the interface, ":" and a number follow
+// the name.
 //
-// Every separator is looked for at its last occurrence, because names may contain it too. A title's
-// final character is taken to be the closing parenthesis, whatever it is.
+// The functions look for the last occurrence of every separator, because names may contain it too.
+// The final character of a title counts as the closing parenthesis, whichever character it is.
 //
 // All functions are pure and may be called from any thread.
 
@@ -19,14 +19,15 @@ namespace kx {
 // with the identifier in parentheses.
 std::string titleForNameAndID(std::string_view userName, std::string_view interfaceID);
 
-// What stands before the last " ("; the whole title when there is none.
+// The text before the last " ("; the whole title when there is none.
 std::string userNameForTitle(std::string_view title);
 
-// What stands behind the last "(", without the title's final character; the whole title when there
-// is no "(".
+// The text behind the last "(", without the title's final character; the whole title when there is
+// no "(".
 std::string interfaceIDForTitle(std::string_view title);
 
-// The interface's name in the system: what stands before the last ":", or the whole identifier.
+// The interface's name in the system: the text before the last ":", or the whole identifier when
+// there is no ":".
 std::string bsdNameForInterfaceID(std::string_view interfaceID);
 
 // The same for a title: the name in the system of its interface identifier.

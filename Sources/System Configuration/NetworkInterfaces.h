@@ -1,8 +1,8 @@
-// What the controller needs to know of the host's network interfaces.
+// The facts about the host's network interfaces that the controller needs.
 //
-// A title is what a person chooses by: a name, a blank and the interface in parentheses. A service
-// identifier names the configured network service behind it; one that begins with "=" stands for an
-// interface of the kernel that no service covers. Main thread only.
+// A person chooses an interface by its title: a name, a blank and the interface in parentheses. A
+// service identifier names the configured network service behind a title; one that begins with "="
+// stands for an interface of the kernel that no service covers. Main thread only.
 
 #pragma once
 
@@ -20,9 +20,8 @@ public:
     virtual ~NetworkInterfaces() = default;
 
     // The titles of the configured services and of the kernel interfaces that are up, in the order
-    // in which they are to be offered; absent when there are none. When `serviceIDs` is not null,
-    // it receives the service identifiers, parallel to the titles; it is not written when the
-    // result is absent.
+    // of the pop-up; absent when there are none. When `serviceIDs` is not null, it receives the
+    // service identifiers, parallel to the titles; it is not written when the result is absent.
     virtual std::optional<std::vector<std::string>>
     bsdTitlesAndServiceIDs(std::vector<std::string>* serviceIDs) = 0;
 

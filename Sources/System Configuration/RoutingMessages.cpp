@@ -9,7 +9,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::size_t shortestMessage = 4; // up to and with the type byte
+constexpr std::size_t shortestMessage = 4; // up to and including the type byte
 constexpr std::size_t typeOffset = 3;
 constexpr std::size_t presenceMaskOffset = 4;
 constexpr std::size_t flagsOffset = 8;
@@ -33,7 +33,7 @@ Number hostNumberAt(ByteView bytes, std::size_t offset) {
     return number;
 }
 
-// What is there of the `length` bytes from `offset` on: all of them, or nothing.
+// All of the `length` bytes from `offset` on, or no bytes when some of them are missing.
 ByteView wholeRange(ByteView bytes, std::size_t offset, std::size_t length) {
     if (bytes.size() < offset || bytes.size() - offset < length) {
         return {};
@@ -45,7 +45,7 @@ ByteView behind(ByteView bytes, std::size_t offset) {
     return bytes.subspan(std::min(offset, bytes.size()));
 }
 
-// 0 for a slot that is not there; absent for one that is cut short.
+// 0 for a slot that is absent; absent for an address that is cut short.
 std::optional<std::uint32_t> addressInSlot(const std::optional<ByteView>& slot) {
     if (!slot.has_value()) {
         return 0;
@@ -60,7 +60,7 @@ std::optional<std::uint32_t> addressInSlot(const std::optional<ByteView>& slot) 
     return address;
 }
 
-// The length of the whole message in front, or 0 when there is none.
+// The length of the whole message at the front, or 0 when there is none.
 std::size_t firstMessageLength(ByteView list) {
     if (list.size() < shortestMessage) {
         return 0;

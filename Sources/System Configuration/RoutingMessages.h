@@ -12,9 +12,9 @@
 // Numbers in the headers are in host byte order; addresses are in network byte order. Socket
 // addresses take their length byte rounded up to a multiple of the size of a long integer.
 //
-// The bytes are foreign: nothing here reads beyond a message, and whatever is cut short counts as
-// missing. All functions are pure, the results look into the argument and live as long as it does.
-// They may be called from any thread.
+// The bytes are foreign: nothing here reads beyond a message, and a part that is cut short counts
+// as missing. All functions are pure. Their results look into the argument and live as long as it
+// does. They may be called from any thread.
 
 #pragma once
 
@@ -34,38 +34,40 @@ inline constexpr std::uint8_t interfaceMessageType = 14;
 inline constexpr std::size_t interfaceMessageHeaderLength = 112;
 inline constexpr std::size_t addressMessageHeaderLength = 20;
 
-// Slots of an address message, which are the bits of its presence mask.
+// Slots of an address message. They are the bits of its presence mask.
 inline constexpr std::size_t netmaskSlot = 2;
 inline constexpr std::size_t interfaceAddressSlot = 5;
 inline constexpr std::size_t addressSlotCount = 8;
 
-// All messages up to the first place where no whole message follows: the end, or a length that does
-// not cover its type or reaches beyond the list. Without a length there is no next message either.
+// All messages up to the end of the list, or up to the first length that is too small to cover the
+// message's type or that reaches beyond the list. Without a right length the next message cannot be
+// found.
 std::vector<ByteView> routingMessages(ByteView list);
 
 // The type of one of these messages.
 std::uint8_t routingMessageType(ByteView message);
 
-// What an interface message says of its interface.
+// The contents of an interface message.
 struct InterfaceMessage {
     std::optional<std::string> name; // absent when its bytes are not UTF-8
     bool isUp = false;
-    ByteView hardwareAddress; // empty when it has none, or when the message ends before it
+    ByteView hardwareAddress; // empty when there is none, or the message ends before it
 };
 
 // Reads a message of type 14. Absent for another type, and when the message has no link-level
 // address with a name.
 std::optional<InterfaceMessage> interfaceMessage(ByteView message);
 
-// The socket addresses of a message by slot: absent where the slot's bit is not set; otherwise all
-// bytes from the socket address to the end of the message, none when the message ends before it.
+// The socket addresses of a message by slot. A slot is absent when its bit is not set. Otherwise it
+// holds all bytes from the socket address to the end of the message, or no bytes when the message
+// ends before the address.
 using RoutingAddresses = std::array<std::optional<ByteView>, addressSlotCount>;
 
 // Fills the slots from the presence mask and the bytes behind the message's header. A socket
-// address of length 0 takes one unit.
+// address of length 0 takes the space of one long integer.
 void get_rtaddrs(std::uint32_t presenceMask, ByteView socketAddresses, RoutingAddresses& slots);
 
-// What an address message says. 0 stands for an address that the message does not have.
+// The contents of an address message. 0 stands for an address that the message does not have.
 struct AddressMessage {
     std::uint32_t address = 0; // in host byte order, as is the mask
     std::uint32_t mask = 0;

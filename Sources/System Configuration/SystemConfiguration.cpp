@@ -97,8 +97,8 @@ std::optional<Bytes> SystemConfiguration::getParameter(std::optional<std::span<c
     if (!name.has_value() || name->size() > longestParameterName) {
         return std::nullopt;
     }
-    // The size is only a first guess: a failed probe leaves the headroom, and the second call says
-    // whether that was enough.
+    // The size is only a first guess. When its query fails, only the headroom is left, and the
+    // second call tells whether that was enough.
     std::size_t length = 0;
     static_cast<void>(_kernelQuery.sysctl(*name, nullptr, length));
     Bytes buffer(length + parameterHeadroom);

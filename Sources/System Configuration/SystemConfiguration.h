@@ -1,23 +1,23 @@
-// The one point of access to the host's network configuration: which interfaces there are and how
-// they are titled, what their addresses are, and when they change.
+// The one point of access to the host's network configuration: the interfaces and their titles,
+// their addresses, and the changes to them.
 //
 // Two sources are merged: the configured network services of the configuration store, in the user's
 // order, and the kernel's own list, for interfaces that no service covers. A service identifier
-// that begins with "=" stands for such a kernel-only interface ("=lo0"); it has no configured
-// service, so whatever needs one answers with nothing.
+// that begins with "=" stands for such a kernel-only interface ("=lo0"). It has no configured
+// service, so a query that needs one answers with nothing.
 //
-// Nothing is cached but the interface identifiers: every query opens a session of its own and
-// closes it before it returns.
+// Only the interface identifiers are cached: every query opens a session of its own and closes it
+// before it returns.
 //
-// Failures: every query answers with nothing, or with the localized text "not available". What is
-// written to the system log is said at the operations. Broken contracts in the construction end the
-// process (ChangeWatch.h).
+// Failures: every query answers with nothing, or with the localized text "not available". The
+// comments at the operations say what they write to the system log. Broken contracts in the
+// construction end the process (ChangeWatch.h).
 //
 // Threading: the main thread only; changes are announced from its run loop.
 //
-// Ownership: the shared instance lives until the process ends. Its sources are not owned. They may
-// go when the process is about to end, provided that nothing is asked of it and the run loop does
-// not turn any more.
+// Ownership: the shared instance lives until the process ends. It does not own its sources. They
+// may be destroyed when the process is about to end, if nobody queries the instance any more and
+// the run loop does not turn any more.
 
 #pragma once
 
@@ -39,14 +39,14 @@
 
 namespace kx {
 
-// The notification of a change to a service's IPv4 state, posted by the shared instance, one for
-// each changed key. Its user info holds the entries of the new state and the service's identifier
-// under "ServiceID"; only the identifier when the state is gone.
+// The notification of a change to a service's IPv4 state. The shared instance posts one for each
+// changed key. The user info holds the entries of the new state, and the service's identifier under
+// "ServiceID". When the state is gone, it holds only the identifier.
 inline constexpr std::string_view SystemConfigurationNotification =
     "SystemConfigurationNotification";
 inline constexpr std::string_view serviceIDUserInfoKey = "ServiceID";
 
-// What the text queries can be asked for.
+// The requests that the text queries know.
 inline constexpr std::string_view grantAddressRequest = "grantAddress";   // IPv4 addresses
 inline constexpr std::string_view grantAddress6Request = "grantAddress6"; // IPv6 addresses/prefixes
 inline constexpr std::string_view subnetMaskRequest = "subnetMask";       // IPv4 masks
@@ -56,19 +56,19 @@ inline constexpr std::string_view hardwareAddressRequest = "hardwareAddress";
 
 class SystemConfiguration final : public NetworkInterfaces {
 public:
-    // Which sources the shared instance is to use. Whoever wires the program calls this once,
-    // before anyone asks for the shared instance.
+    // Sets the sources of the shared instance. The wiring of the program calls this once, before
+    // the first use of the shared instance.
     // Contract: "sharedInstance == nil".
     static void installSources(ConfigurationStore& store, KernelQuery& kernelQuery);
 
-    // The process's one object, created on first use and never released.
-    // Contract: "sources != NULL" (they are installed).
+    // The process's one object, created on first use and never released. The sources must be
+    // installed. Contract: "sources != NULL".
     static SystemConfiguration& sharedInstance();
 
     // Sets up the change watch. When that fails, the object works but never announces a change.
     SystemConfiguration(ConfigurationStore& store, KernelQuery& kernelQuery);
 
-    // Does not end the watch: what it announces goes to the shared instance.
+    // Does not end the watch. The watch announces its changes to the shared instance.
     ~SystemConfiguration() override;
     SystemConfiguration(const SystemConfiguration&) = delete;
     SystemConfiguration& operator=(const SystemConfiguration&) = delete;
@@ -78,7 +78,7 @@ public:
     // is only a name for the registration. Registered twice, it is called twice.
     void addObserverWithSelector(const void* observer, NotificationCenter::Selector selector);
 
-    // Ends every registration of an observer; none is no error.
+    // Ends every registration of an observer. An observer without a registration is no error.
     void removeObserver(const void* observer);
 
     // Reads each changed key and posts its notification before it goes on to the next. A key that
@@ -87,8 +87,9 @@ public:
 
     // The titles of all configured services and of all other kernel interfaces. Each carries an
     // interface identifier that belongs to its service alone and stays the same from one
-    // enumeration to the next, also when other services go. Absent when there are none;
-    // `serviceIDs`, unless null, is then not written, otherwise it is parallel to the titles.
+    // enumeration to the next, also when other services go. When there are none, the result is
+    // absent and `serviceIDs` is not written. Otherwise `serviceIDs`, unless null, is parallel to
+    // the titles.
     std::optional<std::vector<std::string>>
     interfaceTitlesAndServiceIDs(std::vector<std::string>* serviceIDs);
 
@@ -96,20 +97,20 @@ public:
     std::optional<std::vector<std::string>> currentInterfaceTitles();
 
     // The titles for the interface pop-up: with the plain names of the interfaces, and with only
-    // those kernel interfaces that are up. Leaves the interface identifiers alone.
+    // those kernel interfaces that are up. Does not change the interface identifiers.
     std::optional<std::vector<std::string>>
     bsdTitlesAndServiceIDs(std::vector<std::string>* serviceIDs) override;
 
-    // Interface identifiers by service identifier, as given so far.
+    // Interface identifiers by service identifier, as given until now.
     using InterfaceIDs = std::map<std::string, std::string, std::less<>>;
     const InterfaceIDs& interfaceIDs() const { return _interfaceIDs; }
 
-    // Asks the next interfaceTitlesAndServiceIDs() to forget all interface identifiers first. The
-    // first one after construction does so anyway.
+    // Makes the next call of interfaceTitlesAndServiceIDs() forget all interface identifiers first.
+    // The first call after construction does so anyway.
     void purgeInterfaceIDs() { _purgeInterfaceIDs = true; }
 
-    // The first service of the saved current location set, in its order, on an interface; the
-    // loopback interface has its kernel-only identifier, any other interface without a service has
+    // The first service on an interface, in the order of the saved current location set. The
+    // loopback interface has its kernel-only identifier; any other interface without a service has
     // none. Logs "serviceIDForInterface: open session for System Configuration failed" when the
     // preferences cannot be opened.
     std::optional<std::string> serviceIDForInterface(std::string_view bsdName) override;
@@ -118,8 +119,8 @@ public:
     // every PPP service. Absent for an unknown service and for one without a device.
     std::optional<std::string> bsdNameForServiceID(std::string_view serviceID);
 
-    // The identifier of the current location set: its path without the first six characters.
-    // Absent when the path does not contain "/Sets/", wherever that stands.
+    // The identifier of the current location set: its path without the first six characters. Absent
+    // when the path does not contain "/Sets/". The path may contain it at any place.
     std::optional<std::string> currentSet();
 
     // All location sets as they are saved.
@@ -142,13 +143,13 @@ public:
     staticServiceDataForDictionaryNameKey(std::string_view serviceID,
                                           std::string_view dictionaryName, std::string_view key);
 
-    // A text for people about a service: several values are joined with ",", a link is "Active",
-    // "Inactive" or "Not reported", whatever is missing is "not available". So is an unknown
-    // request, which also logs "interfaceDataForKey unknown request". A kernel-only identifier is
-    // answered as bsdNameInterfaceDataForKey() does.
+    // A text for people about a service. Several values are joined with ",". A link is "Active",
+    // "Inactive" or "Not reported". A missing value is "not available". An unknown request is "not
+    // available" too, and logs "interfaceDataForKey unknown request". A kernel-only identifier gets
+    // the answer of bsdNameInterfaceDataForKey().
     std::string serviceInterfaceDataForKey(std::string_view serviceID, std::string_view requestKey);
 
-    // The same about an interface of the kernel: of its first IPv4 address only, a link being
+    // The same about an interface of the kernel. Only its first IPv4 address counts. A link is
     // "Active" when the interface is up, and otherwise "Inactive". IPv6 addresses, and unknown
     // requests, are "not available"; nothing is logged.
     std::string bsdNameInterfaceDataForKey(std::string_view bsdName, std::string_view requestKey);
@@ -185,12 +186,12 @@ private:
     std::unique_ptr<DynamicStoreSession> storeRef;
     std::unique_ptr<ConfigurationChangeSource> sourceRef;
     InterfaceIDs _interfaceIDs;
-    std::set<std::string> _takenInterfaceIDs; // the values of that
+    std::set<std::string> _takenInterfaceIDs; // the values of _interfaceIDs
     bool _purgeInterfaceIDs = true;
     std::multimap<const void*, NotificationCenter::Registration> _observers;
 };
 
-// The plain function registered with the change watch: hands the changed keys to the shared
+// The plain function registered with the change watch. It hands the changed keys to the shared
 // instance. `info` is not used.
 void myDynamicStoreCallback(DynamicStoreSession& store, const std::vector<std::string>& changedKeys,
                             void* info);

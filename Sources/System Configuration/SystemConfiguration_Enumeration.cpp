@@ -1,4 +1,4 @@
-// Which interfaces there are, how they are titled, and what is behind a title.
+// Lists the interfaces with their titles, and finds the service behind a title.
 
 #include "System Configuration/ConfigurationKeys.h"
 #include "System Configuration/ConfigurationRecord.h"
@@ -26,7 +26,7 @@ bool isPPP(const ConfigurationRecord& interface) {
     return textOf(entryOf(interface, kSCPropNetInterfaceType)) == kSCValNetInterfaceTypePPP;
 }
 
-// Characters are UTF-16 units, but no character is taken apart.
+// `count` is a number of UTF-16 units, but no character is split.
 std::string_view withoutFirstCharacters(std::string_view text, std::size_t count) {
     std::size_t end = 0;
     const auto isInsideCharacter = [&] {
@@ -39,7 +39,7 @@ std::string_view withoutFirstCharacters(std::string_view text, std::size_t count
     return text.substr(end);
 }
 
-// What both enumerations hand out. Nothing found is not an empty list.
+// The result of both enumerations. It is absent, and no empty list, when nothing was found.
 std::optional<std::vector<std::string>> enumerated(std::vector<std::string> titles,
                                                    std::vector<std::string> foundServiceIDs,
                                                    std::vector<std::string>* serviceIDs) {
@@ -104,7 +104,7 @@ std::vector<SystemConfiguration::ListedInterface> SystemConfiguration::_listedSe
         }
         const auto deviceName = textOrNotAvailable(interface, kSCPropNetInterfaceDeviceName);
         if (isPPP(interface)) {
-            // Numbered among the PPP services, because only the kernel knows its own numbers.
+            // Gets a number among the PPP services, because only the kernel knows its own numbers.
             interfaces.push_back({serviceID, filledText("%@%d", {"ppp", pppCounter}), deviceName});
             ++pppCounter;
         } else {
@@ -145,7 +145,7 @@ const std::string& SystemConfiguration::_interfaceIDForService(const ListedInter
     if (known != _interfaceIDs.end()) {
         return known->second;
     }
-    // Ends, because one identifier more than there are taken ones is tried.
+    // This loop ends, because it tries one identifier more than there are taken ones.
     std::string interfaceID = interface.name;
     for (int n = 1; !_takenInterfaceIDs.insert(interfaceID).second; ++n) {
         interfaceID = filledText("%@:%d", {interface.name, n});

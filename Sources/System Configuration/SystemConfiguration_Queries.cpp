@@ -1,4 +1,4 @@
-// What is known of one service or one interface, as records and as texts for people.
+// Queries about one service or one interface. They answer with records and with texts for people.
 
 #include "System Configuration/ConfigurationKeys.h"
 #include "System Configuration/ConfigurationRecord.h"
@@ -40,7 +40,7 @@ std::string linkStatusText(bool isActive) {
     return isActive ? "Active" : "Inactive";
 }
 
-// What the message of the wanted interface itself answers.
+// The answer in the message about the wanted interface itself.
 std::optional<std::string> interfaceText(const InterfaceMessage& interface,
                                          std::string_view requestKey) {
     if (requestKey == hardwareAddressRequest &&
@@ -56,7 +56,7 @@ std::optional<std::string> interfaceText(const InterfaceMessage& interface,
     return std::nullopt;
 }
 
-// What an address message of the wanted interface answers.
+// The answer in an address message of the wanted interface.
 std::optional<std::string> addressText(const AddressMessage& message, std::string_view requestKey) {
     if (requestKey == grantAddressRequest) {
         return stringForIP(message.address);
@@ -70,8 +70,8 @@ std::optional<std::string> addressText(const AddressMessage& message, std::strin
     return std::nullopt;
 }
 
-// What one message answers. `isInsideInterface` says whether the messages before it were about the
-// wanted interface, and then whether this one is.
+// The answer in one message. `isInsideInterface` says whether the messages before it were about the
+// wanted interface. Afterwards it says this of the present message.
 std::optional<std::string> messageText(ByteView message, std::string_view bsdName,
                                        std::string_view requestKey, bool& isInsideInterface) {
     const auto interface = interfaceMessage(message);
@@ -120,7 +120,8 @@ std::optional<PropertyListValue> SystemConfiguration::staticServiceDataForDictio
     }
     const auto session = _store.openPreferences(applicationIdentifier);
     if (session == nullptr) {
-        // The same line as for the search of a service, whoever reads the log knows it by that.
+        // This logs the line of the search for a service, because readers of the log know that
+        // line.
         logToSystem("serviceIDForInterface: open session for System Configuration failed");
         return std::nullopt;
     }

@@ -13,7 +13,7 @@ namespace kx {
 namespace {
 
 constexpr auto toolPath = "/usr/sbin/arp";
-constexpr std::string_view mark = "at "; // what an address stands behind
+constexpr std::string_view mark = "at "; // an address follows this mark
 
 std::optional<std::string> toolOutput(const std::string& argument) {
     std::optional<std::string> output;

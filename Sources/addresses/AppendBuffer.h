@@ -8,7 +8,7 @@ namespace kx {
 
 struct AppendBuffer {
     char* bytes = nullptr;      // the caller's storage
-    std::uint32_t length = 0;   // how far appends have written, the high-water mark
+    std::uint32_t length = 0;   // high-water mark: the end of everything appended
     std::uint32_t capacity = 0; // the most bytes that appends may occupy
     std::uint32_t offset = 0;   // where the next append writes
 };

@@ -27,7 +27,8 @@ void describeError(std::optional<std::string>* errorDescription, std::string_vie
     }
 }
 
-// Reads groups into `octets` until a separator is missing or all are read, and says which.
+// Reads groups into `address` until a separator is missing or all are read. Returns whether all
+// were read.
 bool parseGroups(const ParseCursor& cursor, HardwareAddress& address) {
     ParsePosition position = startOfCursor(cursor);
     for (std::size_t i = 0; i < address.length(); ++i) {

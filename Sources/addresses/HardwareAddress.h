@@ -1,7 +1,7 @@
 // Ethernet hardware addresses as values, and their formatter.
 //
-// Both are plain values; the shared formatter is made on first use on the main thread. Parsing logs
-// and belongs to the main thread; the rest may be called from any.
+// Both are plain values; the shared formatter is made on first use on the main thread. Parsing
+// writes to the log and belongs to the main thread; the rest may be called from any thread.
 
 #pragma once
 
@@ -18,7 +18,7 @@
 
 namespace kx {
 
-// What formatters are asked to format: an object of any kind.
+// The base of all objects that formatters can be asked to format.
 class FormattedObject {
 public:
     virtual ~FormattedObject() = default;
@@ -49,7 +49,7 @@ public:
     // "00:1A:2B:3C:4D:5E".
     std::string stringValue() const;
 
-    // Parses a text by the formatter's rules and says whether it could. On failure logs the
+    // Parses a text by the formatter's rules and returns whether it could. On failure logs the
     // formatter's error description and leaves the octets as they were.
     bool setStringValue(std::string_view text);
 
@@ -64,7 +64,7 @@ private:
     Octets _hardwareAddress{};
 };
 
-// A text with the attributes that it is to be shown with.
+// A text and the attributes with which it is shown.
 struct AttributedText {
     std::string text;
     PropertyDictionary attributes;
@@ -84,10 +84,10 @@ public:
     attributedStringForObjectValueWithDefaultAttributes(const FormattedObject* object,
                                                         const PropertyDictionary& attributes) const;
 
-    // Parses six groups of hexadecimal digits (see HardwareAddressText.h) and says whether it
-    // could; what follows the sixth group is ignored. `object` receives a new address: on success,
-    // and with the octets read so far when a group is missing, which also logs "Input: " and the
-    // text.
+    // Parses six groups of hexadecimal digits (see HardwareAddressText.h) and returns whether it
+    // could; text behind the sixth group is ignored. On success `object` receives a new address.
+    // When a group is missing, `object` receives a new address with the octets read so far, and
+    // "Input: " and the text are logged.
     //
     // `errorDescription`, unless null, is cleared on success and says in words what is wrong on
     // failure (localized): "HardwareAddressFormatter: inString is nil" for an empty text,

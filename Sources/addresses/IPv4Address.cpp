@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::size_t longestAddressText = 254;
 
-// Room for the longest text, "255.255.255.255/32", and what appends may occupy of it.
+// Room for the longest text, "255.255.255.255/32", and the part of it that appends may occupy.
 constexpr std::size_t formattedTextRoom = 32;
 constexpr std::uint32_t formattedTextCapacity = 31;
 
@@ -43,7 +43,7 @@ bool isSkippedInFront(char character) {
            character == '\r';
 }
 
-// Separators fit because appends stay within the capacity, one byte below the room.
+// A separator always fits, because appends stay within the capacity, one byte below the room.
 void appendSeparator(AppendBuffer& buffer, char separator) {
     buffer.bytes[buffer.offset++] = separator;
 }
@@ -65,7 +65,8 @@ std::int32_t prefixLengthOfMask(std::uint32_t mask) {
 } // namespace
 
 std::uint32_t ipForString(std::string_view text) {
-    // In bytes, which no text has fewer of than characters: this covers the limit on those too.
+    // This counts bytes. A text has at least as many bytes as characters, so this covers the limit
+    // on characters too.
     if (text.empty() || text.size() > longestAddressText) {
         return 0;
     }

@@ -5,7 +5,7 @@
 // lengths count from the most significant bit, which is bit 1; bit 32 is the least significant.
 //
 // All functions are pure, allocate nothing but the text that they return, and may be called from
-// any thread. None reports an error other than by its result.
+// any thread. They report errors only by their results.
 
 #pragma once
 
@@ -17,15 +17,15 @@
 namespace kx {
 
 // The address that a dotted text names, or 0. Deliberately forgiving: spaces, ",", "-", tabs and
-// carriage returns in front are skipped (a line feed is not), and whatever follows the fourth
+// carriage returns at the beginning are skipped (a line feed is not), and text behind the fourth
 // segment is ignored.
 //
-// A segment is up to 3 decimal digits, or "0x" (lower case) and up to 2 hexadecimal digits; one
-// without digits is 0. Segments are not range-checked: what exceeds 255 is OR'ed into the segment
-// before, and lost in front of the first.
+// A segment is up to 3 decimal digits, or "0x" (lower case) and up to 2 hexadecimal digits; a
+// segment without digits is 0. Segments are not range-checked: the bits of a value above its low
+// 8 are OR'ed into the segment before it, and those of the first segment are lost.
 //
-// 0 also for a text of no or more than 254 characters, and for one that is longer than 254 bytes in
-// UTF-8.
+// The result is also 0 for an empty text, for one of more than 254 characters, and for one of more
+// than 254 bytes in UTF-8.
 std::uint32_t ipForString(std::string_view text);
 
 // Reads one segment as above at `position` of a NUL-terminated buffer, advances `position` by the
@@ -39,7 +39,7 @@ std::uint32_t ipSegment1FromBuf(const char* buffer, std::int32_t& position, std:
 std::string stringForIP(std::uint32_t address);
 
 // "a.b.c.d/n", with n the position of the mask's least significant set bit; "a.b.c.d" for a mask of
-// 0. That bit alone decides, so a mask with holes still gets a prefix length.
+// 0. The lowest set bit alone decides, so a mask with holes still gets a prefix length.
 std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask);
 
 // The prefix length of a dotted mask as decimal text, by the same rule. Absent for an absent text

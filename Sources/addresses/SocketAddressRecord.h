@@ -5,8 +5,8 @@
 //                   address (16 bytes), scope identifier (4 zero bytes)
 //
 // Port and address are in network byte order inside the record, and in host byte order in the
-// arguments and results here. Records are how addresses travel through the system; only the
-// boundary to the operating system's sockets (DatagramSystemCalls.h) knows the host's own layout.
+// arguments and results here. Addresses travel through the system as records; only the boundary to
+// the operating system's sockets (DatagramSystemCalls.h) knows the host's own layout.
 //
 // All functions are pure and may be called from any thread.
 
@@ -38,11 +38,11 @@ Bytes dataForAddress(std::uint32_t address, std::uint16_t port);
 // The IPv6 record of an address and a port.
 Bytes dataForAddress6(const IPv6Octets& address, std::uint16_t port);
 
-// Takes a record apart and returns its family, or 0 for a record of another family, of no bytes, or
-// one that ends before its address does. Writes `address` for an IPv4 record and sets it to 0 for
-// result 0; writes `address6` for an IPv6 record only; writes `port`, unless it is null, in every
-// case (0 for result 0). The length byte of the record is not looked at, nor is what follows the
-// address.
+// Takes a record apart and returns its family. Returns 0 for a record of another family, for one
+// without bytes, and for one that ends before its address does. Writes `address` for an IPv4 record
+// and sets it to 0 for result 0; writes `address6` for an IPv6 record only; writes `port`, unless
+// it is null, in every case (0 for result 0). The length byte of the record and the bytes behind
+// the address are ignored.
 int addressForData(ByteView record, std::uint32_t& address, IPv6Octets& address6,
                    std::uint16_t* port);
 

@@ -14,7 +14,7 @@ ARPEntry arpEntryForResult(std::int32_t result) {
         return {.state = ARPEntryState::dismissed};
     case errAuthorizationToolExecuteFailure:
         return {.state = ARPEntryState::cannotRun};
-    case -1: // never too many arguments here
+    case -1: // the arguments are never too many here
         return {.state = ARPEntryState::notASCII};
     default:
         return {.state = ARPEntryState::notStarted, .code = result};

@@ -1,4 +1,4 @@
-// What became of the entry in the host's ARP cache that a unit's new address needs.
+// The state of the entry in the host's ARP cache that a unit's new address needs.
 //
 // A plain value; any thread.
 
@@ -12,11 +12,11 @@ enum class ARPEntryState {
     notWanted,      // the edit needs none
     started,        // the tool was started and has not failed so far
     rightsNotGiven, // nobody gave administrator rights
-    refused,        // running the tool was refused
-    dismissed,      // the person who was asked again said no
+    refused,        // the authority refused to run the tool
+    dismissed,      // a person was asked again and said no
     cannotRun,      // there is no such tool, or it cannot be executed
-    notASCII,       // the address holds something else
-    notStarted,     // `code` is the authority's status
+    notASCII,       // the address has other characters than ASCII
+    notStarted,     // the tool did not start; `code` is the authority's status
     ended,          // the tool ran and failed; `code` is how it ended
 };
 
@@ -27,10 +27,11 @@ struct ARPEntry {
     friend bool operator==(const ARPEntry&, const ARPEntry&) = default;
 };
 
-// By the result of Authorization::runToolWithArgs().
+// The entry for a result of Authorization::runToolWithArgs().
 ARPEntry arpEntryForResult(std::int32_t result);
 
-// By how the tool ended: its exit status, or 128 and the number of the signal that ended it.
+// The entry for a tool that ended. `status` is its exit status, or the number of the signal that
+// ended it plus 128.
 ARPEntry arpEntryForEndOfTool(std::int32_t status);
 
 } // namespace kx

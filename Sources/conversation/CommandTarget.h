@@ -1,4 +1,5 @@
-// Whom commands reach, as far as it is known beforehand, and why one would not be sent.
+// The unit that commands go to, as far as it is known beforehand, and the reasons why a command
+// would not be sent.
 //
 // Pure; any thread. Texts are UTF-8.
 
@@ -19,20 +20,21 @@ struct CommandTarget {
     std::optional<std::string> hardwareAddress = {}; // its "internal MAC address"
     bool isListening = true;
 
-    // The unit that has the typed serial number, though it is not the selected one.
+    // Another unit than the selected one has the serial number that was typed.
     bool newSerialNumberIsTaken = false;
 };
 
 enum class CommandRefusal {
     notEditable,
     emptyValue,
-    notUTF8, // a unit ID that is no text
+    notUTF8, // a unit ID that is not valid UTF-8
     noUnit,
     notASCII,
-    noAddress, // of the selected unit
+    noAddress, // the address of the selected unit is not known
 };
 
-// Why a command for the selected unit is not handed to the network; absent when it is.
+// The reason why a command for the selected unit is not handed to the network; absent when it is
+// handed over.
 std::optional<CommandRefusal> refusalOfCommand(std::string_view command,
                                                const CommandTarget& target);
 

@@ -1,10 +1,10 @@
-// What has become of an edit: whether it was sent, whether the unit accepted a command since, and
+// The outcome of an edit: whether it was sent, whether the unit has accepted a command since, and
 // what the unit shows.
 //
-// A unit tells what it made of a command only by its parameters, so what they show is compared with
-// what was sent, in the form in which units show it. Every reply counts anew: the outcome is always
-// that of the latest one. An acknowledgement names no command, so it says no more than that the
-// unit accepted one.
+// A unit tells the result of a command only through its parameters. So the value that it shows is
+// compared with the value that was sent, in the form in which units show it. Each reply replaces
+// the outcome of the one before it. An acknowledgement names no command, so it says only that the
+// unit accepted some command.
 //
 // A value type, pure; any thread, one at a time. Texts are UTF-8.
 
@@ -27,23 +27,24 @@ enum class EditState {
     accepted,  // the unit accepted a command
     shown,     // the unit shows the value
     unchanged, // the unit shows the value that it had
-    different, // the unit shows neither
-    untold,    // the unit's parameters do not hold this one
+    different, // the unit shows another value
+    untold,    // the unit's parameters do not include this one
 };
 
 class EditOutcome {
 public:
-    // The unit as it was when the edit was made; nothing of it is known without a unit.
+    // The unit at the time of the edit. Without a unit every text is absent.
     struct Unit {
         std::optional<std::string> serialNumber = {};
         std::optional<std::string> hardwareAddress = {};
-        std::optional<std::string> valueBefore = {}; // of the parameter
+        std::optional<std::string> valueBefore = {}; // value of the parameter before the edit
 
-        // Another unit has told the serial number that this one is to have.
+        // Another unit has already told the serial number that this unit is to get.
         bool newSerialNumberIsTaken = false;
     };
 
-    // The command was handed to the network, which refused it if `failure` says so.
+    // The command was handed to the network. `failure`, when present, says why the network refused
+    // it.
     EditOutcome(ParameterEdit edit, Unit unit, std::optional<SendFailure> failure = {});
 
     const ParameterEdit& edit() const { return _edit; }
@@ -55,24 +56,26 @@ public:
     // Why the network refused the command; absent in every state but notSent.
     const std::optional<SendFailure>& failure() const { return _failure; }
 
-    // What the unit showed last; absent before it has, and when it does not tell the parameter. A
-    // unit ID comes without zero bytes at its end.
+    // The value that the unit showed last; absent before the first one, and when the unit does not
+    // tell the parameter. Zero bytes at the end of a unit ID are removed.
     const std::optional<std::string>& shownValue() const { return _shownValue; }
 
-    // Why the unit could not be asked for its parameters when it had accepted a command; absent
+    // Why the unit could not be asked for its parameters after it had accepted a command; absent
     // when it was asked.
     const std::optional<SendFailure>& requestFailure() const { return _requestFailure; }
 
     const ARPEntry& arpEntry() const { return _arpEntry; }
     void setARPEntry(ARPEntry entry) { _arpEntry = entry; }
 
-    // A unit accepted a command and was asked for its parameters, or could not be. False, and
-    // nothing has changed, for another unit, for an edit that was not sent, and for a second time.
+    // A unit accepted a command and was then asked for its parameters; `requestFailure` says why it
+    // could not be asked. Returns false and changes nothing for another unit, for an edit that was
+    // not sent, and for a second time.
     bool unitDidAccept(std::string_view serialNumber, std::optional<SendFailure> requestFailure);
 
-    // A unit told its parameters. False, and nothing has changed, for another unit and for an edit
-    // that was not sent. A unit whose serial number was edited speaks under the new one: it is
-    // known by its hardware address, or, where that is not known, by a number that nobody else had.
+    // A unit told its parameters. Returns false and changes nothing for another unit and for an
+    // edit that was not sent. A unit whose serial number was edited answers under the new one. It
+    // is recognised by its hardware address or, when that is not known, by a number that no other
+    // unit had.
     bool unitDidTell(std::string_view serialNumber, const UnitRecord& record);
 
 private:

@@ -1,4 +1,4 @@
-// The address by which this host is in the network of an interface.
+// The IPv4 address and the mask of this host on an interface.
 //
 // Main thread only. Numbers are in host byte order.
 
@@ -12,12 +12,12 @@
 namespace kx {
 
 struct InterfaceAddress {
-    std::uint32_t address = 0; // 0: none is known
+    std::uint32_t address = 0; // 0 when none is known
     std::uint32_t mask = 0;
 };
 
 // The first IPv4 address of the service that covers the interface of this name in the system, and
-// its mask; 0 for whatever is missing or does not parse.
+// its mask. A value that is missing or does not parse is 0.
 InterfaceAddress addressOfInterface(NetworkInterfaces& interfaces, std::string_view bsdName);
 
 } // namespace kx

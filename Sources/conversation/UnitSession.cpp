@@ -15,7 +15,8 @@ namespace {
 // Room for the replies of ten thousand units in the same instant.
 constexpr int wantedReceiveBuffer = 4 * 1024 * 1024;
 
-// A burst is counted a few times at most, and a person who reads sees no number run.
+// Short enough for a person, and long enough that a burst is counted only a few times and that no
+// number runs before the reader's eyes.
 constexpr auto timeBetweenCounts = 250ms;
 
 } // namespace
@@ -66,8 +67,8 @@ void UnitSession::stop() {
     _dropCount.reset();
 }
 
-// A listener that failed to start stays where it is until the next start. Sending through it is no
-// broken contract of the person who pressed a button, so it fails like any other send.
+// A listener that failed to start stays until the next start. A person who presses a button breaks
+// no contract, so sending through this listener fails like any other send.
 std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint32_t address,
                                              std::uint16_t port) {
     _sendFailure.reset();
@@ -105,7 +106,7 @@ void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
         if (_services.receiveBuffers != nullptr) {
             _services.receiveBuffers->enlarge(descriptor, wantedReceiveBuffer);
         }
-        _services.systemCalls.tellLinks(descriptor); // refused: events come without the link
+        _services.systemCalls.tellLinks(descriptor); // when refused, events come without the link
         if (_services.systemCalls.enableBroadcast(descriptor) == 0) {
             _observer.sessionCanBroadcast();
         } else {
@@ -120,7 +121,7 @@ void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
 void UnitSession::echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
                                                 const Bytes& address) {
     if (&echo != _listener.get()) {
-        return; // an endpoint from before a restart
+        return; // it is an endpoint from before a restart
     }
     const auto receiving = _listener; // the front may stop it, or start another
     countDropsSoon();
@@ -183,10 +184,10 @@ void UnitSession::echoDidStopWithError(UDPEcho& /*echo*/, const Error& error) {
     _observer.sessionDidStop(error);
 }
 
-// --- Datagrams that the system had no room for ---
+// --- Datagrams that the system dropped ---
 
-// Called for every read, a failed one included. A buffer that overflows is full of datagrams, so
-// the last loss is followed by a read, and by a count.
+// Called for every read, a failed one included. A buffer that overflows is full of datagrams, so a
+// read, and with it a count, follows the last loss.
 void UnitSession::countDropsSoon() {
     if (_services.receiveBuffers != nullptr && _dropCount == nullptr) {
         _dropCount = _services.runLoop.callOnceAfter(timeBetweenCounts, [this] { countDrops(); });

@@ -1,14 +1,14 @@
-// A session with units: one listening endpoint, what is sent through it and what comes back, as
-// typed events.
+// A session with units: one listening endpoint, the datagrams that it sends, and the datagrams that
+// come back, as typed events.
 //
-// It knows no selection, no control and no words. A front starts it on a port, sends requests and
-// commands, and is told of everything that happens, in the order in which it happens. Replies with
-// parameters are in the registry before the front hears of them.
+// It knows no selection, no control and no words. A front starts it on a port and sends requests
+// and commands. The session tells the front every event in the order in which the events happen. It
+// stores replies with parameters in the registry before it tells the front.
 //
 // Threading: everything, events included, on the thread of the run loop; nothing blocks. Ownership:
 // the observer, the services and the registry belong to the front and must outlive the session.
-// Errors are values: of the network in words of the system, of a datagram that breaks its own
-// format as a line in the system log.
+// Errors are values. An error of the network has the system's own text. A datagram that breaks its
+// own format becomes a line in the system log.
 
 #pragma once
 
@@ -29,32 +29,34 @@
 
 namespace kx {
 
-// Why a datagram was not sent: the system's error, or none when the listener does not run.
+// The reason why a datagram was not sent. `error` is the system's error; it is absent when the
+// listener does not run.
 struct SendFailure {
     std::optional<Error> error;
 };
 
-// Receives the events of a session. Every method is optional. Inside each the front may send, and
-// may stop the session or start it again.
+// Receives the events of a session. Every method is optional. Inside each event the front may send,
+// stop the session or start it again.
 class UnitSessionObserver {
 public:
     virtual ~UnitSessionObserver() = default;
 
-    // The listener runs on this local address, a socket address record; then, whether it may send
-    // broadcasts, or the system's reason why it may not. Inside the first nothing is sent yet.
+    // The listener runs on this local address, a socket address record. One of the next two events
+    // follows: the listener may send broadcasts, or the system gave a reason why it may not.
+    // Nothing is sent yet inside sessionDidStart().
     virtual void sessionDidStart(const Bytes& localAddress);
     virtual void sessionCanBroadcast();
     virtual void sessionCannotBroadcast(const std::string& reason);
 
-    // The listener stopped because of an error. It stays so until the next start().
+    // The listener stopped because of an error. It stays stopped until the next start().
     virtual void sessionDidStop(const Error& error);
 
-    // A datagram came. What it is follows: no reply at all, parameters, an acknowledgement, or
-    // anything else; and nothing when it breaks its own format.
+    // A datagram came. An event about its contents follows: no reply, parameters, an
+    // acknowledgement, or anything else. No event follows when the datagram breaks its own format.
     virtual void sessionDidReceiveDatagram(std::size_t length);
     virtual void sessionDidIgnoreDatagram(PacketKind kind);
 
-    // The record is in the registry already, if it has a serial number.
+    // A unit told its parameters. The record is in the registry already, if it has a serial number.
     virtual void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
                                        const DatagramOrigin& origin);
 
@@ -69,8 +71,8 @@ public:
     virtual void sessionDidSend();
     virtual void sessionDidFailToSend(const SendFailure& failure);
 
-    // The system dropped so many datagrams since the start before they were read; told when the
-    // number changes.
+    // The number of datagrams that the system has dropped since the start before they were read.
+    // The session calls this when the number changes.
     virtual void sessionDidDrop(std::uint32_t datagrams);
 };
 
@@ -81,7 +83,8 @@ public:
         HostResolver& hostResolver;
         DatagramSystemCalls& systemCalls;
 
-        // Null: the listener keeps the buffer that it begins with, and nobody hears what is lost.
+        // May be null. The listener then keeps the buffer that it begins with, and lost datagrams
+        // are not reported.
         ReceiveBuffers* receiveBuffers = nullptr;
     };
 
@@ -92,23 +95,25 @@ public:
     UnitSession(const UnitSession&) = delete;
     UnitSession& operator=(const UnitSession&) = delete;
 
-    // The names in the text of decoded parameters; those of the parameter table until then.
+    // Sets the parameter names in the text of decoded parameters. Without a call these are the
+    // names of the parameter table.
     void setShownNames(ShownParameterNames names) { _shownNames = std::move(names); }
 
     // Stops the listener and starts a new one on a port in host byte order, 1 to 65535. The events
-    // of the start come before this returns.
+    // of the start come before start() returns.
     void start(std::size_t port);
 
     // Stops without an event.
     void stop();
 
-    // Null before the first start() and after stop(). A listener that could not start is there,
-    // with port 0.
+    // Null before the first start() and after stop(). A listener that could not start exists and
+    // has port 0.
     const UDPEcho* listener() const { return _listener.get(); }
     bool isListening() const { return _listener != nullptr && _listener->port() != 0; }
 
-    // Sends one datagram to an IPv4 address and port in host byte order. Absent when it was sent,
-    // and without a listener; a failure is an event, too.
+    // Sends one datagram to an IPv4 address and port in host byte order. The result is absent when
+    // the datagram was sent, and when there is no listener. The session also reports a failure as
+    // an event.
     std::optional<SendFailure> send(std::string_view command, std::uint32_t address,
                                     std::uint16_t port);
 
@@ -134,9 +139,9 @@ private:
     UnitSessionObserver& _observer;
     std::optional<ShownParameterNames> _shownNames;
     std::shared_ptr<UDPEcho> _listener;
-    std::optional<SendFailure> _sendFailure; // of the datagram that is being sent
-    std::uint32_t _drops = 0;                // as they were told
-    RunLoop::Handle _dropCount;              // while they will be counted
+    std::optional<SendFailure> _sendFailure; // failure of the datagram that is being sent
+    std::uint32_t _drops = 0;                // the number that was told last
+    RunLoop::Handle _dropCount;              // runs until the next count of drops
 };
 
 } // namespace kx

@@ -1,12 +1,12 @@
-// Administrator rights for one fixed tool: obtained from the host's authority, kept, given back,
-// and used to run the tool.
+// Administrator rights for one fixed tool. An object obtains them from the host's authority, keeps
+// them, gives them back, and uses them to run the tool.
 //
 // A right that was granted stays until deauthenticate() or the end of the object, so a person is
 // asked once. Callers authenticate before every run.
 //
-// Threading: the main thread only; authenticate() blocks while a person is asked, and
-// runToolWithArgs() while the tool does its first work, up to two seconds, and while a person is
-// asked again. Ownership: the service must outlive the object.
+// Threading: the main thread only. authenticate() blocks while a person is asked. runToolWithArgs()
+// blocks while a person is asked again, and while the tool does its first work, up to two seconds.
+// Ownership: the service must outlive the object.
 
 #pragma once
 
@@ -28,8 +28,8 @@ public:
     Authorization(const Authorization&) = delete;
     Authorization& operator=(const Authorization&) = delete;
 
-    // Obtains the right to run the tool, asking a person where that is needed. False when it was
-    // refused or the question dismissed, or when there is no authority.
+    // Obtains the right to run the tool, and asks a person where that is needed. False when the
+    // request was refused, when the person dismissed the question, and when there is no authority.
     bool authenticate();
 
     // Whether the right is held already. Never asks anybody.
@@ -38,11 +38,11 @@ public:
     // Gives the right back: from now on it is not held.
     void deauthenticate();
 
-    // Starts the tool with these arguments, of which none may be more than ASCII, and waits a
-    // moment for what it does. A person may be asked once more where the host has let the right run
-    // out. The result is 0 when it was started, -1 for more than 31 arguments or one that is not
-    // ASCII (with a line in the system log), and otherwise a status code of the authority
-    // (support/AuthorizationService.h). How the tool ends is told to `ended`.
+    // Starts the tool with these arguments, which must be ASCII, and waits a moment for its first
+    // work. A person may be asked once more when the host has let the right run out. Returns 0 when
+    // the tool was started, -1 for more than 31 arguments or one that is not ASCII (with a line in
+    // the system log), and otherwise a status code of the authority
+    // (support/AuthorizationService.h). `ended` is told how the tool ends.
     std::int32_t runToolWithArgs(const std::vector<std::string>& arguments,
                                  AuthorizationReference::ToolEndAction ended = {});
 

@@ -1,8 +1,8 @@
-// The host's authority over administrator rights, and the one thing done with them: running a tool.
+// The host's authority over administrator rights, and the one use of those rights: running a tool.
 //
 // An authority decides by itself whom it asks and how: by a dialog, or not at all where the process
-// has the rights already. What an authorization stands for is in the reference: the authority
-// remembers under it what was granted, and destroying it forgets.
+// has the rights already. A reference stands for one authorization: the authority remembers under
+// it which rights were granted, and forgets them when the reference is destroyed.
 //
 // Threading: the main thread only. A call that may ask a person blocks until that person has
 // answered, however long that takes. Ownership: references must not outlive their service.
@@ -18,7 +18,7 @@
 
 namespace kx {
 
-// What is asked for: a right by its name, and what it is meant for.
+// A request for a right: its name, and the use that it is meant for.
 struct AuthorizationItem {
     std::string name;
     std::string value; // for kAuthorizationRightExecute, the path of the tool
@@ -39,13 +39,13 @@ inline constexpr std::uint32_t kAuthorizationFlagExtendRights = 1U << 1U;
 inline constexpr std::int32_t errAuthorizationSuccess = 0;
 inline constexpr std::int32_t errAuthorizationInvalidRef = -60002; // there is no reference
 inline constexpr std::int32_t errAuthorizationDenied = -60005;
-inline constexpr std::int32_t errAuthorizationCanceled = -60006; // by the person who was asked
+inline constexpr std::int32_t errAuthorizationCanceled = -60006; // the person declined
 inline constexpr std::int32_t errAuthorizationInteractionNotAllowed = -60007;
 inline constexpr std::int32_t errAuthorizationToolExecuteFailure = -60031;
 
 class AuthorizationReference {
 public:
-    // How a tool ended: its exit status, or 128 and the number of the signal that ended it.
+    // How a tool ended: its exit status, or the number of the signal that ended it plus 128.
     using ToolEndAction = std::function<void(int status)>;
 
     // Gives up what was granted under the reference.
@@ -54,12 +54,12 @@ public:
     // Obtains a right; the result is a status code.
     virtual std::int32_t copyRights(const AuthorizationItem& right, std::uint32_t flags) = 0;
 
-    // Runs the tool at `toolPath` as the administrator, with `arguments` in their order; it reads
-    // nothing. The result says whether it was started, not how it ended. It waits for the
-    // tool, up to two seconds, so that whatever the tool does at once is done when this returns,
-    // and before that for a person, where one is asked again. `ended` is called once the tool has
-    // ended, from the run loop, never from inside this call, and not after the reference is
-    // destroyed; a tool that was not started never ends. It may be empty.
+    // Runs the tool at `toolPath` as the administrator, with `arguments` in their order. The tool
+    // reads nothing. The result says whether the tool was started, not how it ended. When a person
+    // is asked again, the call waits for that person first. It then waits for the tool, up to two
+    // seconds, so that the tool's first work is done when this returns. `ended` is called from the
+    // run loop once the tool has ended. It is never called from inside this call, after the
+    // reference is destroyed, or for a tool that was not started. It may be empty.
     virtual std::int32_t executeWithPrivileges(const std::string& toolPath,
                                                const std::vector<std::string>& arguments,
                                                ToolEndAction ended) = 0;

@@ -26,8 +26,8 @@ public:
     RangeFailure(std::size_t location, std::size_t length, std::size_t available);
 };
 
-// The `length` bytes of `data` from offset `location` on. The result looks into `data` and lives as
-// long as that does. Throws RangeFailure when location + length exceeds the size of `data`.
+// The `length` bytes of `data` from offset `location` on. The result is a view of `data` and lives
+// as long as `data`. Throws RangeFailure when location + length exceeds the size of `data`.
 ByteView subrange(ByteView data, std::size_t location, std::size_t length);
 
 // The same range decoded as UTF-8, zero bytes included. Absent when location + length exceeds the

@@ -31,7 +31,7 @@ constexpr int unknownStatus = -1;
         filledText("Could not launch %@: %s", {escapedLine(path), posixErrorText(errorNumber)}));
 }
 
-// What the child does with its descriptors between its birth and its program.
+// The actions of the child on its descriptors, between its start and its program.
 class FileActions {
 public:
     FileActions() { posix_spawn_file_actions_init(&_actions); }
@@ -39,8 +39,8 @@ public:
     FileActions(const FileActions&) = delete;
     FileActions& operator=(const FileActions&) = delete;
 
-    // A descriptor among the three is copied out of the way first: it could be overwritten before
-    // its turn comes. 0, or a value of errno(3).
+    // A descriptor that is one of the three is copied to another number first, because it could be
+    // overwritten before its turn. Returns 0, or a value of errno(3).
     int give(std::optional<int> descriptor, int target) {
         if (!descriptor.has_value()) {
             return 0;
@@ -83,12 +83,12 @@ private:
     posix_spawnattr_t _attributes{};
 };
 
-// A zero byte would cut a text short without a word.
+// A zero byte would cut a text short without a report.
 bool holdsZeroByte(const std::string& text) {
     return text.find('\0') != std::string::npos;
 }
 
-// The words as posix_spawn(3) takes them, ended by null. It does not write to them; its type is
+// The words in the form of posix_spawn(3), ended by null. It does not write to them; its type is
 // older than const.
 std::vector<char*> wordVector(const std::vector<std::string>& words) {
     std::vector<char*> pointers;
@@ -202,8 +202,8 @@ void ChildProcess::letGo() {
             while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
             }
         }).detach();
-    } catch (const std::system_error&) { // no thread to be had: the child is reaped when this
-    }                                    // process ends
+    } catch (const std::system_error&) { // without a thread the child is reaped when this process
+    }                                    // ends
 }
 
 } // namespace kx

@@ -1,16 +1,16 @@
 // Another program, run as a child of this process and owned by an object.
 //
-// The child begins with what it is given and nothing besides: three descriptors, this process's
-// environment unless it is given another, this process's working directory, every signal at its
-// default and none blocked. It is reaped by its own process id only, so that children of others in
-// this process stay theirs.
+// The child gets only this: three descriptors, an environment (this process's own, unless another
+// is given), and this process's working directory. Every signal has its default action, and none is
+// blocked. The object reaps the child by its process id only, so other code in this process can
+// reap its own children.
 //
-// An object that is destroyed, or takes another child, while its child still runs lets it run on:
-// it neither ends it nor waits. A thread of its own then reaps the child when it ends, so that
-// nothing is left of it. Who wants the child gone calls terminate() first.
+// When an object is destroyed, or takes another child, while its child still runs, the child runs
+// on. The object neither ends it nor waits. A thread of its own then reaps the child when it ends,
+// so that no zombie is left. To end the child, call terminate() first.
 //
-// Threading: one thread at a time. Move only; an object that was moved from is one whose child has
-// ended with status -1.
+// Threading: one thread at a time. Move only; an object that was moved from acts like one whose
+// child has ended with status -1.
 
 #pragma once
 
@@ -24,8 +24,8 @@ namespace kx {
 
 class ChildProcess {
 public:
-    // What the child has for its descriptors 0, 1 and 2. Absent: what this process has there. They
-    // stay the caller's, and are not needed any more once the child is launched.
+    // The child's descriptors 0, 1 and 2. An absent one is this process's own. They stay the
+    // caller's, which may close them once the child is launched.
     struct Streams {
         std::optional<int> standardInput;
         std::optional<int> standardOutput;
@@ -54,24 +54,24 @@ public:
     // not keep it, as in a process that ignores SIGCHLD.
     std::optional<int> exitStatus();
 
-    // Blocks until the child has ended; then the same.
+    // Blocks until the child has ended, and then returns the same.
     int waitUntilExit();
 
     // Whether a signal ended the child, so that exitStatus() is its number. False while it runs.
     bool wasEndedBySignal() const { return _wasEndedBySignal; }
 
-    // Asks the child to end (SIGTERM), and returns at once. It may refuse. Without effect on a
-    // child whose end is known, and on one that has passed to another user.
+    // Asks the child to end (SIGTERM), and returns at once. The child may refuse. Has no effect on
+    // a child whose end is known, and on one that now belongs to another user.
     void terminate();
 
-    // The child's process id. It is the child's until exitStatus() or waitUntilExit() has told of
+    // The child's process id. It stays the child's until exitStatus() or waitUntilExit() has told
     // its end.
     pid_t processIdentifier() const { return _processIdentifier; }
 
 private:
     void launch(const std::string& path, const std::vector<std::string>& arguments,
                 const Streams& streams, char* const* environment);
-    void take(int options); // notes the end, if waitpid(2) with these options tells of one
+    void take(int options); // records the end, if waitpid(2) with these options tells it
     void letGo();
 
     pid_t _processIdentifier = -1;

@@ -1,4 +1,4 @@
-// Errors that travel as values: who speaks (domain), what happened (code), and in rare cases more
+// Errors that travel as values: their source (domain), the event (code), and in rare cases more
 // (user info).
 
 #pragma once
@@ -14,7 +14,7 @@ namespace kx {
 // Codes are values of errno(3).
 inline constexpr std::string_view NSPOSIXErrorDomain = "NSPOSIXErrorDomain";
 
-// Codes are the two below: name resolution.
+// Codes are the two below. They are errors of name resolution.
 inline constexpr std::string_view kCFErrorDomainCFNetwork = "kCFErrorDomainCFNetwork";
 inline constexpr int kCFHostErrorHostNotFound = 1; // resolved, but to no usable IPv4 address
 inline constexpr int kCFHostErrorUnknown = 2;      // the resolver failed
@@ -27,8 +27,8 @@ struct Error {
     int code = 0;
     std::optional<PropertyDictionary> userInfo;
 
-    // What happened, in words for the user: the operating system's own text for an errno value, a
-    // localized sentence for each of the resolution codes.
+    // A description for the user: the operating system's own text for an errno value, a localized
+    // sentence for each of the resolution codes.
     std::string localizedDescription() const;
 
     friend bool operator==(const Error&, const Error&) = default;

@@ -1,11 +1,11 @@
 // Name resolution that reports on the run loop and can be cancelled.
 //
 // Threading: operations and the report run on the thread of the run loop that the adapter was made
-// with. A report may make and start new requests; none comes from inside startResolution().
+// with. A report may make and start new requests. No report comes from inside startResolution().
 //
-// Ownership: a Request stands for one resolution. Destroying it cancels: no report comes after
-// that. It may be destroyed from inside its own report; the report's callable and the resolution
-// that it is given live until the call has returned. A request must not outlive its resolver.
+// Ownership: a Request stands for one resolution. Destroying it cancels the resolution: no report
+// comes after that. It may be destroyed from inside its own report; the report's callable and its
+// resolution live until the call has returned. A request must not outlive its resolver.
 
 #pragma once
 
@@ -19,7 +19,7 @@
 
 namespace kx {
 
-// Who failed while resolving. Domain 0 means no error.
+// The source of an error while resolving. Domain 0 means no error.
 enum StreamErrorDomain : int {
     kCFStreamErrorDomainNone = 0,
     kCFStreamErrorDomainPOSIX = 1,  // code is a value of errno(3)
@@ -31,7 +31,7 @@ struct StreamError {
     int code = 0;
 };
 
-// What a resolution ended with. `addresses` are socket address records (see
+// The result of a resolution. `addresses` are socket address records (see
 // addresses/SocketAddressRecord.h) in the resolver's order, of any family and with port 0; absent
 // when there is no answer.
 struct HostResolution {
@@ -48,9 +48,9 @@ public:
         virtual ~Request() = default;
 
         // Starts to resolve the addresses of the request's name and reports exactly once, unless
-        // cancelled. False when it could not be started; `startError` then says why, and no report
-        // comes. `startError` is not written otherwise. A request is started once, also one that
-        // could not be started; a second start is a broken contract (support/Require.h).
+        // cancelled. When it cannot be started, returns false, `startError` says why, and no report
+        // comes; otherwise `startError` is not written. A request may be started only once, even
+        // when the start failed; a second start is a broken contract (support/Require.h).
         virtual bool startResolution(Report report, StreamError& startError) = 0;
 
     protected:

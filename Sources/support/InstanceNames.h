@@ -11,7 +11,7 @@
 
 namespace kx {
 
-// Whoever decides for a window. Windows know their delegates by this base alone.
+// The object that decides for a window. Windows know their delegates by this base alone.
 class WindowDelegate {
 public:
     virtual ~WindowDelegate() = default;
@@ -22,8 +22,8 @@ class ApplicationWindows {
 public:
     virtual ~ApplicationWindows() = default;
 
-    // The delegate of each window, shown or not, in the order of the windows; null for a window
-    // without one. The delegates belong to others and may be gone after the next event.
+    // The delegate of each window, shown or hidden, in the order of the windows; null for a window
+    // without a delegate. The delegates belong to others and may be gone after the next event.
     virtual std::vector<const WindowDelegate*> delegates() const = 0;
 };
 

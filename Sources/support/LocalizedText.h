@@ -1,7 +1,7 @@
 // Texts that a person can see, looked up with the English text as the key.
 //
-// One source serves the whole process, as there is one user with one language. Until a source is
-// installed, every key stands for itself. Main thread only.
+// One source serves the whole process, because there is one user with one language. Until a source
+// is installed, every key stands for itself. Main thread only.
 
 #pragma once
 
@@ -22,7 +22,8 @@ public:
     virtual std::string textForKey(std::string_view key) const = 0;
 };
 
-// The key itself. It marks a text that is looked up elsewhere, so that the catalogues list it.
+// The key itself. It marks a text that is looked up at another place, so that the catalogues list
+// it.
 constexpr std::string_view localizedKey(std::string_view key) {
     return key;
 }

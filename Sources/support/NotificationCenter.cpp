@@ -19,8 +19,8 @@ NotificationCenter::addObserver(Selector selector, std::string_view name, const 
 }
 
 void NotificationCenter::postNotification(const Notification& notification) {
-    // A copy, because a selector may register others; and each is asked whether it still holds only
-    // when its turn comes, because a selector may end the registration of another.
+    // A copy, because a selector may register others. Each observer is checked only when its turn
+    // comes, because a selector may end the registration of another.
     const auto observers = _observers;
     for (const auto& candidate : observers) {
         const auto observer = candidate.lock();

@@ -1,12 +1,12 @@
-// Announcements inside the process: whoever wants to know registers for a name and a sender, and is
-// told synchronously, in the order of registration.
+// Announcements inside the process. An observer registers for a name and a sender. It is told
+// synchronously, in the order of registration.
 //
 // Threading: the main thread only.
 //
 // Ownership: a registration is a handle; destroying it ends the registration at once and for good.
-// That may be done from inside any selector, also the registration's own, and a selector lives
-// until its running call has returned. Who registers while a notification is being posted is told
-// from the next one on.
+// It may be destroyed from inside any selector, including its own. A selector lives until its
+// running call has returned. An observer that registers while a notification is being posted is
+// told from the next notification on.
 
 #pragma once
 
@@ -28,7 +28,7 @@ struct Notification {
 
 class NotificationCenter {
 public:
-    // What is called for a notification.
+    // The function that is called for a notification.
     using Selector = std::function<void(const Notification&)>;
 
 private:
@@ -52,14 +52,15 @@ public:
         std::shared_ptr<const Observer> _observer;
     };
 
-    // The one that the process shares, created on first use and never released.
+    // The center that the process shares, created on first use and never released.
     static NotificationCenter& defaultCenter();
 
     // Registers for notifications of a name from a sender.
     [[nodiscard]] Registration addObserver(Selector selector, std::string_view name,
                                            const void* object);
 
-    // Calls everyone who is registered for the notification's name and object, before it returns.
+    // Calls every selector that is registered for the notification's name and object, before it
+    // returns.
     void postNotification(const Notification& notification);
 
 private:

@@ -31,7 +31,7 @@ int nestingOf(const PropertyListValue& value) {
     return deepest;
 }
 
-// A tag, a number and the character that ends the number: how every object begins.
+// Every object begins with a tag, a number and the character that ends the number.
 template<class Number>
 void appendHead(Bytes& bytes, char tag, Number number, char end) {
     const std::string head = tag + std::to_string(number) + end;
@@ -62,8 +62,8 @@ void appendObject(Bytes& bytes, const PropertyListValue& value) {
     }
 }
 
-// A walk through bytes that anybody may have written. Each operation is absent when the bytes at
-// the position do not have its form; the walk is over then.
+// A walk through bytes from an untrusted source. Each operation is absent when the bytes at the
+// position do not have its form; the walk is over then.
 class Reader {
 public:
     explicit Reader(ByteView bytes)
@@ -128,7 +128,7 @@ private:
         if (!count || nestingLeft < 0) {
             return std::nullopt;
         }
-        PropertyList elements; // not reserved: the count is only a claim
+        PropertyList elements; // not reserved, because the count may be false
         for (std::size_t i = 0; i < *count; ++i) {
             auto element = object(nestingLeft);
             if (!element) {

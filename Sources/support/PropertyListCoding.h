@@ -8,7 +8,7 @@
 //   dictionary  d COUNT : for each key, in strictly ascending order: the key as a text, the value
 //
 // (without the blanks). So {"a": [1, "b"]} is "d1:t1:al2:i1;t1:b". Every value has exactly one
-// form: what is read and written again gives the same bytes.
+// form: bytes that are read and written again stay the same.
 //
 // Both classes are plain values without shared state; use each from one thread at a time.
 
@@ -21,8 +21,8 @@
 
 namespace kx {
 
-// The most lists and dictionaries that may lie in each other. It keeps foreign bytes from using up
-// the stack.
+// The greatest depth of lists and dictionaries that lie in each other. The limit keeps foreign
+// bytes from using up the stack.
 inline constexpr int deepestPropertyListNesting = 100;
 
 class PropertyListEncoder {

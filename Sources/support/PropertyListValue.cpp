@@ -24,7 +24,7 @@ std::string dictionaryDescription(const PropertyDictionary& dictionary) {
     return result + "}";
 }
 
-// Whether both are absent, or both are there and equal.
+// Whether both are absent, or both are present and equal.
 template<class Value>
 bool sameContents(const Value* left, const Value* right) {
     return left == nullptr || right == nullptr ? left == right : *left == *right;

@@ -1,9 +1,8 @@
 // The one variant type of keyed data: the fields of table entries and the records of the host's
 // network configuration.
 //
-// A value type: nobody can change a list or a dictionary once it is held, so that copies can share
-// it and nobody notices. Dictionaries are ordered by key (byte-wise), so nothing that a person sees
-// depends on hashing.
+// A value type: a list or a dictionary never changes once a value holds it, so copies can share it.
+// Dictionaries are ordered by key (byte-wise), so nothing that a person sees depends on hashing.
 
 #pragma once
 
@@ -42,8 +41,9 @@ public:
     PropertyListValue(PropertyList list);
     PropertyListValue(PropertyDictionary dictionary);
 
-    // What was moved from is the empty text. Out of line: inlined into every user, the variant's
-    // own are large, and compilers warn there of the kinds that it does not hold.
+    // A value that was moved from is the empty text. These are not inline: the variant's own
+    // functions are large, and when they are inlined, compilers warn about kinds that the value
+    // does not hold.
     ~PropertyListValue();
     PropertyListValue(const PropertyListValue& other);
     PropertyListValue(PropertyListValue&& other) noexcept;

@@ -1,5 +1,5 @@
-// Contract checks. They stay in release builds: a tool that goes on after a broken contract shows
-// its user things that are not so.
+// Contract checks. They stay in release builds, because a tool that goes on after a broken contract
+// shows its user wrong facts.
 
 #pragma once
 

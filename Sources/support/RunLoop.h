@@ -2,8 +2,8 @@
 // something while both go on.
 //
 // Threading: an object of this kind belongs to one thread; every operation and every callback runs
-// there. Callbacks may ask for new watches and calls, and may run the loop in turn; nothing is
-// called from inside watchForReading() or callOnceAfter() themselves.
+// there. Callbacks may ask for new watches and calls, and may run the loop in turn.
+// watchForReading() and callOnceAfter() themselves call nothing.
 //
 // Ownership: each operation returns a handle. Destroying the handle ends the watch or cancels the
 // call, at once and for good: after that, the callback is not called, even when it was already due.
@@ -21,7 +21,7 @@ namespace kx {
 
 class RunLoop {
 public:
-    // What a watch or a delayed call is held by.
+    // A watch, a delayed call or a hold. A handle owns it.
     class Source {
     public:
         virtual ~Source() = default;
@@ -33,37 +33,38 @@ public:
     };
     using Handle = std::unique_ptr<Source>;
 
-    // Far enough away to stand for "never", near enough that a clock can hold it.
+    // Long enough to stand for "never", and short enough for a clock to hold.
     static constexpr std::chrono::milliseconds longestDelay = std::chrono::hours{24 * 365 * 100};
 
     virtual ~RunLoop() = default;
 
     // Calls `readable` whenever `descriptor` can be read without blocking, once for each turn of
     // the loop for as long as that holds. The loop never reads itself. The descriptor stays the
-    // caller's; it must be open until the handle is destroyed. One descriptor is watched by one
-    // handle at most. Null when the descriptor is not open, or the system cannot watch it.
+    // caller's; it must be open until the handle is destroyed. At most one handle may watch a
+    // descriptor. Null when the descriptor is not open, or the system cannot watch it.
     virtual Handle watchForReading(int descriptor, std::function<void()> readable) = 0;
 
     // Calls `call` once, not before `delay` has passed on the monotonic clock. Calls fall due in
     // the order of their due times, and equal ones in the order in which they were asked for. A
-    // delay of zero or less falls due in the next turn; one of more than longestDelay counts as
-    // that. After the call the handle holds nothing; it may be kept or destroyed.
+    // delay of zero or less falls due in the next turn. A delay of more than longestDelay counts as
+    // longestDelay. After the call the handle holds nothing; it may be kept or destroyed.
     virtual Handle callOnceAfter(std::chrono::milliseconds delay, std::function<void()> call) = 0;
 
-    // Runs the loop until `isDone` says so. It is asked at first, and again when something was
-    // called; while there is nothing to call the loop rests, so what is waited for has to come from
-    // a watch or a delayed call. Inside a callback this begins a run within the run: a watch whose
-    // callback is running may be called again meanwhile. What a person does on the screen waits
-    // until it is over.
+    // Runs the loop until `isDone` returns true. The loop asks it at first, and again after it has
+    // called something. While there is nothing to call the loop rests, so the awaited event has to
+    // come from a watch or a delayed call. Inside a callback this begins a run within the run: a
+    // watch whose callback is running may be called again meanwhile. A person's actions on the
+    // screen wait until the run is over.
     virtual void runUntil(const std::function<bool()>& isDone) = 0;
 
-    // Holds the loop until the handle is destroyed: nothing is called, though the loop may run, as
-    // it does under an alert that a person has to dismiss before an action can go on. Afterwards
-    // the loop calls, in its next turns and never from inside the end of the hold, whatever can be
-    // read then, and what fell due meanwhile in the order of its due times. What waits does not
-    // keep the loop busy. Where several holds stand, the last one to end counts.
+    // Holds the loop until the handle is destroyed: nothing is called, though the loop may run. An
+    // alert, for example, runs the loop while a person has to dismiss it before an action can go
+    // on. Afterwards the loop calls the watches that can be read then, and the delayed calls that
+    // fell due meanwhile, in the order of their due times. It does so in its next turns, and never
+    // from inside the end of the hold. Waiting callbacks do not keep the loop busy. Where there are
+    // several holds, the loop is held until the last one ends.
     //
-    // Inside a hold runUntil() must not have to wait, since nothing would come.
+    // Inside a hold runUntil() must not have to wait, because nothing would be called.
     virtual Handle holdCallbacks() = 0;
 };
 

@@ -1,4 +1,4 @@
-// The system log: where diagnostics go that are not for the user's event log.
+// The system log: the place for diagnostics that are not for the user's event log.
 //
 // One sink serves the whole process, because the code that writes to it (contract checks, container
 // base classes, parsers) has no owner who could hand it one. Until a sink is installed, lines go to
@@ -16,9 +16,9 @@ class SystemLog {
 public:
     virtual ~SystemLog() = default;
 
-    // Writes one line; `line` has no line break at its end. What would break or cut the line in its
-    // midst is written as escapedLine() gives it. Never fails: a log that cannot be written is no
-    // reason to stop, and there is nowhere to report it.
+    // Writes one line; `line` has no line break at its end. Characters that would break or cut the
+    // line are written as escapedLine() writes them. Never fails: a log that cannot be written is
+    // no reason to stop, and there is nowhere to report it.
     virtual void write(std::string_view line) = 0;
 };
 

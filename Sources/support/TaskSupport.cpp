@@ -25,15 +25,15 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr int none = -1; // in place of a descriptor; poll(2) passes over it
+constexpr int none = -1; // stands for no descriptor; poll(2) passes over it
 constexpr std::size_t chunkLength = 512;
 constexpr suseconds_t microsecondsForMore = 10;
 
-// How often a child is looked at while nothing else can tell of its end.
+// The time between two looks at a child while nothing else tells its end.
 constexpr milliseconds timeBetweenLooks{10};
 
-// The reading end of a pipe that holds this input and nothing behind it. It is filled while its
-// reading end is open here, so that nobody can break it.
+// The reading end of a pipe that holds this input and nothing more. The pipe is filled while its
+// reading end is open here, so writing cannot break it.
 FileDescriptor pipeHolding(const std::string& input) {
     Pipe pipe;
     const int writingEnd = pipe.writingEnd.number();
@@ -65,7 +65,7 @@ std::optional<int> writingEndOf(const std::optional<Pipe>& pipe) {
     return pipe.has_value() ? std::optional(pipe->writingEnd.number()) : std::nullopt;
 }
 
-// The reading end, once the writing end is left to the child; `none` without a pipe.
+// The reading end, after the writing end was left to the child; `none` without a pipe.
 int readingEndAlone(std::optional<Pipe>& pipe) {
     if (!pipe.has_value()) {
         return none;
@@ -79,7 +79,7 @@ bool isReadable(int descriptor, milliseconds wait) {
     return ::poll(&polled, 1, static_cast<int>(wait.count())) > 0;
 }
 
-// Appends what one read gives; false at the end of the file.
+// Appends the bytes of one read. False at the end of the file.
 bool readInto(Bytes& bytes, int descriptor) {
     std::array<std::uint8_t, 4096> buffer{};
     const ssize_t count = Read(descriptor, buffer.data(), buffer.size());
@@ -90,8 +90,8 @@ bool readInto(Bytes& bytes, int descriptor) {
     return true;
 }
 
-// What fits into a pipe of what the child writes. The rest is read and forgotten: a child that
-// waits for room in the pipe would never exit.
+// The first bytes that the child writes, as many as fit into a pipe. The rest is read and
+// discarded: a child that waits for room in the pipe would never exit.
 Bytes shortOutputOf(ChildProcess& child, int descriptor) {
     Bytes kept;
     const auto keepMore = [&] {
@@ -127,10 +127,10 @@ public:
 
 private:
     std::string _text;
-    Bytes _front; // of a character whose rest has not arrived
+    Bytes _front; // first bytes of a character whose rest has not arrived
 };
 
-// Appends one chunk; false at the end of the file.
+// Appends one chunk. False at the end of the file.
 bool readChunkInto(ChunkedText& text, int descriptor) {
     std::optional<MutableData> data;
     const bool isOpen = readFileHandle(descriptor, &data) >= 0;
@@ -140,8 +140,7 @@ bool readChunkInto(ChunkedText& text, int descriptor) {
     return isOpen;
 }
 
-// Reads each of two descriptors to its end, as things arrive, unless the system cannot wait for
-// them.
+// Reads each of two descriptors to its end, as data arrives, unless the system cannot wait for it.
 void readToTheirEnds(int output, ChunkedText& outputText, int error, Bytes& errorBytes) {
     while (output != none || error != none) {
         std::array<pollfd, 2> polled{{{output, POLLIN, 0}, {error, POLLIN, 0}}};
@@ -149,7 +148,7 @@ void readToTheirEnds(int output, ChunkedText& outputText, int error, Bytes& erro
             if (errno == EINTR) {
                 continue;
             }
-            return; // it would fail again, for ever
+            return; // another try would fail again, for ever
         }
         if (polled[0].revents != 0 && !readChunkInto(outputText, output)) {
             output = none;
@@ -160,7 +159,7 @@ void readToTheirEnds(int output, ChunkedText& outputText, int error, Bytes& erro
     }
 }
 
-// Nothing wakes a run loop when a child ends, so it is looked at now and then.
+// Nothing wakes a run loop when a child ends, so the child is looked at from time to time.
 int waitInRunLoop(ChildProcess& child, RunLoop& runLoop) {
     RunLoop::Handle nextLook;
     const std::function<void()> lookAgain = [&] {
@@ -171,8 +170,8 @@ int waitInRunLoop(ChildProcess& child, RunLoop& runLoop) {
     return child.waitUntilExit();
 }
 
-// Whether more arrives at once. select(2) knows no descriptors from FD_SETSIZE on; for them nothing
-// does.
+// Whether more arrives at once. select(2) takes only descriptors below FD_SETSIZE; for all others
+// the answer is no.
 bool hasMoreSoon(int descriptor) {
     if (descriptor >= FD_SETSIZE) {
         return false;

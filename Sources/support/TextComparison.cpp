@@ -39,7 +39,7 @@ bool appendHangulParts(char32_t character, std::u32string& result) {
     constexpr char32_t firstVowel = 0x1161;
     constexpr char32_t beforeFirstTrailing = 0x11A7;
     constexpr char32_t vowels = 21;
-    constexpr char32_t trailings = 28; // counting that there is none
+    constexpr char32_t trailings = 28; // includes the case of none
     if (character < firstSyllable || character > lastSyllable) {
         return false;
     }
@@ -52,8 +52,7 @@ bool appendHangulParts(char32_t character, std::u32string& result) {
     return true;
 }
 
-// Marks that follow one character stand in the order of their classes; those of one class keep
-// theirs.
+// Orders the marks that follow one character by their classes. Marks of one class keep their order.
 void orderCombiningMarks(std::u32string& characters) {
     const auto isMark = [](char32_t character) { return combiningClass(character) != 0; };
     auto begin = std::ranges::find_if(characters, isMark);
@@ -103,7 +102,7 @@ bool caseInsensitiveIsEqualToString(std::string_view text, std::string_view othe
 bool caseInsensitiveBeginsWith(std::string_view text, std::string_view prefix) {
     const std::u32string wanted = folded(charactersOfText(prefix));
     const std::u32string all = charactersOfText(text);
-    // Folding makes no text shorter, so no longer beginning can be equal.
+    // Folding makes no text shorter, so a longer beginning cannot be equal.
     const std::size_t longest = std::min(all.size(), wanted.size());
     for (std::size_t length = 1; length <= longest; ++length) {
         const bool splitsCharacter = length < all.size() && combiningClass(all[length]) != 0;

@@ -12,7 +12,7 @@ bool isContinuation(std::uint8_t byte) {
     return (byte & 0xC0U) == 0x80U;
 }
 
-// The length of the sequences that `first` begins; 1 when it begins none that is well-formed.
+// The length of the sequences that `first` begins; 1 when no well-formed sequence begins with it.
 std::size_t lengthAnnouncedBy(std::uint8_t first) {
     if (first < 0xC2U || first > 0xF4U) {
         return 1;
@@ -90,7 +90,7 @@ std::size_t lengthInCharacters(std::string_view text) {
     std::size_t units = 0;
     while (!bytes.empty()) {
         const std::size_t length = std::max<std::size_t>(sequenceLength(bytes), 1);
-        units += length == 4 ? 2 : 1; // beyond the basic plane: a surrogate pair
+        units += length == 4 ? 2 : 1; // a surrogate pair, beyond the basic plane
         bytes = bytes.subspan(length);
     }
     return units;

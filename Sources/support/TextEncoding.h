@@ -20,8 +20,8 @@ bool isValidUTF8(ByteView bytes);
 // The text that the bytes encode, or absent when they are not well-formed UTF-8.
 std::optional<std::string> textFromUTF8(ByteView bytes);
 
-// How many bytes of `bytes` there are without the front of a UTF-8 sequence at their end that the
-// next bytes may complete. What is before that may still be ill-formed.
+// The length of `bytes` without an unfinished UTF-8 sequence at their end that the next bytes may
+// complete. The bytes before it may still be ill-formed.
 std::size_t lengthOfWholeCharacters(ByteView bytes);
 
 // The bytes of a text as it stands, without terminator.
@@ -35,13 +35,13 @@ std::optional<Bytes> asciiBytes(std::string_view text);
 // A byte that is not part of a well-formed sequence counts as one unit.
 std::size_t lengthInCharacters(std::string_view text);
 
-// The characters of a text. A byte that is not part of a well-formed sequence counts as a character
-// of its own beyond the last of Unicode: 0x110000 and the byte.
+// The characters of a text. A byte that is not part of a well-formed sequence counts as one
+// character, with a code beyond the last of Unicode: 0x110000 plus the byte.
 std::u32string charactersOfText(std::string_view text);
 
-// The leading decimal integer of a text: leading white space is skipped, one sign counts, digits
-// are read as far as they go. No digits give 0; a value outside 32 bits saturates at the nearest
-// end.
+// The decimal integer at the beginning of a text: leading white space is skipped, one sign counts,
+// digits are read as far as they go. No digits give 0; a value outside 32 bits saturates at the
+// nearest end.
 std::int32_t integerValue(std::string_view text);
 
 } // namespace kx

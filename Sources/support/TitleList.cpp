@@ -7,8 +7,8 @@ void TitleList::reserve(std::size_t titles, std::size_t bytes) {
     _text.reserve(bytes);
 }
 
-// Where it is inline and a title is known to be short, GCC 12 copies it by a string instruction
-// that takes several times as long.
+// This is not inline. When it is inlined and a title is known to be short, GCC 12 copies the title
+// with a string instruction that takes several times as long.
 void TitleList::push_back(std::string_view title) {
     _text += title;
     _ends.push_back(_text.size());

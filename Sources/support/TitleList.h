@@ -1,6 +1,6 @@
-// The titles of a pop-up, in order, as texts in UTF-8 that stand one behind the other in memory: a
-// list of a million short titles takes two blocks, where a text of its own for each of them is a
-// million blocks.
+// The titles of a pop-up, in order, as texts in UTF-8 that lie one behind the other in memory. A
+// list of a million short titles takes two blocks; a separate text for each title would take a
+// million.
 //
 // Any thread, one at a time. Copies are independent.
 
@@ -20,7 +20,7 @@ class TitleList {
 public:
     using value_type = std::string_view;
 
-    // Random access, with titles by value.
+    // Random access. It gives titles by value.
     class const_iterator;
 
     TitleList() = default;
@@ -29,10 +29,10 @@ public:
 
     bool empty() const { return _ends.empty(); }
     std::size_t size() const { return _ends.size(); }
-    std::size_t bytes() const { return _text.size(); } // of all titles together
+    std::size_t bytes() const { return _text.size(); } // bytes of all titles together
 
-    // A view of the title at that index, from 0, valid until the list changes or is moved. There is
-    // such a title.
+    // A view of the title at `index`, counted from 0, valid until the list changes or is moved.
+    // `index` must be below size().
     std::string_view operator[](std::size_t index) const {
         const std::size_t start = index == 0 ? 0 : _ends[index - 1];
         return std::string_view(_text).substr(start, _ends[index] - start);
@@ -41,13 +41,13 @@ public:
     const_iterator begin() const;
     const_iterator end() const;
 
-    // Makes room for that many titles with that many bytes altogether. Contents stay as they are.
+    // Makes room for so many titles with so many bytes altogether. Contents do not change.
     void reserve(std::size_t titles, std::size_t bytes);
 
-    // `title` is no part of this list.
+    // `title` must not be part of this list.
     void push_back(std::string_view title);
 
-    // Any range of texts that are no part of this list.
+    // Appends any range of texts. They must not be part of this list.
     template<class Titles>
     void append(const Titles& titles) {
         for (const auto& title : titles) {
@@ -57,13 +57,13 @@ public:
 
 private:
     std::string _text;
-    std::vector<std::size_t> _ends; // of each title within the text
+    std::vector<std::size_t> _ends; // the end of each title within _text
 };
 
 class TitleList::const_iterator {
 public:
     using iterator_concept = std::random_access_iterator_tag;
-    using iterator_category = std::input_iterator_tag; // the older ones give references
+    using iterator_category = std::input_iterator_tag; // older categories promise references
     using value_type = std::string_view;
     using difference_type = std::ptrdiff_t;
     using reference = std::string_view;
@@ -100,7 +100,7 @@ public:
         return left._index - right._index;
     }
 
-    // Only those of one list are compared.
+    // Compare only iterators of one list.
     friend auto operator<=>(const const_iterator& left, const const_iterator& right) = default;
 
 private:

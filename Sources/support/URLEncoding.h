@@ -8,8 +8,8 @@
 
 namespace kx {
 
-// The text with every byte percent-escaped but ASCII letters, digits and "-._~": "%" and two
-// upper-case hexadecimal digits for each. What comes out can stand anywhere in a URL.
+// The text with every byte percent-escaped except ASCII letters, digits and "-._~": "%" and two
+// upper-case hexadecimal digits for each. The result can stand anywhere in a URL.
 std::string stringByURLEncoding(std::string_view text);
 
 // The URL of a file; absent unless the path begins with "/".

@@ -13,7 +13,7 @@ namespace kx {
 std::string uuidText(const std::array<std::uint8_t, 16>& bytes);
 
 // A new identifier: version 4, whose 122 free bits come from the system's source of randomness. Any
-// thread. Throws what std::random_device throws where the system has no such source.
+// thread. When the system has no such source, throws the exception of std::random_device.
 std::string stringWithUUID();
 
 } // namespace kx

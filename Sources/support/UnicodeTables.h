@@ -1,5 +1,5 @@
-// What TextComparison.cpp needs of the Unicode character database. The tables themselves are
-// written by scripts/unicode-tables. Constant data, any thread.
+// The parts of the Unicode character database that TextComparison.cpp needs. scripts/unicode-tables
+// writes the tables themselves. Constant data, any thread.
 
 #pragma once
 
@@ -8,7 +8,7 @@
 
 namespace kx {
 
-// A character and the up to four that stand for it; the rest are 0.
+// A character and the characters that replace it, up to four; the unused ones are 0.
 struct CharacterMapping {
     char32_t from;
     char32_t to[4];
@@ -26,10 +26,11 @@ struct CombiningClassRange {
 // Full canonical decompositions, without the syllables of Hangul, which follow a formula.
 std::span<const CharacterMapping> canonicalDecompositions();
 
-// Full case foldings, in canonical decomposition, of the characters that have none themselves.
+// Full case foldings, in canonical decomposition, of the characters that have no decomposition
+// themselves.
 std::span<const CharacterMapping> caseFoldings();
 
-// Every other character has class 0: it is no combining mark, or one that never moves.
+// Every other character has class 0: it is no combining mark, or a mark that never moves.
 std::span<const CombiningClassRange> combiningClasses();
 
 } // namespace kx

@@ -1,4 +1,4 @@
-// Any part of a window, as far as it can be hidden. Main thread only.
+// Any part of a window that can be hidden. Main thread only.
 
 #pragma once
 
@@ -8,11 +8,11 @@ class View {
 public:
     virtual ~View() = default;
 
-    // A hidden view takes no room and no input; what lies in it is hidden with it and keeps its own
-    // setting.
+    // A hidden view takes no room and no input. The views in it are hidden with it and keep their
+    // own settings.
     virtual void setHidden(bool hidden) = 0;
 
-    // The view's own setting, whatever it lies in.
+    // The view's own setting. Views around it do not count.
     virtual bool isHidden() const = 0;
 };
 

@@ -1,7 +1,7 @@
 // The calendar time of the host, as a seam, so that tests can choose the date.
 //
-// Threading: main thread only, like its users. Ownership: whoever is given a clock does not own it;
-// it must outlive them.
+// Threading: main thread only, like its users. Ownership: users of a clock do not own it; it must
+// outlive them.
 
 #pragma once
 
@@ -13,8 +13,8 @@ class WallClock {
 public:
     virtual ~WallClock() = default;
 
-    // Now, broken down in the local time zone (see localtime_r(3)): tm_mon counts from 0. Never
-    // fails.
+    // The present time, broken down in the local time zone (see localtime_r(3)): tm_mon counts from
+    // 0. Never fails.
     virtual std::tm localTime() const = 0;
 };
 

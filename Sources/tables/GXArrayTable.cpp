@@ -46,7 +46,7 @@ std::int32_t GXArrayTable::addObject(std::shared_ptr<GXStateEntry> entry) {
     return count() - 1;
 }
 
-// Appends placeholders until the count equals `index`, which is not below it.
+// Appends placeholders until the count equals `index`, which must not be below it.
 bool GXArrayTable::fillUpTo(std::int32_t index) {
     if (index < 0 || index - count() > mostPlaceholders) {
         return false;
@@ -72,7 +72,7 @@ bool GXArrayTable::replaceObjectAtIndexWithObject(std::int32_t index,
     if (!fillUpTo(index)) {
         return false;
     }
-    addObject(std::move(entry)); // a subclass may have its own
+    addObject(std::move(entry)); // a subclass may override it
     return true;
 }
 
@@ -85,7 +85,8 @@ bool GXArrayTable::removeObjectAtIndex(std::int32_t index) {
 }
 
 void GXArrayTable::removeObject(const std::shared_ptr<GXStateEntry>& entry) {
-    // By address, because the argument may be the array's own element and change while it erases.
+    // Compares addresses, because the argument may be the array's own element, which changes while
+    // the array erases.
     if (const auto* removed = entry.get()) {
         std::erase_if(*_tableArray,
                       [removed](const auto& element) { return element.get() == removed; });
@@ -105,7 +106,7 @@ GXArrayTable::indexOfObject(const std::shared_ptr<GXStateEntry>& entry) const {
     return static_cast<std::int32_t>(found - _tableArray->begin());
 }
 
-// Ends at the entry with the key, or where low and high leave nothing on the side to go on to.
+// Ends at the entry with the key, or where low and high leave no entry on the side to search next.
 // Absent for an empty table.
 std::optional<GXArrayTable::SearchEnd> GXArrayTable::search(const Comparison& compare) const {
     if (_tableArray->empty()) {

@@ -1,18 +1,18 @@
 // An array of entries that can be kept sorted by key and shown in a table view.
 //
-// Entries stored through the keyed operations lie in ascending key order; the others place entries
-// where the caller says, and the caller then keeps the order or does without the keyed operations.
-// Storing beyond the end fills the gap with the placeholder "*NULL*".
+// Entries stored through the keyed operations lie in ascending key order. The other operations
+// place entries where the caller says; the caller then keeps the order or does not use the keyed
+// operations. Storing beyond the end fills the gap with the placeholder "*NULL*".
 //
-// The placeholder is a null element of tableArray(): it reads back as null, describes itself as
+// The placeholder is a null element of tableArray(). It reads back as null, describes itself as
 // "*NULL*", sorts before every key, and has no part in the conversions to dictionaries. A null
 // entry given to an operation that stores is stored as a placeholder.
 //
-// Indexes: an index that is negative or not below the count is out of range; it gives null or false
-// and never harm.
+// Indexes: an index that is negative or not below the count is out of range. It gives null or false
+// and does no harm.
 //
-// Ownership: the table owns its array, which its copies share, so that a change through either is
-// seen by both. The delegate is not owned. Main thread only.
+// Ownership: the table owns its array and shares it with its copies, so that a change through
+// either is seen by both. The delegate is not owned. Main thread only.
 
 #pragma once
 
@@ -40,7 +40,8 @@ public:
     GXTableDelegate* delegate() const { return _delegate; }
     void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
 
-    // The array itself, never null. Setting shares the given one; null sets a new, empty array.
+    // The array itself, never null. The setter shares the given array; null sets a new, empty
+    // array.
     const std::shared_ptr<EntryArray>& tableArray() const { return _tableArray; }
     void setTableArray(std::shared_ptr<EntryArray> array);
 
@@ -61,8 +62,8 @@ public:
     // first. False, with nothing changed, when that would take more than 99 of them.
     bool insertObjectAtIndex(std::shared_ptr<GXStateEntry> entry, std::int32_t index);
 
-    // Replaces the element at `index`. Beyond the end, as insertObjectAtIndex(), but the entry is
-    // then appended with addObject().
+    // Replaces the element at `index`. Beyond the end it does the same as insertObjectAtIndex(),
+    // but appends the entry with addObject().
     bool replaceObjectAtIndexWithObject(std::int32_t index, std::shared_ptr<GXStateEntry> entry);
 
     // False when out of range.
@@ -73,7 +74,7 @@ public:
 
     void removeAllObjects();
 
-    // Where the entry first occurs; absent when it does not.
+    // The index of the first occurrence of the entry; absent when there is none.
     std::optional<std::int32_t> indexOfObject(const std::shared_ptr<GXStateEntry>& entry) const;
 
     // --- By key: binary search with the entries' compareKey() or compareKeyInt() ---
@@ -82,10 +83,11 @@ public:
     std::shared_ptr<GXStateEntry> objectForKey(const std::optional<std::string>& key) const;
     std::shared_ptr<GXStateEntry> objectForKeyInt(std::int32_t key) const;
 
-    // Replaces the entry with the key, or inserts in key order. The entry's own key is not asked:
-    // the caller must pass the key that the entry will report. Returns the entry's index, except
-    // that an entry inserted behind the last one looked at returns one less than its index, so the
-    // result is no insertion index; the first entry of an empty table returns 0.
+    // Replaces the entry with the key, or inserts in key order. The entry's own key is not read:
+    // the caller must pass the key that the entry will report. Returns the entry's index, with one
+    // exception: an entry that is inserted behind the last one that the search looked at returns
+    // one less than its index. So the result is no insertion index. The first entry of an empty
+    // table returns 0.
     std::int32_t setObjectForKey(std::shared_ptr<GXStateEntry> entry,
                                  const std::optional<std::string>& key);
     std::int32_t setObjectForKeyInt(std::shared_ptr<GXStateEntry> entry, std::int32_t key);
@@ -94,7 +96,7 @@ public:
     void removeObjectForKey(const std::optional<std::string>& key);
     void removeObjectForKeyInt(std::int32_t key);
 
-    // objectForKey(): a keyed look-up in a table finds entries.
+    // The same as objectForKey(): a keyed look-up in a table finds entries.
     std::shared_ptr<GXStateEntry> valueForKey(const std::optional<std::string>& key) const;
 
     // --- To and from plain arrays and dictionaries ---
@@ -105,7 +107,7 @@ public:
     bool loadArrayOfDictionariesForEntryClass(const std::optional<DictionaryArray>& dictionaries,
                                               const EntryClass& entryClass);
 
-    // The entries by their own keys. Setting replaces the contents by the dictionary's entries,
+    // The entries by their own keys. The setter replaces the contents by the dictionary's entries,
     // each stored under its own key.
     EntryDictionary tableDictionary() const;
     void setTableDictionary(const EntryDictionary& dictionary);
@@ -121,14 +123,15 @@ public:
     bool encodeWithCoder(PropertyListEncoder& coder) const;
 
     // Takes over a new array from the next object of `coder`. The bytes hold the entries' fields
-    // but not their classes, so the caller says the class. False when there is no such object, it
-    // is no array of entries, or the class refuses one; the table keeps the array that it had.
+    // but not their classes, so the caller gives the class. False when there is no such object, it
+    // is no array of entries, or the class refuses one; the table then keeps its array.
     bool initWithCoder(PropertyListDecoder& coder, const EntryClass& entryClass);
 
     // A new table of the receiver's class that shares the receiver's array.
     std::shared_ptr<GXArrayTable> copy() const;
 
-    // What stands for the table when it travels to another process: itself, so it travels by copy.
+    // The object that travels to another process in place of the table: the table itself, so it
+    // travels by copy.
     GXArrayTable& replacementObjectForPortCoder() { return *this; }
 
     // --- The values of a table view: one row for each element ---
@@ -140,7 +143,7 @@ public:
     std::optional<PropertyListValue>
     tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
 
-    // Stores into the entry; does nothing for a placeholder. Throws what the entry throws.
+    // Stores into the entry; does nothing for a placeholder. Exceptions of the entry pass through.
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
@@ -152,7 +155,7 @@ private:
     // How an entry compares with the key looked for, see GXStateEntry::compareKey().
     using Comparison = std::function<int(const GXStateEntry&)>;
 
-    // Where a search ended, and how the element there compares with the key.
+    // The index at which a search ended, and how the element there compares with the key.
     struct SearchEnd {
         std::int32_t index;
         int comparison;

@@ -1,12 +1,12 @@
 // Entries by key, as the base of a class that shows them in a table view.
 //
 // A dictionary has no rows: a subclass chooses an order, may keep it in `sortedKeys`, and overrides
-// objectAtIndex(). This class only ever drops that cache: whenever a key comes or goes, or the
-// dictionary is replaced.
+// objectAtIndex(). This class only drops that cache, and never fills it: it drops it whenever a key
+// comes or goes, or the dictionary is replaced.
 //
-// Ownership: the table owns its dictionary, which its copies share, so that a change through either
-// is seen by both. (A change through one table does not drop the cache of another.) The delegate is
-// not owned. Main thread only.
+// Ownership: the table owns its dictionary and shares it with its copies, so that a change through
+// either is seen by both. (A change through one table does not drop the cache of another.) The
+// delegate is not owned. Main thread only.
 
 #pragma once
 
@@ -33,7 +33,7 @@ public:
     GXTableDelegate* delegate() const { return _delegate; }
     void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
 
-    // The dictionary itself, never null and without null entries. Setting shares the given one;
+    // The dictionary itself, never null and without null entries. The setter shares the given one;
     // null sets a new, empty dictionary.
     const std::shared_ptr<EntryDictionary>& tableDictionary() const { return _tableDictionary; }
     void setTableDictionary(std::shared_ptr<EntryDictionary> dictionary);
@@ -46,18 +46,18 @@ public:
     // The entry stored under the key, or null.
     std::shared_ptr<GXStateEntry> objectForKey(const std::optional<std::string>& key) const;
 
-    // objectForKey(): a keyed look-up in a table finds entries.
+    // The same as objectForKey(): a keyed look-up in a table finds entries.
     std::shared_ptr<GXStateEntry> valueForKey(const std::optional<std::string>& key) const;
 
-    // Stores under the key, in place of the entry that was there; `sortedKeys` stays then. Does
-    // nothing without a key or an entry.
+    // Stores under the key, in place of an earlier entry. `sortedKeys` is kept when there was an
+    // earlier entry. Does nothing without a key or an entry.
     void setObjectForKey(std::shared_ptr<GXStateEntry> entry,
                          const std::optional<std::string>& key);
 
     // Stores under the entry's own key. Does nothing when it has none.
     void addObject(std::shared_ptr<GXStateEntry> entry);
 
-    // Removes what is stored under the entry's own key.
+    // Removes the entry that is stored under the given entry's own key.
     void removeObject(const std::shared_ptr<GXStateEntry>& entry);
 
     void removeObjectForKey(const std::optional<std::string>& key);
@@ -82,23 +82,24 @@ public:
     bool encodeWithCoder(PropertyListEncoder& coder) const;
 
     // Takes over a new dictionary from the next object of `coder`. The bytes hold the entries'
-    // fields but not their classes, so the caller says the class. False when there is no such
-    // object, it is no dictionary of entries, or the class refuses one; the table keeps the
-    // dictionary that it had.
+    // fields but not their classes, so the caller gives the class. False when there is no such
+    // object, it is no dictionary of entries, or the class refuses one; the table then keeps its
+    // dictionary.
     bool initWithCoder(PropertyListDecoder& coder, const EntryClass& entryClass);
 
     // A new table of the receiver's class that shares the receiver's dictionary.
     std::shared_ptr<GXDictionaryTable> copy() const;
 
-    // What stands for the table when it travels to another process: itself, so it travels by copy.
+    // The object that travels to another process in place of the table: the table itself, so it
+    // travels by copy.
     GXDictionaryTable& replacementObjectForPortCoder() { return *this; }
 
     // --- The values of a table view: one row for each entry ---
 
     int numberOfRowsInTableView() override;
 
-    // The value for the column's identifier of the entry at objectAtIndex(), absent without one.
-    // Throws what the entry throws.
+    // The value for the column's identifier of the entry at objectAtIndex(), absent without an
+    // entry. Exceptions of the entry pass through.
     std::optional<PropertyListValue>
     tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
 

@@ -21,7 +21,7 @@ std::int32_t rowAfter(std::int32_t row) {
 std::optional<std::int32_t> rowOfText(std::string_view text) {
     std::int32_t row = 0;
     const auto read = std::from_chars(text.data(), text.data() + text.size(), row);
-    // The comparison leaves one text for each row, so no two keys fall on the same row.
+    // The comparison allows one text for each row, so no two keys name the same row.
     if (read.ec != std::errc() || text != std::to_string(row)) {
         return std::nullopt;
     }

@@ -1,15 +1,16 @@
 // Entries by row number, with holes, shown in a table view.
 //
-// The count is one more than the highest row ever stored and not removed since, so rows without an
-// entry count as well. It belongs to the table and not to the dictionary: a table given another
-// dictionary keeps the count that it had, and a copied or decoded one counts 0 until rows are set.
+// The count is one more than the highest row that was ever stored and not removed since, so rows
+// without an entry count as well. It belongs to the table and not to the dictionary: a table that
+// is given another dictionary keeps its count, and a copied or decoded table has the count 0 until
+// rows are set.
 //
 // Row numbers are compared as unsigned 32-bit values: a negative one lies above all others. Rows
-// are meant to be 0 and more; after a negative one the count is of no use, and a table view shows
+// are meant to be 0 and more. After a negative one the count is of no use, and a table view shows
 // no rows.
 //
-// Ownership: the table owns its dictionary, which its copies share, so that a change through either
-// is seen by both. The delegate is not owned. Main thread only.
+// Ownership: the table owns its dictionary and shares it with its copies, so that a change through
+// either is seen by both. The delegate is not owned. Main thread only.
 
 #pragma once
 
@@ -37,8 +38,8 @@ public:
     GXTableDelegate* delegate() const { return _delegate; }
     void setDelegate(GXTableDelegate* delegate) { _delegate = delegate; }
 
-    // The dictionary itself, never null and without null entries. Setting shares the given one and
-    // leaves the count as it is; null sets a new, empty dictionary.
+    // The dictionary itself, never null and without null entries. The setter shares the given one
+    // and does not change the count; null sets a new, empty dictionary.
     const std::shared_ptr<EntryRows>& tableDictionary() const { return mTableDictionary; }
     void setTableDictionary(std::shared_ptr<EntryRows> dictionary);
 
@@ -47,14 +48,14 @@ public:
     // "Table = ", then each entry's description followed by ";", in row order.
     std::string description() const;
 
-    // Stores in the row, in place of the entry that was there. Does nothing without an entry.
+    // Stores in the row, in place of an earlier entry. Does nothing without an entry.
     void setObjectAtIndex(std::shared_ptr<GXStateEntry> entry, std::int32_t index);
 
     // The entry of the row, null for a hole.
     virtual std::shared_ptr<GXStateEntry> objectAtIndex(std::int32_t index) const;
 
-    // Empties the row. When it was the last one, the count goes down to the highest row that is
-    // left.
+    // Empties the row. When it was the last one, the count goes down to the highest remaining row
+    // plus one.
     void removeObjectAtIndex(std::int32_t index);
 
     void removeAllObjects();
@@ -68,15 +69,16 @@ public:
     bool encodeWithCoder(PropertyListEncoder& coder) const;
 
     // Takes over a new dictionary from the next object of `coder`; the count is 0 then. The bytes
-    // hold the entries' fields but not their classes, so the caller says the class. False when
+    // hold the entries' fields but not their classes, so the caller gives the class. False when
     // there is no such object, it is no dictionary of rows, or the class refuses an entry; the
-    // table keeps the dictionary that it had.
+    // table then keeps its dictionary.
     bool initWithCoder(PropertyListDecoder& coder, const EntryClass& entryClass);
 
     // A new table of the receiver's class, with count 0, that shares the receiver's dictionary.
     std::shared_ptr<GXIndexTable> copy() const;
 
-    // What stands for the table when it travels to another process: itself, so it travels by copy.
+    // The object that travels to another process in place of the table: the table itself, so it
+    // travels by copy.
     GXIndexTable& replacementObjectForPortCoder() { return *this; }
 
     // --- The values of a table view: one row for each row number below the count ---
@@ -84,8 +86,8 @@ public:
     // The count, but never less than 0.
     int numberOfRowsInTableView() override;
 
-    // The value of the row's entry for the column's identifier, absent for a hole. Throws what the
-    // entry throws.
+    // The value of the row's entry for the column's identifier, absent for a hole. Exceptions of
+    // the entry pass through.
     std::optional<PropertyListValue>
     tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) override;
 

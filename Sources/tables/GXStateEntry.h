@@ -35,13 +35,13 @@ public:
 
 class GXStateEntry {
 public:
-    GXStateEntry() = default; // with an empty dictionary
+    GXStateEntry() = default; // has an empty dictionary
     virtual ~GXStateEntry() = default;
     GXStateEntry(const GXStateEntry&) = delete;
     GXStateEntry& operator=(const GXStateEntry&) = delete;
 
-    // A new entry with a copy of `dictionary`. It is always of this class: called through a
-    // subclass it still makes a plain GXStateEntry. For a subclass see entryOfClass().
+    // A new entry with a copy of `dictionary`. It is always of this class: a call through a
+    // subclass still makes a plain GXStateEntry. For a subclass see entryOfClass().
     static std::shared_ptr<GXStateEntry> entryFromDictionary(const PropertyDictionary& dictionary);
 
     // The fields by name, never null. Setting null sets a new, empty dictionary.
@@ -62,9 +62,9 @@ public:
     virtual int compareKey(const std::optional<std::string>& key) const;
     virtual int compareKeyInt(std::int32_t key) const;
 
-    // Properties by name. An absent value reads and is stored as a missing field. An unknown name
-    // throws UndefinedKeyFailure; this class knows none, a subclass hands on the names that it does
-    // not know itself.
+    // Properties by name. A missing field reads as absent, and storing an absent value removes the
+    // field. An unknown name throws UndefinedKeyFailure. This class knows no names; a subclass
+    // passes the names on that it does not know itself.
     virtual std::optional<PropertyListValue> valueForKey(std::string_view key) const;
     virtual void setValueForKey(const std::optional<PropertyListValue>& value,
                                 std::string_view key);
@@ -74,13 +74,14 @@ public:
     bool encodeWithCoder(PropertyListEncoder& coder) const;
 
     // Takes over the dictionary that the next object of `coder` holds. False when there is no such
-    // object or it is no dictionary; the entry keeps the dictionary that it had.
+    // object or it is no dictionary; the entry then keeps its dictionary.
     bool initWithCoder(PropertyListDecoder& coder);
 
     // A new entry of the receiver's class that shares the receiver's dictionary.
     std::shared_ptr<GXStateEntry> copy() const;
 
-    // What stands for the entry when it travels to another process: itself, so it travels by copy.
+    // The object that travels to another process in place of the entry: the entry itself, so it
+    // travels by copy.
     GXStateEntry& replacementObjectForPortCoder() { return *this; }
 
 protected:
@@ -91,9 +92,9 @@ private:
     std::shared_ptr<PropertyDictionary> _nodeDictionary = std::make_shared<PropertyDictionary>();
 };
 
-// The entry class that a table's load operations make their entries of, as the function that makes
-// an entry from a dictionary: GXStateEntry::entryFromDictionary, entryOfClass<Subclass>, or a
-// function that chooses. It may return null for a dictionary that it does not want.
+// The class of the entries that a table's load operations make. It is given as the function that
+// makes an entry from a dictionary: GXStateEntry::entryFromDictionary, entryOfClass<Subclass>, or a
+// function that chooses. The function may return null for a dictionary that it refuses.
 using EntryClass = std::function<std::shared_ptr<GXStateEntry>(const PropertyDictionary&)>;
 
 // A new entry of the given class with a copy of `dictionary`.

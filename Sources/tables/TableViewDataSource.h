@@ -1,4 +1,4 @@
-// What a table view asks of the object that holds its values.
+// The questions that a table view asks the object that holds its values.
 
 #pragma once
 
@@ -15,7 +15,7 @@ struct TableColumn {
 };
 
 // Main thread only. The view keeps a plain reference: a data source must outlive its view or be
-// taken from it. The view asks again after TableView::reloadData(), never on its own account when
+// taken from it. The view asks again after TableView::reloadData(). It does not ask by itself when
 // the values change.
 class TableViewDataSource {
 public:
@@ -28,8 +28,8 @@ public:
     virtual std::optional<PropertyListValue>
     tableViewObjectValueForTableColumnRow(const TableColumn& column, int row) = 0;
 
-    // Takes over what the user typed into a cell. Does nothing unless overridden: a source that
-    // cannot be edited.
+    // Takes over the text that the user typed into a cell. Without an override it does nothing, for
+    // a source that cannot be edited.
     virtual void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& /*value*/,
                                                           const TableColumn& /*column*/,
                                                           int /*row*/) {}

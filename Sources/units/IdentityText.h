@@ -1,4 +1,5 @@
-// Identities and bytes as text: how units, their serial numbers and their hardware addresses show.
+// Identities and bytes as text: the text forms of units, their serial numbers and their hardware
+// addresses.
 //
 // Everything here is pure and may be called from any thread. Texts are UTF-8.
 
@@ -14,21 +15,22 @@
 
 namespace kx {
 
-// The bytes of a unit ID, a serial number and a hardware address alike.
+// The number of bytes of a unit ID, of a serial number and of a hardware address.
 inline constexpr std::size_t identityLength = 6;
 
 // A unit ID of six bytes: the decimal value of the last byte when the five before it are zero,
 // otherwise the six bytes as UTF-8, zero bytes included. Absent when they are not UTF-8. Throws
-// RangeFailure for fewer than six bytes; further bytes are not looked at.
+// RangeFailure for fewer than six bytes; further bytes are ignored.
 std::optional<std::string> unitIDforData(ByteView data);
 
 // Two upper-case hexadecimal digits for each byte, joined by `separator`; empty for no bytes.
 std::string hexStringForData(ByteView data, std::string_view separator);
 
-// The text form of a serial number, by which units are known: hexStringForData() with a blank.
+// The text form of a serial number, which identifies a unit: hexStringForData() with a blank.
 std::string serialNumberText(ByteView data);
 
-// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns what follows them.
+// Writes the two upper-case hexadecimal digits of `byte` at `digits` and returns the place behind
+// them.
 char* writeHexDigits(char* digits, std::uint8_t byte);
 
 } // namespace kx

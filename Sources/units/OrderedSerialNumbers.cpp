@@ -26,8 +26,9 @@ void OrderedSerialNumbers::add(std::string_view number) {
     }
 }
 
-// The lengths of the runs are the binary digits of their sum. From the shortest one on they become
-// one, which is as well the runs that it was. The longest one, mostly by far, is not touched.
+// The lengths of the runs are the binary digits of their sum. The runs are merged into one, from
+// the shortest one on; this leaves the order of each run intact. The longest run, which usually
+// holds most of the numbers, is not touched.
 TitleList OrderedSerialNumbers::list() {
     std::size_t merged = _numbers.size() % shortestRun;
     std::size_t rest = _numbers.size() - merged;
@@ -51,7 +52,7 @@ TitleList OrderedSerialNumbers::list() {
     return texts;
 }
 
-// The last keys are a run of `first` and one of `second`.
+// Merges the last two runs, of `first` and of `second` numbers.
 void OrderedSerialNumbers::mergeLast(std::size_t first, std::size_t second) {
     const auto middle = _numbers.end() - static_cast<std::ptrdiff_t>(second);
     std::inplace_merge(middle - static_cast<std::ptrdiff_t>(first), middle, _numbers.end());

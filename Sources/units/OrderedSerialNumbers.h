@@ -1,5 +1,5 @@
-// Serial numbers in ascending order, however many there are: a list of them is ready in a fraction
-// of the time that a walk over the registry's records takes, which lie scattered in memory.
+// Serial numbers in ascending order, for any number of units. A list of them is ready in a fraction
+// of the time of a walk over the registry's records, because those lie scattered in memory.
 //
 // They are short texts, compared by their bytes. Any thread, one at a time.
 
@@ -20,7 +20,8 @@ class OrderedSerialNumbers {
 public:
     void clear() { _numbers.clear(); }
 
-    // A number that was not added before. Contract: "number.size() <= UnitRecord::longestText".
+    // Adds a number that was not added before. Contract: "number.size() <=
+    // UnitRecord::longestText".
     void add(std::string_view number);
 
     // Every number once, in ascending order.
@@ -44,9 +45,9 @@ private:
 
     void mergeLast(std::size_t first, std::size_t second);
 
-    // Ascending runs one behind the other. Their lengths are distinct powers of two times the
-    // shortest run, so a number moves O(log n) times; a single add() may merge all of them. What
-    // stands behind the last run is too short for one, and not in order.
+    // Ascending runs, one behind the other. Run lengths are distinct powers of two times the
+    // shortest run, so a number moves O(log n) times; a single add() may merge all of them. The
+    // numbers behind the last run are too few for a run, and not in order.
     std::vector<Number> _numbers;
 };
 

@@ -33,7 +33,7 @@ Bytes sixBytesOfDigits(std::string_view digits) {
     return bytes;
 }
 
-// "00:1a:2B:3C:4D:5E" from twelve digits.
+// For example "00:1a:2B:3C:4D:5E" from twelve digits.
 std::string grouped(std::string_view digits, std::string_view separator) {
     std::string result;
     for (std::size_t i = 0; i < digits.size(); i += 2) {
@@ -43,7 +43,7 @@ std::string grouped(std::string_view digits, std::string_view separator) {
     return result;
 }
 
-// Six octets, typed as twelve hexadecimal digits.
+// Takes six octets that were typed as twelve hexadecimal digits.
 void takeOctets(ParameterEdit& edit, std::string_view separator) {
     edit.value = argumentOf(edit);
     if (!isOnlyHexDigits(edit.value)) {
@@ -56,8 +56,8 @@ void takeOctets(ParameterEdit& edit, std::string_view separator) {
     }
 }
 
-// Whether a text that is read as 0 is so because it holds this address, as "000.0.0.0" does, and
-// not because it cannot be read: with another digit it would be read as another address.
+// Whether a text that is read as 0 really names this address, as "000.0.0.0" does. The other reason
+// for 0 is a text that cannot be read. With another digit a readable text gives another address.
 bool isReadAsZero(std::string_view typed) {
     std::string changed(typed);
     const std::size_t digit = changed.find('0');
@@ -79,7 +79,7 @@ void takeAddress(ParameterEdit& edit) {
     edit.change = isNone ? ValueChange::notAnAddress : ValueChange::readAs;
 }
 
-// A port whose command carries `sent` for the number that was typed.
+// Takes a port. The command carries `sent` for the number that was typed.
 void takePort(ParameterEdit& edit, std::int32_t sent, bool isInRange) {
     edit.value = std::to_string(sent);
     if (numberInFront(edit.typed).empty()) {

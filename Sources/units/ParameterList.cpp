@@ -12,7 +12,7 @@ namespace kx {
 
 namespace {
 
-// What a line of the display text begins with, joined when the program is compiled.
+// The beginning of a line of the display text, joined when the program is compiled.
 class LineStart {
 public:
     consteval explicit LineStart(std::string_view name) {
@@ -35,10 +35,10 @@ private:
 };
 
 struct Item {
-    char letter; // of its tag
+    char letter; // letter of its tag
     ValueForm form;
     std::size_t valueLength;
-    std::optional<UnitParameter> parameter; // absent: shown under its tag and not kept
+    std::optional<UnitParameter> parameter; // absent for an item that is not kept
     LineStart lineStart;
 
     consteval Item(std::string_view tag, ValueForm itsForm,
@@ -74,7 +74,7 @@ constexpr std::array<std::uint8_t, 256> itemForLetter = [] {
 constexpr std::size_t tagLength = 3;
 constexpr std::string_view missingText = "(null)";
 
-// What a list with one of each item shows at most.
+// The longest display text of a list with one of each item.
 constexpr std::size_t usualDisplayLength = [] {
     std::size_t length = 0;
     for (const Item& item : items) {
@@ -91,7 +91,8 @@ const Item* itemAtFrontOf(ByteView list) {
     return index < itemCount ? &items[index] : nullptr;
 }
 
-// Room for one value's text, so that decoding a list needs no storage but its display text.
+// Room for the text of one value, so that only the display text needs storage when a list is
+// decoded.
 class ValueText {
 public:
     void setHex(ByteView octets, char separator) {

@@ -24,7 +24,7 @@ std::string withoutCharacter(std::string_view text, char unwanted) {
     return result;
 }
 
-// A negative number shows as the 32 bits that hold it.
+// A negative number is written as the 32 bits that hold it.
 std::string hexNumber(std::int32_t number, int leastDigits) {
     std::array<char, 16> digits{};
     const int length = std::snprintf(digits.data(), digits.size(), "%0*X", leastDigits,

@@ -1,5 +1,5 @@
-// What a unit is told: a command is ASCII text, "^^Id", one letter, an argument, without a length
-// and without a checksum.
+// The commands to a unit. A command is ASCII text, "^^Id", one letter, an argument, without a
+// length and without a checksum.
 //
 // Everything here is pure: texts in, texts out, no state, any thread. Texts are UTF-8.
 
@@ -15,7 +15,8 @@
 
 namespace kx {
 
-// Units are asked on this port until they have told their own, and answer to one of four.
+// Units are asked on the first port until they have told their own. They answer to one of the ports
+// from the first to the last.
 inline constexpr std::uint16_t defaultUnitPort = 3520;
 inline constexpr std::uint16_t lastListeningPort = 3523;
 
@@ -25,10 +26,10 @@ inline constexpr std::string_view commandPrefix = "^^Id";
 inline constexpr std::string_view parameterRequestCommand = "^^IdX";
 inline constexpr std::string_view restoreCommand = "^^IdZ";
 
-// The port that the text names when that lies in 3520 to 3523, otherwise 3520.
+// The port that the text names when it lies in 3520 to 3523, otherwise 3520.
 std::uint16_t listeningPortForText(std::string_view typed);
 
-// Whether the text of a unit ID stands for a number: when it begins with a digit.
+// Whether the text of a unit ID stands for a number. It does when it begins with a digit.
 bool isUnitNumber(std::string_view typed);
 
 // The argument of a command, made from what a person typed. The conversions are loose on purpose:
@@ -48,20 +49,20 @@ bool isUnitNumber(std::string_view typed);
 std::optional<std::string> argumentForText(ValueForm form, std::string_view typed);
 
 // The command that gives a parameter the value that a person typed. Absent where there is no
-// argument, and for a parameter that no command changes. Whether an empty text is worth a command
-// is the caller's business.
+// argument, and for a parameter that no command changes. The caller decides whether an empty text
+// is worth a command.
 std::optional<std::string> editCommand(UnitParameter parameter, std::string_view typed);
 
-// The free-form command: the whole text as it stands, and a carriage return.
+// The free-form command: the whole text unchanged, and a carriage return.
 std::string optionCommand(std::string_view text);
 
-// The text that the title of an option stands for: what comes before its first two blanks in a row;
-// for a title that begins with "-Z", "-Z" and month, day, hour and minute of `now`, two digits
+// The text that the title of an option stands for: the part before its first two blanks in a row.
+// For a title that begins with "-Z" it is "-Z" and month, day, hour and minute of `now`, two digits
 // each.
 std::string optionTextForTitle(std::string_view title, const std::tm& now);
 
-// The port to which a unit's commands go, by its "device Port number" text: the low 16 bits of the
-// number, or 3520 for an absent or an empty text.
+// The port to which a unit's commands go, from its "device Port number" text: the low 16 bits of
+// the number, or 3520 for an absent or an empty text.
 std::uint16_t unitPortForText(std::optional<std::string_view> devicePort);
 
 } // namespace kx

@@ -1,10 +1,9 @@
-// What a unit's parameters are: one table with a row for each, in the order in which people see
-// them.
+// The parameters of a unit: one table with a row for each, in the order in which people see them.
 //
-// Whatever depends on a parameter is made from its row: the decoder of replies, the commands, what
-// a unit should show after an edit, the names in tables and on the command line. A parameter
-// without a whole row does not compile. The dissector, the simulated units, the help and
-// docs/protocol.md are written apart, and tested against the table.
+// Everything that depends on a parameter is made from its row: the decoder of replies, the
+// commands, the value that a unit should show after an edit, the names in tables and on the command
+// line. A parameter with an incomplete row does not compile. The dissector, the simulated units,
+// the help and docs/protocol.md are written separately, and tested against the table.
 //
 // Everything here is constant and may be used from any thread.
 
@@ -22,7 +21,7 @@
 
 namespace kx {
 
-// By name, without regard to case.
+// Ordered by name, without regard to case.
 enum class UnitParameter : std::uint8_t {
     destinationIPAddress,
     destinationMACAddress,
@@ -32,7 +31,7 @@ enum class UnitParameter : std::uint8_t {
     internalMACAddress,
     serialNumber,
     unitID,
-    end, // no parameter: how many there are
+    end, // no parameter; equals the number of parameters
 };
 
 inline constexpr std::size_t unitParameterCount = static_cast<std::size_t>(UnitParameter::end);
@@ -41,7 +40,7 @@ constexpr std::size_t indexOf(UnitParameter parameter) {
     return static_cast<std::size_t>(parameter);
 }
 
-// What a value is: its bytes in a reply, numbers in network byte order, and its text.
+// The form of a value: its bytes in a reply, with numbers in network byte order, and its text.
 enum class ValueForm : std::uint8_t {
     none,            // not set
     hardwareAddress, // six bytes: "00:1A:2B:3C:4D:5E"
@@ -52,7 +51,7 @@ enum class ValueForm : std::uint8_t {
     unitID,          // six bytes: unitIDforData() has the text
 };
 
-// The bytes of a value in a reply.
+// The number of bytes of a value in a reply.
 constexpr std::size_t lengthOfValue(ValueForm form) {
     switch (form) {
     case ValueForm::none:
@@ -72,11 +71,11 @@ constexpr std::size_t lengthOfValue(ValueForm form) {
 
 struct ParameterDescription {
     UnitParameter parameter = UnitParameter::end;
-    std::string_view name;       // in records and tables, and the key of what people see
-    std::string_view noun;       // the same within a sentence, a key too
+    std::string_view name;       // in records and tables; the key of the localized name
+    std::string_view phrase;     // name and value within a sentence, also a key: "device port %@"
     std::string_view identifier; // for scripts; never translated
-    std::string_view tag;        // before the value in a reply: a letter between "<" and ">"
-    char commandLetter = 0;      // of the command that changes it; 0 when none does
+    std::string_view tag;        // stands before the value in a reply: a letter between "<" and ">"
+    char commandLetter = 0;      // letter of the command that changes it; 0 when there is none
     ValueForm form = ValueForm::none;
 
     constexpr bool isEditable() const { return commandLetter != 0; }
@@ -84,22 +83,24 @@ struct ParameterDescription {
 
 inline constexpr std::array<ParameterDescription, unitParameterCount> parameterTable{{
     {UnitParameter::destinationIPAddress, localizedKey("destination IP address"),
-     localizedKey("destination IP address"), "destination-ip", "<D>", 'D', ValueForm::ipv4Address},
+     localizedKey("destination IP address %@"), "destination-ip", "<D>", 'D',
+     ValueForm::ipv4Address},
     {UnitParameter::destinationMACAddress, localizedKey("destination MAC address"),
-     localizedKey("destination MAC address"), "destination-mac", "<C>", 'C',
+     localizedKey("destination MAC address %@"), "destination-mac", "<C>", 'C',
      ValueForm::hardwareAddress},
     {UnitParameter::destinationPortNumber, localizedKey("destination Port number"),
-     localizedKey("destination port"), "destination-port", "<T>", 'T', ValueForm::listeningPort},
+     localizedKey("destination port %@"), "destination-port", "<T>", 'T', ValueForm::listeningPort},
     {UnitParameter::devicePortNumber, localizedKey("device Port number"),
-     localizedKey("device port"), "device-port", "<P>", 'P', ValueForm::anyPort},
+     localizedKey("device port %@"), "device-port", "<P>", 'P', ValueForm::anyPort},
     {UnitParameter::internalIPAddress, localizedKey("internal IP address"),
-     localizedKey("internal IP address"), "internal-ip", "<I>", 'I', ValueForm::ipv4Address},
+     localizedKey("internal IP address %@"), "internal-ip", "<I>", 'I', ValueForm::ipv4Address},
     {UnitParameter::internalMACAddress, localizedKey("internal MAC address"),
-     localizedKey("internal MAC address"), "internal-mac", "<M>", 'M', ValueForm::hardwareAddress},
-    {UnitParameter::serialNumber, localizedKey("serial number"), localizedKey("serial number"),
+     localizedKey("internal MAC address %@"), "internal-mac", "<M>", 'M',
+     ValueForm::hardwareAddress},
+    {UnitParameter::serialNumber, localizedKey("serial number"), localizedKey("serial number %@"),
      "serial", "<S>", 'S', ValueForm::serialNumber},
-    {UnitParameter::unitID, localizedKey("unit ID"), localizedKey("unit ID"), "unit-id", "<U>", 'U',
-     ValueForm::unitID},
+    {UnitParameter::unitID, localizedKey("unit ID"), localizedKey("unit ID %@"), "unit-id", "<U>",
+     'U', ValueForm::unitID},
 }};
 
 constexpr const ParameterDescription& descriptionOf(UnitParameter parameter) {
@@ -122,10 +123,10 @@ constexpr std::optional<UnitParameter> unitParameterForName(std::string_view nam
     return found == parameterTable.end() ? std::nullopt : std::optional(found->parameter);
 }
 
-// What people see for each parameter, by indexOf().
+// The name that people see for each parameter, by indexOf().
 using ShownParameterNames = std::array<std::string, unitParameterCount>;
 
-// --- What makes a row whole ---
+// --- Checks of the table ---
 
 namespace detail {
 
@@ -138,7 +139,7 @@ constexpr bool comesBefore(std::string_view left, std::string_view right) {
 }
 
 constexpr bool isWhole(const ParameterDescription& row) {
-    return !row.name.empty() && !row.noun.empty() && !row.identifier.empty() &&
+    return !row.name.empty() && row.phrase.ends_with("%@") && !row.identifier.empty() &&
            row.form != ValueForm::none && row.tag.size() == 3 && row.tag.front() == '<' &&
            row.tag.back() == '>';
 }
@@ -156,7 +157,7 @@ constexpr bool rowsAreInTheOrderThatPeopleSee() {
     return std::ranges::is_sorted(parameterTable, comesBefore, &ParameterDescription::name);
 }
 
-// No two parameters can be taken for each other.
+// No two parameters can be mistaken for each other.
 constexpr bool rowsDiffer() {
     for (const auto& row : parameterTable) {
         const auto isAlike = [&row](const ParameterDescription& other) {

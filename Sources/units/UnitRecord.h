@@ -19,8 +19,8 @@ public:
     // The longest value text in bytes, that of a hardware address or a serial number.
     static constexpr std::size_t longestText = 17;
 
-    // The text of a parameter, absent when the record has none. It looks into the record and lives
-    // until the record is changed or destroyed.
+    // The text of a parameter, absent when the record has none. It is a view of the record and
+    // lives until the record is changed or destroyed.
     std::optional<std::string_view> value(UnitParameter parameter) const {
         const Slot& slot = _slots[indexOf(parameter)];
         return slot.isPresent ? std::optional(std::string_view(slot.text.data(), slot.length))

@@ -1,7 +1,7 @@
-// The units that have answered, by serial number: the record that each told last, and the numbers
-// in ascending order.
+// The units that have answered, by serial number: the latest record of each, and the numbers in
+// ascending order.
 //
-// A unit that stops answering stays. Main thread only.
+// A unit that stops answering stays in the registry. Main thread only.
 
 #pragma once
 
@@ -23,26 +23,26 @@ public:
 
     void clear();
 
-    // Adds a unit, or replaces the whole record of one that is known. False, and nothing is stored,
-    // for a record without a serial number.
+    // Adds a unit, or replaces the whole record of a known unit. For a record without a serial
+    // number, returns false and stores nothing.
     bool store(const UnitRecord& record);
 
-    // Null for a serial number that nobody has told. Valid until the next store() or clear().
+    // Null for a serial number that no unit has told. Valid until the next store() or clear().
     const UnitRecord* find(std::string_view serial) const;
 
-    // Takes the internal IP address out of a unit's record, if there is one: the unit is on its way
-    // to another. Its next record replaces this one.
+    // Takes the internal IP address out of a unit's record, if there is one, because the unit is
+    // moving to another address. The unit's next record replaces this one.
     void withdrawAddress(std::string_view serial);
 
-    // The internal IP address in a unit's record, or the one that was withdrawn since the unit told
-    // its record; absent when it told none.
+    // The internal IP address in a unit's record, or the address that was withdrawn since the unit
+    // told its record; absent when the unit told none.
     std::optional<std::string_view> lastToldAddress(std::string_view serial) const;
 
     // Ascending by serial number.
     const Records& records() const { return _records; }
 
-    // Every serial number once, in ascending order: the keys of records(), in a fraction of the
-    // time that a walk over them takes.
+    // Every serial number once, in ascending order. These are the keys of records(), but the list
+    // is ready in a fraction of the time that a walk over the records takes.
     TitleList serialNumbers() { return _serialNumbers.list(); }
 
 private:

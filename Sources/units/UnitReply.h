@@ -1,4 +1,4 @@
-// What a unit says: a datagram taken apart into its header and its payload.
+// A reply of a unit: a datagram taken apart into its header and its payload.
 //
 // A reply is a header of 21 bytes and a payload:
 //
@@ -29,16 +29,16 @@ enum class PacketKind {
 
 enum class PayloadKind {
     none,            // no payload marker
-    parameterList,   // behind the marker stands "<M>"
-    acknowledgement, // behind the marker stand "ok" and one more ASCII character
+    parameterList,   // "<M>" follows the marker
+    acknowledgement, // "ok" and one more ASCII character follow the marker
     other,
 };
 
 struct Reply {
     std::optional<std::string> tag; // absent when it is not UTF-8
 
-    // As IdentityText.h writes them; absent without their tags, the unit ID also when it has no
-    // text.
+    // Texts in the forms of IdentityText.h. Each is absent without its tag; the unit ID is also
+    // absent when it is not UTF-8.
     std::optional<std::string> unitID;
     std::optional<std::string> serialNumber;
 
@@ -48,8 +48,8 @@ struct Reply {
 
 PacketKind packetKindOfDatagram(ByteView datagram);
 
-// Takes apart a datagram of the kind `reply`; the payload looks into it. Throws RangeFailure when a
-// field that its tag announces, unit ID or serial number, is cut short.
+// Takes apart a datagram of the kind `reply`; the payload is a view of it. Throws RangeFailure when
+// a unit ID or a serial number that its tag announces is cut short.
 Reply replyFromDatagram(ByteView datagram);
 
 } // namespace kx

@@ -1,6 +1,6 @@
-// Datagrams that the system had no room for, in words: the line below Discover.
+// The line below Discover, which tells how many datagrams the system had no room for, in words.
 //
-// Pure but for looking up the sentences (support/LocalizedText.h), so it belongs to the main
+// Pure, except that it looks up the sentences (support/LocalizedText.h), so it belongs to the main
 // thread.
 
 #pragma once
@@ -10,7 +10,7 @@
 
 namespace kx {
 
-// Empty for none.
+// Empty when the number is 0.
 std::string noteOfDrops(std::uint32_t datagrams);
 
 } // namespace kx

@@ -10,8 +10,9 @@ namespace kx {
 
 namespace {
 
-std::string nounOf(const ParameterEdit& edit) {
-    return localizedText(descriptionOf(edit.parameter).noun);
+// "destination port 3521"
+std::string parameterAndValue(const ParameterEdit& edit) {
+    return localizedText(descriptionOf(edit.parameter).phrase, {edit.value});
 }
 
 std::string commandOf(const ParameterEdit& edit) {
@@ -22,14 +23,14 @@ long long digitsOf(const ParameterEdit& edit) {
     return static_cast<long long>(edit.value.size());
 }
 
-// "Apply sends ^^IdT0DC1: destination port 3521."
-std::string forecastOfValue(const ParameterEdit& edit, std::string_view value) {
-    return localizedText("Apply sends %@: %@ %@.", {commandOf(edit), nounOf(edit), value});
+// For example "Apply sends ^^IdT0DC1: destination port 3521."
+std::string forecastOfValue(const ParameterEdit& edit) {
+    return localizedText("Apply sends %@: %@.", {commandOf(edit), parameterAndValue(edit)});
 }
 
 std::string forecastOfValueReadAs(const ParameterEdit& edit) {
-    return localizedText("Apply sends %@: %@ %@, because that is how “%@” is read.",
-                         {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+    return localizedText("Apply sends %@: %@, because that is how “%@” is read.",
+                         {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
 }
 
 std::string forecastOfMACAddress(const ParameterEdit& edit) {
@@ -44,7 +45,7 @@ std::string forecastOfMACAddress(const ParameterEdit& edit) {
             "has %d.",
             {commandOf(edit), digitsOf(edit)});
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
 }
 
@@ -64,19 +65,19 @@ std::string forecastOfSerialNumber(const ParameterEdit& edit, const CommandTarge
     return target.newSerialNumberIsTaken
                ? localizedText("Apply sends %@: serial number %@, which another unit has.",
                                {commandOf(edit), edit.value})
-               : forecastOfValue(edit, edit.value);
+               : forecastOfValue(edit);
 }
 
 std::string forecastOfIPAddress(const ParameterEdit& edit) {
     switch (edit.change) {
     case ValueChange::notAnAddress:
         return localizedText(
-            "Apply sends %@: %@ %@, because “%@” is not an IPv4 address.",
-            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+            "Apply sends %@: %@, because “%@” is not an IPv4 address.",
+            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
 }
 
@@ -84,25 +85,25 @@ std::string forecastOfPort(const ParameterEdit& edit) {
     switch (edit.change) {
     case ValueChange::notANumber:
         return localizedText(
-            "Apply sends %@: %@ %@, because “%@” does not begin with a number.",
-            {commandOf(edit), nounOf(edit), edit.value, shownInSentence(edit.typed)});
+            "Apply sends %@: %@, because “%@” does not begin with a number.",
+            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     case ValueChange::outOfRange:
         break;
     default:
-        return forecastOfValue(edit, edit.value);
+        return forecastOfValue(edit);
     }
     const std::string number = shownInSentence(numberInFront(edit.typed));
     return descriptionOf(edit.parameter).form == ValueForm::listeningPort
-               ? localizedText("Apply sends %@: %@ %@, because %@ is outside 3520 to 3523.",
-                               {commandOf(edit), nounOf(edit), edit.value, number})
+               ? localizedText("Apply sends %@: %@, because %@ is outside 3520 to 3523.",
+                               {commandOf(edit), parameterAndValue(edit), number})
                : localizedText("Apply sends %@, more than the four digits of a port, because %@ is "
                                "outside 0 to 65535.",
                                {commandOf(edit), number});
 }
 
-// A number above 255 may, besides, have been read out of a longer text.
+// A number above 255 may also have been read out of a longer text.
 std::string forecastOfLargeUnitNumber(const ParameterEdit& edit) {
     return edit.typed == edit.value
                ? localizedText(
@@ -128,13 +129,12 @@ std::string forecastOfUnitID(const ParameterEdit& edit) {
     default:
         break;
     }
-    return isUnitNumber(edit.typed)
-               ? forecastOfValue(edit, edit.value)
-               : localizedText("Apply sends %@: %@ “%@”.",
-                               {commandOf(edit), nounOf(edit), shownInSentence(edit.value)});
+    return isUnitNumber(edit.typed) ? forecastOfValue(edit)
+                                    : localizedText("Apply sends %@: unit ID “%@”.",
+                                                    {commandOf(edit), shownInSentence(edit.value)});
 }
 
-// The ARP tool gets the address as it was typed, whatever the command makes of it.
+// The ARP tool gets the address as it was typed, even when the command carries another one.
 std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& target) {
     if (!target.hardwareAddress.has_value()) {
         return localizedText(

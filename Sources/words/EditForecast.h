@@ -1,6 +1,7 @@
-// What Apply will send for a typed value, in words: a forecast, told before a person presses it.
+// A forecast in words: it tells a person what Apply will send for a typed value, before they press
+// it.
 //
-// Pure but for looking up the sentences (support/LocalizedText.h), so it belongs to the main
+// Pure, except that it looks up the sentences (support/LocalizedText.h), so it belongs to the main
 // thread. Texts are UTF-8.
 
 #pragma once
@@ -13,7 +14,7 @@
 
 namespace kx {
 
-// "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside 3520 to 3523."
+// For example "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside 3520 to 3523."
 std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
                            const CommandTarget& target);
 

@@ -11,7 +11,7 @@ namespace {
 std::string textOfAcceptance(const EditOutcome& outcome) {
     if (outcome.requestFailure().has_value()) {
         const std::string reason = reasonOfSendFailure(*outcome.requestFailure());
-        return reason.ends_with('.')
+        return isWholeSentence(reason)
                    ? localizedText("The unit accepted a command. It could not be asked for its "
                                    "parameters: %@",
                                    {reason})
@@ -66,7 +66,7 @@ std::string textOfState(const EditOutcome& outcome) {
     return textOfShownValue(outcome);
 }
 
-// Why there is no entry for the new address; empty when there is one, or none is wanted.
+// The reason why there is no entry for the new address; empty when there is one, or none is wanted.
 std::string textOfARPEntry(const EditOutcome& outcome) {
     const std::string address = shownInSentence(outcome.edit().typed);
     const ARPEntry& entry = outcome.arpEntry();

@@ -1,6 +1,6 @@
-// What became of an edit that was applied, in words.
+// The outcome of an edit that was applied, in words.
 //
-// Pure but for looking up the sentences (support/LocalizedText.h), so it belongs to the main
+// Pure, except that it looks up the sentences (support/LocalizedText.h), so it belongs to the main
 // thread. Texts are UTF-8.
 
 #pragma once
@@ -11,7 +11,7 @@
 
 namespace kx {
 
-// One or two sentences: "The unit now shows 3523 as its destination Port number."
+// One or two sentences, for example "The unit now shows 3523 as its destination Port number."
 std::string textOfEditOutcome(const EditOutcome& outcome);
 
 } // namespace kx

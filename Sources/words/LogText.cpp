@@ -8,21 +8,22 @@ namespace kx {
 
 namespace {
 
-// What the starts of the rows can count. A chunk has room for many rows, so that the one that moves
-// on to the next chunk is a small part of it.
+// The highest offset that the starts of the rows can hold. A chunk has room for many rows, so the
+// row that moves to the next chunk is a small part of it.
 constexpr std::size_t mostInChunk = std::numeric_limits<std::uint16_t>::max();
 
 bool continuesCharacter(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-// The UTF-16 units of the character that a byte begins: none when it continues one.
+// The UTF-16 units of the character that a byte begins; 0 for a continuation byte.
 std::size_t unitsBegunBy(char byte) {
     const bool needsPair = static_cast<unsigned char>(byte) >= 0xF0U;
     return continuesCharacter(byte) ? 0 : 1 + static_cast<std::size_t>(needsPair);
 }
 
-// The longest beginning of at most `most` bytes that splits no character. `text` is longer.
+// The longest beginning of at most `most` bytes that splits no character. `text` must be longer
+// than `most`.
 std::string_view wholeCharacters(std::string_view text, std::size_t most) {
     std::size_t size = most;
     for (int step = 0; step < 3 && size > 0 && continuesCharacter(text[size]); ++step) {
@@ -65,7 +66,7 @@ void LogText::beginRow() {
     _last.rowStarts.push_back(static_cast<std::uint16_t>(_last.text.size()));
 }
 
-// The last row moves on: a chunk holds whole rows.
+// Moves the last row to the new chunk, because a chunk holds whole rows.
 void LogText::beginChunk() {
     const std::size_t end = _last.rowStarts.back();
     Chunk next;
@@ -163,7 +164,7 @@ std::size_t LogText::charactersBefore(std::size_t position) const {
 }
 
 std::size_t LogText::positionAfter(std::size_t characters) const {
-    charactersBefore(size()); // counts every chunk
+    charactersBefore(size()); // makes sure that every chunk is counted
     const auto next =
         std::upper_bound(_charactersBeforeChunk.begin(), _charactersBeforeChunk.end(), characters);
     const auto index = static_cast<std::size_t>(next - _charactersBeforeChunk.begin()) - 1;

@@ -26,7 +26,7 @@ void QuietLine::refreshForecast(std::string text) {
 }
 
 void QuietLine::showMessage(std::string text) {
-    showForecast({}); // the same message again is a new one
+    showForecast({}); // the line is cleared first, so the same message counts as new
     if (!text.empty()) {
         show(text);
         _state = Message{std::move(text)};

@@ -1,12 +1,13 @@
-// The quiet line below the edit row: one sentence at a time, about one of three things.
+// The quiet line below the edit row. It shows one sentence at a time, about one of three things.
 //
-//   a forecast   what Apply will send; stands until something else is to be said
-//   an outcome   what became of an edit: stands until another row is chosen, something is typed,
-//                Apply, Send or Restore is pressed, another unit is shown, or there is a message
-//   a message    such as why a command was not sent: stands until a person does the like,
-//                presses Discover or Reload, or gets help
+//   a forecast   says what Apply will send. It stands until another sentence replaces it.
+//   an outcome   says what became of an edit. It stands until a person chooses another row, types
+//                something, or presses Apply, Send or Restore, until another unit is shown, or
+//                until there is a message.
+//   a message    says, for example, why a command was not sent. It stands until a person does one
+//                of these things, presses Discover or Reload, or opens the help.
 //
-// What the network brings ends neither outcome nor message.
+// News from the network ends neither an outcome nor a message.
 //
 // Main thread only. Texts are UTF-8.
 
@@ -32,32 +33,32 @@ public:
     };
     using State = std::variant<Forecast, EditOutcome, Message>;
 
-    // `show` is called with the text whenever it is to be shown, also when it is the same again: a
-    // screen reader then says it once more.
+    // `show` is called whenever a text is to be shown, also when the text has not changed: a screen
+    // reader then says it once more.
     explicit QuietLine(std::function<void(std::string_view text)> show);
 
     const State& state() const { return _state; }
 
-    // A person chose, typed or pressed something: whatever stood ends.
+    // A person chose, typed or pressed something, so the present sentence ends.
     void showForecast(std::string text);
 
-    // The forecast as it is now, where one stands: what a unit or the network did may have changed
-    // it. Shown only when it says something else than the line does.
+    // Replaces a forecast that stands, after a unit or the network changed what it says. Shows it
+    // only when the text is another one.
     void refreshForecast(std::string text);
 
-    // An empty message is the end of whatever stood, and leaves the line empty.
+    // An empty message ends the present sentence and leaves the line empty.
     void showMessage(std::string text);
 
-    // The forecast in the place of a message. An outcome stays.
+    // Replaces a message by the forecast. An outcome stays.
     void endMessage(std::string forecast);
 
     void showOutcome(EditOutcome outcome);
 
-    // The unit of this serial number is shown now: an outcome that is about another one is
-    // forgotten, though its text stays until the next forecast.
+    // The unit of this serial number is shown now. An outcome about another unit is forgotten, but
+    // its text stays until the next forecast.
     void unitIsShown(std::string_view serialNumber);
 
-    // What a standing outcome has to be told. Without one nothing happens.
+    // These hand an event on to the present outcome. Without an outcome they do nothing.
     void unitDidAccept(std::string_view serialNumber,
                        const std::optional<SendFailure>& requestFailure);
     void unitDidTell(std::string_view serialNumber, const UnitRecord& record);

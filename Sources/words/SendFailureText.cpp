@@ -9,10 +9,14 @@ std::string reasonOfSendFailure(const SendFailure& failure) {
                                      : localizedText("The UDP listener is not running.");
 }
 
+bool isWholeSentence(std::string_view reason) {
+    return reason.ends_with('.') || reason.ends_with("。");
+}
+
 std::string noteOfSendFailure(const SendFailure& failure) {
     const std::string reason = reasonOfSendFailure(failure);
-    return reason.ends_with('.') ? localizedText("Not sent: %@", {reason})
-                                 : localizedText("Not sent: %@.", {reason});
+    return isWholeSentence(reason) ? localizedText("Not sent: %@", {reason})
+                                   : localizedText("Not sent: %@.", {reason});
 }
 
 std::string noteOfRefusal(CommandRefusal refusal) {

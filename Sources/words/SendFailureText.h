@@ -9,16 +9,20 @@
 #include "conversation/UnitSession.h"
 
 #include <string>
+#include <string_view>
 
 namespace kx {
 
 // The reason alone: the system's text, or "The UDP listener is not running."
 std::string reasonOfSendFailure(const SendFailure& failure);
 
+// Whether a reason brings its own full stop, in whatever script: the system's texts have none.
+bool isWholeSentence(std::string_view reason);
+
 // "Not sent: " and the reason, with one full stop at the end.
 std::string noteOfSendFailure(const SendFailure& failure);
 
-// "Not sent: No unit is selected."
+// For example "Not sent: No unit is selected."
 std::string noteOfRefusal(CommandRefusal refusal);
 
 } // namespace kx

@@ -39,7 +39,7 @@ std::size_t lengthOfCharacter(std::string_view text) {
 } // namespace
 
 std::string shownInSentence(std::string_view text) {
-    const bool isText = isValidUTF8(bytesOfText(text)); // otherwise each byte counts
+    const bool isText = isValidUTF8(bytesOfText(text)); // if not, each byte is a character
     std::string shown;
     for (std::size_t count = 0; !text.empty(); ++count) {
         if (count == mostShownCharacters) {

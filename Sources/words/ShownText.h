@@ -9,8 +9,8 @@
 
 namespace kx {
 
-// On one line, in the order of its characters, and cut behind the first 32 of them. Characters that
-// would change the line or that order show as U+FFFD.
+// The text on one line, in the order of its characters, and cut behind the first 32 of them.
+// Characters that would change the line or their order are shown as U+FFFD.
 std::string shownInSentence(std::string_view text);
 
 } // namespace kx

@@ -1,8 +1,8 @@
-// What every list of the application's windows must do, and how they are counted: the contract of
-// support/InstanceNames.h.
+// The contract of support/InstanceNames.h: tests that every list of the application's windows must
+// pass, and tests of how windows are counted.
 //
-// A test program runs it against its list with a trait that is made anew for each test, has no
-// windows then, and has
+// A test program runs them against its list with a trait. The trait is made anew for each test, has
+// no windows then, and has
 //
 //     const ApplicationWindows& windows();
 //     void addWindow(const WindowDelegate* delegate);

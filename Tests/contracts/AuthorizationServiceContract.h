@@ -1,15 +1,15 @@
-// What every authority over administrator rights must do: the contract of
-// support/AuthorizationService.h.
+// The contract of support/AuthorizationService.h: tests that every authority over administrator
+// rights must pass.
 //
-// A test program runs it against its authority by
+// A test program runs them against its authority by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Root, AuthorizationServiceContract, RootTrait);
 //
 // with a trait that is made anew for each test and has
 //
-//     // An authority that grants everything that it is asked for.
+//     // An authority that grants every request.
 //     AuthorizationService& service();
-//     // A tool, arguments with which it ends by itself, and the status with which it then ends.
+//     // A tool, arguments with which it ends by itself, and its exit status then.
 //     std::string tool();
 //     std::vector<std::string> arguments();
 //     int status();
@@ -45,7 +45,7 @@ protected:
         return {.name = std::string(kAuthorizationRightExecute), .value = tool, .flags = 0};
     }
 
-    // Starts the tool and notes its end.
+    // Starts the tool and records its end.
     std::int32_t run() {
         return reference->executeWithPrivileges(trait.tool(), trait.arguments(),
                                                 [this](int status) { ends.push_back(status); });

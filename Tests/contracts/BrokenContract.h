@@ -1,4 +1,4 @@
-// The death that a broken contract must end in.
+// The expected death of a process that broke a contract.
 
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace kx {
 
-// The text as a regular expression that matches nothing else.
+// The text as a regular expression that matches only this text.
 inline std::string literalPattern(std::string_view text) {
     std::string pattern;
     for (const char character : text) {

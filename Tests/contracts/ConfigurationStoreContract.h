@@ -1,7 +1,7 @@
-// What every configuration store must do: the contract of
-// System Configuration/ConfigurationStore.h.
+// The contract of System Configuration/ConfigurationStore.h: tests that every configuration store
+// must pass.
 //
-// A test program runs it against its store by
+// A test program runs them against its store by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Linux, ConfigurationStoreContract, LinuxStoreTrait);
 //
@@ -38,10 +38,10 @@
 
 namespace kx {
 
-// What a session's callback was told.
+// Records the calls of a session's callback.
 struct RecordedChanges {
     std::vector<std::string> keys;
-    std::vector<std::size_t> counts; // of the keys in each call
+    std::vector<std::size_t> counts; // number of keys in each call
     std::function<void()> duringCall;
 
     static void record(DynamicStoreSession& /*store*/, const std::vector<std::string>& changedKeys,
@@ -74,7 +74,7 @@ protected:
         return "State:/Network/Service/" + trait.serviceID() + "/IPv4";
     }
 
-    // A session that watches by a pattern or by a key, with its source.
+    // Opens a session that watches patterns and keys, with its source.
     bool watch(std::vector<std::string_view> keys, std::vector<std::string_view> patterns) {
         session = openSession();
         const bool isChosen = session->setNotificationKeys(keys, patterns);
@@ -83,7 +83,7 @@ protected:
     }
     bool watchServiceStates() { return watch({}, {"State:/Network/Service/[^/]+/IPv4"}); }
 
-    // The texts of a list in a record; a test failure where something else is found.
+    // The texts of a list in a record. The test fails when the list has other values.
     static std::vector<std::string> texts(const std::optional<PropertyDictionary>& record,
                                           std::string_view key) {
         std::vector<std::string> result;

@@ -1,7 +1,7 @@
-// What everyone who keeps connection profiles must do: the contract of
-// platform/linux/ConnectionProfiles.h.
+// The contract of platform/linux/ConnectionProfiles.h: tests that every source of connection
+// profiles must pass.
 //
-// A test program runs it against its profiles by
+// A test program runs them against its source by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Memory, ConnectionProfilesContract, MemoryProfilesTrait);
 //
@@ -42,7 +42,7 @@ protected:
             return std::is_permutation(active.begin(), active.end(), wanted.begin(), wanted.end());
         });
     }
-    // The host at rest, with all that it is to have.
+    // Brings the host to rest, with all its profiles.
     void settle() {
         ASSERT_TRUE(become(trait.wanted()));
         trait.runAWhile();

@@ -1,6 +1,6 @@
-// What every boundary to datagram sockets must do: the contract of DatagramSystemCalls.h.
+// The contract of DatagramSystemCalls.h: tests that every boundary to datagram sockets must pass.
 //
-// A test program runs it against its boundary by
+// A test program runs them against its boundary by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(System, DatagramSystemCallsContract, SystemTrait);
 //
@@ -229,7 +229,7 @@ TYPED_TEST_P(DatagramSystemCallsContract, ARecordThatIsTooShortIsRefused) {
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, record), EINVAL);
 }
 
-// Otherwise a destination that got lost would go to the peer.
+// Otherwise a datagram whose destination got lost would go to the peer.
 TYPED_TEST_P(DatagramSystemCallsContract, AnEmptyRecordIsNoAbsentOne) {
     const int descriptor = this->newSocket();
     EXPECT_EQ(this->calls().connect(descriptor, this->trait.freeAddress()), 0);

@@ -1,11 +1,11 @@
-// What help needs of every desktop: the contract of support/HelpPages.h.
+// The contract of support/HelpPages.h: tests that every desktop must pass for the help.
 //
-// A test program runs it against its services with a trait that is made anew for each test, has a
-// browser and no pages then, and has
+// A test program runs them against its services with a trait. The trait is made anew for each test,
+// has a browser and no pages then, and has
 //
 //     HelpServices& services();
 //     void addPage(const std::string& name);
-//     void holdOptionKey(bool held);          as if it were so at the event being handled
+//     void holdOptionKey(bool held);          for the events that follow
 //     void setBrowser(bool exists);
 //     std::vector<std::string> openedURLs();
 //     std::string shownPage();                the page in the viewer; empty when it is not open

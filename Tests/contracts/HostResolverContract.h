@@ -1,13 +1,13 @@
-// What every host resolver must do: the contract of support/HostResolver.h.
+// The contract of support/HostResolver.h: tests that every host resolver must pass.
 //
-// A test program runs it against its resolver by
+// A test program runs them against its resolver by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Thread, HostResolverContract, ThreadHostResolverTrait);
 //
 // with a trait that is made anew for each test and has
 //
 //     HostResolver& resolver();
-//     // A name that resolves to 127.0.0.1, perhaps among others; and one that does not resolve.
+//     // A name that resolves to 127.0.0.1, perhaps among others; and a name that does not resolve.
 //     std::string knownName();
 //     std::string unknownName();
 //     // Runs the resolver's loop until the condition holds; false when it does not within a
@@ -37,7 +37,7 @@ class HostResolverContract : public testing::Test {
 protected:
     using RequestPointer = std::unique_ptr<HostResolver::Request>;
 
-    // Starts a request whose report is kept.
+    // Starts a request and keeps its report.
     RequestPointer startRecorded(const std::string& name) {
         return start(name,
                      [this](const HostResolution& resolution) { reports.push_back(resolution); });
@@ -120,7 +120,7 @@ TYPED_TEST_P(HostResolverContract, AReportMayDestroyItsOwnRequest) {
         this->trait.knownName(), [&, kept = std::move(token)](const HostResolution& resolution) {
             request.reset();
             EXPECT_FALSE(observed.expired()) << "the callable lives until the call returned";
-            this->reports.push_back(resolution); // and so does the resolution
+            this->reports.push_back(resolution); // the resolution lives as long
         });
     ASSERT_TRUE(this->runUntilReports(1));
     this->trait.runAWhile();

@@ -1,6 +1,6 @@
-// What every kernel query must do: the contract of System Configuration/KernelQuery.h.
+// The contract of System Configuration/KernelQuery.h: tests that every kernel query must pass.
 //
-// A test program runs it against its kernel by
+// A test program runs them against its kernel by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Linux, KernelQueryContract, LinuxKernelTrait);
 //

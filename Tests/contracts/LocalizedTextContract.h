@@ -1,6 +1,6 @@
-// What every source of localized texts must do: the contract of support/LocalizedText.h.
+// The contract of support/LocalizedText.h: tests that every source of localized texts must pass.
 //
-// A test program runs it against its source by
+// A test program runs them against its source by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Qt, LocalizedTextContract, QtLocalizedTextTrait);
 //

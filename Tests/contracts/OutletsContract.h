@@ -1,17 +1,17 @@
-// What every adapter of the window's plain controls must do (Outlets.h), as tests that are compiled
-// against each of them. Tables have TableViewContract.h, window and application WindowContract.h.
+// The contract of the window's plain controls (Outlets.h): tests that every adapter must pass.
+// Tables have TableViewContract.h, window and application WindowContract.h.
 //
-// An adapter takes part by a trait: a default-constructible class that makes the control, shows
-// what a person sees of it, and does what a person does. Its action is what the control runs when a
-// person uses it; a test sets it with setAction(std::function<void()>).
+// An adapter takes part through a trait: a default-constructible class that makes the control,
+// gives the contents that a person sees, and does what a person does. The control runs its action
+// when a person uses it; a test sets the action with setAction(std::function<void()>).
 //
 //   pop-up       PopUpButton& control(); std::vector<std::string> titles(); bool isEnabled();
 //                void chooseItem(const std::string& title), as a person does; setAction()
 //   text field   TextField& control();
 //                void type(const std::string& text), as a person does; setAction()
 //   text label   TextLabel& control(); std::string shownText()
-//   text view    TextView& control(); std::string text(); bool isEndVisible(), waiting
-//                for the view to show what it holds
+//   text view    TextView& control(); std::string text(); bool isEndVisible(), which waits for
+//                the view to show its text
 //   drawer       Drawer& control(), closed at first; void finishMoving()
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);

@@ -35,8 +35,8 @@ public:
         return ends[0];
     }
 
-    // Numbers that no open descriptor has: one that was open, and one that none ever has. The first
-    // may be given out again by the next call that opens something.
+    // Numbers of no open descriptor: one that was open earlier, and one that never is. The next
+    // call that opens a descriptor may get the first one again.
     static std::vector<int> closedDescriptors() {
         int ends[2];
         if (::pipe(ends) != 0) {
@@ -57,7 +57,7 @@ public:
     }
 
 private:
-    std::map<int, int> _writingEnds; // by reading end
+    std::map<int, int> _writingEnds; // key: the reading end
 };
 
 } // namespace kx

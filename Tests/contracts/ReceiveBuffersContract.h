@@ -1,6 +1,6 @@
-// What every adapter to receive buffers must do: the contract of ReceiveBuffers.h.
+// The contract of ReceiveBuffers.h: tests that every adapter to receive buffers must pass.
 //
-// A test program runs it against its adapter by
+// A test program runs them against its adapter by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(System, ReceiveBuffersContract, SystemTrait);
 //
@@ -11,7 +11,7 @@
 //     int newSocket();
 //     // A number that is no open descriptor.
 //     int closedDescriptor();
-//     // More datagrams come for the socket than its buffer holds. Returns how many got lost.
+//     // Sends the socket more datagrams than its buffer holds. Returns how many got lost.
 //     std::uint32_t overflow(int descriptor);
 
 #pragma once

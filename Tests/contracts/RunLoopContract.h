@@ -1,6 +1,6 @@
-// What every run loop must do, whatever it stands on: the contract of support/RunLoop.h.
+// The contract of support/RunLoop.h: tests that every run loop must pass.
 //
-// A test program runs it against its loop by
+// A test program runs them against its loop by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopContract, PollRunLoopTrait);
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Poll, RunLoopCallsContract, PollRunLoopTrait);
@@ -22,8 +22,8 @@
 //     // The loop's own clock.
 //     std::chrono::nanoseconds now();
 //
-// All but the first have headers of their own. PipeDescriptors (contracts/PipeDescriptors.h)
-// gives a trait of a real loop its descriptors.
+// All suites but the first have headers of their own. PipeDescriptors (contracts/PipeDescriptors.h)
+// gives the trait of a real loop its descriptors.
 
 #pragma once
 
@@ -133,7 +133,7 @@ TYPED_TEST_P(RunLoopContract, WhatARunWithinTheRunHasReadIsNotReadableAfterIt) {
     std::string order;
     std::vector<RunLoop::Handle> watches(2);
     std::vector<int> descriptors{this->newReadableDescriptor(), this->newReadableDescriptor()};
-    // Whichever is called first runs the loop, in which the other one is read.
+    // The watch that is called first runs the loop, in which the other descriptor is read.
     const auto called = [&](std::size_t self) {
         this->trait.setReadable(descriptors[self], false);
         if (order.empty()) {

@@ -1,5 +1,5 @@
-// What every run loop must do while it is held: a part of the contract of support/RunLoop.h, which
-// contracts/RunLoopContract.h tells how to run.
+// Tests that every run loop must pass while it is held: a part of the contract of
+// support/RunLoop.h. contracts/RunLoopContract.h tells how to run them.
 
 #pragma once
 
@@ -21,7 +21,7 @@ protected:
         return this->trait.runUntil([this, &order] { return called == order; });
     }
 
-    std::string called; // what was, in order
+    std::string called; // names of the called ones, in order
 };
 
 TYPED_TEST_SUITE_P(RunLoopHoldsContract);
@@ -35,7 +35,7 @@ TYPED_TEST_P(RunLoopHoldsContract, WhatFallsDueDuringAHoldIsCalledAfterItInItsOr
     this->runAWhile();
     EXPECT_EQ(this->called, "");
     hold.reset();
-    EXPECT_EQ(this->called, ""); // nothing is called from inside the end of the hold
+    EXPECT_EQ(this->called, ""); // the end of the hold itself calls nothing
     EXPECT_TRUE(this->runUntilOrderIs("abc"));
     this->runAWhile();
     EXPECT_EQ(this->called, "abc");
@@ -147,7 +147,7 @@ TYPED_TEST_P(RunLoopHoldsContract, ACallbackMayBeginAHoldThatStandsWhenItHasRetu
     for (std::size_t count = 1; count <= 5; ++count) {
         ASSERT_TRUE(this->trait.runUntil([&] { return this->called.size() >= count; }));
         this->runAWhile();
-        EXPECT_EQ(this->called.size(), count); // one alone, of all that could be called
+        EXPECT_EQ(this->called.size(), count); // only one of all that could be called
         hold.reset();
     }
     EXPECT_EQ(reads, 2);

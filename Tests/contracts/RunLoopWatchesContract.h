@@ -1,5 +1,5 @@
-// What every run loop must do with watches: a part of the contract of support/RunLoop.h, which
-// contracts/RunLoopContract.h tells how to run.
+// Tests that every run loop must pass with watches: a part of the contract of support/RunLoop.h.
+// contracts/RunLoopContract.h tells how to run them.
 
 #pragma once
 

@@ -1,13 +1,13 @@
-// What every system log must do: the contract of support/SystemLog.h.
+// The contract of support/SystemLog.h: tests that every system log must pass.
 //
-// A test program runs it against its log by
+// A test program runs them against its log by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Syslog, SystemLogContract, SyslogTrait);
 //
 // with a trait that is made anew for each test and has
 //
 //     SystemLog& log();
-//     // What was written, line by line, without whatever the log puts in front of a line. Once.
+//     // Everything written, line by line, without the head that the log puts before a line.
 //     std::vector<std::string> lines();
 
 #pragma once

@@ -1,7 +1,8 @@
-// What every table view must do (Outlets.h), as tests that are compiled against each adapter.
+// The contract of table views (Outlets.h): tests that every adapter must pass.
 //
-// An adapter takes part by a trait, constructed from the data source of a table with the columns
-// "parameterName" and "parameterValue", that shows what a person sees and does what a person does:
+// An adapter takes part through a trait. It is constructed from the data source of a table with the
+// columns "parameterName" and "parameterValue", gives the contents that a person sees, and does
+// what a person does:
 //
 //   TableView& control();
 //   int rowCount();
@@ -24,7 +25,7 @@
 
 namespace kx {
 
-// Rows that a test changes at will; the view must not notice before it is told to reload.
+// Rows that a test changes at will. The view must notice a change only when it is told to reload.
 class ListedRows final : public TableViewDataSource {
 public:
     using Row = std::map<std::string, std::string, std::less<>>;

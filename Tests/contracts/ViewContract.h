@@ -1,6 +1,6 @@
-// What every view must do: the contract of support/View.h.
+// The contract of support/View.h: tests that every view must pass.
 //
-// A test program runs it against its view with a trait that is made anew for each test and has
+// A test program runs them against its view with a trait that is made anew for each test and has
 //
 //     View& view();
 

@@ -1,6 +1,6 @@
-// What every wall clock must do: the contract of support/WallClock.h.
+// The contract of support/WallClock.h: tests that every wall clock must pass.
 //
-// A test program runs it against its clock by
+// A test program runs them against its clock by
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(System, WallClockContract, SystemWallClockTrait);
 //

@@ -1,17 +1,17 @@
-// What the window, its alert and the application behind it must do (Outlets.h), as tests that are
-// compiled against each adapter.
+// The contract of the window, its alert and the application (Outlets.h): tests that every adapter
+// must pass.
 //
-// An adapter takes part by a trait, a default-constructible class:
+// An adapter takes part through a trait, a default-constructible class:
 //
 //   window        Window& control();
-//                 void type(const std::string& text), as a person does who has not ended the edit
-//                 void refuseToEnd(); from now on that edit gives up the focus only by force. Where
-//                 no edit ever refuses this does nothing.
-//                 bool isEditing(); std::vector<std::string> stored(), by edits that ended, in
-//                 order
+//                 void type(const std::string& text), as a person who has not ended the edit
+//                 void refuseToEnd(); after this the edit gives up the focus only by force. Does
+//                 nothing where no edit ever refuses.
+//                 bool isEditing(); std::vector<std::string> stored(), the texts that edits stored
+//                 when they ended, in order
 //   alert         Alert& control()
-//                 Texts runAlert(title, message, button), shows it, dismisses it as a person does
-//                 by its button, and gives what a person saw: title, message, text of every button
+//                 Texts runAlert(title, message, button), shows the alert, dismisses it by its
+//                 button, and returns the visible texts: title, message, text of every button
 //   application   Application& control();
 //                 bool runEvent(const std::function<void()>& event), true when the loop that
 //                 handles this event ended with it

@@ -19,7 +19,8 @@ protected:
         controller.applyEditParameterButton();
     }
 
-    // What Apply sends to a unit that was just discovered, "(nothing)" for nothing.
+    // The command that Apply sends to a unit that was just discovered; "(nothing)" when it sends
+    // none.
     std::string sentFor(const std::string& name, const std::string& value) {
         discover({SampleUnit()});
         const std::size_t before = sent().size();

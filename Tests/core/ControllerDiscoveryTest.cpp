@@ -14,7 +14,7 @@ SampleUnit unitWithSerial(std::uint8_t last) {
     return unit;
 }
 
-// A reply that holds only what is given here, behind a MAC address.
+// A reply with only these items, behind a MAC address.
 Bytes sparseReply(const Bytes& items, const Bytes& serial) {
     return joined(
         {SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6}), items, item("<S>", serial)});
@@ -80,7 +80,7 @@ TEST_F(ControllerDiscovery, ListsTheUnitsAfterTwoSecondsAndShowsTheFirst) {
 }
 
 TEST_F(ControllerDiscovery, CompletesOnceForEachDiscover) {
-    runLoop.advanceBy(2000ms); // the one of the launch
+    runLoop.advanceBy(2000ms); // completes the discovery of the launch
     const int reloads = window.unitParameterTableView.reloadCount();
     controller.discoverButton();
     runLoop.advanceBy(10s);
@@ -182,9 +182,9 @@ TEST_F(ControllerDiscovery, RepeatedDiscoverKeepsOneItemForEachUnit) {
     runLoop.advanceBy(1000ms);
     controller.discoverButton();
     receive(unitWithSerial(6).reply());
-    runLoop.advanceBy(1000ms); // the first completion
+    runLoop.advanceBy(1000ms); // completes the first discovery
     EXPECT_EQ(window.unitSelectPopUp.titles(), (Titles{serialFive, serialSix}));
-    runLoop.advanceBy(1000ms); // the second one
+    runLoop.advanceBy(1000ms); // completes the second one
     EXPECT_EQ(window.unitSelectPopUp.titles(), (Titles{serialFive, serialSix}));
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
 }

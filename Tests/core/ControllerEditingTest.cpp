@@ -176,7 +176,7 @@ TEST_F(ControllerEditing, RestoreWithoutASelectedUnitGoesToEveryUnit) {
     EXPECT_EQ(lastSent(), "255.255.255.255:3520 ^^IdZ");
     runLoop.advanceBy(1000ms);
     const Lines toEveryUnit{"255.255.255.255:3520 ^^IdX", "255.255.255.255:3520 ^^IdZ",
-                            "255.255.255.255:3520 ^^IdX"}; // the first is the launch
+                            "255.255.255.255:3520 ^^IdX"}; // the first is from the launch
     EXPECT_EQ(sent(), toEveryUnit);
     EXPECT_EQ(logSince(length), (Lines{"Request unit parameters with address: 255.255.255.255",
                                        "UDP server did send data.",

@@ -66,7 +66,7 @@ protected:
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
-    // A unit answers a discovery that is then completed, which selects the first unit.
+    // A unit answers a discovery, which is then completed and selects the first unit.
     void discover(const std::vector<SampleUnit>& units) {
         controller.discoverButton();
         for (const auto& unit : units) {
@@ -118,7 +118,7 @@ protected:
         controller.applyEditParameterButton();
     }
 
-    // The listener as it names itself in its events.
+    // The listener, without const, as its events have it.
     UDPEcho& listener() { return const_cast<UDPEcho&>(*controller.udpListener()); }
 
     Lines sent() const { return sentThrough(systemCalls); }
@@ -130,7 +130,7 @@ protected:
 
     Lines log() const { return linesOf(controller.eventLog()); }
 
-    // What was logged since the log had `length` bytes, without the first line break.
+    // The lines logged since the log had `length` bytes, without the first line break.
     Lines logSince(std::size_t length) const {
         const std::string& text = controller.eventLog();
         return length >= text.size() ? Lines{} : linesOf(text.substr(length + 1));

@@ -1,4 +1,4 @@
-// The choice of a network interface, which says where broadcasts go.
+// The choice of a network interface, which decides where broadcasts go.
 
 #include "ControllerFixture.h"
 
@@ -12,7 +12,7 @@ protected:
         interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.0");
     }
 
-    // Chooses the interface of this title and gives back where a discovery then goes.
+    // Chooses the interface with this title and returns the target of the next discovery.
     std::string broadcastThrough(const std::string& title) {
         window.interfacePopUp.selectItemWithTitle(title);
         controller.interfaceSelect();

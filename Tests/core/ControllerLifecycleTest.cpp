@@ -253,7 +253,7 @@ TEST_F(ControllerLifecycle, HelpThatDoesNotOpenSaysHowToReadIt) {
     EXPECT_EQ(quietLine(), "");
 }
 
-// No key would open it either.
+// The viewer with the Alt key would not open either.
 TEST_F(ControllerLifecycle, HelpThatIsNotThereIsNotAdvised) {
     launch();
     helpOpens = false;
@@ -280,7 +280,7 @@ TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
 
 TEST_F(ControllerLifecycle, TerminationCancelsDelayedCalls) {
     launch();
-    discover({SampleUnit()}); // without it a completion would find nothing to select
+    discover({SampleUnit()}); // otherwise a completion would have nothing to select
     controller.restoreDefaultSettings();
     controller.discoverButton();
     window.unitSelectPopUp.addItemsWithTitles({"01 02 03 04 05 06"});
@@ -289,8 +289,8 @@ TEST_F(ControllerLifecycle, TerminationCancelsDelayedCalls) {
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
     const int reloads = window.unitParameterTableView.reloadCount();
     runLoop.advanceBy(10s);
-    EXPECT_EQ(controller.eventLog(), "");               // what the reload would begin with
-    EXPECT_EQ(controller.selectedUnit(), std::nullopt); // what the completion would set
+    EXPECT_EQ(controller.eventLog(), "");               // the reload would begin an entry
+    EXPECT_EQ(controller.selectedUnit(), std::nullopt); // the completion would select a unit
     EXPECT_EQ(window.unitParameterTableView.reloadCount(), reloads);
 }
 

@@ -1,4 +1,4 @@
-// The listener's restart: by Discover, by the choice of a port and at launch, and what comes before
+// The listener's restart: by Discover, by the choice of a port and at launch, and the events before
 // and after it.
 
 #include "ControllerFixture.h"

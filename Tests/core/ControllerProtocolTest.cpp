@@ -13,7 +13,7 @@ class ControllerProtocol : public ControllerTest {
 protected:
     ControllerProtocol() { launch(); }
 
-    // What a datagram makes the log say, without the line that counts its bytes.
+    // The log lines of a datagram, without the line that counts its bytes.
     Lines logOf(const Bytes& datagram) {
         const auto length = controller.eventLog().size();
         receive(datagram);
@@ -176,7 +176,7 @@ TEST_F(ControllerProtocol, ItemCutShortStoresNothingAndKeepsTheEarlierRecord) {
     const auto before = controller.devices();
     Bytes datagram = SampleUnit().reply();
     datagram.pop_back(); // the serial number has five bytes left
-    datagram[36] = 99;   // and the address is another
+    datagram[36] = 99;   // the address is another one
     EXPECT_EQ(logOf(datagram), Lines{});
     EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
                                        "range {3, 6} exceeds data length 8"});

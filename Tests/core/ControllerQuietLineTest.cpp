@@ -1,4 +1,4 @@
-// The quiet line: what Apply will send, and what became of what was sent.
+// The quiet line: it tells what Apply will send, and the outcome of what was sent.
 
 #include "ControllerFixture.h"
 
@@ -295,7 +295,7 @@ TEST_F(ControllerQuietLine, SaysWhyARestoreOrAReloadWasNotSent) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     controller.restoreDefaultSettings();
     EXPECT_EQ(quietLine(), refused);
-    runLoop.advanceBy(1000ms); // asks for the parameters, which are sent
+    runLoop.advanceBy(1000ms); // sends the request for the parameters
     EXPECT_EQ(quietLine(), refused);
     controller.restoreDefaultSettings();
     EXPECT_EQ(quietLine(), "");
@@ -318,7 +318,7 @@ TEST_F(ControllerQuietLine, SaysWhyARestoreOrAReloadWasNotSent) {
     }
 }
 
-// A person did not press anything then.
+// A person pressed nothing at that time.
 TEST_F(ControllerQuietLine, OfTheRequestThatFollowsARestoreOnlyTheLogSaysThatItWasNotSent) {
     discover({SampleUnit()});
     selectRow(UnitParameter::unitID);

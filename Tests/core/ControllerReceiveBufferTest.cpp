@@ -1,4 +1,4 @@
-// The listener's receive buffer, and the line that says what found no room in it.
+// The listener's receive buffer, and the line that tells how many datagrams found no room in it.
 
 #include "ControllerFixture.h"
 
@@ -19,7 +19,7 @@ std::string manyDropped(const std::string& count) {
 
 class ControllerReceiveBuffer : public ControllerTest {
 protected:
-    // The system drops so many datagrams; one more is read.
+    // The system drops this many datagrams; one more is read.
     void drop(std::uint32_t datagrams) {
         receiveBuffers.drop(systemCalls.lastDescriptor(), datagrams);
         receive(SampleUnit().reply());

@@ -1,4 +1,4 @@
-// The test doubles keep the contracts of what they stand for.
+// The test doubles keep the contracts of the seams that they stand for.
 
 #include "contracts/AuthorizationServiceContract.h"
 #include "contracts/BrokenContract.h"
@@ -167,7 +167,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, LocalizedTextContract, ScriptedLocalize
 
 } // namespace
 
-// --- What only the doubles have ---
+// --- Behaviour that only the doubles have ---
 
 TEST(ManualRunLoop, TheClockStopsAtEachDueTimeOnTheWay) {
     ManualRunLoop loop;

@@ -14,8 +14,8 @@ class ForeignDatagrams : public ControllerTest {
 protected:
     ForeignDatagrams() { launch(); }
 
-    // Delivers a datagram and compares all that it changed with what the rules say. No unit is ever
-    // selected here, because no discovery completes.
+    // Delivers a datagram and compares all its effects with the rules. No unit is ever selected
+    // here, because no discovery completes.
     void expectOutcome(const Bytes& datagram) {
         const PlainOutcome expected = PlainDecoder::outcomeOf(datagram);
         const auto logLength = controller.eventLog().size();
@@ -59,7 +59,7 @@ protected:
     std::map<std::string, PlainRecord> registry;
 };
 
-// `length` bytes: a beginning, and then a pattern over and over.
+// `length` bytes: a beginning, and then a pattern that repeats.
 Bytes filled(const Bytes& beginning, const Bytes& pattern, std::size_t length) {
     Bytes result = beginning;
     while (result.size() < length) {
@@ -88,7 +88,7 @@ TEST_F(ForeignDatagrams, OfEveryLengthAndSeveralFillings) {
         {{}, {0xFF}},
         {{}, textBytes("^^<U>")},
         {unit.header(), textBytes("text ")},
-        {unit.header(), {0xC3, 0xA4}}, // valid UTF-8 at every other length
+        {unit.header(), {0xC3, 0xA4}}, // at every other length this is valid UTF-8
         {unit.header(), item("<M>", unit.internalMAC)},
         {unit.header(), unit.parameterList()},
         {unit.reply(), item("<O>", unit.serial)},

@@ -1,5 +1,5 @@
-// Every contract of the endpoint, broken once: those that a caller can break, and those that only a
-// system could which does not keep its own.
+// Every contract of the endpoint, broken once: the contracts that a caller can break, and those
+// that only a faulty system can break.
 
 #include "UDPEchoFixture.h"
 #include "contracts/BrokenContract.h"
@@ -153,7 +153,7 @@ TEST_F(UDPEchoContractDeathTest, ThereIsASocketExactlyWhenTheSetUpSucceeded) {
     systemCalls.setObserver([&](const ScriptedSystemCalls::Call& call) {
         if (call.operation == Operation::close && !hasCalledBack) {
             hasCalledBack = true;
-            startServer(); // from inside the failing one
+            startServer(); // called from inside the start that fails
         }
     });
     EXPECT_BROKEN(startServer(), "(err == 0) == (self->_cfSocket != NULL)");
@@ -305,7 +305,7 @@ TEST_F(UDPEchoContractDeathTest, TheSocketCallbackIsForTheEndpointsOwnSocket) {
         "s == obj->_cfSocket");
 }
 
-// A stopped endpoint has no socket, so that none is its own.
+// A stopped endpoint has no socket, so a null socket counts as its own.
 
 TEST_F(UDPEchoContractDeathTest, TheSocketCallbackIsForReadingOnly) {
     EXPECT_BROKEN(

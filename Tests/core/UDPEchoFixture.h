@@ -1,4 +1,4 @@
-// An endpoint on doubles, and a delegate that writes down what it is told.
+// An endpoint on doubles, and a delegate that records its events.
 
 #pragma once
 
@@ -18,7 +18,7 @@
 
 namespace kx {
 
-// What a delegate was told; what a method does not carry stays empty.
+// An event of a delegate; fields that its method does not have stay empty.
 struct EchoEvent {
     enum Kind { receivedData, receivedError, sentData, failedToSend, started, stopped };
 
@@ -32,7 +32,7 @@ struct EchoEvent {
 class RecordingDelegate final : public UDPEchoDelegate {
 public:
     std::vector<EchoEvent> events;
-    std::function<void(UDPEcho&)> onEvent; // runs inside each method
+    std::function<void(UDPEcho&)> onEvent; // called inside each method
 
     std::vector<EchoEvent::Kind> kinds() const {
         std::vector<EchoEvent::Kind> result;
@@ -69,7 +69,7 @@ public:
 private:
     void note(UDPEcho& echo, const EchoEvent& event) { note(echo, event, {}, {}); }
 
-    // The arguments must stay what they are until the method returns, whatever happens meanwhile.
+    // The arguments must not change until the method returns, whatever happens meanwhile.
     void note(UDPEcho& echo, const EchoEvent& event, const Bytes& data, const Bytes& address) {
         events.push_back(event);
         if (onEvent) {
@@ -131,7 +131,7 @@ protected:
         loop.makeReadable(echo->nativeSocket());
     }
 
-    // The one event since the last call of this.
+    // The one event since the last call of this function.
     EchoEvent onlyEvent() {
         EXPECT_EQ(delegate.events.size(), 1U);
         auto event = delegate.events.empty() ? EchoEvent{} : delegate.events.back();

@@ -1,4 +1,4 @@
-// What a delegate may do to the endpoint while the endpoint is calling it.
+// Actions of a delegate on the endpoint while the endpoint calls it.
 
 #include "UDPEchoFixture.h"
 

@@ -1,8 +1,8 @@
-"""A person who knows the help book alone finds a unit and changes its ports.
+"""A person who knows only the help book finds a unit and changes its ports.
 
-Each step quotes what the book says, which must stand there, and is taken with the mouse and the
-keyboard. KX_PICTURES, when set, is a folder for a picture of the screen at every step, which
-Debian's package imagemagick takes.
+Each step quotes sentences that the book must contain, and is taken with the mouse and the keyboard.
+KX_PICTURES, when set, is a folder for a picture of the screen at every step. The pictures need
+Debian's package imagemagick.
 """
 
 import os
@@ -37,7 +37,7 @@ class ByTheHelpBook(unittest.TestCase):
         if folder:
             self.pictures += 1
             path = pathlib.Path(folder) / f"{self.id().rpartition('_')[2]}-{self.pictures:02}-{name}.png"
-            time.sleep(0.5)  # what moves comes to rest
+            time.sleep(0.5)  # lets movements end
             subprocess.run(["import", "-window", "root", path], check=True)
 
     def shown(self, parameter):
@@ -107,12 +107,12 @@ class ByTheHelpBook(unittest.TestCase):
         program.wait_for_units(3)
         program.choose("Unit:", UNIT)
         self.read("first-steps.html", "device Port number is the port on which the unit itself takes commands.",
-                  "The line below the edit row then says that the unit accepted the command and was asked for its "
+                  "The line below the edit row then says that the unit accepted a command and was asked for its "
                   "parameters, and the table keeps the old value")
         self.change("device Port number", "10001")
         self.wait_for_note("Apply sends ^^IdP2711: device port 10001.")
         click(program.button("Apply"))
-        self.wait_for_note("The unit accepted ^^IdP2711 and was asked for its parameters.")
+        self.wait_for_note("The unit accepted a command and was asked for its parameters.")
         self.assertEqual(self.shown("device Port number"), "10000")
         self.picture("device-port-applied")
 

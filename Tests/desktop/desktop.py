@@ -1,7 +1,7 @@
-"""The running program, driven as assistive technology does it: by what it tells the accessibility bus,
-and by keyboard and mouse.
+"""Drives the running program as assistive technology does: with the facts that the program tells the
+accessibility bus, and with keyboard and mouse.
 
-Whatever waits does so for twenty seconds at most, and fails when that was in vain.
+Functions that wait do so for twenty seconds at most, and fail when the wait was in vain.
 """
 
 import os
@@ -16,11 +16,11 @@ from gi.repository import Atspi, GLib  # noqa: E402
 PATIENCE_IN_SECONDS = 20.0
 
 KEYS = {"Tab": 0xFF09, "Return": 0xFF0D, "Escape": 0xFF1B, "Down": 0xFF54, "F1": 0xFFBE}
-MODIFIERS = {"Shift": 50, "Ctrl": 37, "Alt": 64}  # the codes of the keys themselves
+MODIFIERS = {"Shift": 50, "Ctrl": 37, "Alt": 64}  # key codes
 
 
 def wait_for(what, condition):
-    """Waits until the condition gives something true, and returns that."""
+    """Waits until the condition returns a true value, and returns this value."""
     deadline = time.monotonic() + PATIENCE_IN_SECONDS
     while True:
         while GLib.MainContext.default().iteration(False):
@@ -28,7 +28,7 @@ def wait_for(what, condition):
         try:
             found = condition()
         except GLib.GError:
-            found = None  # what was asked has just gone
+            found = None  # the object has just gone
         if found:
             return found
         if time.monotonic() > deadline:
@@ -40,7 +40,7 @@ def insist(what, act, condition):
     """Acts once every three seconds until the condition holds.
 
     On a slow machine two clicks may be too far apart for a double click, a key may come before the
-    window listens to it, and a button takes no click while what it moves is still moving.
+    window listens to it, and a button takes no click while the part that it moves is still moving.
     """
     due = time.monotonic()
 
@@ -71,7 +71,7 @@ def states(accessible):
 
 
 def role_of(accessible):
-    """The name of its role. Older versions of the bindings call a button a push button."""
+    """The name of a control's role. Older versions of the bindings call a button a push button."""
     name = accessible.get_role_name()
     return "button" if name == "push button" else name
 
@@ -94,7 +94,7 @@ def perform(accessible, action):
 
 
 def press(combination):
-    """Presses a key, with the modifiers before it, as in "Ctrl+Shift+Return"."""
+    """Presses a key with the modifiers that are named before it, as in "Ctrl+Shift+Return"."""
     *modifiers, key = combination.split("+")
     for modifier in modifiers:
         Atspi.generate_keyboard_event(MODIFIERS[modifier], None, Atspi.KeySynthType.PRESS)
@@ -109,7 +109,7 @@ def type_text(text):
 
 
 def place_of(accessible):
-    """Where it is on the screen: left, top, right, bottom."""
+    """The place of a control on the screen: left, top, right, bottom."""
     box = Atspi.Component.get_extents(accessible, Atspi.CoordType.SCREEN)
     return box.x, box.y, box.x + box.width, box.y + box.height
 
@@ -127,9 +127,9 @@ class Application:
     """
 
     def __init__(self, program):
-        self.focused = ("nothing", "")  # role and name of what got the keyboard last
-        self.announced = []  # the texts of notifications, as they appeared
-        self.described = []  # the labels of controls that were described anew
+        self.focused = ("nothing", "")  # role and name of the last control that got the keyboard
+        self.announced = []  # the texts of notifications, in order
+        self.described = []  # the labels of controls with a new description
         self._listeners = [self._listen("object:state-changed:focused", self._focus_did_move),
                            self._listen("object:state-changed:showing", self._something_did_appear),
                            self._listen("object:property-change:accessible-description",
@@ -138,7 +138,7 @@ class Application:
         environment.pop("BROWSER", None)
         self._process = subprocess.Popen([program], env=environment)
         self.root = wait_for("the program", lambda: self._named(Atspi.get_desktop(0), "KXConfig"))
-        self.root.set_cache_mask(Atspi.Cache.NONE)  # what is asked is what is shown now
+        self.root.set_cache_mask(Atspi.Cache.NONE)  # every query gives the present state
         self.window = wait_for("an active window", self._active_window)
 
     def close(self):
@@ -163,7 +163,7 @@ class Application:
         return wait_for(f"the {role} {name}", find)
 
     def window_titled(self, title):
-        """The window that is on the screen under this title, or None."""
+        """The window with this title on the screen, or None."""
         window = self._named(self.root, title)
         return window if window is not None and "showing" in states(window) else None
 
@@ -187,7 +187,7 @@ class Application:
                 for row in range(Atspi.Table.get_n_rows(table))]
 
     def discover(self, count):
-        """Presses Discover, once the units of the discovery before are listed, and waits for so many."""
+        """Presses Discover, once the earlier discovery has listed its units, and waits for COUNT units."""
         self.wait_for_units(count)
         self.described.clear()
         perform(self.button("Discover"), "Press")
@@ -195,7 +195,7 @@ class Application:
         self.wait_for_units(count)
 
     def wait_for_units(self, count):
-        """Waits until so many units are listed."""
+        """Waits until this many units are listed."""
         units = self.pop_up("Unit:")
         wait_for(f"{count} units", lambda: len(children(children(units)[0])) == count)
 
@@ -211,13 +211,13 @@ class Application:
 
         def is_at_rest():
             window, place = place_of(self.window), place_of(log)
-            # It is then as far from the lower edge as from the one at its side.
+            # Its distances to the lower edge and to the edge at its side are then equal.
             return window[3] - place[3] == place[0] - window[0]
         wait_for("the event log at rest", is_at_rest)
         return text_of(log).split("\n")
 
     def choose(self, label, title):
-        """Opens the list of a pop-up with the mouse, and clicks the item of this title."""
+        """Opens the list of a pop-up with the mouse, and clicks the item with this title."""
         pop_up = self.pop_up(label)
         click(pop_up)
         items = wait_for("an open list", lambda: children(pop_up)[0]
@@ -236,7 +236,7 @@ class Application:
         return notes[0].get_name()
 
     def wait_for_focus(self, role, name):
-        """Waits until the keyboard is at this control, by its name or its label."""
+        """Waits until the control with this name or label has the keyboard."""
         wait_for(f"the keyboard at the {role} {name}", lambda: self.focused == (role, name))
 
     def _active_window(self):
@@ -258,7 +258,7 @@ class Application:
             try:
                 heard(told)
             except GLib.GError:
-                pass  # it has gone before it could be asked
+                pass  # it was gone before the query
         listener = Atspi.EventListener.new(report)
         listener.register(event)
         return listener, event

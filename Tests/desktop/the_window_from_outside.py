@@ -1,4 +1,4 @@
-"""What a screen reader sees of the running program, and what can be done by its means and the keyboard."""
+"""The running program as a screen reader sees it, and its use with a screen reader and the keyboard."""
 
 import os
 import unittest

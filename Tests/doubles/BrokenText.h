@@ -1,5 +1,5 @@
 // Localized text that throws for one message, as a broken translation might. It is the process's
-// while it lives; every other text stands for itself.
+// source while it lives. Every other text stands for itself.
 
 #pragma once
 

@@ -1,4 +1,4 @@
-// A calendar clock that stands still at the time the test chose.
+// A calendar clock that stands still at a time that the test chooses.
 
 #pragma once
 

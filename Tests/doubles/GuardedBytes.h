@@ -1,5 +1,5 @@
-// Bytes that end where a page of memory ends behind which nothing may be read: whoever reads beyond
-// them ends the test program, in every build.
+// Bytes that end exactly at the end of a memory page. The next page cannot be read, so a read
+// beyond the bytes ends the test program, in every build.
 
 #pragma once
 

@@ -1,4 +1,4 @@
-// Windows that the test lists, by their delegates.
+// A list of windows that the test gives as a list of their delegates.
 
 #pragma once
 

@@ -1,8 +1,8 @@
 // A run loop whose clock and whose descriptors the test moves by hand.
 //
 // Nothing happens until the test says so: time passes in advanceBy(), and descriptors are numbers
-// that are readable when the test says so; every number from 0 on counts as open. Otherwise it
-// keeps the contract of support/RunLoop.h to the letter.
+// that are readable when the test says so. Every number from 0 on counts as open. In all other
+// respects it keeps the contract of support/RunLoop.h.
 
 #pragma once
 
@@ -44,8 +44,8 @@ public:
     }
 
     // Time passes from one due time to the next, and a millisecond with each turn in which
-    // something can be read. Throws std::logic_error when nothing is left that could be called,
-    // since a real loop would rest for ever.
+    // something can be read. Throws std::logic_error when there is nothing left to call, because a
+    // real loop would rest for ever.
     void runUntil(const std::function<bool()>& isDone) override {
         while (!isDone()) {
             require(!isHeld(), "the loop is not held", "Sources/support/RunLoop");
@@ -66,7 +66,8 @@ public:
     }
 
     // Lets time pass. The clock stops at each due time on the way, in order, for as many turns as
-    // there are calls due; calls asked for meanwhile run too when they fall due within the time.
+    // there are calls due. Calls that are requested meanwhile run too when they fall due within the
+    // time.
     void advanceBy(Milliseconds time) {
         const auto end = _now + time;
         do {
@@ -76,7 +77,7 @@ public:
         _now = end;
     }
 
-    // One turn in which `descriptor` can be read.
+    // Runs one turn in which `descriptor` can be read.
     void makeReadable(int descriptor) {
         const bool wasReadable = _readable.count(descriptor) > 0;
         setReadable(descriptor, true);
@@ -84,7 +85,7 @@ public:
         setReadable(descriptor, wasReadable);
     }
 
-    // Says whether `descriptor` can be read, from now on.
+    // Sets whether `descriptor` can be read after this call.
     void setReadable(int descriptor, bool readable) {
         if (readable) {
             _readable.insert(descriptor);
@@ -94,7 +95,8 @@ public:
     }
 
     // Calls the watches of readable descriptors and the calls that are due, each once, or nothing
-    // while the loop is held; no time passes. What is asked for meanwhile waits for the next turn.
+    // while the loop is held; no time passes. Calls and watches that are requested meanwhile wait
+    // for the next turn.
     void runOneTurn() {
         const auto firstLater = _nextOrder;
         for (const auto order : readyWatches()) {
@@ -112,7 +114,7 @@ public:
         }
     }
 
-    // From now on the system cannot watch descriptors.
+    // After this, the system cannot watch descriptors.
     void refuseToWatch() { _refusesToWatch = true; }
 
     std::size_t watchCount() const { return _watches.size(); }
@@ -135,7 +137,8 @@ private:
 
     class Registration final : public Source {
     public:
-        // `end` extracts rather than erases: what a callback holds may end registrations in turn.
+        // `end` extracts and does not erase, because the objects in a callback may end other
+        // registrations in turn.
         explicit Registration(std::function<void()> end)
             : _end(std::move(end)) {}
         ~Registration() override { _end(); }

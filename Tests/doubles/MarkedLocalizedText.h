@@ -1,7 +1,7 @@
 // Localized texts that show that they were looked up: each is its key in angle brackets.
 //
-// It is the process's source from its construction to its destruction; then the one before it is
-// back.
+// It is the process's source from its construction to its destruction, and then restores the
+// earlier one.
 
 #pragma once
 

@@ -1,7 +1,7 @@
 // A configuration store whose records are dictionaries in memory, written by the test.
 //
-// Changes are delivered when the test says so, in deliverChanges(). Patterns are matched as regular
-// expressions. Sessions that nobody closed are closed with the store.
+// deliverChanges() delivers the changes when the test calls it. Patterns are matched as regular
+// expressions. Sessions that are still open are closed with the store.
 
 #pragma once
 
@@ -52,7 +52,7 @@ public:
 
     int SCError() const override { return lastError; }
 
-    // Writes a record of the dynamic store, or removes it, and notes the change for every session
+    // Writes a record of the dynamic store, or removes it, and records the change for every session
     // that watches the key.
     void setValue(const std::string& key, PropertyDictionary value) {
         const auto before = valueOf(_values, key);
@@ -75,7 +75,8 @@ public:
         _paths.insert_or_assign(path, std::move(value));
     }
 
-    // One turn of the run loop: tells every session with a running source what has changed.
+    // Plays one turn of the run loop: tells every session with a running source which keys have
+    // changed.
     void deliverChanges() {
         const auto sessions = _sessions;
         for (auto* session : sessions) {
@@ -96,15 +97,15 @@ public:
         lastError = 0;
     }
 
-    // How sessions were named, in the order in which they were opened.
+    // The names of the sessions, in the order in which they were opened.
     const std::vector<std::string>& sessionNames() const { return _sessionNames; }
     const std::vector<std::string>& preferencesNames() const { return _preferencesNames; }
 
-    // How many sessions are open now.
+    // The number of sessions that are open now.
     std::size_t openSessionCount() const { return _sessions.size(); }
     int openPreferencesCount() const { return _openPreferences; }
 
-    // What fails from now on, and the code that it fails with.
+    // The operations that fail from now on, and the status code of the failure.
     bool refusesSessions = false;
     bool refusesPreferences = false;
     bool refusesNotificationKeys = false;
@@ -231,7 +232,7 @@ private:
     Records<PropertyDictionary> _values;
     Records<PropertyListValue> _preferences;
     Records<PropertyDictionary> _paths;
-    std::vector<Session*> _sessions; // open ones, oldest first
+    std::vector<Session*> _sessions; // open sessions, oldest first
     std::vector<std::string> _sessionNames;
     std::vector<std::string> _preferencesNames;
     int _openPreferences = 0;

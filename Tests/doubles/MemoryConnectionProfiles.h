@@ -1,4 +1,4 @@
-// Connection profiles that the test writes. A change is told at once.
+// Connection profiles that the test writes. Changes are reported at once.
 
 #pragma once
 

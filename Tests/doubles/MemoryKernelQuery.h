@@ -21,7 +21,7 @@ class MemoryKernelQuery final : public KernelQuery {
 public:
     struct Call {
         std::vector<int> name;
-        std::optional<std::size_t> capacity; // of the buffer; absent for a probe of the size
+        std::optional<std::size_t> capacity; // length of the buffer; absent for a probe of the size
     };
 
     int sysctl(std::span<const int> name, std::uint8_t* buffer, std::size_t& length) override {
@@ -60,7 +60,7 @@ public:
     std::vector<Call> calls;
     bool failsProbe = false;
     bool failsRead = false;
-    Bytes growth; // what a value gains after its size was asked for
+    Bytes growth; // bytes that a value gains after its size was asked for
     std::string loopback = "lo0";
 
 private:

@@ -1,4 +1,4 @@
-// Memory has run out for whoever uses the default memory resource (std::pmr), while this lives.
+// While an object of this class lives, the default memory resource (std::pmr) has no more memory.
 
 #pragma once
 

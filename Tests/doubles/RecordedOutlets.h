@@ -1,5 +1,5 @@
-// The main window's controls in memory: they keep the rules of Outlets.h and let a test read what a
-// person would see, and do what a person would do.
+// The main window's controls in memory. They keep the rules of Outlets.h. A test can read the texts
+// that a person would see, and act as a person would.
 
 #pragma once
 
@@ -55,10 +55,10 @@ public:
 
     void setEnabled(bool enabled) override { _isEnabled = enabled; }
 
-    // Runs when a person chooses an item.
+    // Sets the action that runs when a person chooses an item.
     void setAction(std::function<void()> action) { _action = std::move(action); }
 
-    // What a person does who chooses an item.
+    // Acts as a person who chooses an item.
     void chooseItem(std::string_view title) {
         selectItemWithTitle(title);
         if (_action) {
@@ -81,10 +81,10 @@ public:
     void setStringValue(std::string_view text) override { _text = text; }
     std::string stringValue() const override { return _text; }
 
-    // Runs when a person types.
+    // Sets the action that runs when a person types.
     void setAction(std::function<void()> action) { _action = std::move(action); }
 
-    // What a person does who types at the end.
+    // Acts as a person who types at the end.
     void type(std::string_view text) {
         _text += text;
         if (_action) {
@@ -114,12 +114,12 @@ private:
     int _setCount = 0;
 };
 
-// Asks its data source only in reloadData(), and shows what it was told then.
+// Asks its data source only in reloadData(), and shows the answers of that time.
 class RecordedTableView final : public TableView {
 public:
-    using Row = std::map<std::string, std::string>; // a cell's text by its column's identifier
+    using Row = std::map<std::string, std::string>; // texts of cells by column identifier
 
-    // May be null, and is then connected later.
+    // `dataSource` may be null and set later.
     explicit RecordedTableView(TableViewDataSource* dataSource)
         : _dataSource(dataSource) {}
 
@@ -144,10 +144,10 @@ public:
 
     int selectedRow() const override { return _selectedRow; }
 
-    // Runs when a person selects another row or none.
+    // Sets the action that runs when a person selects another row or none.
     void setAction(std::function<void()> action) { _action = std::move(action); }
 
-    // What a person does who selects a row; -1 selects nothing.
+    // Acts as a person who selects a row; -1 selects nothing.
     void selectRow(int row) {
         const int before = std::exchange(_selectedRow, row);
         if (row != before && _action) {
@@ -155,7 +155,7 @@ public:
         }
     }
 
-    // What a person does who types into a cell and ends the edit.
+    // Acts as a person who types into a cell and ends the edit.
     void typeIntoCell(int row, const std::string& identifier, const std::string& text) {
         _dataSource->tableViewSetObjectValueForTableColumnRow(text, {identifier}, row);
     }
@@ -245,7 +245,7 @@ public:
         commitEdit();
     }
 
-    // An edit is open; `commit` stores what was typed, once, when the edit ends.
+    // Opens an edit. `commit` stores the typed text, once, when the edit ends.
     void beginEdit(std::function<void()> commit, bool refusesToEnd) {
         _commit = std::move(commit);
         _editRefusesToEnd = refusesToEnd;
@@ -268,7 +268,7 @@ private:
     int _endEditingCount = 0;
 };
 
-// A person dismisses each alert at once, after what the test lets happen meanwhile.
+// A person dismisses each alert at once, after the test's own action for the meantime.
 class RecordedAlert final : public Alert {
 public:
     struct Shown {
@@ -287,7 +287,7 @@ public:
         }
     }
 
-    // Runs while an alert is shown.
+    // Sets an action that runs while an alert is shown.
     void setMeanwhile(std::function<void()> meanwhile) { _meanwhile = std::move(meanwhile); }
 
     const std::vector<Shown>& shown() const { return _shown; }
@@ -307,7 +307,7 @@ private:
     int _terminateCount = 0;
 };
 
-// All controls of the main window, with the ports and options that the real one offers.
+// All controls of the main window, with the ports and options of the real one.
 struct RecordedMainWindow {
     RecordedWindow window;
     RecordedPopUpButton interfacePopUp;
@@ -317,7 +317,7 @@ struct RecordedMainWindow {
     RecordedTextField unitIDField;
     GXArrayTable unitParameterTable;
     RecordedTableView unitParameterTableView{&unitParameterTable};
-    RecordedTableView editParameterTableView{nullptr}; // to be connected to the controller
+    RecordedTableView editParameterTableView{nullptr}; // the controller becomes its data source
     RecordedTextLabel quietLine;
     RecordedPopUpButton optionCommandPopUp{{"V  Version", "-Z  Set clock"}};
     RecordedTextField optionCommandField;

@@ -1,6 +1,7 @@
 // A system log that keeps its lines for the test to read.
 //
-// It is the process's log from its construction to its destruction; then the one before it is back.
+// It is the process's log from its construction to its destruction, and then restores the earlier
+// one.
 
 #pragma once
 

@@ -1,7 +1,7 @@
-// Interface lists in the BSD routing-message layout, put together byte by byte.
+// Builds interface lists in the BSD routing-message layout, byte by byte.
 //
-// It shares no code and no constant with what takes such lists apart, so that one's mistake is not
-// the other's.
+// It shares no code and no constant with the decoder of such lists, so that both cannot make the
+// same mistake.
 
 #pragma once
 
@@ -44,7 +44,7 @@ public:
         return addressWith({{2, socketAddress(2, mask)}, {5, socketAddress(2, address)}});
     }
 
-    // An address message with these socket addresses by slot, each as long as it says.
+    // An address message with these socket addresses by slot. The length byte of each is its own.
     RoutingMessageBuilder& addressWith(const std::map<unsigned, Buffer>& socketAddresses) {
         std::uint32_t mask = 0;
         Buffer body(20 - 4, 0xEE);
@@ -56,7 +56,7 @@ public:
         return message(12, body);
     }
 
-    // Any message: its type and what follows that.
+    // Any message: its type and the bytes behind the type.
     RoutingMessageBuilder& message(std::uint8_t type, const Buffer& body) {
         const std::size_t start = _bytes.size();
         append(_bytes, Buffer{0, 0, 5, type});

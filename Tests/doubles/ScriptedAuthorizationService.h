@@ -1,4 +1,4 @@
-// An authority whose answers the test writes, and which runs nothing: it notes what it was asked.
+// An authority whose answers the test writes. It runs no tool and records its requests.
 
 #pragma once
 
@@ -35,19 +35,19 @@ public:
         return std::make_unique<Reference>(*this);
     }
 
-    // From now on there is no authority.
+    // After this, there is no authority.
     void beAbsent() { _isAbsent = true; }
 
-    // What the next dialogs end with; success at first.
+    // Sets the answer to the next dialogs; success at first.
     void answerDialogsWith(std::int32_t status) { _dialogAnswer = status; }
 
-    // Runs while a person is asked.
+    // Sets an action that runs while a person is asked.
     void setMeanwhile(std::function<void()> meanwhile) { _meanwhile = std::move(meanwhile); }
 
-    // What starting a tool gives from now on; success at first.
+    // Sets the result of starting a tool; success at first.
     void startToolsWith(std::int32_t status) { _startStatus = status; }
 
-    // Rights that were given run out: a person is asked anew.
+    // Ends the rights that were given: a person is asked anew.
     void revokeRights() { ++_revocations; }
 
     // Ends the tool that has run longest.
@@ -56,13 +56,13 @@ public:
             throw std::logic_error("no tool runs");
         }
         const auto ended = std::move(_running.front().second);
-        _running.erase(_running.begin()); // first: it may destroy references
+        _running.erase(_running.begin()); // first, because it may destroy references
         if (ended) {
             ended(status);
         }
     }
 
-    // Ends the tools that run, each with this status, as a turn of the run loop would tell it.
+    // Ends the running tools, each with this status, as a turn of the run loop would report it.
     void endTools(int status) {
         for (auto left = _running.size(); left > 0 && !_running.empty(); --left) {
             endOldestTool(status);
@@ -72,8 +72,8 @@ public:
     const std::vector<Request>& requests() const { return _requests; }
     const std::vector<Run>& runs() const { return _runs; }
     int dialogs() const { return _dialogs; }                 // how often a person was asked
-    int referencesMade() const { return _references; }       // how many there have been
-    int referencesAlive() const { return _aliveReferences; } // how many there are
+    int referencesMade() const { return _references; }       // number of references ever made
+    int referencesAlive() const { return _aliveReferences; } // number of references now
 
 private:
     class Reference final : public AuthorizationReference {
@@ -121,7 +121,7 @@ private:
 
     private:
         ScriptedAuthorizationService& _service;
-        std::set<std::string> _held; // values of the rights
+        std::set<std::string> _held; // values of the held rights
         int _revocations = _service._revocations;
     };
 

@@ -13,7 +13,7 @@ namespace kx {
 
 class ScriptedHelpServices final : public HelpServices {
 public:
-    // The folder of the program's resources; a relative one makes every path relative.
+    // The folder of the program's resources. A relative folder makes every path relative.
     explicit ScriptedHelpServices(std::string folder = "/opt/kxconfig")
         : _folder(std::move(folder)) {}
 
@@ -51,7 +51,7 @@ public:
     }
 
     std::vector<std::string> openedURLs;
-    std::vector<std::string> shownAnchors; // as "BOOK: ANCHOR"
+    std::vector<std::string> shownAnchors; // in the form "BOOK: ANCHOR"
 
 private:
     std::string _folder;

@@ -28,7 +28,7 @@ public:
         return std::make_unique<ScriptedRequest>(*this, hostName);
     }
 
-    // What a name resolves to; a name without an answer never gets a report.
+    // Sets the result for a name. A name without an answer never gets a report.
     void setAnswer(const std::string& hostName, HostResolution resolution) {
         _answers[hostName] = std::move(resolution);
     }
@@ -39,10 +39,10 @@ public:
         setAnswer(hostName, {error, std::nullopt});
     }
 
-    // From now on resolutions cannot be started, for this reason.
+    // After this, resolutions cannot be started, for this reason.
     void refuseToStart(StreamError error) { _startError = error; }
 
-    // From now on there are not even requests: what a real resolver never does.
+    // After this, no request is made at all. A real resolver never does this.
     void makeNoRequests() { _makesNoRequests = true; }
 
     // Reports to each pending request whose name has an answer, in the order in which they started.
@@ -62,7 +62,7 @@ public:
     const std::vector<std::string>& cancelledNames() const { return _cancelledNames; }
     std::size_t pendingCount() const { return _pending.size(); }
 
-    // How many requests exist, also those that are not started or have reported.
+    // The number of requests that exist, including those that are not started or have reported.
     std::size_t requestCount() const { return _requestCount; }
 
 private:
@@ -96,7 +96,7 @@ private:
 
         const std::string& hostName() const { return _hostName; }
 
-        // Taken to the stack, since the report may destroy this request or change the script.
+        // Moved to the stack, because the report may destroy this request or change the script.
         void report(HostResolution resolution) {
             const auto report = std::move(_report);
             const HostResolution given = std::move(resolution);

@@ -1,4 +1,4 @@
-// The host's network interfaces as a test wants them.
+// The host's network interfaces, written by the test.
 
 #pragma once
 
@@ -16,14 +16,13 @@ namespace kx {
 
 class ScriptedNetworkInterfaces final : public NetworkInterfaces {
 public:
-    // Appends an interface to those that are offered. `serviceID` is the identifier that belongs to
-    // the title.
+    // Appends an interface to the list. `serviceID` is the identifier that belongs to the title.
     void addTitle(std::string title, std::string serviceID) {
         _titles.push_back(std::move(title));
         _serviceIDs.push_back(std::move(serviceID));
     }
 
-    // Says which configured service an interface has.
+    // Sets the configured service of an interface.
     void setService(std::string bsdName, std::string serviceID) {
         _services[std::move(bsdName)] = std::move(serviceID);
     }
@@ -34,10 +33,10 @@ public:
                                std::move(value));
     }
 
-    // All interfaces are gone.
+    // Removes all interfaces.
     void clear() { *this = ScriptedNetworkInterfaces(); }
 
-    // A configured service with one IPv4 address, the usual case, in one call.
+    // Adds a configured service with one IPv4 address, the usual case, in one call.
     void addService(const std::string& name, const std::string& bsdName, const std::string& address,
                     const std::string& mask) {
         const std::string serviceID = "service-" + bsdName;

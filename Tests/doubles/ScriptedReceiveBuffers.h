@@ -1,5 +1,5 @@
-// Receive buffers of a system that the test plays: what is asked for is recorded, and datagrams are
-// dropped when the test says so. Every number from 0 on counts as an open descriptor.
+// Receive buffers of a system that the test plays. They record their requests and drop datagrams
+// when the test says so. Every number from 0 on counts as an open descriptor.
 
 #pragma once
 
@@ -19,16 +19,16 @@ public:
         bool operator==(const Wish&) const = default;
     };
 
-    // The system drops so many datagrams for this socket.
+    // The system drops this many datagrams for this socket.
     void drop(int descriptor, std::uint32_t datagrams) { _dropped[descriptor] += datagrams; }
 
-    // From now on the system tells no counts.
+    // After this, the system tells no counts.
     void tellNothing() { _tells = false; }
 
-    // Everything that was asked for, in order.
+    // Every request, in order.
     const std::vector<Wish>& wishes() const { return _wishes; }
 
-    // How often a count was asked for.
+    // The number of times a count was requested.
     int lookCount() const { return _lookCount; }
 
     void enlarge(int descriptor, int bytes) override { _wishes.push_back({descriptor, bytes}); }

@@ -1,9 +1,9 @@
 // Datagram sockets of a system that the test plays. Nothing reaches the network.
 //
-// Descriptors are numbers from 1000 on, which no real descriptor of a test has. Every call is
-// recorded. Without a script each call does what it does on a real system, failures included;
-// failNext() and giveNext() prepare the outcome of the next call of an operation, and stand in line
-// when there are several. Datagrams that are sent arrive nowhere; sockets do not block.
+// Descriptors are numbers from 1000 on; no real descriptor of a test has such a number. Every call
+// is recorded. Without a script each call acts as on a real system, failures included. failNext()
+// and giveNext() prepare the outcome of the next call of an operation; several outcomes are used in
+// order. Datagrams that are sent arrive nowhere. Sockets do not block.
 
 #pragma once
 
@@ -44,7 +44,7 @@ public:
         close,
     };
 
-    // One recorded call; what an operation does not take stays empty or 0.
+    // One recorded call. A field that an operation does not use stays empty or 0.
     struct Call {
         Operation operation;
         int descriptor = -1;
@@ -55,7 +55,7 @@ public:
 
     struct Datagram {
         Bytes data;
-        Bytes address; // a record; empty when the datagram named none
+        Bytes address; // a record; empty for a datagram without a destination
     };
 
     // The next call of `operation` fails with this value of errno (0 is allowed).
@@ -63,7 +63,7 @@ public:
         _script[operation].push_back({-1, errorNumber});
     }
 
-    // The next call of `operation` returns this and does nothing else.
+    // The next call of `operation` returns this and has no other effect.
     void giveNext(Operation operation, ssize_t result) {
         _script[operation].push_back({result, std::nullopt});
     }
@@ -76,7 +76,7 @@ public:
     // The flags that new socket wrappers start with.
     void setSocketFlags(std::uint32_t flags) { _socketFlags = flags; }
 
-    // Called at the beginning of each call, to play a system that calls back.
+    // Sets a function that runs at the beginning of each call, to play a system that calls back.
     void setObserver(std::function<void(const Call&)> observer) { _observer = std::move(observer); }
 
     const std::vector<Call>& calls() const { return _calls; }
@@ -86,7 +86,7 @@ public:
                           [operation](const Call& call) { return call.operation == operation; }));
     }
 
-    // Every datagram handed to sendTo(), also when the send failed.
+    // Every datagram handed to sendTo(), including those of failed sends.
     std::vector<Datagram> sentDatagrams() const {
         std::vector<Datagram> sent;
         for (const auto& call : _calls) {
@@ -97,7 +97,7 @@ public:
         return sent;
     }
 
-    // The descriptors that are open, and how often one was closed.
+    // The open descriptors, and the number of times one was closed.
     std::set<int> openDescriptors() const {
         std::set<int> descriptors;
         for (const auto& [descriptor, socket] : _sockets) {
@@ -112,7 +112,7 @@ public:
             }));
     }
 
-    // The descriptor that socket() gave last, -1 when it gave none.
+    // The descriptor that socket() returned last; -1 when it returned none.
     int lastDescriptor() const { return _lastDescriptor; }
 
     // --- The system calls ---
@@ -248,7 +248,7 @@ public:
         return socket != nullptr ? socket->peerAddress : std::nullopt;
     }
 
-    // The descriptor is closed also when the script says that the call fails.
+    // The descriptor is closed even when the script makes the call fail.
     int close(int descriptor) override {
         const bool wasOpen = openSocket(descriptor) != nullptr;
         _sockets.erase(descriptor);
@@ -278,7 +278,7 @@ private:
         std::optional<int> errorNumber;
     };
 
-    // Records a call; the scripted result when there is one.
+    // Records a call. Returns the scripted result when there is one.
     std::optional<ssize_t> record(const Call& call) {
         _calls.push_back(call);
         if (_observer) {
@@ -306,7 +306,8 @@ private:
         return &found->second;
     }
 
-    // What the boundary says of a record before it calls the system; errno is set when it is no.
+    // Checks a record as the boundary does before it calls the system. Sets errno when the record
+    // is not usable.
     static bool isUsable(ByteView record) {
         if (familyOfRecord(record) != addressFamilyIPv4) {
             errno = EAFNOSUPPORT;
@@ -319,8 +320,8 @@ private:
         return true;
     }
 
-    // Whether an open socket has this port at this address, or one of the two is at every address.
-    // A port of 0 lets the system choose one.
+    // Whether an open socket has this port at this address, or one of the two is bound to every
+    // address. With port 0 the system chooses a port.
     bool isTaken(const Bytes& address) const {
         const auto portOf = [](const Bytes& record) { return Bytes{record[2], record[3]}; };
         const auto everywhere = [](const Bytes& record) {
@@ -342,7 +343,7 @@ private:
     std::vector<Call> _calls;
     std::function<void(const Call&)> _observer;
     std::deque<Incoming> _incoming;
-    std::map<int, Socket> _sockets; // that are open, by descriptor
+    std::map<int, Socket> _sockets; // open sockets by descriptor
     std::uint32_t _socketFlags = kCFSocketCloseOnInvalidate;
     int _nextDescriptor = 1000;
     int _lastDescriptor = -1;

@@ -1,8 +1,8 @@
-// What the shared SystemConfiguration of a test program stands on.
+// The doubles behind the shared SystemConfiguration of a test program.
 //
-// There is one shared instance in a process, so there is one set of its doubles, too. A test that
-// reaches the shared instance begins with a call of sharedConfigurationDoubles(), which installs
-// them on its first call and empties them on each.
+// A process has one shared instance, so it has one set of these doubles. A test that reaches the
+// shared instance first calls sharedConfigurationDoubles(). Its first call installs the doubles,
+// and each call empties them.
 
 #pragma once
 

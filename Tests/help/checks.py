@@ -1,11 +1,11 @@
-"""What the checks of the help book read: pages, the window's description, and the sources."""
+"""Reads the sources of the help book's checks: pages, the window's description, and the code."""
 
 import html.parser
 import pathlib
 import re
 import xml.etree.ElementTree
 
-# Elements without content, and so without an end tag.
+# Elements without content, which have no end tag.
 VOID = {"br", "img", "link", "meta", "hr"}
 
 
@@ -16,11 +16,11 @@ class Page(html.parser.HTMLParser):
         super().__init__(convert_charrefs=True)
         self.path = pathlib.Path(path)
         self.anchors = set()
-        self.links = []  # of <a href> and <link href>
+        self.links = []  # targets of <a href> and <link href>
         self.pictures = []  # attributes of each <img>
         self.elements = []
         self.titles = []
-        self.entries = set()  # with "%" for what changes
+        self.entries = set()  # "%" stands for each part that changes
         self.faults = []
         self._open = []
         self._texts = []
@@ -71,7 +71,7 @@ def pages(folder):
 
 
 def broken_references(folder):
-    """Every link, style sheet and picture of the pages that leads nowhere, or out of the folder."""
+    """Every link, style sheet and picture of the pages whose target is missing or out of the folder."""
     folder = pathlib.Path(folder)
     book = pages(folder)
     broken = []
@@ -90,7 +90,7 @@ def broken_references(folder):
 
 
 def literals(text):
-    """The C++ string literals of a piece of source; neighbours are one."""
+    """The C++ string literals of a piece of source; adjacent literals count as one."""
     joined = re.sub(r'"\s*\n\s*"', "", text)
     return [literal.encode().decode("unicode_escape").encode("latin-1").decode("utf-8")
             for literal in re.findall(r'"((?:[^"\\\n]|\\.)*)"', joined)]
@@ -100,18 +100,34 @@ def pattern(message):
     return re.sub(r"%[@ds]", "%", message)
 
 
-def logged_entries(source_folder):
-    """Every entry that the sources can append to the event log, with "%" for its arguments."""
+def logged_entries(path):
+    """Every entry for the event log that a source words, with "%" for its arguments."""
     entries = []
-    for path in sorted(pathlib.Path(source_folder).glob("*.cpp")):
-        text = path.read_text(encoding="utf-8")
-        for call in re.finditer(r'appendMessage\(\s*((?:"(?:[^"\\\n]|\\.)*"\s*)+)', text):
-            message = pattern("".join(literals(call[1])))
-            if message.startswith(("\n", "[")) or not entries:
-                entries.append(message)
-            else:
-                entries[-1] += message  # it goes on where the entry before it ended
+    text = pathlib.Path(path).read_text(encoding="utf-8")
+    for call in re.finditer(r'localizedText\(\s*((?:"(?:[^"\\\n]|\\.)*"\s*)+)', text):
+        message = pattern("".join(literals(call[1])))
+        if message.startswith(("\n", "[")) or not entries:
+            entries.append(message)
+        else:
+            entries[-1] += message  # it continues the entry before it
     return {entry.strip() for entry in entries}
+
+
+def functions_of_entries(header):
+    """The functions of a header that word an entry."""
+    text = pathlib.Path(header).read_text(encoding="utf-8")
+    return set(re.findall(r"std::string (entryOf\w+)\(", text))
+
+
+def appended(source_folder):
+    """What the sources append to the event log: how each argument, or each choice of one, begins."""
+    found = set()
+    for path in pathlib.Path(source_folder).rglob("*.cpp"):
+        text = path.read_text(encoding="utf-8")
+        for call in re.finditer(r"\bappendString\((?!std::)([^;]*?)\);", text):
+            choices = re.split(r"\s[?:]\s", call[1])
+            found |= {choice.partition("(")[0] for choice in choices[1:] or choices}
+    return found
 
 
 def localized_texts(path):

@@ -1,4 +1,4 @@
-"""The checks of the help book find what they are there to find."""
+"""The checks of the help book find the faults that they are made for."""
 
 import pathlib
 import tempfile
@@ -44,13 +44,27 @@ class Checks(unittest.TestCase):
         page = self.page('<code class="entry">Send to: <var>a</var> ^^&lt;U&gt;</code><code>x</code>')
         self.assertEqual(page.entries, {"Send to: % ^^<U>"})
 
-    def test_the_entries_of_the_sources_are_found_however_they_are_written(self):
-        self.write("a.cpp", 'appendMessage("[Begin]");\n'
-                            'appendMessage("\\nStart. ");\nif (a) {\n appendMessage("%@:%d", {b});\n}\n'
-                            'appendMessage("\\nLong "\n              "line: \\"%s\\"", {c});\n'
-                            'void appendMessage(std::string_view key);\n')
-        self.assertEqual(checks.logged_entries(self.folder),
-                         {"[Begin]", "Start. %:%", 'Long line: "%"'})
+    def test_the_entries_of_a_source_are_found_however_they_are_written(self):
+        path = self.write("a.cpp", 'return localizedText("[Begin]");\n'
+                                   'std::string entry = localizedText("\\nStart. ");\n'
+                                   'if (a) {\n entry += localizedText("%@:%d", {b});\n}\n'
+                                   'localizedText("\\nLong "\n              "line: \\"%s\\"", {c});\n'
+                                   'localizedText(key);\n')
+        self.assertEqual(checks.logged_entries(path), {"[Begin]", "Start. %:%", 'Long line: "%"'})
+
+    def test_what_is_appended_to_the_log_is_found_in_whatever_folder_it_stands(self):
+        (self.folder / "below").mkdir()
+        self.write("below/a.cpp", 'appendString(entryOfStart(a));\n'
+                                  'appendString(a == 0 ? entryOfA({b, c})\n    : entryOfB(c));\n'
+                                  'appendString("new");\n'
+                                  'void C::appendString(std::string_view text) {\n f();\n}\n')
+        self.assertEqual(checks.appended(self.folder),
+                         {"entryOfStart", "entryOfA", "entryOfB", '"new"'})
+
+    def test_the_functions_that_word_an_entry_are_found(self):
+        path = self.write("a.h", "std::string entryOfStart();\nstd::string entryOfA(int a,\n int b);\n"
+                                 "std::string otherOfA(int a);\n")
+        self.assertEqual(checks.functions_of_entries(path), {"entryOfStart", "entryOfA"})
 
     def test_the_texts_that_a_source_looks_up_are_found(self):
         path = self.write("a.cpp", 'return localizedText("No ä.");\nf(localizedText("It (%@ %d)."), a);\n'

@@ -1,4 +1,4 @@
-"""The help book: whole in itself, and true to the program."""
+"""The help book is complete in itself, and agrees with the program."""
 
 import pathlib
 import re
@@ -90,14 +90,19 @@ class TheBookAndTheProgram(unittest.TestCase):
         self.pages = checks.pages(BOOK)
 
     def test_every_line_of_the_event_log_is_explained_and_no_other(self):
-        logged = checks.logged_entries(SOURCES)
+        logged = checks.logged_entries(SOURCES / "words/EventLogEntries.cpp")
         self.assertGreater(len(logged), 10)
-        shown = {"%: %"}  # a line of a unit's parameters, made by UnitParameters.cpp
+        shown = {"%: %"}  # a line of a unit's parameters, made by units/ParameterList.cpp
         self.assertEqual(self.pages["log.html"].entries, logged | shown)
+
+    def test_nothing_else_gets_into_the_event_log(self):
+        entries = checks.functions_of_entries(SOURCES / "words/EventLogEntries.h")
+        self.assertEqual(checks.appended(SOURCES), entries)
 
     def test_every_reason_that_the_program_words_itself_is_explained(self):
         reasons = checks.localized_texts(SOURCES / "support/Error.cpp")
-        reasons.add("The UDP listener is not running.")
+        reasons |= {text for text in checks.localized_texts(SOURCES / "words/SendFailureText.cpp")
+                    if not text.startswith("Not sent: ")}
         self.assertEqual(len(reasons), 4)
         text = self.pages["log.html"].text
         for reason in reasons:
@@ -121,8 +126,8 @@ class TheBookAndTheProgram(unittest.TestCase):
         self.assertEqual([name for name in sorted(names) if name not in text], [])
 
     def test_every_parameter_is_on_the_page_about_parameters_with_a_section_of_its_own(self):
-        source = (SOURCES / "UnitParameters.h").read_text(encoding="utf-8")
-        names = set(re.findall(r'"([a-z]+ [A-Za-z ]+)"', source))
+        source = (SOURCES / "units/UnitParameter.h").read_text(encoding="utf-8")
+        names = set(re.findall(r'\{UnitParameter::\w+,\s*localizedKey\("([a-z]+ [A-Za-z ]+)"\)', source))
         self.assertEqual(len(names), 8)
         headings = self.pages["parameters.html"].text
         page = (BOOK / "parameters.html").read_text(encoding="utf-8")

@@ -1,14 +1,14 @@
-// A sender that means harm, for tests in the lab. It knows nothing of the application and nothing
-// of the simulated units' code.
+// A malicious sender, for tests in the lab. It knows nothing of the application and nothing of the
+// simulated units' code.
 //
 //   kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED
 //
-// Sends to UDP port PORT of ADDRESS for so many seconds, as fast as the system takes it, in equal
-// shares: random bytes; whole parameter replies with a random serial number; whole parameter
-// replies, and acknowledgements, in the name of SERIAL (12 hexadecimal digits). Every value in a
-// reply is random but for the IP address, which lies in 192.0.2.0/24, so that what is sent there
-// stays on the lab's link. Equal seeds give equal datagrams. Prints how many it sent, and ends with
-// 1 when that was none.
+// It sends to UDP port PORT of ADDRESS for SECONDS seconds, as fast as the system takes the
+// datagrams, in equal shares: random bytes; whole parameter replies with a random serial number;
+// whole parameter replies, and acknowledgements, in the name of SERIAL (12 hexadecimal digits).
+// Every value in a reply is random except for the IP address. The IP address lies in 192.0.2.0/24,
+// so that commands to it stay on the lab's link. Equal seeds give equal datagrams. It prints the
+// number of datagrams that it sent, and ends with 1 when there were none.
 
 #include <arpa/inet.h>
 #include <netinet/in.h>
@@ -34,7 +34,7 @@ using Serial = std::array<std::uint8_t, 6>;
 constexpr std::size_t datagramsInBatch = 64;
 constexpr std::size_t longestDatagram = 200;
 
-// One datagram in the making.
+// A datagram while it is being made.
 class Datagram {
 public:
     explicit Datagram(std::mt19937_64& random)
@@ -45,7 +45,7 @@ public:
     void beRandom() {
         _length = 0;
         addRandom(_random() % (longestDatagram + 1));
-        // Every other one gets past the first look at it.
+        // Every second datagram passes the first check of the receiver.
         if (_length > 0 && _random() % 2 == 0) {
             _bytes[0] = '^';
         }
@@ -150,7 +150,8 @@ int openSocket(const char* address, const char* port) {
     return descriptor;
 }
 
-// How many the system took. While nobody listens, which the system tells the sender, it took none.
+// Returns how many datagrams the system took. While nobody listens, the system refuses them and
+// tells the sender so.
 std::size_t sendBatch(int descriptor, std::span<Datagram> datagrams) {
     std::array<iovec, datagramsInBatch> parts{};
     std::array<mmsghdr, datagramsInBatch> messages{};

@@ -3,9 +3,9 @@
 //
 //   kxlab_probe ADDRESS PORT COMMAND COUNT
 //
-// Sends COMMAND from UDP port 3521, waits for COUNT replies and a little longer for more, and
-// prints each as a line: source address, source port, length, bytes in hexadecimal. Ends with 0
-// when exactly COUNT replies came, otherwise with 1.
+// Sends COMMAND from UDP port 3521, waits for COUNT replies and then a little longer for more.
+// Prints each reply as a line: source address, source port, length, bytes in hexadecimal. Ends with
+// 0 when exactly COUNT replies came, otherwise with 1.
 
 #include <arpa/inet.h>
 #include <netinet/in.h>

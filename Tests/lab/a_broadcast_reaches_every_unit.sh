@@ -11,7 +11,7 @@ for address in 255.255.255.255 192.0.2.255; do
         $'192.0.2.11 3520 81\n192.0.2.12 3520 81\n192.0.2.13 3520 81' "$senders"
 done
 
-# The whole reply of the first unit, laid out by hand: header, then the eight items.
+# The whole reply of the first unit, written by hand: the header, then the eight items.
 wanted=5E5E3C553E0000000000013C533E4B580000000124
 wanted+=3C4D3E024B58000001
 wanted+=3C493EC000020B

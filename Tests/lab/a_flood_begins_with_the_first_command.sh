@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs with 200 replies a second that nobody asked for.
+# Runs with 200 unsolicited replies a second.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -13,7 +13,7 @@ before=$(received_frames)
 sleep 0.5
 expect_equal 'frames from the units before the first command' "$before" "$(received_frames)"
 
-# One reply was asked for; the probe reports failure because more come.
+# The probe asks for one reply and reports failure, because more replies come.
 if replies=$("$probe" 192.0.2.11 3520 '^^IdX' 1); then
     fail 'no reply came that was not asked for'
 fi

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Floods the real program from its start on, as fast as the system sends; Tests/tour/Siege.h tells
-# what a person does meanwhile. WAIT is how many milliseconds a person may wait, and COMPUTING how
-# many of them the program may compute: the rest is the fault of a machine that does other things.
+# Floods the real program from its start on, as fast as the system sends. Tests/visits/tests/Siege.h
+# describes a person's actions meanwhile. WAIT is the number of milliseconds that a person may wait.
+# COMPUTING is the number of them that the program may compute; a machine with other work causes the
+# rest.
 #
 # usage, in the lab: a_hostile_sender.sh KXCONFIG SENDER SECONDS WAIT COMPUTING [SEED]
 set -euo pipefail
@@ -11,13 +12,13 @@ kxconfig=$1 sender=$2 seconds=$3 wait=$4 computing=$5 seed=${6:-$RANDOM}
 readonly claimed=4B5800000001
 
 printf 'Seed: %s\n' "$seed"
-# Longer than anybody stays.
+# Longer than any visit lasts.
 "$sender" 192.0.2.1 3520 "$((seconds + 120))" "$claimed" "$seed" >/dev/null &
 sender_pid=$!
 trap 'kill "$sender_pid" 2>/dev/null || true' EXIT
 
 export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsiege QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
-# The one that is selected in the end is the one in whose name the sender speaks.
+# The sender speaks in the name of the unit that is selected in the end.
 export KX_SIEGE_UNITS='4B 58 00 00 00 02,4B 58 00 00 00 03,4B 58 00 00 00 01'
 export KX_SIEGE_SECONDS=$seconds KX_SIEGE_WAIT=$wait KX_SIEGE_COMPUTING=$computing
 "$kxconfig" || fail 'the visit failed'

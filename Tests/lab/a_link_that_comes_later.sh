@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# A link that comes while the real program runs is offered when the list is opened, also where there
-# was nothing to offer before.
+# A link that comes up while the real program runs is offered when the list is opened, even when the list
+# was empty before.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -13,7 +13,7 @@ program_listens() {
     ss --udp --listening --numeric 'sport = 3520' | grep -q 3520
 }
 
-# The interfaces of this namespace are the loopback alone, which is up only with the word "up".
+# This namespace has only the loopback, which is up only when its flags contain the word "up".
 report_with_late_link() {
     [[ $1 != up ]] || ip link set lo up
     KX_TOUR_INTERFACE=late0 KX_TOUR_UNITS=0 "$kxconfig" >"$scratch/report" &

@@ -16,7 +16,7 @@ neighbour() {
 [[ $(neighbour 192.0.2.99) != *lladdr* ]] ||
     fail "somebody answered for 192.0.2.99: $(neighbour 192.0.2.99)"
 
-# The neighbour entry follows a unit to its new hardware address by the unit's announcement.
+# The unit's announcement updates the neighbour entry to its new hardware address.
 "$probe" 192.0.2.12 10000 '^^IdM0200000000AA' 1 >/dev/null
 [[ $(neighbour 192.0.2.12) == *'lladdr 02:00:00:00:00:aa'* ]] ||
     fail "the host still has the old hardware address: $(neighbour 192.0.2.12)"

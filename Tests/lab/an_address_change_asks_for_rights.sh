@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # An ordinary user changes a unit's address with the real window, under a real polkit daemon. The first
-# argument says what becomes of the question for administrator rights: allow, refuse, dismiss, or
-# nobody who could be asked.
+# argument is the answer to the question for administrator rights: allow, refuse, dismiss, or nobody when
+# there is no person to ask.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
@@ -53,7 +53,7 @@ if [[ $answer == allow ]]; then
     expect_equal 'the neighbour of the second address' \
         '192.0.2.51 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT' "$(ip neigh show 192.0.2.51 | sed 's/ *$//')"
 else
-    # The command went out all the same: the host asked who has the new address, and nobody did.
+    # The command went out anyway: the host asked which host has the new address, and none answered.
     expect_equal 'what became of the command' '  UDP server did send data.' \
         "$(grep -A 1 'Send to: 192.0.2.50 ' <<<"$report" | tail -n 1)"
     asked=$(ip neigh show 192.0.2.50 | sed 's/ *$//')

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The real program has no descriptor left: the tool cannot be run, the listener cannot be started and
-# the interfaces cannot be listed, and it says so. Once there are some again, all three work.
+# The real program has no descriptor left. It cannot run the tool, start the listener or list the
+# interfaces, and it says so. When there are descriptors again, all three work.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -11,8 +11,8 @@ move="
     parameter internal IP address
     type 192.0.2.50
     press applyButton"
-# A listener that runs goes on; it is the next one that gets no socket. The change of a link has the
-# links read anew.
+# A running listener goes on; only the next one gets no socket. A change of a link makes the store read
+# the links again.
 export KX_STEPS="
     log
     interface kx0

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The real window changes a unit: its IP address to one that it does not hold yet, then its port at
-# the new address, sends it an option, and restores what it left the factory with.
+# The real window changes a unit's IP address to one that the unit does not hold yet, then changes the
+# port at the new address, sends an option, and restores the unit's factory settings.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -36,7 +36,7 @@ expect_equal 'the neighbour of the new address' \
     '192.0.2.50 dev kx0 lladdr 02:4b:58:00:00:01 PERMANENT' \
     "$(ip neigh show 192.0.2.50 | sed 's/ *$//')"
 
-# What the unit heard, as text.
+# The datagrams that the unit heard, as text.
 heard() {
     sed -n 's/^4B5800000001 //p' "$record" | while read -r address port bytes; do
         printf '%s %s %b\n' "$address" "$port" "$(sed 's/../\\x&/g' <<<"$bytes")"
@@ -47,8 +47,8 @@ expect_equal 'what the unit heard but for the requests for its parameters' '192.
 192.0.2.50 10000 ^^IdV
 192.0.2.50 10000 ^^IdZ' "$(heard | grep -v '\^\^IdX$')"
 
-# After the restore the unit is asked at once, because it said "ok", where it was, and a second
-# later where it is now.
+# After the restore the program asks the unit twice: at once at its old address, because the unit said
+# "ok", and a second later at its new address.
 requests_after_restore() {
     heard | sed '1,/\^\^IdZ$/d' | grep '\^\^IdX$'
 }

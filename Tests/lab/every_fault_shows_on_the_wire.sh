@@ -7,7 +7,7 @@ probe=$1
 
 begin=${EPOCHREALTIME/[.,]/}
 lengths=$("$probe" 192.0.2.12 3520 '^^IdX' 2 | cut -d ' ' -f 3 | tr '\n' ' ')
-# The probe itself looks for more replies during 300 ms after the last one that it wants.
+# The probe itself waits 300 ms for more replies after the last one that it wants.
 milliseconds=$(((${EPOCHREALTIME/[.,]/} - begin) / 1000))
 
 expect_equal 'the lengths of both replies' '30 30 ' "$lengths"

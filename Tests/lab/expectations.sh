@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What the tests of this folder share. Sourced, not run.
+# The common part of the tests of this folder. Sourced, not run.
 
 fail() {
     printf 'failed: %s\n' "$*" >&2
@@ -12,7 +12,7 @@ expect_equal() {
         fail "$(printf '%s\n  wanted: %s\n  found:  %s' "$what" "$wanted" "$found")"
 }
 
-# Calls the rest of its arguments until they succeed, for five seconds at most.
+# Calls the rest of its arguments until they succeed, for at most five seconds.
 eventually() {
     local attempt
     for ((attempt = 0; attempt < 100; attempt++)); do

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs the lab with the given arguments, or says that this system gives no right to.
+# Runs the lab with the given arguments, or says that this system does not allow it.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh

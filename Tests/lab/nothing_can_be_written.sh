@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# A disk that is full, a system log that nobody reads, and standard error on the full disk, in a pipe
-# that nobody reads, or in one whose reader is gone: the real program has something to say there with
-# each reply, which is cut, and neither waits nor ends.
+# The disk is full, nobody reads the system log, and standard error goes to the full disk, to a pipe that
+# nobody reads, or to a pipe whose reader is gone. Each cut reply gives the real program a line to write
+# there, and it neither waits nor ends.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -23,7 +23,7 @@ mkdir -- "$disk" "$scratch/dev"
 mount -t tmpfs -o size=16k,mode=700 tmpfs "$disk"
 dd if=/dev/zero of="$disk/fill" status=none 2>/dev/null && fail 'the disk is not full'
 
-# The devices are the host's, but for the log.
+# The devices are the host's, except for the log.
 mount -t tmpfs tmpfs "$scratch/dev"
 for device in null zero full random urandom; do
     : >"$scratch/dev/$device"
@@ -73,7 +73,7 @@ visit 'on a full disk' 2>/dev/full
 visit 'that nobody reads' 2>"$scratch/unread"
 visit 'whose reader is gone' 2> >(exec true)
 
-# Nobody made room meanwhile.
+# Nobody has made room meanwhile.
 python3 -c '
 import socket
 socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM).sendto(b"x", socket.MSG_DONTWAIT, "/dev/log")

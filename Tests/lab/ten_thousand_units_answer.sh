@@ -8,7 +8,8 @@ received_frames() {
     awk '$1 == "kx0:" { print $3 }' /proc/net/dev
 }
 
-# Counted at the link, where none is lost: how many a socket can hold is the reader's business.
+# The replies are counted at the link, where none is lost, because the reader decides how many a socket
+# can hold.
 before=$(received_frames)
 replies=$("$probe" 10.0.255.255 3520 '^^IdX' 10000) || true
 arrived=$(($(received_frames) - before))
@@ -16,6 +17,6 @@ arrived=$(($(received_frames) - before))
 (($(cut -d ' ' -f 1 <<<"$replies" | sort -u | wc -l) > 250)) ||
     fail 'the probe read fewer replies than the smallest socket buffer holds'
 
-# One of them is still found at once.
+# A single unit is still found at once.
 expect_equal 'the last unit answers for itself' '10.0.39.26 81' \
     "$("$probe" 10.0.39.26 3520 '^^IdX' 1 | cut -d ' ' -f 1,3)"

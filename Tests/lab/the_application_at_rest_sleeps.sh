@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
-# After its first discovery the application has nothing to do until somebody does something, whether
-# its event log is closed or open: none of its threads may wake up.
+# After its first discovery the application has nothing to do until a person acts. With the event log
+# closed or open, none of its threads may wake up.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
 log=$1 kxconfig=$2
 
-# How often the threads of process $1 have gone to sleep, one line a thread.
+# The number of times that each thread of process $1 has gone to sleep, one line for each thread.
 sleeps() {
     grep -H voluntary_ctxt_switches /proc/"$1"/task/*/status
 }
@@ -33,7 +33,7 @@ for ((attempt = 0; attempt < 6; attempt++)); do
 done
 visit_is_over || fail "the event log was not opened: $(<"$output")"
 
-# A discovery is over when nothing has happened for longer than the 2.0 s that it waits for answers.
+# A discovery is over when nothing has happened for longer than its 2.0 s of waiting for answers.
 before=
 for ((attempt = 0; attempt < 10; attempt++)); do
     sleep 3.5

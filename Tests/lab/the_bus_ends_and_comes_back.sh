@@ -1,13 +1,12 @@
 #!/usr/bin/env bash
-# The system bus, and polkit with it, end while the real window of an ordinary user runs: there is
-# nobody who could give rights, which the window says, and it goes on. Once the bus is back, rights
-# are given and the ARP entry is made.
+# The system bus and polkit end while the real window of an ordinary user runs. The window says that
+# nobody can give rights, and goes on. When the bus is back, rights are given and the ARP entry is made.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
 source "$here/expectations.sh"
 
-# --- What befalls the host: "SCRIPT fault FUNCTION" ---
+# --- Faults of the host: "SCRIPT fault FUNCTION" ---
 
 bus_answers() {
     dbus-send --system --print-reply --dest=org.freedesktop.DBus / \
@@ -29,7 +28,7 @@ if [[ $1 == fault ]]; then
     exit
 fi
 
-# --- What a person does and sees ---
+# --- A person's actions, and the window's answers ---
 
 kxconfig=$2
 fault="run ${BASH_SOURCE[0]} fault"

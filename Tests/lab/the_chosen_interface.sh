@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The real program broadcasts on the interface that is chosen in its window, and nowhere else.
+# The real program broadcasts only on the interface that is chosen in its window.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
@@ -38,8 +38,8 @@ expect_logged 192.0.2.255
 expect_equal 'who heard the directed broadcast' '4B5800000001 4B5800000002 4B5800000003 ' \
     "$(who_heard 192.0.2.255)"
 
-# At launch no interface is chosen, so the first link's units hear that broadcast, and their replies
-# may still come in; what follows is for the second link alone.
+# At launch no interface is chosen, so the units on the first link hear that broadcast, and their replies
+# may still arrive. The later requests are for the second link alone.
 report=$(report_with kx2 2 --units 2 --links 2)
 expect_logged 198.51.100.255
 expect_equal 'who heard the broadcast of the second link' '4B5800000003 4B5800000004 ' \

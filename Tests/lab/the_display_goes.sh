@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The X server is killed while the real program shows its window there: the program ends by itself,
-# says why, tells it by its exit status, and leaves no process and no core behind.
+# The X server is killed while the real program shows its window there. The program ends by itself, says
+# why, reports it by its exit status, and leaves no process and no core file behind.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
@@ -13,7 +13,7 @@ ulimit -c unlimited
 program_listens() {
     ss --udp --listening --numeric 'sport = 3520' | grep -q 3520
 }
-# Of this network namespace; the shell that asks for them stands for itself.
+# The sockets of this network namespace, which the shell that asks for them represents.
 processes_here() {
     local process
     for process in /proc/[0-9]*; do
@@ -25,7 +25,7 @@ processes_here() {
 exec {ready}< <(exec Xvfb -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
 server=$!
 read -r -t 20 -u "$ready" display || fail "the X server does not start: $(<"$scratch/server")"
-# What a server that is killed leaves behind.
+# Removes the files that a killed server leaves behind.
 trap 'rm -rf -- "$scratch" "/tmp/.X$display-lock" "/tmp/.X11-unix/X$display"' EXIT
 
 XDG_RUNTIME_DIR=$scratch DISPLAY=:$display QT_QPA_PLATFORM=xcb "$kxconfig" 2>"$scratch/errors" &

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The lab seen from outside: what it passes on, and what is left when it has ended.
+# Tests the lab from outside: the results that it passes on, and the traces that it leaves.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
@@ -13,8 +13,7 @@ mkdir -- "$scratch/a name with blanks" "$scratch/temporary"
 export TMPDIR=$scratch/temporary
 record="$scratch/a name with blanks/the record"
 
-# Run inside the lab: leaves the process and the namespaces of the lab in the file `traces`.
-# shellcheck disable=SC2016
+# Runs inside the lab: writes the process and the namespaces of the lab to the file `traces`.
 leave_traces='
     read -ra children <"/proc/$PPID/task/$PPID/children"
     for child in "${children[@]}"; do
@@ -27,7 +26,7 @@ leave_traces='
 
 has_traces() { [[ -e $scratch/traces ]]; }
 
-# One that has ended may still be in the list of processes, until the system's first one looks.
+# An ended process may stay in the list of processes until the system's first process looks.
 runs() { grep -qs '^State:[[:space:]]*[^XZ]' "/proc/$1/status"; }
 
 nothing_runs() {
@@ -49,7 +48,7 @@ expect_nothing_left() {
     rm -- "$scratch/traces"
 }
 
-# The status of a lab that runs `$1` in the shell.
+# The exit status of a lab that runs `$1` in the shell.
 status_of() {
     local status=0
     "$lab" --record "$record" -- bash -c "$leave_traces" - "$scratch/traces" "$1" || status=$?
@@ -76,7 +75,7 @@ for signal in TERM INT KILL; do
     status=0
     wait "$lab_pid" 2>/dev/null || status=$?
     expect_equal "the status after SIG$signal" "$((128 + $(kill -l "$signal")))" "$status"
-    # A lab that was killed cannot clean up; what it started ends by itself.
+    # A killed lab cannot clean up; the processes that it started end by themselves.
     if [[ $signal == KILL ]]; then
         eventually nothing_runs || fail 'a process is left after SIGKILL'
         rm -rf -- "$scratch/traces" "${TMPDIR:?}"/*
@@ -86,14 +85,14 @@ for signal in TERM INT KILL; do
     fi
 done
 
-# Units that cannot start are a failure of the lab, not of the command.
+# When units cannot start, the lab fails, not the command.
 status=0
 "$lab" --units-options '--nonsense 1' -- touch "$scratch/ran" 2>/dev/null || status=$?
 expect_equal 'the status when the units do not start' 125 "$status"
 [[ ! -e $scratch/ran ]] || fail 'the command ran without units'
 expect_equal 'temporary files after a failed start' '' "$(ls -A -- "$TMPDIR")"
 
-# The programs may lie in a folder whose name has blanks.
+# The programs may be in a folder whose name has blanks.
 ln -s -- "${KX_BUILD_DIR:-$here/../../build/dev}" "$scratch/a name with blanks/build"
 KX_BUILD_DIR="$scratch/a name with blanks/build" "$lab" -- true ||
     fail 'a build folder with blanks in its name is not found'

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# An ordinary user can run the lab. As root this test plays the user nobody.
+# An ordinary user can run the lab. Root runs this test as the user nobody.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh

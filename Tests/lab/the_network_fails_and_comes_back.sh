@@ -1,15 +1,15 @@
 #!/usr/bin/env bash
-# No route, a link that goes down, an address that is taken away or exchanged, an interface that is
-# gone, a send buffer that is full: the event log of the real program says so each time, what had been
-# received is there, and the program goes on when the network is back.
+# A route is missing, a link goes down, an address is removed or exchanged, an interface is gone, or a
+# send buffer is full. The event log of the real program tells each of these, earlier replies are kept,
+# and the program goes on when the network is back.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
 
-# --- What befalls the host: "SCRIPT fault FUNCTION ARGUMENT..." ---
+# --- Faults of the host: "SCRIPT fault FUNCTION ARGUMENT..." ---
 
 three_replies_wait() {
-    # What the program has not read yet; a small datagram takes some 768 bytes of the buffer.
+    # Datagrams that the program has not read yet; a small datagram takes some 768 bytes of the buffer.
     [[ $(ss --udp --listening --numeric --no-header 'sport = 3520' | awk '{print $2}') -gt 2000 ]]
 }
 link_goes_down_behind_the_replies() {
@@ -30,8 +30,8 @@ bring_interface_back() {
     nsenter --net="/proc/$elsewhere/ns/net" ip link set kx0 netns "$here"
     put_up_link
 }
-# Nobody says where the first unit is, so the host keeps what is for it, much more than one program
-# may have on its way.
+# Nobody tells the host where the first unit is. So the host keeps the datagrams for this unit, and they
+# are many more than one program may have on their way.
 units_stand_still() {
     grep -q '^State:.*stopped' "/proc/$units/status"
 }
@@ -52,7 +52,7 @@ if [[ $1 == fault ]]; then
 fi
 
 kxconfig=$2 record=$KX_RECORD
-read -ra children <"/proc/$PPID/task/$PPID/children" || true # without a line end
+read -ra children <"/proc/$PPID/task/$PPID/children" || true # the file has no line end
 for child in "${children[@]}"; do
     [[ $(<"/proc/$child/comm") != kxunits ]] || units=$child
 done
@@ -66,7 +66,7 @@ is_elsewhere() {
 eventually is_elsewhere || fail 'there is no other network'
 export units here elsewhere
 
-# --- What a person does and sees ---
+# --- A person's actions, and the window's answers ---
 
 fault="run ${BASH_SOURCE[0]} fault"
 everyone_answers='
@@ -142,7 +142,7 @@ export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsteps QT_PLUGIN_PATH=$
 
 report=$("$kxconfig") || fail "the visit failed: $report"
 
-# Between two broadcasts, more requests than ever before or after.
+# Between two broadcasts, there are more requests than at any other time.
 requests_sent=$(grep -A 1 'Request unit parameters with address: 192.0.2.11$' <<<"$report" |
     grep -c 'did send data' || true)
 requests_heard() {

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# The window is closed while an edit is open: the program ends its work, with the socket, while the
-# window is still there, and nothing that happens to the window begins any.
+# The window is closed while an edit is open. The program ends its work, and closes its socket, while the
+# window still exists, and no later event of the window starts new work.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# Ten thousand units answer in the same instant: the real window holds and lists them all, with the
-# event log closed and open, and a person hardly waits meanwhile.
+# Ten thousand units answer in the same instant. The real window holds and lists them all, with the event
+# log closed and open, and a person hardly waits meanwhile.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
 kxconfig=$2
 
-# In milliseconds. What the program works for is its own affair; what a person waits for is the
-# machine's, too, which may do other things.
+# Both limits are in milliseconds. The program alone decides how long it works. A machine with other work
+# can make a person wait longer.
 longest_work=50
 longest_wait=250
 
@@ -32,7 +32,7 @@ expect_equal 'the replies with the log closed and open' 2 \
 mapfile -t times < <(grep '^Longest time ' <<<"$report")
 printf 'Event log %s\n' "closed. ${times[0]}. ${times[1]}" "open. ${times[2]}. ${times[3]}"
 
-# Whether the watch notices is no matter of course.
+# This proves that the watch would notice a wait.
 expect_notice() {
     local step=$1 expectation=$2
     report=$(KX_STEPS=$(printf '%s\n' watch "$step" "$expectation") "$kxconfig" 2>&1) &&

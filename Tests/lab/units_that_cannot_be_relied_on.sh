@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Keeps the real program among units whose replies get lost, late, doubled, overtaken, cut short,
-# invented and unasked, for so many seconds; Tests/tour/Soak.h tells what happens there and what must
-# hold at the end. The seed is printed: the same one gives the same steps and the same faults.
+# Keeps the real program for SECONDS seconds among units whose replies get lost, late, doubled,
+# overtaken, cut short, invented and unasked. Tests/visits/tests/Soak.h describes the visit and the
+# conditions at its end. The seed is printed: the same seed gives the same steps and the same faults.
 #
 # usage: Tests/lab/units_that_cannot_be_relied_on.sh KXCONFIG SECONDS [SEED]
 set -euo pipefail

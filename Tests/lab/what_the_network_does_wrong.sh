@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# A port that is taken, a host without network, and a broadcast without a route: the real program logs
-# them in its own words and goes on to the end of the tour.
+# A port is taken, a host has no network, or a broadcast has no route. The real program logs each fault
+# in its own words and goes on to the end of the tour.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
 kxconfig=$2
 export QT_QPA_PLATFORM=offscreen
 
-# The event log of one Discover, with the command in front of the program's name.
+# The event log of one Discover. The arguments are the command before the program's name.
 log_of_discovery() {
     local report
     report=$(KX_TOUR_UNITS=0 QT_QPA_GENERIC_PLUGINS=kxtour QT_PLUGIN_PATH="$KX_BUILD_DIR/plugins" \

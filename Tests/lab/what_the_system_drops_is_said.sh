@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# More units answer than the receive buffer of 4 MiB holds while the program reads nothing: the
-# window says how many datagrams were dropped, all others are read, and the event log says nothing
-# of it.
+# More units answer than fit into the receive buffer of 4 MiB while the program reads nothing. The window
+# says how many datagrams were dropped, all others are read, and the event log says nothing about the
+# drops.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"

@@ -1,4 +1,4 @@
-// Lookups in the host's ARP table, with the real tool and with others in its place.
+// Lookups in the host's ARP table, with the real tool and with other tools in its place.
 
 #include "NotingTool.h"
 #include "ReplacedFile.h"

@@ -35,15 +35,15 @@ bool hasChildren() {
     return ::waitpid(-1, nullptr, WNOHANG) != -1 || errno != ECHILD;
 }
 
-// What 300 changes may add to the resident memory, in bytes. The event log grows by less than a
-// fifth of it. The address sanitizer keeps everything that was freed for a while.
+// The limit of growth of the resident memory for 300 changes, in bytes. The event log grows by less
+// than a fifth of it. The address sanitizer keeps all freed memory for a while.
 #if defined(KX_SANITIZED)
 constexpr long mostGrowth = 16L * 1024 * 1024;
 #else
 constexpr long mostGrowth = 512L * 1024;
 #endif
 
-// In bytes.
+// The resident memory in bytes.
 long residentMemory() {
     std::ifstream file("/proc/self/statm");
     long size = 0;
@@ -84,7 +84,7 @@ protected:
         return runLoopUntil(loop, [this] { return controller.selectedUnit().has_value(); });
     }
 
-    // Each is one tool that was run; a turn of the loop takes the end of the one before.
+    // Each change runs one tool. A turn of the loop takes the end of the tool before it.
     void changeAddresses(int count) {
         for (int i = 0; i < count; ++i) {
             const std::string last = std::to_string(2 + next++ % 200);
@@ -93,7 +93,7 @@ protected:
             loop.runOnce(std::chrono::milliseconds(0));
         }
         EXPECT_TRUE(runLoopUntil(loop, [] { return !hasChildren(); }));
-        runLoopFor(loop, std::chrono::milliseconds(200)); // takes the last end
+        runLoopFor(loop, std::chrono::milliseconds(200)); // takes the end of the last tool
     }
 
     PrivateNetwork network;

@@ -1,6 +1,6 @@
-// Whether a message bus is heard, with a socket of the test in its place.
+// The probe of a message bus, with a socket of the test in the bus's place.
 
-#include "platform/linux/BusProbe.h"
+#include "platform/qtcore/BusProbe.h"
 
 #include "System Configuration/SystemCallWrappers.h"
 #include "support/Pipe.h"
@@ -42,8 +42,8 @@ protected:
 
     std::string address() const { return "unix:path=" + path(); }
 
-    // The bus answers its first caller after this time. The thread takes no signals: they are for
-    // the one that asks.
+    // The bus answers its first caller after this time. The thread blocks signals, because they are
+    // for the caller's thread.
     std::thread answerAfter(std::chrono::milliseconds time) const {
         sigset_t all;
         sigset_t before;

@@ -1,4 +1,5 @@
-// When the store tells of changes that come one after the other, with a clock that the test moves.
+// The times at which the store tells changes that come one after the other, with a clock that the
+// test moves.
 
 #include "PrivateNetwork.h"
 #include "contracts/ConfigurationStoreContract.h"
@@ -38,7 +39,7 @@ protected:
         return result;
     }
 
-    PrivateNetwork network; // in which the kernel tells of no changes
+    PrivateNetwork network; // its kernel tells no changes
     ManualRunLoop loop;
     MemoryConnectionProfiles profiles;
     KernelLinks links{loop, [] { return LinkSnapshot{{link()}, true}; }};

@@ -1,4 +1,4 @@
-// How links and connection profiles become services and records, without a kernel.
+// The services and records of links and connection profiles, without a kernel.
 
 #include "platform/linux/ConfigurationRecords.h"
 

@@ -1,5 +1,5 @@
-// What the store makes of connection profiles that change while it runs, and that the double of the
-// profiles keeps their contract.
+// The store with connection profiles that change while it runs. The double of the profiles keeps
+// their contract.
 
 #include "PrivateNetwork.h"
 #include "contracts/ConfigurationStoreContract.h"

@@ -1,4 +1,4 @@
-// The endpoint on a host without descriptors, and as a client on one whose name server does not
+// The endpoint on a host without descriptors, and as a client on a host whose name server does not
 // answer. It tells why it stopped, can be stopped at any time, and runs when it is started again.
 
 #include "PrivateNetwork.h"
@@ -21,7 +21,7 @@ namespace {
 
 constexpr std::size_t port = 3520;
 
-// No descriptor from this number on, while this object lives.
+// While this object lives, the process gets no descriptor from this number on.
 class DescriptorLimit {
 public:
     explicit DescriptorLimit(rlim_t number) {
@@ -37,7 +37,7 @@ private:
     rlimit _before{};
 };
 
-// The limit under which a pipe can be made, and nothing else.
+// The limit that leaves room for one pipe and for nothing else.
 rlim_t roomForOnePipe() {
     const Pipe pipe;
     return static_cast<rlim_t>(std::max(pipe.readingEnd.number(), pipe.writingEnd.number())) + 1;
@@ -61,8 +61,8 @@ public:
 
 class EndpointFaults : public testing::Test {
 protected:
-    // It has run in both modes before. (The sanitizers look at an object through descriptors when
-    // they see it in use for the first time.)
+    // The endpoint runs in both modes first, because the sanitizers use descriptors when they see
+    // an object in use for the first time.
     void SetUp() override {
         echo->setDelegate(&listener);
         ASSERT_TRUE(startsAsServer());
@@ -92,7 +92,7 @@ protected:
     std::shared_ptr<UDPEcho> echo = UDPEcho::make(loop, resolver, systemCalls);
 };
 
-// Its name server has an address at which there is nobody.
+// The name server of this host has an address at which nobody answers.
 class EndpointOfASilentNameServer : public EndpointFaults {
 protected:
     EndpointOfASilentNameServer() {

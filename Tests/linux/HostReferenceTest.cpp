@@ -1,4 +1,4 @@
-// What the references of both authorities have in common, over an authority that the test plays.
+// The common part of the references of both authorities, over an authority that the test plays.
 
 #include "platform/linux/HostReference.h"
 
@@ -23,7 +23,7 @@ public:
         : HostReference(runningTools) {}
 
     std::int32_t answer = errAuthorizationSuccess;
-    std::vector<bool> mayAskPerson; // of each request, in their order
+    std::vector<bool> mayAskPerson; // flag of each request, in order
 
 private:
     std::int32_t obtain(const AuthorizationItem& /*right*/, bool mayAsk) override {
@@ -38,8 +38,8 @@ private:
     std::int32_t refusalOf(int launcherStatus) const override { return launcherStatus; }
 };
 
-// A system that tells nothing about processes. As in ReplacedFile.h, the calling thread keeps its
-// view of the mounted file systems.
+// Plays a system that tells nothing about processes. As in ReplacedFile.h, the calling thread keeps
+// its view of the mounted file systems.
 class HiddenProcesses {
 public:
     HiddenProcesses() {
@@ -94,7 +94,7 @@ TEST_F(HostReferenceTest, ALauncherThatBecomesAnotherProgramHasStartedTheTool) {
 
 TEST_F(HostReferenceTest, ALauncherWhoseEndIsUnknownIsNotSaidToHaveRefused) {
     std::vector<int> ends;
-    const auto before = std::signal(SIGCHLD, SIG_IGN); // the system keeps no ends then
+    const auto before = std::signal(SIGCHLD, SIG_IGN); // the system then keeps no exit status
     EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"},
                                               [&](int status) { ends.push_back(status); }),
               errAuthorizationSuccess);
@@ -118,7 +118,7 @@ TEST_F(HostReferenceTest, WithoutNamesOfProgramsTheStatusTellsARefusal) {
     EXPECT_EQ(ends, (std::vector<int>{0, 1}));
 }
 
-// It may be the launcher that still runs, in which a person is asked.
+// The program that still runs may be the launcher, in which a person is asked.
 TEST_F(HostReferenceTest, WithoutNamesOfProgramsALongRunIsWaitedFor) {
     const HiddenProcesses hidden;
     EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "sleep 2.2; exit 126"}, {}), 126);

@@ -1,5 +1,5 @@
-// What is logged, and what still works, when changes of the links cannot be heard, or when the
-// kernel does not answer in time.
+// The log lines, and the functions that still work, when changes of the links cannot be heard, or
+// when the kernel does not answer in time.
 
 #include "platform/linux/KernelLinks.h"
 
@@ -23,7 +23,7 @@ namespace {
 class NoWatches final : public RunLoop {
 public:
     Handle watchForReading(int /*descriptor*/, std::function<void()> /*readable*/) override {
-        errno = ENOENT; // says nothing about the refusal
+        errno = ENOENT; // no word about the refusal
         return nullptr;
     }
     Handle callOnceAfter(std::chrono::milliseconds /*delay*/,
@@ -34,7 +34,7 @@ public:
     Handle holdCallbacks() override { return nullptr; }
 };
 
-// A kernel that answers in time, or does not.
+// A kernel that answers in time or not, as the test says.
 struct ScriptedKernel {
     LinkSnapshot answer{std::vector<NetworkLink>(1), true};
     int error = 0;
@@ -150,7 +150,7 @@ TEST(KernelLinks, LinksWithoutAllRoutesAreReadAgainALittleLater) {
     EXPECT_EQ(kernel.questions, 2);
 }
 
-// While an administrator changes links, lists are interrupted all the time.
+// While an administrator changes links, the kernel interrupts its lists all the time.
 TEST(RtnetlinkSnapshot, ItComesToAnEndWhileLinksChange) {
     PrivateNetwork network;
     std::string changes;

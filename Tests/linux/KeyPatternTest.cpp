@@ -51,7 +51,7 @@ TEST(KeyPattern, AnyOtherConstructIsRefused) {
 }
 
 TEST(KeyPattern, ItAgreesWithRegularExpressions) {
-    std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same ones each time
+    std::mt19937 random(1); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same patterns each time
     for (int i = 0; i < 20'000; ++i) {
         const auto pattern = pieces(random, {"[^/]+", "[^/]+", "/", "a", "b"});
         const auto key = pieces(random, {"/", "a", "a", "b"});

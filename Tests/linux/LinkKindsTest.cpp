@@ -1,4 +1,4 @@
-// By what the kernel and the drivers say a link is told from others.
+// Links are told apart by the words of the kernel and of the drivers.
 
 #include "PrivateNetwork.h"
 #include "RewrittenNetlink.h"
@@ -16,8 +16,8 @@ namespace kx {
 
 namespace {
 
-// As the drivers of the system show its links: the ones that are named here are wireless. For the
-// calling thread, which gets a view of the mounted file systems of its own and keeps it.
+// Plays the drivers of the system, so that the named links are wireless. The calling thread gets a
+// view of the mounted file systems of its own and keeps it.
 class WirelessDrivers {
 public:
     explicit WirelessDrivers(const std::string& link) {
@@ -54,8 +54,8 @@ protected:
         return found->kind;
     }
 
-    // The kind of kx0 when the kernel calls it so, in four letters or fewer. Its own name for the
-    // pair that kx0 is part of has four.
+    // The kind of kx0 when the kernel calls its kind by this name, which has four letters or fewer.
+    // The kernel's own name for the kind of kx0 has four.
     static LinkKind kindOfLinkThatIsCalled(std::string_view kind) {
         const RewrittenNetlink rewritten([kind](nlmsghdr& message) {
             rtattr* const information = isAboutLink(message, "kx0")

@@ -11,7 +11,7 @@ namespace kx {
 
 namespace {
 
-// A link with an address, one that is down, and the loopback.
+// A link with an address, a link that is down, and the loopback.
 class LinksOfTheContract {
 public:
     LinksOfTheContract() {

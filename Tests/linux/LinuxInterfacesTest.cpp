@@ -1,4 +1,4 @@
-// What a person and the controller get to know of real links.
+// The facts about real links that reach a person and the controller.
 
 #include "PrivateNetwork.h"
 #include "System Configuration/ConfigurationKeys.h"
@@ -21,8 +21,8 @@ using namespace std::chrono_literals;
 
 class LinuxInterfaces : public testing::Test {
 protected:
-    // Made on first use: its own watch speaks to the shared instance, so it stays away from tests
-    // that turn the loop.
+    // Made on first use. Its own watch speaks to the shared instance, so tests that turn the loop
+    // do not use it.
     SystemConfiguration& configuration() {
         if (!_configuration.has_value()) {
             _configuration.emplace(store, kernelQuery);
@@ -36,7 +36,7 @@ protected:
         return configuration().interfaceTitlesAndServiceIDs(&serviceIDs).value_or(Titles());
     }
 
-    // What the controller reads when a title is chosen: the first address and its mask.
+    // The values that the controller reads when a title is chosen: the first address and its mask.
     std::string choice(const std::string& title) {
         const auto serviceID = configuration().serviceIDForInterface(bsdNameForTitle(title));
         return serviceID.has_value()
@@ -47,7 +47,7 @@ protected:
         return configuration().serviceInterfaceDataForKey(serviceID, request);
     }
 
-    // Watches the IPv4 state of every service from now on.
+    // Starts to watch the IPv4 state of every service.
     void watch() {
         session = store.openSession("test", RecordedChanges::record, &changes);
         const std::vector<std::string_view> patterns = {"State:/Network/Service/[^/]+/IPv4"};
@@ -151,7 +151,7 @@ TEST_F(LinuxInterfaces, EveryAddressOfALinkIsListedThePrimaryOnesFirst) {
     network.addLink("kx0", "02:00:00:00:00:01");
     network.addAddress("kx0", "10.0.0.5/8");
     network.addAddress("kx0", "192.0.2.6/24");
-    network.addAddress("kx0", "10.0.0.7/8"); // a secondary one of the first network
+    network.addAddress("kx0", "10.0.0.7/8"); // a secondary address of the first network
     EXPECT_EQ(textOf("link-kx0", netNumberRequest), "10.0.0.5/8,192.0.2.6/24,10.0.0.7/8");
     EXPECT_EQ(textOf("link-kx0", subnetMaskRequest), "255.0.0.0,255.255.255.0,255.0.0.0");
     EXPECT_EQ(configuration().bsdNameInterfaceDataForKey("kx0", netNumberRequest), "10.0.0.5/8");
@@ -213,7 +213,7 @@ TEST_F(LinuxInterfaces, AChangeIsToldOnceForEachChangedKey) {
                                      "State:/Network/Service/link-kx1/IPv4"}));
     network.addAddress("kx0", "192.0.2.2/24");
     EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
-    network.ip("address del 192.0.2.1/24 dev kx0"); // takes its secondary with it: two events
+    network.ip("address del 192.0.2.1/24 dev kx0"); // removes its secondary address too: two events
     EXPECT_EQ(changedKeys(), Titles{"State:/Network/Service/link-kx0/IPv4"});
     network.ip("link set kx1 mtu 1400");
     EXPECT_EQ(changedKeys(), Titles());
@@ -248,7 +248,7 @@ TEST_F(LinuxInterfaces, WhatIsThereBeforeTheFirstReadIsNoChange) {
     const std::vector<std::string_view> patterns = {"State:/Network/Service/[^/]+/IPv4"};
     ASSERT_TRUE(session->setNotificationKeys({}, patterns));
     source = session->createRunLoopSource();
-    network.ip("link set kx0 mtu 1400"); // so that the links are read anew
+    network.ip("link set kx0 mtu 1400"); // makes the store read the links again
     withoutNetlink([this] { source->addToRunLoop(); });
     EXPECT_EQ(changedKeys(), Titles());
     network.ip("link set kx0 mtu 1500");

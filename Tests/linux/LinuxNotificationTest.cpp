@@ -1,4 +1,4 @@
-// What the shared instance announces of real links.
+// The shared instance's notifications about real links.
 
 #include "SharedHost.h"
 #include "platform/PollLoopDriver.h"
@@ -17,7 +17,7 @@ std::string described(const PropertyDictionary& userInfo) {
 
 TEST(LinuxNotification, AChangeIsPostedWithTheStateAndAnEndWithTheServiceAlone) {
     auto& host = sharedHost();
-    runLoopFor(host.loop, std::chrono::milliseconds(300)); // what other tests left to be told
+    runLoopFor(host.loop, std::chrono::milliseconds(300)); // pending changes of other tests
     auto& configuration = SystemConfiguration::sharedInstance();
     std::vector<std::string> posted;
     configuration.addObserverWithSelector(&posted, [&posted](const Notification& notification) {

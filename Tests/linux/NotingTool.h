@@ -1,4 +1,4 @@
-// A stand-in for a tool of the host that notes what it is given.
+// A stand-in for a tool of the host that records its arguments.
 
 #pragma once
 
@@ -17,13 +17,13 @@ public:
     NotingTool(const NotingTool&) = delete;
     NotingTool& operator=(const NotingTool&) = delete;
 
-    // A program that notes its arguments, one on each line, and then runs these commands.
+    // A program that records its arguments, one on each line, and then runs these commands.
     std::string program(const std::string& commands) const {
         return "#!/bin/sh\nfor word in \"$@\"; do echo \"$word\"; done >>" + _folder + "/words\n" +
                commands + "\n";
     }
 
-    // What the tool was given so far; empty when it has not run.
+    // The arguments that the tool has got so far; empty when it has not run.
     std::string words() const {
         std::ostringstream text;
         const std::ifstream file(_folder + "/words");

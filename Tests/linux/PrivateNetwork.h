@@ -1,8 +1,8 @@
 // A network of the test's own: a new network namespace for the thread that makes it.
 //
-// It begins with the loopback link alone, which is up. Sockets and programs that are made from then
-// on belong to it; it goes away with the last of them. Links are made with ip(8), as an
-// administrator makes them.
+// It begins with only the loopback link, which is up. Sockets and programs that are made later
+// belong to it. It goes away with the last of them. Links are made with ip(8), as an administrator
+// makes them.
 
 #pragma once
 
@@ -27,7 +27,8 @@
 
 namespace kx {
 
-// Waits for what the kernel tells late, such as the loss of a carrier; false when it does not come.
+// Waits for facts that the kernel tells late, such as the loss of a carrier. False when the
+// condition never holds.
 inline bool eventually(const std::function<bool()>& condition) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(10);
     while (!condition() && std::chrono::steady_clock::now() < end) {
@@ -46,7 +47,7 @@ public:
         ip("link set lo up");
     }
 
-    // Makes the calling thread part of it again, after another one was made.
+    // Makes the calling thread part of this network again, after another network was made.
     void enter() {
         if (::setns(_network.number(), CLONE_NEWNET) != 0) {
             throw std::runtime_error(std::string("no way back: ") + std::strerror(errno));
@@ -93,7 +94,7 @@ public:
         }
     }
 
-    // A link with a hardware address, up, with a carrier from a peer of its own.
+    // Adds a link with a hardware address. The link is up and has a carrier from a peer of its own.
     void addLink(const std::string& name, const std::string& hardwareAddress) {
         ip("link add " + name + " address " + hardwareAddress + " type veth peer name p-" + name);
         ip("link set p-" + name + " up");

@@ -1,5 +1,4 @@
-// The receive buffers of real sockets, which overflow on the loopback of a network of the test's
-// own.
+// The receive buffers of real sockets, which overflow on the loopback of the test's own network.
 
 #include "PrivateNetwork.h"
 #include "contracts/ReceiveBuffersContract.h"
@@ -28,7 +27,7 @@ int newDatagramSocket() {
     return ::socket(AF_INET, SOCK_DGRAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
 }
 
-// In bytes as they are asked for, of which the kernel tells the double.
+// The room in bytes as they are requested. The kernel tells twice that number.
 int roomOf(int descriptor) {
     int doubled = 0;
     socklen_t length = sizeof doubled;
@@ -36,7 +35,7 @@ int roomOf(int descriptor) {
     return doubled / 2;
 }
 
-// What the kernel gives to whoever asks for more than it allows.
+// The room that the kernel gives to a process that asks for more than it allows.
 int systemsLimit() {
     const FileDescriptor asked(newDatagramSocket());
     const int all = std::numeric_limits<int>::max();
@@ -44,7 +43,7 @@ int systemsLimit() {
     return roomOf(asked.number());
 }
 
-// The kernel's table of sockets is another way to the count than the one that is tested.
+// The count in the kernel's table of sockets. The tested code gets the count in another way.
 std::uint32_t dropsInTheTable(int descriptor) {
     struct stat status {};
     EXPECT_EQ(::fstat(descriptor, &status), 0);
@@ -63,7 +62,7 @@ std::uint32_t dropsInTheTable(int descriptor) {
     return 0;
 }
 
-// Reads what waits, and returns how many datagrams that was.
+// Reads the waiting datagrams, and returns how many there were.
 std::uint32_t readAll(int descriptor) {
     std::array<char, 100> buffer{};
     std::uint32_t count = 0;
@@ -111,7 +110,8 @@ public:
     }
 
 private:
-    // Of the loopback, with a port of the system's choice when it is not bound yet.
+    // The loopback address of the socket, with a port of the system's choice when it is not bound
+    // yet.
     static sockaddr_in boundAddress(int descriptor) {
         sockaddr_in address{};
         socklen_t length = sizeof address;
@@ -134,7 +134,7 @@ private:
     int _sender = _senderOwner.number();
 };
 
-// Of the calling thread, for good.
+// The calling thread gives this right up for good.
 void giveUpNetworkAdministration() {
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> rights{};
@@ -167,7 +167,8 @@ TEST_F(LinuxReceiveBuffersTest, WithoutRightsTheSystemsLimitHolds) {
     }).join();
 }
 
-// Only the host's own administrator has that right, and not one who is it in a namespace alone.
+// Only the host's own administrator has this right. The administrator of a namespace alone does not
+// have it.
 TEST_F(LinuxReceiveBuffersTest, WhoeverAdministersTheNetworkMayPassTheLimit) {
     const int wanted = systemsLimit() + beyond;
     const FileDescriptor asked(newDatagramSocket());

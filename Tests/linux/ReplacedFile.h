@@ -30,7 +30,7 @@ public:
                                ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) == 0 &&
                                ::mount(copy, _path.c_str(), "none", MS_BIND, nullptr) == 0;
         const int errorNumber = errno;
-        ::unlink(copy); // the mount keeps it
+        ::unlink(copy); // the mount keeps the file
         if (!isMounted) {
             throw std::runtime_error(_path + ": " + std::strerror(errorNumber));
         }

@@ -42,8 +42,8 @@ RewrittenNetlink::~RewrittenNetlink() {
 
 } // namespace kx
 
-// In the place of the system's own for this program and the libraries that it uses. A look ahead is
-// followed by the read itself, so it stays as it is.
+// Takes the place of the system's own function for this program and the libraries that it uses. A
+// peek is followed by the read itself, so it is left unchanged.
 extern "C" ssize_t recvmsg(int descriptor, msghdr* message, int flags) {
     const ssize_t count = ::syscall(SYS_recvmsg, descriptor, message, flags);
     const bool isRead = count > 0 && (flags & MSG_PEEK) == 0;

@@ -1,8 +1,8 @@
-// What the kernel tells over netlink, rewritten before this process reads it: for links of kinds
-// that a small kernel does not have, and for lists that change while it tells them.
+// Rewrites the kernel's netlink messages before this process reads them. Tests use it for links of
+// kinds that a small kernel does not have, and for lists that change while the kernel tells them.
 //
-// Everything else is the kernel's own. It holds for the thread that makes the object, while that
-// lives, and for what is read with recvmsg(2), as libnl does.
+// Everything else is the kernel's own. The rewriting applies to the thread that makes the object,
+// while the object lives, and to reads with recvmsg(2), as libnl makes them.
 
 #pragma once
 
@@ -17,7 +17,7 @@ namespace kx {
 
 class RewrittenNetlink {
 public:
-    // Called with each message that is read, once, in order. The header's length must stay.
+    // Called once with each message that is read, in order. The header's length must not change.
     using Rewrite = std::function<void(nlmsghdr& message)>;
 
     explicit RewrittenNetlink(Rewrite rewrite);
@@ -28,8 +28,8 @@ public:
 
 // NOLINTBEGIN(hicpp-signed-bitwise): the kernel's own macros
 
-// The attribute of a message of the type that `Head` heads, or of an attribute that nests others;
-// null when there is none.
+// The attribute of this type in a message after its header `Head`, or in an attribute that contains
+// others; null when there is none.
 inline rtattr* attributeAmong(rtattr* first, std::size_t length, int type) {
     auto left = static_cast<int>(length);
     for (rtattr* attribute = first; RTA_OK(attribute, left);

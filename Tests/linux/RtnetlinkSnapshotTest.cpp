@@ -1,5 +1,4 @@
-// Which addresses and default routes a link has, and what becomes of lists that change while the
-// kernel tells them.
+// The addresses and default routes of a link, and lists that change while the kernel tells them.
 
 #include "platform/linux/RtnetlinkSnapshot.h"
 
@@ -61,7 +60,7 @@ protected:
 
 using Metric = std::optional<std::uint32_t>;
 
-// What a list says of a link or an address, changed so that it would be noticed.
+// Changes the facts of a message about a link or an address, so that a test would notice them.
 void makeUntrue(nlmsghdr& message) {
     if (isAboutLink(message, "kx0")) {
         static_cast<ifinfomsg*>(NLMSG_DATA(&message))->ifi_index += 100;
@@ -74,8 +73,8 @@ void makeUntrue(nlmsghdr& message) {
     }
 }
 
-// The list of one kind of message, changed and marked as one that was interrupted, the first
-// `times` times that it is told.
+// The list of one kind of message. It is changed and marked as interrupted the first `times` times
+// that the kernel tells it.
 class InterruptedList {
 public:
     InterruptedList(int type, int times)

@@ -1,5 +1,5 @@
-// What the shared SystemConfiguration of this program stands on: a private network, which its tests
-// share, and the sources of Linux. Like the shared instance, it is never released.
+// The sources of the shared SystemConfiguration of this program: a private network, which its tests
+// share, and the adapters of Linux. Like the shared instance, it is never released.
 
 #pragma once
 
@@ -19,7 +19,7 @@ struct SharedHost {
     LinuxConfigurationStore store{loop, links, nullptr};
 };
 
-// Made on the first call; the calling thread is in its network from then on.
+// Made on the first call; after it the calling thread is in its network.
 inline SharedHost& sharedHost() {
     static auto& host = *[] {
         auto* const made = new SharedHost;

@@ -1,8 +1,8 @@
 // Runs code while the kernel refuses to open netlink sockets, as it does with EMFILE when a process
-// has no descriptor left. All else works.
+// has no descriptor left. Everything else works.
 //
-// A filter of system calls cannot be taken back, but it belongs to a thread and ends with it. So
-// the code runs in a thread of its own, for whose end the caller waits.
+// A filter of system calls cannot be removed, but it belongs to a thread and ends with it. So the
+// code runs in a thread of its own, and the caller waits for the end of that thread.
 
 #pragma once
 

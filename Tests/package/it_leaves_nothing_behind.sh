@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Installs the package in a fresh root file system, runs both programs there, follows the installed help
-# book, removes the package again, and compares the file system with what it was before.
+# book, removes the package again, and compares the file system with its state before.
 #
 # usage: it_leaves_nothing_behind.sh PACKAGE      needs root, and the machine's package mirror
 set -euo pipefail
@@ -19,7 +19,7 @@ dependencies() {
     dpkg-deb --field "$package" Depends | sed 's/ *([^)]*)//g; s/ *|[^,]*//g; s/, */,/g'
 }
 
-# Debian's essential packages and the dependencies, from where this machine has its own packages.
+# Debian's essential packages and the dependencies, from the source of this machine's own packages.
 make_root() {
     local suite
     # shellcheck disable=SC1091
@@ -28,7 +28,7 @@ make_root() {
     mmdebstrap --quiet --variant=essential --include="$(dependencies)" \
         --aptopt="$scratch/apt.conf" "$suite" "$root" "$scratch/sources" ||
         fail 'the root file system was not made'
-    # What a login gives a person.
+    # Sets the environment that a login gives a person.
     install -d -m 700 -o nobody -g nogroup "$root/home/person" "$root/run/person"
 }
 
@@ -37,8 +37,8 @@ inside() {
     env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 chroot "$root" "$@"
 }
 
-# Every entry with its kind, rights and owner, every file with its checksum too. The package system's
-# own memory of what it did is no trace of the package.
+# Every entry with its kind, rights and owner, and every file with its checksum too. The package system's
+# own records do not count as traces of the package.
 snapshot() {
     (
         cd "$root"
@@ -61,7 +61,7 @@ check_installed_files() {
     expect_equal 'files that differ from the package' '' "$(inside dpkg --verify kxconfig)"
 }
 
-# The version of the package is that of the project, everywhere.
+# The version of the package is the version of the project, everywhere.
 check_version() {
     local version
     version=$(dpkg-deb --field "$package" Version)
@@ -82,7 +82,7 @@ run_programs() {
         "$here/the_application_asks.sh" "$root" "$scratch/heard"
 }
 
-# A person who has the package alone reads its help book, and does what it says.
+# A person who has only the package reads its help book and does what the book says.
 follow_the_book() {
     KX_BUILD_DIR=$root/usr KX_ROOT=$root KX_PROGRAM=$here/the_installed_application.sh \
         KX_BOOK=$root/usr/share/kxconfig/homepage PYTHONDONTWRITEBYTECODE=1 \

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Runs in the lab: the application of the root file system $1, as a person without rights, off screen,
-# asks every unit for its parameters, as the record $2 tells, and goes on until it is ended.
+# Runs in the lab. The application of the root file system $1 runs off screen, as a person without
+# rights. It must ask every unit for its parameters, which the record $2 shows, and go on until it is
+# ended.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/../lab/expectations.sh"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs the application of the root file system KX_ROOT on the desktop of the caller, whose sockets are
-# in /tmp. It can write nowhere else.
+# Runs the application of the root file system KX_ROOT on the desktop of the caller, whose sockets are in
+# /tmp. The application can write to no other folder.
 set -euo pipefail
 
 # shellcheck disable=SC2016

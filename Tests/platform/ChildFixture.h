@@ -21,7 +21,7 @@
 
 namespace kx {
 
-// What can be read there at once.
+// The bytes that can be read there at once.
 inline std::string textIn(int descriptor) {
     std::array<char, 512> buffer{};
     const ssize_t count = Read(descriptor, buffer.data(), buffer.size());
@@ -30,8 +30,7 @@ inline std::string textIn(int descriptor) {
 
 class ChildFixture : public testing::Test {
 public:
-    // A lookup that an earlier test gave up still opens and closes descriptors of its own for a
-    // moment.
+    // A lookup that an earlier test gave up still opens and closes descriptors for a moment.
     static void SetUpTestSuite() {
         EXPECT_TRUE(waitUntil([] {
             const std::ptrdiff_t before = openDescriptors();
@@ -40,7 +39,7 @@ public:
         }));
     }
 
-    // Here, when what a test's own fixture holds is gone.
+    // This is checked here, when the members of a test's own fixture are gone.
     ~ChildFixture() override {
         EXPECT_TRUE(hasNoChild()) << "a child is left";
         EXPECT_EQ(openDescriptors(), _openAtFirst) << "a descriptor is left";
@@ -48,13 +47,14 @@ public:
 
 protected:
     static inline const std::string shell = "/bin/sh";
-    // What a text holds before the call that is to set it.
+    // The contents of a text before the call that should set it.
     static inline const std::string untouched = "untouched";
 
     // The arguments that make /bin/sh run this script.
     static std::vector<std::string> script(const std::string& text) { return {"-c", text}; }
 
-    // False when the condition does not hold within a time that only a hang uses up.
+    // Returns false when the condition does not hold in time. The time is so long that only a hang
+    // uses it up.
     static bool waitUntil(const std::function<bool()>& condition) {
         const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(30);
         while (!condition() && std::chrono::steady_clock::now() < end) {

@@ -19,7 +19,7 @@ namespace {
 
 class ChildProcessTest : public ChildFixture {
 protected:
-    // What the child writes to its standard output until it ends.
+    // The text that the child writes to its standard output until it ends.
     static std::string outputOf(const std::string& path,
                                 const std::vector<std::string>& arguments) {
         Pipe output;
@@ -196,9 +196,9 @@ TEST_F(ChildProcessTest, StandardDescriptorsCanBeExchanged) {
 }
 
 TEST_F(ChildProcessTest, NoOtherDescriptorReachesTheChild) {
-    int careless[2]; // as a library might open them
+    int careless[2]; // opened as a library might open them
     ASSERT_EQ(::pipe(careless), 0);
-    // 0, 1, 2, and the one by which ls reads the folder.
+    // The descriptors 0, 1, 2, and the one with which ls reads the folder.
     EXPECT_EQ(outputOf("/bin/ls", {"/proc/self/fd"}), "0\n1\n2\n3\n");
     ::close(careless[0]);
     ::close(careless[1]);
@@ -215,7 +215,7 @@ TEST_F(ChildProcessTest, SignalsAreAtTheirDefaultsInTheChild) {
     ::sigprocmask(SIG_SETMASK, &maskBefore, nullptr);
     Signal(SIGPIPE, before);
     EXPECT_NE(status.find("SigBlk:\t0000000000000000\n"), std::string::npos) << status;
-    // The lower half: the C library keeps two signals above it to itself.
+    // Only the lower half counts: the C library reserves two signals above it.
     const auto ignored = status.find("SigIgn:\t");
     ASSERT_NE(ignored, std::string::npos) << status;
     EXPECT_EQ(std::stoull(status.substr(ignored + 8, 16), nullptr, 16) & 0x7FFFFFFFU, 0U) << status;
@@ -226,7 +226,7 @@ TEST_F(ChildProcessTest, AMovedChildBelongsToItsNewObject) {
     const pid_t identifier = first.processIdentifier();
     ChildProcess second(std::move(first));
     EXPECT_EQ(second.processIdentifier(), identifier);
-    // NOLINTBEGIN(bugprone-use-after-move): what is left is told
+    // NOLINTBEGIN(bugprone-use-after-move): tests the state after a move
     EXPECT_EQ(first.exitStatus(), -1);
     EXPECT_EQ(first.processIdentifier(), -1);
     first.terminate();
@@ -247,9 +247,9 @@ TEST_F(ChildProcessTest, AChildThatIsLetGoRunsOnAndLeavesNothing) {
                                   .standardError = {}});
         identifier = child.processIdentifier();
     }
-    EXPECT_EQ(::kill(identifier, 0), 0); // it runs
+    EXPECT_EQ(::kill(identifier, 0), 0); // the child runs
     input.writingEnd.close();
-    EXPECT_TRUE(waitUntil([&] { return ::kill(identifier, 0) != 0; })); // and is gone
+    EXPECT_TRUE(waitUntil([&] { return ::kill(identifier, 0) != 0; })); // now it is gone
 }
 
 TEST_F(ChildProcessTest, AnEndedChildThatIsLetGoLeavesNothing) {
@@ -300,8 +300,8 @@ TEST_F(ChildProcessTest, ADescriptorHasOneOwner) {
     const int number = pipe.readingEnd.number();
     FileDescriptor taken(std::move(pipe.readingEnd));
     EXPECT_EQ(taken.number(), number);
-    EXPECT_EQ(pipe.readingEnd.number(), -1); // NOLINT(bugprone-use-after-move): what is left
-    pipe.writingEnd = std::move(taken);      // which closes the writing end
+    EXPECT_EQ(pipe.readingEnd.number(), -1); // NOLINT(bugprone-use-after-move): tested here
+    pipe.writingEnd = std::move(taken);      // this closes the writing end
     EXPECT_EQ(pipe.writingEnd.number(), number);
     EXPECT_EQ(::fcntl(number, F_GETFD) & FD_CLOEXEC, FD_CLOEXEC);
     pipe.writingEnd.close();

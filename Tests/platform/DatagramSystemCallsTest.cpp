@@ -20,7 +20,7 @@ public:
 
     DatagramSystemCalls& systemCalls() { return _calls; }
 
-    // The system's own choice of a port, given back.
+    // A port that the system chose and that was closed again.
     Bytes freeAddress() {
         const int descriptor = _calls.socket();
         EXPECT_EQ(_calls.bind(descriptor, dataForAddress(ipv4Loopback, 0)), 0);

@@ -1,5 +1,5 @@
-// The open descriptors of this process, counted when no thread but the caller's is left that could
-// hold one.
+// Counts the open descriptors of this process when only the caller's thread is left. Other threads
+// could hold descriptors.
 
 #pragma once
 
@@ -23,8 +23,8 @@ inline std::size_t entryCount(const char* path) {
     return count;
 }
 
-// The entries of /proc/self/task at rest: the thread that asks, "." and "..". The thread sanitizer
-// has a thread of its own from the first start of another one on.
+// The number of entries of /proc/self/task at rest: the calling thread, "." and "..". The thread
+// sanitizer has a thread of its own after the first start of another thread.
 #ifdef __SANITIZE_THREAD__
 inline constexpr std::size_t tasksAtRest = 4;
 #else
@@ -32,7 +32,7 @@ inline constexpr std::size_t tasksAtRest = 3;
 #endif
 
 inline std::size_t descriptorsAtRest(PollRunLoop& loop) {
-    std::thread([] {}).join(); // so that the sanitizer's thread is there, too
+    std::thread([] {}).join(); // makes sure that the sanitizer's thread exists
     EXPECT_TRUE(runLoopUntil(loop, [] { return entryCount("/proc/self/task") == tasksAtRest; }));
     return entryCount("/proc/self/fd");
 }

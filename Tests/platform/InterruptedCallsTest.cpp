@@ -1,4 +1,4 @@
-// Signals that arrive while a child is waited for or read: whoever waits goes on.
+// Signals that arrive while a process waits for a child or reads from it: the process goes on.
 
 #include "ChildFixture.h"
 #include "support/ChildProcess.h"
@@ -34,7 +34,7 @@ protected:
         Signal(SIGALRM, _previous);
     }
 
-    // Interrupts the system calls of this process again and again; 0 ends it.
+    // Interrupts the system calls of this process again and again. 0 ends the interruptions.
     static void ringEvery(suseconds_t microseconds) {
         itimerval timer{};
         timer.it_interval.tv_usec = timer.it_value.tv_usec = microseconds;
@@ -86,7 +86,7 @@ TEST_F(InterruptedCalls, AShortTasksOutputIsReadToItsEnd) {
 }
 
 TEST_F(InterruptedCalls, AChildThatIsLeftToItselfIsStillReaped) {
-    std::thread([] {}).join(); // after which a sanitizer's own thread is there
+    std::thread([] {}).join(); // after this a sanitizer's own thread exists
     Pipe input;
     const auto threadsBefore = threads();
     {

@@ -1,4 +1,4 @@
-// Runs a poll loop until something has happened, but not for ever.
+// Runs a poll loop until a condition holds, with a time limit.
 
 #pragma once
 
@@ -9,7 +9,7 @@
 
 namespace kx {
 
-// False when the condition does not hold within five seconds.
+// Returns false when the condition does not hold within five seconds.
 inline bool runLoopUntil(PollRunLoop& loop, const std::function<bool()>& condition) {
     const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
     while (!condition() && std::chrono::steady_clock::now() < end) {

@@ -105,7 +105,7 @@ TEST(PollRunLoop, APollThatFailsDoesNotMakeTheLoopSpin) {
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
     rlimit none = before;
-    none.rlim_cur = 0; // fewer descriptors than poll(2) is asked for: it fails
+    none.rlim_cur = 0; // poll(2) fails with fewer descriptors than it is given
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
     const auto start = steady_clock::now();
     const bool hasCalled = loop.runOnce(std::chrono::seconds(5));

@@ -29,7 +29,7 @@ void ringSoon() {
     ::setitimer(ITIMER_REAL, &timer, nullptr);
 }
 
-// The first alarm only interrupts; the second one brings what is waited for.
+// The first alarm only interrupts. The second one writes the awaited bytes.
 void interruptThenWrite(int /*signal*/) {
     alarmCount = alarmCount + 1;
     if (alarmCount == 1) {
@@ -39,7 +39,7 @@ void interruptThenWrite(int /*signal*/) {
     static_cast<void>(::write(alarmDescriptor, "x", 1) == 1);
 }
 
-// As many descriptors as the system allows, while this object lives.
+// While this object lives, the process may open as many descriptors as the system allows.
 class MoreDescriptors {
 public:
     MoreDescriptors() {
@@ -57,7 +57,7 @@ private:
 
 class ReadFileHandle : public testing::Test {
 protected:
-    // From now on a read gives what one write wrote, and no more.
+    // After this, a read gives the bytes of one write and no more.
     void makePacketPipe() {
         std::array<int, 2> ends{};
         ASSERT_EQ(::pipe2(ends.data(), O_CLOEXEC | O_DIRECT), 0);
@@ -180,14 +180,14 @@ TEST_F(ReadFileHandle, WhatArrivesInPiecesIsReadOnWhileThereIsRoom) {
     EXPECT_EQ(text(), "firstsecond");
 
     write(std::string(500, 'x'));
-    write("twelve bytes"); // all the room that is left
+    write("twelve bytes"); // fills the remaining room
     write("rest");
     EXPECT_EQ(read(), 512);
     EXPECT_EQ(text(), std::string(500, 'x') + "twelve bytes");
     EXPECT_EQ(read(), 4);
 }
 
-// The shortest of several waits: how long this process is kept from running is not of interest.
+// The shortest of several waits counts, because this process may be kept from running.
 TEST_F(ReadFileHandle, MoreIsWaitedForNoLongerThanAMoment) {
     using Clock = std::chrono::steady_clock;
     auto shortest = Clock::duration::max();

@@ -1,4 +1,4 @@
-// Standard error of the test's own.
+// A standard error stream of the test's own.
 
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace kx {
 
-// Standard error is this descriptor, which stays the caller's, while this object lives.
+// While this object lives, standard error is this descriptor. The caller keeps the descriptor.
 class ReplacedStandardError {
 public:
     explicit ReplacedStandardError(int descriptor)
@@ -30,7 +30,7 @@ private:
     int _before;
 };
 
-// Standard error goes into a file while this object lives.
+// While this object lives, standard error goes into a file.
 class CapturedStandardError {
 public:
     CapturedStandardError() = default;

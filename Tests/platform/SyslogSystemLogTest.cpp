@@ -1,4 +1,4 @@
-// A host whose system log, or whoever reads standard error, does not do its part.
+// A host whose system log, or whose reader of standard error, does not work.
 
 #include "platform/posix/SyslogSystemLog.h"
 
@@ -33,7 +33,7 @@ public:
                   0);
     }
 
-    // The next line; absent when none waits.
+    // The next line; absent when there is none.
     std::optional<std::string> read() {
         std::string line(10000, '\0');
         const ssize_t length = ::recv(_descriptor.number(), line.data(), line.size(), 0);
@@ -111,7 +111,7 @@ TEST_F(SyslogSystemLogFaults, ALogThatWasStartedAnewGetsTheNextLine) {
 TEST_F(SyslogSystemLogFaults, ALogThatNobodyReadsHoldsNobodyUp) {
     CapturedStandardError captured;
     LogSocket socket(path);
-    constexpr int written = 2000; // more than any socket keeps; returns, or the test hangs here
+    constexpr int written = 2000; // more than any socket keeps; write() must not hang
     for (int i = 0; i < written; ++i) {
         log.write(std::string(1000, 'x'));
     }
@@ -147,7 +147,7 @@ TEST_F(SyslogSystemLogFaults, StandardErrorThatNobodyReadsHoldsNobodyUp) {
     fill(pipe.writingEnd.number());
     {
         const ReplacedStandardError standardError(pipe.writingEnd.number());
-        log.write("a line"); // returns, or the test hangs here
+        log.write("a line"); // must not hang
         log.write(std::string(std::size_t{5} * PIPE_BUF, 'x'));
     }
     EXPECT_TRUE(readsLine(socket, "a line"));

@@ -45,7 +45,7 @@ private:
     SystemWallClock _clock;
 };
 
-// The process's time zone while this object lives.
+// Sets the process's time zone while this object lives.
 class TimeZone {
 public:
     explicit TimeZone(const char* name) {

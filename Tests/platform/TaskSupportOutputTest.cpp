@@ -125,7 +125,7 @@ TEST_F(Task, CharactersThatTwoChunksShareArePutTogether) {
 }
 
 TEST_F(Task, AChunkThatIsNotUTF8AddsNothing) {
-    // Less than the system ever splits, so that chunks of 512 bytes arrive.
+    // The system never splits so few bytes, so chunks of 512 bytes arrive.
     EXPECT_EQ(run("/bin/cat", {}, std::string(512, 'x') + '\xFF' + std::string(511, 'y') + "end"),
               0);
     EXPECT_EQ(output, std::string(512, 'x') + "end");

@@ -27,7 +27,7 @@ protected:
                                                        loop);
     }
 
-    // What the tool wrote, once nobody can write any more.
+    // The tool's whole output, read after every writing end is closed.
     std::string written() {
         output.writingEnd.close();
         std::string text;
@@ -42,8 +42,8 @@ protected:
     RecordedSystemLog log;
 };
 
-// A real loop in which the ten seconds are over as soon as the tool writes its first word, so that
-// no test has to wait for them, and none terminates a tool that is not prepared.
+// A real loop in which the ten seconds are over as soon as the tool writes its first word. So no
+// test has to wait for them, and no test terminates a tool that is not prepared.
 class ShortTenSeconds final : public RunLoop {
 public:
     explicit ShortTenSeconds(int toolOutput)
@@ -101,7 +101,7 @@ TEST_F(PipedTask, AToolThatIsNotThereIsLogged) {
 TEST_F(PipedTask, TheLoopRunsWhileTheToolDoes) {
     Pipe toTool;
     const auto call = loop.callOnceAfter(milliseconds(1), [&] { toTool.writingEnd.close(); });
-    // The tool shares this process's input, which ends only when the call has come.
+    // The tool shares this process's input, which ends only after the call.
     const FileDescriptor kept(::fcntl(STDIN_FILENO, F_DUPFD_CLOEXEC, 3));
     ::dup2(toTool.readingEnd.number(), STDIN_FILENO);
     EXPECT_EQ(run("/bin/cat", {}), 0);

@@ -149,11 +149,11 @@ TEST_F(ShortTask, WhatTheToolLeavesRunningIsNotWaitedFor) {
 }
 
 TEST_F(ShortTask, WhatTheToolLeavesWritingIsNotWaitedForEither) {
-    EXPECT_EQ(runScript("yes & exit 9"), 9); // which ends when nobody reads any more
+    EXPECT_EQ(runScript("yes & exit 9"), 9); // "yes" ends when nobody reads any more
 }
 
 TEST_F(ShortTask, WithoutDescriptorsThereIsAnException) {
-    posixErrorText(EMFILE); // a sanitizer may need descriptors when this is called first
+    posixErrorText(EMFILE); // a sanitizer may need descriptors at its first call
     rlimit before{};
     ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
     const rlimit none{.rlim_cur = 3, .rlim_max = before.rlim_max};

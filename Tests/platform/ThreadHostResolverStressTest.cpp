@@ -1,4 +1,4 @@
-// Many lookups at once, and requests, resolvers and loops that end at any moment of them.
+// Many lookups at once. Requests, resolvers and loops end at any moment of them.
 
 #include "DescriptorsAtRest.h"
 #include "platform/posix/ThreadHostResolver.h"
@@ -20,8 +20,8 @@ using std::chrono::milliseconds;
 
 constexpr std::size_t requestCount = 40;
 
-// A loop, a resolver and requests "0", "1" and so on, whose lookups take up to two milliseconds and
-// answer with the name. Destroying it leaves the lookups that are not over to themselves.
+// A loop, a resolver and requests "0", "1" and so on. Their lookups take up to two milliseconds and
+// answer with the name. Destroying a crowd abandons the lookups that still run.
 class Crowd {
 public:
     // Every lookup holds a share of `token`.
@@ -40,7 +40,7 @@ public:
 
     void runATurn() { _loop.runOnce(milliseconds(any(2))); }
 
-    // False when there are requests left without a report after a generous time.
+    // Returns false when some requests have no report after a generous time.
     bool runToTheEnd() {
         return runLoopUntil(_loop, [this] { return unreported() == 0; });
     }
@@ -61,7 +61,7 @@ private:
             << error.code;
     }
 
-    // Sometimes one report ends its own request, sometimes another one.
+    // Some reports end their own request, and some end another one.
     void take(std::size_t number, const HostResolution& resolution) {
         const std::string name = std::to_string(number);
         EXPECT_EQ(resolution.addresses, (std::vector<Bytes>{Bytes(name.begin(), name.end())}));
@@ -102,7 +102,7 @@ TEST(ThreadHostResolverStress, WhateverEndsWhileLookupsRunNothingIsReportedTwice
             crowd.cancelOne();
             crowd.runATurn();
         } while (crowd.isTimeForAnother());
-        if (seed % 2 == 0) { // the other half ends with lookups on their way
+        if (seed % 2 == 0) { // the other half ends with lookups still running
             EXPECT_TRUE(crowd.runToTheEnd());
         }
     }

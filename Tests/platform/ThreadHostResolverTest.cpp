@@ -66,7 +66,7 @@ TEST(ThreadHostResolver, CancellingDoesNotWaitForALookup) {
         StreamError error;
         ASSERT_TRUE(request->startResolution([&](const HostResolution&) { ++reports; }, error));
         started.wait();
-        request.reset(); // returns although the lookup is still waiting, or the test hangs here
+        request.reset(); // must not wait for the lookup that still runs
     }
     lookup->release.set_value();
     runLoopFor(loop, milliseconds(20));
@@ -167,7 +167,7 @@ TEST(ThreadHostResolver, WithoutAWatchItCannotStartAndReportsNothing) {
     EXPECT_EQ(error.domain, kCFStreamErrorDomainPOSIX);
     EXPECT_EQ(error.code, ENOMEM);
     loop.advanceBy(milliseconds(1000));
-    std::this_thread::sleep_for(milliseconds(5)); // for a thread that should not be there
+    std::this_thread::sleep_for(milliseconds(5)); // time for a thread that should not exist
     EXPECT_EQ(reports, 0);
     EXPECT_EQ(*lookups, 0);
 }
@@ -199,7 +199,7 @@ TEST(ThreadHostResolver, ALookupThatThrowsIsReportedAsWantOfMemory) {
     EXPECT_FALSE(reported->addresses.has_value());
 }
 
-// The statement of a death test runs in a process of its own, threads and all; one that is not a
+// The statement of a death test runs in a separate process with its own threads. It must not be a
 // fork of a process with threads.
 TEST(ThreadHostResolverDeathTest, ARequestIsStartedOnce) {
     GTEST_FLAG_SET(death_test_style, "threadsafe");

@@ -37,7 +37,7 @@ std::uint16_t portOf(const Bytes& record) {
 class LoopbackSocket {
 public:
     LoopbackSocket() {
-        const timeval fiveSeconds{5, 0}; // a datagram that does not come must not stop the tests
+        const timeval fiveSeconds{5, 0}; // a lost datagram must not stop the tests
         EXPECT_EQ(_systemCalls.bind(_descriptor, dataForAddress(loopback, 0)), 0);
         EXPECT_EQ(
             ::setsockopt(_descriptor, SOL_SOCKET, SO_RCVTIMEO, &fiveSeconds, sizeof fiveSeconds),
@@ -113,7 +113,7 @@ public:
     }
 
 private:
-    // A copy: the action may replace itself.
+    // A copy, because the action may replace itself.
     void actOnEvent() {
         const auto action = onEvent;
         action();
@@ -225,7 +225,7 @@ TEST_F(UDPEchoLoopback, ADatagramWithoutBytesIsABrokenPipeInBothDirections) {
 
 TEST_F(UDPEchoLoopback, TheLongestDatagramIsReceivedWhole) {
     const auto port = startServer();
-    const Bytes longest(65507, 0x5A); // what an IPv4 packet can carry
+    const Bytes longest(65507, 0x5A); // the most that an IPv4 packet can carry
     peer.sendTo(longest, port);
     ASSERT_TRUE(runUntil([&] { return !delegate.received.empty(); }));
     EXPECT_EQ(delegate.received[0], longest);

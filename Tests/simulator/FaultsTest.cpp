@@ -14,7 +14,7 @@ using std::chrono::milliseconds;
 
 const Bytes replyText = bytesOfText("a reply of some twenty bytes");
 
-// What happens to `count` equal replies, as one list.
+// The deliveries of `count` equal replies, as one list.
 std::vector<Delivery> deliveriesOf(const FaultPlan& plan, int count) {
     Faults faults(plan);
     std::vector<Delivery> all;

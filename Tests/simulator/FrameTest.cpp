@@ -186,7 +186,7 @@ TEST(Frames, RandomBytesOfEveryLengthAreReadSafely) {
             for (std::uint8_t& byte : frame) {
                 byte = static_cast<std::uint8_t>(random());
             }
-            // The likeliest beginnings of a frame, so that what lies behind them is read too.
+            // Begins like most real frames, so that the bytes behind the beginning are read too.
             const Bytes beginning = bytesOfHex(round % 2 == 0 ? requestFrame : arpRequest);
             for (std::size_t index = 12; index < std::min<std::size_t>(length, 16); ++index) {
                 frame[index] = beginning[index];

@@ -1,4 +1,4 @@
-// Bytes as a test writes them down.
+// Bytes in the notation of the tests.
 
 #pragma once
 
@@ -10,7 +10,7 @@
 
 namespace kx::simulator {
 
-// The bytes that pairs of hexadecimal digits stand for; blanks and line ends are left out.
+// The bytes of pairs of hexadecimal digits; blanks and line ends are left out.
 inline Bytes bytesOfHex(std::string_view text) {
     std::string digits;
     for (const char character : text) {

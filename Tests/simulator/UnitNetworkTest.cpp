@@ -116,7 +116,7 @@ TEST_F(UnitNetworkTest, ArpIsAnsweredForHeldAddressesOnly) {
     play(3);
     const auto frames = ask(addressOf(2));
     ASSERT_EQ(frames.size(), 1U);
-    // Sender of the answer: the holder's hardware address and the address that was asked for.
+    // The sender of the answer: the holder's hardware address and the address in the question.
     EXPECT_EQ(Bytes(frames[0].bytes.begin() + 22, frames[0].bytes.begin() + 32),
               bytesOfHex("024B58000002 0A00000C"));
     EXPECT_TRUE(ask(addressOf(4)).empty());
@@ -215,7 +215,7 @@ TEST_F(UnitNetworkTest, TenThousandUnitsAnswerOneBroadcastAndAreEachFound) {
     for (unsigned number = 1; number <= 10'000; ++number) {
         ASSERT_EQ(ask(addressOf(number)).size(), 1U);
     }
-    // One and the same address for all is the worst that can happen to an index.
+    // One address for all units is the worst case for an index.
     EXPECT_EQ(broadcast("^^IdIC0A80114").size(), 20'000U);
     EXPECT_EQ(ask(0xC0A80114).size(), 10'000U);
 }

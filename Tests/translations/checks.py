@@ -1,4 +1,4 @@
-"""What is asked of a translation, one fault in words for each thing that is wrong."""
+"""Checks translations, and describes each fault in words."""
 
 import importlib.machinery
 import importlib.util
@@ -10,7 +10,7 @@ ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
 def load_script():
-    """scripts/translations, which knows the program's texts, as a module."""
+    """scripts/translations as a module, because it knows the program's texts."""
     loader = importlib.machinery.SourceFileLoader("translations", str(ROOT / "scripts/translations"))
     module = importlib.util.module_from_spec(importlib.util.spec_from_loader(loader.name, loader))
     loader.exec_module(module)
@@ -19,7 +19,7 @@ def load_script():
 
 script = load_script()
 
-# How a text ends, in whatever script: a translation ends in the same way.
+# The last characters of texts, in any script: a translation ends in the same way.
 ENDINGS = {".": ".。", ":": ":：", "…": "…", "]": "]"}
 MNEMONIC = re.compile(r"&(.)")
 
@@ -59,7 +59,7 @@ def faults_of_translation(key, translation):
         faults.append(f"a mnemonic too many or too few: {translation!r}")
     elif mnemonic(translation) and not re.fullmatch("[a-z0-9]", mnemonic(translation)):
         faults.append(f"a mnemonic that is not on every keyboard: {translation!r}")
-    # What stands before two blanks is the command itself, the rest describes it.
+    # The text before two blanks is the command itself; the rest describes it.
     if "  " in key.strip() and key.split("  ")[0] != translation.split("  ")[0]:
         faults.append(f"another option command: {translation!r}")
     return faults

@@ -1,4 +1,4 @@
-"""The checks of the catalogues find what they are there to find."""
+"""The checks of the catalogues find the faults that they are made for."""
 
 import unittest
 
@@ -91,13 +91,13 @@ class Checks(unittest.TestCase):
 class TheTextsOfTheProgram(unittest.TestCase):
     def test_are_found_however_a_source_writes_them(self):
         source = ('localizedText("No ä.");\nf(localizedQtText(\n    "It (%@ "\n    "%d)."), a);\n'
-                  'localizedText("Is \\"b\\".", {c});\nappendMessage("\\nStart. ");\n'
+                  'localizedText("Is \\"b\\".", {c});\nlocalizedText("\\nStart. ");\n'
                   '{localizedKey("work"), "01"}\n')
         self.assertEqual(checks.script.keys_of_source(source),
                          (["No ä.", "It (%@ %d).", 'Is "b".', "\nStart. ", "work"], []))
 
     def test_are_not_found_in_what_has_no_words(self):
-        source = 'appendMessage("\\n  %@", {a});\nappendMessage("%@:%d", {a, b});\n'
+        source = 'localizedText("\\n  %@", {a});\nlocalizedText("%@:%d", {a, b});\n'
         self.assertEqual(checks.script.keys_of_source(source), ([], []))
 
     def test_a_key_that_is_no_literal_is_told(self):
@@ -111,7 +111,7 @@ class TheTextsOfTheProgram(unittest.TestCase):
         self.assertEqual(checks.script.keys_of_window(window), ["&File"])
 
     def test_come_back_from_the_catalogue_that_is_written_of_them(self):
-        path = checks.ROOT / "Sources/main.cpp"
+        path = checks.ROOT / "Sources/kxconfig.cpp"
         keys = {"\nA <b> & \"c\": ": [path], "New": [path]}
         written = checks.script.catalogue("de", keys, {"\nA <b> & \"c\": ": "\nÄ <b> & „c“: "})
         self.assertEqual(checks.script.entries(written),

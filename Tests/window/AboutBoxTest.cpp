@@ -1,4 +1,4 @@
-// The About box: what it says, and how a person comes to it and away from it.
+// The About box: its text, and how a person opens and closes it.
 
 #include "InLanguage.h"
 #include "MainWindowFixture.h"

@@ -16,7 +16,7 @@ TEST(ApplicationIconTest, IsEmbeddedInEverySizeThatAWindowManagerAsksFor) {
 
 TEST(ApplicationIconTest, ShowsSomethingOnATransparentGround) {
     const QImage picture = applicationIcon().pixmap(16).toImage();
-    EXPECT_LT(qAlpha(picture.pixel(0, 0)), 64); // the round corner
+    EXPECT_LT(qAlpha(picture.pixel(0, 0)), 64); // a rounded corner
     EXPECT_EQ(qAlpha(picture.pixel(8, 8)), 255);
 }
 

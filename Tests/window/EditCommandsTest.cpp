@@ -69,7 +69,7 @@ TEST_F(EditCommandsTest, TheEditRowCopiesItsNameAndValue) {
     launchWithTwoUnits();
     auto& editRow = control<QTableView>("editParameterTableView");
     editRow.setFocus();
-    EXPECT_EQ(copiedByKeys(), "before"); // nothing is in it yet
+    EXPECT_EQ(copiedByKeys(), "before"); // the edit row is still empty
     clickCell("unitParameterTableView", 3, 1);
     editRow.setFocus();
     EXPECT_EQ(copiedByKeys(), "device Port number\t10000");

@@ -3,7 +3,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "MainWindowFixture.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 namespace kx {
 
@@ -20,7 +20,7 @@ protected:
 
     FindBar& bar() { return control<FindBar>("logFindBar"); }
     LogTextView& log() { return control<LogTextView>("logTextView"); }
-    // The line of the log that the selection is in.
+    // The line of the log that contains the selection.
     std::string selectedIn() {
         const LogText& text = log().text();
         return "'" + utf8Text(log().selectedText()) + "' in '" +
@@ -70,7 +70,7 @@ TEST_F(FindBarTest, ReturnAndF3GoOnAndRoundTheEnd) {
     press(Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(selectedIn(), "'reply' in 'reply two'");
     EXPECT_EQ(result(), "");
-    EXPECT_TRUE(newlySent().empty()); // Return pressed no button behind the bar
+    EXPECT_TRUE(newlySent().empty()); // Return must not press a button behind the bar
 }
 
 TEST_F(FindBarTest, TheButtonsDoTheSame) {

@@ -1,4 +1,4 @@
-// Help over the real desktop seam: the adapters, the viewer, and the window's way to them.
+// Help over the real desktop seam: the adapters, the viewer, and the window's ways to open it.
 
 #include "MainWindowFixture.h"
 #include "RecordedBrowser.h"
@@ -29,7 +29,7 @@ void writeFile(const QString& path, const QByteArray& content, QFile::Permission
     ASSERT_TRUE(file.setPermissions(permissions)) << path.toStdString();
 }
 
-// The desktop's register of applications, as the program that is asked for it.
+// A program that takes the place of the desktop's register of applications.
 class ScriptedRegister {
 public:
     ScriptedRegister() {
@@ -55,7 +55,7 @@ public:
     }
     void remove() { QFile::remove(program()); }
 
-    // A file beside the register's program, where programs are looked for.
+    // A file beside the register's program, in the folder where programs are searched for.
     QString addFile(const char* name, QFile::Permissions permissions) {
         writeFile(_folder.filePath(name), "#!/bin/sh\n", permissions);
         return _folder.filePath(name);
@@ -225,7 +225,7 @@ TEST(QtHelpServices, ABrowserOfTheEnvironmentCounts) {
     qunsetenv("BROWSER");
 }
 
-// The opener would try nothing then, and report success.
+// In this case the opener would try nothing and report success.
 TEST(QtHelpServices, AnEnvironmentThatNamesNoProgramThatRunsLeavesItToTheRegister) {
     RecordedBrowser browser;
     ScriptedRegister desktop;
@@ -279,7 +279,7 @@ protected:
     }
     void followLink() {
         pages().setFocus();
-        press(Qt::Key_Tab); // to the first link
+        press(Qt::Key_Tab); // moves to the first link
         press(Qt::Key_Return);
     }
 

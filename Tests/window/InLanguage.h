@@ -1,9 +1,9 @@
-// The process's texts in one language, from construction to destruction.
+// Sets the language of the process's texts from its construction to its destruction.
 
 #pragma once
 
-#include "platform/qt/QtLocalizedText.h"
-#include "platform/qt/QtTranslations.h"
+#include "platform/qtcore/QtLocalizedText.h"
+#include "platform/qtcore/QtTranslations.h"
 
 namespace kx {
 

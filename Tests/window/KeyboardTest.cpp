@@ -1,4 +1,4 @@
-// Everything can be done with the keyboard alone, and it never gets stuck.
+// Every function can be used with the keyboard alone, and the keyboard focus never gets stuck.
 
 #include "MainWindowFixture.h"
 
@@ -38,7 +38,7 @@ class KeyboardTest : public MainWindowTest {
 protected:
     std::string focused() { return window.focusWidget()->objectName().toStdString(); }
 
-    // Where the keyboard is before each of so many presses of the key.
+    // The control that has the keyboard before each of `steps` presses of the key.
     Texts visitedBy(Qt::Key key, Qt::KeyboardModifiers modifiers, std::size_t steps) {
         Texts visited;
         for (std::size_t step = 0; step < steps; ++step) {
@@ -59,7 +59,7 @@ protected:
         return found != nullptr && found->isVisible() ? found : nullptr;
     }
 
-    // Opens the menu with this letter, chooses the item with that one.
+    // Opens the menu with one letter, and chooses the item with the other.
     void chooseFromMenu(Qt::Key menuKey, const char* itemKey) {
         press(menuKey, Qt::AltModifier);
         ASSERT_TRUE(QTest::qWaitFor([] { return QApplication::activePopupWidget() != nullptr; }));
@@ -207,7 +207,7 @@ TEST_F(KeyboardTest, AnOpenListIsChosenFromWithArrowAndReturn) {
     EXPECT_FALSE(list.isVisible());
     EXPECT_EQ(selected("unitSelectPopUp"), "01 02 03 04 05 07");
     EXPECT_EQ(control<QLineEdit>("unitIDField").text(), "43");
-    EXPECT_EQ(newlySent(), Texts{}); // Return pressed no button behind the list
+    EXPECT_EQ(newlySent(), Texts{}); // Return must not press a button behind the list
 }
 
 TEST_F(KeyboardTest, ArrowsChooseInAClosedPopUp) {

@@ -24,7 +24,7 @@ namespace kx {
 
 namespace {
 
-// What a desktop takes from the height of a screen for its panel and for the window's title.
+// The height that a desktop takes from the screen for its panel and for the window's title.
 constexpr int heightOfDesktop = 72;
 
 constexpr QSize leastScreen(1280, 720);
@@ -40,7 +40,7 @@ void expectRoomForItself(const QWidget& widget) {
     EXPECT_GE(widget.height(), widget.sizeHint().height()) << describe(widget);
 }
 
-// A marked letter is drawn by itself, without the kerning that the whole text is measured with.
+// A letter with a mnemonic mark is drawn by itself, without the kerning of the measured whole text.
 void expectRoomForPieces(const QLabel& label) {
     const QString text = label.text();
     const auto mark = text.indexOf('&');
@@ -91,7 +91,7 @@ void expectRoomForPlaceholder(const ParameterTableView& table) {
     EXPECT_TRUE(room.contains(wanted)) << table.placeholderText().toStdString();
 }
 
-// Everything that shows text in a window and cannot scroll.
+// Checks everything in a window that shows text and cannot scroll.
 void expectRoomForEverything(const QWidget& window) {
     for (const auto* label : window.findChildren<QLabel*>()) {
         if (label->isVisible() && !label->wordWrap()) {
@@ -137,7 +137,7 @@ public:
         : InLanguage(QString::fromStdString(GetParam())) {}
 
 protected:
-    // Leaves a picture where KX_PICTURES names a folder.
+    // Saves a picture when KX_PICTURES names a folder.
     void takePicture(QWidget& widget, const char* name) const {
         const QString folder = qEnvironmentVariable("KX_PICTURES");
         if (!folder.isEmpty()) {
@@ -150,7 +150,7 @@ protected:
 
     QSize roomOfDesktop() const { return window.screen()->size() - QSize(0, heightOfDesktop); }
 
-    // The content needs no scroll bar, and the window fits the room that it is given.
+    // The content needs no scroll bar, and the window fits into the given room.
     void expectInSight(QSize room) {
         EXPECT_LE(window.width(), room.width());
         EXPECT_LE(window.height(), room.height());
@@ -171,7 +171,7 @@ TEST_F(EveryTextTest, ThatTheWindowShowsIsLookedUp) {
         expectMarked(button->toolTip(), *button);
     }
     for (const auto* action : window.findChildren<QAction*>()) {
-        const bool isOfTheWindow = !action->objectName().startsWith('_'); // Qt's own begin so
+        const bool isOfTheWindow = !action->objectName().startsWith('_'); // Qt's own names begin so
         expectMarked(isOfTheWindow ? action->text() : QString(), *action);
     }
     for (const auto* menu : window.findChildren<QMenu*>()) {
@@ -198,7 +198,7 @@ TEST_F(EveryTextTest, ThatTheWindowShowsIsLookedUp) {
 TEST_F(EveryTextTest, OfTheEventLogIsLookedUp) {
     launchWithTwoUnits();
     for (const QString& line : QString::fromStdString(controller.eventLog()).split('\n')) {
-        expectMarked(line.contains("0.0.0.0") ? QString() : line, window); // an address, no words
+        expectMarked(line.contains("0.0.0.0") ? QString() : line, window); // 0.0.0.0: no words
     }
 }
 

@@ -1,6 +1,6 @@
 #include "platform/qt/LogSearch.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <gtest/gtest.h>
 
@@ -42,7 +42,7 @@ TEST(LogSearch, PositionsCountBytesNotCharacters) {
 
 TEST(LogSearch, ALetterMatchesOneThatTakesMoreBytes) {
     LogText text;
-    text.append("4 \u212A, 5 K, 6 k"); // the first is the sign for kelvin
+    text.append("4 \u212A, 5 K, 6 k"); // the first one is the kelvin sign
     EXPECT_EQ(found(text, findForward(text, "4 k", 0)), "4 \u212A at 0");
     EXPECT_EQ(found(text, findForward(text, "5 \u212A", 0)), "5 K at 7");
     EXPECT_EQ(found(text, findBackward(text, "\u212A", text.size())), "k at 14");

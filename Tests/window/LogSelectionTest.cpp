@@ -97,7 +97,7 @@ TEST_F(LogSelectionTest, KeysMoveTheCaretAndShiftSelects) {
     press(Qt::Key_Down);
     EXPECT_EQ(view.caret(), 14U);
     press(Qt::Key_Down, Qt::ShiftModifier);
-    EXPECT_EQ(selected(), "\nfour"); // it keeps to its column
+    EXPECT_EQ(selected(), "\nfour"); // the caret keeps its column
     press(Qt::Key_Home, Qt::ControlModifier);
     EXPECT_EQ(view.caret(), 0U);
     press(Qt::Key_End, Qt::ControlModifier | Qt::ShiftModifier);

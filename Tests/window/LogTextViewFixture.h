@@ -1,9 +1,9 @@
-// A log view on the screen with the keyboard in it, and what a person does with it.
+// A log view on the screen with the keyboard focus, and a person's actions on it.
 
 #pragma once
 
 #include "platform/qt/LogTextView.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <gtest/gtest.h>
 

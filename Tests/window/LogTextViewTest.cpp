@@ -9,7 +9,7 @@ namespace kx {
 
 namespace {
 
-// Sets the application's palette back when the test is over.
+// Restores the application's palette when the test is over.
 class Palette {
 public:
     explicit Palette(const QPalette& palette) { QApplication::setPalette(palette); }
@@ -35,7 +35,7 @@ bool hasColor(const QImage& picture, const QColor& color) {
 } // namespace
 
 TEST_F(LogTextViewTest, UsesAFixedWidthFont) {
-    // Not every font of that kind says so of itself.
+    // Some fixed-width fonts do not report that they are.
     const QFontMetrics metrics(view.font());
     EXPECT_EQ(metrics.horizontalAdvance("iiii"), metrics.horizontalAdvance("WWWW"));
 }
@@ -54,7 +54,7 @@ TEST_F(LogTextViewTest, AnAppendIsOnTheScreenAFrameLater) {
 }
 
 TEST_F(LogTextViewTest, ManyAppendsInOneTurnAreOneFrame) {
-    int frames = 0; // each gives the scroll bar another reach
+    int frames = 0; // each frame changes the range of the scroll bar
     QObject::connect(view.verticalScrollBar(), &QScrollBar::rangeChanged, [&] { ++frames; });
     for (int line = 0; line < 10'000; ++line) {
         view.append("\nUDP listener did receive data. Length: 81");
@@ -196,7 +196,7 @@ TEST_F(LogTextViewTest, ALineThatBeginsFromRightToLeftStillBeginsAtTheLeft) {
     view.setText(LogText("שלום unit 42\nunit 42 שלום"));
     const int left = view.rectOf(view.text().row(1).position).left();
     EXPECT_LT(left, 20);
-    // Its last letters stand at the right of the foreign name.
+    // The last letters of the row stand at the right of the foreign name.
     EXPECT_GT(view.rectOf(view.text().row(0).text.size() - 1).left(),
               view.rectOf(view.text().row(0).position + 2).left());
     view.selectAll();

@@ -1,8 +1,8 @@
 // A pop-up with as many titles as a network has units.
 
 #include "platform/qt/QtPopUpButton.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/UniformListView.h"
+#include "platform/qtcore/QtText.h"
 
 #include <gtest/gtest.h>
 
@@ -115,7 +115,7 @@ TEST_F(LongPopUpTest, AClickChoosesTheTitleBelowIt) {
     popUp.addItemsWithTitles(titles);
     open();
     list().verticalScrollBar()->setValue(30'000);
-    QTest::qWait(2 * QGuiApplication::styleHints()->mouseDoubleClickInterval()); // not a slip
+    QTest::qWait(2 * QGuiApplication::styleHints()->mouseDoubleClickInterval()); // no double click
     const QPoint place = list().visualRect(item(30'003)).center();
     EXPECT_EQ(list().indexAt(place), item(30'003));
     QTest::mouseMove(list().viewport(), place);

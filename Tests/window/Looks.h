@@ -1,4 +1,4 @@
-// What the tests know of looks: palettes as people set them, and how well a text stands out.
+// Palettes as people set them, and measures of how well a text stands out.
 
 #pragma once
 
@@ -13,10 +13,10 @@ enum class Looks { light, dark, contrastOnBlack, contrastOnWhite };
 inline constexpr Looks allLooks[] = {Looks::light, Looks::dark, Looks::contrastOnBlack,
                                      Looks::contrastOnWhite};
 
-// One word.
+// A name of one word.
 const char* nameOf(Looks looks);
 
-// Sets the application's palette, and back when the test is over.
+// Sets the application's palette, and restores the earlier one when the test is over.
 class UsedPalette {
 public:
     explicit UsedPalette(Looks looks);
@@ -29,17 +29,17 @@ private:
     QPalette _before = QApplication::palette();
 };
 
-// From 0, black, to 1, white, as WCAG 2.1 defines it.
+// From 0 (black) to 1 (white), as WCAG 2.1 defines it.
 double luminance(const QColor& color);
 
-// From 1 to 21; WCAG 2.1 asks for 4.5 of a text, and 3 of one that is large or inactive.
+// From 1 to 21. WCAG 2.1 requires 4.5 for a text, and 3 for a text that is large or inactive.
 double contrastOf(const QColor& one, const QColor& other);
 
-// The contrast between the most frequent colour of a part of the widget, which is the background,
-// and the pixel that differs most from it, which is the core of a letter.
+// The contrast between two pixels of a part of the widget. One has the most frequent colour, which
+// is the background. The other differs most from it, and is the core of a letter.
 double contrastOfTextIn(QWidget& widget, const QRect& part);
 
-// The same of the whole widget without its frame.
+// The same for the whole widget without its frame.
 double contrastOfTextIn(QWidget& widget);
 
 // The most frequent colour.

@@ -1,4 +1,4 @@
-// What mouse and keyboard do, through the real window into the controller.
+// The actions of mouse and keyboard, through the real window into the controller.
 
 #include "MainWindowFixture.h"
 
@@ -111,7 +111,7 @@ TEST_F(MainWindowTest, ChoosingAnInterfaceTurnsTheNextBroadcastToIt) {
     launchWithInterface();
     newlySent();
     control<QWidget>("interfacePopUp").setFocus();
-    // The one interface is selected from the start: choose it from the open list.
+    // The only interface is selected from the start, so it is chosen from the open list.
     press(Qt::Key_Space);
     auto* const list = control<QComboBox>("interfacePopUp").view();
     ASSERT_TRUE(QTest::qWaitFor([&] { return list->isVisible(); }));
@@ -191,7 +191,7 @@ TEST_F(MainWindowTest, WhatIsTypedIntoTheEditRowReachesItsDataSource) {
     launchWithTwoUnits();
     clickCell("unitParameterTableView", 3, 1);
     control<QWidget>("unitParameterTableView").setFocus();
-    press(Qt::Key_Return); // begins typing in the edit row
+    press(Qt::Key_Return); // begins an edit in the edit row
     const QPointer<QLineEdit> editor =
         control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
@@ -235,7 +235,7 @@ TEST_F(MainWindowTest, TheEventLogButtonOpensAndClosesTheDrawer) {
     click("logDrawerButton");
     EXPECT_EQ(drawer.state(), DrawerState::opening);
     EXPECT_EQ(log.toPlainText().toStdString(), controller.eventLog());
-    click("logDrawerButton"); // while it moves: nothing
+    click("logDrawerButton"); // has no effect while the drawer moves
     EXPECT_EQ(drawer.state(), DrawerState::opening);
     ASSERT_TRUE(drawerComesToRest());
     EXPECT_EQ(drawer.state(), DrawerState::open);

@@ -197,7 +197,7 @@ TEST_F(MainWindowApply, RefusedRightsAreAModalAlertAndTheCommandIsSent) {
 }
 
 // The window lists the interfaces when it becomes active and had none. Some desktops make it active
-// while the alert stands, if only to hand the keyboard on.
+// while the alert is open, even if only to pass the keyboard on.
 TEST_F(MainWindowApply, WhatTheWindowAsksForWhileTheAlertStandsComesAfterTheAction) {
     launch();
     receive(SampleUnit().reply());

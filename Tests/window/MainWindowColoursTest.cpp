@@ -1,4 +1,4 @@
-// Every text stands out in every palette, and no colour comes from anywhere but the palette.
+// Every text stands out in every palette, and every colour comes from the palette.
 
 #include "Looks.h"
 #include "MainWindowFixture.h"
@@ -12,8 +12,7 @@ constexpr double readable = 4.5;
 
 class MainWindowColours : public MainWindowTest, public ::testing::WithParamInterface<Looks> {
 protected:
-    // A unit is shown, one of its parameters is about to be applied, and a text was found in the
-    // log.
+    // Shows a unit, prepares an edit of one of its parameters, and finds a text in the log.
     void launchWithEverything() {
         launchWithTwoUnits();
         clickCell("unitParameterTableView", 3, 0);
@@ -25,7 +24,7 @@ protected:
 
     LogTextView& log() { return control<LogTextView>("logTextView"); }
 
-    // What the found text covers in the log's viewport.
+    // The rectangle of the found text in the log's viewport.
     QRect match() {
         return log().rectOf(log().selection().from) |
                log().rectOf(log().selection().to).adjusted(0, 0, -log().rectOf(0).width(), 0);
@@ -110,7 +109,7 @@ TEST_P(MainWindowColours, WhatIsSelectedHasThePalettesOwnContrast) {
 INSTANTIATE_TEST_SUITE_P(Looks, MainWindowColours, ::testing::ValuesIn(allLooks),
                          [](const auto& looks) { return nameOf(looks.param); });
 
-// In a palette without any blue whatever is blue was not asked of it.
+// The palette has no blue, so every blue pixel has a colour of its own.
 TEST_F(MainWindowTest, NoTextOrBackgroundHasAColourOfItsOwn) {
     QPalette withoutBlue(QColor(60, 30, 0));
     for (int role = 0; role < QPalette::NColorRoles; ++role) {

@@ -1,4 +1,4 @@
-// What a person, a screen reader and a test from outside find the controls by.
+// The names by which a person, a screen reader and a test from outside find the controls.
 
 #include "MainWindowFixture.h"
 

@@ -71,7 +71,7 @@ protected:
         auto* const found = window.findChild<Control*>(objectName);
         if (found == nullptr) {
             ADD_FAILURE() << "there is no control " << objectName;
-            std::abort(); // nothing that the test could go on with
+            std::abort(); // the test cannot go on
         }
         return *found;
     }
@@ -79,8 +79,8 @@ protected:
     void click(const char* button) {
         QTest::mouseClick(&control<QPushButton>(button), Qt::LeftButton);
     }
-    // To whatever has the keyboard, an open list or a control of the window, as the window system
-    // does it, so that shortcuts take part.
+    // Sends a key to the control or the open list that has the keyboard, as the window system does
+    // it, so that shortcuts take part.
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
     void type(const char* asciiText);
     void clickCell(const char* table, int row, int column) {
@@ -89,7 +89,7 @@ protected:
                           view.visualRect(view.model()->index(row, column)).center());
     }
 
-    // Nothing is selected: "(none)".
+    // The selected title; "(none)" when nothing is selected.
     std::string selected(const char* popUp) {
         const auto& comboBox = control<QComboBox>(popUp);
         return comboBox.currentIndex() < 0 ? "(none)" : comboBox.currentText().toStdString();
@@ -133,7 +133,7 @@ protected:
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
     std::vector<std::string> helpAnchors;
-    std::function<bool()> openHelp = [] { return true; }; // what becomes of each
+    std::function<bool()> openHelp = [] { return true; }; // result of opening the help
     bool helpIsThere = true;
     ScriptedAuthorizationService authority;
     MainWindow window;

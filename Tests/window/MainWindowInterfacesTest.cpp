@@ -22,7 +22,7 @@ protected:
     }
     void addWiFi() { interfaces.addService("Wi-Fi", "wlan0", "10.0.0.5", "255.0.0.0"); }
 
-    // Through the window system's events.
+    // Clicks through the window system's events.
     void clickPopUp() {
         QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                           popUp().mapTo(&window, popUp().rect().center()));

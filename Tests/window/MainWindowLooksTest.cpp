@@ -1,4 +1,4 @@
-// What the window looks like: empty states, small and large sizes, the drawer's room.
+// The looks of the window: empty states, small and large sizes, the drawer's room.
 
 #include "MainWindowFixture.h"
 #include "platform/qt/ParameterTableView.h"

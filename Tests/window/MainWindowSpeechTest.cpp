@@ -1,5 +1,5 @@
-// What a screen reader hears of the window while the keyboard is elsewhere, and what it is told of
-// controls that are empty.
+// The texts that a screen reader says while the keyboard is at another place, and its descriptions
+// of empty controls.
 
 #include "MainWindowFixture.h"
 #include "ScreenReader.h"

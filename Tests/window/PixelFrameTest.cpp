@@ -1,5 +1,5 @@
-// The frames of tables and log, seen whole wherever they lie on the pixels of a screen. Tells
-// something at 150 %, where edges lie within pixels.
+// The frames of tables and log are visible on all sides, wherever they lie on the pixels of a
+// screen. The tests matter at 150 %, where edges lie within pixels.
 
 #include "MainWindowFixture.h"
 
@@ -9,10 +9,10 @@ namespace kx {
 
 namespace {
 
-// The least contrast of a line with what is beside it, of 255.
+// The least contrast between a line and the pixels beside it, of 255.
 constexpr int leastContrast = 20;
 
-// Whether a line crosses these pixels, which lead from outside a frame into it.
+// Whether a line crosses these pixels. They lead from outside a frame into it.
 bool showsLine(const QImage& picture, QPoint from, QPoint step) {
     const int outside = qGray(picture.pixel(from));
     const int inside = qGray(picture.pixel(from + 5 * step));
@@ -34,7 +34,7 @@ protected:
         const auto& widget = control<QWidget>(name);
         const double ratio = picture.devicePixelRatio();
         const QRect place(widget.mapTo(&window, QPoint(0, 0)) * ratio, widget.size() * ratio);
-        // Beside the texts, where the background is plain.
+        // A place beside the texts, where the background is plain.
         const int x = place.right() - 40;
         const int y = place.bottom() - 8;
         EXPECT_TRUE(showsLine(picture, {x, place.top() - 2}, {0, 1})) << name << ", top";

@@ -38,7 +38,7 @@ TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     QtPopUpButton popUp(comboBox);
     const auto start = std::chrono::steady_clock::now();
     popUp.addItemsWithTitles(titles);
-    popUp.addItemsWithTitles(titles); // each replaces its equal
+    popUp.addItemsWithTitles(titles); // each title replaces the equal one
     for (const std::string& title : titles) {
         popUp.selectItemWithTitle(title);
     }
@@ -47,7 +47,7 @@ TEST(QtPopUpButton, TensOfThousandsOfTitlesTakeNoLongTime) {
     EXPECT_EQ(popUp.titleOfSelectedItem(), titles.back());
 }
 
-// As when Discover was pressed twice: both completions list every unit.
+// This happens when Discover was pressed twice: both completions list every unit.
 TEST(QtPopUpButton, TitlesInOrderThatComeAgainAreMergedInPlace) {
     QComboBox comboBox;
     QtPopUpButton popUp(comboBox);
@@ -59,7 +59,7 @@ TEST(QtPopUpButton, TitlesInOrderThatComeAgainAreMergedInPlace) {
         EXPECT_EQ(comboBox.itemText(row), QString(QChar('a' + row)));
     }
     EXPECT_EQ(popUp.titleOfSelectedItem(), "d");
-    popUp.addItemsWithTitles({"b", "e"}); // the others stay before them
+    popUp.addItemsWithTitles({"b", "e"}); // the other titles stay before them
     EXPECT_EQ(comboBox.itemText(3), "b");
     popUp.selectItemWithTitle("c");
     EXPECT_EQ(comboBox.currentIndex(), 1);

@@ -1,4 +1,4 @@
-#include "platform/qt/QtLocalizedText.h"
+#include "platform/qtcore/QtLocalizedText.h"
 
 #include "contracts/LocalizedTextContract.h"
 
@@ -14,7 +14,7 @@ namespace kx {
 
 namespace {
 
-// An installed translator that knows texts of the context "KXConfig".
+// An installed translator that has texts of the context "KXConfig".
 class ScriptedTranslator final : public QTranslator {
 public:
     ScriptedTranslator() { QCoreApplication::installTranslator(this); }

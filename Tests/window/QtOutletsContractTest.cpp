@@ -8,11 +8,11 @@
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -73,7 +73,7 @@ class QtTextLabelTrait {
 public:
     TextLabel& control() { return _textLabel; }
     std::string shownText() const {
-        // What is shown is the text itself only where nothing in it is taken for markup.
+        // The label shows the text itself only when it takes nothing in it for markup.
         EXPECT_EQ(_label.textFormat(), Qt::PlainText);
         return utf8Text(_label.text());
     }
@@ -185,7 +185,7 @@ private:
     std::unique_ptr<QtDrawer> _drawer;
 };
 
-// A cell that is empty and remembers what it was told to hold.
+// A cell that is empty and records the texts that were stored into it.
 class OneCell final : public TableViewDataSource {
 public:
     Texts stored;
@@ -221,12 +221,12 @@ public:
         ASSERT_TRUE(isEditing());
         QTest::keyClicks(editor(), qtText(text));
     }
-    void refuseToEnd() {} // no editor of Qt's does
+    void refuseToEnd() {} // Qt's editors never refuse
     bool isEditing() const { return editor() != nullptr && editor()->isVisible(); }
     Texts stored() const { return _cell.stored; }
 
 private:
-    // Also one that is closed and waits for its deletion.
+    // The editor, including one that is closed and waits for its deletion.
     QLineEdit* editor() const { return _view.viewport()->findChild<QLineEdit*>(); }
 
     OneCell _cell;

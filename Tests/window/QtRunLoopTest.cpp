@@ -1,4 +1,4 @@
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 #include "contracts/PipeDescriptors.h"
 #include "contracts/RunLoopCallsContract.h"
@@ -83,14 +83,14 @@ TEST(QtRunLoop, NothingWakesTheLoopAtRest) {
     PipeDescriptors pipes;
     const auto watch = loop.watchForReading(pipes.newDescriptor(), [] {});
     const auto call = loop.callOnceAfter(std::chrono::hours(1), [] {});
-    QTest::qWait(50); // what earlier tests left in the queue
+    QTest::qWait(50); // handles the events of earlier tests
 
     QEventLoop rest;
     const auto end = loop.callOnceAfter(milliseconds(300), [&] { rest.quit(); });
     const QSignalSpy wakeUps(QAbstractEventDispatcher::instance(),
                              &QAbstractEventDispatcher::awake);
     rest.exec();
-    EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+    EXPECT_LE(wakeUps.count(), 4); // wake-ups at the beginning and at the end
 }
 
 TEST(QtRunLoop, WhatWaitsForTheEndOfAHoldDoesNotWakeTheLoop) {
@@ -102,14 +102,14 @@ TEST(QtRunLoop, WhatWaitsForTheEndOfAHoldDoesNotWakeTheLoop) {
     const auto watch = loop.watchForReading(descriptor, [&] { ++calls; });
     const auto call = loop.callOnceAfter(milliseconds(10), [&] { ++calls; });
     const auto hold = loop.holdCallbacks();
-    QTest::qWait(50); // what earlier tests left in the queue
+    QTest::qWait(50); // handles the events of earlier tests
 
     const QSignalSpy wakeUps(QAbstractEventDispatcher::instance(),
                              &QAbstractEventDispatcher::awake);
     QEventLoop rest;
     QTimer::singleShot(milliseconds(300), &rest, &QEventLoop::quit);
     rest.exec();
-    EXPECT_LE(wakeUps.count(), 4); // to begin, and for the end
+    EXPECT_LE(wakeUps.count(), 4); // wake-ups at the beginning and at the end
     EXPECT_EQ(calls, 0);
 }
 
@@ -153,9 +153,9 @@ TEST(QtRunLoop, WhatAPersonDoesWaitsAndDoesNotKeepTheLoopBusy) {
     KeyCounter window;
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-    QTest::qWait(50); // what earlier tests left in the queue
+    QTest::qWait(50); // handles the events of earlier tests
 
-    // As the window system tells it: it waits in a queue until the loop takes it.
+    // The window system reports a key in this way: it waits in a queue until the loop takes it.
     QWindowSystemInterface::handleKeyEvent(&window, QEvent::KeyPress, Qt::Key_A, Qt::NoModifier);
     bool isOver = false;
     int questions = 0;

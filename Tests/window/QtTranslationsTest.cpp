@@ -1,4 +1,4 @@
-#include "platform/qt/QtTranslations.h"
+#include "platform/qtcore/QtTranslations.h"
 
 #include "InLanguage.h"
 #include "support/LabelledNames.h"
@@ -63,7 +63,7 @@ TEST(QtTranslations, TheTextsOfQtAreInTheSameLanguage) {
     EXPECT_EQ(cancel(), english);
 }
 
-// A fax goes with the other numbers of its place: no entry has the ranks 06 and 07.
+// A fax is listed with the other numbers of its place, so no entry has the ranks 06 and 07.
 TEST(QtTranslations, InEveryLanguageAFaxCountsAsItsPlaceAndEveryOtherLabelAsItself) {
     for (const QString& language : QStringList{"en"} + QtTranslations::available()) {
         const InLanguage spoken(language);

@@ -1,4 +1,4 @@
-// Takes the place of the application that opens files: it writes down their URLs.
+// Takes the place of the application that opens files, and records their URLs.
 
 #pragma once
 

@@ -1,5 +1,5 @@
-// Stands for a screen reader: while it is there the toolkit announces what changes, to a function
-// of the test. Only the platform plugin's own interface can switch that on.
+// Stands for a screen reader. While it exists the toolkit announces changes to a function of the
+// test. Only the platform plugin's own interface can switch this on.
 
 #pragma once
 

@@ -1,7 +1,8 @@
-// The comparison of texts, character by character, against the toolkit's own knowledge of Unicode.
-// The toolkit folds each character to one, so what folds to several is not for it to witness.
+// Compares texts, character by character, and checks the results against the toolkit's own
+// knowledge of Unicode. The toolkit folds each character to one, so this test cannot check
+// characters that fold to several.
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "support/TextComparison.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,7 @@ QString folded(const QString& text) {
         .normalized(QString::NormalizationForm_D);
 }
 
-// What the toolkit's own edition of Unicode holds; the core's may be newer.
+// The characters in the toolkit's own edition of Unicode; the core's edition may be newer.
 void forEachCharacter(const std::function<void(const QString&)>& action) {
     for (char32_t character = 0; character <= QChar::LastValidCodePoint; ++character) {
         const auto category = QChar::category(character);

@@ -14,7 +14,7 @@ protected:
         model.setTitles({"apple", "Banana", "büro", "bus", "\u212Aelvin", "kelvin", "pear", ""});
     }
 
-    // The row of the first title from `start` on, -1 when there is none.
+    // The row of the first matching title from `start` on; -1 when there is none.
     int found(int start, const QString& typed) {
         const auto matches =
             model.match(model.index(start), Qt::DisplayRole, typed, 1, whatIsTyped);

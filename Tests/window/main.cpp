@@ -1,4 +1,4 @@
-// The window's tests need an application object; they share one.
+// The window's tests need an application object and share one.
 
 #include <gtest/gtest.h>
 

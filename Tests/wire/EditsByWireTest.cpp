@@ -1,4 +1,4 @@
-// What a unit receives for an edit, to the byte, and what it makes of it.
+// The bytes that a unit receives for an edit, and their effect on the unit.
 
 #include "WireFixture.h"
 #include "support/Error.h"
@@ -24,7 +24,7 @@ protected:
         for (const auto& [value, command] : cases) {
             EXPECT_EQ(receivedFor(parameter, value), command)
                 << nameOfUnitParameter(parameter) << ": " << value;
-            discover(); // a unit with another port or number is found again
+            discover(); // finds a unit with a new port or number again
         }
     }
 };
@@ -49,7 +49,7 @@ TEST_F(EditsByWire, TheUnitReceivesExactlyTheseBytes) {
 TEST_F(EditsByWire, AUnitTakesItsNewAddressAtThatAddress) {
     EXPECT_EQ(receivedFor(internalIPAddress, "10.0.0.7"), "^^IdI0A000007");
     EXPECT_EQ(settings().address, 0x0A00'0007U);
-    // The record has lost its address, so the parameters were asked for by broadcast.
+    // The record has lost its address, so the request for the parameters was broadcast.
     EXPECT_EQ(shown(internalIPAddress), "10.0.0.7");
     EXPECT_EQ(window.quietLine.text(), "The unit now shows 10.0.0.7 as its internal IP address.");
     EXPECT_EQ(receivedFor(unitID, "8"), "^^IdU000000000008");
@@ -61,7 +61,7 @@ TEST_F(EditsByWire, WithoutAnARPEntryTheUnitIsNotReachedAtItsNewAddress) {
     EXPECT_EQ(receivedFor(internalIPAddress, "10.0.0.7"), "(nothing)");
     EXPECT_EQ(window.alert.shown().size(), 1U);
     EXPECT_EQ(receivedFor(unitID, "8"), "(nothing)");
-    controller.reloadUnitParameterButton(); // by broadcast, on the unit's port
+    controller.reloadUnitParameterButton(); // sends a broadcast to the unit's port
     converse();
     EXPECT_EQ(shown(internalIPAddress), "192.0.2.11");
     EXPECT_EQ(receivedFor(unitID, "8"), "^^IdU000000000008");
@@ -75,7 +75,7 @@ TEST_F(EditsByWire, EmptyNonASCIIAndHostileAddressesDoNotMoveTheUnit) {
     }
 }
 
-// The unit hears them where they are sent to, at 0.0.0.0, only when the test lets it.
+// The commands go to 0.0.0.0. The unit hears them there only when the test allows it.
 TEST_F(EditsByWire, HostileAndOverlongAddressesAreZeroOnTheWire) {
     link.setARPCache([](std::uint32_t address) { return address == 0; });
     for (const std::string& value : {nonASCII, overlong}) {
@@ -92,7 +92,7 @@ TEST_F(EditsByWire, AnEditThatIsTooLongForADatagramIsNotSentAndSaysSo) {
     EXPECT_NE(
         controller.eventLog().find("\nUDP failed to send data.\n  " + posixErrorText(EMSGSIZE)),
         std::string::npos);
-    // Nor does the line promise it beforehand.
+    // The line does not promise it before the edit either.
     window.editParameterTableView.typeIntoCell(0, "parameterValue", typed);
     EXPECT_TRUE(window.quietLine.text().starts_with("Apply sends nothing: the command is too long"))
         << window.quietLine.text();
@@ -114,8 +114,8 @@ TEST_F(EditsByWire, EveryEditOfAWellFormedValueIsTakenOverAndShown) {
     EXPECT_EQ(link.acknowledgementCount(), edits.size());
 }
 
-// The acknowledgement makes the controller ask at the port that the record still holds, where the
-// unit no longer listens.
+// The acknowledgement makes the controller ask at the port in the record, where the unit no longer
+// listens.
 TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
     apply(devicePortNumber, "10001");
     converse();

@@ -1,5 +1,5 @@
-// How many blocks of memory the program holds by operator new. Only for a program whose tests run
-// on one thread.
+// The number of memory blocks that the program holds by operator new. Only for a program whose
+// tests run on one thread.
 
 #pragma once
 

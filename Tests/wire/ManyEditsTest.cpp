@@ -16,7 +16,7 @@ struct Edit {
     std::string value;
 };
 
-// Each parameter by which a unit stays the same for the controller, back and forth.
+// Edits after which the controller still knows the unit, back and forth.
 const std::array<Edit, 10> edits{{
     {destinationPortNumber, "3523"},
     {destinationIPAddress, "192.0.2.98"},

@@ -1,8 +1,8 @@
-// Datagram sockets at whose other end is a simulated unit, without a network between them.
+// Datagram sockets with a simulated unit at their other end, without a network between them.
 //
-// What the endpoint sends is the unit's command at once, when it goes to an address and a port at
-// which the unit can be reached; its reply waits to be received. The link keeps no history but the
-// last datagram and a count, so it stays the same size however much is sent.
+// A datagram of the endpoint becomes the unit's command at once, when it goes to an address and a
+// port at which the unit can be reached. The unit's reply waits to be received. The link keeps only
+// the last datagram and a count, so its size does not grow with the number of datagrams.
 
 #pragma once
 
@@ -29,17 +29,18 @@ public:
 
     simulator::SimulatedUnit& unit() { return _unit; }
 
-    // Says whether the host's ARP cache leads to the unit for an address that it does not hold.
+    // Sets whether the host's ARP cache leads to the unit for an address that the unit does not
+    // hold.
     void setARPCache(std::function<bool(std::uint32_t address)> leadsToUnit) {
         _leadsToUnit = std::move(leadsToUnit);
     }
 
-    const std::string& lastCommand() const { return _lastCommand; } // that reached the unit
+    const std::string& lastCommand() const { return _lastCommand; } // reached the unit
     std::size_t commandCount() const { return _commandCount; }
     std::size_t acknowledgementCount() const { return _acknowledgementCount; }
-    std::size_t openCount() const { return _openCount; } // sockets
+    std::size_t openCount() const { return _openCount; } // number of open sockets
     bool holdsReply() const { return !_replies.empty(); }
-    int descriptor() const { return _descriptor; } // the newest
+    int descriptor() const { return _descriptor; } // the newest socket
 
     int socket() override {
         ++_openCount;
@@ -91,7 +92,7 @@ public:
     }
 
 private:
-    // What an IP packet of 65535 bytes leaves beside its header and that of UDP.
+    // The room that an IP packet of 65535 bytes leaves beside its header and the header of UDP.
     static constexpr std::size_t longestDatagram = 65'507;
 
     bool reachesUnit(std::uint32_t address) const {

@@ -1,4 +1,4 @@
-// The controller and a simulated unit, which hear each other's bytes and nothing else.
+// The controller and a simulated unit, which exchange only bytes.
 
 #pragma once
 
@@ -32,7 +32,8 @@ protected:
 
     const simulator::UnitSettings& settings() { return link.unit().settings(); }
 
-    // Every reply of the unit reaches the controller, also those to what it sends meanwhile.
+    // Delivers every reply of the unit to the controller, including replies to requests that the
+    // controller sends meanwhile.
     void converse() {
         while (link.holdsReply()) {
             runLoop.makeReadable(link.descriptor());
@@ -53,7 +54,7 @@ protected:
         controller.applyEditParameterButton();
     }
 
-    // The command that reached the unit, "(nothing)" for none.
+    // The command that reached the unit; "(nothing)" when none did.
     std::string receivedFor(UnitParameter parameter, const std::string& value) {
         const std::size_t before = link.commandCount();
         apply(parameter, value);
@@ -85,7 +86,7 @@ protected:
         {runLoop, hostResolver, link, wallClock, application, nullptr, {}, &authority}};
 
 private:
-    // By the entries that the tool was run for, the latest first.
+    // Uses the entries for which the tool was run, the latest first.
     bool arpCacheLeadsToUnit(std::uint32_t address) {
         const auto& runs = authority.runs();
         const auto entry = std::find_if(runs.rbegin(), runs.rend(), [&](const auto& run) {

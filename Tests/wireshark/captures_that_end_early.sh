@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Every datagram of the table, captured to every length: the dissector never fails, says that the
-# capture ends early, and finds nothing wrong that is not wrong with the whole datagram.
+# Captures every datagram of the table to every length. The dissector never fails, says that the capture
+# ends early, and marks only faults of the whole datagram.
 set -euo pipefail
 # shellcheck source=Tests/wireshark/dissection.sh
 source "${BASH_SOURCE[0]%/*}/dissection.sh"
@@ -9,7 +9,7 @@ readonly headers=42 # Ethernet, IPv4 and UDP
 readonly longest=200
 
 write_capture "$scratch/whole"
-# Without a single byte of it the datagram does not reach the dissector.
+# Without any byte of its own the datagram does not reach the dissector.
 for ((length = headers + 1; length <= headers + longest; length++)); do
     editcap -s "$length" "$scratch/whole" "$scratch/cut-$length"
     cuts+=("$scratch/cut-$length")
@@ -17,11 +17,11 @@ done
 mergecap -a -w "$scratch/capture" "${cuts[@]}"
 expect_no_failure "$scratch/capture"
 
-# Length as sent, length as captured, without the headers.
+# The length as sent and the length as captured, without the headers.
 fields_of "$scratch/capture" -e udp.length -e frame.cap_len >"$scratch/lengths"
 paste "$scratch/lengths" <(summaries_and_marks "$scratch/capture") >"$scratch/rows"
 
-# The marks of the whole datagrams are those of the last cut, which cuts nothing.
+# The marks of the whole datagrams are the marks of the last cut, which cuts nothing off.
 count=$(table | wc -l)
 awk -F '\t' -v count="$count" -v headers="$headers" '
     function marks_of(text, marks,   words, n, i) {

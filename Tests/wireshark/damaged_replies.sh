@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs in the lab with units whose replies are damaged: all that have a byte are dissected, and what
-# is wrong is marked.
+# Runs in the lab with units whose replies are damaged. Every reply of at least one byte is dissected,
+# and its faults are marked.
 set -euo pipefail
 # shellcheck source=Tests/wireshark/dissection.sh
 source "${BASH_SOURCE[0]%/*}/dissection.sh"
@@ -8,7 +8,7 @@ probe=$1
 
 count=1000
 
-# The probe ends with 1: more replies come than it wants.
+# The probe ends with 1, because more replies come than it wants.
 start_flood() {
     "$probe" 255.255.255.255 3520 '^^IdX' 1 &>"$scratch/replies" || true
 }

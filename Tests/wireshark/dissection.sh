@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What the tests of this folder share. Sourced, not run.
+# The common part of the tests of this folder. Sourced, not run.
 
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/../lab/expectations.sh"
@@ -9,15 +9,15 @@ datagrams=${BASH_SOURCE[0]%/*}/datagrams.txt
 
 scratch=$(mktemp -d)
 trap 'rm -rf -- "$scratch"' EXIT
-# Neither a person's settings nor their own dissectors take part.
+# A person's settings and a person's own dissectors do not take part.
 export HOME=$scratch XDG_CONFIG_HOME=$scratch
 
-# Newer versions of tshark load no scripts when root runs them. In a user namespace of its own root's
-# tshark runs as nobody, and still reads root's files.
+# Newer versions of tshark load no scripts when root runs them. In its own user namespace root's tshark
+# runs as nobody, and still reads root's files.
 as_a_person=()
 ((EUID != 0)) || as_a_person=(unshare --user --)
 
-# tshark with the dissector on the capture $1, with the further arguments.
+# Runs tshark with the dissector on the capture $1, with the further arguments.
 dissect() {
     local capture=$1
     shift
@@ -28,9 +28,9 @@ dissect() {
         fail "tshark complains about the dissector or the capture: $(<"$scratch/complaints")"
 }
 
-# The fields of the packets of the capture $1 as they are, with the further arguments. A tshark that
-# knows the option "escape" sets a backslash before backslashes and separators; version 4.4 does so
-# even where that option says no.
+# The unescaped fields of the packets of the capture $1, with the further arguments. A tshark that knows
+# the option "escape" sets a backslash before backslashes and separators. Version 4.4 does so even where
+# that option says no.
 fields_of() {
     local capture=$1 unescaped=(cat)
     shift
@@ -43,14 +43,14 @@ count_of() {
     dissect "$1" -Y "$2" | wc -l
 }
 
-# No packet of the capture $1 makes the dissector fail.
+# Expects that no packet of the capture $1 makes the dissector fail.
 expect_no_failure() {
     dissect "$1" -V >"$scratch/details"
     grep -im 3 'lua error' "$scratch/details" >&2 && fail "the dissector fails on $1"
     return 0
 }
 
-# The names of all marks that the dissector has, a line each.
+# The names of all marks of the dissector, one on each line.
 all_marks() {
     grep -o 'mark("[a-z0-9_]*"' "$dissector" | cut -d '"' -f 2
 }
@@ -72,7 +72,7 @@ summaries_and_marks() {
             }'
 }
 
-# The datagrams of the table, column 1, as a capture $1 in which they come from a unit.
+# Writes the datagrams of the table, column 1, as a capture $1 in which they come from a unit.
 write_capture() {
     local text
     while IFS= read -r text; do
@@ -87,7 +87,7 @@ table() {
     grep -v -e '^#' -e '^$' "$datagrams"
 }
 
-# Runs the rest of its arguments while $2 UDP datagrams that pass the lab's link are captured as $1.
+# Runs the rest of its arguments while it captures $2 UDP datagrams on the lab's link as $1.
 capture() {
     local file=$1 packets=$2
     shift 2

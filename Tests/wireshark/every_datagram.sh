@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# What the list of packets says of each datagram of the table, and with what it is marked.
+# The summary and the marks of each datagram of the table, in the list of packets.
 set -euo pipefail
 # shellcheck source=Tests/wireshark/dissection.sh
 source "${BASH_SOURCE[0]%/*}/dissection.sh"
@@ -9,12 +9,12 @@ wanted=$(table | sed 's/^.* | \(.* |\)/\1/')
 expect_equal 'summaries and marks' "$wanted" "$(summaries_and_marks "$scratch/capture")"
 expect_no_failure "$scratch/capture"
 
-# No mark without a datagram that has it; that of a capture has a test of its own.
+# Every mark needs a datagram that has it. The mark of a capture has its own test.
 for mark in $(all_marks | grep -vx capture); do
     grep -qE "\|.* $mark( |\$)" <<<"$wanted" || fail "no datagram of the table has the mark $mark"
 done
 
-# The application's word on what it abandons, with the name of the field.
+# The application's message about a datagram that it abandons, with the name of the field.
 fields_of "$scratch/capture" -Y kxconfig.expert.cut_short -e _ws.expert.message \
     >"$scratch/messages"
 for field in 'unit ID' 'serial number' 'device port number' 'internal IP address'; do

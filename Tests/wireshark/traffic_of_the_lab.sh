@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Runs in the lab: every kind of command and reply is captured, and found by the filters.
+# Runs in the lab: captures every kind of command and reply, and finds each by the filters.
 set -euo pipefail
 # shellcheck source=Tests/wireshark/dissection.sh
 source "${BASH_SOURCE[0]%/*}/dissection.sh"
@@ -39,7 +39,7 @@ expect_count 4 'kxconfig.list'
 expect_count 4 'kxconfig.item_tag == "<C>" && kxconfig.payload_marker == "$"'
 expect_count 2 'kxconfig.serial_number == "4B 58 00 00 00 02" && kxconfig.unit_id == "U00002"'
 
-# What a command sets and what the unit then reports have the same filter.
+# The value that a command sets and the value that the unit then reports have the same filter.
 expect_count 2 '(kxconfig.command || kxconfig.list) && kxconfig.unit_id == "UNIT-A"'
 expect_count 2 'kxconfig.destination_mac == 02:00:00:00:aa:01'
 expect_count 2 'kxconfig.destination_port == 3523'
@@ -48,7 +48,7 @@ expect_count 2 'kxconfig.device_port == 10001'
 expect_count 1 'kxconfig.internal_mac == 02:4b:58:00:00:ff'
 expect_count 1 'kxconfig.internal_ip == 192.0.2.99'
 
-# The whole first unit as it left the factory.
+# The whole reply of the first unit with its factory settings.
 names=(internal_mac internal_ip destination_ip destination_port device_port unit_id destination_mac
     serial_number)
 fields_of "$traffic" -E separator=/s \

@@ -26,10 +26,10 @@ constexpr auto activeInterface = "org.freedesktop.NetworkManager.Connection.Acti
 constexpr auto deviceInterface = "org.freedesktop.NetworkManager.Device";
 constexpr auto ipv4Interface = "org.freedesktop.NetworkManager.IP4Config";
 
-constexpr unsigned externalFlag = 0x80; // of StateFlags
+constexpr unsigned externalFlag = 0x80; // a bit of StateFlags
 
-// A container, if the value is one with exactly this signature. Reading one of another signature
-// would not end.
+// The value as a container, if it has exactly this signature. A read with another signature would
+// never end.
 template<class Container>
 Container containerIn(const QVariant& value, const char* signature) {
     Container result;
@@ -42,7 +42,7 @@ Container containerIn(const QVariant& value, const char* signature) {
     return result;
 }
 
-// A simple value of exactly this type.
+// A property with a simple value of exactly this type.
 template<class Value>
 std::optional<Value> simpleIn(const QVariantMap& properties, const char* name) {
     const QVariant value = properties.value(name);
@@ -54,7 +54,7 @@ std::string textIn(const QVariantMap& properties, const char* name) {
     return simpleIn<QString>(properties, name).value_or(QString()).toStdString();
 }
 
-// It becomes a component of keys, in which "=" marks what is no service.
+// The identifier becomes a component of keys, in which "=" marks an interface without a service.
 bool isIdentifier(const std::string& text) {
     return !text.empty() && text.find_first_of("/=") == std::string::npos;
 }
@@ -73,7 +73,8 @@ std::vector<IPv4InterfaceAddress> addressesIn(const QVariantMap& configuration) 
     return addresses;
 }
 
-// The link that carries the addresses; a modem's or a dial-up's is not the device itself.
+// The link that carries the addresses. For a modem or a dial-up connection it is not the device
+// itself.
 std::string interfaceOfDevice(const QVariantMap& device) {
     const std::string ipInterface = textIn(device, "IpInterface");
     return !ipInterface.empty() ? ipInterface : textIn(device, "Interface");
@@ -116,7 +117,7 @@ private:
         }
     }
 
-    // While a profile is activated anew, its old connection and its new one are there together.
+    // While a profile is activated again, its old and its new connection exist at the same time.
     void add(const ConnectionProfile& profile) {
         const auto isSame = [&profile](const ConnectionProfile& other) {
             return other.identifier == profile.identifier &&

@@ -1,11 +1,11 @@
-// The active connection profiles in what NetworkManager tells of all its objects at once: the
+// The active connection profiles in NetworkManager's description of all its objects, which is the
 // answer to GetManagedObjects (org.freedesktop.DBus.ObjectManager). Pure.
 //
-// Left out are
+// These are left out:
 //   - connections without a device, or with one that has no interface yet
-//   - virtual private networks: their device is the one that carries the tunnel, not its end
-//   - what NetworkManager calls external: it made the profile up for a link that somebody else has
-//     configured, so nobody has named it
+//   - virtual private networks, because their device is the link that carries the tunnel
+//   - connections that NetworkManager calls external: it made the profile for a link that another
+//     program has configured, so no person has named it
 //   - connections whose identifier, name or device is missing or of another type
 
 #pragma once
@@ -17,9 +17,9 @@
 
 namespace kx {
 
-// In the order in which NetworkManager lists them, each with its link once; none for an answer of
-// another shape. A profile with several devices comes once for each. Addresses that cannot be read
-// are left out.
+// The profiles in the order in which NetworkManager lists them, each once with its link. A profile
+// with several devices comes once for each of them. Addresses that cannot be read are left out. An
+// answer of another shape gives no profiles.
 std::vector<ConnectionProfile> activeConnections(const QDBusMessage& managedObjects);
 
 } // namespace kx

@@ -30,7 +30,7 @@ struct Service {
 };
 
 struct KindNames {
-    std::string_view userDefinedName; // the key of its text
+    std::string_view userDefinedName; // the key of the localized name
     std::string_view type;
 };
 
@@ -54,15 +54,15 @@ KindNames namesOfKind(LinkKind kind) {
     return {localizedKey("Network"), "Network"};
 }
 
-// Lower comes first.
+// The service with the lower value comes first.
 auto preference(const Service& service) {
     constexpr auto last = std::numeric_limits<std::uint64_t>::max();
     const auto metric = service.link->defaultRouteMetric;
     return std::tuple(metric.has_value() ? std::uint64_t{*metric} : last, service.link->index);
 }
 
-// A profile may be active on several links at a time; all but the first then need an identifier of
-// their own.
+// A profile may be active on several links at a time. All of them but the first then need an
+// identifier of their own.
 std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
                                 const std::vector<ConnectionProfile>& profiles) {
     std::map<std::string_view, const NetworkLink*> linksByName;

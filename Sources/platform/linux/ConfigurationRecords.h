@@ -1,16 +1,16 @@
-// The host's links and connection profiles as the records of a configuration store
-// (System Configuration/ConfigurationStore.h says which). Pure; any thread.
+// The host's links and connection profiles as the records of a configuration store (System
+// Configuration/ConfigurationStore.h describes them). Pure; any thread.
 //
-// Services are
+// The services are:
 //   - the active connection profiles of links, by their own identifiers and names, except on the
-//     loopback; a modem's device, for one, is no link and carries no datagrams
-//   - every link that can broadcast, has an IPv4 address and no profile; its identifier is "link-"
-//     and its name, its user-defined name says its kind
-// The host's preferred default route comes first; services without a default route follow in the
-// order of their links' indexes.
+//     loopback; a modem's device, for example, is no link and carries no datagrams
+//   - every link that can broadcast, has an IPv4 address and has no profile; its identifier is
+//     "link-" and its name, and its user-defined name says its kind
+// The service with the host's preferred default route comes first. Services without a default route
+// follow in the order of their links' indexes.
 //
-// A service has the addresses that its link has in the kernel. What its profile would give it
-// is its saved configuration. There is one location set, since this host knows no others.
+// A service has the addresses that its link has in the kernel. The addresses in its profile are its
+// saved configuration. There is one location set, because this host knows no others.
 
 #pragma once
 
@@ -27,7 +27,7 @@
 namespace kx {
 
 struct ConfigurationRecords {
-    std::map<std::string, PropertyDictionary, std::less<>> dynamicStore; // by key
+    std::map<std::string, PropertyDictionary, std::less<>> dynamicStore; // records by key
     PropertyDictionary preferences; // paths lead into the dictionaries in it
 };
 

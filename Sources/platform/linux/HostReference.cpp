@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-// What launchers, like shells, end with when they have started nothing. The tools do not.
+// Launchers, like shells, end with one of these when they have started nothing. The tools do not.
 constexpr int firstStatusOfRefusal = 126;
 constexpr int lastStatusOfRefusal = 127;
 
@@ -22,7 +22,8 @@ std::int32_t HostReference::copyRights(const AuthorizationItem& right, std::uint
     if (!mayAskPerson && !_held.contains(right.value)) {
         return errAuthorizationInteractionNotAllowed;
     }
-    // Asked anew also where it is held, because the host may let a right run out.
+    // The authority is asked again even when the right is held, because the host may let a right
+    // run out.
     const auto status = obtain(right, mayAskPerson);
     if (status != errAuthorizationSuccess) {
         _held.erase(right.value);
@@ -35,7 +36,7 @@ std::int32_t HostReference::copyRights(const AuthorizationItem& right, std::uint
 std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
                                                   const std::vector<std::string>& arguments,
                                                   ToolEndAction ended) {
-    // A launcher would say this of the tool only in words.
+    // A launcher would report this only in words.
     if (::access(toolPath.c_str(), X_OK) != 0) {
         return errAuthorizationToolExecuteFailure;
     }
@@ -55,8 +56,8 @@ std::int32_t HostReference::executeWithPrivileges(const std::string& toolPath,
     return errAuthorizationSuccess;
 }
 
-// The name tells for certain whether the launcher has become the tool, and the status where the
-// system does not tell the name.
+// The name of the program tells for certain whether the launcher has become the tool. Where the
+// system does not tell the name, the status decides.
 bool HostReference::isRefusal(StartedTool& ended) const {
     if (launcher().empty()) {
         return false;

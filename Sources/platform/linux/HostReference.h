@@ -1,10 +1,10 @@
-// What the references of both authorities of Linux have in common: which rights are held, and how a
-// tool's start and end are told.
+// The common part of the references of both authorities of Linux: it knows which rights are held,
+// and tells the start and the end of tools.
 //
-// A right is held once it was obtained with both flags of a request. Without the first flag the
-// answer is no for a right that is not held, whatever the host's rules would say: what was obtained
-// under one reference says nothing about another. A later question that is not answered with yes
-// ends the holding.
+// A right is held once it was obtained with both flags of a request. Without the first flag, a
+// right that is not held is refused, whatever the host's rules would say: a right that was obtained
+// under one reference says nothing about another reference. When a later request is not granted,
+// the right is no longer held.
 
 #pragma once
 
@@ -28,27 +28,28 @@ public:
                                        ToolEndAction ended) final;
 
 protected:
-    // The tools, which may outlive the reference; the object itself must not be outlived.
+    // `runningTools` must outlive this reference; tools may run on.
     explicit HostReference(RunningTools& runningTools);
 
-    // Whether the right may be used now, as a status code. Without `mayAskPerson` nobody is asked.
+    // Asks whether the right may be used now, and returns a status code. No person is asked unless
+    // `mayAskPerson` is true.
     virtual std::int32_t obtain(const AuthorizationItem& right, bool mayAskPerson) = 0;
 
-    // Starts the tool, or a launcher that becomes it. Null when the system cannot.
+    // Starts the tool, or a launcher that becomes the tool. Null when the system cannot start it.
     virtual std::unique_ptr<StartedTool> start(const std::string& toolPath,
                                                const std::vector<std::string>& arguments) = 0;
 
     // The file name of the launcher; empty when there is none.
     virtual std::string launcher() const = 0;
 
-    // The status code for a launcher that ended before it became the tool, by its own status.
+    // The status code for a launcher that ended with this exit status before it became the tool.
     virtual std::int32_t refusalOf(int launcherStatus) const = 0;
 
 private:
     bool isRefusal(StartedTool& ended) const;
 
     RunningTools& _runningTools;
-    std::set<std::string> _held; // values of the rights
+    std::set<std::string> _held; // values of the rights that are held
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
 };
 

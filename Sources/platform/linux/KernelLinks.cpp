@@ -76,9 +76,9 @@ const std::vector<NetworkLink>* KernelLinks::links() {
         if (read.has_value()) {
             _links = std::move(read->links);
             ++_generation;
-            _isStale = _descriptor < 0; // nobody will say when these have changed
+            _isStale = _descriptor < 0; // without a socket nothing tells later changes
         } else if (errno != ETIMEDOUT) {
-            return nullptr; // a refusal takes no time, so the next one may ask again
+            return nullptr; // a refusal takes no time, so the next call may ask again
         }
         if (!read.has_value() || !read->hasAllRoutes) {
             _isStale = true;
@@ -96,7 +96,7 @@ void KernelLinks::pause() {
     });
 }
 
-// What a message says does not matter, so it may be cut off. That messages were lost is a message,
+// The contents of a message do not matter, so it may be cut off. Lost messages count as a message
 // too.
 void KernelLinks::hearChanges() {
     bool hasChanged = false;

@@ -1,18 +1,18 @@
 // The links of this process's network namespace, kept fresh.
 //
-// It holds a socket on which the kernel tells of every change to links, addresses and IPv4 routes.
-// What it tells is not looked at: any word makes the links that were read stale, and whoever wants
-// them next has them read anew (RtnetlinkSnapshot.h). The socket hears the changes before the links
-// are read, so none is missed between the two. Changes are heard before the program that made them
-// goes on; whoever asks later sees them, also before the run loop has turned.
+// A socket of this object hears every change to links, addresses and IPv4 routes from the kernel.
+// The contents of these messages are ignored. Any message makes the links stale, and the next call
+// of links() reads them again (RtnetlinkSnapshot.h). The socket hears changes before the links are
+// read, so no change is missed between the two. The socket hears a change before the program that
+// made it goes on. So a later call of links() sees the change, even before the run loop has turned.
 //
-// A kernel that does not tell its links in time, or not all of its routes, is left alone for a
-// second. Meanwhile the links are the ones that it told last, and after that a change is told,
-// since there may have been one.
+// When the kernel does not tell its links in time, or not all of its routes, it is not asked again
+// for a second. Meanwhile links() gives the links that the kernel told last. After the second a
+// change is announced, because there may have been one.
 //
 // Threading: the main thread only. Ownership: the run loop must outlive this object. Changes are
-// heard from the network namespace in which the object was made; links are read from the one in
-// which links() is called, which must be the same.
+// heard from the network namespace in which the object was made. Links are read from the namespace
+// in which links() is called. Both must be the same.
 
 #pragma once
 
@@ -29,7 +29,7 @@ namespace kx {
 
 class KernelLinks final {
 public:
-    // Reads the links as readNetworkLinks() does, with its failures.
+    // Reads the links as readNetworkLinks() does, and fails in the same way.
     using Reader = std::function<std::optional<LinkSnapshot>()>;
 
     explicit KernelLinks(RunLoop& runLoop);
@@ -38,15 +38,16 @@ public:
     KernelLinks(const KernelLinks&) = delete;
     KernelLinks& operator=(const KernelLinks&) = delete;
 
-    // The links as they are now, in the order of their indexes; null, with errno set, when the
-    // kernel cannot be asked, or has not told any in time yet. They stay until the next call.
+    // The links as they are now, in the order of their indexes. Null, with errno set, when the
+    // kernel cannot be asked, or has not told any links in time yet. The pointer is valid until the
+    // next call.
     const std::vector<NetworkLink>* links();
 
     // Grows whenever links() has read the links anew.
     std::uint64_t generation() const { return _generation; }
 
-    // What is called when the kernel has told of a change: from the run loop, or from inside
-    // links().
+    // Sets the action that runs when the kernel has told of a change: from the run loop, or from
+    // inside links().
     void setChangeAction(std::function<void()> action) { _changeAction = std::move(action); }
 
 private:

@@ -22,8 +22,8 @@ std::optional<KeyPattern> KeyPattern::parse(std::string_view text) {
     }
 }
 
-// Each literal is taken where it first fits behind the one before it: what comes later then has the
-// most room. The last one has to end the key.
+// Each literal is taken at the first place where it fits behind the one before it. The later
+// literals then have the most room. The last literal has to end the key.
 bool KeyPattern::matches(std::string_view key) const {
     if (!key.starts_with(_literals.front())) {
         return false;

@@ -1,8 +1,8 @@
 // A pattern for keys of the configuration store: text with "[^/]+" in it, which stands for any one
 // component or any part of one that is not empty. A value type; any thread.
 //
-// It is the part of regular expressions that is in use. A general matcher's stack grows with the
-// key, and keys have names in them that others choose.
+// Only this part of regular expressions is in use. A general matcher is not used: its stack grows
+// with the key, and other people choose the names in keys.
 
 #pragma once
 
@@ -23,7 +23,7 @@ public:
     bool matches(std::string_view key) const;
 
 private:
-    std::vector<std::string> _literals; // what stands before, between and behind the constructs
+    std::vector<std::string> _literals; // the texts before, between and behind the constructs
 };
 
 } // namespace kx

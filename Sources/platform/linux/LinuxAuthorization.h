@@ -1,5 +1,5 @@
-// The host's authority over administrator rights: polkit, or none needed where the process has them
-// already.
+// The host's authority over administrator rights. It is polkit, or an authority that grants every
+// right where the process has them already.
 
 #pragma once
 
@@ -11,7 +11,8 @@
 namespace kx {
 
 // The authority for this process, by its effective user: RootAuthorizationService for the
-// administrator, PolkitAuthorizationService for everybody else. Never null. `loop` must outlive it.
+// administrator, PolkitAuthorizationService for every other user. Never null. `loop` must outlive
+// it.
 std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop);
 
 } // namespace kx

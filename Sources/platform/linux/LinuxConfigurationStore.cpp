@@ -12,10 +12,10 @@ namespace kx {
 namespace {
 
 constexpr std::chrono::milliseconds settlingTime{100};
-constexpr std::chrono::milliseconds retryTime{1000}; // while the kernel cannot be asked
+constexpr std::chrono::milliseconds retryTime{1000}; // wait while the kernel cannot be asked
 constexpr int refusedPatternStatus = 1002;
 
-// Which keys a session watches.
+// The keys that a session watches.
 struct KeyChoice {
     std::vector<std::string> keys;
     std::vector<KeyPattern> patterns;
@@ -65,7 +65,7 @@ public:
 
     std::unique_ptr<ConfigurationChangeSource> createRunLoopSource() override;
 
-    // Tells the callback which of the watched keys differ, if any do.
+    // Tells the callback the watched keys that differ, if there are any.
     void tell(const ConfigurationRecords& before, const ConfigurationRecords& after) {
         auto keys = changedKeys(before, after);
         std::erase_if(keys, [this](const std::string& key) { return !_choice.contains(key); });
@@ -78,7 +78,7 @@ private:
     LinuxConfigurationStore& _store;
     DynamicStoreCallBack _callback;
     void* _info;
-    Records _records; // null when each read is to see the present ones
+    Records _records; // null when each read sees the present records
     KeyChoice _choice;
 };
 
@@ -107,7 +107,7 @@ public:
 private:
     LinuxConfigurationStore& _store;
     Session& _session;
-    Records _told; // what the callback knows; null until there was something to read
+    Records _told; // records that the callback knows; null until the first read
 };
 
 std::unique_ptr<ConfigurationChangeSource> LinuxConfigurationStore::Session::createRunLoopSource() {
@@ -189,8 +189,8 @@ LinuxConfigurationStore::Records LinuxConfigurationStore::currentRecords() {
     return _records;
 }
 
-// Every change waits for the first one's time to pass, so that a host that changes all the time is
-// told of, too.
+// The first change starts the wait, and later changes do not extend it. So the changes of a host
+// that changes all the time are told too.
 void LinuxConfigurationStore::noteChange() {
     if (_pendingTell == nullptr && !_runningSources.empty()) {
         tellAfter(settlingTime);

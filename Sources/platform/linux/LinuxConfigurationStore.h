@@ -1,18 +1,19 @@
 // The configuration store of a Linux host: the kernel's links and the active connection profiles,
 // as the records of ConfigurationRecords.h.
 //
-// Nothing is written anywhere, so what is "saved" is what the host has now. A session with a
+// Nothing is written anywhere, so the "saved" configuration is the present one. A session with a
 // callback sees the links as they are at the moment of each read. Any other session, and one with
 // the preferences, sees them as they were when it was opened, so that a listing of many services
-// reads the host once. Changes are told a little later than they happen, and together:
-// what comes and goes within a tenth of a second is no change, and what one command of the
-// administrator does in several steps is one.
+// reads the host once. Changes are told together, a little later than they happen. A record that
+// comes and goes within a tenth of a second is no change. The steps of one administrator's command
+// are one change.
 //
-// Failures: no session is opened, and SCError() has the value of errno, while there are no links
-// (KernelLinks.h). Patterns with another construct than "[^/]+" are refused (SCError() 1002).
+// Failures: while there are no links (KernelLinks.h), no session is opened, and SCError() has the
+// value of errno. Patterns with another construct than "[^/]+" are refused (SCError() 1002).
 //
 // Threading: the main thread only. Ownership: the run loop, the links and the profiles must outlive
-// the store, and so must their present change actions, which are the store's.
+// the store. The store sets the change actions of the links and the profiles; they must stay set
+// while the store lives.
 
 #pragma once
 
@@ -34,7 +35,7 @@ namespace kx {
 
 class LinuxConfigurationStore final : public ConfigurationStore {
 public:
-    // `profiles` may be null: then nobody on the host keeps any.
+    // `profiles` may be null when no program on the host keeps profiles.
     LinuxConfigurationStore(RunLoop& runLoop, KernelLinks& links, ConnectionProfiles* profiles);
     ~LinuxConfigurationStore() override;
     LinuxConfigurationStore(const LinuxConfigurationStore&) = delete;
@@ -49,7 +50,7 @@ private:
     class Session;
     class Source;
     class Preferences;
-    using Records = std::shared_ptr<const ConfigurationRecords>; // never changed once made
+    using Records = std::shared_ptr<const ConfigurationRecords>; // never change once made
 
     Records currentRecords();
     void noteChange();
@@ -62,7 +63,7 @@ private:
     int _lastError = 0;
 
     Records _records;
-    std::pair<std::uint64_t, std::uint64_t> _recordsGeneration; // of links and profiles
+    std::pair<std::uint64_t, std::uint64_t> _recordsGeneration; // links first, then profiles
     std::vector<Source*> _runningSources;
     RunLoop::Handle _pendingTell;
 };

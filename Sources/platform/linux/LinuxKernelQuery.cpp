@@ -23,7 +23,7 @@ constexpr std::size_t presenceMaskOffset = 4;
 constexpr std::size_t flagsOffset = 8;
 constexpr std::size_t indexOffset = 12;
 
-// Flags as the messages have them, which are not this kernel's own values.
+// The flags of the messages. Their values are not those of this kernel.
 constexpr std::uint32_t flagUp = 0x1;
 constexpr std::uint32_t flagBroadcast = 0x2;
 constexpr std::uint32_t flagLoopback = 0x8;
@@ -43,7 +43,7 @@ std::uint32_t flagsOfLink(const NetworkLink& link) {
            (link.isRunning ? flagRunning : 0U) | (link.canMulticast ? flagMulticast : 0U);
 }
 
-// Name and hardware address are far shorter than their length bytes can say.
+// The name and the hardware address are far shorter than the largest length in their length bytes.
 Bytes linkLevelAddress(const NetworkLink& link) {
     Bytes result = {0,
                     linkLevelFamily,
@@ -90,8 +90,8 @@ Bytes messageForLink(const NetworkLink& link) {
     return message;
 }
 
-// The header's length is no multiple of a long integer's; the addresses behind it are padded from
-// their own beginning.
+// The header's length is not a multiple of the length of a long integer. The addresses behind it
+// are padded from their own beginning.
 Bytes messageForAddress(const NetworkLink& link, const IPv4InterfaceAddress& address) {
     const std::uint32_t mask = maskOfPrefixLength(address.prefixLength);
     std::uint32_t presenceMask = 1U << netmaskSlot | 1U << interfaceAddressSlot;

@@ -9,8 +9,8 @@ namespace kx {
 
 namespace {
 
-// The kernel makes a buffer of twice the bytes that it is asked for, for its bookkeeping, and tells
-// the double.
+// The kernel doubles the size that it is asked for, to have room for its bookkeeping, and tells the
+// doubled size.
 bool hasRoom(int descriptor, int bytes) {
     int doubled = 0;
     socklen_t length = sizeof doubled;

@@ -1,8 +1,8 @@
 // The receive buffers of Linux.
 //
-// Anybody may ask for as much as net.core.rmem_max allows; whoever administers the network may pass
-// that limit. The count is the socket's own, which the kernel keeps whether or not a datagram
-// follows that could carry it. Linux tells it from version 4.12 on.
+// Any process may ask for as much as net.core.rmem_max allows; a process that may administer the
+// network may exceed that limit. The kernel keeps the count of drops for the socket, even when no
+// later datagram could carry it. Linux tells the count since version 4.12.
 
 #pragma once
 

@@ -12,7 +12,8 @@
 
 namespace kx {
 
-// What a link is to a person who looks for it. `other` is whatever has no name of its own.
+// The kind of a link, for a person who looks for it. `other` stands for every kind without a name
+// of its own.
 enum class LinkKind { ethernet, wiFi, bridge, vlan, bond, pointToPoint, other };
 
 struct IPv4InterfaceAddress {
@@ -30,25 +31,25 @@ struct IPv6InterfaceAddress {
 };
 
 struct NetworkLink {
-    int index = 0;    // the kernel's number, unique at a time
+    int index = 0;    // the kernel's number; no two links share one
     std::string name; // UTF-8
     LinkKind kind = LinkKind::other;
-    bool isUp = false;      // by the administrator
-    bool isRunning = false; // carries datagrams: up, with a carrier
+    bool isUp = false;      // the administrator has set it up
+    bool isRunning = false; // up and with a carrier: it carries datagrams
     bool isLoopback = false;
     bool canBroadcast = false;
     bool isPointToPoint = false;
     bool canMulticast = false;
-    Bytes hardwareAddress;                           // empty when it has none
+    Bytes hardwareAddress;                           // empty when the link has none
     std::vector<IPv4InterfaceAddress> ipv4Addresses; // in the kernel's order, primary ones first
     std::vector<IPv6InterfaceAddress> ipv6Addresses;
 
-    // Of the default route out of this link; the lowest where there are several. The host prefers
-    // the link with the lowest one. Absent without a default route.
+    // The metric of the default route out of this link; the lowest one when there are several. The
+    // host prefers the link with the lowest metric. Absent without a default route.
     std::optional<std::uint32_t> defaultRouteMetric;
 };
 
-// The mask of a prefix length: that many ones from the most significant bit on.
+// The mask of a prefix length. Its bits are set from the most significant bit on.
 constexpr std::uint32_t maskOfPrefixLength(unsigned prefixLength) {
     return prefixLength == 0
                ? 0

@@ -1,7 +1,7 @@
 #include "platform/linux/NetworkManagerProfiles.h"
 
 #include "platform/linux/ActiveConnections.h"
-#include "platform/linux/SystemBus.h"
+#include "platform/qtcore/SystemBus.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
@@ -18,7 +18,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::milliseconds firstPatience{750};
 constexpr std::chrono::seconds timeBetweenTries{1};
-constexpr int restAfterATry = 8; // times as long as the try took
+constexpr int restAfterATry = 8; // times the duration of the try
 
 constexpr auto service = "org.freedesktop.NetworkManager";
 constexpr auto rootPath = "/org/freedesktop";
@@ -26,8 +26,8 @@ constexpr auto objectManagerInterface = "org.freedesktop.DBus.ObjectManager";
 constexpr auto busService = "org.freedesktop.DBus";
 constexpr auto ownerChanged = "NameOwnerChanged";
 
-// The interfaces of NetworkManager that profiles are read from. Others change all the time: the
-// strength of radio signals, for one.
+// The interfaces of NetworkManager from which profiles are read. Others change all the time, for
+// example the strength of radio signals.
 constexpr const char* readInterfaces[] = {
     "org.freedesktop.NetworkManager",
     "org.freedesktop.NetworkManager.Connection.Active",
@@ -37,7 +37,7 @@ constexpr const char* readInterfaces[] = {
 
 } // namespace
 
-// It may be the one that has just said that it is finished.
+// The watcher may be the sender of the running signal, so it is deleted later.
 void NetworkManagerProfiles::EndOfCall::operator()(QDBusPendingCallWatcher* call) const {
     call->disconnect();
     call->deleteLater();
@@ -57,7 +57,7 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
         }
     }
     if (_isFirstReading) {
-        // The call, not its watcher, which would take the answer itself while it waits.
+        // This waits on the call itself. Its watcher would take the answer while it waits.
         _reading->QDBusPendingCall::waitForFinished();
         takeAnswer();
     }
@@ -91,7 +91,7 @@ void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
                      [this] { takeAnswer(); });
 }
 
-// Whoever told the profiles is gone, and will not answer any more.
+// The connection that told the profiles is gone and will not answer any more.
 void NetworkManagerProfiles::forget() {
     endReading();
     _ownerAnswer.reset();
@@ -111,7 +111,7 @@ void NetworkManagerProfiles::takeAnswer() {
     if (answer.type() == QDBusMessage::ReplyMessage) {
         setProfiles(activeConnections(answer));
     } else if (QDBusError(answer).type() == QDBusError::NoReply) {
-        mustReadAgain = true; // it hangs, or ended just now
+        mustReadAgain = true; // NetworkManager hangs, or ended just now
     } else {
         setProfiles({});
     }
@@ -130,7 +130,8 @@ void NetworkManagerProfiles::setProfiles(std::vector<ConnectionProfile> profiles
     }
 }
 
-// Anyone on the bus may send a signal to this end alone, whatever it asked the bus for.
+// Any connection on the bus may send a signal to this end directly, whatever this end has asked
+// for.
 void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
     if (SystemBus::endsConnection(signal)) {
         forget();
@@ -149,7 +150,7 @@ void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
 const QString& NetworkManagerProfiles::owner() {
     if (_ownerAnswer != nullptr && _ownerAnswer->isFinished()) {
         const QDBusMessage answer = _ownerAnswer->reply();
-        if (answer.type() == QDBusMessage::ReplyMessage) { // otherwise it has no owner
+        if (answer.type() == QDBusMessage::ReplyMessage) { // otherwise there is no owner
             _owner = answer.arguments().value(0).toString();
         }
         _ownerAnswer.reset();

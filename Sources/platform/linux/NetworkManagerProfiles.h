@@ -1,14 +1,15 @@
 // NetworkManager's connection profiles, heard over the system bus.
 //
-// Whatever NetworkManager says of its connections, devices and addresses is not looked at: it makes
-// what was read outdated, and everything is read anew, with one call at a time. NetworkManager may
-// come, go, come back or hang at any time, and its start is heard. While it hangs, the profiles are
-// the ones that it told last; its answer is awaited without an end, and without a timer.
+// The contents of NetworkManager's signals about connections, devices and addresses are ignored.
+// Each signal makes the profiles outdated, and all of them are read again, with one call at a time.
+// NetworkManager may start, end, start again or hang at any time; the bus tells when it starts.
+// While it hangs, the profiles are the ones that it told last. The object waits for its answer
+// without a limit and without a timer.
 //
-// Without a bus, or with one that has stopped when it is to be reached, there are no profiles.
-// Nobody tells when a bus comes, so each time that the profiles are asked for is a try to reach
-// one, though not more than one a second, and none for six seconds after one that a stopped bus has
-// held up. At rest nothing wakes up, with a bus or without.
+// There are no profiles without a bus, or when the bus has stopped at the time of a try to reach
+// it. Nobody tells when a bus starts, so each request for the profiles is a try to reach one. Tries
+// are at least one second apart, and six seconds after a try that a stopped bus has held up. At
+// rest nothing wakes up, with a bus or without.
 //
 // Threading: the main thread only, which needs a QCoreApplication whose event loop runs.
 
@@ -32,13 +33,13 @@ class SystemBus;
 
 class NetworkManagerProfiles final : public ConnectionProfiles {
 public:
-    // Asks for the profiles, so that they are there, with some luck, when they are wanted.
+    // Asks for the profiles, so that they have usually arrived when they are needed.
     NetworkManagerProfiles();
     ~NetworkManagerProfiles() override;
     NetworkManagerProfiles(const NetworkManagerProfiles&) = delete;
     NetworkManagerProfiles& operator=(const NetworkManagerProfiles&) = delete;
 
-    // Waits for the first answer of a bus that was not there before, and for no other.
+    // Waits for the first answer on a bus that was not there before, and for no other answer.
     const std::vector<ConnectionProfile>& activeProfiles() override;
     std::uint64_t generation() const override { return _generation; }
     void setChangeAction(std::function<void()> action) override {
@@ -62,12 +63,12 @@ private:
     void setProfiles(std::vector<ConnectionProfile> profiles);
 
     std::unique_ptr<SystemBus> _bus;
-    std::chrono::steady_clock::time_point _nextTry; // to reach a bus, at the earliest
+    std::chrono::steady_clock::time_point _nextTry; // the earliest time to try to reach a bus
     Call _reading;                                  // the call that is under way, or null
-    bool _isFirstReading = false;                   // on this bus; it ends by itself
-    bool _isOutdated = false;                       // what that call will tell
-    Call _ownerAnswer;                              // the bus is being asked for the owner, or null
-    QString _owner;                                 // as last told; read it by owner()
+    bool _isFirstReading = false; // _reading is the first on this bus, and has a time limit
+    bool _isOutdated = false;     // the answer to _reading will be outdated
+    Call _ownerAnswer;            // pending answer of the bus about the owner, or null
+    QString _owner;               // as told last; owner() reads it
     std::vector<ConnectionProfile> _profiles;
     std::uint64_t _generation = 0;
     std::function<void()> _changeAction;

@@ -10,7 +10,7 @@ namespace {
 constexpr auto launcherPath = "/usr/bin/pkexec";
 constexpr auto launcherName = "pkexec";
 
-// pkexec(1): the dialog was dismissed. For every other reason not to run the tool it says 127.
+// pkexec(1): the dialog was dismissed. For every other reason not to run the tool it returns 127.
 constexpr int launcherDismissed = 126;
 
 constexpr auto arpToolPath = "/usr/sbin/arp";
@@ -42,9 +42,9 @@ private:
         return errAuthorizationDenied;
     }
 
-    // The launcher gives the tool an environment of its own, and refuses to start it when it finds
-    // one of a few variables in doubt: it gets none. It asks in no terminal, which is not where the
-    // user of a window looks.
+    // The launcher gives the tool its own environment. It refuses to start the tool when it finds
+    // one of a few variables in doubt, so it gets none. It must not ask in a terminal, because the
+    // user of a window does not look there.
     std::unique_ptr<StartedTool> start(const std::string& toolPath,
                                        const std::vector<std::string>& arguments) override {
         std::vector<std::string> words{"--disable-internal-agent", toolPath};

@@ -1,20 +1,20 @@
-// The authority for an ordinary user: polkit, which asks a person through the desktop's dialog, and
-// pkexec, which runs the tool.
+// The authority for an ordinary user: polkit asks a person through the desktop's dialog, and pkexec
+// runs the tool.
 //
-// The right to run a tool is the action by which pkexec knows it. The ARP tool has an action of its
-// own (Resources/org.kxconfig.KXConfig.policy), which polkit keeps for a few minutes once it was
-// granted to this process: it serves for the question and for the run. A right that polkit has let
-// run out is no longer held, and asking for it again asks a person again.
+// The right to run a tool is the action by which pkexec knows the tool. The ARP tool has an action
+// of its own (Resources/org.kxconfig.KXConfig.policy). polkit keeps a grant of this action to this
+// process for a few minutes, so one grant serves for the question and for the run. When polkit has
+// let a right run out, it is no longer held, and the next request asks a person again.
 //
-// polkit lets no application take its own grant back. What was granted under a reference that is
-// gone is not held under the next one, but a request that may ask a person then asks nobody while
-// polkit still keeps it.
+// An application cannot take its own grant back from polkit. A right that was granted under a
+// destroyed reference is not held under the next one. But while polkit still keeps the grant, a
+// request that may ask a person asks nobody.
 //
 // Status codes of a request: errAuthorizationCanceled when the dialog was dismissed,
 // errAuthorizationInteractionNotAllowed when nobody was to be asked or there is no dialog to ask
-// with, otherwise errAuthorizationDenied. Of a run: errAuthorizationCanceled and
-// errAuthorizationDenied likewise, errAuthorizationToolExecuteFailure without the tool or pkexec.
-// create() returns null without a system bus or polkit on it.
+// with, otherwise errAuthorizationDenied. Status codes of a run: errAuthorizationCanceled and
+// errAuthorizationDenied in the same cases, errAuthorizationToolExecuteFailure without the tool or
+// pkexec. create() returns null without a system bus or polkit on it.
 
 #pragma once
 

@@ -1,6 +1,6 @@
 #include "platform/linux/PolkitCheck.h"
 
-#include "platform/linux/SystemBus.h"
+#include "platform/qtcore/SystemBus.h"
 
 #include <unistd.h>
 
@@ -31,20 +31,21 @@ const QString resultSignature = QStringLiteral("(bba{ss})");
 // Bit of CheckAuthorization's flags.
 constexpr quint32 allowUserInteraction = 1;
 
-// How long the bus may take to answer and, which is more work, to start polkit. The window stands
-// still meanwhile.
+// The time that the bus may take to answer, and the longer time that it may take to start polkit.
+// The window does not react meanwhile.
 constexpr std::chrono::milliseconds patienceWithBus{1000};
 constexpr std::chrono::milliseconds patienceWithStart{2000};
 
 using Details = QMap<QString, QString>;
 
-// When this process started, in the kernel's clock ticks since boot; 0, which polkit takes as
-// "look it up", when that cannot be read. With the process number it names the process for good.
+// The start time of this process, in the kernel's clock ticks since boot. It is 0 when it cannot be
+// read; polkit then looks it up itself. Together with the process number it names the process for
+// good.
 std::uint64_t startTime() {
     std::ifstream file("/proc/self/stat");
     const std::string line{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-    // The program's name stands in parentheses and may hold anything; the fields after it are
-    // numbers but for the first. The start time is the 20th of them.
+    // The program's name is in parentheses and may hold any characters. The fields after it are
+    // numbers, except for the first. The start time is the 20th of them.
     const auto nameEnd = line.rfind(')');
     if (nameEnd == std::string::npos) {
         return 0;
@@ -123,7 +124,7 @@ bool isPolkitOn(SystemBus& bus) {
         return true;
     }
     auto start = questionToBus(QStringLiteral("StartServiceByName"));
-    start << 0U; // no flags are known
+    start << 0U; // no flags are defined
     return answerTo(bus, start, patienceWithStart).type() == QDBusMessage::ReplyMessage;
 }
 
@@ -134,7 +135,7 @@ bool isPolkitThere() {
     return isPolkitOn(bus);
 }
 
-// A person types a password meanwhile, so the answer has no time-out.
+// A person may type a password meanwhile, so the answer has no time-out.
 PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {
     SystemBus bus(hearNothing, patienceWithBus);
     if (!isPolkitOn(bus)) {
@@ -144,7 +145,7 @@ PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {
                                                    QStringLiteral("CheckAuthorization"));
     question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
              << QVariant::fromValue(noDetails()) << (mayAskPerson ? allowUserInteraction : 0U)
-             << QString(); // nothing cancels it
+             << QString(); // no name for a later cancellation
     return answerOf(answerTo(bus, question, SystemBus::endlessPatience));
 }
 

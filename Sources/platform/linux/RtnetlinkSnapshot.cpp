@@ -43,11 +43,12 @@ using Route = std::unique_ptr<rtnl_route, RouteRelease>;
 
 using LinksByIndex = std::map<int, NetworkLink>;
 
-// Short, because whoever asks may have waited for the connection profiles before.
+// Short, because the caller may have waited for the connection profiles before.
 constexpr std::chrono::milliseconds patience{200};
-constexpr std::chrono::milliseconds patienceForRoutes{40}; // at least
+constexpr std::chrono::milliseconds patienceForRoutes{40}; // at least this
 
-// A list that changes while the kernel tells it is asked for again, so many times in all.
+// When a list changes while the kernel tells it, it is asked for again, at most so many times in
+// all.
 constexpr int mostTries = 4;
 
 // The library's codes that matter here, as values of errno.
@@ -87,7 +88,7 @@ Socket openSocket() {
     return socket;
 }
 
-// Only the driver tells a wireless link from a wired one.
+// Only the driver distinguishes a wireless link from a wired one.
 bool isWireless(const std::string& name) {
     return ::access(("/sys/class/net/" + name + "/phy80211").c_str(), F_OK) == 0;
 }
@@ -155,13 +156,13 @@ void addAddress(rtnl_addr* address, NetworkLink& link) {
     }
 }
 
-// A question to the kernel, and how far its answer has come.
+// A request to the kernel, and the state of its answer.
 struct Dump {
-    std::function<bool(nl_msg*)> take; // called with each message of the answer; false: enough
-    Clock::time_point deadline;        // for waiting; what is there already is read in any case
+    std::function<bool(nl_msg*)> take; // gets each message of the answer; false ends it
+    Clock::time_point deadline;        // limits waiting; messages already there are always read
     bool isComplete = false;
     bool isStopped = false;
-    bool isInterrupted = false; // the list has changed while the kernel told it
+    bool isInterrupted = false; // the list changed while the kernel told it
 };
 
 int messageReceived(nl_msg* message, void* dump) {
@@ -180,7 +181,7 @@ int answerInterrupted(nl_msg* /*message*/, void* dump) {
     return NL_OK;
 }
 
-// Waits until there is something to read; false when there is not until the deadline.
+// Waits until there is something to read. False when nothing has come by the deadline.
 bool canRead(nl_sock* socket, Clock::time_point deadline) {
     pollfd descriptor{nl_socket_get_fd(socket), POLLIN, 0};
     int ready = 0;
@@ -191,8 +192,8 @@ bool canRead(nl_sock* socket, Clock::time_point deadline) {
     return ready > 0;
 }
 
-// Asks for a list and hears the answer to its end. Returns a code of the library, negative for a
-// failure, as do the functions below.
+// Asks for a list and reads the answer to its end. Like the functions below, returns a code of the
+// library, which is negative for a failure.
 template<class Request>
 int ask(nl_sock* socket, int type, Request request, Dump dump) {
     nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, messageReceived, &dump);
@@ -215,7 +216,7 @@ int ask(nl_sock* socket, int type, Request request, Dump dump) {
 }
 
 void linkReceived(nl_object* object, void* links) {
-    // The library's own way from the base to the kind that was asked for.
+    // The library itself converts the base to the requested kind in this way.
     auto* const link = reinterpret_cast<rtnl_link*>(object);
     const char* const name = rtnl_link_get_name(link);
     if (name != nullptr && isValidUTF8(bytesOfText(name))) {
@@ -280,7 +281,7 @@ void addDefaultRoute(nlmsghdr* header, LinksByIndex& links) {
     }
 }
 
-// Takes every route; the many that are no default route are not even taken apart.
+// Takes every route. Most are no default routes, and those are not even taken apart.
 void takeRoute(nl_msg* message, LinksByIndex& links) {
     nlmsghdr* const header = nlmsg_hdr(message);
     if (header->nlmsg_type == RTM_NEWROUTE && nlmsg_valid_hdr(header, sizeof(rtmsg)) != 0) {
@@ -293,7 +294,7 @@ void takeRoute(nl_msg* message, LinksByIndex& links) {
     }
 }
 
-// There may be a million routes, of which the default ones are told first.
+// There may be a million routes. The kernel tells the default ones first.
 int readDefaultRoutes(nl_sock* socket, Clock::time_point deadline, LinksByIndex& links) {
     rtmsg request{};
     request.rtm_family = AF_INET;

@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-// Between two looks at tools that run on.
+// The time between two looks at tools that run on.
 constexpr std::chrono::milliseconds interval{100};
 
 } // namespace
@@ -34,7 +34,7 @@ void RunningTools::look() {
     if (!_tools.empty()) {
         lookAfter(interval);
     }
-    // An action may attend further tools, or destroy this object.
+    // An action may add further tools, or destroy this object.
     for (const auto& [tool, action] : ended) {
         const int status = tool->status();
         if (action) {

@@ -1,7 +1,7 @@
-// The tools that an authority has started, until each has ended and its end is told.
+// The tools that an authority has started. Each stays here until it has ended and its end is told.
 //
 // Threading: the main thread only. Ownership: the loop must outlive the object. Tools that still
-// run when the object is destroyed run on, and the system takes their ends.
+// run when the object is destroyed run on, and their ends are not told.
 
 #pragma once
 
@@ -20,8 +20,8 @@ public:
 
     explicit RunningTools(RunLoop& loop);
 
-    // Takes the end of the tool when it comes, or has come, and calls `ended` with it from the run
-    // loop.
+    // Watches the tool until it has ended, and then calls `ended` with its status from the run
+    // loop. The tool may have ended already.
     void attend(std::unique_ptr<StartedTool> tool, EndAction ended);
 
 private:

@@ -18,8 +18,8 @@ namespace kx {
 
 namespace {
 
-// Between two looks at a program that is waited for: short, because the window stands still, and
-// long enough to cost nothing while a person is asked.
+// The time between two looks at a program that is waited for. It is short, because the window does
+// not react meanwhile. It is long enough to cost nothing while a person is asked.
 constexpr std::chrono::milliseconds interval{5};
 
 constexpr int signalBase = 128;
@@ -52,8 +52,8 @@ StartedTool::StartedTool(ChildProcess child)
 bool StartedTool::hasEnded() const {
     const auto process = _child.processIdentifier();
     siginfo_t end{};
-    // Only looked at: the end stays the child's to tell, and the system keeps the program's name as
-    // long. An error means that it has kept nothing.
+    // This only looks, with WNOWAIT: `_child` takes the end later, and until then the system keeps
+    // the program's name. An error means that the system has kept nothing.
     return ::waitid(P_PID, static_cast<id_t>(process), &end, WEXITED | WNOHANG | WNOWAIT) != 0 ||
            end.si_pid == process;
 }

@@ -21,30 +21,31 @@ public:
 
     using Environment = std::optional<std::vector<std::string>>;
 
-    // Starts the program at `path` with these arguments, and these environment variables
-    // ("NAME=value") or, where absent, this process's own. It reads nothing; what it writes is not
-    // kept, but what it complains about goes where this process's own complaints go. Null when the
+    // Starts the program at `path` with these arguments and these environment variables
+    // ("NAME=value"); when they are absent, with this process's own. The tool reads nothing, and
+    // its standard output is not kept. It shares this process's standard error. Null when the
     // system cannot start it, with a line in the system log.
     static std::unique_ptr<StartedTool> start(const std::string& path,
                                               const std::vector<std::string>& arguments,
                                               const Environment& environment);
 
-    // Whether it has ended.
+    // Whether the tool has ended.
     bool hasEnded() const;
 
-    // The file name of the program that runs, or ran to its end, cut to 15 bytes: a launcher's
-    // until it has become the tool. Absent when the system does not tell, as where it hides the
-    // processes of others. Not to be asked after status().
+    // The file name of the program that runs, or ran to its end, cut to 15 bytes. It is a
+    // launcher's name until the launcher has become the tool. Absent when the system does not tell
+    // it, as where it hides the processes of other users. Must not be called after status().
     std::optional<std::string> programName() const;
 
-    // Returns once it has ended, or after a moment in which it has run. While it is still
-    // `launcher` a person may be asked: that takes as long as it takes, and the moment begins after
-    // it. The same while the system does not tell what it is, because that person may not be cut
-    // short. An empty name stands for no launcher. Whether it has ended then.
+    // Returns when the tool has ended, or when it has run for a moment. While the program is still
+    // `launcher`, a person may be asked; this takes as long as the person takes, and the moment
+    // begins afterwards. While the system does not tell the name of the program, the wait is the
+    // same, so that the person is not cut short. An empty name stands for no launcher. Returns
+    // whether the tool has ended.
     bool waitAMoment(const std::string& launcher);
 
-    // Waits for its end. The exit status, or 128 and the number of the signal that ended it; -1
-    // when the system did not keep it.
+    // Waits for the end of the tool. Returns its exit status, or the number of the signal that
+    // ended it plus 128; -1 when the system did not keep the status.
     int status();
 
 private:

@@ -15,13 +15,14 @@ using std::chrono::milliseconds;
 
 namespace {
 
-// How long a turn rests at most when poll(2) itself fails, as it does when the system is short of
-// memory or the process of descriptors: long enough not to spin, short enough not to be noticed.
+// The longest rest of a turn when poll(2) itself fails, as it does when the system is short of
+// memory or the process of descriptors. It is long enough not to spin, and short enough not to be
+// noticed.
 constexpr milliseconds restAfterFailure{10};
 
 } // namespace
 
-// What a handle holds: the removal of its entry.
+// The object behind a handle. It removes the entry of its watch or call.
 class PollRunLoop::Registration final : public Source {
 public:
     explicit Registration(std::function<void()> end)
@@ -32,8 +33,8 @@ private:
     std::function<void()> _end;
 };
 
-// Entries are taken out before they are destroyed: what a callback holds may end registrations in
-// turn, and must not do so while the container is being changed.
+// Entries are taken out before they are destroyed. The objects in a callback may end other
+// registrations in turn, and must not do so while the container is being changed.
 
 RunLoop::Handle PollRunLoop::watchForReading(int descriptor, std::function<void()> readable) {
     if (::fcntl(descriptor, F_GETFD) == -1) {
@@ -91,7 +92,7 @@ bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
     std::vector<std::uint64_t> ready = std::exchange(_ready, {});
     ready.clear();
     findReady(pollDescriptors(pollTimeout(longestWait)), ready);
-    const bool mayBeDue = !_calls.empty(); // what callbacks ask for is not
+    const bool mayBeDue = !_calls.empty(); // calls that callbacks ask for now are not due
     const CallKey latest = mayBeDue ? CallKey{Clock::now(), _nextOrder - 1} : CallKey{};
     const bool hasRead = callReadable(ready);
     const bool hasCalled = mayBeDue && callDue(latest);
@@ -99,7 +100,7 @@ bool PollRunLoop::runOnce(std::optional<milliseconds> longestWait) {
     return hasRead || hasCalled;
 }
 
-// Rounded up: a wait that ends just before the due time would turn the loop for nothing.
+// Rounded up, because a wait that ends just before the due time would turn the loop for nothing.
 int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
     auto wait = longestWait;
     if (!_calls.empty() && !isHeld()) {
@@ -114,8 +115,9 @@ int PollRunLoop::pollTimeout(std::optional<milliseconds> longestWait) const {
         std::clamp<milliseconds::rep>(wait->count(), 0, std::numeric_limits<int>::max()));
 }
 
-// How many can be read. An interrupted poll is a turn in which nothing can. The system is asked
-// first without waiting: where something can be read already, preparing a wait costs for nothing.
+// Returns how many descriptors can be read. In a turn with an interrupted poll none can. The first
+// poll does not wait: when something can be read already, preparing a wait would cost time for
+// nothing.
 int PollRunLoop::pollDescriptors(int timeout) {
     const auto size = isHeld() ? nfds_t{0} : static_cast<nfds_t>(_descriptors.size());
     int count = ::poll(_descriptors.data(), size, 0);
@@ -142,8 +144,9 @@ void PollRunLoop::findReady(int count, std::vector<std::uint64_t>& ready) {
     }
 }
 
-// A callback that runs the loop in turn leaves the rest to that run and the next: what could be
-// read before it may have been read in it. One that holds the loop leaves it to a later turn.
+// A callback that runs the loop in turn ends this round, because its own run may have read the
+// other descriptors. That run and the next turn look at them again. A callback that holds the loop
+// leaves the rest to a later turn.
 bool PollRunLoop::callReadable(const std::vector<std::uint64_t>& ready) {
     const auto turn = ++_turns;
     bool hasCalled = false;

@@ -1,13 +1,13 @@
 // A run loop over poll(2), for programs and tests without a toolkit.
 //
-// The contract of support/RunLoop.h on the monotonic clock. A turn waits until a descriptor can be
-// read or a call falls due, at rest for as long as that takes; it then calls the watches of the
-// descriptors that can be read and the calls that were due, each once. A descriptor with a pending
-// error or a hang-up counts as one that can be read, since a read of it does not block. The watch
-// of a descriptor that was closed too early ends in silence. A turn of a held loop only waits.
+// It keeps the contract of support/RunLoop.h on the monotonic clock. A turn sleeps until a
+// descriptor can be read or a call falls due. It then calls the watches of the descriptors that can
+// be read and the calls that were due, each once. A descriptor with a pending error or a hang-up
+// counts as one that can be read, because a read of it does not block. When a watched descriptor
+// was closed too early, its watch ends without a report. A turn of a held loop only waits.
 //
-// Threading: one thread, which is the one that runs it; nothing wakes it from another one but a
-// watched descriptor.
+// Threading: the loop belongs to the one thread that runs it. Another thread can wake it only
+// through a watched descriptor.
 
 #pragma once
 
@@ -41,11 +41,11 @@ public:
     // Runs turns until stop() is called.
     void run();
 
-    // Ends run() when the present turn is over. Without effect while run() is not running.
+    // Ends run() when the present turn is over. Has no effect while run() is not running.
     void stop();
 
-    // Runs one turn, which waits no longer than `longestWait`; absent: for as long as it takes.
-    // False when the wait ended without anything to call.
+    // Runs one turn, which waits no longer than `longestWait`, or without a limit when it is
+    // absent. False when the wait ended without anything to call.
     bool runOnce(std::optional<std::chrono::milliseconds> longestWait = std::nullopt);
 
 private:
@@ -73,11 +73,11 @@ private:
 
     int _holds = 0;
     bool _running = false;
-    std::uint64_t _turns = 0; // to know a run within the run by
+    std::uint64_t _turns = 0; // number of turns, by which a callback's own run is noticed
     std::uint64_t _nextOrder = 1;
-    Watches _watches;                  // in the order of their requests
-    std::vector<pollfd> _descriptors;  // of the watches, one for each
-    std::vector<std::uint64_t> _ready; // kept between turns for its storage
+    Watches _watches;                  // in the order of the requests
+    std::vector<pollfd> _descriptors;  // one for each watch, in the same order
+    std::vector<std::uint64_t> _ready; // kept between turns to reuse its storage
     std::map<CallKey, std::function<void()>> _calls;
 };
 

@@ -23,7 +23,7 @@ FileDescriptor datagramSocket() {
     return FileDescriptor(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0));
 }
 
-// What the daemon reads in front of a line: the priority, and the local time with the month's
+// The head that the daemon expects before a line: the priority, and the local time with the month's
 // English name.
 std::string lineHead() {
     constexpr std::array<const char*, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
@@ -42,8 +42,8 @@ std::string lineHead() {
     return head;
 }
 
-// As much as standard error takes at once. A pipe that can be written to has room for PIPE_BUF
-// bytes; one that nobody reads any more would end the process.
+// Writes as much as standard error takes at once. A pipe that can be written to has room for
+// PIPE_BUF bytes. A pipe without a reader would end the process.
 void copyToStandardError(std::string_view text) {
     pollfd polled{STDERR_FILENO, POLLOUT, 0};
     while (!text.empty() && ::poll(&polled, 1, 0) > 0 && polled.revents == POLLOUT) {
@@ -77,7 +77,7 @@ void SyslogSystemLog::send(std::string_view text) {
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     _socketPath.copy(std::data(address.sun_path), sizeof address.sun_path - 1);
-    // To the address each time, so that a daemon that was started anew is found.
+    // The address is given each time, so that a restarted daemon is found.
     ::sendto(_socket.number(), text.data(), text.size(), MSG_DONTWAIT | MSG_NOSIGNAL,
              reinterpret_cast<const sockaddr*>(&address), sizeof address);
 }

@@ -1,10 +1,10 @@
-// The host's system log, by the socket on which its daemon takes lines, with a copy on standard
-// error for whoever started the program from a terminal.
+// The host's system log. Lines go to the socket of its daemon, and a copy goes to standard error
+// for a person who started the program from a terminal.
 //
-// Not syslog(3), which waits for a daemon that has stopped reading. Here a line for which the log
-// has no room is lost. Standard error gets as much of it as the system says that there is room for;
-// only a terminal that has stopped reading may say so and then hold a long line up. A log that is
-// not there, ends or comes back is tried again with each line.
+// syslog(3) is not used, because it waits for a daemon that has stopped reading. This log loses a
+// line for which the daemon has no room. Standard error gets as much of a line as the system has
+// room for. Only a terminal that has stopped reading may claim to have room and then hold a long
+// line up. The log may be missing, end or come back: each line tries it again.
 
 #pragma once
 
@@ -18,8 +18,8 @@ namespace kx {
 
 class SyslogSystemLog final : public SystemLog {
 public:
-    // `programName` and the process's number head each line: "kxconfig[123]: LINE". `socketPath`
-    // names a datagram socket.
+    // Each line begins with `programName` and the number of the process: "kxconfig[123]: LINE".
+    // `socketPath` names a datagram socket.
     explicit SyslogSystemLog(std::string programName, std::string socketPath = "/dev/log");
 
     void write(std::string_view line) override;
@@ -29,7 +29,7 @@ private:
 
     std::string _programName;
     std::string _socketPath;
-    FileDescriptor _socket; // none when the system gave none
+    FileDescriptor _socket; // holds no descriptor when the system gave none
 };
 
 } // namespace kx

@@ -24,8 +24,8 @@ namespace {
 
 constexpr std::string_view sourcePath = "Sources/platform/posix/ThreadHostResolver";
 
-// What a request and its thread share. Whoever lets go of it last closes the pipe, so the thread
-// can always wake, and nobody waits for the other.
+// The data that a request and its thread share. The last owner closes the pipe, so the thread can
+// always wake the loop, and neither waits for the other.
 struct Work {
     Work() = default;
     ~Work() {
@@ -38,11 +38,11 @@ struct Work {
     Work(const Work&) = delete;
     Work& operator=(const Work&) = delete;
 
-    // Runs on the thread. The resolution is the loop's once `isDone` is set.
+    // Runs on the thread. Once `isDone` is set, the resolution belongs to the loop.
     void perform() {
         try {
             resolution = lookup(hostName);
-        } catch (...) { // nobody above a thread could catch it
+        } catch (...) { // no caller above a thread could catch it
             resolution = {{kCFStreamErrorDomainPOSIX, ENOMEM}, std::nullopt};
         }
         isDone.store(true, std::memory_order_release);
@@ -52,7 +52,7 @@ struct Work {
 
     std::string hostName;
     ThreadHostResolver::Lookup lookup;
-    std::array<int, 2> pipe{-1, -1}; // to read from, to write to
+    std::array<int, 2> pipe{-1, -1}; // reading end, writing end
     HostResolution resolution;
     std::atomic<bool> isDone = false;
 };
@@ -78,7 +78,7 @@ public:
     }
 
 private:
-    // 0, or why it could not be started as a value of errno.
+    // Returns 0, or the value of errno that says why it could not be started.
     int start(HostResolver::Report report) {
         if (::pipe2(_work->pipe.data(), O_CLOEXEC) != 0) {
             return errno;
@@ -97,8 +97,8 @@ private:
         return 0;
     }
 
-    // Runs in the watch's callback. The report may destroy this request, so what it uses lies on
-    // the stack; `report` lives in the callback.
+    // Runs in the watch's callback. The report may destroy this request, so the data that it uses
+    // is on the stack; `report` lives in the callback.
     void reportOnce(const HostResolver::Report& report) {
         if (!_work->isDone.load(std::memory_order_acquire)) {
             return;

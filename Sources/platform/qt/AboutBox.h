@@ -6,8 +6,8 @@
 
 namespace kx {
 
-// Shows the box above a window, or brings the one that is open to the front, and returns at once.
-// The version is the application's, as set in QCoreApplication. The box deletes itself when it is
+// Shows the box above a window, or brings the open box to the front, and returns at once. The
+// version is the application's, as set in QCoreApplication. The box deletes itself when it is
 // closed. Main thread only.
 void showAboutBox(QWidget& window);
 

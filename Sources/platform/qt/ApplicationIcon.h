@@ -1,5 +1,5 @@
-// The application's icon, for windows of desktops that do not find it by the name of the desktop
-// entry: X11 wants the picture itself.
+// The application's icon, for windows on desktops that do not find it by the name of the desktop
+// entry: X11 needs the picture itself.
 
 #pragma once
 
@@ -7,7 +7,8 @@
 
 namespace kx {
 
-// In every size that is embedded, so that nothing need be installed, nor read as SVG.
+// The icon in every size that is embedded in the program. No installed file is needed, and no SVG
+// is read.
 QIcon applicationIcon();
 
 } // namespace kx

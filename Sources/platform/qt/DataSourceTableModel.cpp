@@ -1,6 +1,6 @@
 #include "platform/qt/DataSourceTableModel.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <utility>
 

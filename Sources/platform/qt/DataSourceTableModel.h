@@ -1,7 +1,8 @@
 // The values of a table view, as its data source gave them at the last reload().
 //
-// The data source is asked in reload() and for a cell that was just typed into, never from inside a
-// paint event: what is drawn stays true to one moment. Without a data source there are no rows.
+// The model asks the data source in reload() and for a cell that was just edited, and never from
+// inside a paint event. So everything on the screen belongs to the same moment. Without a data
+// source there are no rows.
 
 #pragma once
 
@@ -27,7 +28,7 @@ public:
     // Null takes the data source away. Reloads.
     void setDataSource(TableViewDataSource* dataSource);
 
-    // Asks for everything again. Rows that still exist stay the rows they are.
+    // Asks for everything again. Rows that still exist are kept, so a view keeps their selection.
     void reload();
 
     int rowCount(const QModelIndex& parent = {}) const override;

@@ -13,7 +13,7 @@ namespace kx {
 
 namespace {
 
-// The row that is selected, or that has the keyboard where none can be.
+// The row that is selected. In a table without selection it is the row that has the keyboard.
 int rowToCopy(const QTableView& table) {
     if (table.selectionMode() == QAbstractItemView::NoSelection) {
         return table.currentIndex().row();

@@ -1,4 +1,4 @@
-// The commands of the edit menu, for whatever control has the keyboard.
+// The commands of the edit menu. They work on the control that has the keyboard focus.
 
 #pragma once
 
@@ -6,10 +6,10 @@
 
 namespace kx {
 
-// Puts on the clipboard what is selected in the control: text, the cells of a table's row with a
-// tab between them, or a pop-up's title. In a table without selection it is the row that has the
-// keyboard. Leaves the clipboard alone when nothing is selected.
-// `control` may be null.
+// Puts the control's selection on the clipboard: text, the cells of a table's row with a tab
+// between them, or a pop-up's title. In a table without a selection, the row with the keyboard
+// focus counts as selected. When nothing is selected, the clipboard does not change. `control` may
+// be null.
 void copySelection(QWidget* control);
 
 // Selects the whole text of the control, if it holds text. `control` may be null.

@@ -1,7 +1,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "platform/qt/LogSearch.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -14,7 +14,8 @@ namespace kx {
 
 namespace {
 
-// A cross in the colour of texts on buttons. The style's own sign is hard to see in a dark window.
+// A cross in the colour of texts on buttons, because the style's own sign is hard to see in a dark
+// window.
 class CrossButton final : public QToolButton {
 public:
     using QToolButton::QToolButton;

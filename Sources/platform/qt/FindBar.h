@@ -1,9 +1,9 @@
 // The bar below the log that finds a text in it.
 //
-// Hidden at first. What is typed is sought at once, from the selection on; Return and the arrow
-// buttons go on to the next match, or with Shift to the one before, and round the ends of the log.
-// A match becomes the log's selection. Letters match in either case. Escape closes the bar and
-// gives the keyboard back to the log.
+// The bar is hidden at first. It searches while a person types, from the selection on. Return goes
+// to the next match, and Shift with Return to the one before; the two arrow buttons do the same.
+// The search goes on round the ends of the log. A match becomes the log's selection. Letters match
+// in either case. Escape closes the bar and gives the keyboard back to the log.
 //
 // Main thread only.
 
@@ -26,11 +26,12 @@ public:
     // Escape closes it from anywhere in `parent`. The log must outlive it.
     FindBar(LogTextView& log, QWidget* parent);
 
-    // Shows the bar and puts the keyboard into it. A word that is selected in the log is sought.
+    // Shows the bar and gives it the keyboard. A text that is selected within one row of the log
+    // becomes the text to find.
     void open();
     void close();
 
-    // Without anything to look for they open the bar instead.
+    // When there is no text to find, they open the bar instead.
     void findNext();
     void findPrevious();
 

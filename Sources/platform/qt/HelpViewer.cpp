@@ -1,7 +1,7 @@
 #include "platform/qt/HelpViewer.h"
 
 #include "platform/qt/PixelFrame.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QDir>
 #include <QEvent>
@@ -37,7 +37,7 @@ void HelpPageView::doSetSource(const QUrl& name, QTextDocument::ResourceType typ
 void HelpPageView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
-        reload(); // the colours of links are set while a page is read
+        reload(); // link colours are set while a page is read
     }
 }
 

@@ -1,8 +1,9 @@
 // The built-in viewer of the help: a window that shows the pages of one folder.
 //
 // It shows nothing else: a link that leads out of the folder does nothing, and nothing is fetched
-// from a network. It remembers nothing: closed and opened again it starts afresh. On the keyboard,
-// the window system's keys for back and forward, Alt+Home for the first page, Escape to close.
+// from a network. It remembers nothing: a viewer that is closed and opened again starts afresh.
+// Keys: the window system's keys for back and forward, Alt+Home for the first page, Escape to
+// close.
 //
 // Main thread only.
 
@@ -42,8 +43,8 @@ public:
     // `folder` holds the pages; the first of them is "index.html".
     explicit HelpViewer(const QString& folder, QWidget* parent = nullptr);
 
-    // Shows the page "`page`.html" and brings the window, titled with the page and `book`, to the
-    // front.
+    // Shows the page "`page`.html" and brings the window to the front. The window's title has the
+    // title of the page and `book`.
     void showPage(const QString& page, const QString& book);
 
 private:
@@ -53,7 +54,7 @@ private:
 
     QString _folder;
     QString _book;
-    HelpPageView* _pages; // owned by the window, like the buttons
+    HelpPageView* _pages; // the window owns it, and the buttons
 };
 
 } // namespace kx

@@ -1,4 +1,4 @@
-// Where the program's resources are: in share/kxconfig beside the folder of the program itself, so
+// The place of the program's resources: share/kxconfig beside the folder of the program itself, so
 // that a tree can be installed anywhere and moved. Needs a QCoreApplication.
 
 #pragma once
@@ -7,7 +7,7 @@
 
 namespace kx {
 
-// The folder, whether it exists or not.
+// The path of the folder. The folder need not exist.
 QString installedResourceFolder();
 
 } // namespace kx

@@ -1,7 +1,7 @@
-// The lines that the log's rows fall into at a width, counted from where one looks.
+// The lines into which the log's rows are broken at a width, counted from a given line.
 //
-// Nobody knows how many lines the whole text has: only rows on the way from one line to another are
-// laid out. Pure but for the layouts; both arguments must outlive it.
+// The number of lines in the whole text is not known: only the rows between two lines are laid out.
+// Pure, except for the layouts; both arguments must outlive the object.
 
 #pragma once
 
@@ -13,7 +13,7 @@ namespace kx {
 
 struct LogLine {
     std::size_t row = 0;
-    int line = 0; // within the row
+    int line = 0; // number of the line within the row
 
     auto operator<=>(const LogLine&) const = default;
 };
@@ -28,10 +28,11 @@ public:
 
     LogLine lineOf(std::size_t position) const;
 
-    // So many lines further down, or up when negative. Stops at the first and the last line.
+    // The line that is `lines` further down, or up when `lines` is negative. Stops at the first and
+    // the last line.
     LogLine moved(LogLine from, int lines) const;
 
-    // How many lines `to` is below `from`; `most` when it is further.
+    // The number of lines from `from` down to `to`, and at most `most`.
     int distance(LogLine from, LogLine to, int most) const;
 
 private:

@@ -24,7 +24,7 @@ std::size_t positionOf(const LogText::Row& row, qsizetype unit) {
 std::size_t forward(const LogText& text, std::size_t position, QTextLayout::CursorMode mode) {
     const LogText::Row row = text.row(text.rowAt(position));
     if (position == endOf(row)) {
-        return std::min(position + 1, text.size()); // over the line feed
+        return std::min(position + 1, text.size()); // step over the line feed
     }
     const QTextLayout layout(shownText(row.text));
     return positionOf(row, layout.nextCursorPosition(unitOf(row, position), mode));

@@ -1,5 +1,5 @@
-// Where the keyboard goes in the log, and what a click selects. Nothing here depends on how the
-// text is drawn: moves up and down are the view's.
+// Movements of the keyboard in the log, and the ranges that a click selects. Nothing here depends
+// on how the text is drawn; the view itself moves up and down.
 
 #pragma once
 
@@ -23,7 +23,7 @@ enum class LogMovement {
     endOfText
 };
 
-// The position after a movement. At the ends of the text it is the same one.
+// The position after a movement. At an end of the text the position stays the same.
 std::size_t movedPosition(const LogText& text, std::size_t position, LogMovement movement);
 
 enum class LogUnit { character, word, line };

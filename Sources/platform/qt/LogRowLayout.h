@@ -1,12 +1,13 @@
-// One row of the log as it is drawn: broken into as many lines as it needs in the given width.
+// One row of the log as it is drawn, broken into as many lines as it needs in the given width.
 //
-// Runs from left to right whatever its letters are, so that a foreign name cannot turn the row
-// around; what is written from right to left keeps its order inside. A character that would act on
-// the screen instead of showing up (controls, line separators, marks of direction) shows as a
-// replacement mark, so that a text from the network is harmless. A carriage return at the end of a
-// row, which ends most commands, shows as a blank.
+// A row runs from left to right whatever its letters are, so that a foreign name cannot turn the
+// row around. Text that is written from right to left keeps its order inside. A character that
+// would act on the screen instead of being visible (controls, line separators, marks of direction)
+// is shown as a replacement mark, so that a text from the network is harmless. A carriage return at
+// the end of a row, which ends most commands, is shown as a blank.
 //
-// Made for rows in sight only, and short-lived: the row must not change meanwhile.
+// Layouts are made for rows in sight only and live for a short time: the row must not change
+// meanwhile.
 
 #pragma once
 
@@ -19,14 +20,14 @@
 
 namespace kx {
 
-// How every row is laid out; lengths in pixels.
+// The layout that all rows share; lengths in pixels.
 struct LogLooks {
     QFont font;
     int lineHeight = 1;
-    qreal baseLine = 0; // below the top of a line
+    qreal baseLine = 0; // distance from the top of a line
     qreal tabStop = 1;
-    qreal blank = 1; // the width of one
-    qreal width = 1; // that lines have
+    qreal blank = 1; // the width of a blank
+    qreal width = 1; // the width of a line
 };
 
 // The text as it is drawn: as many UTF-16 units as the text has, some of them replaced.
@@ -45,17 +46,18 @@ public:
 
     int lineCount() const { return _layout.lineCount(); }
 
-    // The line that holds a position of the row. At a break it is the later one.
+    // The line that holds a position of the row. At a break this is the later of the two lines.
     int lineOf(std::size_t position) const;
 
-    // Marks what lies in the selection, the line feed included, as wide as a blank.
+    // Draws the row, and marks the part that lies in the selection. A selected line feed is marked
+    // as wide as a blank.
     void draw(QPainter& painter, QPointF corner, const Selection& selection);
 
-    // From the row's left edge, in pixels.
+    // The distance of a position from the row's left edge, in pixels.
     qreal xOf(std::size_t position) const;
 
-    // The position in a line that is nearest to so many pixels from the left edge, and the one
-    // before the character that lies there.
+    // The position in a line that is nearest to `x`, and the position before the character at `x`.
+    // `x` is the distance from the left edge in pixels.
     std::size_t positionAt(int line, qreal x) const;
     std::size_t characterAt(int line, qreal x) const;
 

@@ -1,6 +1,6 @@
 #include "platform/qt/LogSearch.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 namespace kx {
 
@@ -10,15 +10,15 @@ std::size_t bytesIn(QStringView text) {
     return static_cast<std::size_t>(text.toUtf8().size());
 }
 
-// Every letter in the case in which letters are compared, and as many units as before. The toolkit
-// compares in either case by itself, but Qt 6.8 then finds nothing that has a character of two
-// units in a long text.
+// The text with every letter in the case in which letters are compared, and with the same number of
+// units. The toolkit can compare in either case by itself. But Qt 6.8 then finds nothing when the
+// sought text has a character of two units and the searched text is long.
 QString folded(QString text) {
     QChar* const units = text.data();
     const qsizetype size = text.size();
     for (qsizetype i = 0; i < size; ++i) {
         const char16_t unit = units[i].unicode();
-        if (unit < 0x80) { // nearly all of a log: no table is asked
+        if (unit < 0x80) { // nearly all of a log: no table is needed
             if (unit >= u'A' && unit <= u'Z') {
                 units[i] = QChar(unit - u'A' + u'a');
             }
@@ -34,7 +34,8 @@ QString folded(QString text) {
     return text;
 }
 
-// A match may lie across two pieces: this much of the one is searched together with the other.
+// The end of one piece that is searched together with the next one, because a match may lie across
+// two pieces.
 QString tailOf(const QString& text, qsizetype units) {
     QString tail = text.right(units);
     return !tail.isEmpty() && tail.front().isLowSurrogate() ? tail.mid(1) : tail;

@@ -1,6 +1,6 @@
-// What a screen reader sees of the log view: a text of many lines that can be read and selected.
+// The log view as a screen reader sees it: a text of many lines that can be read and selected.
 //
-// Nothing is announced, and nothing is counted, while no assistive technology listens.
+// While no assistive technology listens, nothing is announced, and no characters are counted.
 
 #pragma once
 
@@ -10,13 +10,13 @@ namespace kx {
 
 class LogTextView;
 
-// Before the first view is made; again does nothing.
+// Call this before the first view is made. Further calls do nothing.
 void installLogTextAccessible();
 
-// The text from this position on is new.
+// Announces that the text from this position on is new.
 void announceInsertion(LogTextView& view, std::size_t from);
 
-// The text up to this position is about to go.
+// Announces that the text up to this position is about to be removed.
 void announceRemoval(LogTextView& view, std::size_t to);
 
 void announceSelection(LogTextView& view);

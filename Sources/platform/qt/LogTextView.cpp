@@ -1,7 +1,7 @@
 #include "platform/qt/LogTextView.h"
 
 #include "platform/qt/LogTextAccessible.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -20,10 +20,10 @@ namespace kx {
 
 namespace {
 
-// No screen that matters shows more frames, and no person misses one.
+// Common screens show no more frames, and no person misses one.
 constexpr int millisecondsOfFrame = 16;
 
-constexpr int margin = 4; // round the text, in pixels
+constexpr int margin = 4; // pixels round the text
 
 constexpr int columnsOfTab = 4;
 
@@ -68,7 +68,7 @@ QString LogTextView::toPlainText() const {
     return textBetween(0, _text.size());
 }
 
-// Piece by piece: no copy of a long text is needed beside Qt's own.
+// Goes piece by piece, so that a long text is copied only once, into Qt's form.
 QString LogTextView::textBetween(std::size_t from, std::size_t to) const {
     QString result;
     result.reserve(static_cast<qsizetype>(to - from));
@@ -125,8 +125,8 @@ void LogTextView::setSelection(std::size_t anchor, std::size_t caret) {
 
 // --- Frames ---
 
-// The first change after a rest is shown in the next turn of the loop, those that follow once in
-// the time of a frame.
+// The first change after a rest is shown in the next turn of the loop. Later changes are shown once
+// in the time of a frame.
 void LogTextView::frameIsBehind() {
     if (!_nextFrame.isActive()) {
         const qint64 since = _sinceFrame.isValid() ? _sinceFrame.elapsed() : millisecondsOfFrame;
@@ -169,7 +169,7 @@ void LogTextView::fitToFont() {
     fitToSize();
 }
 
-// A view that showed the end goes on doing so.
+// A view that showed the end still shows it afterwards.
 void LogTextView::fitToSize() {
     const bool showedEnd = _top == _lowestTop && _top != LogLine();
     _looks.width = std::max<qreal>(_looks.blank, viewport()->width() - 2 * margin);
@@ -181,12 +181,12 @@ void LogTextView::fitToSize() {
     viewport()->update();
 }
 
-// The bar counts rows. Its last step leads to the end, wherever in a row the view then begins.
+// The bar counts rows. Its last step leads to the end; the view may then begin inside a row.
 void LogTextView::fitScrollBar() {
     const LogLine last = _lines.lineOf(_text.size());
     _lowestTop = _lines.moved(last, 1 - linesInSight());
     const std::size_t maximum = _lowestTop.row + (_lowestTop.line > 0 ? 1 : 0);
-    const LogLine top = _top; // the bar may move, and the view with it
+    const LogLine top = _top; // the bar may move, and then moves the view
     verticalScrollBar()->setPageStep(linesInSight());
     verticalScrollBar()->setRange(0, static_cast<int>(maximum));
     setTop(top);

@@ -1,16 +1,16 @@
-// The view of the event log: fixed-width text that cannot be changed, but selected, copied and
-// searched. Lines too long for the view go on in the next one.
+// The view of the event log: fixed-width text that a person can select, copy and search, but not
+// change. A line too long for the view goes on in the next line of the view.
 //
-// Made for a log that grows fast and without limit. Appending costs what is appended; what is on
-// the screen follows in frames of its own, so it may lag the text by one frame, while whoever reads
-// the text reads all of it. Only the rows in sight are ever laid out, and the scroll bar counts
-// rows. At rest nothing wakes up.
+// The view is made for a log that grows fast and without limit. The cost of appending depends only
+// on the appended text. The screen follows in frames of its own, so it may be one frame behind the
+// text; the operations that read the text see all of it. Only the rows in sight are ever laid out,
+// and the scroll bar counts rows. At rest nothing wakes up.
 //
 // Selecting works as in the platform's text fields: drag, double click for words, triple click for
-// lines, Shift with a click or a movement key; what is selected becomes the primary selection where
-// the system has one. Text that arrives leaves the selection alone. A caret that is out of sight is
-// brought to the edge of what is in sight before a key moves it, so that the keyboard goes on from
-// what the person reads.
+// lines, Shift with a click or a movement key. The selected text becomes the primary selection
+// where the system has one. New text does not change the selection. When a key moves a caret that
+// is out of sight, the caret first comes to the edge of the text in sight, so that the keyboard
+// goes on from the place where the person reads.
 //
 // Main thread only.
 
@@ -38,16 +38,16 @@ public:
 
     void append(std::string_view text);
 
-    // The next frame shows the end of the text.
+    // Makes the next frame show the end of the text.
     void scrollToEnd();
 
-    // Whether the end of the text is in sight, in the frame that is shown.
+    // Whether the end of the text is in sight, in the frame on the screen.
     bool showsEnd() const;
 
-    // All of it, also what no frame has shown yet.
+    // All of the text, including the part that no frame has shown yet.
     QString toPlainText() const;
 
-    // What lies between two positions, in this order.
+    // The text between two positions; `from` comes first.
     QString textBetween(std::size_t from, std::size_t to) const;
     const LogText& text() const { return _text; }
 
@@ -61,19 +61,21 @@ public:
 
     void selectAll();
 
-    // Puts what is selected on the clipboard. Leaves the clipboard alone when nothing is.
+    // Puts the selected text on the clipboard. When nothing is selected, the clipboard does not
+    // change.
     void copy() const;
 
-    // Where the character after the position is, in the viewport. Empty when it is not in sight.
+    // The rectangle of the character after the position, in the viewport. Empty when the character
+    // is not in sight.
     QRect rectOf(std::size_t position) const;
 
     // The position nearest to a point of the viewport, which may lie outside.
     std::size_t positionAt(QPoint point) const;
 
-    // Scrolls as little as that needs.
+    // Scrolls the position into sight, by as little as possible.
     void showPosition(std::size_t position);
 
-    // How many lines fit into the view.
+    // The number of lines that fit into the view.
     int linesInSight() const;
 
 protected:
@@ -122,20 +124,20 @@ private:
 
     std::size_t _anchor = 0;
     std::size_t _caret = 0;
-    qreal _wantedX = -1; // that moves up and down keep to, negative after any other move
+    qreal _wantedX = -1; // moves up and down keep to it; negative after any other move
 
     LogLine _top;        // the first line in sight
-    LogLine _lowestTop;  // with the end of the text in sight, in the frame that is shown
-    int _wheelAngle = 0; // turned, and not yet scrolled by
+    LogLine _lowestTop;  // the top at which the frame on the screen shows the end of the text
+    int _wheelAngle = 0; // turned by the wheel and not yet scrolled
     bool _endIsWanted = false;
-    QBasicTimer _nextFrame; // runs while the frame shown is behind the text
+    QBasicTimer _nextFrame; // runs while the frame on the screen is behind the text
     QElapsedTimer _sinceFrame;
-    std::size_t _announced = 0; // up to this position, to assistive technology
+    std::size_t _announced = 0; // assistive technology knows the text up to this position
 
     LogUnit _dragUnit = LogUnit::character;
     LogRange _dragOrigin{0, 0};
     QPoint _dragPoint;
-    QBasicTimer _dragScroll; // runs while a drag is held outside
+    QBasicTimer _dragScroll; // runs while a drag is held outside the view
     QPoint _doubleClickPoint;
     QElapsedTimer _sinceDoubleClick;
 };

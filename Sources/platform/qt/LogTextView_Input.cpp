@@ -1,7 +1,7 @@
-// What a person does in the log view with the mouse and the keyboard.
+// A person's actions in the log view with the mouse and the keyboard.
 
 #include "platform/qt/LogTextView.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -83,7 +83,7 @@ bool LogTextView::pressMovementKey(const QKeyEvent& event) {
             _wantedX = wantedX;
             scrollBy(page);
             moveCaret(positionLinesFromCaret(each.lines + page), selects);
-            _wantedX = wantedX; // moving the caret has let go of it
+            _wantedX = wantedX; // moveCaret() has forgotten it
             return true;
         }
     }
@@ -94,7 +94,7 @@ qreal LogTextView::xOfCaret() const {
     return _lines.layOut(_text.rowAt(_caret)).xOf(_caret);
 }
 
-// Beyond the first and the last line the way leads to the end of the text on that side.
+// Beyond the first or the last line, this is the beginning or the end of the text.
 std::size_t LogTextView::positionLinesFromCaret(int lines) const {
     const LogLine from = _lines.lineOf(_caret);
     const LogLine to = _lines.moved(from, lines);

@@ -10,11 +10,11 @@
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
-#include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qtcore/QtText.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
 #include "units/UnitParameter.h"
@@ -138,7 +138,7 @@ const WindowDelegate* MainWindow::windowDelegate() const {
 }
 
 bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
-    // Scrolling the content must not choose another unit or port on the way.
+    // A wheel that scrolls the content must not choose another unit or port on the way.
     const auto* popUp = qobject_cast<QComboBox*>(watched);
     if (popUp != nullptr && event->type() == QEvent::Wheel && !popUp->hasFocus()) {
         event->ignore();
@@ -152,7 +152,7 @@ void MainWindow::changeEvent(QEvent* event) {
     if (event->type() == QEvent::PaletteChange) {
         keepEmptyStatesReadable();
     }
-    // Whoever comes back to the window may have configured an interface meanwhile.
+    // The person may have configured an interface before coming back to the window.
     if (event->type() == QEvent::ActivationChange && isActiveWindow() &&
         !_ui->interfacePopUp->isEnabled()) {
         perform(&KXConfigAppDelegate::interfacePopUpWillOpen);
@@ -164,8 +164,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     perform(&KXConfigAppDelegate::windowWillClose);
 }
 
-// Return presses the button that has the keyboard, sends the command being typed, and otherwise
-// presses the default button. Qt does so by itself in dialogues only.
+// Return presses the button that has the keyboard, or sends the command being typed. In all other
+// cases it presses the default button. Qt does so by itself in dialogues only.
 void MainWindow::keyPressEvent(QKeyEvent* event) {
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isPlain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
@@ -194,7 +194,7 @@ void MainWindow::connectButtons() {
 }
 
 void MainWindow::connectPopUps() {
-    // activated() is what the user does; a selection made by code does not emit it.
+    // The user's choice emits activated(); a selection made by code does not.
     const auto connectPopUp = [this](QComboBox* popUp, Action action) {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
@@ -224,7 +224,8 @@ void MainWindow::connectMenus() {
     connectToButton(_ui->sendOptionAction, _ui->sendOptionButton);
     connectToButton(_ui->restoreAction, _ui->restoreButton);
     connectToButton(_ui->helpAction, _ui->helpButton);
-    // With Alt, the viewer. Many desktops keep Alt+F1 and a click with Alt for themselves.
+    // With Alt, these open the viewer. Many desktops keep Alt+F1 and a click with Alt for
+    // themselves.
     _ui->helpAction->setShortcuts(
         {Qt::Key_F1, Qt::ALT | Qt::Key_F1, Qt::ALT | Qt::SHIFT | Qt::Key_F1});
     connect(_ui->eventLogAction, &QAction::triggered, this, [this] {
@@ -262,7 +263,7 @@ void MainWindow::connectTables() {
         }
     });
 
-    // The two tables read as one: their columns stay in line.
+    // The two tables look like one, so their columns stay in line.
     connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
             [editRow](int section, int, int width) {
                 if (section == 0) {
@@ -287,15 +288,15 @@ void MainWindow::giveTextsOfButtonsRoom() {
     }
 }
 
-// The scroll area around the content would otherwise ask for a small part of it only.
+// Without this, the scroll area around the content would ask for only a small part of its size.
 void MainWindow::fitToContent() {
-    _ui->content->layout()->activate(); // rows within rows would answer for the texts before
+    _ui->content->layout()->activate(); // inner rows would otherwise answer for the old texts
     _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
     const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
     resize(wanted.boundedTo(screen()->availableGeometry().size()));
 }
 
-// What an empty or disabled pop-up says is a message, not a faded choice.
+// The text of an empty or disabled pop-up is a message, not a faded choice.
 void MainWindow::keepEmptyStatesReadable() {
     QColor dimmed = palette().color(QPalette::Active, QPalette::ButtonText);
     dimmed.setAlphaF(0.65F);
@@ -309,7 +310,7 @@ void MainWindow::keepEmptyStatesReadable() {
     }
 }
 
-// An action that is asked for while another one runs, as under its alert, comes after it.
+// An action that is requested while another one runs, for example under its alert, runs after it.
 void MainWindow::perform(Action action) {
     _actions.push_back(action);
     if (_actions.size() > 1) {

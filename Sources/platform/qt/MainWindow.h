@@ -1,11 +1,11 @@
 // The main window: the controls of Resources/MainWindow.ui, wired to the controller.
 //
-// It owns every control, the adapters that the controller sees them through, and the table that
-// feeds the parameter table. It decides nothing of the application; what it adds is the desktop's
-// manners: keyboard, menus, empty states.
+// It owns every control, the adapters through which the controller uses them, and the table that
+// feeds the parameter table. It makes none of the application's decisions. It adds only what a
+// desktop expects: keyboard, menus, empty states.
 //
-// Threading: main thread only. Ownership: the controller is not owned and must be taken away again
-// with disconnectActions() before it is destroyed.
+// Threading: main thread only. Ownership: the window does not own the controller. Call
+// disconnectActions() before the controller is destroyed.
 
 #pragma once
 
@@ -32,14 +32,14 @@ public:
     explicit MainWindow(QWidget* parent = nullptr);
     ~MainWindow() override;
 
-    // The controls as the controller knows them. They live as long as the window.
+    // The controls, in the form that the controller knows. They live as long as the window.
     MainWindowOutlets outlets();
 
-    // From now on what the user does runs the controller's actions, closing the window included,
-    // and the edit row shows the controller's values.
+    // After this, the user's actions run the controller's actions, including the closing of the
+    // window, and the edit row shows the controller's values.
     void connectActions(KXConfigAppDelegate& controller);
 
-    // From now on nothing reaches the controller any more.
+    // After this, nothing reaches the controller.
     void disconnectActions();
 
     // The controller, while it is connected.
@@ -71,7 +71,7 @@ private:
     std::unique_ptr<Ui::MainWindow> _ui;
     std::unique_ptr<Controls> _controls;
     KXConfigAppDelegate* _controller = nullptr;
-    std::deque<Action> _actions; // the one that runs, and what was asked for since
+    std::deque<Action> _actions; // the running action, and the ones asked for since
 };
 
 } // namespace kx

@@ -10,7 +10,7 @@ NoteLabel::NoteLabel(QWidget* parent)
     setAlignment(Qt::AlignLeading | Qt::AlignTop);
 }
 
-// The width is the window's affair: no text makes it wider.
+// The window decides the width: no text makes the label wider.
 QSize NoteLabel::sizeHint() const {
     return {0, std::max(heightForWidth(width()), 2 * fontMetrics().lineSpacing())};
 }

@@ -1,8 +1,8 @@
-// A label for sentences of changing length, with room for two lines from the start: what stands
-// below it does not jump when a text comes or goes. Longer texts make it grow.
+// A label for sentences of changing length. It has room for two lines from the start, so that the
+// controls below it do not move when a text comes or goes. Longer texts make it grow.
 //
-// Its height follows from its width, but it does not tell layouts so: a scroll area gives a content
-// that says so the room that it would like to have, and not the little that it could do with.
+// Its height follows from its width, but it does not tell layouts so. If it did, a scroll
+// area would give its content the preferred height, and never the smaller height that is enough.
 
 #pragma once
 

@@ -1,7 +1,8 @@
-// A combo box that says when its list is about to open, so that the list can be brought up to date.
+// A combo box that tells when its list is about to open, so that the list can be brought up to
+// date.
 //
-// A press on it while it is disabled says so as well: what the list lacked may be there by now.
-// When whoever hears it enables the combo box, the list opens.
+// A press on the disabled combo box is told as well, because the missing items may be there by now.
+// When the receiver of the signal then enables the combo box, the list opens.
 
 #pragma once
 
@@ -15,11 +16,11 @@ class OpeningComboBox final : public QComboBox {
 public:
     using QComboBox::QComboBox;
 
-    // Does not open when nobody may choose any more.
+    // Does not open the list when the receiver of aboutToOpen() has disabled the combo box.
     void showPopup() override;
 
 signals:
-    // The items may be changed from inside.
+    // Sent before the list opens. The receiver may change the items.
     void aboutToOpen();
 
 protected:

@@ -11,13 +11,13 @@ namespace kx {
 
 namespace {
 
-// Wide enough for the longest name and a text of four address widths beside it.
+// Wide enough for the longest name beside a text of four address widths.
 constexpr int preferredCharacters = 72;
 
 } // namespace
 
-// Tells the view which cell is edited and every text that is typed, and a screen reader whose value
-// it is.
+// Tells the view which cell is edited, and every text that is typed. Tells a screen reader which
+// value is edited.
 class ParameterTableView::TypingDelegate final : public QStyledItemDelegate {
 public:
     explicit TypingDelegate(ParameterTableView& view)
@@ -113,7 +113,7 @@ QSize ParameterTableView::minimumSizeHint() const {
 
 void ParameterTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
-    // Not the current cell: an editor also closes because another cell became current.
+    // This is not the current cell: an editor also closes because another cell became current.
     emit textEdited(_editedCell.data().toString());
     if (hint == QAbstractItemDelegate::EditNextItem) {
         focusNextChild();
@@ -131,7 +131,7 @@ void ParameterTableView::changeEvent(QEvent* event) {
 }
 
 void ParameterTableView::focusInEvent(QFocusEvent* event) {
-    // Whoever comes by keyboard wants the cell that takes their typing, not the one beside it.
+    // A person who comes by keyboard wants the cell that takes their typing, not the one beside it.
     const QModelIndex cell = firstEditableCell();
     if (cell.isValid()) {
         setCurrentIndex(cell);
@@ -144,7 +144,7 @@ void ParameterTableView::keyPressEvent(QKeyEvent* event) {
     if (isReturn && event->modifiers().testFlag(Qt::ControlModifier)) {
         event->ignore();
     } else if (isReturn && state() == EditingState) {
-        event->accept(); // from the editor, which it closes
+        event->accept(); // it comes from the editor, which it closes
     } else if (isReturn && currentIndex().isValid()) {
         emit rowChosen();
     } else {

@@ -1,9 +1,9 @@
 // A table of parameters as the main window shows it: rows of name and value, sized in rows.
 //
-// Shows a short text in place of the cells while there is nothing in them, which is its description
-// for a screen reader too. Tab leaves the table, also out of an open editor, whose text it keeps.
-// Return and a double click choose a row (a table of text alone has no other use for them, and the
-// window's default button must not be pressed from inside a table).
+// While the cells are empty, the table shows a short text in their place; the text is also its
+// description for a screen reader. Tab leaves the table, also out of an open editor, and keeps the
+// editor's text. Return and a double click choose a row, because a table of text alone has no other
+// use for them. Return inside a table must not press the window's default button.
 
 #pragma once
 
@@ -20,7 +20,8 @@ class ParameterTableView final : public QTableView {
 public:
     explicit ParameterTableView(QWidget* parent = nullptr);
 
-    // The rows that the table wants to show, and the fewest that it is worth showing with.
+    // The number of rows that the table wants to show, and the smallest number that is still
+    // useful.
     int preferredRows() const { return _preferredRows; }
     void setPreferredRows(int rows);
     int minimumRows() const { return _minimumRows; }
@@ -43,8 +44,8 @@ public:
 signals:
     void rowChosen();
 
-    // The text in the open editor of a cell changed. An editor that closes tells the cell's text as
-    // it is then, so the last text told is always that of the cell.
+    // The text in the open editor of a cell changed. An editor that closes tells the text that the
+    // cell then has, so the last text told is always the text of the cell.
     void textEdited(const QString& text);
 
 protected slots:
@@ -67,7 +68,7 @@ private:
     int _preferredRows = 8;
     int _minimumRows = 4;
     QString _placeholderText;
-    QPersistentModelIndex _editedCell; // the one that the latest editor was opened in
+    QPersistentModelIndex _editedCell; // the cell in which the latest editor was opened
 };
 
 } // namespace kx

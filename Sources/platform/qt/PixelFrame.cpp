@@ -50,7 +50,7 @@ private:
 } // namespace
 
 void drawFrameOnPixels(QFrame& frame) {
-    new PixelFrame(frame); // which the frame owns
+    new PixelFrame(frame); // the frame owns it
 }
 
 } // namespace kx

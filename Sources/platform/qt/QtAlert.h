@@ -1,6 +1,6 @@
 // The alert outlet as a message box above a window. The window must outlive it.
 //
-// While the box stands Qt's event loop runs, so windows are painted. Callbacks of a QtRunLoop run
+// While the box is open, Qt's event loop runs, so windows are painted. Callbacks of a QtRunLoop run
 // too unless the caller holds them back (support/RunLoop.h).
 
 #pragma once

@@ -5,7 +5,7 @@
 namespace kx {
 
 void QtApplication::terminate() {
-    // Not quit(): that closes the windows first, and closing the window is what asks for the end.
+    // This is not quit(), which closes the windows first: closing the window asks for the end.
     QCoreApplication::exit(0);
 }
 

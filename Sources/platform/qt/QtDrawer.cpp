@@ -57,7 +57,7 @@ void QtDrawer::slide(DrawerState towards) {
     setState(towards);
     _animation.setDirection(opening ? QAbstractAnimation::Forward : QAbstractAnimation::Backward);
     if (_animation.state() == QAbstractAnimation::Running) {
-        return; // it turns round where it is
+        return; // it turns round at its present place
     }
     const int duration =
         _drawer.style()->styleHint(QStyle::SH_Widget_Animation_Duration, nullptr, &_drawer);

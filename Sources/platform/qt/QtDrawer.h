@@ -1,11 +1,11 @@
 // The drawer at the lower edge of the window.
 //
 // The drawer is a pane of a vertical splitter, below the window's content. Opening it makes the
-// window taller as far as the screen has room, and takes the rest from the content; closing gives
-// back what the window grew by. The user may drag the splitter; the height is kept for the next
-// time. What is in the drawer slides in and out within the time that the style gives to animations;
-// where that is none, or the window is not shown, the drawer opens and closes at once. The widgets
-// must outlive it.
+// window taller as far as the screen has room, and takes the rest from the content. Closing it
+// makes the window smaller by the height that it gained. The user may drag the splitter; the height
+// is kept for the next time. The content of the drawer slides in and out within the time that the
+// style gives to animations. When the style gives none, or the window is not shown, the drawer
+// opens and closes at once. The widgets must outlive it.
 
 #pragma once
 
@@ -19,8 +19,8 @@ namespace kx {
 
 class QtDrawer final : public Drawer {
 public:
-    // `splitter` has two panes: one around `content`, and `drawer`, whose only child `panel` is
-    // what slides. The drawer starts closed.
+    // `splitter` has two panes: one around `content`, and `drawer`. The only child of `drawer` is
+    // `panel`, which slides. The drawer starts closed.
     QtDrawer(QSplitter& splitter, QWidget& content, QWidget& drawer, QWidget& panel);
 
     void open() override;
@@ -44,8 +44,8 @@ private:
     QWidget& _panel;
     DrawerState _state = DrawerState::closed;
     std::function<void(DrawerState)> _stateAction;
-    QVariantAnimation _animation; // the part of the panel that is out, from 0 to 1
-    int _height;                  // that the drawer opens to
+    QVariantAnimation _animation; // visible part of the panel, from 0 to 1
+    int _height;                  // height of the open drawer
     int _grownBy = 0;             // the height that the window gained from opening
 };
 

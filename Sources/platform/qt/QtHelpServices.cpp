@@ -1,7 +1,7 @@
 #include "platform/qt/QtHelpServices.h"
 
 #include "platform/qt/HelpViewer.h"
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 #include "support/LocalizedText.h"
 
 #include <QDesktopServices>
@@ -20,8 +20,7 @@ namespace {
 constexpr int answerPatienceInMilliseconds = 3'000;
 
 // Whether the variable BROWSER names a program that can be run. It is a list of commands with ":"
-// between them, of which the desktop's opener tries one after the other. The opener passes over
-// itself.
+// between them. The desktop's opener tries them one after the other and passes over itself.
 bool environmentNamesABrowser() {
     const QStringList commands = qEnvironmentVariable("BROWSER").split(':');
     return std::ranges::any_of(commands, [](const QString& command) {
@@ -31,8 +30,8 @@ bool environmentNamesABrowser() {
     });
 }
 
-// The desktop's opener reports success also where it then finds no application, so its own register
-// is asked first. Where that cannot be asked, the opener may try.
+// The desktop's opener reports success even when it then finds no application. So the desktop's own
+// register is asked first. Where it cannot be asked, the opener may try.
 bool desktopKnowsABrowser() {
     if (environmentNamesABrowser()) {
         return true;

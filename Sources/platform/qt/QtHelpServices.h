@@ -1,5 +1,5 @@
-// Help through the desktop: the page in whatever application the desktop opens web pages with, or
-// the built-in viewer. Needs a QApplication, which must outlive it.
+// Help through the desktop: the page opens in the application that the desktop uses for web pages,
+// or in the built-in viewer. Needs a QApplication, which must outlive it.
 
 #pragma once
 
@@ -14,7 +14,7 @@ class HelpViewer;
 
 class QtHelpServices final : public HelpServices {
 public:
-    // `resourceFolder` is the folder of the program's resources, in which the pages are the folder
+    // `resourceFolder` is the folder of the program's resources. The pages are in its folder
     // "homepage".
     explicit QtHelpServices(QString resourceFolder);
     ~QtHelpServices() override; // closes the viewer
@@ -29,7 +29,7 @@ public:
 private:
     QString _resourceFolder;
     std::unique_ptr<HelpViewer>
-        _viewer; // null until it is first needed; one that was closed is made anew
+        _viewer; // null until it is first needed; a viewer that was closed is made anew
 };
 
 } // namespace kx

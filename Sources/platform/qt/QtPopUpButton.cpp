@@ -1,7 +1,7 @@
 #include "platform/qt/QtPopUpButton.h"
 
-#include "platform/qt/QtText.h"
 #include "platform/qt/UniformListView.h"
+#include "platform/qtcore/QtText.h"
 
 #include <algorithm>
 #include <functional>
@@ -15,10 +15,11 @@ namespace kx {
 
 namespace {
 
-// More than fit on a screen.
+// More titles than fit on a screen.
 constexpr int longList = 80;
 
-// The list of a combo box that opens like a menu measures every title first.
+// The list of a combo box that opens like a menu measures every title first, so long lists do not
+// open in this way.
 class ScrollingListStyle final : public QProxyStyle {
 public:
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
@@ -31,12 +32,12 @@ public:
     }
 };
 
-// Each title comes after the one before it, and so differs from every other one.
+// Whether each title comes after the one before it. No two titles are then equal.
 bool isAscending(const TitleList& titles) {
     return std::ranges::adjacent_find(titles, std::ranges::greater_equal()) == titles.end();
 }
 
-// The last one of equal titles is the one that stays.
+// The titles without repetitions. The last of several equal titles stays.
 TitleList withoutRepetitions(const TitleList& titles) {
     std::vector<std::string_view> kept;
     std::unordered_set<std::string_view> known;
@@ -50,7 +51,7 @@ TitleList withoutRepetitions(const TitleList& titles) {
     return list;
 }
 
-// Both lists are in order as a rule, and then compared in one pass.
+// Both lists are usually in order, and are then compared in one pass.
 TitleList joined(const TitleList& titles, const TitleList& added, bool areAscending) {
     TitleList all;
     all.reserve(titles.size() + added.size(), titles.bytes() + added.bytes());
@@ -111,7 +112,7 @@ int QtPopUpButton::indexOf(std::string_view title) const {
 }
 
 void QtPopUpButton::showTitles(TitleList titles, bool areAscending, std::string_view selected) {
-    _indexOfTitle.clear(); // it looks into the titles that go
+    _indexOfTitle.clear(); // it refers to the old titles
     _model.setTitles(std::move(titles));
     _isAscending = areAscending;
     if (!_isAscending) {
@@ -127,7 +128,7 @@ void QtPopUpButton::showTitles(TitleList titles, bool areAscending, std::string_
 
 void QtPopUpButton::prepareForLongList() {
     if (_styleOfLongList == nullptr) {
-        _comboBox.hidePopup(); // the list that may be open is about to be another
+        _comboBox.hidePopup(); // an open list would show the old titles
         _styleOfLongList = std::make_unique<ScrollingListStyle>();
         _comboBox.setStyle(_styleOfLongList.get());
         _comboBox.setView(new UniformListView);

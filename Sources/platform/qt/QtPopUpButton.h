@@ -1,9 +1,9 @@
 // A pop-up button over a combo box, with the rules of Outlets.h.
 //
-// Takes over the items that the interface description gave the combo box, and keeps the one
-// selected that was. From then on the items belong to this object: nobody else changes them. The
+// The object takes over the items that the interface description gave the combo box, and keeps the
+// selected one selected. The items then belong to this object: no other code may change them. The
 // combo box must outlive it. Costs grow with the number of titles, not with its square. A list that
-// no screen could show at once opens as one that scrolls, without a look at every title.
+// is longer than any screen opens as a scrolling list, and Qt does not visit every title.
 
 #pragma once
 
@@ -41,7 +41,7 @@ private:
     std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
 
     bool _isAscending = true;
-    std::unordered_map<std::string_view, int> _indexOfTitle; // empty while they are ascending
+    std::unordered_map<std::string_view, int> _indexOfTitle; // empty while titles are ascending
 };
 
 } // namespace kx

@@ -10,7 +10,8 @@ namespace kx {
 
 namespace {
 
-// Lets a click below the rows select none. Newer versions of the toolkit keep the selection then.
+// Makes a click below the rows select no row. Newer versions of the toolkit keep the selection
+// then.
 class ClicksBelowRows final : public QObject {
 public:
     explicit ClicksBelowRows(QTableView& view)
@@ -38,8 +39,8 @@ private:
 QtTableView::QtTableView(QTableView& view, std::vector<QtTableColumn> columns)
     : _view(view)
     , _model(std::move(columns)) {
-    // Connected before the view hears of it: when the current row goes, the view would select
-    // another one in its place.
+    // Connected before the view connects: when the current row goes, the view would select another
+    // row in its place.
     QObject::connect(&_model, &QAbstractItemModel::rowsAboutToBeRemoved, &_model,
                      [this](const QModelIndex&, int first) {
                          if (_view.currentIndex().row() >= first || selectedRow() >= first) {
@@ -49,7 +50,7 @@ QtTableView::QtTableView(QTableView& view, std::vector<QtTableColumn> columns)
     view.setModel(&_model);
     view.setSelectionBehavior(QAbstractItemView::SelectRows);
     view.setSelectionMode(QAbstractItemView::SingleSelection);
-    new ClicksBelowRows(view); // belongs to the view
+    new ClicksBelowRows(view); // the view owns it
     QObject::connect(view.selectionModel(), &QItemSelectionModel::selectionChanged, &_model,
                      [this] {
                          if (!_reloading && _selectionAction) {

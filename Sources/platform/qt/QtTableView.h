@@ -1,7 +1,7 @@
 // A table view outlet over Qt's table widget.
 //
-// Makes the widget a list of rows: one row can be selected, cells of editable columns can be typed
-// into. The widget must outlive it; so must the data source, or be taken away first.
+// It makes the widget a list of rows: one row can be selected, and cells of editable columns can be
+// edited. The widget must outlive it. The data source must outlive it too, or be taken away first.
 
 #pragma once
 
@@ -20,7 +20,8 @@ public:
     // Null takes the data source away. The table then has no rows.
     void setDataSource(TableViewDataSource* dataSource);
 
-    // Runs when the user selects another row or none, not when a reload drops the selection.
+    // Sets the action that runs when the user selects another row or none. A reload that drops the
+    // selection does not run it.
     void setSelectionAction(std::function<void()> action);
 
     void reloadData() override;

@@ -1,6 +1,6 @@
 #include "platform/qt/QtTextLabel.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 namespace kx {
 

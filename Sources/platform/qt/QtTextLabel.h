@@ -1,4 +1,4 @@
-// A text label over a label of the window, whose changes a screen reader says. The widget must
+// A text label over a label of the window. A screen reader says its changes. The widget must
 // outlive it.
 
 #pragma once
@@ -10,7 +10,7 @@ namespace kx {
 
 enum class EmptyLabel {
     keepsItsPlace,
-    isHidden, // and takes no place; for what there is seldom something to say about
+    isHidden, // takes no place when empty, for labels that are seldom needed
 };
 
 class QtTextLabel final : public TextLabel {

@@ -11,14 +11,15 @@ bool QtWindow::makeFirstResponder() {
 }
 
 void QtWindow::endEditing() {
-    // An open cell editor is a child of its view's viewport. Asking for it there finds it also when
-    // the window is not the active one, in which no editor has the application's focus.
+    // An open cell editor is a child of its view's viewport. A search there finds it even when the
+    // window is not the active one. The application's focus would not: in such a window no editor
+    // has it.
     for (QAbstractItemView* view : _window.findChildren<QAbstractItemView*>()) {
         const auto editors =
             view->viewport()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
         for (QWidget* editor : editors) {
             if (editor->isHidden()) {
-                continue; // closed, and deleted only by the next turn of the event loop
+                continue; // it is closed; the next turn of the event loop deletes it
             }
             QAbstractItemDelegate* delegate = view->itemDelegate();
             emit delegate->commitData(editor);

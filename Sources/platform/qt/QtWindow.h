@@ -13,8 +13,8 @@ public:
     explicit QtWindow(QWidget& window)
         : _window(window) {}
 
-    // Ends the edit in progress, which Qt's editors never refuse, and leaves the keyboard focus
-    // with the table that was edited: a person on the keyboard keeps their place.
+    // Ends the edit in progress, which Qt's editors never refuse. The keyboard focus stays with the
+    // table that was edited, so that a person on the keyboard keeps their place.
     bool makeFirstResponder() override;
 
     void endEditing() override;

@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-// Longer than the pause between two keys of somebody who types.
+// Longer than the pause between two keys of a person who types.
 constexpr int millisecondsOfRest = 500;
 
 class SpokenLabelAccessible final : public QAccessibleWidget {

@@ -1,8 +1,8 @@
-// A label whose text a screen reader says when it changes, wherever the keyboard is.
+// A label whose text a screen reader says when it changes, wherever the keyboard focus is.
 //
-// To assistive technology it is a notification, and each text that has stood for half a second is
-// announced as one that has just appeared: a text that changes at every key that is typed is said
-// when the typing rests. An empty text is not announced. While nobody listens nothing wakes up.
+// Assistive technology sees the label as a notification. Each text that has stood for half a second
+// is announced as a new notification, so a text that changes at every key is said when the typing
+// rests. An empty text is not announced. While no assistive technology listens, nothing wakes up.
 //
 // Main thread only.
 
@@ -19,8 +19,8 @@ class SpokenLabel : public QLabel {
 public:
     explicit SpokenLabel(QWidget* parent = nullptr);
 
-    // Shows the text, as it is and not as markup. A text that stands there already is not said
-    // again, unless it has been taken away in between.
+    // Shows the text as it is and not as markup. A text that is shown already is not said again,
+    // unless it was removed in between.
     void say(const QString& text);
 
 protected:

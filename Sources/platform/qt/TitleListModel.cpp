@@ -1,6 +1,6 @@
 #include "platform/qt/TitleListModel.h"
 
-#include "platform/qt/QtText.h"
+#include "platform/qtcore/QtText.h"
 
 #include <algorithm>
 #include <utility>

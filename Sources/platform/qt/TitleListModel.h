@@ -1,5 +1,5 @@
-// The titles of a pop-up as a model: texts in UTF-8, each turned into Qt's form when it is looked
-// at, so that a long list costs no more than itself. Main thread only.
+// The titles of a pop-up as a model. A title is kept in UTF-8 and turned into Qt's form each time
+// it is read, so a long list needs no second copy of its texts. Main thread only.
 
 #pragma once
 
@@ -17,8 +17,8 @@ public:
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
 
-    // As the base class has it; what a person types into a list is found without a text of Qt's for
-    // each title on the way.
+    // Gives the result of the base class. It makes no Qt text for each title, so it finds the text
+    // that a person types into a list faster.
     QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                           Qt::MatchFlags flags) const override;
 

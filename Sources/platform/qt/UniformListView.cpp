@@ -38,7 +38,7 @@ void UniformListView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     }
 }
 
-// There is none: a row's place follows from its number.
+// There is no layout: the place of a row follows from its number.
 void UniformListView::doItemsLayout() {
     QAbstractItemView::doItemsLayout(); // NOLINT(bugprone-parent-virtual-call)
 }

@@ -1,8 +1,8 @@
-// A list whose rows are all of one height, that of the first with some air: whatever its length,
-// only the rows in sight are looked at. For the long lists of pop-ups.
+// A list whose rows all have the height of the first row and a margin. However long it is, only the
+// rows in sight are visited. It is made for the long lists of pop-ups.
 //
-// It is a list view for the sake of screen readers; the list view's own layout, which visits every
-// row, is passed over. Main thread only.
+// It derives from the list view for the sake of screen readers. It passes over the list view's own
+// layout, which visits every row. Main thread only.
 
 #pragma once
 

@@ -11,7 +11,7 @@ namespace kx {
 
 namespace {
 
-// Lets a number of allocations pass, then has no memory.
+// Lets a number of allocations pass, and then has no more memory.
 class LimitedMemory final : public std::pmr::memory_resource {
 public:
     explicit LimitedMemory(int allocations)
@@ -56,7 +56,7 @@ protected:
     std::unique_ptr<ConfigurationChangeSource> sourceRef;
 };
 
-// The line of a broken contract of the setup.
+// The log line of a broken contract of the setup.
 std::string brokenSetup(const std::string& escapedExpression) {
     return "Assertion failed: \\(" + escapedExpression +
            "\\), function .*CreateIPAddressListChangeCallbackSCF.*, "

@@ -1,4 +1,4 @@
-// The test doubles of the host's configuration keep the contracts of what they stand for.
+// The test doubles of the host's configuration keep the contracts of the seams that they stand for.
 
 #include "ConfigurationFixture.h"
 #include "contracts/ConfigurationStoreContract.h"

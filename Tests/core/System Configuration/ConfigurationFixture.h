@@ -32,7 +32,7 @@ inline void setServiceInterface(MemoryConfigurationStore& store, const std::stri
     store.setValue("Setup:/Network/Service/" + serviceID + "/Interface", interface);
 }
 
-// The interface record of a service that is no dial-up.
+// The interface record of a service that is not a dial-up.
 inline PropertyDictionary ethernet(const std::string& userName, const std::string& deviceName) {
     return {{"Type", "Ethernet"}, {"UserDefinedName", userName}, {"DeviceName", deviceName}};
 }

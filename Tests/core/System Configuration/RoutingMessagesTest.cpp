@@ -27,8 +27,8 @@ ByteView firstMessage(const Builder& builder) {
     return routingMessages(builder.bytes()).at(0);
 }
 
-// Everything that can be read from a list is read; the guard behind the bytes catches whatever
-// goes beyond them.
+// Reads everything that can be read from a list. The guard behind the bytes catches every read
+// beyond them.
 std::size_t readAll(ByteView bytes) {
     const GuardedBytes guarded(bytes);
     std::size_t messages = 0;
@@ -247,7 +247,7 @@ TEST(AddressMessage, OtherTypesAndTruncatedMessagesAreNone) {
     const Builder whole = Builder().address(0x0A000005U, 0xFFFFFF00U);
     const Builder::Buffer body(whole.bytes().begin() + 4, whole.bytes().end());
     EXPECT_FALSE(addressMessage(firstMessage(Builder().message(13, body))).has_value());
-    // The last eight bytes of a socket address are not looked at.
+    // The last eight bytes of a socket address are ignored.
     for (std::size_t length = 0; length + 8 < body.size(); ++length) {
         const Builder::Buffer cut(body.begin(), body.begin() + static_cast<long>(length));
         EXPECT_FALSE(addressMessage(firstMessage(Builder().message(12, cut))).has_value())

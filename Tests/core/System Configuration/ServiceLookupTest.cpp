@@ -1,4 +1,4 @@
-// From names to services and back, and the location sets.
+// Look-ups from names to services and back, and the location sets.
 
 #include "ConfigurationFixture.h"
 

@@ -84,7 +84,7 @@ TEST_F(SharedInstance, KernelInterfacesNeverMakeTheNetworkReady) {
 // --- Contracts ---
 
 TEST(SharedInstanceDeathTest, SourcesMustBeInstalledBeforeFirstUse) {
-    // In a process of its own, in which no other test has installed any.
+    // Runs in a process of its own, in which no other test has installed sources.
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     EXPECT_DEATH(SystemConfiguration::sharedInstance(),
                  "\\(sources != NULL\\), function .*sharedInstance.*, "

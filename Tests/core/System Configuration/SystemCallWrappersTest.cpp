@@ -13,7 +13,7 @@ namespace kx {
 
 namespace {
 
-// What the alarm's handler does to the pipe, so that the call that it interrupts can end.
+// The descriptor to which the alarm's handler writes, so that the interrupted call can end.
 int alarmDescriptor = -1;
 volatile std::sig_atomic_t alarmCount = 0;
 
@@ -23,7 +23,7 @@ void ringOnce() {
     ASSERT_EQ(::setitimer(ITIMER_REAL, &timer, nullptr), 0);
 }
 
-// The first alarm only interrupts; the second one lets the call succeed.
+// The first alarm only interrupts. The second one lets the call succeed.
 void interruptThenWrite(int /*signal*/) {
     alarmCount = alarmCount + 1;
     if (alarmCount == 1) {

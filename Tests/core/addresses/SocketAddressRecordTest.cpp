@@ -11,7 +11,8 @@ namespace {
 constexpr std::uint32_t untouchedAddress = 0xDEADBEEFU;
 constexpr std::uint16_t untouchedPort = 0xABCD;
 
-// What addressForData() made of a record; the fields start with values that it would not write.
+// The results of addressForData() for a record. The fields start with values that it would not
+// write.
 struct TakenApart {
     std::uint32_t address = untouchedAddress;
     IPv6Octets address6{0xEE};

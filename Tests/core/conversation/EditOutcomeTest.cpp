@@ -92,7 +92,7 @@ TEST(EditOutcome, IsOfItsUnitAlone) {
     EXPECT_EQ(withoutUnit.state(), EditState::pending);
 }
 
-// An acknowledgement may be that of an earlier command, and a reply that of an earlier request.
+// An acknowledgement may belong to an earlier command, and a reply to an earlier request.
 TEST(EditOutcome, ACommandThatWasNotSentIsNeitherAcceptedNorShown) {
     EditOutcome outcome(editOf(unitID, "7"), {.serialNumber = editedUnit, .valueBefore = "42"},
                         SendFailure{posixError(ENETUNREACH)});

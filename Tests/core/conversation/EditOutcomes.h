@@ -1,4 +1,4 @@
-// Edits of the sample unit, and what it says of itself.
+// Edits of the sample unit, and the unit's replies.
 
 #pragma once
 
@@ -24,7 +24,7 @@ inline EditOutcome outcomeOf(UnitParameter parameter, std::string_view typed,
         {.serialNumber = editedUnit, .hardwareAddress = editedUnitsAddress, .valueBefore = before}};
 }
 
-// Parameters of the unit, of which this one has the value.
+// Parameters of the unit, with this value for one of them.
 inline UnitRecord recordWith(UnitParameter parameter, std::string_view value) {
     UnitRecord record;
     record.setValue(UnitParameter::internalMACAddress, editedUnitsAddress);

@@ -56,7 +56,7 @@ TEST(LabelledNames, WithoutAColonTheKeyIsTheWholeText) {
 
 TEST(LabelledNames, TheFirstColonAndTheLastBracketCount) {
     EXPECT_EQ(compareStringForCID("Desk:5:55 [work] [mobile]"), "Desk04");
-    EXPECT_EQ(compareStringForCID("[work]:555"), "[work]01"); // the only bracket is before it
+    EXPECT_EQ(compareStringForCID("[work]:555"), "[work]01"); // its bracket is before the colon
 }
 
 TEST(LabelledNames, LabelsAreThoseOfTheUsersLanguage) {
@@ -68,8 +68,8 @@ TEST(LabelledNames, LabelsAreThoseOfTheUsersLanguage) {
     EXPECT_EQ(compareStringForCID("Desk:555 [mobile]"), "Desk04"); // no label is empty
 }
 
-// A translation whose text for "home" is no beginning of its "home fax" reaches the later rank; the
-// program's own translations have none.
+// A translation whose text for "home" is no beginning of its text for "home fax" can reach the
+// later rank. The program's own translations have no such text.
 TEST(LabelledNames, TheFirstLabelThatFitsGivesTheRank) {
     InstalledTranslations translations;
     translations.source.setTranslation("home fax", "Fax (privat)");

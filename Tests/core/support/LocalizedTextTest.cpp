@@ -14,7 +14,7 @@ public:
     }
 };
 
-// Leaves the process's source as it found it.
+// Restores the process's earlier source at its end.
 class InstalledText {
 public:
     explicit InstalledText(const LocalizedText* source)

@@ -19,7 +19,7 @@ std::string coded(const PropertyListValue& value) {
     return {encoder.bytes().begin(), encoder.bytes().end()};
 }
 
-// The one object that `bytes` hold, absent also when bytes follow it.
+// The one object that `bytes` hold. Absent also when other bytes follow it.
 std::optional<PropertyListValue> decoded(std::string_view bytes) {
     PropertyListDecoder decoder(bytesOfText(bytes));
     auto value = decoder.decodeObject();
@@ -150,7 +150,7 @@ TEST(PropertyListCoding, ForeignBytesAreRefused) {
     }
 }
 
-// Each kind of object with the end of another, and with every byte that is none.
+// Each kind of object with the end of another kind, and with every byte that ends no object.
 TEST(PropertyListCoding, ANumberEndsWithTheCharacterOfItsKindAndNoOther) {
     const std::pair<std::string, std::string> objects[] = {
         {"t1", "a"}, {"i12", ""}, {"l1", "i1;"}, {"d1", "t1:ai1;"}, {"l1:i1", ""}, {"t0", ""}};
@@ -163,7 +163,7 @@ TEST(PropertyListCoding, ANumberEndsWithTheCharacterOfItsKindAndNoOther) {
     }
 }
 
-// The end of one number is not looked for in the next object.
+// The decoder does not search the next object for the end of a number.
 TEST(PropertyListCoding, ANumberWithoutItsEndIsRefusedWhateverFollows) {
     for (const char* bytes : {"i1", "i12", "t0", "l0", "d0", "l1:i1", "i1t1:a", "i1 2;",
                               "t1ai1;:", "l1i1;:", "i12i3;", "d0i1:", "t0t0:"}) {

@@ -77,11 +77,11 @@ TEST(PropertyListValue, WhatWasMovedFromIsTheEmptyText) {
     PropertyListValue source = list();
     PropertyListValue target = std::move(source);
     EXPECT_EQ(target, list());
-    EXPECT_EQ(source, PropertyListValue()); // NOLINT(bugprone-use-after-move): what is tested
+    EXPECT_EQ(source, PropertyListValue()); // NOLINT(bugprone-use-after-move): tested here
     PropertyListValue other;
     other = std::move(target);
     EXPECT_EQ(other, list());
-    EXPECT_EQ(target, PropertyListValue()); // NOLINT(bugprone-use-after-move): what is tested
+    EXPECT_EQ(target, PropertyListValue()); // NOLINT(bugprone-use-after-move): tested here
 }
 
 TEST(PropertyListValue, MayBeAssignedAnElementOfItself) {

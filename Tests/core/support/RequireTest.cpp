@@ -15,7 +15,7 @@
 namespace kx {
 namespace {
 
-// A contract as modules state it, with the place of the check to compare the report with.
+// A contract as modules state it. Returns the place of the check, to compare the report with it.
 std::source_location checkPort(int port) {
     const auto here = std::source_location::current();
     require(port > 0, "(port > 0) && (port < 65536)", "Sources/UDPEcho");

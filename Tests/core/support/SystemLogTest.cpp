@@ -12,7 +12,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-// Whatever was the process's log is out of the way while this lives.
+// Removes the process's log for its own lifetime.
 class NoSystemLog {
 public:
     NoSystemLog()

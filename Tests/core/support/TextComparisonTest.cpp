@@ -37,7 +37,7 @@ TEST(TextComparison, BothSmallFormsOfAGreekLetterAreEqual) {
 
 TEST(TextComparison, NoLanguagesOwnRulesApply) {
     expectCaseInsensitive(same, "I", "i");
-    expectCaseInsensitive(different, "ı", "i"); // not Turkish
+    expectCaseInsensitive(different, "ı", "i"); // Turkish rules do not apply
     expectCaseInsensitive(different, "İ", "i");
     expectCaseInsensitive(same, "İ", "i̇");
 }
@@ -55,18 +55,18 @@ TEST(TextComparison, CanonicallyEquivalentTextsAreEqual) {
     expectCaseInsensitive(same, "É", "e\u0301");
     expectCaseInsensitive(same, "각", "\u1100\u1161\u11A8");
     expectCaseInsensitive(same, "가", "\u1100\u1161");
-    expectCaseInsensitive(same, "\u212B", "å"); // the sign of the unit
+    expectCaseInsensitive(same, "\u212B", "å"); // U+212B is the sign of the unit
     EXPECT_EQ(compareTexts("é", "e\u0301"), std::weak_ordering::equivalent);
     EXPECT_EQ(compareTexts("힣", "\u1112\u1175\u11C2"), std::weak_ordering::equivalent);
 }
 
 TEST(TextComparison, TheOrderOfIndependentMarksDoesNotCount) {
-    expectCaseInsensitive(same, "a\u0323\u0302", "a\u0302\u0323"); // below and above
+    expectCaseInsensitive(same, "a\u0323\u0302", "a\u0302\u0323"); // one mark is below, one above
     expectCaseInsensitive(same, "ậ", "A\u0302\u0323");
-    expectCaseInsensitive(different, "a\u0301\u0300", "a\u0300\u0301"); // both above: they stack
+    expectCaseInsensitive(different, "a\u0301\u0300", "a\u0300\u0301"); // both above: order counts
 }
 
-// The iota below a letter becomes a letter of its own, behind every other mark.
+// The iota below a letter folds to a letter of its own, behind every other mark.
 TEST(TextComparison, AMarkThatFoldsToALetterIsOrderedBeforehand) {
     expectCaseInsensitive(same, "α\u0345\u0301", "ΆΙ");
     expectCaseInsensitive(same, "ᾴ", "άι");
@@ -90,7 +90,7 @@ TEST(TextComparison, TheOrderIsThatOfTheCharacters) {
     EXPECT_EQ(compareTexts("", "a"), std::weak_ordering::less);
     EXPECT_EQ(compareTexts("B", "a"), std::weak_ordering::less); // case counts
     EXPECT_EQ(compareTexts("10", "9"), std::weak_ordering::less);
-    EXPECT_EQ(compareTexts("é", "f"), std::weak_ordering::less); // by its letter, not its number
+    EXPECT_EQ(compareTexts("é", "f"), std::weak_ordering::less); // the letter, not its number
     EXPECT_EQ(compareTexts("e", "é"), std::weak_ordering::less);
     EXPECT_EQ(compareTexts("z", "я"), std::weak_ordering::less);
     EXPECT_EQ(compareTexts("\U00010400", "\uFFFD"), std::weak_ordering::greater);
@@ -111,7 +111,7 @@ TEST(TextComparison, ABeginningIsFoundWhateverItsCase) {
 TEST(TextComparison, ABeginningEndsWhereACharacterEnds) {
     EXPECT_FALSE(caseInsensitiveBeginsWith("é", "e"));
     EXPECT_FALSE(caseInsensitiveBeginsWith("e\u0301", "e"));
-    EXPECT_FALSE(caseInsensitiveBeginsWith("ß", "s")); // half of what it folds to
+    EXPECT_FALSE(caseInsensitiveBeginsWith("ß", "s")); // "ß" folds to two letters
     EXPECT_TRUE(caseInsensitiveBeginsWith("ee\u0301", "e"));
 }
 

@@ -144,7 +144,7 @@ TEST(TextLength, CountsUTF16Units) {
     EXPECT_EQ(lengthInCharacters("\xE2\x82\xAC"), 1U);         // U+20AC
     EXPECT_EQ(lengthInCharacters("\xEF\xBF\xBF"), 1U);         // U+FFFF
     EXPECT_EQ(lengthInCharacters("\xF0\x90\x80\x80"), 2U);     // U+10000, a surrogate pair
-    EXPECT_EQ(lengthInCharacters("a\xF0\x9F\x98\x80\xC3"), 4U) // and a byte that is no text
+    EXPECT_EQ(lengthInCharacters("a\xF0\x9F\x98\x80\xC3"), 4U) // plus a stray byte
         << "one unit, a pair, one unit for the stray byte";
 }
 

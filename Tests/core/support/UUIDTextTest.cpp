@@ -35,7 +35,7 @@ TEST(UUIDText, NoTwoAreEqual) {
     EXPECT_EQ(texts.size(), 1000U);
 }
 
-// That one of the free digits is the same 200 times by chance has not happened anywhere yet.
+// It is practically impossible that one of the free digits is the same 200 times by chance.
 TEST(UUIDText, EveryFreeDigitVaries) {
     std::array<std::set<char>, 36> seen;
     for (int count = 0; count < 200; ++count) {

@@ -89,7 +89,7 @@ TEST(GXArrayTable, SetTableDictionarySortsTheEntriesByTheirOwnKeys) {
     EXPECT_EQ(*table.tableArray(), (EntryArray{first, second}));
 }
 
-// Under other keys than the entries' own, and in another order.
+// Dictionaries under other keys than the entries' own, and in another order.
 DictionaryOfDictionaries foreignKeys() {
     return {{"1", KeyedEntry::named("b")->nodeDictionary()},
             {"2", KeyedEntry::named("a")->nodeDictionary()}};

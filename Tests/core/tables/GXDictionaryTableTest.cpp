@@ -12,7 +12,7 @@
 namespace kx {
 namespace {
 
-// Rows in descending key order, through the cache that the base class drops.
+// Has its rows in descending key order, through the cache that the base class drops.
 class DescendingTable final : public GXDictionaryTable {
 public:
     bool hasSortedKeys() const { return sortedKeys.has_value(); }
@@ -115,7 +115,7 @@ TEST(GXDictionaryTable, RemovalDropsTheSortedKeys) {
     addNames(table, {"a", "b", "c"});
 
     table.sortKeys();
-    table.removeObject(KeyedEntry::named("a")); // by key: another entry will do
+    table.removeObject(KeyedEntry::named("a")); // removes by key, so any entry with the key will do
     EXPECT_EQ(table.objectForKey("a"), nullptr);
     EXPECT_FALSE(table.hasSortedKeys());
 
@@ -210,7 +210,7 @@ TEST(GXDictionaryTable, DictionaryOfDictionariesUsesTheEntriesOwnKeys) {
               (DictionaryOfDictionaries{{"own", entry->nodeDictionary()}}));
 }
 
-// Under other keys than the entries' own.
+// Dictionaries under other keys than the entries' own.
 DictionaryOfDictionaries foreignDictionaries() {
     return {{"1", KeyedEntry::named("b")->nodeDictionary()},
             {"2", KeyedEntry::named("a")->nodeDictionary()}};

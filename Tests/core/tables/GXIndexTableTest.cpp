@@ -13,7 +13,7 @@
 namespace kx {
 namespace {
 
-// A table with a class of its own, to see which class a copy is of.
+// A subclass that shows which class a copy has.
 class OtherTable final : public GXIndexTable {
 protected:
     std::shared_ptr<GXIndexTable> newInstance() const override {

@@ -1,4 +1,4 @@
-// Array tables as the tests fill and read them.
+// Array tables, and short ways to fill and read them.
 
 #pragma once
 
@@ -30,7 +30,7 @@ inline void storeNumbers(GXArrayTable& table, std::initializer_list<int> keys) {
     }
 }
 
-// A table that counts what goes through its own addObject().
+// A table that counts the calls of its own addObject().
 class CountingTable final : public GXArrayTable {
 public:
     int added = 0;

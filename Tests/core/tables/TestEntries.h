@@ -21,7 +21,7 @@ public:
         return entry;
     }
 
-    // An entry that no coder takes: its "number" is nested deeper than is ever read again.
+    // An entry that every coder refuses, because its "number" is nested too deep.
     static std::shared_ptr<KeyedEntry> nestedTooDeep(std::string_view name) {
         PropertyListValue value = 1;
         for (int i = 0; i < deepestPropertyListNesting; ++i) {

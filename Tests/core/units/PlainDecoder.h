@@ -1,5 +1,5 @@
-// The rules for datagrams once more, written as plainly as can be with strings and maps, to compare
-// the program with.
+// A second decoder of datagrams, written as plainly as possible with strings and maps, to compare
+// the program with it.
 
 #pragma once
 
@@ -15,11 +15,11 @@ namespace kx {
 
 using PlainRecord = std::map<std::string, std::string>;
 
-// What a datagram makes of the program while no unit is selected.
+// The effects of a datagram on the program while no unit is selected.
 struct PlainOutcome {
-    bool isAbandoned = false;          // with one line in the system log
-    std::string log;                   // what the event log gets behind the line of the length
-    std::optional<PlainRecord> record; // what the registry gets
+    bool isAbandoned = false;          // it gives one line in the system log
+    std::string log;                   // event log entries after the line of the length
+    std::optional<PlainRecord> record; // record that the registry gets
 };
 
 class PlainDecoder {
@@ -63,7 +63,7 @@ private:
         return std::to_string(_datagram[from + 5]);
     }
 
-    // False when the datagram is abandoned.
+    // Returns false when the datagram is abandoned.
     bool decode() {
         if (_datagram.size() <= 4) {
             _outcome.log = "\nIgnoring short packet";

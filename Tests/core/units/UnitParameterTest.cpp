@@ -32,11 +32,11 @@ TEST(UnitParameter, NamesStandInTheOrderInWhichPeopleSeeThem) {
                      "serial number", "unit ID"}));
 }
 
-TEST(UnitParameter, NounsStandWithinASentence) {
-    EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::noun),
-              (Texts{"destination IP address", "destination MAC address", "destination port",
-                     "device port", "internal IP address", "internal MAC address", "serial number",
-                     "unit ID"}));
+TEST(UnitParameter, PhrasesHaveTheValueWithinASentence) {
+    EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::phrase),
+              (Texts{"destination IP address %@", "destination MAC address %@",
+                     "destination port %@", "device port %@", "internal IP address %@",
+                     "internal MAC address %@", "serial number %@", "unit ID %@"}));
 }
 
 TEST(UnitParameter, IdentifiersForScriptsNeverChange) {

@@ -1,4 +1,4 @@
-// What Apply will send, in words.
+// Forecasts of Apply, in words.
 
 #include "words/EditForecast.h"
 
@@ -242,7 +242,7 @@ TEST(EditForecast, PlaceholdersInATypedTextStandAsTheyAre) {
 
 TEST(EditForecast, EverySentenceIsLookedUpAsAWhole) {
     const MarkedLocalizedText marked;
-    EXPECT_EQ(forecast(unitID, "7", knownUnit()), "<Apply sends ^^IdU000000000007: <unit ID> 7.>");
+    EXPECT_EQ(forecast(unitID, "7", knownUnit()), "<Apply sends ^^IdU000000000007: <unit ID 7>.>");
     EXPECT_EQ(forecast(unitID, "7", {}), "<Apply sends nothing: no unit is selected.>");
     EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", knownUnit()),
               "<Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "

@@ -13,7 +13,7 @@ namespace {
 
 using enum UnitParameter;
 
-// The text once the unit shows `value`.
+// The text after the unit has shown `value`.
 std::string textAfterReply(UnitParameter parameter, const std::string& typed,
                            const std::string& before, std::string_view value) {
     EditOutcome outcome = outcomeOf(parameter, typed, before);
@@ -41,7 +41,7 @@ TEST(EditOutcomeText, SaysWhatWasSent) {
               "Sent ^^IdT0DC3. The unit has not answered yet.");
 }
 
-// It does not say which: an acknowledgement names none.
+// The text names no command, because an acknowledgement names none.
 TEST(EditOutcomeText, SaysThatACommandWasAccepted) {
     EXPECT_EQ(textAfterAcceptance(destinationPortNumber, "3523", "3520"),
               "The unit accepted a command and was asked for its parameters.");

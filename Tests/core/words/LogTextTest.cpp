@@ -138,7 +138,7 @@ TEST(LogText, BytesThatAreNoTextDoNoHarm) {
 
 TEST(LogText, CountsCharactersAsUTF16DoesAllThrough) {
     LogText text;
-    text.append(manyLines(10)); // counting goes on where it stopped
+    text.append(manyLines(10)); // counting goes on from there
     EXPECT_EQ(text.charactersBefore(text.size()), lengthInCharacters(text.text()));
     text.append(manyLines(2000));
     const std::string whole = text.text();

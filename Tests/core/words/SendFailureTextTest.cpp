@@ -1,5 +1,7 @@
 #include "words/SendFailureText.h"
 
+#include "doubles/ScriptedLocalizedText.h"
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -23,6 +25,15 @@ TEST(SendFailureText, WhatTheNetworkSaysOfASendEndsWithAFullStop) {
     EXPECT_EQ(noteOfSendFailure({.error = posixError(ENETUNREACH)}),
               "Not sent: Network is unreachable.");
     EXPECT_EQ(noteOfSendFailure({}), "Not sent: The UDP listener is not running.");
+}
+
+TEST(SendFailureText, AReasonInAnotherScriptGetsNoSecondFullStop) {
+    ScriptedLocalizedText japanese;
+    japanese.setTranslation("The UDP listener is not running.", "UDP リスナーが動作していません。");
+    japanese.setTranslation("Not sent: %@", "送信しませんでした: %@");
+    const LocalizedText* const before = installLocalizedText(&japanese);
+    EXPECT_EQ(noteOfSendFailure({}), "送信しませんでした: UDP リスナーが動作していません。");
+    installLocalizedText(before);
 }
 
 } // namespace kx

@@ -19,7 +19,7 @@ namespace {
 constexpr auto toolPath = "/usr/sbin/arp";
 constexpr mode_t executable = 0755;
 
-// A network that is ready, as the store tells.
+// A network that the store reports as ready.
 class ARPTableTool : public testing::Test {
 protected:
     void SetUp() override {

@@ -1,5 +1,5 @@
-// What is read from NetworkManager's answer, and that no other answer does harm. Each answer goes
-// over a connection, since a value has its type only there.
+// The profiles that are read from NetworkManager's answer; other answers do no harm. Each answer
+// goes over a connection, because a value has its type only there.
 
 #include "platform/linux/ActiveConnections.h"
 
@@ -52,7 +52,7 @@ protected:
     Profiles read() { return readValue(QVariant::fromValue(objects)); }
     Profiles readValue(const QVariant& value) { return activeConnections(wire.carried(value)); }
 
-    // The one profile, or one without anything in it.
+    // The one profile, or an empty profile.
     ConnectionProfile only() {
         const auto profiles = read();
         EXPECT_EQ(profiles.size(), 1U);

@@ -5,7 +5,7 @@
 #include "contracts/ConnectionProfilesContract.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 namespace kx {
 
@@ -60,7 +60,7 @@ public:
             throw std::runtime_error("NetworkManager does not activate the profile");
         }
         handleEventsFor(300ms);
-        // Or it would put back what the test takes away.
+        // Otherwise NetworkManager would put back the addresses that the test takes away.
         _host.networkManager->hang();
     }
     ConfigurationStore& store() { return _stack->store; }

@@ -1,5 +1,5 @@
-// Signals that look like NetworkManager's or the bus's own, but are sent by somebody else. Anyone
-// on the bus may send one to a single connection.
+// Signals from another sender that look like NetworkManager's or the bus's own. Any connection on
+// the bus may send a signal to a single other connection.
 
 #include "PrivateHost.h"
 #include "platform/linux/NetworkManagerProfiles.h"
@@ -45,8 +45,8 @@ protected:
         return handleEventsUntil([&] { return names() == wanted; });
     }
 
-    // Sends a signal to everyone, one by one, whatever they have asked the bus for. When this
-    // returns, each has been given it, because the bus keeps the order.
+    // Sends a signal to every connection, one by one, whatever they have asked the bus for. When
+    // this returns, each connection has got it, because the bus keeps the order.
     void forge(const QString& path, const QString& interface, const QString& name,
                const QVariantList& arguments) {
         for (const QString& connection : forger->interface()->registeredServiceNames().value()) {
@@ -76,7 +76,7 @@ protected:
     std::optional<QDBusConnection> forger;
 };
 
-// Whoever asks for all objects on the bus is counted.
+// Counts the requests for all objects on the bus.
 class Readings {
 public:
     Readings()
@@ -85,7 +85,7 @@ public:
                    {"--address", qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS"),
                     "type='method_call',member='GetManagedObjects'"},
                    _log) {
-        // It says that it has begun.
+        // The monitor reports that it has begun.
         handleEventsUntil([this] { return linesWith("NameAcquired") + linesWith("NameLost") > 0; });
     }
     ~Readings() { QFile::remove(_log); }

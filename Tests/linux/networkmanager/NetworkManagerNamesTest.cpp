@@ -1,4 +1,4 @@
-// What a person and the controller get to know of a host whose links have profiles.
+// The facts that reach a person and the controller on a host whose links have profiles.
 
 #include "PrivateHost.h"
 #include "System Configuration/InterfaceTitles.h"
@@ -7,7 +7,7 @@
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qt/QtRunLoop.h"
+#include "platform/qtcore/QtRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -24,11 +24,11 @@ using namespace std::chrono_literals;
 const std::string office = PrivateHost::officeID;
 const std::string line = PrivateHost::lineID;
 
-// What the application has of the host.
+// The application's sources of facts about the host.
 class Sources {
 public:
     Sources() {
-        sharedConfigurationDoubles(); // hears of every change, too
+        sharedConfigurationDoubles(); // the watch hears every change, too
     }
 
     // The titles of the services in the pop-up.
@@ -40,11 +40,11 @@ public:
                 result.push_back(titles[i]);
             }
         }
-        serviceIDs.resize(result.size()); // they come first
+        serviceIDs.resize(result.size()); // the services come first
         return result;
     }
 
-    // What the controller reads when a title is chosen: the first address and its mask.
+    // The values that the controller reads when a title is chosen: the first address and its mask.
     std::string choice(const std::string& title) {
         const auto serviceID = configuration.serviceIDForInterface(bsdNameForTitle(title));
         return serviceID.has_value()
@@ -52,7 +52,7 @@ public:
                    : "no service";
     }
 
-    // Counts from now on how often each key under a pattern is told to have changed.
+    // Starts to count how often each key under a pattern is reported as changed.
     void watch(std::string_view pattern) {
         _changes = {};
         _source.reset();
@@ -199,7 +199,7 @@ TEST_F(NetworkManagerNames, AProfileWithoutAddressesInTheKernelHasItsSavedOnes) 
         return std::ranges::none_of(sources->profiles.activeProfiles(),
                                     [](const auto& profile) { return profile.addresses.empty(); });
     }));
-    host.networkManager->hang(); // or it would put them back
+    host.networkManager->hang(); // otherwise it would put the addresses back
     host.network.ip("address flush dev kx0");
     EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");
     host.networkManager->goOn();

@@ -1,4 +1,4 @@
-// A bus and a NetworkManager that come, go, come back and hang.
+// A bus and a NetworkManager that start, end, start again and hang.
 
 #include "PrivateHost.h"
 #include "platform/linux/NetworkManagerProfiles.h"
@@ -37,7 +37,7 @@ protected:
         EXPECT_EQ(names(), wanted);
         return isSo;
     }
-    // The names that the last change brought, without being asked for between the changes.
+    // Whether the last change brought these names. The names are not asked for between the changes.
     bool changesBring(const Names& wanted) {
         Names brought = {"nothing yet"};
         profiles->setChangeAction([&] { brought = names(); });
@@ -52,8 +52,8 @@ protected:
         return std::chrono::duration_cast<std::chrono::milliseconds>(Clock::now() - begin);
     }
 
-    // A query takes a second at the longest, on a machine that does nothing else. Who waits for a
-    // bus or for an answer without a limit waits for 25 seconds.
+    // On an idle machine a query takes a second at the longest. A query that waits for a bus or an
+    // answer without a limit takes 25 seconds.
     static constexpr auto atOnce = 15s;
 
     PrivateHost host;
@@ -88,8 +88,8 @@ TEST_F(NetworkManagerPresence, TheFirstListOfABusThatCameLaterHasTheNames) {
         host.stopNetworkManager();
         return hasTheNames;
     };
-    // On a machine that does much else an answer may take longer than it is waited for. Who does
-    // not wait never has the names.
+    // On a busy machine an answer may come after the limit, so there are three tries. Code that
+    // does not wait at all never has the names.
     EXPECT_TRUE(firstListHasTheNames() || firstListHasTheNames() || firstListHasTheNames());
 }
 
@@ -195,7 +195,7 @@ TEST_F(NetworkManagerPresence, ABusThatHangsIsLeftAloneForAWhile) {
     profiles.emplace();
     auto shortest = std::chrono::milliseconds::max();
     for (int i = 0; i < 3; ++i) {
-        std::this_thread::sleep_for(1100ms); // a bus that is not there would be tried again
+        std::this_thread::sleep_for(1100ms); // otherwise another try would be made
         shortest = std::min(shortest, timeOf([&] { EXPECT_EQ(names(), Names()); }));
     }
     EXPECT_LT(shortest, patience);

@@ -14,7 +14,7 @@ class NetworkManagerProgram : public testing::Test {
 protected:
     NetworkManagerProgram() { host.start(); }
 
-    // What the tour through the real window reports of an interface that it chooses.
+    // The report of the tour through the real window about an interface that it chooses.
     static std::string reportWith(const QString& interface) {
         auto environment = QProcessEnvironment::systemEnvironment();
         environment.insert("QT_QPA_GENERIC_PLUGINS", "kxtour");

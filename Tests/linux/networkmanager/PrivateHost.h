@@ -1,8 +1,8 @@
-// A host of the test's own: a network, a system bus and a NetworkManager, each started and ended as
-// the test wants. Runs under in_private_host.sh.
+// A host of the test's own: a network, a system bus and a NetworkManager. The test starts and ends
+// each of them. Runs under in_private_host.sh.
 //
-// Two links, kx0 and kx1, have a profile each, named "Office" and "Production line", with
-// the addresses 192.0.2.5/24 and 198.51.100.5/25.
+// Two links, kx0 and kx1, have a profile each, named "Office" and "Production line", with the
+// addresses 192.0.2.5/24 and 198.51.100.5/25.
 
 #pragma once
 
@@ -65,7 +65,7 @@ public:
     BackgroundProgram(const BackgroundProgram&) = delete;
     BackgroundProgram& operator=(const BackgroundProgram&) = delete;
 
-    // As the host ends a service.
+    // Ends the program as the host ends a service.
     void terminate() {
         _process.terminate();
         _process.waitForFinished();
@@ -112,7 +112,7 @@ public:
     }
     void stopBus() { bus.reset(); }
 
-    // Connections to a bus that hangs, until it takes no more.
+    // Connections to a bus that hangs, as many as it takes.
     std::vector<FileDescriptor> fillQueueOfBus() const {
         std::vector<FileDescriptor> waiting;
         bool isAccepted = true;
@@ -123,8 +123,8 @@ public:
         return waiting;
     }
 
-    // Comes to be on the bus a little later. Its view of the devices is the kernel's own, because
-    // there is nobody who would prepare them.
+    // Starts NetworkManager, which is on the bus a little later. It takes its view of the devices
+    // from the kernel, because no other service prepares them.
     void startNetworkManager() {
         networkManager.emplace(
             "unshare",
@@ -132,7 +132,7 @@ public:
                         "mount -t sysfs -o ro sysfs /sys && exec NetworkManager --no-daemon"},
             log());
     }
-    // Both, and the profiles are active.
+    // Starts the bus and NetworkManager, and waits until the profiles are active.
     void start() {
         startBus();
         startNetworkManager();
@@ -146,22 +146,25 @@ public:
         networkManager.reset();
     }
 
-    // An administrator's command to a NetworkManager that runs; waits until it is carried out.
+    // Gives an administrator's command to a running NetworkManager, and waits until it is carried
+    // out.
     static void nmcli(const QStringList& arguments) {
         if (QProcess::execute("nmcli", arguments) != 0) {
             throw std::runtime_error("failed: nmcli " + arguments.join(' ').toStdString());
         }
     }
 
-    // A profile that NetworkManager finds when it starts; `settings` follow the ones that each has.
+    // Adds a profile that NetworkManager finds when it starts. `settings` follow the settings that
+    // all profiles share.
     void addProfile(const std::string& identifier, const std::string& name,
                     const std::string& settings) {
         write(profileFolder() + "/" + identifier + ".nmconnection",
               "[connection]\nuuid=" + identifier + "\nid=" + name + "\n" + settings);
     }
 
-    // Settings of a profile for an interface; `ipv4` are further lines about its addresses. An
-    // address is used at once: by default, newer versions first ask whether another host has it.
+    // Settings of a profile for an interface; `ipv4` holds further lines about its addresses. An
+    // address is used at once, because newer versions by default ask first whether another host has
+    // it.
     static std::string ethernet(const std::string& interface, const std::string& ipv4) {
         return "type=ethernet\ninterface-name=" + interface +
                "\n[ipv4]\nmethod=manual\ndad-timeout=0\n" + ipv4 + "[ipv6]\nmethod=disabled\n";
@@ -199,7 +202,7 @@ private:
         addProfile(lineID, "Production line", ethernet("kx1", "address1=198.51.100.5/25\n"));
     }
 
-    // NetworkManager takes profiles from files alone that nobody else can read.
+    // NetworkManager accepts profiles only from files that no other user can read.
     static void write(const std::string& path, const std::string& text) {
         QFile file(QString::fromStdString(path));
         if (!file.open(QIODevice::WriteOnly) ||

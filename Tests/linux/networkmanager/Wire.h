@@ -1,5 +1,5 @@
-// Two ends of a D-Bus connection within this process. A value that has gone from one end to the
-// other has the type that it has when another program sends it.
+// Two ends of a D-Bus connection within this process. After the way from one end to the other, a
+// value has the type that it has when another program sends it.
 
 #pragma once
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs a command where the folders of NetworkManager are empty ones of its own and no process
-# outlives it, or says that this system gives no right to. The folders are in KX_PRIVATE_HOST.
+# Runs a command with empty folders of NetworkManager of its own and without processes that outlive it,
+# or says that this system does not allow it. KX_PRIVATE_HOST names the folders.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh

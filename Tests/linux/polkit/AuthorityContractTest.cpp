@@ -1,4 +1,5 @@
-// The contract of an authority: the same for a rule that lets the user run a tool and for root.
+// The contract of an authority. It runs the same for a rule that lets the user run a tool, and for
+// root.
 
 #include "contracts/AuthorizationServiceContract.h"
 #include "platform/PollLoopDriver.h"

@@ -1,7 +1,8 @@
-// What the tests of the authorities share: one of them on the real system, and what it did there.
+// The common part of the tests of the authorities: an authority on the real system, and its effects
+// there.
 //
-// They run in in_polkit.sh, inside the lab: who sits at the dialogs, and what the rules say, is in
-// the options of each test's run.
+// They run in in_polkit.sh, inside the lab. The options of each test's run say which person sits at
+// the dialogs, and which rules the host has.
 
 #pragma once
 
@@ -67,7 +68,8 @@ protected:
         return {};
     }
 
-    // The same, once it has one: a tool on a busy host may still be at work when its start is told.
+    // The same, after waiting until there is one: on a busy host a tool may still be at work when
+    // its start is reported.
     std::string neighbourInTime() {
         runLoopUntil(loop, [] { return !neighbour().empty(); });
         return neighbour();
@@ -80,7 +82,7 @@ protected:
         return std::distance(begin(descriptors), end(descriptors));
     }
 
-    // Starts a tool and notes its end.
+    // Starts a tool and records its end.
     std::int32_t run(const std::string& tool, const std::vector<std::string>& arguments) {
         return reference->executeWithPrivileges(tool, arguments,
                                                 [this](int status) { ends.push_back(status); });

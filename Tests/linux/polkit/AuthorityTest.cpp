@@ -1,4 +1,5 @@
-// Who is asked, how often, and what comes of it. Each suite has a person or a rule of its own.
+// The questions to a person, their number and their effects. Each suite has a person or a rule of
+// its own.
 
 #include "AuthorityFixture.h"
 #include "platform/linux/PolkitCheck.h"
@@ -17,8 +18,8 @@ namespace {
 
 using Actions = std::vector<std::string>;
 
-// What one person allowed stays allowed for the process, so that each of these tests has a process
-// and a daemon to itself.
+// A right that one person granted stays granted to the process, so each of these tests has its own
+// process and daemon.
 class AnAllowingPerson : public AuthorityFixture {};
 
 TEST_F(AnAllowingPerson, IsAskedOnce) {
@@ -29,7 +30,7 @@ TEST_F(AnAllowingPerson, IsAskedOnce) {
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
-// The action that asks goes on before the next event, so Qt's loop must not run under it.
+// The question ends before the next event, so Qt's loop must not run under it.
 TEST_F(AnAllowingPerson, IsAskedWhileTheEventLoopStands) {
     int events = 0;
     QTimer::singleShot(0, QCoreApplication::instance(), [&] { ++events; });
@@ -82,13 +83,13 @@ TEST_F(AnAllowingPerson, IsAskedByTheRunWhenNobodyWasBefore) {
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
-// Longer than the moment that a tool is given.
+// The person takes longer than the moment that a tool is given.
 TEST_F(AnAllowingPerson, MayTakeTheirTimeInTheRun) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
 }
 
-// Longer than a call to another program takes as a rule.
+// The person takes longer than a call to another program usually takes.
 TEST_F(AnAllowingPerson, MayTakeTheirTime) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(dialogs(), Actions{arpAction});
@@ -178,8 +179,8 @@ TEST_F(NoAuthority, GivesNoReference) {
               errAuthorizationInvalidRef);
 }
 
-// One that takes connections and says nothing. The bus library alone would wait 25 seconds for each
-// answer.
+// A bus that takes connections and says nothing. The bus library alone would wait 25 seconds for
+// each answer.
 TEST(ASilentBus, IsAsGoodAsNone) {
     const std::string path = std::string(std::getenv("HOME")) + "/silent";
     sockaddr_un address{};

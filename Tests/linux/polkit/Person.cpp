@@ -1,13 +1,13 @@
 // kxperson: a person at the dialogs of polkit, who always answers in the same way.
 //
 // usage: kxperson PROCESS ANSWER SECONDS RECORD
-//   PROCESS   whose questions are answered, by its number
+//   PROCESS   number of the process whose questions are answered
 //   ANSWER    allow, refuse (a wrong password) or dismiss
 //   SECONDS   how long the person takes for each answer
 //   RECORD    a file that gets a line with the name of the action for each question
 //
-// Registers as the authentication agent of that process, prints "ready", and serves until it is
-// ended. It runs as the administrator, whom the daemon takes at his word.
+// It registers as the authentication agent of that process, prints "ready", and serves until it is
+// ended. It runs as the administrator, so the daemon accepts its answers without a proof.
 
 #include <unistd.h>
 
@@ -33,7 +33,7 @@ QDBusMessage authorityCall(const QString& method) {
         QStringLiteral("org.freedesktop.PolicyKit1.Authority"), method);
 }
 
-// The structure (sa{sv}) by which the daemon names processes and people.
+// The structure (sa{sv}) with which the daemon names processes and people.
 QVariant named(const QString& kind, const QVariantMap& details) {
     QDBusArgument argument;
     argument.beginStructure();

@@ -1,4 +1,5 @@
-// The start and the end of a tool: the same for a rule that lets the user run it and for root.
+// The start and the end of a tool. They are the same for a rule that lets the user run it, and for
+// root.
 
 #include "AuthorityFixture.h"
 
@@ -134,12 +135,12 @@ TEST_F(AToolRun, LeavesNothingBehind) {
         ends.clear();
         reference = service->create();
     };
-    runAll(); // what the bus library keeps is opened here
+    runAll(); // opens the descriptors that the bus library keeps
     const auto before = openDescriptors();
     for (int round = 0; round < 5; ++round) {
         runAll();
     }
-    // The bus library closes its last connection in its own time.
+    // The bus library closes its last connection after an unknown time.
     EXPECT_TRUE(runLoopUntil(loop, [before] { return openDescriptors() <= before; }));
     EXPECT_FALSE(hasChildren());
 }

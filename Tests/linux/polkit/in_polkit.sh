@@ -61,7 +61,7 @@ print_help() {
     sed -n '3,/^$/{s/^# \{0,1\}//;p}' "$script"
 }
 
-# Copies a file or folder and mounts the copy over it, so that it can be changed here alone.
+# Copies a file or folder and mounts the copy over it, so that it can be changed only here.
 mount_copy() {
     local copy=$scratch/${1//\//_}
     cp -a -- "$1" "$copy"
@@ -100,8 +100,8 @@ install_rules() {
     mount --bind -- "$scratch/rules" "$rules"
 }
 
-# The folder of the project may lie below one that is closed to others. Then what lies there besides
-# is hidden, so that the way to it can be opened.
+# The folder of the project may be below a folder that is closed to other users. Then the rest of that
+# folder is hidden, so that the way to the project can be opened.
 open_way_to_project() {
     as_user test -r "$script" && return
     local closed=/${top#/}
@@ -116,7 +116,7 @@ open_way_to_project() {
     as_user test -r "$script" || die "$failed" "$top is closed to other users"
 }
 
-# Reads the first line that a program writes to the descriptor $2, when it is ready.
+# Reads the first line that a program writes to the descriptor $2 when the program is ready.
 await() {
     read -r -t "$seconds_to_ready" -u "$2" || {
         cat -- "$scratch"/bus "$scratch"/polkitd >&2 2>/dev/null || true
@@ -146,7 +146,7 @@ start_daemon() {
     done
 }
 
-# Takes the words of KX_HOST.
+# Reads the words in KX_HOST and carries them out.
 obey() {
     local word
     while read -r word; do
@@ -169,7 +169,7 @@ as_user() {
     setpriv --reuid "$user_id" --regid "$user_id" --clear-groups -- "$@"
 }
 
-# Becomes the command, once the line comes that says everything is ready for it.
+# Waits for the line that says that everything is ready, and then becomes the command.
 become_command() {
     read -r <"$scratch/go"
     local identity=(--reuid "$user_id" --regid "$user_id" --clear-groups)
@@ -184,7 +184,7 @@ run_inside() {
     set -E
     trap 'exit "$failed"' ERR
     umask 022
-    # The folder of the bus and, so that there is nothing to clean up, of everything else.
+    # A folder for the bus and for all other files, so that there is nothing to clean up.
     mount -t tmpfs -o mode=755 tmpfs /run
     scratch=/run/kx
     install -d -m 755 /run/dbus "$scratch"
@@ -195,7 +195,7 @@ run_inside() {
 
     add_user
     open_way_to_project
-    # The bus is not to start any services by itself.
+    # The bus must not start any services by itself.
     mount -t tmpfs -o mode=755 tmpfs /usr/share/dbus-1/system-services
     if [[ $without != bus ]]; then
         start_bus
@@ -269,14 +269,14 @@ done
 if $inside; then
     run_inside "$@"
 fi
-# In a namespace in which root is somebody else outside, there is no other user to become.
+# In a namespace whose root is another user outside, there is no other user to become.
 if ! reason=$(unshare --mount --pid --fork setpriv --reuid "$user_id" true 2>&1); then
     printf 'skipped: no right to a private system bus here (%s)\n' "$reason"
     exit "$skipped"
 fi
 [[ -x $kxperson ]] || die "$failed" "no program $kxperson; build it, or set KX_BUILD_DIR"
-# Everything goes with the process that made the namespaces, which does not outlive this one. It
-# would ignore a mere request to end.
+# Everything ends with the process that made the namespaces, and this process does not outlive its
+# parent. It would ignore a plain request to end.
 setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child --mount-proc -- \
     "$script" --inside ${options[@]+"${options[@]}"} -- "$@" <&0 &
 namespaces=$!

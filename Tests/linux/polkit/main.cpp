@@ -1,4 +1,4 @@
-// GoogleTest with the application object that the bus library wants.
+// GoogleTest with the application object that the bus library needs.
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,91 @@
+// KXConfig: wires the core to the platform and runs it.
+
+#include "KXConfigAppDelegate.h"
+#include "System Configuration/SystemConfiguration.h"
+#include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxAuthorization.h"
+#include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/LinuxReceiveBuffers.h"
+#include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/posix/SyslogSystemLog.h"
+#include "platform/posix/SystemWallClock.h"
+#include "platform/posix/ThreadHostResolver.h"
+#include "platform/qt/ApplicationIcon.h"
+#include "platform/qt/InstalledResources.h"
+#include "platform/qt/MainWindow.h"
+#include "platform/qt/QtApplication.h"
+#include "platform/qt/QtHelpServices.h"
+#include "platform/qtcore/QtLocalizedText.h"
+#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qtcore/QtTranslations.h"
+
+#include <QApplication>
+#include <csignal>
+
+int main(int argc, char* argv[]) {
+    // The reader of standard error may end before the window does.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    QApplication qtApplication(argc, argv);
+    QApplication::setApplicationName("KXConfig");
+    QApplication::setApplicationVersion(KX_VERSION);
+    // The name of the desktop entry. A desktop finds the icon of the window by this name, if it
+    // looks for one.
+    QApplication::setDesktopFileName("org.kxconfig.KXConfig");
+    QApplication::setWindowIcon(kx::applicationIcon());
+
+    kx::SyslogSystemLog systemLog("kxconfig");
+    kx::installSystemLog(&systemLog);
+    const kx::QtTranslations translations;
+    const kx::QtLocalizedText localizedText;
+    kx::installLocalizedText(&localizedText);
+
+    kx::QtRunLoop runLoop;
+    kx::ThreadHostResolver hostResolver(runLoop);
+    kx::DatagramSystemCalls systemCalls;
+    kx::LinuxReceiveBuffers receiveBuffers;
+    const kx::SystemWallClock wallClock;
+    kx::QtApplication application;
+    kx::QtHelpServices helpServices(kx::installedResourceFolder());
+
+    kx::KernelLinks kernelLinks(runLoop);
+    kx::LinuxKernelQuery kernelQuery(kernelLinks);
+    kx::NetworkManagerProfiles connectionProfiles;
+    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
+    kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
+
+    const auto authorizationService = kx::makeAuthorizationService(runLoop);
+
+    kx::MainWindow window;
+    kx::KXConfigAppDelegate controller(
+        window.outlets(), {.runLoop = runLoop,
+                           .hostResolver = hostResolver,
+                           .systemCalls = systemCalls,
+                           .wallClock = wallClock,
+                           .application = application,
+                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+                           .openHelpAnchor =
+                               [&helpServices](std::string_view anchor) {
+                                   return kx::openHelpAnchor(anchor, helpServices);
+                               },
+                           .authorizationService = authorizationService.get(),
+                           .receiveBuffers = &receiveBuffers,
+                           .hasHelpPage =
+                               [&helpServices](std::string_view page) {
+                                   return kx::hasHelpPage(page, helpServices);
+                               }});
+    window.connectActions(controller);
+    QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
+        window.disconnectActions();
+        controller.applicationWillTerminate();
+    });
+
+    window.show();
+    controller.applicationDidFinishLaunching();
+    const int result = QApplication::exec();
+
+    kx::installLocalizedText(nullptr);
+    kx::installSystemLog(nullptr);
+    return result;
+}

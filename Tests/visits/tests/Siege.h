@@ -1,0 +1,39 @@
+// A visit to the running program while a sender floods it with datagrams. It watches for a third of
+// the time, and opens the log that has grown meanwhile. Then it discovers again and again, and each
+// time searches for the real units among those that the flood invents; every second time the event
+// log is open. It measures how long a person has to wait meanwhile.
+//
+// Main thread only; run() waits in nested event loops. Environment: KX_SIEGE_SECONDS, the length of
+// the visit; KX_SIEGE_UNITS, the serial numbers of the real units, with commas in between;
+// KX_SIEGE_WAIT, the milliseconds that a person may have to wait; KX_SIEGE_COMPUTING, how many of
+// them the program may compute.
+
+#pragma once
+
+#include "driver/WindowDriver.h"
+
+#include <QStringList>
+
+namespace kx {
+
+class Siege final {
+public:
+    explicit Siege(WindowDriver& driver);
+
+    // Stays the whole time, and prints its results. Throws a Disappointment when a unit was not
+    // found in the end, when a person had to wait too long, and when there was no flood.
+    void run();
+
+private:
+    void discover();
+    void lookForUnits();
+
+    WindowDriver& _driver;
+    const QStringList _serials;
+    QStringList _missed; // units that the last Discover did not find
+    int _found = 0;
+    int _discoveries = 0;
+    int _listed = 0;
+};
+
+} // namespace kx
