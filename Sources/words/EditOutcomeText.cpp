@@ -9,8 +9,8 @@ namespace kx {
 namespace {
 
 std::string textOfAcceptance(const EditOutcome& outcome) {
-    if (outcome.requestFailure().has_value()) {
-        const std::string reason = reasonOfSendFailure(*outcome.requestFailure());
+    if (const auto& failure = outcome.requestFailure(); failure.has_value()) {
+        const std::string reason = reasonOfSendFailure(*failure);
         return isWholeSentence(reason)
                    ? localizedText("The unit accepted a command. It could not be asked for its "
                                    "parameters: %@",

@@ -27,15 +27,15 @@ TEST_F(ControllerQuietLine, ChoosingARowSaysWhatApplyWouldSend) {
 
 TEST_F(ControllerQuietLine, FollowsWhatIsTypedAndStoresNothing) {
     discover({SampleUnit()});
-    selectRow(UnitParameter::destinationPortNumber);
-    controller.editTextDidChange("352");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 352 is outside "
-                           "3520 to 3523.");
-    controller.editTextDidChange("3521");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC1: destination port 3521.");
+    selectRow(UnitParameter::devicePortNumber);
+    controller.editTextDidChange("1000x");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP03E8: device port 1000, because that is how “1000x” "
+                           "is read.");
+    controller.editTextDidChange("1000");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP03E8: device port 1000.");
     controller.editTextDidChange("");
     EXPECT_EQ(quietLine(), "Apply sends nothing: the value is empty.");
-    EXPECT_EQ(editRows(), Lines{"destination Port number = 3520"});
+    EXPECT_EQ(editRows(), Lines{"device Port number = 10000"});
 }
 
 TEST_F(ControllerQuietLine, AnotherRowForgetsWhatWasTyped) {

@@ -18,4 +18,24 @@ TEST(CommandTarget, ACommandIsRefusedForTheFirstReasonThatAPersonCanMend) {
     EXPECT_EQ(refusalOfCommand("^^IdV\r", {.unitIsSelected = true}), CommandRefusal::noAddress);
 }
 
+TEST(CommandTarget, AnEditThatIsNoneIsRefusedForItsOwnReason) {
+    EXPECT_EQ(refusalOfEdit(EditRefusal::notEditable, knownUnit), CommandRefusal::notEditable);
+    EXPECT_EQ(refusalOfEdit(EditRefusal::emptyValue, {}), CommandRefusal::emptyValue);
+    EXPECT_EQ(refusalOfEdit(EditRefusal::notUTF8, {}), CommandRefusal::notUTF8);
+}
+
+TEST(CommandTarget, AnEditIsRefusedAsItsCommandIs) {
+    EXPECT_EQ(refusalOfEdit(editOfParameter(UnitParameter::unitID, "7"), knownUnit), std::nullopt);
+    EXPECT_EQ(refusalOfEdit(editOfParameter(UnitParameter::unitID, "7"), {}),
+              CommandRefusal::noUnit);
+    EXPECT_EQ(refusalOfEdit(editOfParameter(UnitParameter::serialNumber, "№5"), knownUnit),
+              CommandRefusal::notASCII);
+}
+
+// It goes to the typed address.
+TEST(CommandTarget, AMoveNeedsNeitherAUnitNorItsAddress) {
+    EXPECT_EQ(refusalOfEdit(editOfParameter(UnitParameter::internalIPAddress, "10.0.0.7"), {}),
+              std::nullopt);
+}
+
 } // namespace kx

@@ -160,6 +160,24 @@ TEST_F(UnitSessionEvents, DropsAreToldWhenTheirNumberChanges) {
     EXPECT_EQ(observer.taken(), Events{"dropped 6"});
 }
 
+TEST_F(UnitSessionEvents, WhatIsDroppedAfterACountIsCountedWithTheNextRead) {
+    drop(2);
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 3);
+    observer.taken();
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(observer.taken(), Events{});
+    drop(0);
+    EXPECT_EQ(observer.taken(), Events{"dropped 5"});
+}
+
+TEST_F(UnitSessionEvents, AFailedReadIsFollowedByACountToo) {
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 7);
+    receive({}); // an empty datagram counts as an error
+    observer.taken();
+    runLoop.advanceBy(250ms);
+    EXPECT_EQ(observer.taken(), Events{"dropped 7"});
+}
+
 TEST_F(UnitSessionEvents, AStartForgetsTheDropsAndSaysSoFirst) {
     session.start(3520);
     EXPECT_EQ(observer.taken(), (Events{"started at 0.0.0.0:3520", "can broadcast"}));
@@ -167,6 +185,46 @@ TEST_F(UnitSessionEvents, AStartForgetsTheDropsAndSaysSoFirst) {
     observer.taken();
     session.start(3520);
     EXPECT_EQ(observer.taken(), (Events{"dropped 0", "started at 0.0.0.0:3520", "can broadcast"}));
+    drop(1);
+    EXPECT_EQ(observer.taken(), Events{"dropped 1"});
+}
+
+TEST_F(UnitSessionEvents, ACountThatIsStillDueAfterAStartIsOfTheNewListener) {
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 5);
+    receive(SampleUnit().acknowledgement());
+    start();
+    runLoop.advanceBy(250ms);
+    EXPECT_EQ(observer.taken(), Events{});
+    drop(6);
+    EXPECT_EQ(observer.taken(), Events{"dropped 6"});
+}
+
+TEST_F(UnitSessionEvents, AListenerThatDidNotStartIsNotCounted) {
+    receiveBuffers.drop(systemCalls.lastDescriptor(), 5);
+    receive(SampleUnit().acknowledgement());
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    start();
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(receiveBuffers.lookCount(), 0);
+    EXPECT_EQ(observer.taken(), Events{});
+}
+
+TEST_F(UnitSessionEvents, WhatTheSystemNoLongerTellsIsNotTold) {
+    drop(5);
+    observer.taken();
+    receiveBuffers.tellNothing();
+    drop(1);
+    EXPECT_EQ(observer.taken(), Events{}) << "and 5 stays what was told";
+}
+
+TEST_F(UnitSessionEvents, WithoutAWayToCountTheSessionWorksAllTheSame) {
+    UnitSession plain({runLoop, hostResolver, systemCalls}, registry, observer);
+    session.stop();
+    plain.start(3520);
+    observer.taken();
+    EXPECT_EQ(eventsOf(SampleUnit().reply()).size(), 2U);
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+    EXPECT_EQ(receiveBuffers.wishes().size(), 1U) << "that of the session with one";
 }
 
 TEST_F(UnitSessionEvents, ABurstIsCountedOnceAndRestIsNotCounted) {
@@ -180,7 +238,7 @@ TEST_F(UnitSessionEvents, ABurstIsCountedOnceAndRestIsNotCounted) {
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
 }
 
-TEST_F(UnitSessionEvents, ASystemThatCannotCountIsNotAskedForSentences) {
+TEST_F(UnitSessionEvents, ASystemThatNeverTellsIsAskedInVain) {
     receiveBuffers.tellNothing();
     drop(5);
     EXPECT_EQ(receiveBuffers.lookCount(), 1);

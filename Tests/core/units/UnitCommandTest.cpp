@@ -2,13 +2,27 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace kx {
 
 namespace {
 
-std::string edit(UnitParameter parameter, std::string_view typed) {
-    return editCommand(parameter, typed).value_or("(no command)");
+using enum UnitParameter;
+using Cases = std::vector<std::pair<std::string, std::string>>; // what is typed, what is sent
+
+void expectCommands(UnitParameter parameter, const Cases& cases) {
+    for (const auto& [typed, command] : cases) {
+        EXPECT_EQ(editCommand(parameter, typed), command)
+            << nameOfUnitParameter(parameter) << ": " << typed;
+    }
 }
+
+const std::string longText(10'000, '7');
+const std::string brokenText = "A\xFF\xC0\x80"; // not UTF-8
+const std::string hostileText = "%n%s%@; ^^IdZ $(reboot) '\"\t";
 
 std::tm localTime(int month, int day, int hour, int minute) {
     std::tm time{};
@@ -30,115 +44,144 @@ TEST(CommandProtocol, RequestsHaveNoArgument) {
     EXPECT_EQ(restoreCommand, "^^IdZ");
 }
 
-TEST(MACAddressArgument, IsTheTextWithoutColonsWhereverTheyStand) {
-    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, "00:1a:2B:3c:4D:5e"), "001a2B3c4D5e");
-    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, "::a b::"), "a b");
-    EXPECT_EQ(argumentForText(ValueForm::hardwareAddress, ""), "");
+// --- The commands of edits: every rule of conversion stands here, and nowhere else ---
+
+TEST(EditCommand, MACAddressesLoseTheirColonsWhereverTheyStandAndKeepTheirCase) {
+    expectCommands(internalMACAddress, {
+                                           {"00:1A:2B:3C:4D:5E", "^^IdM001A2B3C4D5E"},
+                                           {"00:1a:2B:3c:4D:5e", "^^IdM001a2B3c4D5e"},
+                                           {"001A2B3C4D5E", "^^IdM001A2B3C4D5E"},
+                                           {"::1:A::", "^^IdM1A"},
+                                           {":", "^^IdM"},
+                                           {"", "^^IdM"},
+                                           {"00-1A 2B", "^^IdM00-1A 2B"},
+                                           {"Zürich", "^^IdMZürich"},
+                                           {brokenText, "^^IdM" + brokenText},
+                                           {longText, "^^IdM" + longText},
+                                           {hostileText, "^^IdM" + hostileText},
+                                       });
+    expectCommands(destinationMACAddress, {
+                                              {"00:0A:0B:0C:0D:0E", "^^IdC000A0B0C0D0E"},
+                                              {"::no mac", "^^IdCno mac"},
+                                          });
 }
 
-TEST(IPAddressArgument, IsEightDigitsFirstOctetFirst) {
-    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "192.168.1.20"), "C0A80114");
-    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "0.0.0.1"), "00000001");
-    EXPECT_EQ(argumentForText(ValueForm::ipv4Address, "nowhere"), "00000000");
+TEST(EditCommand, SerialNumbersLoseTheirBlanksWhereverTheyStandAndKeepTheirCase) {
+    expectCommands(serialNumber, {
+                                     {"00 1A 2B 3C 4D 5E", "^^IdS001A2B3C4D5E"},
+                                     {"  001a2b 3c4d5e ", "^^IdS001a2b3c4d5e"},
+                                     {" 0  0\t:x ", "^^IdS00\t:x"},
+                                     {"   ", "^^IdS"},
+                                     {"", "^^IdS"},
+                                     {"№5", "^^IdS№5"},
+                                     {longText, "^^IdS" + longText},
+                                     {"%n;$(x)", "^^IdS%n;$(x)"},
+                                 });
 }
 
-TEST(DestinationPortArgument, Is3520UnlessItIsOneOfTheFourPorts) {
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3519"), "0DC0");
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3520"), "0DC0");
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3522"), "0DC2");
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3523"), "0DC3");
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, "3524"), "0DC0");
-    EXPECT_EQ(argumentForText(ValueForm::listeningPort, ""), "0DC0");
+TEST(EditCommand, IPAddressesAreEightDigitsFirstOctetFirst) {
+    expectCommands(destinationIPAddress, {
+                                             {"192.168.1.20", "^^IdDC0A80114"},
+                                             {"0.0.0.1", "^^IdD00000001"},
+                                             {"255.255.255.255", "^^IdDFFFFFFFF"},
+                                             {" 10.0.0.7 and more", "^^IdD0A000007"},
+                                             {"300.1.1.1", "^^IdD2C010101"},
+                                         });
+    expectCommands(internalIPAddress, {{"10.0.0.7", "^^IdI0A000007"}});
 }
 
-TEST(DevicePortArgument, IsAnyNumberInFourDigitsOrMore) {
-    EXPECT_EQ(argumentForText(ValueForm::anyPort, "0"), "0000");
-    EXPECT_EQ(argumentForText(ValueForm::anyPort, "65535"), "FFFF");
-    EXPECT_EQ(argumentForText(ValueForm::anyPort, "65536"), "10000");
-    EXPECT_EQ(argumentForText(ValueForm::anyPort, "-2"), "FFFFFFFE");
-    EXPECT_EQ(argumentForText(ValueForm::anyPort, ""), "0000");
+TEST(EditCommand, AnIPAddressThatDoesNotParseIsEightZeros) {
+    for (const std::string& typed :
+         {std::string("unit.example"), std::string("1.2.3"), std::string("Zürich"), std::string(),
+          brokenText, longText, hostileText}) {
+        expectCommands(destinationIPAddress, {{typed, "^^IdD00000000"}});
+    }
+    expectCommands(internalIPAddress, {{"nowhere", "^^IdI00000000"}});
 }
 
-TEST(UnitIDArgument, IsANumberOrTheBytesOfTheText) {
-    EXPECT_EQ(argumentForText(ValueForm::unitID, "12"), "00000000000C");
-    EXPECT_EQ(argumentForText(ValueForm::unitID, "AB"), "4142");
-    EXPECT_EQ(argumentForText(ValueForm::unitID, ""), "");
-    EXPECT_EQ(argumentForText(ValueForm::unitID, "A\xFF"), std::nullopt);
+TEST(EditCommand, ADestinationPortIsOneOfFour) {
+    expectCommands(destinationPortNumber, {
+                                              {"3520", "^^IdT0DC0"},
+                                              {"3521", "^^IdT0DC1"},
+                                              {"3522", "^^IdT0DC2"},
+                                              {"3523", "^^IdT0DC3"},
+                                              {" 3521x", "^^IdT0DC1"},
+                                              {"3522ü", "^^IdT0DC2"},
+                                          });
 }
 
-TEST(SerialNumberArgument, IsTheTextWithoutBlanksWhereverTheyStand) {
-    EXPECT_EQ(argumentForText(ValueForm::serialNumber, "00 1A 2B 3C 4D 5E"), "001A2B3C4D5E");
-    EXPECT_EQ(argumentForText(ValueForm::serialNumber, "  a:b  "), "a:b");
-    EXPECT_EQ(argumentForText(ValueForm::serialNumber, ""), "");
-}
-
-TEST(EditCommand, DestinationPortWithinItsRangeIsSent) {
-    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3520"), "^^IdT0DC0");
-    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3521"), "^^IdT0DC1");
-    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, "3523"), "^^IdT0DC3");
-}
-
-TEST(EditCommand, DestinationPortOutsideItsRangeBecomes3520) {
-    for (const char* typed : {"3524", "3519", "80", "-1", "70000", "port", "-3521"}) {
-        EXPECT_EQ(edit(UnitParameter::destinationPortNumber, typed), "^^IdT0DC0") << typed;
+TEST(EditCommand, AnyOtherDestinationPortIs3520) {
+    for (const std::string& typed :
+         {std::string("3519"), std::string("3524"), std::string("80"), std::string("-1"),
+          std::string("-3521"), std::string("70000"), std::string("port"), std::string("ü"),
+          std::string(), brokenText, longText, hostileText}) {
+        expectCommands(destinationPortNumber, {{typed, "^^IdT0DC0"}});
     }
 }
 
-TEST(EditCommand, DevicePortIsNotChecked) {
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "80"), "^^IdP0050");
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "10001"), "^^IdP2711");
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "70000"), "^^IdP11170");
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "-1"), "^^IdPFFFFFFFF");
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "port"), "^^IdP0000");
+TEST(EditCommand, ADevicePortIsNotChecked) {
+    expectCommands(devicePortNumber, {
+                                         {"10001", "^^IdP2711"},
+                                         {"80", "^^IdP0050"},
+                                         {"0", "^^IdP0000"},
+                                         {"65535", "^^IdPFFFF"},
+                                         {"65536", "^^IdP10000"},
+                                         {"70000", "^^IdP11170"},
+                                         {"-1", "^^IdPFFFFFFFF"},
+                                         {"-2", "^^IdPFFFFFFFE"},
+                                         {"12ab", "^^IdP000C"},
+                                         {"port", "^^IdP0000"},
+                                         {"Zürich", "^^IdP0000"},
+                                         {"", "^^IdP0000"},
+                                         {"99999999999", "^^IdP7FFFFFFF"},
+                                         {longText, "^^IdP7FFFFFFF"},
+                                         {hostileText, "^^IdP0000"},
+                                     });
 }
 
-TEST(EditCommand, NumbersAreReadAsFarAsTheirDigitsGo) {
-    EXPECT_EQ(edit(UnitParameter::destinationPortNumber, " 3521 or so"), "^^IdT0DC1");
-    EXPECT_EQ(edit(UnitParameter::devicePortNumber, "99999999999"), "^^IdP7FFFFFFF");
-}
-
-TEST(EditCommand, UnitIDThatBeginsWithADigitIsANumberOfTwelveDigits) {
-    EXPECT_EQ(edit(UnitParameter::unitID, "12"), "^^IdU00000000000C");
-    EXPECT_EQ(edit(UnitParameter::unitID, "7"), "^^IdU000000000007");
-    EXPECT_EQ(edit(UnitParameter::unitID, "7AB"), "^^IdU000000000007");
-    EXPECT_EQ(edit(UnitParameter::unitID, "0"), "^^IdU000000000000");
-    EXPECT_EQ(edit(UnitParameter::unitID, "99999999999"), "^^IdU00007FFFFFFF");
+TEST(EditCommand, AUnitIDThatBeginsWithADigitIsANumberOfTwelveDigits) {
+    expectCommands(unitID, {
+                               {"7", "^^IdU000000000007"},
+                               {"12", "^^IdU00000000000C"},
+                               {"7AB", "^^IdU000000000007"},
+                               {"0", "^^IdU000000000000"},
+                               {"99999999999", "^^IdU00007FFFFFFF"},
+                               {longText, "^^IdU00007FFFFFFF"},
+                           });
 }
 
 TEST(EditCommand, AnyOtherUnitIDIsItsBytesHoweverManyThereAre) {
-    EXPECT_EQ(edit(UnitParameter::unitID, "AB"), "^^IdU4142");
-    EXPECT_EQ(edit(UnitParameter::unitID, "seventh"), "^^IdU736576656E7468");
-    EXPECT_EQ(edit(UnitParameter::unitID, "\xC3\x84"), "^^IdUC384");
-    EXPECT_EQ(edit(UnitParameter::unitID, "-1"), "^^IdU2D31");
-    EXPECT_EQ(edit(UnitParameter::unitID, " 5"), "^^IdU2035");
+    std::string digits = "^^IdU";
+    for (int i = 0; i < 3000; ++i) {
+        digits += "41";
+    }
+    expectCommands(unitID, {
+                               {"AB", "^^IdU4142"},
+                               {"letters", "^^IdU6C657474657273"},
+                               {"-1", "^^IdU2D31"},
+                               {" 5", "^^IdU2035"},
+                               {"ü", "^^IdUC3BC"},
+                               {"a\tb", "^^IdU610962"},
+                               {"%n;$", "^^IdU256E3B24"},
+                               {"", "^^IdU"},
+                               {std::string(3000, 'A'), digits},
+                           });
 }
 
-TEST(EditCommand, UnitIDThatIsNotUTF8GivesNoCommand) {
-    EXPECT_EQ(editCommand(UnitParameter::unitID, "\xFFunit"), std::nullopt);
-    EXPECT_EQ(editCommand(UnitParameter::unitID, "5\xFF"), std::nullopt);
+TEST(EditCommand, AUnitIDThatIsNotUTF8GivesNone) {
+    EXPECT_EQ(editCommand(unitID, "\xFFunit"), std::nullopt);
+    EXPECT_EQ(editCommand(unitID, "5\xFF"), std::nullopt);
+    EXPECT_EQ(editCommand(unitID, brokenText), std::nullopt);
 }
 
-TEST(EditCommand, SerialNumberLosesItsBlanksWhereverTheyStand) {
-    EXPECT_EQ(edit(UnitParameter::serialNumber, "00 1A 2B 3C 4D 5E"), "^^IdS001A2B3C4D5E");
-    EXPECT_EQ(edit(UnitParameter::serialNumber, " 0  0\t:x "), "^^IdS00\t:x");
-}
-
-TEST(EditCommand, MACAddressesLoseTheirColonsAndKeepTheirCase) {
-    EXPECT_EQ(edit(UnitParameter::internalMACAddress, "00:1a:2B:3c:4D:5e"), "^^IdM001a2B3c4D5e");
-    EXPECT_EQ(edit(UnitParameter::internalMACAddress, "001A2B3C4D5E"), "^^IdM001A2B3C4D5E");
-    EXPECT_EQ(edit(UnitParameter::destinationMACAddress, "00:0A:0B:0C:0D:0E"), "^^IdC000A0B0C0D0E");
-    EXPECT_EQ(edit(UnitParameter::destinationMACAddress, "::no mac"), "^^IdCno mac");
-}
-
-TEST(EditCommand, AddressesAreEightDigitsFirstOctetFirst) {
-    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "192.168.1.10"), "^^IdIC0A8010A");
-    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "10.0.0.7"), "^^IdI0A000007");
-    EXPECT_EQ(edit(UnitParameter::destinationIPAddress, "192.168.1.20"), "^^IdDC0A80114");
-}
-
-TEST(EditCommand, AddressThatDoesNotParseIsEightZeros) {
-    EXPECT_EQ(edit(UnitParameter::internalIPAddress, "nowhere"), "^^IdI00000000");
-    EXPECT_EQ(edit(UnitParameter::destinationIPAddress, "1.2.3"), "^^IdD00000000");
+TEST(EditCommand, IsTheLetterOfTheParameterAndTheArgumentOfItsForm) {
+    for (const auto& row : parameterTable) {
+        EXPECT_EQ(editCommand(row.parameter, "3521"),
+                  std::string(commandPrefix) + row.commandLetter +
+                      argumentForText(row.form, "3521").value_or("(none)"))
+            << row.name;
+    }
+    EXPECT_EQ(argumentForText(ValueForm::none, "3521"), std::nullopt);
 }
 
 TEST(OptionCommand, WrapsTheWholeTextAndEndsWithACarriageReturn) {

@@ -47,11 +47,7 @@ TEST(EditForecast, ADestinationPortOutsideItsRangeSaysWhatIsSentInstead) {
                             "outside 3520 to 3523."},
             {"port", "Apply sends ^^IdT0DC0: destination port 3520, because “port” does not begin "
                      "with a number."},
-            {"-", "Apply sends ^^IdT0DC0: destination port 3520, because “-” does not begin with a "
-                  "number."},
             {"3521x", "Apply sends ^^IdT0DC1: destination port 3521, because that is how “3521x” "
-                      "is read."},
-            {"03521", "Apply sends ^^IdT0DC1: destination port 3521, because that is how “03521” "
                       "is read."},
         });
 }
@@ -201,6 +197,31 @@ TEST(EditForecast, WithoutAUnitOrItsAddressNothingElseIsSent) {
         }
         EXPECT_EQ(forecast(parameter, "", {}), "Apply sends nothing: the value is empty.");
     }
+}
+
+TEST(EditForecast, NothingIsSentForAParameterThatNoCommandChanges) {
+    EXPECT_EQ(forecastOfEdit(EditRefusal::notEditable, knownUnit()),
+              "Apply sends nothing: no command changes this parameter.");
+}
+
+TEST(EditForecast, NothingIsSentWhileTheListenerIsStopped) {
+    CommandTarget target = knownUnit();
+    target.isListening = false;
+    const std::string nothing = "Apply sends nothing: the UDP listener is not running.";
+    EXPECT_EQ(forecast(unitID, "7", target), nothing);
+    EXPECT_EQ(forecast(internalIPAddress, "10.0.0.7", target),
+              "Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E in the ARP cache, which needs "
+              "administrator rights. " +
+                  nothing);
+    EXPECT_EQ(forecast(unitID, "", target), "Apply sends nothing: the value is empty.");
+}
+
+TEST(EditForecast, ASerialNumberThatAnotherUnitHasIsSaidToBe) {
+    CommandTarget target = knownUnit();
+    target.newSerialNumberIsTaken = true;
+    EXPECT_EQ(forecast(serialNumber, "0a 0b 0c 0d 0e 0f", target),
+              "Apply sends ^^IdS0a0b0c0d0e0f: serial number 0a 0b 0c 0d 0e 0f, which another unit "
+              "has.");
 }
 
 TEST(EditForecast, AnOverlongValueMakesAShortNote) {

@@ -9,6 +9,8 @@
 namespace kx {
 
 TEST(SendFailureText, ARefusalSaysWhyNothingWasSent) {
+    EXPECT_EQ(noteOfRefusal(CommandRefusal::notEditable),
+              "Not sent: No command changes this parameter.");
     EXPECT_EQ(noteOfRefusal(CommandRefusal::emptyValue), "Not sent: The value is empty.");
     EXPECT_EQ(noteOfRefusal(CommandRefusal::notUTF8),
               "Not sent: The unit ID is not a text in UTF-8.");
