@@ -47,7 +47,7 @@ void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
         state.SkipWithError("the port is taken");
         return;
     }
-    systemCalls.tellLinks(echo->nativeSocket()); // as for a session with units
+    systemCalls.enablePacketInfo(echo->nativeSocket()); // as for a session with units
     timeBatches(state, [&] {
         const int wanted = counter.received + batch;
         while (counter.received < wanted) {

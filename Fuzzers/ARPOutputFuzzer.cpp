@@ -14,11 +14,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string output(textOfInput(data, size));
 
     const auto found = hwAddressStringInToolOutput(output);
-    promise(!found || output.find("at ") != std::string::npos, "an address stands behind \"at \"");
+    requireInvariant(!found || output.find("at ") != std::string::npos,
+                     "an address stands behind \"at \"");
     HardwareAddress address;
-    promise(!found || (address.setStringValue(*found) && address.stringValue() == *found),
-            "what is found is an address's own text");
-    promise(!found || hwAddressStringInToolOutput("at " + *found) == found,
-            "and is found again in a sentence of its own");
+    requireInvariant(!found || (address.setStringValue(*found) && address.stringValue() == *found),
+                     "what is found is an address's own text");
+    requireInvariant(!found || hwAddressStringInToolOutput("at " + *found) == found,
+                     "and is found again in a sentence of its own");
     return 0;
 }

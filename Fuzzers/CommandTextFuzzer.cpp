@@ -23,32 +23,36 @@ bool isHexadecimal(std::string_view text) {
 
 std::string argument(ValueForm form, std::string_view typed) {
     const auto argument = argumentForText(form, typed);
-    promise(argument.has_value(), "every text has an argument in this form");
+    requireInvariant(argument.has_value(), "every text has an argument in this form");
     return argument.value_or("");
 }
 
 void checkSentences(const std::string& sentences) {
-    promise(!sentences.empty() && sentences.size() < 1000, "a forecast is a few sentences");
-    promise(sentences.find_first_of("\r\n") == std::string::npos, "a sentence has no line breaks");
+    requireInvariant(!sentences.empty() && sentences.size() < 1000,
+                     "a forecast is a few sentences");
+    requireInvariant(sentences.find_first_of("\r\n") == std::string::npos,
+                     "a sentence has no line breaks");
 }
 
 void checkEdit(const ParameterEdit& edit, std::string_view typed) {
-    promise(edit.command.starts_with(commandPrefix), "a command begins with ^^Id");
-    promise(edit.command == editCommand(edit.parameter, typed), "an edit has its own command");
-    promise(edit.typed == typed, "an edit keeps what was typed");
+    requireInvariant(edit.command.starts_with(commandPrefix), "a command begins with ^^Id");
+    requireInvariant(edit.command == editCommand(edit.parameter, typed),
+                     "an edit has its own command");
+    requireInvariant(edit.typed == typed, "an edit keeps what was typed");
 
     // Units show six octets in upper case, and no zero bytes behind a text.
     const ValueForm form = descriptionOf(edit.parameter).form;
     const bool isCompared = form == ValueForm::ipv4Address || form == ValueForm::listeningPort ||
                             form == ValueForm::anyPort;
-    promise(!isCompared || !edit.shown.has_value() || edit.shown == edit.value,
-            "what is sent is what the unit should show");
-    promise(edit.change != ValueChange::none || edit.shown.has_value(),
-            "a value that was taken as it is can be shown");
+    requireInvariant(!isCompared || !edit.expectedText.has_value() ||
+                         edit.expectedText == edit.value,
+                     "what is sent is what the unit should show");
+    requireInvariant(edit.change != ValueChange::none || edit.expectedText.has_value(),
+                     "a value that was taken as it is can be shown");
 
     const EditOutcome outcome(edit, {});
-    promise(textOfEditOutcome(outcome).find_first_of("\r\n") == std::string::npos,
-            "an outcome has no line breaks");
+    requireInvariant(textOfEditOutcome(outcome).find_first_of("\r\n") == std::string::npos,
+                     "an outcome has no line breaks");
 }
 
 void checkParameter(UnitParameter parameter, std::string_view typed) {
@@ -56,8 +60,8 @@ void checkParameter(UnitParameter parameter, std::string_view typed) {
     if (const auto* const parameterEdit = std::get_if<ParameterEdit>(&edit)) {
         checkEdit(*parameterEdit, typed);
     } else {
-        promise(typed.empty() || !editCommand(parameter, typed).has_value(),
-                "an edit is refused when no command comes of it");
+        requireInvariant(typed.empty() || !editCommand(parameter, typed).has_value(),
+                         "an edit is refused when no command comes of it");
     }
     checkSentences(forecastOfEdit(edit, {.unitIsSelected = true,
                                          .address = "192.168.1.10",
@@ -76,25 +80,28 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const UnitParameter parameter : allUnitParameters) {
         checkParameter(parameter, typed);
     }
-    promise(argument(ValueForm::hardwareAddress, typed).find(':') == std::string::npos,
-            "no colon is left");
-    promise(argument(ValueForm::serialNumber, typed).find(' ') == std::string::npos,
-            "no blank is left");
+    requireInvariant(argument(ValueForm::hardwareAddress, typed).find(':') == std::string::npos,
+                     "no colon is left");
+    requireInvariant(argument(ValueForm::serialNumber, typed).find(' ') == std::string::npos,
+                     "no blank is left");
 
     const std::string address = argument(ValueForm::ipv4Address, typed);
-    promise(address.size() == 8 && isHexadecimal(address), "an address is eight digits");
+    requireInvariant(address.size() == 8 && isHexadecimal(address), "an address is eight digits");
     const std::string listeningPort = argument(ValueForm::listeningPort, typed);
-    promise(listeningPort >= "0DC0" && listeningPort <= "0DC3" && listeningPort.size() == 4,
-            "a destination port is 3520 to 3523");
+    requireInvariant(listeningPort >= "0DC0" && listeningPort <= "0DC3" &&
+                         listeningPort.size() == 4,
+                     "a destination port is 3520 to 3523");
     const std::string port = argument(ValueForm::anyPort, typed);
-    promise(port.size() >= 4 && port.size() <= 8 && isHexadecimal(port),
-            "a device port is four to eight digits");
+    requireInvariant(port.size() >= 4 && port.size() <= 8 && isHexadecimal(port),
+                     "a device port is four to eight digits");
     const auto unitID = argumentForText(ValueForm::unitID, typed);
-    promise(unitID.has_value() == isValidUTF8({data, size}) && (!unitID || isHexadecimal(*unitID)),
-            "a unit ID is digits when it is text");
+    requireInvariant(unitID.has_value() == isValidUTF8({data, size}) &&
+                         (!unitID || isHexadecimal(*unitID)),
+                     "a unit ID is digits when it is text");
 
-    promise(optionCommand(typed).ends_with('\r'), "an option command ends with a carriage return");
-    promise(optionTextForTitle(typed, std::tm{}).find("  ") == std::string::npos,
-            "an option's text has no two blanks");
+    requireInvariant(optionCommand(typed).ends_with('\r'),
+                     "an option command ends with a carriage return");
+    requireInvariant(optionTextForTitle(typed, std::tm{}).find("  ") == std::string::npos,
+                     "an option's text has no two blanks");
     return 0;
 }

@@ -106,10 +106,10 @@ void checkService(const ConfigurationRecords& records, const std::string& identi
     const auto* const saved = dictionaryAtPath(
         records.preferences, filledText("/NetworkServices/%@/Interface", {identifier}));
     const std::string* const device = textIn(live, kSCPropNetInterfaceDeviceName);
-    promise(device != nullptr && textIn(live, kSCPropUserDefinedName) != nullptr,
-            "every service has a device and a name");
-    promise(saved != nullptr && *saved == *live, "and is saved as it is");
-    promise(
+    requireInvariant(device != nullptr && textIn(live, kSCPropUserDefinedName) != nullptr,
+                     "every service has a device and a name");
+    requireInvariant(saved != nullptr && *saved == *live, "and is saved as it is");
+    requireInvariant(
         records.dynamicStore.contains(filledText("State:/Network/Interface/%@/Link", {*device})),
         "a device is a link");
 }
@@ -141,9 +141,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& identifier : order) {
         checkService(records, *identifier.text());
     }
-    promise(order.size() <= links.size() + profiles.size(), "no service comes from nothing");
-    promise(changedKeys(records, records).empty(), "what is equal has not changed");
-    promise(changedKeys({}, records).size() == records.dynamicStore.size(),
-            "what there was not before has changed");
+    requireInvariant(order.size() <= links.size() + profiles.size(),
+                     "no service comes from nothing");
+    requireInvariant(changedKeys(records, records).empty(), "what is equal has not changed");
+    requireInvariant(changedKeys({}, records).size() == records.dynamicStore.size(),
+                     "what there was not before has changed");
     return 0;
 }

@@ -50,15 +50,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         const std::size_t logged = controller.eventLog().size();
         systemCalls.queueDatagram(datagram, sender);
         runLoop.makeReadable(systemCalls.lastDescriptor());
-        promise(controller.eventLog().size() > logged, "every datagram leaves a line in the log");
+        requireInvariant(controller.eventLog().size() > logged,
+                         "every datagram leaves a line in the log");
     }
     runLoop.advanceBy(std::chrono::seconds(3));
 
-    promise(controller.devices().size() <= datagrams.size(),
-            "a datagram registers one unit at most");
-    promise(controller.selectedUnit().has_value() == !controller.devices().empty(),
-            "a completed discovery selects a unit when there is one");
+    requireInvariant(controller.devices().size() <= datagrams.size(),
+                     "a datagram registers one unit at most");
+    requireInvariant(controller.selectedUnit().has_value() == !controller.devices().empty(),
+                     "a completed discovery selects a unit when there is one");
     controller.applicationWillTerminate();
-    promise(systemCalls.openDescriptors().empty(), "no descriptor is left open");
+    requireInvariant(systemCalls.openDescriptors().empty(), "no descriptor is left open");
     return 0;
 }

@@ -22,9 +22,10 @@ constexpr std::string_view editedUnit = "00 01 02 03 04 05";
 
 void checkText(const EditOutcome& outcome) {
     const std::string text = textOfEditOutcome(outcome);
-    promise(text.ends_with('.') && text.size() < 1000, "an outcome is a few sentences");
-    promise(text.find_first_of("\r\n") == std::string::npos, "an outcome has no line breaks");
-    promise(isValidUTF8(bytesOfText(text)), "an outcome is text");
+    requireInvariant(text.ends_with('.') && text.size() < 1000, "an outcome is a few sentences");
+    requireInvariant(text.find_first_of("\r\n") == std::string::npos,
+                     "an outcome has no line breaks");
+    requireInvariant(isValidUTF8(bytesOfText(text)), "an outcome is text");
 }
 
 UnitRecord recordOfReply(ByteView list) {
@@ -36,22 +37,25 @@ UnitRecord recordOfReply(ByteView list) {
 }
 
 std::string_view shownBy(const UnitRecord& record, UnitParameter parameter) {
-    return withoutZeroBytesAtTheEnd(record.value(parameter).value_or(""));
+    return withoutTrailingZeroBytes(record.value(parameter).value_or(""));
 }
 
 void checkReply(const EditOutcome& outcome, const UnitRecord& record) {
     const UnitParameter parameter = outcome.edit().parameter;
     const bool isTold = record.value(parameter).has_value();
-    promise(isTold == (outcome.state() != EditState::untold), "what is not told is known as such");
-    promise(isTold == outcome.shownValue().has_value(), "a value is shown when it is told");
-    promise(!isTold || outcome.shownValue() == shownBy(record, parameter),
-            "the value that is shown is the one that was told");
-    const bool isShown = isTold && outcome.edit().shown == shownBy(record, parameter);
-    promise(isShown == (outcome.state() == EditState::shown), "a value that shows was taken over");
+    requireInvariant(isTold == (outcome.state() != EditState::notReported),
+                     "what is not told is known as such");
+    requireInvariant(isTold == outcome.shownValue().has_value(),
+                     "a value is shown when it is told");
+    requireInvariant(!isTold || outcome.shownValue() == shownBy(record, parameter),
+                     "the value that is shown is the one that was told");
+    const bool isShown = isTold && outcome.edit().expectedText == shownBy(record, parameter);
+    requireInvariant(isShown == (outcome.state() == EditState::shown),
+                     "a value that shows was taken over");
     const bool saysOtherwise =
         textOfEditOutcome(outcome).find("not what was sent") != std::string::npos;
-    promise(saysOtherwise == (outcome.state() == EditState::different),
-            "a value that is another one, and no other, is not what was sent");
+    requireInvariant(saysOtherwise == (outcome.state() == EditState::different),
+                     "a value that is another one, and no other, is not what was sent");
 }
 
 // Everything that can happen to an edit that was sent.
@@ -59,12 +63,12 @@ void followSentEdit(const ParameterEdit& edit, const EditOutcome::Unit& unit,
                     const UnitRecord& record) {
     EditOutcome outcome(edit, unit);
     checkText(outcome);
-    promise(outcome.unitDidAccept(editedUnit, std::nullopt), "its unit accepts");
+    requireInvariant(outcome.unitDidAccept(editedUnit, std::nullopt), "its unit accepts");
     checkText(outcome);
-    promise(outcome.unitDidTell(editedUnit, record), "its unit tells");
+    requireInvariant(outcome.unitDidTell(editedUnit, record), "its unit tells");
     checkText(outcome);
     checkReply(outcome, record);
-    promise(!outcome.unitDidAccept(editedUnit, std::nullopt), "a unit accepts once");
+    requireInvariant(!outcome.unitDidAccept(editedUnit, std::nullopt), "a unit accepts once");
     checkReply(outcome, record);
 
     EditOutcome asBefore(edit,
@@ -72,7 +76,7 @@ void followSentEdit(const ParameterEdit& edit, const EditOutcome::Unit& unit,
                           .valueBefore = std::optional<std::string>(record.value(edit.parameter))});
     asBefore.unitDidTell(editedUnit, record);
     checkText(asBefore);
-    promise(asBefore.state() != EditState::different, "the value before is no other one");
+    requireInvariant(asBefore.state() != EditState::different, "the value before is no other one");
 
     EditOutcome unasked(edit, unit);
     unasked.unitDidAccept(editedUnit, SendFailure{posixError(ENETUNREACH)});
@@ -86,10 +90,11 @@ void followForeignReply(const ParameterEdit& edit, const EditOutcome::Unit& unit
     const auto serial = record.value(UnitParameter::serialNumber);
     const bool isTaken =
         serial.has_value() && serial != editedUnit && outcome.unitDidTell(*serial, record);
-    promise(!isTaken || (edit.parameter == UnitParameter::serialNumber && serial == edit.shown),
-            "another unit's reply is not taken for this one's");
-    promise(isTaken || serial == editedUnit || outcome.state() == EditState::pending,
-            "another unit's reply changes nothing");
+    requireInvariant(
+        !isTaken || (edit.parameter == UnitParameter::serialNumber && serial == edit.expectedText),
+        "another unit's reply is not taken for this one's");
+    requireInvariant(isTaken || serial == editedUnit || outcome.state() == EditState::pending,
+                     "another unit's reply changes nothing");
     checkText(outcome);
 }
 
@@ -110,7 +115,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const UnitRecord record = recordOfReply(input.subspan(std::min(typedLength + 1, input.size())));
     const auto made = editOfParameter(parameter, *typed);
     const auto* const edit = std::get_if<ParameterEdit>(&made);
-    promise(edit != nullptr, "every text makes an edit of every parameter");
+    requireInvariant(edit != nullptr, "every text makes an edit of every parameter");
     if (edit != nullptr) {
         const EditOutcome::Unit unit{.serialNumber = std::string(editedUnit)};
         followSentEdit(*edit, unit, record);

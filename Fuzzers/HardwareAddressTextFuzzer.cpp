@@ -16,26 +16,27 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     HardwareAddress::Octets octets{};
     const bool isParsed = eaForString(text, octets);
     HardwareAddress address;
-    promise(address.setStringValue(text) == isParsed, "both parsers take the same texts");
+    requireInvariant(address.setStringValue(text) == isParsed, "both parsers take the same texts");
     if (isParsed) {
-        promise(address.stringValue() == stringForEA(octets), "and read the same octets");
+        requireInvariant(address.stringValue() == stringForEA(octets), "and read the same octets");
         HardwareAddress again;
-        promise(again.setStringValue(address.stringValue()), "an address's own text parses");
-        promise(again.stringValue() == address.stringValue(), "and is the same address");
+        requireInvariant(again.setStringValue(address.stringValue()),
+                         "an address's own text parses");
+        requireInvariant(again.stringValue() == address.stringValue(), "and is the same address");
     }
 
     std::array<std::uint8_t, longestHardwareAddress> groups{};
     std::size_t count = 0;
     const bool isGrouped = ha16ForString(text, groups, count);
-    promise(isGrouped ? count == 6 || count == 8 : count == 0,
-            "there are six groups, eight, or none that count");
+    requireInvariant(isGrouped ? count == 6 || count == 8 : count == 0,
+                     "there are six groups, eight, or none that count");
     if (isGrouped) {
         std::array<std::uint8_t, longestHardwareAddress> again{};
         std::size_t countAgain = 0;
-        promise(ha16ForString(stringForHA16(groups, count), again, countAgain) &&
-                    countAgain == count &&
-                    stringForHA16(again, count) == stringForHA16(groups, count),
-                "the groups' own text parses back");
+        requireInvariant(ha16ForString(stringForHA16(groups, count), again, countAgain) &&
+                             countAgain == count &&
+                             stringForHA16(again, count) == stringForHA16(groups, count),
+                         "the groups' own text parses back");
     }
     return 0;
 }

@@ -17,13 +17,14 @@ void readTable(ByteView bytes) {
     Table table;
     PropertyListDecoder decoder(bytes);
     if (!table.initWithCoder(decoder, GXStateEntry::entryFromDictionary)) {
-        promise(table.description() == Table().description(), "a table not read stays empty");
+        requireInvariant(table.description() == Table().description(),
+                         "a table not read stays empty");
         return;
     }
     PropertyListEncoder encoder;
-    promise(table.encodeWithCoder(encoder), "a table that was read can be written");
-    promise(std::equal(encoder.bytes().begin(), encoder.bytes().end(), bytes.begin()),
-            "a table's own bytes are the bytes read");
+    requireInvariant(table.encodeWithCoder(encoder), "a table that was read can be written");
+    requireInvariant(std::equal(encoder.bytes().begin(), encoder.bytes().end(), bytes.begin()),
+                     "a table's own bytes are the bytes read");
 }
 
 } // namespace
@@ -33,12 +34,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     PropertyListDecoder decoder(bytes);
     PropertyListEncoder encoder;
     while (const auto object = decoder.decodeObject()) {
-        promise(encoder.encodeObject(*object), "what was read can be written");
+        requireInvariant(encoder.encodeObject(*object), "what was read can be written");
     }
-    promise(encoder.bytes().size() <= size &&
-                std::equal(encoder.bytes().begin(), encoder.bytes().end(), bytes.begin()),
-            "every value has one form");
-    promise(!decoder.isAtEnd() || encoder.bytes().size() == size, "the end is the end");
+    requireInvariant(encoder.bytes().size() <= size &&
+                         std::equal(encoder.bytes().begin(), encoder.bytes().end(), bytes.begin()),
+                     "every value has one form");
+    requireInvariant(!decoder.isAtEnd() || encoder.bytes().size() == size, "the end is the end");
 
     readTable<GXArrayTable>(bytes);
     readTable<GXDictionaryTable>(bytes);

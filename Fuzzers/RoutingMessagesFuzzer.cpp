@@ -35,14 +35,14 @@ void askEverything(ByteView list) {
     const auto upTitles = configuration.bsdTitlesAndServiceIDs(&upServiceIDs);
     std::vector<std::string> serviceIDs;
     const auto titles = configuration.interfaceTitlesAndServiceIDs(&serviceIDs);
-    promise(!titles || titles->size() == serviceIDs.size(), "each title has its service");
-    promise(upServiceIDs.size() <= serviceIDs.size(), "what is up is listed in any case");
+    requireInvariant(!titles || titles->size() == serviceIDs.size(), "each title has its service");
+    requireInvariant(upServiceIDs.size() <= serviceIDs.size(), "what is up is listed in any case");
     for (const auto& serviceID : serviceIDs) {
-        promise(serviceID.starts_with('=') && isText(serviceID.substr(1)),
-                "a name is a text that is not empty");
+        requireInvariant(serviceID.starts_with('=') && isText(serviceID.substr(1)),
+                         "a name is a text that is not empty");
         for (const auto request : requests) {
-            promise(isText(configuration.serviceInterfaceDataForKey(serviceID, request)),
-                    "every question has a text for an answer");
+            requireInvariant(isText(configuration.serviceInterfaceDataForKey(serviceID, request)),
+                             "every question has a text for an answer");
         }
     }
 }
@@ -52,11 +52,11 @@ void splitSocketAddresses(ByteView bytes) {
     const std::uint8_t presenceMask = bytes.empty() ? 0 : bytes.front();
     get_rtaddrs(presenceMask, bytes, slots);
     for (std::size_t i = 0; i < slots.size(); ++i) {
-        promise(slots[i].has_value() == ((presenceMask >> i & 1U) != 0),
-                "a slot is filled exactly when its bit is set");
-        promise(!slots[i] || slots[i]->empty() ||
-                    slots[i]->data() + slots[i]->size() == bytes.data() + bytes.size(),
-                "a slot reaches to the end of the message");
+        requireInvariant(slots[i].has_value() == ((presenceMask >> i & 1U) != 0),
+                         "a slot is filled exactly when its bit is set");
+        requireInvariant(!slots[i] || slots[i]->empty() ||
+                             slots[i]->data() + slots[i]->size() == bytes.data() + bytes.size(),
+                         "a slot reaches to the end of the message");
     }
 }
 

@@ -51,15 +51,15 @@ bool isSame(const Endpoint& one, const Endpoint& other) {
 void send(UnitNetwork& network, ByteView frame, UdpChecksum checksum) {
     if (const auto read = readDatagram(frame, checksum)) {
         const auto again = readDatagram(datagramFrame(*read), UdpChecksum::complete);
-        promise(again && isSame(again->source, read->source) &&
-                    isSame(again->destination, read->destination) &&
-                    again->payload == read->payload,
-                "a datagram is the same in a frame of our own");
+        requireInvariant(again && isSame(again->source, read->source) &&
+                             isSame(again->destination, read->destination) &&
+                             again->payload == read->payload,
+                         "a datagram is the same in a frame of our own");
     }
     for (const OutgoingFrame& answer : network.receive(frame, checksum)) {
-        promise(readDatagram(answer.bytes, UdpChecksum::complete).has_value() ||
-                    shortAt(answer.bytes, 12) == 0x0806,
-                "a unit sends whole datagrams, and ARP");
+        requireInvariant(readDatagram(answer.bytes, UdpChecksum::complete).has_value() ||
+                             shortAt(answer.bytes, 12) == 0x0806,
+                         "a unit sends whole datagrams, and ARP");
     }
 }
 
@@ -79,9 +79,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                         .destination = {broadcastHardware, 0xFFFFFFFF, commonPort},
                         .payload = Bytes(input.begin(), input.end())}),
          UdpChecksum::complete);
-    promise(heard == network.units().size(), "every unit hears what is sent to all");
+    requireInvariant(heard == network.units().size(), "every unit hears what is sent to all");
     for (const SimulatedUnit& unit : network.units()) {
-        promise(unit.parameterReply().size() == 81, "a parameter reply has 81 bytes");
+        requireInvariant(unit.parameterReply().size() == 81, "a parameter reply has 81 bytes");
     }
     return 0;
 }

@@ -14,14 +14,16 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (family == addressFamilyIPv4) {
         std::uint32_t againAddress = 0;
         std::uint16_t againPort = 0;
-        promise(addressForData(dataForAddress(address, port), againAddress, address6, &againPort) ==
-                    addressFamilyIPv4,
-                "a rebuilt record has the same family");
-        promise(address == againAddress && port == againPort, "a rebuilt record says the same");
+        requireInvariant(addressForData(dataForAddress(address, port), againAddress, address6,
+                                        &againPort) == addressFamilyIPv4,
+                         "a rebuilt record has the same family");
+        requireInvariant(address == againAddress && port == againPort,
+                         "a rebuilt record says the same");
     } else if (family == addressFamilyIPv6) {
-        promise(address == 1, "an IPv6 record leaves the IPv4 output alone");
+        requireInvariant(address == 1, "an IPv6 record leaves the IPv4 output alone");
     } else {
-        promise(family == 0 && address == 0 && port == 0, "anything else reads as nothing");
+        requireInvariant(family == 0 && address == 0 && port == 0,
+                         "anything else reads as nothing");
     }
     return 0;
 }

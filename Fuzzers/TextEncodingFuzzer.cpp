@@ -13,25 +13,29 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text = textOfInput(data, size);
 
     const auto decoded = textFromUTF8(bytes);
-    promise(decoded.has_value() == isValidUTF8(bytes), "bytes have a text when they are valid");
-    promise(!decoded || *decoded == text, "decoding changes no byte");
+    requireInvariant(decoded.has_value() == isValidUTF8(bytes),
+                     "bytes have a text when they are valid");
+    requireInvariant(!decoded || *decoded == text, "decoding changes no byte");
 
     const std::size_t whole = lengthOfWholeCharacters(bytes);
-    promise(whole <= size && size - whole <= 3, "only the front of one character is held back");
-    promise(!decoded || whole == size, "a text has no such front");
+    requireInvariant(whole <= size && size - whole <= 3,
+                     "only the front of one character is held back");
+    requireInvariant(!decoded || whole == size, "a text has no such front");
 
     const auto ascii = asciiBytes(text);
-    promise(!ascii || decoded, "ASCII is UTF-8");
-    promise(!ascii || lengthInCharacters(text) == size, "an ASCII byte is one character");
-    promise(lengthInCharacters(text) <= size, "no character is shorter than a byte");
+    requireInvariant(!ascii || decoded, "ASCII is UTF-8");
+    requireInvariant(!ascii || lengthInCharacters(text) == size, "an ASCII byte is one character");
+    requireInvariant(lengthInCharacters(text) <= size, "no character is shorter than a byte");
 
     const std::int32_t number = integerValue(text);
-    promise(integerValue(std::to_string(number)) == number, "a number's own text reads back");
+    requireInvariant(integerValue(std::to_string(number)) == number,
+                     "a number's own text reads back");
 
     // One byte splits the input into a message and its arguments.
     const std::size_t half = size / 2;
     const std::string filled =
         filledText(text.substr(0, half), {text.substr(half), number, std::optional<std::string>()});
-    promise(filled.size() <= 4 * size + 64, "a message grows by its three arguments at most");
+    requireInvariant(filled.size() <= 4 * size + 64,
+                     "a message grows by its three arguments at most");
     return 0;
 }

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Simulator/FactorySettings.h"
-#include "Simulator/Faults.h"
+#include "Simulator/FaultInjector.h"
 
 #include <span>
 #include <stdexcept>

@@ -10,7 +10,7 @@
 
 #pragma once
 
-#include "Simulator/Faults.h"
+#include "Simulator/FaultInjector.h"
 #include "Simulator/Frame.h"
 #include "Simulator/SimulatedUnit.h"
 
@@ -41,7 +41,7 @@ public:
     std::vector<OutgoingFrame> unsolicitedReplies(std::size_t count);
 
     // Ends all faults of replies.
-    void beHonest() { _faults = Faults({}); }
+    void endFaults() { _faults = FaultInjector({}); }
 
     const std::vector<SimulatedUnit>& units() const { return _units; }
 
@@ -55,7 +55,7 @@ private:
     void moveUnit(std::size_t unit, const UnitSettings& before, Frames& frames);
 
     std::vector<SimulatedUnit> _units;
-    Faults _faults;
+    FaultInjector _faults;
     Observer _observer;
 
     // Several units may hold the same address, as in a misconfigured network.

@@ -2,7 +2,7 @@
 
 #include "Simulator/CommandRecord.h"
 #include "Simulator/DelayedFrames.h"
-#include "Simulator/Pace.h"
+#include "Simulator/EventRate.h"
 #include "Simulator/PacketLink.h"
 #include "Simulator/UnitNetwork.h"
 
@@ -26,9 +26,9 @@ using Clock = std::chrono::steady_clock;
 constexpr std::size_t mostDelayedFrames = 200'000;
 
 // The signals that give the process its orders, as a descriptor to wait for and to read.
-class Orders {
+class ProcessSignals {
 public:
-    Orders() {
+    ProcessSignals() {
         sigset_t signals;
         ::sigemptyset(&signals);
         for (const int signal : {SIGINT, SIGTERM, SIGUSR1, SIGUSR2}) {
@@ -40,9 +40,9 @@ public:
             throw std::system_error(errno, std::generic_category(), "watch for signals");
         }
     }
-    ~Orders() { ::close(_descriptor); }
-    Orders(const Orders&) = delete;
-    Orders& operator=(const Orders&) = delete;
+    ~ProcessSignals() { ::close(_descriptor); }
+    ProcessSignals(const ProcessSignals&) = delete;
+    ProcessSignals& operator=(const ProcessSignals&) = delete;
 
     int descriptor() const { return _descriptor; }
 
@@ -111,8 +111,8 @@ private:
     bool followOrders() {
         while (const auto order = _orders.take()) {
             if (*order == SIGUSR1) {
-                _network.beHonest();
-                _flood = Pace(0, Clock::now());
+                _network.endFaults();
+                _flood = EventRate(0, Clock::now());
             } else if (*order == SIGUSR2) {
                 recordStates();
             } else {
@@ -162,10 +162,10 @@ private:
     }
 
     CommandRecord& _record;
-    Orders _orders;
+    ProcessSignals _orders;
     PacketLink _link;
     UnitNetwork _network;
-    Pace _flood;
+    EventRate _flood;
     DelayedFrames _delayed{mostDelayedFrames};
 };
 

@@ -105,7 +105,7 @@ int DatagramSystemCalls::enableBroadcast(int descriptor) {
     return ::setsockopt(descriptor, SOL_SOCKET, SO_BROADCAST, &on, sizeof on);
 }
 
-int DatagramSystemCalls::tellLinks(int descriptor) {
+int DatagramSystemCalls::enablePacketInfo(int descriptor) {
     const std::int32_t on = 1;
     return ::setsockopt(descriptor, IPPROTO_IP, IP_PKTINFO, &on, sizeof on);
 }

@@ -53,7 +53,7 @@ public:
 
     // setsockopt(2): IP_PKTINFO at level IPPROTO_IP, the 4-byte integer 1 (ip(7)). 0, or -1. After
     // that receiveFrom() tells the link.
-    virtual int tellLinks(int descriptor);
+    virtual int enablePacketInfo(int descriptor);
 
     // sendto(2) of the whole of `data`, flags 0, to an IPv4 record. When `addressRecord` is absent,
     // the datagram goes to the peer of a connected socket. The bytes sent, or -1.

@@ -67,7 +67,7 @@ public:
 
         // May be null. The listener then keeps the buffer that it begins with, and lost datagrams
         // are not reported.
-        ReceiveBuffers* receiveBuffers = nullptr;
+        ReceiveBufferControl* receiveBuffers = nullptr;
 
         // Returns whether the help has the page, so that a message can say why it did not open.
         // When this is empty, every page counts as present.
@@ -202,7 +202,7 @@ private:
     void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
                                const DatagramOrigin& origin) override;
     void unitDidAccept(const Reply& reply, const DatagramOrigin& origin) override;
-    void unitDidSay(const Reply& reply, const DatagramOrigin& origin) override;
+    void unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) override;
     void sessionDidReceiveError(const Error& error) override;
     void sessionDidSend() override;
     void sessionDidFailToSend(const SendFailure& failure) override;

@@ -92,7 +92,7 @@ void KXConfigAppDelegate::edit_devicePort() {
 
 void KXConfigAppDelegate::edit_unitID() {
     if (!editCommand(UnitParameter::unitID, editedValue()).has_value()) {
-        appendString(entryOfUnitIDThatIsNoText());
+        appendString(entryOfUndecodableUnitID());
     }
     sendEdit(UnitParameter::unitID);
 }
@@ -151,8 +151,8 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
 }
 
 bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) const {
-    return edit.parameter == UnitParameter::serialNumber && edit.shown.has_value() &&
-           edit.shown != _selectedUnit && _devicesD.find(*edit.shown) != nullptr;
+    return edit.parameter == UnitParameter::serialNumber && edit.expectedText.has_value() &&
+           edit.expectedText != _selectedUnit && _devicesD.find(*edit.expectedText) != nullptr;
 }
 
 std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,

@@ -2,7 +2,7 @@
 #include "addresses/IPv4Address.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
-#include "words/DropNote.h"
+#include "words/DroppedDatagramsText.h"
 #include "words/EventLogEntries.h"
 
 #include <utility>
@@ -106,7 +106,8 @@ void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin
     appendString(entryOfReply(reply, ""));
 }
 
-void KXConfigAppDelegate::unitDidSay(const Reply& reply, const DatagramOrigin& /*origin*/) {
+void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
+                                                const DatagramOrigin& /*origin*/) {
     appendString(entryOfReply(reply, textFromUTF8(reply.payload)));
 }
 
@@ -123,7 +124,7 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 }
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
-    _outlets.dropLine->setStringValue(noteOfDrops(datagrams));
+    _outlets.dropLine->setStringValue(textOfDroppedDatagrams(datagrams));
 }
 
 // --- The endpoint's events ---

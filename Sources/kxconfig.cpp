@@ -6,7 +6,7 @@
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
-#include "platform/linux/LinuxReceiveBuffers.h"
+#include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
@@ -44,7 +44,7 @@ int main(int argc, char* argv[]) {
     kx::QtRunLoop runLoop;
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
-    kx::LinuxReceiveBuffers receiveBuffers;
+    kx::LinuxReceiveBufferControl receiveBuffers;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
     kx::QtHelpServices helpServices(kx::installedResourceFolder());

@@ -533,12 +533,12 @@
         <translation>Geräte-ID %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
         <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
     </message>

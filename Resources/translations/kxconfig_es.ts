@@ -533,12 +533,12 @@
         <translation>identificador de unidad %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
         <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
     </message>

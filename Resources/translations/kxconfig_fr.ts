@@ -533,12 +533,12 @@
         <translation>identifiant d’unité %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
         <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
     </message>

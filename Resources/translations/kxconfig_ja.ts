@@ -533,12 +533,12 @@
         <translation>ユニット ID %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
         <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DropNote.cpp"/>
+        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
     </message>

@@ -13,7 +13,7 @@ EditOutcome::EditOutcome(ParameterEdit edit, Unit unit, std::optional<SendFailur
 bool EditOutcome::unitDidAccept(std::string_view serialNumber,
                                 std::optional<SendFailure> requestFailure) {
     const bool isNewNumber = _edit.parameter == UnitParameter::serialNumber &&
-                             serialNumber == _edit.shown && !_unit.newSerialNumberIsTaken;
+                             serialNumber == _edit.expectedText && !_unit.newSerialNumberIsTaken;
     if (_state == EditState::notSent || _hasAccepted ||
         (serialNumber != _unit.serialNumber && !isNewNumber)) {
         return false;
@@ -31,13 +31,13 @@ bool EditOutcome::unitDidTell(std::string_view serialNumber, const UnitRecord& r
     const auto found = record.value(_edit.parameter);
     if (!found.has_value()) {
         _shownValue.reset();
-        _state = EditState::untold;
+        _state = EditState::notReported;
         return true;
     }
-    _shownValue = withoutZeroBytesAtTheEnd(*found);
-    _state = _shownValue == _edit.shown   ? EditState::shown
-             : found == _unit.valueBefore ? EditState::unchanged
-                                          : EditState::different;
+    _shownValue = withoutTrailingZeroBytes(*found);
+    _state = _shownValue == _edit.expectedText ? EditState::shown
+             : found == _unit.valueBefore      ? EditState::unchanged
+                                               : EditState::different;
     return true;
 }
 
@@ -45,7 +45,7 @@ bool EditOutcome::isFromUnit(std::string_view serialNumber, const UnitRecord& re
     if (serialNumber == _unit.serialNumber) {
         return true;
     }
-    if (_edit.parameter != UnitParameter::serialNumber || serialNumber != _edit.shown) {
+    if (_edit.parameter != UnitParameter::serialNumber || serialNumber != _edit.expectedText) {
         return false;
     }
     const auto hardwareAddress = record.value(UnitParameter::internalMACAddress);

@@ -22,13 +22,13 @@
 namespace kx {
 
 enum class EditState {
-    notSent,   // the network refused the command
-    pending,   // sent, and nothing heard since
-    accepted,  // the unit accepted a command
-    shown,     // the unit shows the value
-    unchanged, // the unit shows the value that it had
-    different, // the unit shows another value
-    untold,    // the unit's parameters do not include this one
+    notSent,     // the network refused the command
+    pending,     // sent, and nothing heard since
+    accepted,    // the unit accepted a command
+    shown,       // the unit shows the value
+    unchanged,   // the unit shows the value that it had
+    different,   // the unit shows another value
+    notReported, // the unit's parameters do not include this one
 };
 
 class EditOutcome {

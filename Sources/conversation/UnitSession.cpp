@@ -31,7 +31,8 @@ void UnitSessionObserver::unitDidTellParameters(const Reply& /*reply*/,
                                                 const DecodedUnitParameters& /*parameters*/,
                                                 const DatagramOrigin& /*origin*/) {}
 void UnitSessionObserver::unitDidAccept(const Reply& /*reply*/, const DatagramOrigin& /*origin*/) {}
-void UnitSessionObserver::unitDidSay(const Reply& /*reply*/, const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::unitDidSendOtherReply(const Reply& /*reply*/,
+                                                const DatagramOrigin& /*origin*/) {}
 void UnitSessionObserver::sessionDidReceiveError(const Error& /*error*/) {}
 void UnitSessionObserver::sessionDidSend() {}
 void UnitSessionObserver::sessionDidFailToSend(const SendFailure& /*failure*/) {}
@@ -106,7 +107,8 @@ void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
         if (_services.receiveBuffers != nullptr) {
             _services.receiveBuffers->enlarge(descriptor, wantedReceiveBuffer);
         }
-        _services.systemCalls.tellLinks(descriptor); // when refused, events come without the link
+        _services.systemCalls.enablePacketInfo(
+            descriptor); // when refused, events come without the link
         if (_services.systemCalls.enableBroadcast(descriptor) == 0) {
             _observer.sessionCanBroadcast();
         } else {
@@ -157,7 +159,7 @@ void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin&
         break;
     case PayloadKind::none:
     case PayloadKind::other:
-        _observer.unitDidSay(reply, origin);
+        _observer.unitDidSendOtherReply(reply, origin);
         break;
     }
 }

@@ -12,7 +12,7 @@
 
 #pragma once
 
-#include "ReceiveBuffers.h"
+#include "ReceiveBufferControl.h"
 #include "UDPEcho.h"
 #include "support/RunLoop.h"
 #include "units/ParameterList.h"
@@ -63,7 +63,7 @@ public:
     // The unit accepted a command; it does not say which.
     virtual void unitDidAccept(const Reply& reply, const DatagramOrigin& origin);
 
-    virtual void unitDidSay(const Reply& reply, const DatagramOrigin& origin);
+    virtual void unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin);
 
     // A read failed; the session goes on.
     virtual void sessionDidReceiveError(const Error& error);
@@ -85,7 +85,7 @@ public:
 
         // May be null. The listener then keeps the buffer that it begins with, and lost datagrams
         // are not reported.
-        ReceiveBuffers* receiveBuffers = nullptr;
+        ReceiveBufferControl* receiveBuffers = nullptr;
     };
 
     UnitSession(const Services& services, UnitRegistry& registry, UnitSessionObserver& observer);

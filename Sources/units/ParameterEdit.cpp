@@ -51,7 +51,7 @@ void takeOctets(ParameterEdit& edit, std::string_view separator) {
     } else if (edit.value.size() != 2 * identityLength) {
         edit.change = ValueChange::wrongLength;
     } else {
-        edit.shown = hexStringForData(sixBytesOfDigits(edit.value), separator);
+        edit.expectedText = hexStringForData(sixBytesOfDigits(edit.value), separator);
         edit.value = grouped(edit.value, separator);
     }
 }
@@ -71,7 +71,7 @@ bool isReadAsZero(std::string_view typed) {
 void takeAddress(ParameterEdit& edit) {
     const std::uint32_t address = ipForString(edit.typed);
     edit.value = stringForIP(address);
-    edit.shown = edit.value;
+    edit.expectedText = edit.value;
     if (edit.value == edit.typed) {
         return;
     }
@@ -82,7 +82,7 @@ void takeAddress(ParameterEdit& edit) {
 // Takes a port. The command carries `sent` for the number that was typed.
 void takePort(ParameterEdit& edit, std::int32_t sent, bool isInRange) {
     edit.value = std::to_string(sent);
-    if (numberInFront(edit.typed).empty()) {
+    if (leadingNumber(edit.typed).empty()) {
         edit.change = ValueChange::notANumber;
     } else if (!isInRange) {
         edit.change = ValueChange::outOfRange;
@@ -94,7 +94,7 @@ void takePort(ParameterEdit& edit, std::int32_t sent, bool isInRange) {
 void takeListeningPort(ParameterEdit& edit) {
     const std::int32_t sent = listeningPortForText(edit.typed);
     takePort(edit, sent, sent == integerValue(edit.typed));
-    edit.shown = edit.value;
+    edit.expectedText = edit.value;
 }
 
 void takeAnyPort(ParameterEdit& edit) {
@@ -102,7 +102,7 @@ void takeAnyPort(ParameterEdit& edit) {
     const bool isPort = sent >= 0 && sent <= highestPort;
     takePort(edit, sent, isPort);
     if (isPort) {
-        edit.shown = edit.value;
+        edit.expectedText = edit.value;
     }
 }
 
@@ -110,7 +110,7 @@ void takeUnitNumber(ParameterEdit& edit) {
     const std::int32_t number = integerValue(edit.typed);
     edit.value = std::to_string(number);
     if (const auto text = unitIDforData(sixBytesOfDigits(argumentOf(edit)))) {
-        edit.shown = withoutZeroBytesAtTheEnd(*text);
+        edit.expectedText = withoutTrailingZeroBytes(*text);
     }
     if (number > highestUnitNumber) {
         edit.change = ValueChange::notShown;
@@ -125,7 +125,7 @@ void takeUnitID(ParameterEdit& edit) {
         return;
     }
     edit.value = edit.typed;
-    edit.shown = withoutZeroBytesAtTheEnd(edit.typed);
+    edit.expectedText = withoutTrailingZeroBytes(edit.typed);
     if (edit.typed.size() != identityLength) {
         edit.change = ValueChange::wrongLength;
     }
@@ -170,7 +170,7 @@ std::variant<ParameterEdit, EditRefusal> editOfParameter(UnitParameter parameter
     return edit;
 }
 
-std::string_view numberInFront(std::string_view typed) {
+std::string_view leadingNumber(std::string_view typed) {
     typed.remove_prefix(std::min(typed.find_first_not_of(" \t\n\v\f\r"), typed.size()));
     std::size_t end = typed.starts_with('-') || typed.starts_with('+') ? 1 : 0;
     const std::size_t firstDigit = end;
@@ -180,7 +180,7 @@ std::string_view numberInFront(std::string_view typed) {
     return end > firstDigit ? typed.substr(0, end) : std::string_view();
 }
 
-std::string_view withoutZeroBytesAtTheEnd(std::string_view text) {
+std::string_view withoutTrailingZeroBytes(std::string_view text) {
     const std::size_t last = text.find_last_not_of('\0');
     return text.substr(0, last == std::string_view::npos ? 0 : last + 1);
 }

@@ -58,7 +58,7 @@ struct ParameterEdit {
 
     // The text that a unit shows after it has taken the value; absent when it cannot show the
     // value. Zero bytes at the end of a unit ID are removed.
-    std::optional<std::string> shown;
+    std::optional<std::string> expectedText;
 
     ValueChange change = ValueChange::none;
 
@@ -69,9 +69,9 @@ std::variant<ParameterEdit, EditRefusal> editOfParameter(UnitParameter parameter
                                                          std::string_view typed);
 
 // The number at the beginning of a text, as it was typed: sign and digits; empty without a digit.
-std::string_view numberInFront(std::string_view typed);
+std::string_view leadingNumber(std::string_view typed);
 
 // The text without zero bytes at its end. Units fill a short unit ID up with them.
-std::string_view withoutZeroBytesAtTheEnd(std::string_view text);
+std::string_view withoutTrailingZeroBytes(std::string_view text);
 
 } // namespace kx

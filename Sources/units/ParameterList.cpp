@@ -56,7 +56,8 @@ template<std::size_t... rows>
 consteval std::array<Item, itemCount> itemsOfRows(std::index_sequence<rows...> /*rows*/) {
     return {Item(parameterTable[rows].tag, parameterTable[rows].form,
                  parameterTable[rows].parameter, parameterTable[rows].name)...,
-            Item(uninterpretedTag, ValueForm::hardwareAddress, std::nullopt, uninterpretedTag)};
+            Item(tagOfUninterpretedItem, ValueForm::hardwareAddress, std::nullopt,
+                 tagOfUninterpretedItem)};
 }
 
 constexpr auto items = itemsOfRows(std::make_index_sequence<unitParameterCount>());

@@ -18,7 +18,7 @@
 namespace kx {
 
 // The tag of the item that is shown and not kept. The item is shown under this tag.
-inline constexpr std::string_view uninterpretedTag = "<O>";
+inline constexpr std::string_view tagOfUninterpretedItem = "<O>";
 
 struct DecodedUnitParameters {
     UnitRecord record;

@@ -4,7 +4,7 @@
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
-#include "words/ShownText.h"
+#include "words/QuotedText.h"
 
 namespace kx {
 
@@ -16,7 +16,7 @@ std::string parameterAndValue(const ParameterEdit& edit) {
 }
 
 std::string commandOf(const ParameterEdit& edit) {
-    return shownInSentence(edit.command);
+    return safeForSentence(edit.command);
 }
 
 long long digitsOf(const ParameterEdit& edit) {
@@ -30,7 +30,7 @@ std::string forecastOfValue(const ParameterEdit& edit) {
 
 std::string forecastOfValueReadAs(const ParameterEdit& edit) {
     return localizedText("Apply sends %@: %@, because that is how “%@” is read.",
-                         {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
+                         {commandOf(edit), parameterAndValue(edit), safeForSentence(edit.typed)});
 }
 
 std::string forecastOfMACAddress(const ParameterEdit& edit) {
@@ -73,7 +73,7 @@ std::string forecastOfIPAddress(const ParameterEdit& edit) {
     case ValueChange::notAnAddress:
         return localizedText(
             "Apply sends %@: %@, because “%@” is not an IPv4 address.",
-            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
+            {commandOf(edit), parameterAndValue(edit), safeForSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     default:
@@ -86,7 +86,7 @@ std::string forecastOfPort(const ParameterEdit& edit) {
     case ValueChange::notANumber:
         return localizedText(
             "Apply sends %@: %@, because “%@” does not begin with a number.",
-            {commandOf(edit), parameterAndValue(edit), shownInSentence(edit.typed)});
+            {commandOf(edit), parameterAndValue(edit), safeForSentence(edit.typed)});
     case ValueChange::readAs:
         return forecastOfValueReadAs(edit);
     case ValueChange::outOfRange:
@@ -94,7 +94,7 @@ std::string forecastOfPort(const ParameterEdit& edit) {
     default:
         return forecastOfValue(edit);
     }
-    const std::string number = shownInSentence(numberInFront(edit.typed));
+    const std::string number = safeForSentence(leadingNumber(edit.typed));
     return descriptionOf(edit.parameter).form == ValueForm::listeningPort
                ? localizedText("Apply sends %@: %@, because %@ is outside 3520 to 3523.",
                                {commandOf(edit), parameterAndValue(edit), number})
@@ -112,7 +112,7 @@ std::string forecastOfLargeUnitNumber(const ParameterEdit& edit) {
                      {commandOf(edit), edit.value})
                : localizedText("Apply sends %@: the number %@, because that is how “%@” is read. "
                                "Above 255 it does not show as a number.",
-                               {commandOf(edit), edit.value, shownInSentence(edit.typed)});
+                               {commandOf(edit), edit.value, safeForSentence(edit.typed)});
 }
 
 std::string forecastOfUnitID(const ParameterEdit& edit) {
@@ -125,13 +125,13 @@ std::string forecastOfUnitID(const ParameterEdit& edit) {
         return localizedText(
             "Apply sends %@: the text “%@”, though a unit ID has 6 bytes and this has "
             "%d.",
-            {commandOf(edit), shownInSentence(edit.typed), digitsOf(edit)});
+            {commandOf(edit), safeForSentence(edit.typed), digitsOf(edit)});
     default:
         break;
     }
     return isUnitNumber(edit.typed) ? forecastOfValue(edit)
                                     : localizedText("Apply sends %@: unit ID “%@”.",
-                                                    {commandOf(edit), shownInSentence(edit.value)});
+                                                    {commandOf(edit), safeForSentence(edit.value)});
 }
 
 // The ARP tool gets the address as it was typed, even when the command carries another one.
@@ -148,7 +148,7 @@ std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& targ
     if (stringForIP(ipForString(typed)) != typed) {
         return localizedText("Apply hands “%@” and %@ to the ARP tool, which needs administrator "
                              "rights.",
-                             {shownInSentence(typed), *target.hardwareAddress});
+                             {safeForSentence(typed), *target.hardwareAddress});
     }
     return localizedText(
         "Apply enters %@ at %@ in the ARP cache, which needs administrator rights.",
@@ -167,10 +167,10 @@ std::string forecastOfMove(const ParameterEdit& edit, const CommandTarget& targe
     case ValueChange::notAnAddress:
         return forecast +
                localizedText("Apply sends %@ to 0.0.0.0, because “%@” is not an IPv4 address.",
-                             {commandOf(edit), shownInSentence(edit.typed)});
+                             {commandOf(edit), safeForSentence(edit.typed)});
     case ValueChange::readAs:
         return forecast + localizedText("Apply sends %@ to %@, because that is how “%@” is read.",
-                                        {commandOf(edit), edit.value, shownInSentence(edit.typed)});
+                                        {commandOf(edit), edit.value, safeForSentence(edit.typed)});
     default:
         return forecast + localizedText("Apply sends %@ to %@.", {commandOf(edit), edit.value});
     }

@@ -1,8 +1,8 @@
 #include "words/EditOutcomeText.h"
 
 #include "support/LocalizedText.h"
+#include "words/QuotedText.h"
 #include "words/SendFailureText.h"
-#include "words/ShownText.h"
 
 namespace kx {
 
@@ -20,7 +20,7 @@ std::string textOfAcceptance(const EditOutcome& outcome) {
                                    {reason});
     }
     const bool hasNewPort = outcome.edit().parameter == UnitParameter::devicePortNumber &&
-                            outcome.edit().shown != outcome.valueBefore();
+                            outcome.edit().expectedText != outcome.valueBefore();
     return hasNewPort ? localizedText("The unit accepted a command and was asked for its "
                                       "parameters. Discover finds it on its new port.")
                       : localizedText("The unit accepted a command and was asked for its "
@@ -29,7 +29,7 @@ std::string textOfAcceptance(const EditOutcome& outcome) {
 
 std::string textOfShownValue(const EditOutcome& outcome) {
     const std::string name = localizedText(nameOfUnitParameter(outcome.edit().parameter));
-    const std::string shown = shownInSentence(outcome.shownValue().value_or(""));
+    const std::string shown = safeForSentence(outcome.shownValue().value_or(""));
     switch (outcome.state()) {
     case EditState::shown:
         return outcome.edit().parameter == UnitParameter::serialNumber &&
@@ -54,13 +54,13 @@ std::string textOfState(const EditOutcome& outcome) {
         return noteOfSendFailure(outcome.failure().value_or(SendFailure()));
     case EditState::pending:
         return localizedText("Sent %@. The unit has not answered yet.",
-                             {shownInSentence(outcome.edit().command)});
+                             {safeForSentence(outcome.edit().command)});
     case EditState::accepted:
         return textOfAcceptance(outcome);
     case EditState::shown:
     case EditState::unchanged:
     case EditState::different:
-    case EditState::untold:
+    case EditState::notReported:
         break;
     }
     return textOfShownValue(outcome);
@@ -68,7 +68,7 @@ std::string textOfState(const EditOutcome& outcome) {
 
 // The reason why there is no entry for the new address; empty when there is one, or none is wanted.
 std::string textOfARPEntry(const EditOutcome& outcome) {
-    const std::string address = shownInSentence(outcome.edit().typed);
+    const std::string address = safeForSentence(outcome.edit().typed);
     const ARPEntry& entry = outcome.arpEntry();
     switch (entry.state) {
     case ARPEntryState::notWanted:

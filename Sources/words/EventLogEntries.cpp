@@ -84,7 +84,7 @@ std::string entryOfARPFailure(std::int32_t result) {
     return localizedText("\nStuff ARP cache result: %d", {result});
 }
 
-std::string entryOfUnitIDThatIsNoText() {
+std::string entryOfUndecodableUnitID() {
     return localizedText("\nUnit ID could not be converted to 6-byte UTF-8 string");
 }
 

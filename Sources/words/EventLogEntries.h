@@ -46,6 +46,6 @@ std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,
                             const std::optional<std::string>& address);
 std::string entryOfARPFailure(std::int32_t result);
 
-std::string entryOfUnitIDThatIsNoText();
+std::string entryOfUndecodableUnitID();
 
 } // namespace kx

@@ -41,10 +41,10 @@ void QuietLine::endMessage(std::string forecast) {
 
 void QuietLine::showOutcome(EditOutcome outcome) {
     _state = std::move(outcome);
-    showOutcomeAnew();
+    refreshOutcome();
 }
 
-void QuietLine::showOutcomeAnew() {
+void QuietLine::refreshOutcome() {
     show(textOfEditOutcome(std::get<EditOutcome>(_state)));
 }
 
@@ -59,14 +59,14 @@ void QuietLine::unitDidAccept(std::string_view serialNumber,
                               const std::optional<SendFailure>& requestFailure) {
     auto* const outcome = std::get_if<EditOutcome>(&_state);
     if (outcome != nullptr && outcome->unitDidAccept(serialNumber, requestFailure)) {
-        showOutcomeAnew();
+        refreshOutcome();
     }
 }
 
 void QuietLine::unitDidTell(std::string_view serialNumber, const UnitRecord& record) {
     auto* const outcome = std::get_if<EditOutcome>(&_state);
     if (outcome != nullptr && outcome->unitDidTell(serialNumber, record)) {
-        showOutcomeAnew();
+        refreshOutcome();
     }
 }
 
@@ -74,7 +74,7 @@ void QuietLine::arpToolDidEnd(std::int32_t status) {
     auto* const outcome = std::get_if<EditOutcome>(&_state);
     if (outcome != nullptr && outcome->arpEntry().state != ARPEntryState::notWanted) {
         outcome->setARPEntry(arpEntryForEndOfTool(status));
-        showOutcomeAnew();
+        refreshOutcome();
     }
 }
 

@@ -66,7 +66,7 @@ public:
 
 private:
     void show(std::string_view text);
-    void showOutcomeAnew();
+    void refreshOutcome();
 
     std::function<void(std::string_view text)> _show;
     std::string _shown;

@@ -178,14 +178,14 @@ TYPED_TEST_P(DatagramSystemCallsContract, TheLinkOfADatagramIsToldFromTheMomentI
         return origin.link;
     };
     EXPECT_EQ(linkOfNext(), 0U);
-    EXPECT_EQ(this->calls().tellLinks(descriptor), 0);
+    EXPECT_EQ(this->calls().enablePacketInfo(descriptor), 0);
     ASSERT_NE(this->trait.link(), 0U);
     EXPECT_EQ(linkOfNext(), this->trait.link());
     EXPECT_EQ(linkOfNext(), this->trait.link());
 }
 
 TYPED_TEST_P(DatagramSystemCallsContract, OneSocketTellsTheLinkAndAnotherDoesNot) {
-    EXPECT_EQ(this->calls().tellLinks(this->newBoundSocket()), 0);
+    EXPECT_EQ(this->calls().enablePacketInfo(this->newBoundSocket()), 0);
     const int other = this->newBoundSocket();
     this->trait.deliver(other, this->data);
     Bytes buffer(100);
@@ -248,7 +248,7 @@ TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
     EXPECT_FAILURE(this->calls().statusFlags(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().setStatusFlags(descriptor, 0), EBADF);
     EXPECT_FAILURE(this->calls().enableBroadcast(descriptor), EBADF);
-    EXPECT_FAILURE(this->calls().tellLinks(descriptor), EBADF);
+    EXPECT_FAILURE(this->calls().enablePacketInfo(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView(address)), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EBADF);
     EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EBADF);

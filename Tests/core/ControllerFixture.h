@@ -14,7 +14,7 @@
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
-#include "doubles/ScriptedReceiveBuffers.h"
+#include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <gtest/gtest.h>
@@ -159,7 +159,7 @@ protected:
     RecordedApplication application;
     ScriptedNetworkInterfaces interfaces;
     ScriptedAuthorizationService authority;
-    ScriptedReceiveBuffers receiveBuffers;
+    ScriptedReceiveBufferControl receiveBuffers;
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
     bool helpOpens = true;

@@ -213,9 +213,9 @@ protected:
                              .isListening = controller.udpListener()->port() != 0};
         if (const auto* const planned = std::get_if<ParameterEdit>(&edit)) {
             target.newSerialNumberIsTaken = *parameter == serialNumber &&
-                                            planned->shown.has_value() &&
-                                            planned->shown != controller.selectedUnit() &&
-                                            controller.devices().contains(*planned->shown);
+                                            planned->expectedText.has_value() &&
+                                            planned->expectedText != controller.selectedUnit() &&
+                                            controller.devices().contains(*planned->expectedText);
         }
         return forecastOfEdit(edit, target);
     }

@@ -34,7 +34,7 @@ protected:
 } // namespace
 
 TEST_F(ControllerReceiveBuffer, EveryListenerAsksForFourMebibytes) {
-    using Wish = ScriptedReceiveBuffers::Wish;
+    using Wish = ScriptedReceiveBufferControl::Wish;
     launch();
     const int first = systemCalls.lastDescriptor();
     controller.discoverButton();

@@ -5,7 +5,7 @@
 #include "contracts/DatagramSystemCallsContract.h"
 #include "contracts/HostResolverContract.h"
 #include "contracts/LocalizedTextContract.h"
-#include "contracts/ReceiveBuffersContract.h"
+#include "contracts/ReceiveBufferControlContract.h"
 #include "contracts/RunLoopCallsContract.h"
 #include "contracts/RunLoopContract.h"
 #include "contracts/RunLoopHoldsContract.h"
@@ -18,7 +18,7 @@
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedLocalizedText.h"
-#include "doubles/ScriptedReceiveBuffers.h"
+#include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <netdb.h>
@@ -109,9 +109,9 @@ private:
     std::uint16_t _nextPort = 49152;
 };
 
-class ScriptedReceiveBuffersTrait {
+class ScriptedReceiveBufferControlTrait {
 public:
-    ReceiveBuffers& buffers() { return _buffers; }
+    ReceiveBufferControl& buffers() { return _buffers; }
     int newSocket() { return _nextDescriptor++; }
     int closedDescriptor() { return -2; }
     std::uint32_t overflow(int descriptor) {
@@ -121,7 +121,7 @@ public:
     }
 
 private:
-    ScriptedReceiveBuffers _buffers;
+    ScriptedReceiveBufferControl _buffers;
     int _nextDescriptor = 1000;
 };
 
@@ -160,7 +160,8 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopWatchesContract, ManualRunLoopTrai
 INSTANTIATE_TYPED_TEST_SUITE_P(Manual, RunLoopHoldsContract, ManualRunLoopTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, HostResolverContract, ScriptedHostResolverTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, DatagramSystemCallsContract, ScriptedSystemCallsTrait);
-INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, ReceiveBuffersContract, ScriptedReceiveBuffersTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, ReceiveBufferControlContract,
+                               ScriptedReceiveBufferControlTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SystemLogContract, RecordedSystemLogTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Fixed, WallClockContract, FixedWallClockTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Scripted, LocalizedTextContract, ScriptedLocalizedTextTrait);

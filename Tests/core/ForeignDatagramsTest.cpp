@@ -2,7 +2,7 @@
 // say, and the program running.
 
 #include "ControllerFixture.h"
-#include "units/PlainDecoder.h"
+#include "units/ReferenceDecoder.h"
 
 #include <random>
 
@@ -17,7 +17,7 @@ protected:
     // Delivers a datagram and compares all its effects with the rules. No unit is ever selected
     // here, because no discovery completes.
     void expectOutcome(const Bytes& datagram) {
-        const PlainOutcome expected = PlainDecoder::outcomeOf(datagram);
+        const PlainOutcome expected = ReferenceDecoder::outcomeOf(datagram);
         const auto logLength = controller.eventLog().size();
         const auto systemLogCount = systemLog.lines().size();
 

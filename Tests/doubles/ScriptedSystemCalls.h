@@ -36,7 +36,7 @@ public:
         statusFlags,
         setStatusFlags,
         enableBroadcast,
-        tellLinks,
+        enablePacketInfo,
         sendTo,
         receiveFrom,
         localAddress,
@@ -183,8 +183,8 @@ public:
         return openSocket(descriptor) != nullptr ? 0 : -1;
     }
 
-    int tellLinks(int descriptor) override {
-        if (const auto outcome = record({Operation::tellLinks, descriptor})) {
+    int enablePacketInfo(int descriptor) override {
+        if (const auto outcome = record({Operation::enablePacketInfo, descriptor})) {
             return static_cast<int>(*outcome);
         }
         Socket* const socket = openSocket(descriptor);

@@ -1,6 +1,6 @@
 // Lookups in the host's ARP table, with the real tool and with other tools in its place.
 
-#include "NotingTool.h"
+#include "RecordingTool.h"
 #include "ReplacedFile.h"
 #include "SharedHost.h"
 #include "addresses/ARPTable.h"
@@ -29,7 +29,7 @@ protected:
     }
     static void TearDownTestSuite() { sharedHost().network.ip("link del kx5"); }
 
-    NotingTool noting;
+    RecordingTool noting;
     RecordedSystemLog log;
 };
 

@@ -41,9 +41,9 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Thread, HostResolverContract, ThreadHostResolverT
 
 // A lookup that takes as long as the test wants.
 struct SlowLookup {
-    std::promise<void> release;
+    std::requireInvariant<void> release;
     std::shared_future<void> released = release.get_future().share();
-    std::promise<void> start;
+    std::requireInvariant<void> start;
 
     HostResolution operator()() {
         start.set_value();

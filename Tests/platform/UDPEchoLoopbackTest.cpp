@@ -168,7 +168,7 @@ TEST_F(UDPEchoLoopback, TheOwnerMayAskForTheLinkOfEachDatagram) {
     const auto port = startServer();
     peer.sendTo({1}, port);
     ASSERT_TRUE(runUntil([&] { return delegate.links.size() == 1; }));
-    EXPECT_EQ(systemCalls.tellLinks(echo->nativeSocket()), 0);
+    EXPECT_EQ(systemCalls.enablePacketInfo(echo->nativeSocket()), 0);
     peer.sendTo({2}, port);
     ASSERT_TRUE(runUntil([&] { return delegate.links.size() == 2; }));
     EXPECT_EQ(delegate.links, (std::vector<std::uint32_t>{0, ::if_nametoindex("lo")}));

@@ -1,5 +1,5 @@
 #include "Simulator/DelayedFrames.h"
-#include "Simulator/Pace.h"
+#include "Simulator/EventRate.h"
 
 #include <gtest/gtest.h>
 
@@ -33,8 +33,8 @@ TEST(DelayedFrames, BeyondTheCapacityAreLost) {
     EXPECT_TRUE(frames.add(startTime, {4}));
 }
 
-TEST(Pace, KeepsItsRateHoweverItIsAsked) {
-    Pace pace(100, startTime);
+TEST(EventRate, KeepsItsRateHoweverItIsAsked) {
+    EventRate pace(100, startTime);
     EXPECT_EQ(pace.nextDue(), startTime + milliseconds(10));
     EXPECT_EQ(pace.take(startTime + milliseconds(9)), 0U);
     EXPECT_EQ(pace.take(startTime + milliseconds(10)), 1U);
@@ -43,21 +43,21 @@ TEST(Pace, KeepsItsRateHoweverItIsAsked) {
     EXPECT_EQ(pace.nextDue(), startTime + milliseconds(40));
 }
 
-TEST(Pace, DoesNotCatchUpOnALongPause) {
-    Pace pace(100, startTime);
+TEST(EventRate, DoesNotCatchUpOnALongPause) {
+    EventRate pace(100, startTime);
     EXPECT_EQ(pace.take(startTime + seconds(60)), 11U);
     EXPECT_EQ(pace.take(startTime + seconds(60) + milliseconds(10)), 1U);
 }
 
-TEST(Pace, SlowRatesGiveOneEventAfterTheOther) {
-    Pace pace(1, startTime);
+TEST(EventRate, SlowRatesGiveOneEventAfterTheOther) {
+    EventRate pace(1, startTime);
     EXPECT_EQ(pace.take(startTime + milliseconds(999)), 0U);
     EXPECT_EQ(pace.take(startTime + milliseconds(1500)), 1U);
     EXPECT_EQ(pace.take(startTime + milliseconds(2000)), 1U);
 }
 
-TEST(Pace, RateOfZeroNeverFallsDue) {
-    Pace pace(0, startTime);
+TEST(EventRate, RateOfZeroNeverFallsDue) {
+    EventRate pace(0, startTime);
     EXPECT_EQ(pace.nextDue(), std::nullopt);
     EXPECT_EQ(pace.take(startTime + seconds(60)), 0U);
 }

@@ -243,7 +243,7 @@ TEST_F(UnitNetworkTest, ForeignFramesOfEveryLengthDoNoHarm) {
 TEST_F(UnitNetworkTest, HonestUnitsLoseNoReply) {
     play(1, {.losePercent = 100});
     EXPECT_TRUE(send(hardwareOf(1), addressOf(1), "^^IdX").empty());
-    _network->beHonest();
+    _network->endFaults();
     EXPECT_EQ(send(hardwareOf(1), addressOf(1), "^^IdX").size(), 1U);
 }
 

@@ -3,7 +3,7 @@
 
 #include "MainWindowFixture.h"
 #include "ScreenReader.h"
-#include "platform/qt/SpokenLabel.h"
+#include "platform/qt/AnnouncedLabel.h"
 
 #include <QAccessible>
 
@@ -71,7 +71,7 @@ TEST_F(MainWindowSpeech, ANoteThatComesAgainIsSaidAgain) {
 }
 
 TEST_F(MainWindowSpeech, OfTextsThatFollowEachOtherTheLastIsSaid) {
-    SpokenLabel label;
+    AnnouncedLabel label;
     label.show();
     const ScreenReader listening(&hear);
     label.say("3");
@@ -82,8 +82,8 @@ TEST_F(MainWindowSpeech, OfTextsThatFollowEachOtherTheLastIsSaid) {
 }
 
 TEST_F(MainWindowSpeech, ATextThatIsSetAgainWhereItStandsIsNotSaidAgain) {
-    SpokenLabel label;
-    SpokenLabel later;
+    AnnouncedLabel label;
+    AnnouncedLabel later;
     label.show();
     later.show();
     const ScreenReader listening(&hear);
@@ -96,8 +96,8 @@ TEST_F(MainWindowSpeech, ATextThatIsSetAgainWhereItStandsIsNotSaidAgain) {
 }
 
 TEST_F(MainWindowSpeech, ATextThatGoesIsNotSaid) {
-    SpokenLabel label;
-    SpokenLabel later;
+    AnnouncedLabel label;
+    AnnouncedLabel later;
     label.show();
     later.show();
     const ScreenReader listening(&hear);

@@ -79,7 +79,7 @@ public:
     }
 
 private:
-    SpokenLabel _label;
+    AnnouncedLabel _label;
     QtTextLabel _textLabel{_label};
 };
 

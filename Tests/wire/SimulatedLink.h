@@ -51,7 +51,7 @@ public:
     int statusFlags(int /*descriptor*/) override { return 0; }
     int setStatusFlags(int /*descriptor*/, int /*flags*/) override { return 0; }
     int enableBroadcast(int /*descriptor*/) override { return 0; }
-    int tellLinks(int /*descriptor*/) override { return 0; }
+    int enablePacketInfo(int /*descriptor*/) override { return 0; }
 
     ssize_t sendTo(int /*descriptor*/, ByteView data,
                    std::optional<ByteView> addressRecord) override {

@@ -1,6 +1,6 @@
 #include "platform/linux/PolkitAuthorizationService.h"
 
-#include "platform/linux/HostReference.h"
+#include "platform/linux/LinuxAuthorizationReference.h"
 #include "platform/linux/PolkitCheck.h"
 
 namespace kx {
@@ -17,10 +17,10 @@ constexpr auto arpToolPath = "/usr/sbin/arp";
 constexpr auto arpToolAction = "org.kxconfig.KXConfig.set-arp-entry";
 constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
 
-class PolkitReference final : public HostReference {
+class PolkitReference final : public LinuxAuthorizationReference {
 public:
     explicit PolkitReference(RunningTools& runningTools)
-        : HostReference(runningTools) {}
+        : LinuxAuthorizationReference(runningTools) {}
 
 private:
     std::int32_t obtain(const AuthorizationItem& right, bool mayAskPerson) override {

@@ -1,15 +1,15 @@
 #include "platform/linux/RootAuthorizationService.h"
 
-#include "platform/linux/HostReference.h"
+#include "platform/linux/LinuxAuthorizationReference.h"
 
 namespace kx {
 
 namespace {
 
-class RootReference final : public HostReference {
+class RootReference final : public LinuxAuthorizationReference {
 public:
     explicit RootReference(RunningTools& runningTools)
-        : HostReference(runningTools) {}
+        : LinuxAuthorizationReference(runningTools) {}
 
 private:
     std::int32_t obtain(const AuthorizationItem& /*right*/, bool /*mayAskPerson*/) override {

@@ -2,7 +2,8 @@
 // asking anybody, and starts tools as they are.
 //
 // As with every authority, a right is held under a reference only once it was obtained there
-// (platform/linux/HostReference.h), so users of the two authorities see no difference.
+// (platform/linux/LinuxAuthorizationReference.h), so users of the two authorities see no
+// difference.
 
 #pragma once
 

@@ -51,7 +51,7 @@ FindBar::FindBar(LogTextView& log, QWidget* parent)
     : QWidget(parent)
     , _log(log)
     , _field(*new QLineEdit(this))
-    , _result(*new SpokenLabel(this))
+    , _result(*new AnnouncedLabel(this))
     , _escape(*new QShortcut(Qt::Key_Escape, parent)) {
     setObjectName("logFindBar");
     _field.setObjectName("logFindField");

@@ -9,8 +9,8 @@
 
 #pragma once
 
+#include "platform/qt/AnnouncedLabel.h"
 #include "platform/qt/LogTextView.h"
-#include "platform/qt/SpokenLabel.h"
 
 #include <QLineEdit>
 #include <QShortcut>
@@ -47,7 +47,7 @@ private:
 
     LogTextView& _log;
     QLineEdit& _field;
-    SpokenLabel& _result;
+    AnnouncedLabel& _result;
     QShortcut& _escape;
 };
 

@@ -1,6 +1,6 @@
 #include "platform/qt/HelpViewer.h"
 
-#include "platform/qt/PixelFrame.h"
+#include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qtcore/QtText.h"
 
 #include <QDir>

@@ -31,7 +31,7 @@ QString shownText(std::string_view text) {
     return shown;
 }
 
-LogRowLayout::LogRowLayout(const LogText::Row& row, const LogLooks& looks)
+LogRowLayout::LogRowLayout(const LogText::Row& row, const LogRowStyle& looks)
     : _row(row)
     , _looks(looks)
     , _layout(shownText(row.text), looks.font) {

@@ -21,7 +21,7 @@
 namespace kx {
 
 // The layout that all rows share; lengths in pixels.
-struct LogLooks {
+struct LogRowStyle {
     QFont font;
     int lineHeight = 1;
     qreal baseLine = 0; // distance from the top of a line
@@ -42,7 +42,7 @@ public:
         QColor background;
     };
 
-    LogRowLayout(const LogText::Row& row, const LogLooks& looks);
+    LogRowLayout(const LogText::Row& row, const LogRowStyle& looks);
 
     int lineCount() const { return _layout.lineCount(); }
 
@@ -66,7 +66,7 @@ private:
     std::size_t positionOf(int unit) const;
 
     LogText::Row _row;
-    const LogLooks& _looks;
+    const LogRowStyle& _looks;
     QTextLayout _layout;
 };
 

@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "platform/qt/LogMovement.h"
+#include "platform/qt/LogCaretMovement.h"
 
 #include <QString>
 #include <optional>

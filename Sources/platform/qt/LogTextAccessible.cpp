@@ -101,13 +101,13 @@ private:
         const LogText& text = _view.text();
         switch (type) {
         case QAccessible::CharBoundary:
-            return {position, movedPosition(text, position, LogMovement::nextCharacter)};
+            return {position, movedPosition(text, position, LogCaretMovement::nextCharacter)};
         case QAccessible::WordBoundary:
-            return unitAround(text, position, LogUnit::word);
+            return unitAround(text, position, LogSelectionUnit::word);
         case QAccessible::SentenceBoundary:
         case QAccessible::ParagraphBoundary:
         case QAccessible::LineBoundary:
-            return unitAround(text, position, LogUnit::line);
+            return unitAround(text, position, LogSelectionUnit::line);
         case QAccessible::NoBoundary:
             break;
         }

@@ -171,7 +171,7 @@ void LogTextView::fitToFont() {
 
 // A view that showed the end still shows it afterwards.
 void LogTextView::fitToSize() {
-    const bool showedEnd = _top == _lowestTop && _top != LogLine();
+    const bool showedEnd = _top == _lowestTop && _top != WrappedLogLine();
     _looks.width = std::max<qreal>(_looks.blank, viewport()->width() - 2 * margin);
     _top.line = std::min(_top.line, _lines.layOut(_top.row).lineCount() - 1);
     fitScrollBar();
@@ -183,16 +183,16 @@ void LogTextView::fitToSize() {
 
 // The bar counts rows. Its last step leads to the end; the view may then begin inside a row.
 void LogTextView::fitScrollBar() {
-    const LogLine last = _lines.lineOf(_text.size());
+    const WrappedLogLine last = _lines.lineOf(_text.size());
     _lowestTop = _lines.moved(last, 1 - linesInSight());
     const std::size_t maximum = _lowestTop.row + (_lowestTop.line > 0 ? 1 : 0);
-    const LogLine top = _top; // the bar may move, and then moves the view
+    const WrappedLogLine top = _top; // the bar may move, and then moves the view
     verticalScrollBar()->setPageStep(linesInSight());
     verticalScrollBar()->setRange(0, static_cast<int>(maximum));
     setTop(top);
 }
 
-void LogTextView::setTop(LogLine top) {
+void LogTextView::setTop(WrappedLogLine top) {
     _top = std::min(top, _lowestTop);
     const QSignalBlocker onlyTheBar(verticalScrollBar());
     verticalScrollBar()->setValue(_top == _lowestTop ? verticalScrollBar()->maximum()
@@ -203,7 +203,7 @@ void LogTextView::setTop(LogLine top) {
 void LogTextView::scrollContentsBy(int /*dx*/, int /*dy*/) {
     const QScrollBar& bar = *verticalScrollBar();
     setTop(bar.value() == bar.maximum() ? _lowestTop
-                                        : LogLine{static_cast<std::size_t>(bar.value()), 0});
+                                        : WrappedLogLine{static_cast<std::size_t>(bar.value()), 0});
 }
 
 void LogTextView::scrollBy(int lines) {
@@ -224,7 +224,7 @@ int LogTextView::linesInSight() const {
 
 void LogTextView::showPosition(std::size_t position) {
     fitScrollBar();
-    const LogLine line = _lines.lineOf(position);
+    const WrappedLogLine line = _lines.lineOf(position);
     if (line < _top) {
         setTop(line);
     } else if (_lines.distance(_top, line, linesInSight()) == linesInSight()) {
@@ -233,7 +233,7 @@ void LogTextView::showPosition(std::size_t position) {
 }
 
 QRect LogTextView::rectOf(std::size_t position) const {
-    const LogLine line = _lines.lineOf(position);
+    const WrappedLogLine line = _lines.lineOf(position);
     const int below = line < _top ? -1 : _lines.distance(_top, line, linesInSight() + 1);
     if (below < 0 || below > linesInSight()) {
         return {};
@@ -243,21 +243,21 @@ QRect LogTextView::rectOf(std::size_t position) const {
             _looks.lineHeight};
 }
 
-LogLine LogTextView::lineAt(QPoint point) const {
+WrappedLogLine LogTextView::lineAt(QPoint point) const {
     const double below = std::floor(static_cast<double>(point.y() - margin) / _looks.lineHeight);
     return _lines.moved(_top, static_cast<int>(below));
 }
 
 std::size_t LogTextView::positionAt(QPoint point) const {
-    const LogLine line = lineAt(point);
+    const WrappedLogLine line = lineAt(point);
     return _lines.layOut(line.row).positionAt(line.line, point.x() - margin);
 }
 
-LogRange LogTextView::unitAt(QPoint point, LogUnit unit) const {
-    if (unit != LogUnit::word) {
+LogRange LogTextView::unitAt(QPoint point, LogSelectionUnit unit) const {
+    if (unit != LogSelectionUnit::word) {
         return unitAround(_text, positionAt(point), unit);
     }
-    const LogLine line = lineAt(point);
+    const WrappedLogLine line = lineAt(point);
     const LogRowLayout layout = _lines.layOut(line.row);
     return unitAround(_text, layout.characterAt(line.line, point.x() - margin), unit);
 }

@@ -16,8 +16,8 @@
 
 #pragma once
 
-#include "platform/qt/LogLines.h"
-#include "platform/qt/LogMovement.h"
+#include "platform/qt/LogCaretMovement.h"
+#include "platform/qt/WrappedLogLines.h"
 #include "words/LogText.h"
 
 #include <QAbstractScrollArea>
@@ -101,10 +101,10 @@ private:
     void fitToFont();
     void fitToSize();
     void fitScrollBar();
-    void setTop(LogLine top);
+    void setTop(WrappedLogLine top);
     void scrollBy(int lines);
-    LogLine lineAt(QPoint point) const;
-    LogRange unitAt(QPoint point, LogUnit unit) const;
+    WrappedLogLine lineAt(QPoint point) const;
+    LogRange unitAt(QPoint point, LogSelectionUnit unit) const;
     void paintCaret(QPainter& painter);
 
     bool pressMovementKey(const QKeyEvent& event);
@@ -115,26 +115,26 @@ private:
     void setSelection(std::size_t anchor, std::size_t caret);
     void takeAsPrimarySelection() const;
 
-    void beginDrag(QPoint point, LogUnit unit);
+    void beginDrag(QPoint point, LogSelectionUnit unit);
     void dragTo(QPoint point);
 
     LogText _text;
-    LogLooks _looks;
-    LogLines _lines{_text, _looks};
+    LogRowStyle _looks;
+    WrappedLogLines _lines{_text, _looks};
 
     std::size_t _anchor = 0;
     std::size_t _caret = 0;
     qreal _wantedX = -1; // moves up and down keep to it; negative after any other move
 
-    LogLine _top;        // the first line in sight
-    LogLine _lowestTop;  // the top at which the frame on the screen shows the end of the text
-    int _wheelAngle = 0; // turned by the wheel and not yet scrolled
+    WrappedLogLine _top;       // the first line in sight
+    WrappedLogLine _lowestTop; // the top at which the frame on the screen shows the end of the text
+    int _wheelAngle = 0;       // turned by the wheel and not yet scrolled
     bool _endIsWanted = false;
     QBasicTimer _nextFrame; // runs while the frame on the screen is behind the text
     QElapsedTimer _sinceFrame;
     std::size_t _announced = 0; // assistive technology knows the text up to this position
 
-    LogUnit _dragUnit = LogUnit::character;
+    LogSelectionUnit _dragUnit = LogSelectionUnit::character;
     LogRange _dragOrigin{0, 0};
     QPoint _dragPoint;
     QBasicTimer _dragScroll; // runs while a drag is held outside the view

@@ -21,20 +21,23 @@ constexpr int millisecondsOfDragScroll = 40;
 struct MovementKey {
     QKeySequence::StandardKey moves;
     QKeySequence::StandardKey selects;
-    LogMovement movement;
+    LogCaretMovement movement;
 };
 
 constexpr MovementKey movementKeys[] = {
-    {QKeySequence::MoveToNextChar, QKeySequence::SelectNextChar, LogMovement::nextCharacter},
+    {QKeySequence::MoveToNextChar, QKeySequence::SelectNextChar, LogCaretMovement::nextCharacter},
     {QKeySequence::MoveToPreviousChar, QKeySequence::SelectPreviousChar,
-     LogMovement::previousCharacter},
-    {QKeySequence::MoveToNextWord, QKeySequence::SelectNextWord, LogMovement::nextWord},
-    {QKeySequence::MoveToPreviousWord, QKeySequence::SelectPreviousWord, LogMovement::previousWord},
-    {QKeySequence::MoveToStartOfLine, QKeySequence::SelectStartOfLine, LogMovement::startOfRow},
-    {QKeySequence::MoveToEndOfLine, QKeySequence::SelectEndOfLine, LogMovement::endOfRow},
+     LogCaretMovement::previousCharacter},
+    {QKeySequence::MoveToNextWord, QKeySequence::SelectNextWord, LogCaretMovement::nextWord},
+    {QKeySequence::MoveToPreviousWord, QKeySequence::SelectPreviousWord,
+     LogCaretMovement::previousWord},
+    {QKeySequence::MoveToStartOfLine, QKeySequence::SelectStartOfLine,
+     LogCaretMovement::startOfRow},
+    {QKeySequence::MoveToEndOfLine, QKeySequence::SelectEndOfLine, LogCaretMovement::endOfRow},
     {QKeySequence::MoveToStartOfDocument, QKeySequence::SelectStartOfDocument,
-     LogMovement::startOfText},
-    {QKeySequence::MoveToEndOfDocument, QKeySequence::SelectEndOfDocument, LogMovement::endOfText},
+     LogCaretMovement::startOfText},
+    {QKeySequence::MoveToEndOfDocument, QKeySequence::SelectEndOfDocument,
+     LogCaretMovement::endOfText},
 };
 
 struct VerticalKey {
@@ -96,8 +99,8 @@ qreal LogTextView::xOfCaret() const {
 
 // Beyond the first or the last line, this is the beginning or the end of the text.
 std::size_t LogTextView::positionLinesFromCaret(int lines) const {
-    const LogLine from = _lines.lineOf(_caret);
-    const LogLine to = _lines.moved(from, lines);
+    const WrappedLogLine from = _lines.lineOf(_caret);
+    const WrappedLogLine to = _lines.moved(from, lines);
     if (to == from) {
         return lines < 0 ? 0 : _text.size();
     }
@@ -113,10 +116,10 @@ void LogTextView::moveCaret(std::size_t caret, bool selects) {
 }
 
 void LogTextView::bringCaretIntoSight() {
-    const LogLine line = _lines.lineOf(_caret);
-    const LogLine bottom = _lines.moved(_top, linesInSight() - 1);
+    const WrappedLogLine line = _lines.lineOf(_caret);
+    const WrappedLogLine bottom = _lines.moved(_top, linesInSight() - 1);
     if (_anchor == _caret && (line < _top || line > bottom)) {
-        const LogLine edge = line < _top ? _top : bottom;
+        const WrappedLogLine edge = line < _top ? _top : bottom;
         const std::size_t start = _lines.layOut(edge.row).positionAt(edge.line, 0);
         setSelection(start, start);
     }
@@ -134,13 +137,13 @@ void LogTextView::mousePressEvent(QMouseEvent* event) {
                          _sinceDoubleClick.elapsed() < hints.mouseDoubleClickInterval() &&
                          (point - _doubleClickPoint).manhattanLength() < hints.startDragDistance();
     if (isThird) {
-        beginDrag(point, LogUnit::line);
+        beginDrag(point, LogSelectionUnit::line);
     } else if (event->modifiers().testFlag(Qt::ShiftModifier)) {
-        _dragUnit = LogUnit::character;
+        _dragUnit = LogSelectionUnit::character;
         _dragOrigin = {_anchor, _anchor};
         dragTo(point);
     } else {
-        beginDrag(point, LogUnit::character);
+        beginDrag(point, LogSelectionUnit::character);
     }
 }
 
@@ -148,7 +151,7 @@ void LogTextView::mouseDoubleClickEvent(QMouseEvent* event) {
     if (event->button() == Qt::LeftButton) {
         _doubleClickPoint = event->pos();
         _sinceDoubleClick.start();
-        beginDrag(event->pos(), LogUnit::word);
+        beginDrag(event->pos(), LogSelectionUnit::word);
     }
 }
 
@@ -172,7 +175,7 @@ void LogTextView::mouseReleaseEvent(QMouseEvent* event) {
     }
 }
 
-void LogTextView::beginDrag(QPoint point, LogUnit unit) {
+void LogTextView::beginDrag(QPoint point, LogSelectionUnit unit) {
     _dragUnit = unit;
     _dragOrigin = unitAt(point, unit);
     _dragPoint = point;

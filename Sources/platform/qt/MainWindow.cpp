@@ -5,7 +5,7 @@
 #include "platform/qt/AboutBox.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
-#include "platform/qt/PixelFrame.h"
+#include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qt/QtAlert.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
@@ -207,7 +207,7 @@ void MainWindow::connectPopUps() {
         describe();
     };
     connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
-    connect(_ui->interfacePopUp, &OpeningComboBox::aboutToOpen, this,
+    connect(_ui->interfacePopUp, &RefreshedComboBox::aboutToOpen, this,
             [this] { perform(&KXConfigAppDelegate::interfacePopUpWillOpen); });
     connectPopUp(_ui->udpPortPopUp, &KXConfigAppDelegate::udpPortSelect);
     connectPopUp(_ui->unitSelectPopUp, &KXConfigAppDelegate::unitSelectPopUp);

@@ -4,7 +4,7 @@
 
 namespace kx {
 
-QtTextLabel::QtTextLabel(SpokenLabel& label, EmptyLabel empty)
+QtTextLabel::QtTextLabel(AnnouncedLabel& label, EmptyLabel empty)
     : _label(label)
     , _empty(empty) {
     QtTextLabel::setStringValue({});

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Outlets.h"
-#include "platform/qt/SpokenLabel.h"
+#include "platform/qt/AnnouncedLabel.h"
 
 namespace kx {
 
@@ -15,12 +15,12 @@ enum class EmptyLabel {
 
 class QtTextLabel final : public TextLabel {
 public:
-    explicit QtTextLabel(SpokenLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
+    explicit QtTextLabel(AnnouncedLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
 
     void setStringValue(std::string_view text) override;
 
 private:
-    SpokenLabel& _label;
+    AnnouncedLabel& _label;
     EmptyLabel _empty;
 };
 

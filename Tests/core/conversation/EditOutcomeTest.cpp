@@ -71,7 +71,7 @@ TEST(EditOutcome, AUnitMayNotTellTheParameter) {
     EditOutcome outcome = outcomeOf(unitID, "7", "42");
     outcome.unitDidTell(editedUnit, recordWith(unitID, "42"));
     outcome.unitDidTell(editedUnit, UnitRecord());
-    EXPECT_EQ(outcome.state(), EditState::untold);
+    EXPECT_EQ(outcome.state(), EditState::notReported);
     EXPECT_EQ(outcome.shownValue(), std::nullopt);
 }
 

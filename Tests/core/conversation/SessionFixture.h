@@ -8,7 +8,7 @@
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedHostResolver.h"
-#include "doubles/ScriptedReceiveBuffers.h"
+#include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
 
 #include <gtest/gtest.h>
@@ -54,7 +54,7 @@ public:
     void unitDidAccept(const Reply& reply, const DatagramOrigin& origin) override {
         note("acceptance of " + sender(reply, origin));
     }
-    void unitDidSay(const Reply& reply, const DatagramOrigin& origin) override {
+    void unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) override {
         note("\"" + std::string(reply.payload.begin(), reply.payload.end()) + "\" of " +
              sender(reply, origin));
     }
@@ -134,7 +134,7 @@ protected:
     ManualRunLoop runLoop;
     ScriptedHostResolver hostResolver;
     ScriptedSystemCalls systemCalls;
-    ScriptedReceiveBuffers receiveBuffers;
+    ScriptedReceiveBufferControl receiveBuffers;
     UnitRegistry registry;
     RecordingObserver observer;
     UnitSession session{{.runLoop = runLoop,

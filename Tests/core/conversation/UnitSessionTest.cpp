@@ -39,16 +39,16 @@ TEST_F(UnitSessionLife, RoomAndLinksAreAskedForBeforeAnybodyCanAnswer) {
     Events order;
     inside("can broadcast", [&] {
         order.push_back(std::to_string(receiveBuffers.wishes().size()) + " wishes");
-        order.push_back(std::to_string(systemCalls.count(Operation::tellLinks)) + " links");
+        order.push_back(std::to_string(systemCalls.count(Operation::enablePacketInfo)) + " links");
     });
     session.start(3520);
     EXPECT_EQ(order, (Events{"1 wishes", "1 links"}));
     EXPECT_EQ(receiveBuffers.wishes().at(0),
-              (ScriptedReceiveBuffers::Wish{systemCalls.lastDescriptor(), 4'194'304}));
+              (ScriptedReceiveBufferControl::Wish{systemCalls.lastDescriptor(), 4'194'304}));
 }
 
 TEST_F(UnitSessionLife, ASystemThatTellsNoLinksIsNoObstacle) {
-    systemCalls.failNext(Operation::tellLinks, ENOPROTOOPT);
+    systemCalls.failNext(Operation::enablePacketInfo, ENOPROTOOPT);
     session.start(3520);
     EXPECT_EQ(observer.taken(), (Events{"started at 0.0.0.0:3520", "can broadcast"}));
     EXPECT_EQ(eventsOf(SampleUnit().acknowledgement()).back(),

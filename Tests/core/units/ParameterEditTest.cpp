@@ -44,7 +44,7 @@ TEST(ParameterEdit, KnowsHowAUnitShowsTheValue) {
         {unitID, "99999999999", std::nullopt},
     };
     for (const auto& [parameter, typed, shown] : cases) {
-        EXPECT_EQ(editOf(parameter, typed).shown, shown)
+        EXPECT_EQ(editOf(parameter, typed).expectedText, shown)
             << nameOfUnitParameter(parameter) << ", " << typed;
     }
 }
@@ -104,11 +104,11 @@ TEST(ParameterEdit, IsTooLongBeyondTheLongestDatagram) {
 }
 
 TEST(NumberInFront, IsTheSignAndTheDigitsAsTheyWereTyped) {
-    EXPECT_EQ(numberInFront(" +0123x"), "+0123");
-    EXPECT_EQ(numberInFront("-5"), "-5");
-    EXPECT_EQ(numberInFront("-"), "");
-    EXPECT_EQ(numberInFront("x1"), "");
-    EXPECT_EQ(numberInFront(""), "");
+    EXPECT_EQ(leadingNumber(" +0123x"), "+0123");
+    EXPECT_EQ(leadingNumber("-5"), "-5");
+    EXPECT_EQ(leadingNumber("-"), "");
+    EXPECT_EQ(leadingNumber("x1"), "");
+    EXPECT_EQ(leadingNumber(""), "");
 }
 
 } // namespace kx

@@ -108,7 +108,7 @@ std::string countInWords() {
 // --- The dissector ---
 
 TEST(DissectorOfTheTable, KnowsEveryTagWithTheLengthOfItsValue) {
-    std::set<std::string> expected{std::string(1, uninterpretedTag[1]) + " 6 item <o>"};
+    std::set<std::string> expected{std::string(1, tagOfUninterpretedItem[1]) + " 6 item <o>"};
     for (const auto& row : parameterTable) {
         expected.insert(std::string(1, row.tag[1]) + " " + bytesOf(row) + " " +
                         inSmallLetters(row.name));
@@ -123,7 +123,7 @@ TEST(DissectorOfTheTable, KnowsEveryTagWithTheLengthOfItsValue) {
 
 // It has one letter for both, and says which of its items no command sets.
 TEST(DissectorOfTheTable, TakesTheLetterOfATagForThatOfTheCommand) {
-    Words readOnly{std::string(1, uninterpretedTag[1])};
+    Words readOnly{std::string(1, tagOfUninterpretedItem[1])};
     for (const auto& row : parameterTable) {
         if (row.isEditable()) {
             EXPECT_EQ(row.commandLetter, row.tag[1]) << row.name;
@@ -162,7 +162,7 @@ TEST(ProtocolPageOfTheTable, HasARowForEachItem) {
     Words expected = ofEveryRow([](const auto& row) {
         return std::string(row.tag) + " " + bytesOf(row) + " " + std::string(row.name);
     });
-    expected.push_back(std::string(uninterpretedTag) + " 6 not interpreted, not stored");
+    expected.push_back(std::string(tagOfUninterpretedItem) + " 6 not interpreted, not stored");
     std::ranges::sort(expected);
     Words found;
     for (const Words& item : foundIn(linesOfFile("docs/protocol.md"),

@@ -104,7 +104,7 @@ TEST(EventLogEntries, AnARPEntryNamesBothAddresses) {
 }
 
 TEST(EventLogEntries, AUnitIDThatIsNoTextIsSaid) {
-    EXPECT_EQ(entryOfUnitIDThatIsNoText(),
+    EXPECT_EQ(entryOfUndecodableUnitID(),
               "\nUnit ID could not be converted to 6-byte UTF-8 string");
 }
 
@@ -130,7 +130,7 @@ TEST(EventLogEntries, EveryPartIsLookedUp) {
         {entryOfReply(replyWith({}, {}), "t"), "<\nReceived command: ^^<U>>"},
         {entryOfARPEntry("m", "i"), "<\nStuff ARP cache with MAC m for IP i>"},
         {entryOfARPFailure(-1), "<\nStuff ARP cache result: -1>"},
-        {entryOfUnitIDThatIsNoText(), "<\nUnit ID could not be converted to 6-byte UTF-8 string>"},
+        {entryOfUndecodableUnitID(), "<\nUnit ID could not be converted to 6-byte UTF-8 string>"},
     };
     for (const auto& [entry, expected] : entries) {
         EXPECT_EQ(entry, expected);

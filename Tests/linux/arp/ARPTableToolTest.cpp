@@ -5,7 +5,7 @@
 #include "core/System Configuration/ConfigurationFixture.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/SharedConfigurationDoubles.h"
-#include "linux/NotingTool.h"
+#include "linux/RecordingTool.h"
 #include "linux/ReplacedFile.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ protected:
     }
 
     MemoryConfigurationStore& store = sharedConfigurationDoubles().store;
-    NotingTool noting;
+    RecordingTool noting;
     RecordedSystemLog log;
 };
 

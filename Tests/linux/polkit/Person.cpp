@@ -42,9 +42,9 @@ QVariant named(const QString& kind, const QVariantMap& details) {
     return QVariant::fromValue(argument);
 }
 
-class Person : public QDBusVirtualObject {
+class AuthenticationAgent : public QDBusVirtualObject {
 public:
-    Person(QString answer, int seconds, std::string record)
+    AuthenticationAgent(QString answer, int seconds, std::string record)
         : _answer(std::move(answer))
         , _seconds(seconds)
         , _record(std::move(record)) {}
@@ -98,7 +98,7 @@ int main(int argc, char* argv[]) {
         return 2;
     }
     auto bus = QDBusConnection::systemBus();
-    Person person(words[2], words[3].toInt(), words[4].toStdString());
+    AuthenticationAgent person(words[2], words[3].toInt(), words[4].toStdString());
     bus.registerVirtualObject(agentPath, &person);
 
     auto registration = authorityCall(QStringLiteral("RegisterAuthenticationAgent"));

@@ -26,7 +26,7 @@ void run(const Visit& visit) {
     try {
         driver.findWindow();
         visit(driver);
-    } catch (const Disappointment& disappointment) {
+    } catch (const VisitFailure& disappointment) {
         std::fprintf(stderr, "kxtour: %s\n", qPrintable(disappointment.text));
         QCoreApplication::exit(1);
         return;

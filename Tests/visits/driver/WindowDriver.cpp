@@ -140,7 +140,7 @@ void WindowDriver::pickUnit(const QString& serial) const {
     const bool found = list.currentIndex().data().toString() == serial;
     QTest::keyClick(&list, found ? Qt::Key_Return : Qt::Key_Escape);
     if (!found) {
-        throw Disappointment{"there is no unit " + serial};
+        throw VisitFailure{"there is no unit " + serial};
     }
     auto& parameters = control<QTableView>("unitParameterTableView");
     waitFor("the parameters of unit " + serial,
@@ -231,7 +231,7 @@ void WindowDriver::printLog() const {
 
 void WindowDriver::waitFor(const QString& what, const std::function<bool()>& condition) {
     if (!letRunUntil(condition, longestPatience)) {
-        throw Disappointment{QString("waited in vain for %1").arg(what)};
+        throw VisitFailure{QString("waited in vain for %1").arg(what)};
     }
 }
 
@@ -275,7 +275,7 @@ void WindowDriver::takePicture(const QString& name, QMenu* menu) const {
     }
     const QString path = QDir(folder).filePath(name + ".png");
     if (!QDir().mkpath(folder) || !picture.save(path)) {
-        throw Disappointment{QString("could not write %1").arg(path)};
+        throw VisitFailure{QString("could not write %1").arg(path)};
     }
 }
 

@@ -3,7 +3,7 @@
 //
 // It knows the program as controls with object names, and reaches it through the window system's
 // own events. Main thread only. Operations that wait do so in a nested event loop, for twenty
-// seconds at most, and throw a Disappointment when the wait was in vain.
+// seconds at most, and throw a VisitFailure when the wait was in vain.
 
 #pragma once
 
@@ -18,7 +18,7 @@
 namespace kx {
 
 // Ends a visit early. The text says what was expected.
-struct Disappointment {
+struct VisitFailure {
     QString text;
 };
 
@@ -39,7 +39,7 @@ public:
     Control& control(const char* objectName) const {
         auto* const found = _window->findChild<Control*>(objectName);
         if (found == nullptr) {
-            throw Disappointment{QString("there is no control %1").arg(objectName)};
+            throw VisitFailure{QString("there is no control %1").arg(objectName)};
         }
         return *found;
     }

@@ -18,7 +18,7 @@ constexpr int fewestInvented = 1000;
 
 void expectAtMost(milliseconds found, const char* limit, const QString& what) {
     if (found > milliseconds(qEnvironmentVariableIntValue(limit))) {
-        throw Disappointment{"too long: " + what};
+        throw VisitFailure{"too long: " + what};
     }
 }
 
@@ -47,7 +47,7 @@ void Siege::run() {
               .arg(_discoveries * _serials.size())
               .arg(_listed));
     if (!_missed.isEmpty()) {
-        throw Disappointment{"there is no unit " + _missed.join(", ")};
+        throw VisitFailure{"there is no unit " + _missed.join(", ")};
     }
     const milliseconds gap = probe.longestGap();
     const milliseconds computing = probe.longestComputing();
@@ -57,7 +57,7 @@ void Siege::run() {
     expectAtMost(gap, "KX_SIEGE_WAIT", "a person's longest wait");
     expectAtMost(computing, "KX_SIEGE_COMPUTING", "the program's own part in a wait");
     if (_listed < fewestInvented) {
-        throw Disappointment{"there was no flood"};
+        throw VisitFailure{"there was no flood"};
     }
 }
 
@@ -69,7 +69,7 @@ void Siege::lookForUnits() {
         try {
             _driver.pickUnit(serial);
             ++_found;
-        } catch (const Disappointment&) {
+        } catch (const VisitFailure&) {
             _missed.append(serial);
         }
     }

@@ -20,7 +20,7 @@ class Siege final {
 public:
     explicit Siege(WindowDriver& driver);
 
-    // Stays the whole time, and prints its results. Throws a Disappointment when a unit was not
+    // Stays the whole time, and prints its results. Throws a VisitFailure when a unit was not
     // found in the end, when a person had to wait too long, and when there was no flood.
     void run();
 

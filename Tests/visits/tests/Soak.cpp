@@ -57,10 +57,10 @@ void Soak::run() {
     expectShown(askUnitsForStates(qEnvironmentVariableIntValue("KX_SOAK_UNITS")));
 
     if (after.heapBytes > before.heapBytes + heapMayGrow) {
-        throw Disappointment{"the heap has grown"};
+        throw VisitFailure{"the heap has grown"};
     }
     if (after.descriptors > before.descriptors || after.threads > before.threads) {
-        throw Disappointment{"there are more descriptors or threads than before"};
+        throw VisitFailure{"there are more descriptors or threads than before"};
     }
 }
 
@@ -242,8 +242,8 @@ void Soak::expectShown(const std::vector<ShownParameters>& units) {
         const ShownParameters shown = shownNow();
         const std::vector<ShownParameters>& held = entry.value();
         if (std::ranges::find(held, shown) == held.end()) {
-            throw Disappointment{QString("the window shows\n  %1\nand the unit holds\n  %2")
-                                     .arg(describe(shown), describe(held.front()))};
+            throw VisitFailure{QString("the window shows\n  %1\nand the unit holds\n  %2")
+                                   .arg(describe(shown), describe(held.front()))};
         }
     }
     print(QString("Every one of %1 serial numbers is shown as its unit holds it, of %2 listed.")
@@ -259,7 +259,7 @@ ShownParameters Soak::shownNow() const {
     }
     const QString unitID = _driver.control<QLineEdit>("unitIDField").text();
     if (unitID != shown.value("unit ID")) {
-        throw Disappointment{"the unit ID field shows " + unitID};
+        throw VisitFailure{"the unit ID field shows " + unitID};
     }
     return shown;
 }

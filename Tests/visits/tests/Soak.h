@@ -24,7 +24,7 @@ class Soak final {
 public:
     explicit Soak(WindowDriver& driver);
 
-    // Throws a Disappointment that says what was not as expected.
+    // Throws a VisitFailure that says what was not as expected.
     void run();
 
 private:

@@ -125,7 +125,7 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
     } else if (verb == "pause") {
         QThread::msleep(argument.toULong());
     } else {
-        throw Disappointment{"there is no step " + verb};
+        throw VisitFailure{"there is no step " + verb};
     }
 }
 
@@ -143,7 +143,7 @@ void Steps::discoverCrowd(int units) {
         }
         QTest::qWait(rest);
     }
-    throw Disappointment{QString("%1 units are listed, not %2").arg(list.count()).arg(units)};
+    throw VisitFailure{QString("%1 units are listed, not %2").arg(list.count()).arg(units)};
 }
 
 void Steps::expectReplies(int units) {
@@ -179,7 +179,7 @@ void Steps::expectDropped(const QString& text) {
     if (!text.isEmpty()) {
         expectText("line below Discover", text, [this] { return dropLine(); });
     } else if (!dropLine().isEmpty()) {
-        throw Disappointment{dropLine()};
+        throw VisitFailure{dropLine()};
     }
 }
 
@@ -190,7 +190,7 @@ void Steps::watch() {
 
 const ResponsivenessProbe& Steps::probe() const {
     if (_probe == nullptr) {
-        throw Disappointment{"nobody watches how long an event waits"};
+        throw VisitFailure{"nobody watches how long an event waits"};
     }
     return *_probe;
 }
@@ -200,14 +200,14 @@ void Steps::expectAtMost(const QString& what, std::chrono::milliseconds longest,
     const auto found = static_cast<int>(longest.count());
     print(QString("Longest time %1: %2 ms").arg(what).arg(found));
     if (found > limit.toInt()) {
-        throw Disappointment{QString("%1 for %2 ms").arg(what).arg(found)};
+        throw VisitFailure{QString("%1 for %2 ms").arg(what).arg(found)};
     }
 }
 
 void Steps::pickParameter(const QString& name) {
     const int row = _driver.rowOfParameter(name);
     if (row < 0) {
-        throw Disappointment{"there is no parameter " + name};
+        throw VisitFailure{"there is no parameter " + name};
     }
     _driver.pickParameter(row);
 }
@@ -230,7 +230,7 @@ void Steps::expectNoParameter(const QString& name) {
 void Steps::printFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
-        throw Disappointment{"cannot read " + path};
+        throw VisitFailure{"cannot read " + path};
     }
     while (!file.atEnd()) {
         print("Read: " + QString::fromUtf8(file.readLine()).trimmed());
@@ -245,7 +245,7 @@ void Steps::run(const QString& command) const {
     const int status = std::system(command.toLocal8Bit().constData());
     ::setrlimit(RLIMIT_NOFILE, &present);
     if (status != 0) {
-        throw Disappointment{"failed: " + command};
+        throw VisitFailure{"failed: " + command};
     }
 }
 
@@ -253,7 +253,7 @@ void Steps::run(const QString& command) const {
 // hidden then, so the only way to click a button is through its own function.
 void Steps::takeAtLast(const QString& verb, const QString& argument) {
     if (verb != "click" && verb != "run") {
-        throw Disappointment{"there is no last step " + verb};
+        throw VisitFailure{"there is no last step " + verb};
     }
     auto* const button = verb == "click"
                              ? &_driver.control<QAbstractButton>(argument.toLatin1().constData())
@@ -273,7 +273,7 @@ void Steps::allowDescriptors(const QString& number) const {
         limit.rlim_cur = number.toULong();
     }
     if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) {
-        throw Disappointment{"the system does not allow descriptors: " + number};
+        throw VisitFailure{"the system does not allow descriptors: " + number};
     }
 }
 

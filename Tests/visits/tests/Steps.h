@@ -58,7 +58,7 @@ class Steps final {
 public:
     explicit Steps(WindowDriver& driver);
 
-    // Takes every step. A step that is not in the list above throws a Disappointment.
+    // Takes every step. A step that is not in the list above throws a VisitFailure.
     void run();
 
 private:

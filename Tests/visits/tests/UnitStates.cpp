@@ -13,7 +13,7 @@ namespace {
 void tellUnits(int signal) {
     for (const QString& process : qEnvironmentVariable("KX_UNITS_PIDS").split(' ')) {
         if (::kill(process.toInt(), signal) != 0) {
-            throw Disappointment{"there are no units with the process " + process};
+            throw VisitFailure{"there are no units with the process " + process};
         }
     }
 }

@@ -18,7 +18,7 @@ using ShownParameters = QMap<QString, QString>;
 void makeUnitsHonest();
 
 // The values that a window has to show for each unit, in no particular order. Waits for the record
-// in a nested event loop, and throws a Disappointment when the wait was in vain.
+// in a nested event loop, and throws a VisitFailure when the wait was in vain.
 std::vector<ShownParameters> askUnitsForStates(int units);
 
 } // namespace kx

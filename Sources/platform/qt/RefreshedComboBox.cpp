@@ -1,0 +1,21 @@
+#include "platform/qt/RefreshedComboBox.h"
+
+#include <QEvent>
+
+namespace kx {
+
+void RefreshedComboBox::showPopup() {
+    emit aboutToOpen();
+    if (isEnabled()) {
+        QComboBox::showPopup();
+    }
+}
+
+bool RefreshedComboBox::event(QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress && !isEnabled()) {
+        emit aboutToOpen();
+    }
+    return QComboBox::event(event);
+}
+
+} // namespace kx

@@ -1,0 +1,127 @@
+// The common part of the references of both authorities, over an authority that the test plays.
+
+#include "platform/linux/LinuxAuthorizationReference.h"
+
+#include "platform/PollLoopDriver.h"
+
+#include <gtest/gtest.h>
+#include <sched.h>
+#include <sys/mount.h>
+
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <stdexcept>
+
+namespace kx {
+
+namespace {
+
+class PlayedReference final : public LinuxAuthorizationReference {
+public:
+    explicit PlayedReference(RunningTools& runningTools)
+        : LinuxAuthorizationReference(runningTools) {}
+
+    std::int32_t answer = errAuthorizationSuccess;
+    std::vector<bool> mayAskPerson; // flag of each request, in order
+
+private:
+    std::int32_t obtain(const AuthorizationItem& /*right*/, bool mayAsk) override {
+        mayAskPerson.push_back(mayAsk);
+        return answer;
+    }
+    std::unique_ptr<StartedTool> start(const std::string& toolPath,
+                                       const std::vector<std::string>& arguments) override {
+        return StartedTool::start(toolPath, arguments, std::nullopt);
+    }
+    std::string launcher() const override { return "sh"; }
+    std::int32_t refusalOf(int launcherStatus) const override { return launcherStatus; }
+};
+
+// Plays a system that tells nothing about processes. As in ReplacedFile.h, the calling thread keeps
+// its view of the mounted file systems.
+class HiddenProcesses {
+public:
+    HiddenProcesses() {
+        if (::unshare(CLONE_NEWNS) != 0 ||
+            ::mount("none", "/", "none", MS_REC | MS_PRIVATE, nullptr) != 0 ||
+            ::mount("none", "/proc", "tmpfs", 0, nullptr) != 0) {
+            throw std::runtime_error(std::strerror(errno));
+        }
+    }
+    ~HiddenProcesses() { ::umount2("/proc", MNT_DETACH); }
+    HiddenProcesses(const HiddenProcesses&) = delete;
+    HiddenProcesses& operator=(const HiddenProcesses&) = delete;
+};
+
+class LinuxAuthorizationReferenceTest : public testing::Test {
+protected:
+    static constexpr auto asking = kAuthorizationFlagInteractionAllowed;
+    static constexpr auto keeping = kAuthorizationFlagExtendRights;
+
+    const AuthorizationItem right{
+        .name = std::string(kAuthorizationRightExecute), .value = "/bin/true", .flags = 0};
+    PollRunLoop loop;
+    RunningTools runningTools{loop};
+    PlayedReference reference{runningTools};
+};
+
+} // namespace
+
+TEST_F(LinuxAuthorizationReferenceTest, NobodyIsAskedWhetherARightIsHeld) {
+    EXPECT_EQ(reference.copyRights(right, asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference.copyRights(right, keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference.mayAskPerson, (std::vector<bool>{true, false}));
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ARightThatTheHostLetRunOutIsNotHeldAnyMore) {
+    EXPECT_EQ(reference.copyRights(right, asking | keeping), errAuthorizationSuccess);
+    reference.answer = errAuthorizationInteractionNotAllowed;
+    EXPECT_EQ(reference.copyRights(right, keeping), errAuthorizationInteractionNotAllowed);
+    reference.answer = errAuthorizationSuccess;
+    EXPECT_EQ(reference.copyRights(right, keeping), errAuthorizationInteractionNotAllowed);
+    EXPECT_EQ(reference.copyRights(right, asking | keeping), errAuthorizationSuccess);
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherThatEndsAsItselfHasStartedNoTool) {
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exit 42"}, {}), 42);
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherThatBecomesAnotherProgramHasStartedTheTool) {
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"}, {}),
+              errAuthorizationSuccess);
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherWhoseEndIsUnknownIsNotSaidToHaveRefused) {
+    std::vector<int> ends;
+    const auto before = std::signal(SIGCHLD, SIG_IGN); // the system then keeps no exit status
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"},
+                                              [&](int status) { ends.push_back(status); }),
+              errAuthorizationSuccess);
+    std::signal(SIGCHLD, before);
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return !ends.empty(); }));
+    EXPECT_EQ(ends, std::vector<int>{-1});
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, WithoutNamesOfProgramsTheStatusTellsARefusal) {
+    std::vector<int> ends;
+    const auto run = [&](const std::string& script) {
+        return reference.executeWithPrivileges("/bin/sh", {"-c", script},
+                                               [&](int status) { ends.push_back(status); });
+    };
+    const HiddenProcesses hidden;
+    EXPECT_EQ(run("exit 126"), 126);
+    EXPECT_EQ(run("exit 127"), 127);
+    EXPECT_EQ(run("exec /bin/true"), errAuthorizationSuccess);
+    EXPECT_EQ(run("exec /bin/false"), errAuthorizationSuccess);
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return ends.size() == 2; }));
+    EXPECT_EQ(ends, (std::vector<int>{0, 1}));
+}
+
+// The program that still runs may be the launcher, in which a person is asked.
+TEST_F(LinuxAuthorizationReferenceTest, WithoutNamesOfProgramsALongRunIsWaitedFor) {
+    const HiddenProcesses hidden;
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "sleep 2.2; exit 126"}, {}), 126);
+}
+
+} // namespace kx
