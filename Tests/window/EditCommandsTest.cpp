@@ -30,13 +30,13 @@ protected:
 
 TEST_F(EditCommandsTest, TheSelectedRowIsCopiedWithATabBetweenItsCells) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     EXPECT_EQ(copiedByKeys(), "device Port number\t10000");
 }
 
 TEST_F(EditCommandsTest, TheMenuCopiesTheRowToo) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 4, 0);
+    clickParameter(UnitParameter::internalIPAddress, 0);
     control<QAction>("copyAction").trigger();
     EXPECT_EQ(clipboard(), "internal IP address\t192.168.1.10");
 }
@@ -70,14 +70,14 @@ TEST_F(EditCommandsTest, TheEditRowCopiesItsNameAndValue) {
     auto& editRow = control<QTableView>("editParameterTableView");
     editRow.setFocus();
     EXPECT_EQ(copiedByKeys(), "before"); // the edit row is still empty
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     editRow.setFocus();
     EXPECT_EQ(copiedByKeys(), "device Port number\t10000");
 }
 
 TEST_F(EditCommandsTest, AnOpenEditKeepsItsOwnCopyAndSelectAll) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     type("4711");
     press(Qt::Key_Left, Qt::ShiftModifier);
@@ -93,7 +93,7 @@ TEST_F(EditCommandsTest, AnOpenEditKeepsItsOwnCopyAndSelectAll) {
 
 TEST_F(EditCommandsTest, AnOpenEditTakesWhatIsPastedAndGivesWhatIsCut) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     QGuiApplication::clipboard()->setText("3522");
     press(Qt::Key_V, Qt::ControlModifier);

@@ -166,7 +166,7 @@ TEST_F(KeyboardTest, EveryButtonHasAMenuItem) {
     newlySent();
     chooseFromMenu(Qt::Key_U, "r");
     EXPECT_EQ(newlySent(), Texts{"^^IdX"});
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     chooseFromMenu(Qt::Key_U, "a");
     EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
     chooseFromMenu(Qt::Key_U, "s");
@@ -241,7 +241,7 @@ TEST_F(KeyboardTest, TheFirstRowCanBeChosenToo) {
 
 TEST_F(KeyboardTest, EscapeGivesAnEditUpAndLeavesTheKeyboardInTheEditRow) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     type("1");
     press(Qt::Key_Escape);
@@ -254,7 +254,7 @@ TEST_F(KeyboardTest, EscapeGivesAnEditUpAndLeavesTheKeyboardInTheEditRow) {
 
 TEST_F(KeyboardTest, ReturnKeepsAnEditAndPressesNoButton) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     type("1");
     newlySent();
@@ -267,7 +267,7 @@ TEST_F(KeyboardTest, ReturnKeepsAnEditAndPressesNoButton) {
 
 TEST_F(KeyboardTest, TabAndShiftTabLeaveAnOpenEditForItsNeighbours) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     press(Qt::Key_Tab);
     EXPECT_TRUE(QTest::qWaitFor([this] { return editor() == nullptr; }));
@@ -282,7 +282,7 @@ TEST_F(KeyboardTest, TabAndShiftTabLeaveAnOpenEditForItsNeighbours) {
 
 TEST_F(KeyboardTest, SpacePressesEveryButton) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     newlySent();
     const std::map<const char*, std::string> sends = {{"reloadButton", "^^IdX"},
                                                       {"applyButton", "^^IdP2710"},

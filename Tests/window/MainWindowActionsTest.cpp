@@ -168,7 +168,7 @@ TEST_F(MainWindowTest, AClickOnRestoreDefaultsSendsItAndAsksAgain) {
 
 TEST_F(MainWindowTest, SelectingAParameterCopiesItIntoTheEditRow) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     EXPECT_EQ(cell("editParameterTableView", 0, 0), "device Port number");
     EXPECT_EQ(cell("editParameterTableView", 0, 1), "10000");
     control<QWidget>("unitParameterTableView").setFocus();
@@ -178,7 +178,7 @@ TEST_F(MainWindowTest, SelectingAParameterCopiesItIntoTheEditRow) {
 
 TEST_F(MainWindowTest, AClickBelowTheRowsLeavesTheEditRow) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     window.resize(window.width(), window.height() + 100);
     auto& table = control<QTableView>("unitParameterTableView");
     QTest::mouseClick(table.viewport(), Qt::LeftButton, Qt::NoModifier,
@@ -189,7 +189,7 @@ TEST_F(MainWindowTest, AClickBelowTheRowsLeavesTheEditRow) {
 
 TEST_F(MainWindowTest, WhatIsTypedIntoTheEditRowReachesItsDataSource) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     control<QWidget>("unitParameterTableView").setFocus();
     press(Qt::Key_Return); // begins an edit in the edit row
     const QPointer<QLineEdit> editor =
@@ -205,7 +205,7 @@ TEST_F(MainWindowTest, WhatIsTypedIntoTheEditRowReachesItsDataSource) {
 
 TEST_F(MainWindowTest, AHalfTypedValueIsStoredWhenTheWindowEndsTheEdit) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     auto& editRow = control<QTableView>("editParameterTableView");
     editRow.setFocus();
     press(Qt::Key_F2);
@@ -220,7 +220,7 @@ TEST_F(MainWindowTest, AHalfTypedValueIsStoredWhenTheWindowEndsTheEdit) {
 
 TEST_F(MainWindowTest, TheNameInTheEditRowCannotBeChanged) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     const auto* const model = control<QTableView>("editParameterTableView").model();
     EXPECT_FALSE(model->index(0, 0).flags().testFlag(Qt::ItemIsEditable));
     EXPECT_TRUE(model->index(0, 1).flags().testFlag(Qt::ItemIsEditable));

@@ -18,7 +18,7 @@ class MainWindowApply : public MainWindowTest {
 protected:
     // Opens the editor of a parameter's value and types into it.
     void typeInstead(UnitParameter parameter, const char* text) {
-        clickCell("unitParameterTableView", static_cast<int>(parameter), 1);
+        clickParameter(parameter);
         press(Qt::Key_Return);
         ASSERT_NE(editor(), nullptr);
         type(text);
@@ -41,7 +41,7 @@ protected:
 
 TEST_F(MainWindowApply, AClickOnApplySendsTheEditRowsValue) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     newlySent();
     click("applyButton");
     EXPECT_EQ(newlySent(), Texts{"^^IdP2710"});
@@ -72,7 +72,7 @@ TEST_F(MainWindowApply, TheShortcutAppliesOutOfAnOpenEdit) {
 
 TEST_F(MainWindowApply, TheMenuAppliesToo) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 7, 1);
+    clickParameter(UnitParameter::unitID);
     newlySent();
     control<QAction>("applyAction").trigger();
     EXPECT_EQ(newlySent(), Texts{"^^IdU00000000002A"});
@@ -119,19 +119,17 @@ TEST_F(MainWindowApply, ApplyIsNeverDisabled) {
 
 TEST_F(MainWindowApply, TheQuietLineFollowsEveryKey) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 2, 1);
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520.");
+    clickParameter(UnitParameter::devicePortNumber);
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP2710: device port 10000.");
     control<QWidget>("editParameterTableView").setFocus();
-    type("3"); // opens the editor with this character in it
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 3 is outside "
-                           "3520 to 3523.");
-    type("524");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is outside "
-                           "3520 to 3523.");
+    type("7"); // opens the editor with this character in it
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP0007: device port 7.");
+    type("x");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP0007: device port 7, because that is how “7x” is read.");
     press(Qt::Key_Backspace);
-    type("3");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
-    EXPECT_EQ(editedValue(), "3520");
+    type("8");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdP004E: device port 78.");
+    EXPECT_EQ(editedValue(), "10000");
 }
 
 TEST_F(MainWindowApply, AnEditThatIsGivenUpIsForgottenByTheQuietLine) {

@@ -15,7 +15,7 @@ protected:
     // Shows a unit, prepares an edit of one of its parameters, and finds a text in the log.
     void launchWithEverything() {
         launchWithTwoUnits();
-        clickCell("unitParameterTableView", 3, 0);
+        clickParameter(UnitParameter::devicePortNumber, 0);
         press(Qt::Key_F, Qt::ControlModifier);
         ASSERT_TRUE(drawerComesToRest());
         type("parameters");
@@ -144,7 +144,7 @@ TEST_F(MainWindowTest, NoTextOrBackgroundHasAColourOfItsOwn) {
     type("x");
     receive(SampleUnit().reply());
     click("reloadButton");
-    clickCell("unitParameterTableView", 0, 0);
+    clickParameter(UnitParameter::destinationIPAddress, 0);
     control<QWidget>("logTextView").setFocus();
     expectNoBlueAnywhere();
 }

@@ -16,6 +16,7 @@
 #include "doubles/ScriptedSystemCalls.h"
 #include "platform/qt/LogTextView.h"
 #include "platform/qt/MainWindow.h"
+#include "units/UnitParameter.h"
 
 #include <gtest/gtest.h>
 
@@ -87,6 +88,19 @@ protected:
         auto& view = control<QTableView>(table);
         QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier,
                           view.visualRect(view.model()->index(row, column)).center());
+    }
+
+    // Clicks in the row of a parameter, which the table shows by its English name. Column 0 has the
+    // name and column 1 the value.
+    void clickParameter(UnitParameter parameter, int column = 1) {
+        const int rows = control<QTableView>("unitParameterTableView").model()->rowCount();
+        for (int row = 0; row < rows; ++row) {
+            if (cell("unitParameterTableView", row, 0) == nameOfUnitParameter(parameter)) {
+                clickCell("unitParameterTableView", row, column);
+                return;
+            }
+        }
+        ADD_FAILURE() << "the table has no row " << nameOfUnitParameter(parameter);
     }
 
     // The selected title; "(none)" when nothing is selected.

@@ -54,7 +54,7 @@ TEST_F(MainWindowSpeech, TheQuietLineIsANotificationWithItsText) {
 TEST_F(MainWindowSpeech, ANoteIsSaidWhenTheTypingRests) {
     launchWithTwoUnits();
     const ScreenReader listening(&hear);
-    clickCell("unitParameterTableView", 2, 1);
+    clickParameter(UnitParameter::destinationPortNumber);
     control<QWidget>("editParameterTableView").setFocus();
     type("3521");
     EXPECT_TRUE(hears("Apply sends ^^IdT0DC1: destination port 3521."));
@@ -126,7 +126,7 @@ TEST_F(MainWindowSpeech, AnEmptyControlIsDescribedAsWhatItShows) {
 
 TEST_F(MainWindowSpeech, AControlWithAContentNeedsNoDescription) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 0, 0);
+    clickParameter(UnitParameter::destinationIPAddress, 0);
     for (const char* name : {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp",
                              "interfacePopUp"}) {
         EXPECT_EQ(description(name), "") << name;
@@ -137,7 +137,7 @@ TEST_F(MainWindowSpeech, AControlWithAContentNeedsNoDescription) {
 
 TEST_F(MainWindowSpeech, TheFieldOverAValueIsNamedAfterItsParameter) {
     launchWithTwoUnits();
-    clickCell("unitParameterTableView", 3, 1);
+    clickParameter(UnitParameter::devicePortNumber);
     press(Qt::Key_Return);
     auto* const editor =
         control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
