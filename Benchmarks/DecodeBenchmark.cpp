@@ -3,6 +3,7 @@
 
 #include "Comparison.h"
 #include "units/ParameterList.h"
+#include "words/ParameterLines.h"
 
 #include <benchmark/benchmark.h>
 
@@ -74,7 +75,8 @@ PlainUnit plainDecode(const Bytes& list) {
 }
 
 void decodePlainly(benchmark::State& state) {
-    if (plainDecode(parameterList).displayText != decodeUnitParameters(parameterList).displayText) {
+    if (plainDecode(parameterList).displayText !=
+        linesOfParameters(decodeUnitParameters(parameterList).items, shownParameterNames())) {
         state.SkipWithError("the two decoders disagree");
     }
     for (auto _ : state) {
@@ -83,14 +85,13 @@ void decodePlainly(benchmark::State& state) {
 }
 BENCHMARK(decodePlainly);
 
-// Decodes with names, as the application does for its log.
+// Decodes and makes the lines, as the application does for its log.
 void decode(benchmark::State& state) {
-    ShownParameterNames names;
-    for (const UnitParameter parameter : allUnitParameters) {
-        names[indexOf(parameter)] = nameOfUnitParameter(parameter);
-    }
+    const ShownParameterNames names = shownParameterNames();
     for (auto _ : state) {
-        benchmark::DoNotOptimize(decodeUnitParameters(parameterList, &names));
+        const auto decoded = decodeUnitParameters(parameterList);
+        benchmark::DoNotOptimize(decoded.record);
+        benchmark::DoNotOptimize(linesOfParameters(decoded.items, names));
     }
 }
 BENCHMARK(decode);

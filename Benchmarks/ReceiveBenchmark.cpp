@@ -58,7 +58,7 @@ void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
 
 using Buffer = std::array<char, 65536>;
 
-// What the endpoint asks of the system, and no more: the datagram, its sender and its link.
+// Receives what the endpoint asks of the system: the datagram, its sender and its link.
 void receiveWithLink(int sock, Buffer& buffer) {
     sockaddr_in sender{};
     iovec bytes{buffer.data(), buffer.size()};

@@ -12,42 +12,18 @@ namespace kx {
 
 namespace {
 
-// The beginning of a line of the display text, joined when the program is compiled.
-class LineStart {
-public:
-    consteval explicit LineStart(std::string_view name) {
-        append("\n\t");
-        append(name);
-        append(": ");
-    }
-
-    constexpr std::string_view view() const { return {_text.data(), _length}; }
-
-private:
-    constexpr void append(std::string_view part) {
-        for (const char character : part) {
-            _text.at(_length++) = character;
-        }
-    }
-
-    std::array<char, 32> _text{};
-    std::size_t _length = 0;
-};
-
 struct Item {
     char letter; // letter of its tag
     ValueForm form;
     std::size_t valueLength;
     std::optional<UnitParameter> parameter; // absent for an item that is not kept
-    LineStart lineStart;
 
     consteval Item(std::string_view tag, ValueForm itsForm,
-                   std::optional<UnitParameter> itsParameter, std::string_view name)
+                   std::optional<UnitParameter> itsParameter)
         : letter(tag[1])
         , form(itsForm)
         , valueLength(lengthOfValue(itsForm))
-        , parameter(itsParameter)
-        , lineStart(name) {}
+        , parameter(itsParameter) {}
 };
 
 constexpr std::size_t itemCount = unitParameterCount + 1;
@@ -55,9 +31,8 @@ constexpr std::size_t itemCount = unitParameterCount + 1;
 template<std::size_t... rows>
 consteval std::array<Item, itemCount> itemsOfRows(std::index_sequence<rows...> /*rows*/) {
     return {Item(parameterTable[rows].tag, parameterTable[rows].form,
-                 parameterTable[rows].parameter, parameterTable[rows].name)...,
-            Item(tagOfUninterpretedItem, ValueForm::hardwareAddress, std::nullopt,
-                 tagOfUninterpretedItem)};
+                 parameterTable[rows].parameter)...,
+            Item(tagOfUninterpretedItem, ValueForm::hardwareAddress, std::nullopt)};
 }
 
 constexpr auto items = itemsOfRows(std::make_index_sequence<unitParameterCount>());
@@ -73,16 +48,6 @@ constexpr std::array<std::uint8_t, 256> itemForLetter = [] {
 }();
 
 constexpr std::size_t tagLength = 3;
-constexpr std::string_view missingText = "(null)";
-
-// The longest display text of a list with one of each item.
-constexpr std::size_t usualDisplayLength = [] {
-    std::size_t length = 0;
-    for (const Item& item : items) {
-        length += item.lineStart.view().size() + UnitRecord::longestText;
-    }
-    return length;
-}();
 
 const Item* itemAtFrontOf(ByteView list) {
     if (list.size() < tagLength || list[0] != '<' || list[2] != '>') {
@@ -92,8 +57,7 @@ const Item* itemAtFrontOf(ByteView list) {
     return index < itemCount ? &items[index] : nullptr;
 }
 
-// Room for the text of one value, so that only the display text needs storage when a list is
-// decoded.
+// Room for the text of one value.
 class ValueText {
 public:
     void setHex(ByteView octets, char separator) {
@@ -154,22 +118,10 @@ bool takeValue(ValueForm form, ByteView value, ValueText& text) {
     return identity.has_value();
 }
 
-void appendLineStart(std::string& displayText, const Item& item, const ShownParameterNames* names) {
-    if (names == nullptr || !item.parameter.has_value()) {
-        displayText += item.lineStart.view();
-    } else {
-        displayText += "\n\t";
-        displayText += (*names)[indexOf(*item.parameter)];
-        displayText += ": ";
-    }
-}
-
-void decodeItem(const Item& item, ByteView value, const ShownParameterNames* names,
-                DecodedUnitParameters& decoded) {
+void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded) {
     ValueText text;
     const bool hasText = takeValue(item.form, value, text);
-    appendLineStart(decoded.displayText, item, names);
-    decoded.displayText += hasText ? text.view() : missingText;
+    decoded.items.emplace_back(item.parameter, hasText ? std::optional(text.view()) : std::nullopt);
     if (!item.parameter.has_value()) {
         return;
     }
@@ -182,11 +134,20 @@ void decodeItem(const Item& item, ByteView value, const ShownParameterNames* nam
 
 } // namespace
 
-DecodedUnitParameters decodeUnitParameters(ByteView list, const ShownParameterNames* names) {
+ToldParameter::ToldParameter(std::optional<UnitParameter> parameter,
+                             std::optional<std::string_view> text)
+    : _parameter(parameter)
+    , _hasText(text.has_value()) {
+    if (_hasText) {
+        _length = static_cast<std::uint8_t>(text->copy(_text.data(), _text.size()));
+    }
+}
+
+DecodedUnitParameters decodeUnitParameters(ByteView list) {
     DecodedUnitParameters decoded;
-    decoded.displayText.reserve(usualDisplayLength);
+    decoded.items.reserve(itemCount);
     while (const Item* item = itemAtFrontOf(list)) {
-        decodeItem(*item, subrange(list, tagLength, item->valueLength), names, decoded);
+        decodeItem(*item, subrange(list, tagLength, item->valueLength), decoded);
         list = list.subspan(tagLength + item->valueLength);
     }
     return decoded;

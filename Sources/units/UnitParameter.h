@@ -123,9 +123,6 @@ constexpr std::optional<UnitParameter> unitParameterForName(std::string_view nam
     return found == parameterTable.end() ? std::nullopt : std::optional(found->parameter);
 }
 
-// The name that people see for each parameter, by indexOf().
-using ShownParameterNames = std::array<std::string, unitParameterCount>;
-
 // --- Checks of the table ---
 
 namespace detail {

@@ -33,6 +33,13 @@ public:
 
     void removeValue(UnitParameter parameter) { _slots[indexOf(parameter)] = Slot{}; }
 
+    // Whether both tell the same internal MAC address: then they are of one unit, also under two
+    // serial numbers.
+    bool hasHardwareAddressOf(const UnitRecord& other) const {
+        const auto address = value(UnitParameter::internalMACAddress);
+        return address.has_value() && address == other.value(UnitParameter::internalMACAddress);
+    }
+
     // Whether both have the same parameters with the same texts.
     friend bool operator==(const UnitRecord& left, const UnitRecord& right);
 

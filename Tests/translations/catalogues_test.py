@@ -11,7 +11,7 @@ PARAMETER = re.compile(r"(?:destination|device|internal) [A-Za-z ]+|serial numbe
 # The calls that look up a key which another place marks with localizedKey(), or which another of the
 # functions has got: the file, and how the argument begins.
 KNOWN_LOOKUPS = {
-    ("KXConfigAppDelegate.cpp", "row.name)"),
+    ("ParameterLines.cpp", "row.name)"),
     ("SystemConfiguration_Enumeration.cpp", "notAvailableText)"),
     ("SystemConfiguration_Queries.cpp", "notAvailableText)"),
     ("ConfigurationRecords.cpp", "namesOfKind(link.kind).userDefinedName)"),

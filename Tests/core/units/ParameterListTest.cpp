@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 namespace kx {
@@ -15,8 +14,16 @@ std::string value(const UnitRecord& record, UnitParameter parameter) {
     return std::string(record.value(parameter).value_or("(absent)"));
 }
 
-std::ptrdiff_t linesIn(const std::string& text) {
-    return std::count(text.begin(), text.end(), '\n');
+// The items in their order, each as "\nNAME: TEXT".
+std::string told(const DecodedUnitParameters& decoded) {
+    std::string text;
+    for (const ToldParameter& item : decoded.items) {
+        text += '\n';
+        text += item.parameter().has_value() ? nameOfUnitParameter(*item.parameter()) : "(none)";
+        text += ": ";
+        text += item.text().value_or("(absent)");
+    }
+    return text;
 }
 
 } // namespace
@@ -31,29 +38,14 @@ TEST(UnitParameterList, WithEveryItemGivesEveryValue) {
     EXPECT_EQ(value(decoded.record, UnitParameter::unitID), "42");
     EXPECT_EQ(value(decoded.record, UnitParameter::destinationMACAddress), "00:0A:0B:0C:0D:0E");
     EXPECT_EQ(value(decoded.record, UnitParameter::serialNumber), "01 02 03 04 05 06");
-    EXPECT_EQ(decoded.displayText, "\n\tinternal MAC address: 00:1A:2B:3C:4D:5E"
-                                   "\n\tinternal IP address: 192.168.1.10"
-                                   "\n\tdestination IP address: 192.168.1.1"
-                                   "\n\tdestination Port number: 3520"
-                                   "\n\tdevice Port number: 10000"
-                                   "\n\tunit ID: 42"
-                                   "\n\tdestination MAC address: 00:0A:0B:0C:0D:0E"
-                                   "\n\tserial number: 01 02 03 04 05 06");
-}
-
-TEST(UnitParameterList, IsShownWithTheNamesThatItIsGiven) {
-    ShownParameterNames names;
-    for (const UnitParameter parameter : allUnitParameters) {
-        names[static_cast<std::size_t>(parameter)] =
-            "<" + std::string(nameOfUnitParameter(parameter)) + ">";
-    }
-    const Bytes list = joined(
-        {item("<T>", {0x0D, 0xC0}), item("<O>", {1, 2, 3, 4, 5, 6}), item("<I>", {10, 0, 0, 1})});
-    const auto decoded = decodeUnitParameters(list, &names);
-    EXPECT_EQ(decoded.displayText, "\n\t<destination Port number>: 3520"
-                                   "\n\t<O>: 01:02:03:04:05:06"
-                                   "\n\t<internal IP address>: 10.0.0.1");
-    EXPECT_EQ(decoded.record, decodeUnitParameters(list).record);
+    EXPECT_EQ(told(decoded), "\ninternal MAC address: 00:1A:2B:3C:4D:5E"
+                             "\ninternal IP address: 192.168.1.10"
+                             "\ndestination IP address: 192.168.1.1"
+                             "\ndestination Port number: 3520"
+                             "\ndevice Port number: 10000"
+                             "\nunit ID: 42"
+                             "\ndestination MAC address: 00:0A:0B:0C:0D:0E"
+                             "\nserial number: 01 02 03 04 05 06");
 }
 
 TEST(UnitParameterList, OfASampleReplyIsSixtyBytesBehindTheHeader) {
@@ -64,7 +56,7 @@ TEST(UnitParameterList, OfASampleReplyIsSixtyBytesBehindTheHeader) {
 TEST(UnitParameterList, MayBeEmpty) {
     const auto decoded = decodeUnitParameters({});
     EXPECT_EQ(decoded.record, UnitRecord());
-    EXPECT_EQ(decoded.displayText, "");
+    EXPECT_EQ(told(decoded), "");
 }
 
 TEST(UnitParameterList, ShowsPortsUnsigned) {
@@ -84,8 +76,8 @@ TEST(UnitParameterList, TakesEveryAddressAsItIs) {
 TEST(UnitParameterList, TakesItemsInAnyOrder) {
     const auto decoded = decodeUnitParameters(
         joined({item("<S>", {1, 2, 3, 4, 5, 6}), item("<M>", {1, 2, 3, 4, 5, 6})}));
-    EXPECT_EQ(decoded.displayText, "\n\tserial number: 01 02 03 04 05 06"
-                                   "\n\tinternal MAC address: 01:02:03:04:05:06");
+    EXPECT_EQ(told(decoded), "\nserial number: 01 02 03 04 05 06"
+                             "\ninternal MAC address: 01:02:03:04:05:06");
 }
 
 TEST(UnitParameterList, EndsQuietlyAtAnUnknownTag) {
@@ -94,7 +86,7 @@ TEST(UnitParameterList, EndsQuietlyAtAnUnknownTag) {
     for (const char* tag : {"<X>", "<m>", "<M]", "[M>", " <M"}) {
         const auto decoded = decodeUnitParameters(joined(
             {item("<T>", {0x0D, 0xC0}), item(tag, {1, 2, 3, 4, 5, 6}), item("<P>", {0, 80})}));
-        EXPECT_EQ(decoded.displayText, "\n\tdestination Port number: 3520") << tag;
+        EXPECT_EQ(told(decoded), "\ndestination Port number: 3520") << tag;
         EXPECT_EQ(decoded.record, portAlone) << tag;
     }
 }
@@ -107,29 +99,29 @@ TEST(UnitParameterList, EndsQuietlyAtOneOrTwoBytesMore) {
     }
 }
 
-TEST(UnitParameterList, ShowsTheUninterpretedItemAndDoesNotKeepIt) {
+TEST(UnitParameterList, TellsTheUninterpretedItemAndDoesNotKeepIt) {
     const auto decoded = decodeUnitParameters(item("<O>", {1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(decoded.displayText, "\n\t<O>: 01:02:03:04:05:06");
+    EXPECT_EQ(told(decoded), "\n(none): 01:02:03:04:05:06");
     EXPECT_EQ(decoded.record, UnitRecord());
 }
 
-TEST(UnitParameterList, KeepsTheLaterOfTwoItemsAndShowsBoth) {
+TEST(UnitParameterList, KeepsTheLaterOfTwoItemsAndTellsBoth) {
     const auto decoded =
         decodeUnitParameters(joined({item("<I>", {10, 0, 0, 1}), item("<I>", {10, 0, 0, 2})}));
     EXPECT_EQ(value(decoded.record, UnitParameter::internalIPAddress), "10.0.0.2");
-    EXPECT_EQ(decoded.displayText, "\n\tinternal IP address: 10.0.0.1"
-                                   "\n\tinternal IP address: 10.0.0.2");
+    EXPECT_EQ(told(decoded), "\ninternal IP address: 10.0.0.1"
+                             "\ninternal IP address: 10.0.0.2");
 }
 
 TEST(UnitParameterList, LeavesOutAUnitIDThatIsNotUTF8) {
     const Bytes notText{0xFF, 1, 2, 3, 4, 5};
     const auto decoded = decodeUnitParameters(item("<U>", notText));
-    EXPECT_EQ(decoded.displayText, "\n\tunit ID: (null)");
+    EXPECT_EQ(told(decoded), "\nunit ID: (absent)");
     EXPECT_EQ(decoded.record, UnitRecord());
 
     const auto replaced =
         decodeUnitParameters(joined({item("<U>", {0, 0, 0, 0, 0, 42}), item("<U>", notText)}));
-    EXPECT_EQ(replaced.displayText, "\n\tunit ID: 42\n\tunit ID: (null)");
+    EXPECT_EQ(told(replaced), "\nunit ID: 42\nunit ID: (absent)");
     EXPECT_EQ(replaced.record, UnitRecord());
 }
 
@@ -148,7 +140,7 @@ TEST(UnitParameterList, ItemCutShortIsARangeFailure) {
             EXPECT_THROW(decodeUnitParameters(list), RangeFailure) << tag << present;
         }
         const Bytes whole = item(tag, Bytes(length, 1));
-        EXPECT_EQ(linesIn(decodeUnitParameters(whole).displayText), 1) << tag;
+        EXPECT_EQ(decodeUnitParameters(whole).items.size(), 1U) << tag;
     }
 }
 
@@ -159,7 +151,7 @@ TEST(UnitParameterList, MayHoldFarMoreItemsThanThereAreParameters) {
         list.insert(list.end(), one.begin(), one.end());
     }
     const auto decoded = decodeUnitParameters(list);
-    EXPECT_EQ(linesIn(decoded.displayText), 400);
+    EXPECT_EQ(decoded.items.size(), 400U);
     EXPECT_EQ(value(decoded.record, UnitParameter::destinationPortNumber),
               std::to_string(0x0D00 + 399 % 256));
 }

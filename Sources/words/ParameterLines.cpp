@@ -1,0 +1,34 @@
+#include "words/ParameterLines.h"
+
+#include "support/LocalizedText.h"
+
+#include <algorithm>
+#include <cstddef>
+
+namespace kx {
+
+ShownParameterNames shownParameterNames() {
+    ShownParameterNames names;
+    std::ranges::transform(parameterTable, names.begin(),
+                           [](const auto& row) { return localizedText(row.name); });
+    return names;
+}
+
+std::string linesOfParameters(const std::vector<ToldParameter>& items,
+                              const ShownParameterNames& names) {
+    // Enough for one line with a name of usual length.
+    constexpr std::size_t usualLine = 48;
+
+    std::string lines;
+    lines.reserve(items.size() * usualLine);
+    for (const ToldParameter& item : items) {
+        lines += "\n\t";
+        lines += item.parameter().has_value() ? std::string_view(names[indexOf(*item.parameter())])
+                                              : tagOfUninterpretedItem;
+        lines += ": ";
+        lines += item.text().value_or("(null)");
+    }
+    return lines;
+}
+
+} // namespace kx

@@ -1,0 +1,27 @@
+// The parameters that a unit told, as lines of the event log.
+//
+// Main thread only, because the names are looked up (support/LocalizedText.h). Texts are UTF-8.
+
+#pragma once
+
+#include "units/ParameterList.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+// The name that people see for each parameter, by indexOf().
+using ShownParameterNames = std::array<std::string, unitParameterCount>;
+
+// The names in the present language. Looking them up takes longer than decoding a reply, so keep
+// them while the language does not change.
+ShownParameterNames shownParameterNames();
+
+// One line for each item, "\n\tNAME: TEXT", in the order of the list. An item without a parameter
+// has its tag as its name, and one without a text has "(null)".
+std::string linesOfParameters(const std::vector<ToldParameter>& items,
+                              const ShownParameterNames& names);
+
+} // namespace kx
