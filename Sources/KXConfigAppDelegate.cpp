@@ -15,7 +15,7 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
                 .hostResolver = services.hostResolver,
                 .systemCalls = services.systemCalls,
                 .receiveBuffers = services.receiveBuffers},
-               _devicesD, *this)
+               _devicesD, *this, this)
     , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); }) {}
 
 KXConfigAppDelegate::~KXConfigAppDelegate() = default;
@@ -26,10 +26,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     logText.clear();
     _outlets.eventLogDrawer->close();
 
-    ShownParameterNames names;
-    std::ranges::transform(parameterTable, names.begin(),
-                           [](const auto& row) { return localizedText(row.name); });
-    _session.setShownNames(std::move(names));
+    _shownNames = shownParameterNames();
     listInterfaces(currentInterfaceTitles());
 
     _session.stop();

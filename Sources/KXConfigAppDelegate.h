@@ -24,20 +24,18 @@
 #include "conversation/UnitSession.h"
 #include "support/Authorization.h"
 #include "support/InstanceNames.h"
-#include "support/TextFormat.h"
 #include "support/WallClock.h"
 #include "tables/TableViewDataSource.h"
 #include "units/UnitRegistry.h"
 #include "words/LogText.h"
+#include "words/ParameterLines.h"
 #include "words/QuietLine.h"
 
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
-#include <initializer_list>
 #include <list>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -151,7 +149,7 @@ public:
     void tableViewSetObjectValueForTableColumnRow(const PropertyListValue& value,
                                                   const TableColumn& column, int row) override;
 
-    // --- The endpoint's events, passed on to the session ---
+    // --- The endpoint's events, which the session handles ---
 
     void echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data,
                                        const Bytes& address) override;
@@ -162,7 +160,7 @@ public:
     void echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) override;
     void echoDidStopWithError(UDPEcho& echo, const Error& error) override;
 
-    // --- Commands to units (KXConfigAppDelegate_Protocol.cpp) ---
+    // --- Commands to units (KXConfigAppDelegate_Session.cpp) ---
 
     // Sends a command to a dotted IPv4 address, on the selected unit's device port or on 3520. True
     // when the command was handed to the listener; the event log tells when the send then fails.
@@ -187,7 +185,7 @@ public:
     std::string eventLog() const { return logText.text(); } // a copy
     const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
-    const UDPEcho* udpListener() const { return _session.listener(); } // null when there is none
+    const UDPEcho* udpListener() const { return _udpListener.get(); } // null when there is none
     const QuietLine& quietLine() const { return _quietLine; }
 
 private:
@@ -197,8 +195,8 @@ private:
     void sessionCanBroadcast() override;
     void sessionCannotBroadcast(const std::string& reason) override;
     void sessionDidStop(const Error& error) override;
-    void sessionDidReceiveDatagram(std::size_t length) override;
-    void sessionDidIgnoreDatagram(PacketKind kind) override;
+    void sessionDidReceiveDatagram(std::size_t length, const DatagramOrigin& origin) override;
+    void sessionDidIgnoreDatagram(PacketKind kind, const DatagramOrigin& origin) override;
     void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
                                const DatagramOrigin& origin) override;
     void unitDidAccept(const Reply& reply, const DatagramOrigin& origin) override;
@@ -217,12 +215,9 @@ private:
     UnitDestination unitDestination() const;
     CommandTarget commandTarget() const;
 
-    // A command was handed to the session. `failure` says why the session did not send it.
-    struct HandedOver {
-        std::optional<SendFailure> failure;
-    };
-    std::optional<HandedOver> handOver(const std::optional<std::string>& command,
-                                       const std::optional<std::string>& address);
+    void didStartListenerWithAddress(const Bytes& address);
+    std::string unitParameters(const DecodedUnitParameters& parameters);
+
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
@@ -237,8 +232,6 @@ private:
     EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
     bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
     bool authenticateForARP();
-    std::optional<std::int32_t> makeARPEntry(const std::optional<std::string>& hardwareAddress,
-                                             const std::optional<std::string>& ip);
 
     std::string forecast() const;
     void showForecast();
@@ -259,11 +252,15 @@ private:
     std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
     UnitRegistry _devicesD;
-    UnitSession _session; // owns the listener
+    UnitSession _session;
+    const std::shared_ptr<UDPEcho>& _udpListener = _session.listener(); // null when there is none
+    std::optional<SendFailure> _sendFailure; // failure of the latest command; absent when it left
+    ShownParameterNames _shownNames;         // those of the language at the launch
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
     int _latestARPAttempt = 0;                         // number of attempts, refused ones included
+    ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;

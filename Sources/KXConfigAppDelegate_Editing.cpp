@@ -65,12 +65,24 @@ void KXConfigAppDelegate::applyEditParameterButton() {
         return;
     }
     switch (*parameter) {
+    case UnitParameter::internalMACAddress:
+        return edit_internalMAC();
     case UnitParameter::internalIPAddress:
         return edit_internalIP();
+    case UnitParameter::destinationIPAddress:
+        return edit_destIP();
+    case UnitParameter::destinationPortNumber:
+        return edit_destPort();
+    case UnitParameter::devicePortNumber:
+        return edit_devicePort();
     case UnitParameter::unitID:
         return edit_unitID();
-    default:
-        return sendEdit(*parameter);
+    case UnitParameter::destinationMACAddress:
+        return edit_destMAC();
+    case UnitParameter::serialNumber:
+        return edit_serial();
+    case UnitParameter::end:
+        break;
     }
 }
 
@@ -112,9 +124,8 @@ void KXConfigAppDelegate::sendEdit(UnitParameter parameter) {
         return;
     }
     const auto& sent = std::get<ParameterEdit>(edit);
-    if (const auto result =
-            handOver(sent.command, selectedText(UnitParameter::internalIPAddress))) {
-        _quietLine.showOutcome({sent, editedUnit(sent), result->failure});
+    if (sendCommand(sent.command)) {
+        _quietLine.showOutcome({sent, editedUnit(sent), _sendFailure});
     }
 }
 
@@ -126,14 +137,13 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     const auto& move = std::get<ParameterEdit>(edit);
     EditOutcome::Unit unit = editedUnit(move);
-    const auto entry = makeARPEntry(unit.hardwareAddress, move.typed);
+    arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
     }
-    if (const auto result = handOver(move.command, move.typed)) {
-        EditOutcome outcome(move, std::move(unit), result->failure);
-        outcome.setARPEntry(entry.has_value() ? arpEntryForResult(*entry)
-                                              : ARPEntry{.state = ARPEntryState::rightsNotGiven});
+    if (sendCommandToAddress(move.command, move.typed)) {
+        EditOutcome outcome(move, std::move(unit), _sendFailure);
+        outcome.setARPEntry(_arpEntry);
         _quietLine.showOutcome(std::move(outcome));
     }
 }
@@ -151,19 +161,18 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
 }
 
 bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) const {
-    return edit.parameter == UnitParameter::serialNumber && edit.expectedText.has_value() &&
-           edit.expectedText != _selectedUnit && _devicesD.find(*edit.expectedText) != nullptr;
+    if (edit.parameter != UnitParameter::serialNumber || !edit.expectedText.has_value() ||
+        edit.expectedText == _selectedUnit) {
+        return false;
+    }
+    // The registry still has the record of a serial number that this unit had before.
+    const UnitRecord* const holder = _devicesD.find(*edit.expectedText);
+    const UnitRecord* const selected = selectedRecord();
+    return holder != nullptr && (selected == nullptr || !holder->hasHardwareAddressOf(*selected));
 }
 
 std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                                 const std::optional<std::string>& ip) {
-    return makeARPEntry(hardwareAddress, ip).value_or(-1);
-}
-
-// Absent when rights were not given.
-std::optional<std::int32_t>
-KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddress,
-                                  const std::optional<std::string>& ip) {
     // A dialogue runs the event loop. Events from outside wait for the end of the action.
     const auto hold = _services.runLoop.holdCallbacks();
     const int attempt = ++_latestARPAttempt;
@@ -172,7 +181,8 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
             localizedText("KXConfig"),
             localizedText("Authentication was not completed, some features may not be available."),
             localizedText("OK"));
-        return std::nullopt;
+        _arpEntry = {.state = ARPEntryState::rightsNotGiven};
+        return -1;
     }
     std::vector<std::string> arguments{"-s"};
     for (const auto* const text : {&ip, &hardwareAddress}) {
@@ -187,6 +197,7 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
             _quietLine.arpToolDidEnd(status);
         }
     });
+    _arpEntry = arpEntryForResult(result);
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
@@ -211,9 +222,8 @@ void KXConfigAppDelegate::sendOptionButton() {
     const auto command = optionCommand(_outlets.optionCommandField->stringValue());
     if (const auto refusal = refusalOfCommand(command, commandTarget())) {
         _quietLine.showMessage(noteOfRefusal(*refusal));
-    } else if (const auto result =
-                   handOver(command, selectedText(UnitParameter::internalIPAddress))) {
-        showFailureOrForecast(result->failure);
+    } else if (sendCommand(command)) {
+        showFailureOrForecast(_sendFailure);
     }
 }
 

@@ -13,22 +13,17 @@ namespace kx {
 
 bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>& command,
                                                const std::optional<std::string>& address) {
-    return handOver(command, address).has_value();
+    if (!command.has_value() || _udpListener == nullptr || !address.has_value() ||
+        !asciiBytes(*command).has_value()) {
+        return false;
+    }
+    appendString(entryOfCommand(*command, *address));
+    _sendFailure = _session.send(*command, ipForString(*address), unitDestination().port);
+    return true;
 }
 
 bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command) {
     return sendCommandToAddress(command, selectedText(UnitParameter::internalIPAddress));
-}
-
-std::optional<KXConfigAppDelegate::HandedOver>
-KXConfigAppDelegate::handOver(const std::optional<std::string>& command,
-                              const std::optional<std::string>& address) {
-    if (!command.has_value() || _session.listener() == nullptr || !address.has_value() ||
-        !asciiBytes(*command).has_value()) {
-        return std::nullopt;
-    }
-    appendString(entryOfCommand(*command, *address));
-    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port)};
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
@@ -60,7 +55,14 @@ UnitDestination KXConfigAppDelegate::unitDestination() const {
 // --- The session's events ---
 
 void KXConfigAppDelegate::sessionDidStart(const Bytes& address) {
-    appendString(entryOfStart(address));
+    didStartListenerWithAddress(address);
+}
+
+void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
+    appendString(entryOfStart());
+    if (const auto text = textOfListeningAddress(address)) {
+        appendString(*text);
+    }
 }
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
@@ -72,20 +74,28 @@ void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
 }
 
 void KXConfigAppDelegate::sessionDidStop(const Error& error) {
-    appendString(entryOfStop(error));
+    appendString(entryOfStop());
+    appendString(reasonInEntry(error));
 }
 
-void KXConfigAppDelegate::sessionDidReceiveDatagram(std::size_t length) {
+void KXConfigAppDelegate::sessionDidReceiveDatagram(std::size_t length,
+                                                    const DatagramOrigin& /*origin*/) {
     appendString(entryOfDatagram(length));
 }
 
-void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind) {
+void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind,
+                                                   const DatagramOrigin& /*origin*/) {
     appendString(entryOfIgnoredDatagram(kind));
 }
 
 void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DecodedUnitParameters& parameters,
                                                 const DatagramOrigin& /*origin*/) {
+    appendString(entryOfReply(reply, unitParameters(parameters)));
+}
+
+// Shows what a unit told, and returns its text for the event log.
+std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters) {
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
         if (serial == _selectedUnit) {
             showSelectedUnit();
@@ -94,7 +104,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
         }
         _quietLine.unitDidTell(*serial, parameters.record);
     }
-    appendString(entryOfReply(reply, parameters.displayText));
+    return linesOfParameters(parameters.items, _shownNames);
 }
 
 // The log has the request before the acknowledgement.
@@ -112,7 +122,8 @@ void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
 }
 
 void KXConfigAppDelegate::sessionDidReceiveError(const Error& error) {
-    appendString(entryOfReceiveError(error));
+    appendString(entryOfReceiveError());
+    appendString(reasonInEntry(error));
 }
 
 void KXConfigAppDelegate::sessionDidSend() {
@@ -120,7 +131,8 @@ void KXConfigAppDelegate::sessionDidSend() {
 }
 
 void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
-    appendString(entryOfSendFailure(failure));
+    appendString(entryOfSendFailure());
+    appendString(reasonInEntry(failure));
 }
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {

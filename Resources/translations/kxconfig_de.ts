@@ -709,8 +709,8 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
-        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>Das Gerät hat einen Befehl angenommen und wurde nach seinen Parametern gefragt. „Geräte suchen“ findet es an seinem neuen Port.</translation>
+        <source>The unit accepted a command and was asked for its parameters. If its port has changed, Discover finds it.</source>
+        <translation>Das Gerät hat einen Befehl angenommen und wurde nach seinen Parametern gefragt. Hat sich sein Port geändert, findet „Geräte suchen“ es.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>

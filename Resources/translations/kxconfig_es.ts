@@ -709,8 +709,8 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
-        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>La unidad aceptó una orden y se le pidieron sus parámetros. «Buscar unidades» la encuentra en su nuevo puerto.</translation>
+        <source>The unit accepted a command and was asked for its parameters. If its port has changed, Discover finds it.</source>
+        <translation>La unidad aceptó una orden y se le pidieron sus parámetros. Si su puerto ha cambiado, «Buscar unidades» la encuentra.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>

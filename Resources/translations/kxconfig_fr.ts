@@ -709,8 +709,8 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
-        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>L’unité a accepté une commande et ses paramètres lui ont été demandés. « Détecter » la trouve sur son nouveau port.</translation>
+        <source>The unit accepted a command and was asked for its parameters. If its port has changed, Discover finds it.</source>
+        <translation>L’unité a accepté une commande et ses paramètres lui ont été demandés. Si son port a changé, « Détecter » la trouve.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>

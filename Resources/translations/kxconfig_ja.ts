@@ -709,8 +709,8 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
-        <source>The unit accepted a command and was asked for its parameters. Discover finds it on its new port.</source>
-        <translation>ユニットはコマンドを受け付け、パラメータを要求されました。「検出」を押すと新しいポートで見つかります。</translation>
+        <source>The unit accepted a command and was asked for its parameters. If its port has changed, Discover finds it.</source>
+        <translation>ユニットはコマンドを受け付け、パラメータを要求されました。ポートが変わった場合は、「検出」を押すと見つかります。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>

@@ -16,8 +16,10 @@ namespace kx {
 
 struct CommandTarget {
     bool unitIsSelected = false;
-    std::optional<std::string> address = {};         // the selected unit's "internal IP address"
-    std::optional<std::string> hardwareAddress = {}; // its "internal MAC address"
+    // The selected unit's "internal IP address" and "internal MAC address"; absent when no unit is
+    // selected, and when it did not tell them.
+    std::optional<std::string> address = {};
+    std::optional<std::string> hardwareAddress = {};
     bool isListening = true;
 
     // Another unit than the selected one has the serial number that was typed.

@@ -14,7 +14,9 @@ bool EditOutcome::unitDidAccept(std::string_view serialNumber,
                                 std::optional<SendFailure> requestFailure) {
     const bool isNewNumber = _edit.parameter == UnitParameter::serialNumber &&
                              serialNumber == _edit.expectedText && !_unit.newSerialNumberIsTaken;
-    if (_state == EditState::notSent || _hasAccepted ||
+    const bool isFirst = !_hasAccepted || (_state == EditState::accepted && _requestFailure &&
+                                           !requestFailure.has_value());
+    if (_state == EditState::notSent || !isFirst ||
         (serialNumber != _unit.serialNumber && !isNewNumber)) {
         return false;
     }

@@ -69,7 +69,7 @@ public:
 
     // A unit accepted a command and was then asked for its parameters; `requestFailure` says why it
     // could not be asked. Returns false and changes nothing for another unit, for an edit that was
-    // not sent, and for a second time.
+    // not sent, and for a second acceptance, unless the unit could be asked only after that one.
     bool unitDidAccept(std::string_view serialNumber, std::optional<SendFailure> requestFailure);
 
     // A unit told its parameters. Returns false and changes nothing for another unit and for an

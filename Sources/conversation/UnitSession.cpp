@@ -25,8 +25,11 @@ void UnitSessionObserver::sessionDidStart(const Bytes& /*localAddress*/) {}
 void UnitSessionObserver::sessionCanBroadcast() {}
 void UnitSessionObserver::sessionCannotBroadcast(const std::string& /*reason*/) {}
 void UnitSessionObserver::sessionDidStop(const Error& /*error*/) {}
-void UnitSessionObserver::sessionDidReceiveDatagram(std::size_t /*length*/) {}
-void UnitSessionObserver::sessionDidIgnoreDatagram(PacketKind /*kind*/) {}
+void UnitSessionObserver::sessionDidReceiveDatagram(std::size_t /*length*/,
+                                                    const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::sessionDidIgnoreDatagram(PacketKind /*kind*/,
+                                                   const DatagramOrigin& /*origin*/) {}
+void UnitSessionObserver::sessionDidAbandonDatagram(const DatagramOrigin& /*origin*/) {}
 void UnitSessionObserver::unitDidTellParameters(const Reply& /*reply*/,
                                                 const DecodedUnitParameters& /*parameters*/,
                                                 const DatagramOrigin& /*origin*/) {}
@@ -39,10 +42,11 @@ void UnitSessionObserver::sessionDidFailToSend(const SendFailure& /*failure*/) {
 void UnitSessionObserver::sessionDidDrop(std::uint32_t /*datagrams*/) {}
 
 UnitSession::UnitSession(const Services& services, UnitRegistry& registry,
-                         UnitSessionObserver& observer)
+                         UnitSessionObserver& observer, UDPEchoDelegate* delegate)
     : _services(services)
     , _registry(registry)
-    , _observer(observer) {}
+    , _observer(observer)
+    , _delegate(delegate != nullptr ? delegate : this) {}
 
 UnitSession::~UnitSession() {
     stop();
@@ -50,13 +54,17 @@ UnitSession::~UnitSession() {
 
 void UnitSession::start(std::size_t port) {
     stop();
+    const auto starting =
+        UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
+    starting->setDelegate(_delegate);
+    _listener = starting;
     if (_drops != 0) {
         _drops = 0;
         _observer.sessionDidDrop(0);
     }
-    _listener = UDPEcho::make(_services.runLoop, _services.hostResolver, _services.systemCalls);
-    _listener->setDelegate(this);
-    _listener->startServerOnPort(port);
+    if (_listener == starting) { // the front may have stopped it, or started another
+        starting->startServerOnPort(port);
+    }
 }
 
 void UnitSession::stop() {
@@ -74,7 +82,7 @@ std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint
                                              std::uint16_t port) {
     _sendFailure.reset();
     if (_listener == nullptr) {
-        return std::nullopt;
+        return SendFailure();
     }
     if (isListening()) {
         _listener->_sendDataToAddress(Bytes(command.begin(), command.end()),
@@ -107,8 +115,8 @@ void UnitSession::echoDidStartWithAddress(UDPEcho& echo, const Bytes& address) {
         if (_services.receiveBuffers != nullptr) {
             _services.receiveBuffers->enlarge(descriptor, wantedReceiveBuffer);
         }
-        _services.systemCalls.enablePacketInfo(
-            descriptor); // when refused, events come without the link
+        // When the system refuses, events come without the link.
+        _services.systemCalls.enablePacketInfo(descriptor);
         if (_services.systemCalls.enableBroadcast(descriptor) == 0) {
             _observer.sessionCanBroadcast();
         } else {
@@ -126,30 +134,33 @@ void UnitSession::echoDidReceiveDataFromAddress(UDPEcho& echo, const Bytes& data
         return; // it is an endpoint from before a restart
     }
     const auto receiving = _listener; // the front may stop it, or start another
+    const DatagramOrigin origin{.sender = address, .link = echo.link()};
     countDropsSoon();
-    _observer.sessionDidReceiveDatagram(data.size());
+    _observer.sessionDidReceiveDatagram(data.size(), origin);
     if (receiving != _listener) {
         return;
     }
     try {
-        didReceiveDataFromAddress(data, {.sender = address, .link = echo.link()});
+        didReceiveDataFromAddress(data, origin);
     } catch (const PlatformException& exception) {
         logToSystem(filledText("Exception during echo:didReceiveData:fromAddress: %@",
                                {exception.reason()}));
+        if (receiving == _listener) {
+            _observer.sessionDidAbandonDatagram(origin);
+        }
     }
 }
 
 void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin& origin) {
     const PacketKind kind = packetKindOfDatagram(data);
     if (kind != PacketKind::reply) {
-        _observer.sessionDidIgnoreDatagram(kind);
+        _observer.sessionDidIgnoreDatagram(kind, origin);
         return;
     }
     const Reply reply = replyFromDatagram(data);
     switch (reply.payloadKind) {
     case PayloadKind::parameterList: {
-        const auto parameters =
-            decodeUnitParameters(reply.payload, _shownNames.has_value() ? &*_shownNames : nullptr);
+        const auto parameters = decodeUnitParameters(reply.payload);
         _registry.store(parameters.record);
         _observer.unitDidTellParameters(reply, parameters, origin);
         break;
@@ -191,7 +202,7 @@ void UnitSession::echoDidStopWithError(UDPEcho& /*echo*/, const Error& error) {
 // Called for every read, a failed one included. A buffer that overflows is full of datagrams, so a
 // read, and with it a count, follows the last loss.
 void UnitSession::countDropsSoon() {
-    if (_services.receiveBuffers != nullptr && _dropCount == nullptr) {
+    if (_services.receiveBuffers != nullptr && _listener != nullptr && _dropCount == nullptr) {
         _dropCount = _services.runLoop.callOnceAfter(timeBetweenCounts, [this] { countDrops(); });
     }
 }

@@ -6,9 +6,10 @@
 // stores replies with parameters in the registry before it tells the front.
 //
 // Threading: everything, events included, on the thread of the run loop; nothing blocks. Ownership:
-// the observer, the services and the registry belong to the front and must outlive the session.
-// Errors are values. An error of the network has the system's own text. A datagram that breaks its
-// own format becomes a line in the system log.
+// the observer, the delegate, the services and the registry belong to the front and must outlive
+// the session. Errors are values. An error of the network has the system's own text. A datagram
+// that breaks its own format becomes a line in the system log, and so does a PlatformException
+// that the front throws inside an event of the start or of a datagram's contents.
 
 #pragma once
 
@@ -51,10 +52,12 @@ public:
     // The listener stopped because of an error. It stays stopped until the next start().
     virtual void sessionDidStop(const Error& error);
 
-    // A datagram came. An event about its contents follows: no reply, parameters, an
-    // acknowledgement, or anything else. No event follows when the datagram breaks its own format.
-    virtual void sessionDidReceiveDatagram(std::size_t length);
-    virtual void sessionDidIgnoreDatagram(PacketKind kind);
+    // A datagram of `length` bytes came. An event about its contents follows: no reply, parameters,
+    // an acknowledgement, anything else, or contents that were abandoned, because they break their
+    // own format or the front threw an exception.
+    virtual void sessionDidReceiveDatagram(std::size_t length, const DatagramOrigin& origin);
+    virtual void sessionDidIgnoreDatagram(PacketKind kind, const DatagramOrigin& origin);
+    virtual void sessionDidAbandonDatagram(const DatagramOrigin& origin);
 
     // A unit told its parameters. The record is in the registry already, if it has a serial number.
     virtual void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
@@ -68,6 +71,7 @@ public:
     // A read failed; the session goes on.
     virtual void sessionDidReceiveError(const Error& error);
 
+    // A datagram was sent whole, or not at all for this reason.
     virtual void sessionDidSend();
     virtual void sessionDidFailToSend(const SendFailure& failure);
 
@@ -88,19 +92,19 @@ public:
         ReceiveBufferControl* receiveBuffers = nullptr;
     };
 
-    UnitSession(const Services& services, UnitRegistry& registry, UnitSessionObserver& observer);
+    // The listener tells its events to `delegate`, which must pass each of them on to the session;
+    // when it is null, to the session itself.
+    UnitSession(const Services& services, UnitRegistry& registry, UnitSessionObserver& observer,
+                UDPEchoDelegate* delegate = nullptr);
 
     // Stops without an event.
     ~UnitSession() override;
     UnitSession(const UnitSession&) = delete;
     UnitSession& operator=(const UnitSession&) = delete;
 
-    // Sets the parameter names in the text of decoded parameters. Without a call these are the
-    // names of the parameter table.
-    void setShownNames(ShownParameterNames names) { _shownNames = std::move(names); }
-
-    // Stops the listener and starts a new one on a port in host byte order, 1 to 65535. The events
-    // of the start come before start() returns.
+    // Stops the listener and starts a new one on a port in host byte order. The events of the start
+    // come before start() returns. A port that is not 1 to 65535 breaks a contract of the endpoint
+    // and ends the process.
     void start(std::size_t port);
 
     // Stops without an event.
@@ -108,12 +112,13 @@ public:
 
     // Null before the first start() and after stop(). A listener that could not start exists and
     // has port 0.
-    const UDPEcho* listener() const { return _listener.get(); }
+    const std::shared_ptr<UDPEcho>& listener() const { return _listener; }
     bool isListening() const { return _listener != nullptr && _listener->port() != 0; }
 
-    // Sends one datagram to an IPv4 address and port in host byte order. The result is absent when
-    // the datagram was sent, and when there is no listener. The session also reports a failure as
-    // an event.
+    // Sends the bytes of `command` as one datagram to an IPv4 address and port in host byte order.
+    // They are sent as they are; units understand ASCII only. An empty command fails with EPIPE.
+    // The result is absent when the datagram was sent. The session also reports a failure as an
+    // event, but not that there is no listener.
     std::optional<SendFailure> send(std::string_view command, std::uint32_t address,
                                     std::uint16_t port);
 
@@ -137,7 +142,7 @@ private:
     Services _services;
     UnitRegistry& _registry;
     UnitSessionObserver& _observer;
-    std::optional<ShownParameterNames> _shownNames;
+    UDPEchoDelegate* _delegate;
     std::shared_ptr<UDPEcho> _listener;
     std::optional<SendFailure> _sendFailure; // failure of the datagram that is being sent
     std::uint32_t _drops = 0;                // the number that was told last

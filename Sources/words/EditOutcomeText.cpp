@@ -22,7 +22,7 @@ std::string textOfAcceptance(const EditOutcome& outcome) {
     const bool hasNewPort = outcome.edit().parameter == UnitParameter::devicePortNumber &&
                             outcome.edit().expectedText != outcome.valueBefore();
     return hasNewPort ? localizedText("The unit accepted a command and was asked for its "
-                                      "parameters. Discover finds it on its new port.")
+                                      "parameters. If its port has changed, Discover finds it.")
                       : localizedText("The unit accepted a command and was asked for its "
                                       "parameters.");
 }

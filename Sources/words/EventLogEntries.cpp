@@ -19,23 +19,34 @@ std::string entryOfDiscovery() {
     return localizedText("[Begin Discover]");
 }
 
-std::string entryOfStart(const Bytes& localAddress) {
-    std::string entry = localizedText("\nUDP listener did start. ");
+std::string entryOfStart() {
+    return localizedText("\nUDP listener did start. ");
+}
+
+std::optional<std::string> textOfListeningAddress(const Bytes& localAddress) {
     std::uint32_t address = 0;
     IPv6Octets unused{};
     std::uint16_t port = 0;
-    if (addressForData(localAddress, address, unused, &port) == addressFamilyIPv4) {
-        entry += localizedText("%@:%d", {stringForIP(address), port});
+    if (addressForData(localAddress, address, unused, &port) != addressFamilyIPv4) {
+        return std::nullopt;
     }
-    return entry;
+    return localizedText("%@:%d", {stringForIP(address), port});
+}
+
+std::string reasonInEntry(const Error& error) {
+    return continuation(error.localizedDescription());
+}
+
+std::string reasonInEntry(const SendFailure& failure) {
+    return continuation(reasonOfSendFailure(failure));
 }
 
 std::string entryOfRefusedBroadcast(std::string_view reason) {
     return localizedText("\nError setting SO_BROADCAST %s", {reason});
 }
 
-std::string entryOfStop(const Error& error) {
-    return localizedText("\nUDP did stop with error.") + continuation(error.localizedDescription());
+std::string entryOfStop() {
+    return localizedText("\nUDP did stop with error.");
 }
 
 std::string entryOfRequest(std::uint32_t target) {
@@ -50,8 +61,8 @@ std::string entryOfSend() {
     return localizedText("\nUDP server did send data.");
 }
 
-std::string entryOfSendFailure(const SendFailure& failure) {
-    return localizedText("\nUDP failed to send data.") + continuation(reasonOfSendFailure(failure));
+std::string entryOfSendFailure() {
+    return localizedText("\nUDP failed to send data.");
 }
 
 std::string entryOfDatagram(std::size_t length) {
@@ -64,8 +75,8 @@ std::string entryOfIgnoredDatagram(PacketKind kind) {
                                         : localizedText("\nIgnoring unknown packet, prefix != ^^");
 }
 
-std::string entryOfReceiveError(const Error& error) {
-    return localizedText("\nUDP did receive error.") + continuation(error.localizedDescription());
+std::string entryOfReceiveError() {
+    return localizedText("\nUDP did receive error.");
 }
 
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text) {

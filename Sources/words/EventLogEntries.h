@@ -1,7 +1,9 @@
 // The entries of the event log: one for each thing that is sent, received or done, in words.
 //
-// Each begins with its own line break. Pure, except that they look up the sentences
-// (support/LocalizedText.h), so they belong to the main thread. Texts are UTF-8.
+// Each begins with its own line break. Some are followed by a second text, which is appended by
+// itself: the first part stays in the log when the second one cannot be made. Pure, except that
+// they look up the sentences (support/LocalizedText.h), so they belong to the main thread. Texts
+// are UTF-8.
 
 #pragma once
 
@@ -20,28 +22,35 @@ namespace kx {
 // The first entry of the log. It has no line break.
 std::string entryOfDiscovery();
 
-// Names the address and the port of an IPv4 record, and neither for any other record.
-std::string entryOfStart(const Bytes& localAddress);
+// The start of the listener, and after it the address and port of its IPv4 record, which are absent
+// for any other record.
+std::string entryOfStart();
+std::optional<std::string> textOfListeningAddress(const Bytes& localAddress);
+
+// The reason of a stop, a failed send or a failed read, on a line of its own after the entry.
+std::string reasonInEntry(const Error& error);
+std::string reasonInEntry(const SendFailure& failure);
 
 std::string entryOfRefusedBroadcast(std::string_view reason);
-std::string entryOfStop(const Error& error);
+std::string entryOfStop();
 
 // For a parameter request and for a restore, to an address in host byte order.
 std::string entryOfRequest(std::uint32_t target);
 
 std::string entryOfCommand(std::string_view command, std::string_view address);
 std::string entryOfSend();
-std::string entryOfSendFailure(const SendFailure& failure);
+std::string entryOfSendFailure();
 
-std::string entryOfDatagram(std::size_t length);
+std::string entryOfDatagram(std::size_t length); // in bytes
 std::string entryOfIgnoredDatagram(PacketKind kind);
-std::string entryOfReceiveError(const Error& error);
+std::string entryOfReceiveError();
 
-// The entry has `text` only when the unit names itself and its serial number. An absent text prints
-// as "(null)".
+// The entry has `text` only when the unit names itself and its serial number. Here and below an
+// absent text prints as "(null)".
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text);
 
-// One entry for an ARP cache entry that was handed to the tool, and one for an entry that was not.
+// An ARP cache entry that was handed to the tool; and one that was not, with the result of
+// Authorization::runToolWithArgs().
 std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,
                             const std::optional<std::string>& address);
 std::string entryOfARPFailure(std::int32_t result);

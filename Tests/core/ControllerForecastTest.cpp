@@ -1,4 +1,4 @@
-// What the quiet line says that Apply will send is true at every moment.
+// The forecast on the quiet line is true at every moment.
 
 #include "ControllerFixture.h"
 #include "units/IdentityText.h"
@@ -39,6 +39,20 @@ TEST_F(ControllerForecast, SaysThatAnotherUnitHasTheSerialNumberThatIsGivenAway)
     EXPECT_EQ(quietLine(), "Apply sends ^^IdS010203040506: serial number 01 02 03 04 05 06.");
     controller.editTextDidChange("010203040508");
     EXPECT_EQ(quietLine(), "Apply sends ^^IdS010203040508: serial number 01 02 03 04 05 08.");
+}
+
+// The registry keeps the record of a serial number that a unit had before.
+TEST_F(ControllerForecast, AUnitMayTakeBackASerialNumberThatItHadBefore) {
+    SampleUnit renamed;
+    renamed.serial.back() = 9;
+    discover({SampleUnit(), renamed});
+    selectUnit("01 02 03 04 05 09");
+    selectRow(serialNumber);
+    store("010203040506");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdS010203040506: serial number 01 02 03 04 05 06.");
+    controller.applyEditParameterButton();
+    receive(SampleUnit().acknowledgement());
+    EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
 }
 
 TEST_F(ControllerForecast, SaysSoFromTheMomentTheOtherUnitAnswers) {
@@ -121,8 +135,8 @@ TEST_F(ControllerForecast, IsNotSaidAgainForRepliesThatDoNotChangeIt) {
 
 namespace {
 
-// A person and a network that do anything at any time. What the forecast should be is made from
-// what can be seen of the controller, without its own idea of when a forecast has to change.
+// A person and a network that do anything at any time. The expected forecast is made from what can
+// be seen of the controller, without its own idea of when a forecast has to change.
 class AnyForecast : public ControllerForecast {
 protected:
     void doAnything(std::mt19937& random) {

@@ -223,6 +223,24 @@ TEST_F(ControllerLifecycle, ExceptionWhileTheListenerStartsGoesToTheSystemLog) {
     EXPECT_EQ(controller.udpListener()->port(), 3520U);
 }
 
+TEST_F(ControllerLifecycle, TheStartStaysInTheLogWhenItsAddressCannotBeAppended) {
+    const BrokenText broken("%@:%d", PlatformException("no such text"));
+    launch();
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. "}));
+    EXPECT_EQ(sent(), Lines{});
+}
+
+TEST_F(ControllerLifecycle, AReasonIsAppendedByItself) {
+    launch();
+    controller.logDrawerButton();
+    window.eventLogDrawer.finishMoving();
+    const int before = window.logTextView.insertCount();
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    controller.reloadUnitParameterButton();
+    EXPECT_EQ(window.logTextView.insertCount(), before + 3)
+        << "the request, the failure, the reason";
+}
+
 TEST_F(ControllerLifecycle, OtherExceptionsArePassedOn) {
     const BrokenText broken("\nRequest unit parameters with address: %@",
                             std::logic_error("a mistake in the program"));

@@ -1,4 +1,4 @@
-// What became of an edit, when other edits, other units and failures come in between.
+// The outcome of an edit, when other edits, other units and failures come in between.
 
 #include "ControllerFixture.h"
 

@@ -122,8 +122,8 @@ TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
     EXPECT_EQ(settings().devicePort, 10001);
     EXPECT_EQ(
         window.quietLine.text(),
-        "The unit accepted a command and was asked for its parameters. Discover finds it on its "
-        "new port.");
+        "The unit accepted a command and was asked for its parameters. If its port has changed, "
+        "Discover finds it.");
     discover();
     EXPECT_EQ(shown(devicePortNumber), "10001");
     EXPECT_EQ(window.quietLine.text(), "The unit now shows 10001 as its device Port number.");

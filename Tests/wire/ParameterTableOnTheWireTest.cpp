@@ -34,7 +34,7 @@ std::optional<Bytes> answerTo(simulator::SimulatedUnit& unit, std::string_view c
     return unit.answer(bytesOfText(command));
 }
 
-// The items of a unit's reply, cut as the table says. Whatever does not fit is a failure.
+// The items of a unit's reply, cut as the table says. Bytes that do not fit are a failure.
 ItemsByTag itemsOf(simulator::SimulatedUnit& unit) {
     const Bytes reply = answerTo(unit, parameterRequestCommand).value_or(Bytes());
     ItemsByTag items;

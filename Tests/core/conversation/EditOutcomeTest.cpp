@@ -44,6 +44,24 @@ TEST(EditOutcome, ASecondAcceptanceIsADuplicate) {
     EXPECT_EQ(outcome.state(), EditState::shown);
 }
 
+TEST(EditOutcome, ASecondAcceptanceCountsWhenTheUnitCouldBeAskedOnlyThen) {
+    EditOutcome outcome = outcomeOf(destinationPortNumber, "3523", "3520");
+    outcome.unitDidAccept(editedUnit, SendFailure());
+    ASSERT_TRUE(outcome.requestFailure().has_value());
+    EXPECT_FALSE(outcome.unitDidAccept(editedUnit, SendFailure())) << "nothing has changed";
+    EXPECT_TRUE(outcome.unitDidAccept(editedUnit, {}));
+    EXPECT_FALSE(outcome.requestFailure().has_value());
+    EXPECT_EQ(outcome.state(), EditState::accepted);
+}
+
+TEST(EditOutcome, ASecondAcceptanceDoesNotHideWhatTheUnitShows) {
+    EditOutcome outcome = outcomeOf(destinationPortNumber, "3523", "3520");
+    outcome.unitDidAccept(editedUnit, SendFailure());
+    outcome.unitDidTell(editedUnit, recordWith(destinationPortNumber, "3523"));
+    EXPECT_FALSE(outcome.unitDidAccept(editedUnit, {}));
+    EXPECT_EQ(outcome.state(), EditState::shown);
+}
+
 TEST(EditOutcome, AnAcceptanceCountsAfterAReplyThatWasUnderWayAlready) {
     EditOutcome outcome = outcomeOf(destinationPortNumber, "3523", "3520");
     outcome.unitDidTell(editedUnit, recordWith(destinationPortNumber, "3520"));

@@ -40,11 +40,17 @@ public:
     void sessionDidStop(const Error& error) override {
         note("stopped: " + error.localizedDescription());
     }
-    void sessionDidReceiveDatagram(std::size_t length) override {
+    void sessionDidReceiveDatagram(std::size_t length, const DatagramOrigin& origin) override {
+        lastOrigin = origin;
         note("datagram of " + std::to_string(length));
     }
-    void sessionDidIgnoreDatagram(PacketKind kind) override {
-        note(kind == PacketKind::tooShort ? "ignored: too short" : "ignored: unknown");
+    void sessionDidIgnoreDatagram(PacketKind kind, const DatagramOrigin& origin) override {
+        note(
+            (kind == PacketKind::tooShort ? "ignored: too short from " : "ignored: unknown from ") +
+            place(origin));
+    }
+    void sessionDidAbandonDatagram(const DatagramOrigin& origin) override {
+        note("abandoned from " + place(origin));
     }
     void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
                                const DatagramOrigin& origin) override {
@@ -74,11 +80,14 @@ public:
     }
 
     DecodedUnitParameters lastParameters;
+    DatagramOrigin lastOrigin; // of the latest datagram
 
 private:
     static std::string sender(const Reply& reply, const DatagramOrigin& origin) {
-        return reply.serialNumber.value_or("(nobody)") + " from " + endpointText(origin.sender) +
-               " by " + std::to_string(origin.link);
+        return reply.serialNumber.value_or("(nobody)") + " from " + place(origin);
+    }
+    static std::string place(const DatagramOrigin& origin) {
+        return endpointText(origin.sender) + " by " + std::to_string(origin.link);
     }
 
     void note(const std::string& event) {

@@ -1,4 +1,4 @@
-// What a session tells of the datagrams that come, and of those that do not.
+// The events of a session, for datagrams that come and for those that do not.
 
 #include "SessionFixture.h"
 
@@ -34,8 +34,10 @@ protected:
 } // namespace
 
 TEST_F(UnitSessionEvents, EveryDatagramIsCountedBeforeItIsTold) {
-    EXPECT_EQ(eventsOf(textBytes("^^<U")), (Events{"datagram of 4", "ignored: too short"}));
-    EXPECT_EQ(eventsOf(textBytes("x^<U>")), (Events{"datagram of 5", "ignored: unknown"}));
+    EXPECT_EQ(eventsOf(textBytes("^^<U")),
+              (Events{"datagram of 4", "ignored: too short from 192.168.1.10:3520 by 3"}));
+    EXPECT_EQ(eventsOf(textBytes("x^<U>")),
+              (Events{"datagram of 5", "ignored: unknown from 192.168.1.10:3520 by 3"}));
     EXPECT_EQ(eventsOf(SampleUnit().reply()),
               (Events{"datagram of 81", "parameters of " + unitItself}));
     EXPECT_EQ(eventsOf(SampleUnit().acknowledgement()),
@@ -73,22 +75,16 @@ TEST_F(UnitSessionEvents, ParametersWithoutASerialNumberAreToldAndNotKept) {
     const Bytes list = item("<M>", {1, 2, 3, 4, 5, 6});
     EXPECT_EQ(eventsOf(joined({SampleUnit().header(), list})),
               (Events{"datagram of 30", "parameters of " + unitItself}));
-    EXPECT_EQ(observer.lastParameters.displayText, "\n\tinternal MAC address: 01:02:03:04:05:06");
+    ASSERT_EQ(observer.lastParameters.items.size(), 1U);
+    EXPECT_EQ(observer.lastParameters.items[0].parameter(), UnitParameter::internalMACAddress);
     EXPECT_TRUE(registry.records().empty());
-}
-
-TEST_F(UnitSessionEvents, ParametersComeWithTheNamesThatTheFrontShows) {
-    ShownParameterNames names;
-    names[indexOf(UnitParameter::internalMACAddress)] = "eigene MAC-Adresse";
-    session.setShownNames(names);
-    receive(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6})}));
-    EXPECT_EQ(observer.lastParameters.displayText, "\n\teigene MAC-Adresse: 01:02:03:04:05:06");
 }
 
 TEST_F(UnitSessionEvents, ADatagramThatBreaksItsFormatIsCountedAndLeftToTheSystemLog) {
     Bytes cutShort = SampleUnit().reply();
     cutShort.pop_back();
-    EXPECT_EQ(eventsOf(cutShort), Events{"datagram of 80"});
+    EXPECT_EQ(eventsOf(cutShort),
+              (Events{"datagram of 80", "abandoned from 192.168.1.10:3520 by 3"}));
     EXPECT_EQ(systemLog.lines(), Events{"Exception during echo:didReceiveData:fromAddress: "
                                         "range {3, 6} exceeds data length 8"});
     EXPECT_TRUE(registry.records().empty());
@@ -104,6 +100,31 @@ TEST_F(UnitSessionEvents, AnExceptionOfThePlatformInsideAnEventGoesToTheSystemLo
     EXPECT_EQ(systemLog.lines(),
               Events(2, "Exception during echo:didReceiveData:fromAddress: no such text"));
     EXPECT_TRUE(session.isListening());
+}
+
+TEST_F(UnitSessionEvents, AnExceptionWhereADatagramIsCountedIsPassedOn) {
+    inside("datagram of 81", [] { throw PlatformException("no such text"); });
+    EXPECT_THROW(receive(SampleUnit().reply()), PlatformException);
+    EXPECT_EQ(systemLog.lines(), Events{});
+}
+
+TEST_F(UnitSessionEvents, AFrontThatStopsBeforeItThrowsHearsNoMoreOfTheDatagram) {
+    inside("acceptance of " + unitItself, [&] {
+        session.stop();
+        throw PlatformException("no such text");
+    });
+    EXPECT_EQ(eventsOf(SampleUnit().acknowledgement()).back(), "acceptance of " + unitItself);
+}
+
+TEST_F(UnitSessionEvents, TheLinkIsThatOfTheDatagramThatIsTold) {
+    inside("datagram of 81", [&] {
+        systemCalls.queueDatagram(SampleUnit().reply(), dataForAddress(unitAddress, 3520), 7);
+        runLoop.makeReadable(systemCalls.lastDescriptor()); // a dialog that runs the loop
+    });
+    EXPECT_EQ(eventsOf(SampleUnit().reply()),
+              (Events{"datagram of 81", "datagram of 81",
+                      "parameters of 01 02 03 04 05 06 from 192.168.1.10:3520 by 7",
+                      "parameters of " + unitItself}));
 }
 
 TEST_F(UnitSessionEvents, OtherExceptionsInsideAnEventArePassedOn) {
@@ -187,6 +208,31 @@ TEST_F(UnitSessionEvents, AStartForgetsTheDropsAndSaysSoFirst) {
     EXPECT_EQ(observer.taken(), (Events{"dropped 0", "started at 0.0.0.0:3520", "can broadcast"}));
     drop(1);
     EXPECT_EQ(observer.taken(), Events{"dropped 1"});
+}
+
+TEST_F(UnitSessionEvents, AFrontMayStopOrStartWhereTheDropsAreForgotten) {
+    drop(5);
+    observer.taken();
+    inside("dropped 0", [&] { session.stop(); });
+    session.start(3520);
+    EXPECT_EQ(observer.taken(), Events{"dropped 0"});
+    EXPECT_EQ(session.listener(), nullptr);
+
+    session.start(3520);
+    drop(5);
+    observer.taken();
+    inside("dropped 0", [&] { session.start(3521); });
+    session.start(3520);
+    EXPECT_EQ(observer.taken(), (Events{"dropped 0", "started at 0.0.0.0:3521", "can broadcast"}));
+    EXPECT_EQ(session.listener()->port(), 3521U);
+    EXPECT_EQ(systemCalls.openDescriptors().size(), 1U);
+}
+
+TEST_F(UnitSessionEvents, AnErrorOfAnotherEndpointIsNoReasonToCountWithoutAListener) {
+    session.stop();
+    session.echoDidReceiveError(*stranger, posixError(EIO));
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(receiveBuffers.lookCount(), 0);
 }
 
 TEST_F(UnitSessionEvents, ACountThatIsStillDueAfterAStartIsOfTheNewListener) {

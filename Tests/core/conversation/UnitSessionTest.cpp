@@ -158,11 +158,11 @@ TEST_F(UnitSessionLife, ASendThroughAStoppedListenerFailsWithoutASystemCall) {
     EXPECT_EQ(systemCalls.count(Operation::sendTo), 0U);
 }
 
-TEST_F(UnitSessionLife, WithoutAListenerASendDoesNothing) {
-    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520), std::nullopt);
+TEST_F(UnitSessionLife, WithoutAListenerASendFailsWithoutAnEvent) {
+    EXPECT_EQ(resultOfSend("^^IdX"), "no listener");
     start();
     session.stop();
-    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520), std::nullopt);
+    EXPECT_EQ(resultOfSend("^^IdX"), "no listener");
     EXPECT_EQ(observer.events, Events{});
     EXPECT_EQ(systemCalls.count(Operation::sendTo), 0U);
 }

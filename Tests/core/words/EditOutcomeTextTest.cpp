@@ -60,10 +60,10 @@ TEST(EditOutcomeText, SaysThatTheUnitCouldNotBeAskedAndEndsWithAFullStop) {
                         "The UDP listener is not running.");
 }
 
-TEST(EditOutcomeText, ANewDevicePortIsSeenByDiscover) {
+TEST(EditOutcomeText, AUnitWhosePortMayHaveChangedIsFoundByDiscover) {
     EXPECT_EQ(textAfterAcceptance(devicePortNumber, "10001", "10000"),
-              "The unit accepted a command and was asked for its parameters. Discover finds it on "
-              "its new port.");
+              "The unit accepted a command and was asked for its parameters. If its port has "
+              "changed, Discover finds it.");
     EXPECT_EQ(textAfterAcceptance(devicePortNumber, "10000", "10000"),
               "The unit accepted a command and was asked for its parameters.");
 }
