@@ -2,14 +2,10 @@
 
 #include "MainWindowFixture.h"
 #include "RecordedBrowser.h"
-#include "contracts/ApplicationWindowsContract.h"
 #include "contracts/HelpServicesContract.h"
-#include "contracts/ViewContract.h"
 #include "platform/qt/HelpViewer.h"
 #include "platform/qt/InstalledResources.h"
-#include "platform/qt/QtApplicationWindows.h"
 #include "platform/qt/QtHelpServices.h"
-#include "platform/qt/QtView.h"
 
 #include <QApplication>
 #include <QDir>
@@ -138,58 +134,9 @@ private:
     QtHelpServices _services{_folder.path()};
 };
 
-class WindowOfDelegate final : public QWidget, public DelegatingWindow {
-public:
-    explicit WindowOfDelegate(const WindowDelegate* delegate)
-        : _delegate(delegate) {}
-    const WindowDelegate* windowDelegate() const override { return _delegate; }
-
-private:
-    const WindowDelegate* _delegate;
-};
-
-class QtApplicationWindowsTrait {
-public:
-    const ApplicationWindows& windows() { return _windows; }
-    void addWindow(const WindowDelegate* delegate) {
-        _widgets.push_back(std::make_unique<WindowOfDelegate>(delegate));
-    }
-
-private:
-    std::vector<std::unique_ptr<QWidget>> _widgets;
-    QtApplicationWindows _windows;
-};
-
-class QtViewTrait {
-public:
-    View& view() { return _view; }
-
-private:
-    QWidget _widget;
-    QtView _view{_widget};
-};
-
 } // namespace
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, HelpServicesContract, QtHelpServicesTrait);
-INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ApplicationWindowsContract, QtApplicationWindowsTrait);
-INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ViewContract, QtViewTrait);
-
-TEST(QtView, WhatLiesInAHiddenViewKeepsItsOwnSetting) {
-    QWidget outer;
-    QWidget inner(&outer);
-    outer.show();
-    QtView outerView(outer);
-    const QtView innerView(inner);
-    hideView(outerView);
-    EXPECT_FALSE(inner.isVisible());
-    EXPECT_FALSE(innerView.isHidden());
-}
-
-TEST(QtApplicationWindows, AWidgetOfAnotherKindHasNoDelegate) {
-    const QWidget plain;
-    EXPECT_EQ(QtApplicationWindows().delegates(), std::vector<const WindowDelegate*>{nullptr});
-}
 
 TEST(QtHelpServices, TheProgramFindsItsResourcesBesideItsOwnFolder) {
     const QDir programs(QCoreApplication::applicationDirPath());
@@ -415,14 +362,6 @@ TEST_F(MainWindowTest, TheKeyOfTheViewerIsNotAdvisedWhereThatHasNothingToShow) {
     press(Qt::Key_F1, Qt::AltModifier | Qt::ShiftModifier);
     EXPECT_TRUE(QTest::qWaitFor([this] { return helpAnchors.size() == 1; }));
     EXPECT_EQ(quietLine(), "The pages of the help are not installed.");
-}
-
-TEST_F(MainWindowTest, TheControllerIsTheDelegateOfItsWindowWhileItIsConnected) {
-    const QtApplicationWindows windows;
-    EXPECT_EQ(window.windowDelegate(), &controller);
-    EXPECT_EQ(instanceCount<KXConfigAppDelegate>(windows), 1U);
-    window.disconnectActions();
-    EXPECT_EQ(instanceCount<KXConfigAppDelegate>(windows), 0U);
 }
 
 } // namespace kx

@@ -10,7 +10,7 @@
 #pragma once
 
 #include "Outlets.h"
-#include "platform/qt/QtApplicationWindows.h"
+#include "platform/qt/DelegatingWindow.h"
 
 #include <QMainWindow>
 #include <deque>

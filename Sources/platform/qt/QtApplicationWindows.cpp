@@ -1,5 +1,7 @@
 #include "platform/qt/QtApplicationWindows.h"
 
+#include "platform/qt/DelegatingWindow.h"
+
 #include <QApplication>
 #include <QWidget>
 

@@ -1,20 +1,11 @@
-// The application's windows: every top-level widget that has or could have a delegate, in the order
-// in which Qt lists them. Needs a QApplication.
+// The application's windows: every top-level widget, in the order in which Qt lists them. Those
+// that are a DelegatingWindow may have a delegate. Needs a QApplication; main thread only.
 
 #pragma once
 
 #include "support/InstanceNames.h"
 
 namespace kx {
-
-// A widget that is a window with a delegate; other top-level widgets are windows without one.
-class DelegatingWindow {
-public:
-    virtual ~DelegatingWindow() = default;
-
-    // Null while there is none.
-    virtual const WindowDelegate* windowDelegate() const = 0;
-};
 
 class QtApplicationWindows final : public ApplicationWindows {
 public:

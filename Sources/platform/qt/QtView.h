@@ -1,4 +1,4 @@
-// A view over a widget, which must outlive it.
+// A view over a widget, which must outlive it. Main thread only.
 
 #pragma once
 
