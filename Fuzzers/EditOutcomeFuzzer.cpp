@@ -1,4 +1,4 @@
-// What a unit answers to an edit, as an outcome and the sentences about it: a byte for the
+// A unit's answer to an edit, as an outcome and the sentences about it: a byte for the
 // parameter, a line of typed text, and behind it the parameter list of the reply.
 
 #include "FuzzInput.h"

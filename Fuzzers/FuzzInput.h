@@ -14,10 +14,10 @@ inline std::string_view textOfInput(const std::uint8_t* data, std::size_t size) 
     return {reinterpret_cast<const char*>(data), size};
 }
 
-// Ends the process when a requireInvariant does not hold. The fuzzer reports this as a finding.
+// Ends the process when `holds` is false. The fuzzer reports this as a finding.
 inline void requireInvariant(bool holds, const char* text) {
     if (!holds) {
-        std::fprintf(stderr, "Promise not kept: %s\n", text);
+        std::fprintf(stderr, "Invariant broken: %s\n", text);
         std::abort();
     }
 }

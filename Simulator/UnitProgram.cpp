@@ -80,7 +80,7 @@ public:
 
     void run() {
         waitForWork();
-        while (followOrders()) {
+        while (followSignals()) {
             // One frame in each turn: its answers leave before the next frame is read. A burst then
             // waits in the socket, which limits it.
             if (const auto frame = _link.receive()) {
@@ -108,12 +108,12 @@ public:
 
 private:
     // Returns false when the process was asked to end.
-    bool followOrders() {
-        while (const auto order = _orders.take()) {
-            if (*order == SIGUSR1) {
+    bool followSignals() {
+        while (const auto signal = _signals.take()) {
+            if (*signal == SIGUSR1) {
                 _network.endFaults();
                 _flood = EventRate(0, Clock::now());
-            } else if (*order == SIGUSR2) {
+            } else if (*signal == SIGUSR2) {
                 recordStates();
             } else {
                 return false;
@@ -123,7 +123,7 @@ private:
     }
 
     void waitForWork() {
-        pollfd watched[] = {{_orders.descriptor(), POLLIN, 0}, {_link.descriptor(), POLLIN, 0}};
+        pollfd watched[] = {{_signals.descriptor(), POLLIN, 0}, {_link.descriptor(), POLLIN, 0}};
         const std::optional<timespec> longest = timeToNextDue();
         const int ready =
             ::ppoll(watched, std::size(watched), longest ? &*longest : nullptr, nullptr);
@@ -162,7 +162,7 @@ private:
     }
 
     CommandRecord& _record;
-    ProcessSignals _orders;
+    ProcessSignals _signals;
     PacketLink _link;
     UnitNetwork _network;
     EventRate _flood;

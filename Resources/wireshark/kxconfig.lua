@@ -11,9 +11,9 @@
 --
 -- A datagram that begins with "^^Id" is a command, any other that begins with "^" is a reply.
 -- Commands and replies share the fields of the parameters: kxconfig.device_port is what a command
--- sets and what a unit reports. What breaks the format is marked as expert information and says what
--- the application makes of it; the filter "kxconfig && _ws.expert" finds all of it. Where only the
--- capture ends too early, nothing but that is marked.
+-- sets and what a unit reports. Fields that break the format are marked as expert information, which
+-- says how the application reads them; the filter "kxconfig && _ws.expert" finds them all. Where only
+-- the capture ends too early, nothing but that is marked.
 
 local protocol = Proto("kxconfig", "KXConfig Unit Protocol")
 

@@ -202,8 +202,9 @@ void ChildProcess::letGo() {
             while (::waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
             }
         }).detach();
-    } catch (const std::system_error&) { // without a thread the child is reaped when this process
-    }                                    // ends
+    } catch (const std::system_error&) {
+        // Without a thread, the child is reaped when this process ends.
+    }
 }
 
 } // namespace kx

@@ -1,5 +1,5 @@
 // Errors that travel as values: their source (domain), the event (code), and in rare cases more
-// (user info).
+// (user info). A value type; any thread, one at a time.
 
 #pragma once
 

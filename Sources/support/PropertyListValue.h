@@ -3,6 +3,7 @@
 //
 // A value type: a list or a dictionary never changes once a value holds it, so copies can share it.
 // Dictionaries are ordered by key (byte-wise), so nothing that a person sees depends on hashing.
+// Any thread, one at a time; copies may be used by several.
 
 #pragma once
 

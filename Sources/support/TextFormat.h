@@ -2,7 +2,7 @@
 //
 // A message is looked up as a whole (see LocalizedText.h) and then filled, so its placeholders are
 // part of the text: "%@" for a text, "%d" for a number, "%s" for a text of the operating system,
-// "%%" for a percent sign.
+// "%%" for a percent sign. Pure; any thread.
 
 #pragma once
 

@@ -63,8 +63,7 @@ private:
 class TitleList::const_iterator {
 public:
     using iterator_concept = std::random_access_iterator_tag;
-    using iterator_category =
-        std::input_iterator_tag; // older categories promise references
+    using iterator_category = std::input_iterator_tag; // older categories promise references
     using value_type = std::string_view;
     using difference_type = std::ptrdiff_t;
     using reference = std::string_view;

@@ -33,8 +33,7 @@ public:
     };
     using State = std::variant<Forecast, EditOutcome, Message>;
 
-    // `show` is called whenever a text is to be shown, also when the text has not changed: a screen
-    // reader then says it once more.
+    // `show` is called whenever a text is to be shown, also when the text has not changed.
     explicit QuietLine(std::function<void(std::string_view text)> show);
 
     const State& state() const { return _state; }

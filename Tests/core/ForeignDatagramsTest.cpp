@@ -17,7 +17,7 @@ protected:
     // Delivers a datagram and compares all its effects with the rules. No unit is ever selected
     // here, because no discovery completes.
     void expectOutcome(const Bytes& datagram) {
-        const PlainOutcome expected = ReferenceDecoder::outcomeOf(datagram);
+        const ReferenceOutcome expected = ReferenceDecoder::outcomeOf(datagram);
         const auto logLength = controller.eventLog().size();
         const auto systemLogCount = systemLog.lines().size();
 
@@ -46,8 +46,8 @@ protected:
         }
     }
 
-    static PlainRecord plain(const UnitRecord& record) {
-        PlainRecord result;
+    static ReferenceRecord plain(const UnitRecord& record) {
+        ReferenceRecord result;
         for (const UnitParameter parameter : allUnitParameters) {
             if (const auto text = record.value(parameter)) {
                 result[std::string(nameOfUnitParameter(parameter))] = *text;
@@ -56,7 +56,7 @@ protected:
         return result;
     }
 
-    std::map<std::string, PlainRecord> registry;
+    std::map<std::string, ReferenceRecord> registry;
 };
 
 // `length` bytes: a beginning, and then a pattern that repeats.

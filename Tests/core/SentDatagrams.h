@@ -1,4 +1,4 @@
-// What was sent through scripted sockets, as text.
+// The datagrams that were sent through scripted sockets, as text.
 
 #pragma once
 

@@ -29,18 +29,18 @@ protected:
     }
     static void TearDownTestSuite() { sharedHost().network.ip("link del kx5"); }
 
-    RecordingTool noting;
+    RecordingTool recording;
     RecordedSystemLog log;
 };
 
 } // namespace
 
 TEST_F(ARPTableLookup, WhileTheNetworkIsNotReadyTheToolIsNotRun) {
-    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
+    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
     sharedHost().network.ip("link set p-kx5 down");
     ASSERT_TRUE(eventually([] { return !networkIsReady(); }));
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
-    EXPECT_EQ(noting.words(), "");
+    EXPECT_EQ(recording.words(), "");
     sharedHost().network.ip("link set p-kx5 up");
     EXPECT_TRUE(eventually(networkIsReady));
 }
@@ -53,12 +53,12 @@ TEST_F(ARPTableLookup, TheTableOfNetToolsHoldsNoSentence) {
 }
 
 TEST_F(ARPTableLookup, TheSentenceOfNetToolsIsUnderstood) {
-    const std::string original = noting.folder() + "/arp";
+    const std::string original = recording.folder() + "/arp";
     std::filesystem::copy_file(toolPath, original);
-    const ReplacedFile tool(toolPath, noting.program(original + " -a \"$1\""), executable);
+    const ReplacedFile tool(toolPath, recording.program(original + " -a \"$1\""), executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.9"), std::nullopt);
-    EXPECT_EQ(noting.words(), "10.0.0.5\n10.0.0.9\n");
+    EXPECT_EQ(recording.words(), "10.0.0.5\n10.0.0.9\n");
 }
 
 } // namespace kx

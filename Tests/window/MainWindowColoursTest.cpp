@@ -144,7 +144,7 @@ TEST_F(MainWindowTest, NoTextOrBackgroundHasAColourOfItsOwn) {
     type("x");
     receive(SampleUnit().reply());
     click("reloadButton");
-    clickParameter(UnitParameter::destinationIPAddress, 0);
+    clickCell("unitParameterTableView", 0, 0);
     control<QWidget>("logTextView").setFocus();
     expectNoBlueAnywhere();
 }

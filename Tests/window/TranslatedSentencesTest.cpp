@@ -15,7 +15,7 @@ namespace {
 
 using enum UnitParameter;
 
-// What the quiet line forecasts for edits of each kind, in the language that is installed.
+// The forecasts for edits of each kind, in the installed language.
 std::vector<std::string> forecasts() {
     const CommandTarget unit{.unitIsSelected = true,
                              .address = "192.168.1.10",

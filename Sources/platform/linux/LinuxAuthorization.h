@@ -1,5 +1,5 @@
 // The host's authority over administrator rights. It is polkit, or an authority that grants every
-// right where the process has them already.
+// right where the process has them already. On the thread of the run loop.
 
 #pragma once
 

@@ -103,7 +103,7 @@ TEST(ParameterEdit, IsTooLongBeyondTheLongestDatagram) {
     EXPECT_TRUE(editOf(serialNumber, std::string(65'503, '1')).isTooLong());
 }
 
-TEST(NumberInFront, IsTheSignAndTheDigitsAsTheyWereTyped) {
+TEST(LeadingNumber, IsTheSignAndTheDigitsAsTheyWereTyped) {
     EXPECT_EQ(leadingNumber(" +0123x"), "+0123");
     EXPECT_EQ(leadingNumber("-5"), "-5");
     EXPECT_EQ(leadingNumber("-"), "");

@@ -13,18 +13,18 @@
 
 namespace kx {
 
-using PlainRecord = std::map<std::string, std::string>;
+using ReferenceRecord = std::map<std::string, std::string>;
 
 // The effects of a datagram on the program while no unit is selected.
-struct PlainOutcome {
-    bool isAbandoned = false;          // it gives one line in the system log
-    std::string log;                   // event log entries after the line of the length
-    std::optional<PlainRecord> record; // record that the registry gets
+struct ReferenceOutcome {
+    bool isAbandoned = false;              // it gives one line in the system log
+    std::string log;                       // event log entries after the line of the length
+    std::optional<ReferenceRecord> record; // record that the registry gets
 };
 
 class ReferenceDecoder {
 public:
-    static PlainOutcome outcomeOf(const Bytes& datagram) {
+    static ReferenceOutcome outcomeOf(const Bytes& datagram) {
         ReferenceDecoder decoder(datagram);
         if (!decoder.decode()) {
             return {true, "", std::nullopt};
@@ -130,7 +130,7 @@ private:
                                                               {"<C>", "destination MAC address"},
                                                               {"<O>", "<O>"},
                                                               {"<S>", "serial number"}};
-        PlainRecord record;
+        ReferenceRecord record;
         for (std::size_t at = 21; at < _datagram.size();) {
             const auto tag = text(at, 3);
             if (!tag || names.count(*tag) == 0) {
@@ -171,7 +171,7 @@ private:
     }
 
     const Bytes& _datagram;
-    PlainOutcome _outcome;
+    ReferenceOutcome _outcome;
 };
 
 } // namespace kx

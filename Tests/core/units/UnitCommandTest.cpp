@@ -35,11 +35,11 @@ std::tm localTime(int month, int day, int hour, int minute) {
 
 } // namespace
 
-TEST(CommandProtocol, DefaultPortIsHexadecimal0DC0) {
+TEST(UnitCommand, DefaultPortIsHexadecimal0DC0) {
     EXPECT_EQ(defaultUnitPort, 0x0DC0);
 }
 
-TEST(CommandProtocol, RequestsHaveNoArgument) {
+TEST(UnitCommand, RequestsHaveNoArgument) {
     EXPECT_EQ(parameterRequestCommand, "^^IdX");
     EXPECT_EQ(restoreCommand, "^^IdZ");
 }

@@ -21,7 +21,7 @@ const std::string sentPort = "Sent ^^IdT0DC3. The unit has not answered yet.";
 
 class QuietLineTest : public testing::Test {
 protected:
-    // What was said since the last call of this, the same text again included.
+    // The sentences since the last call, repeated ones included.
     Said taken() { return std::exchange(_said, {}); }
 
     EditOutcome portOutcome() { return outcomeOf(destinationPortNumber, "3523", "3520"); }

@@ -34,35 +34,35 @@ protected:
     }
 
     MemoryConfigurationStore& store = sharedConfigurationDoubles().store;
-    RecordingTool noting;
+    RecordingTool recording;
     RecordedSystemLog log;
 };
 
 } // namespace
 
 TEST_F(ARPTableTool, TheToolIsRunWithTheAddressAloneAndItsSentenceRead) {
-    const ReplacedFile tool(toolPath,
-                            noting.program(saying("? (10.0.0.5) at 0:5:2:a:b:c on en0 [ethernet]")),
-                            executable);
+    const ReplacedFile tool(
+        toolPath, recording.program(saying("? (10.0.0.5) at 0:5:2:a:b:c on en0 [ethernet]")),
+        executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
-    EXPECT_EQ(noting.words(), "10.0.0.5\n");
+    EXPECT_EQ(recording.words(), "10.0.0.5\n");
     EXPECT_TRUE(log.lines().empty());
 }
 
 TEST_F(ARPTableTool, TheOctetsAreThoseOfTheText) {
-    const ReplacedFile tool(toolPath,
-                            noting.program(saying("? (10.0.0.5) at 0:5:2:a:b:c on en0 [ethernet]")),
-                            executable);
+    const ReplacedFile tool(
+        toolPath, recording.program(saying("? (10.0.0.5) at 0:5:2:a:b:c on en0 [ethernet]")),
+        executable);
     std::array<std::uint8_t, 8> octets{9, 9, 9, 9, 9, 9, 9, 9};
     std::uint8_t length = 8;
     EXPECT_EQ(hwAddressForIP(ipForString("10.0.0.5"), octets.data(), length), 0);
     EXPECT_EQ(octets, (std::array<std::uint8_t, 8>{0, 5, 2, 10, 11, 12, 9, 9}));
     EXPECT_EQ(length, 6);
-    EXPECT_EQ(noting.words(), "10.0.0.5\n");
+    EXPECT_EQ(recording.words(), "10.0.0.5\n");
 }
 
 TEST_F(ARPTableTool, WithRoomForFewerThanSixOctetsTheToolIsNotRun) {
-    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
+    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
     std::array<std::uint8_t, 6> octets{};
     for (std::uint8_t length = 0; length < 6; ++length) {
         std::uint8_t room = length;
@@ -70,17 +70,17 @@ TEST_F(ARPTableTool, WithRoomForFewerThanSixOctetsTheToolIsNotRun) {
         EXPECT_EQ(room, length);
     }
     EXPECT_EQ(octets, (std::array<std::uint8_t, 6>{}));
-    EXPECT_EQ(noting.words(), "");
+    EXPECT_EQ(recording.words(), "");
 }
 
 TEST_F(ARPTableTool, WithoutATextTheToolIsNotRun) {
-    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
+    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
     EXPECT_EQ(hwAddressStringForIPString(std::nullopt), std::nullopt);
-    EXPECT_EQ(noting.words(), "");
+    EXPECT_EQ(recording.words(), "");
 }
 
 TEST_F(ARPTableTool, WhileTheNetworkIsNotReadyTheToolIsNotRun) {
-    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c")), executable);
+    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
     setActive(0);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
     std::array<std::uint8_t, 6> octets{1, 2, 3, 4, 5, 6};
@@ -88,23 +88,24 @@ TEST_F(ARPTableTool, WhileTheNetworkIsNotReadyTheToolIsNotRun) {
     EXPECT_EQ(hwAddressForIP(ipForString("10.0.0.5"), octets.data(), length), -1);
     EXPECT_EQ(octets, (std::array<std::uint8_t, 6>{1, 2, 3, 4, 5, 6}));
     EXPECT_EQ(length, 6);
-    EXPECT_EQ(noting.words(), "");
+    EXPECT_EQ(recording.words(), "");
 }
 
 TEST_F(ARPTableTool, TheStatusOfTheToolDoesNotMatter) {
-    const ReplacedFile tool(toolPath, noting.program(saying("? at 0:5:2:a:b:c") + "; exit 1"),
+    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c") + "; exit 1"),
                             executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
 }
 
 TEST_F(ARPTableTool, AToolThatSaysNothingKnowsNothing) {
-    const ReplacedFile tool(toolPath, noting.program(""), executable);
+    const ReplacedFile tool(toolPath, recording.program(""), executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
-    EXPECT_EQ(noting.words(), "10.0.0.5\n");
+    EXPECT_EQ(recording.words(), "10.0.0.5\n");
 }
 
 TEST_F(ARPTableTool, AToolThatDoesNotSpeakUTF8KnowsNothing) {
-    const ReplacedFile tool(toolPath, noting.program("printf '\\377 at 0:5:2:a:b:c'"), executable);
+    const ReplacedFile tool(toolPath, recording.program("printf '\\377 at 0:5:2:a:b:c'"),
+                            executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
 }
 
