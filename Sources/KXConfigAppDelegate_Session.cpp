@@ -1,5 +1,6 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/DroppedDatagramsText.h"
@@ -60,8 +61,11 @@ void KXConfigAppDelegate::sessionDidStart(const Bytes& address) {
 
 void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
     appendString(entryOfStart());
-    if (const auto text = textOfListeningAddress(address)) {
-        appendString(*text);
+    std::uint32_t host = 0;
+    IPv6Octets unused{};
+    std::uint16_t port = 0;
+    if (addressForData(address, host, unused, &port) == addressFamilyIPv4) {
+        appendString(addressInEntry(host, port));
     }
 }
 

@@ -1,7 +1,6 @@
 #include "words/EventLogEntries.h"
 
 #include "addresses/IPv4Address.h"
-#include "addresses/SocketAddressRecord.h"
 #include "support/LocalizedText.h"
 #include "words/SendFailureText.h"
 
@@ -23,13 +22,7 @@ std::string entryOfStart() {
     return localizedText("\nUDP listener did start. ");
 }
 
-std::optional<std::string> textOfListeningAddress(const Bytes& localAddress) {
-    std::uint32_t address = 0;
-    IPv6Octets unused{};
-    std::uint16_t port = 0;
-    if (addressForData(localAddress, address, unused, &port) != addressFamilyIPv4) {
-        return std::nullopt;
-    }
+std::string addressInEntry(std::uint32_t address, std::uint16_t port) {
     return localizedText("%@:%d", {stringForIP(address), port});
 }
 

@@ -8,7 +8,6 @@
 #pragma once
 
 #include "conversation/UnitSession.h"
-#include "support/ByteRange.h"
 #include "support/Error.h"
 
 #include <cstddef>
@@ -22,10 +21,9 @@ namespace kx {
 // The first entry of the log. It has no line break.
 std::string entryOfDiscovery();
 
-// The start of the listener, and after it the address and port of its IPv4 record, which are absent
-// for any other record.
+// The start of the listener, and after it its own IPv4 address and port, both in host byte order.
 std::string entryOfStart();
-std::optional<std::string> textOfListeningAddress(const Bytes& localAddress);
+std::string addressInEntry(std::uint32_t address, std::uint16_t port);
 
 // The reason of a stop, a failed send or a failed read, on a line of its own after the entry.
 std::string reasonInEntry(const Error& error);

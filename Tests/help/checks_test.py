@@ -63,8 +63,9 @@ class Checks(unittest.TestCase):
 
     def test_the_functions_that_word_an_entry_are_found(self):
         path = self.write("a.h", "std::string entryOfStart();\nstd::string entryOfA(int a,\n int b);\n"
-                                 "std::string otherOfA(int a);\n")
-        self.assertEqual(checks.functions_of_entries(path), {"entryOfStart", "entryOfA"})
+                                 "std::string reasonInEntry(int a);\nint lengthOfA(int a);\n")
+        self.assertEqual(checks.functions_of_entries(path),
+                         {"entryOfStart", "entryOfA", "reasonInEntry"})
 
     def test_the_texts_that_a_source_looks_up_are_found(self):
         path = self.write("a.cpp", 'return localizedText("No ä.");\nf(localizedText("It (%@ %d)."), a);\n'

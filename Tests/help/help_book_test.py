@@ -92,7 +92,7 @@ class TheBookAndTheProgram(unittest.TestCase):
     def test_every_line_of_the_event_log_is_explained_and_no_other(self):
         logged = checks.logged_entries(SOURCES / "words/EventLogEntries.cpp")
         self.assertGreater(len(logged), 10)
-        shown = {"%: %"}  # a line of a unit's parameters, made by units/ParameterList.cpp
+        shown = {"%: %"}  # a line of a unit's parameters, made by words/ParameterLines.cpp
         self.assertEqual(self.pages["log.html"].entries, logged | shown)
 
     def test_nothing_else_gets_into_the_event_log(self):

@@ -125,7 +125,8 @@ TEST_F(MainWindowApply, TheQuietLineFollowsEveryKey) {
     type("7"); // opens the editor with this character in it
     EXPECT_EQ(quietLine(), "Apply sends ^^IdP0007: device port 7.");
     type("x");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdP0007: device port 7, because that is how “7x” is read.");
+    EXPECT_EQ(quietLine(),
+              "Apply sends ^^IdP0007: device port 7, because that is how “7x” is read.");
     press(Qt::Key_Backspace);
     type("8");
     EXPECT_EQ(quietLine(), "Apply sends ^^IdP004E: device port 78.");

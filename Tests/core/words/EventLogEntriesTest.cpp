@@ -2,7 +2,6 @@
 
 #include "words/EventLogEntries.h"
 
-#include "addresses/SocketAddressRecord.h"
 #include "doubles/MarkedLocalizedText.h"
 
 #include <gtest/gtest.h>
@@ -35,13 +34,8 @@ TEST(EventLogEntries, ADiscoveryBeginsTheLogWithoutALineBreak) {
 
 TEST(EventLogEntries, AStartNamesAddressAndPort) {
     EXPECT_EQ(entryOfStart(), "\nUDP listener did start. ");
-    EXPECT_EQ(textOfListeningAddress(dataForAddress(0, 3521)), "0.0.0.0:3521");
-    EXPECT_EQ(textOfListeningAddress(dataForAddress(0xC0000207U, 65535)), "192.0.2.7:65535");
-}
-
-TEST(EventLogEntries, AStartOfAnotherFamilyNamesNeither) {
-    EXPECT_EQ(textOfListeningAddress(dataForAddress6({}, 3520)), std::nullopt);
-    EXPECT_EQ(textOfListeningAddress({}), std::nullopt);
+    EXPECT_EQ(addressInEntry(0, 3521), "0.0.0.0:3521");
+    EXPECT_EQ(addressInEntry(0xC0000207U, 65535), "192.0.2.7:65535");
 }
 
 TEST(EventLogEntries, FailuresHaveTheirReasonOnALineOfItsOwn) {
@@ -112,7 +106,7 @@ TEST(EventLogEntries, EveryPartIsLookedUp) {
     const std::vector<std::pair<std::string, std::string>> entries{
         {entryOfDiscovery(), "<[Begin Discover]>"},
         {entryOfStart(), "<\nUDP listener did start. >"},
-        {textOfListeningAddress(dataForAddress(0, 3521)).value_or(""), "<0.0.0.0:3521>"},
+        {addressInEntry(0, 3521), "<0.0.0.0:3521>"},
         {entryOfRefusedBroadcast("no"), "<\nError setting SO_BROADCAST no>"},
         {entryOfStop(), "<\nUDP did stop with error.>"},
         {entryOfReceiveError(), "<\nUDP did receive error.>"},
