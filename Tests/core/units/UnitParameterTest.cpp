@@ -60,6 +60,11 @@ TEST(UnitParameter, ValuesHaveTheLengthsThatUnitsSend) {
     EXPECT_EQ(lengths, (std::vector<std::size_t>{4, 6, 2, 2, 4, 6, 6, 6}));
 }
 
+TEST(UnitParameter, AValueWithoutAFormHasNoBytes) {
+    const ParameterDescription notFilled;
+    EXPECT_EQ(lengthOfValue(notFilled.form), 0U);
+}
+
 TEST(UnitParameter, EveryOneOfTodayCanBeEdited) {
     for (const auto& row : parameterTable) {
         EXPECT_TRUE(row.isEditable()) << row.name;
