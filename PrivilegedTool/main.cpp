@@ -3,10 +3,10 @@
 // usage: kxarp -s ADDRESS HARDWARE-ADDRESS
 //        kxarp -d ADDRESS HARDWARE-ADDRESS
 //
-// polkit lets a person decide who may run it, and pkexec runs it (Resources/*.policy). So every word
-// that arrives here may come from a stranger. ARPRequest.h says which words are taken. For these it
-// becomes the ARP tool, with exactly these words for -s. Otherwise it changes nothing and ends with
-// one sentence on standard error and a status of its own (kxarp::Failure).
+// polkit lets a person decide who may run it, and pkexec runs it (Resources/*.policy). So every
+// word that arrives here may come from a stranger. ARPRequest.h says which words are taken. For
+// these it becomes the ARP tool, with exactly these words for -s. Otherwise it changes nothing and
+// ends with one sentence on standard error and a status of its own (kxarp::Failure).
 //
 // It takes nothing else over from its caller: no environment, no descriptor but standard error.
 
