@@ -305,7 +305,6 @@ TEST_F(TheAdministrator, HasTextsHandedOnAsTheyAreButNoOptions) {
     }
     EXPECT_EQ(service->objectionTo(arpTool, {"-s", "unit.example"}), std::nullopt);
     EXPECT_EQ(service->objectionTo("/bin/true", {"-s", "-f"}), std::nullopt);
-    EXPECT_EQ(neighbour(), "");
 }
 
 TEST_F(TheAdministrator, HoldsARightOnceItWasAskedFor) {
