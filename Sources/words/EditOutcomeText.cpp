@@ -68,7 +68,7 @@ std::string textOfState(const EditOutcome& outcome) {
 
 // In the words of the tool or the authority. A sentence that the catalogues know is translated.
 std::string textOfSentence(const std::string& address, const std::string& said) {
-    const std::string sentence = safeForSentence(localizedText(said));
+    const std::string sentence = safeForSentence(localizedText(said), mostCharactersOfSentence);
     return isWholeSentence(sentence)
                ? localizedText("No ARP entry was made for %@: %@", {address, sentence})
                : localizedText("No ARP entry was made for %@: %@.", {address, sentence});
