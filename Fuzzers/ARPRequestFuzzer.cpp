@@ -67,7 +67,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireInvariant(octets[0] % 2 == 0, "it names one host");
     for (std::size_t i = count; i < lines.size(); ++i) {
         if (const auto interface = kxarp::interfaceOfEntry(lines[i], *request)) {
-            requireInvariant(lines[i].starts_with(request->address),
+            const auto begin = std::min(lines[i].find_first_not_of(' '), lines[i].size());
+            requireInvariant(lines[i].substr(begin).starts_with(request->address),
                              "the line is about the address");
             requireInvariant(!interface->empty() && interface->find(' ') == std::string_view::npos,
                              "the interface has a name");
