@@ -77,7 +77,8 @@ protected:
     static constexpr auto waitAsItself = "while :; do :; done";
 
     static bool hasNoChildren() {
-        return ::waitpid(-1, nullptr, WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
+        siginfo_t end{};
+        return ::waitid(P_ALL, 0, &end, WEXITED | WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
     }
 
     const AuthorizationItem right{
