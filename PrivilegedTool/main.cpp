@@ -51,8 +51,7 @@ void leaveCallerBehind() {
         pointers.push_back(const_cast<char*>(word.c_str()));
     }
     pointers.push_back(nullptr);
-    char* const noEnvironment[] = {nullptr};
-    ::execve(arpTool, pointers.data(), noEnvironment);
+    ::execv(arpTool, pointers.data());
     endWith(kxarp::Failure::noTool);
 }
 

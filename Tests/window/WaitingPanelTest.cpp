@@ -6,6 +6,8 @@
 #include "platform/qtcore/EventLoopWaiting.h"
 #include "platform/qtcore/QtRunLoop.h"
 
+#include <qpa/qwindowsysteminterface.h>
+
 #include <QApplication>
 #include <QDialog>
 #include <QLabel>
@@ -161,6 +163,19 @@ TEST_F(WaitingPanelTest, TheWindowBelowTakesNoInput) {
     QTest::mouseClick(window.windowHandle(), Qt::LeftButton, Qt::NoModifier,
                       window.button.geometry().center());
     EXPECT_EQ(window.clicks, 1) << "the click lands on the button when nothing is waited for";
+}
+
+// Before the panel opens, too.
+TEST_F(WaitingPanelTest, TheWindowBelowGetsWhatIsTypedInTheFirstMomentWhenTheWaitIsOver) {
+    const auto end = std::chrono::steady_clock::now() + WaitingPanel::moment / 2;
+    window.button.setFocus();
+    QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        window.windowHandle(), QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier);
+    QWindowSystemInterface::handleKeyEvent<QWindowSystemInterface::AsynchronousDelivery>(
+        window.windowHandle(), QEvent::KeyRelease, Qt::Key_Space, Qt::NoModifier);
+    EXPECT_TRUE(panel.until([&] { return std::chrono::steady_clock::now() >= end; }, sentence));
+    EXPECT_EQ(window.clicks, 0);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window.clicks == 1; }));
 }
 
 TEST_F(WaitingPanelTest, AHeldRunLoopCallsNothingMeanwhile) {
