@@ -9,6 +9,7 @@ source "$here/expectations.sh"
 kxconfig=$2
 
 # Waits for the open dialog, as a program beside the window, and lets polkit hang for a while then.
+# shellcheck disable=SC2016 # another shell expands it
 hang='run (until [ -s "$KX_DIALOGS" ]; do sleep 0.05; done; echo stop >"$KX_HOST"; sleep 4; echo continue >"$KX_HOST") &'
 move='
     parameter internal IP address

@@ -37,8 +37,10 @@ end_by() {
 
 report=$(mktemp)
 trap 'rm -f -- "$report"' EXIT
+# shellcheck disable=SC2016 # another shell expands it
+dialog_was_open='[ -s "$KX_DIALOGS" ]'
 for signal in TERM INT HUP; do
     end_by "$signal" true think ''
-    end_by "$signal" '[ -s "$KX_DIALOGS" ]' think 'press applyButton'
-    end_by "$signal" '[ -s "$KX_DIALOGS" ]' dismiss 'press applyButton'
+    end_by "$signal" "$dialog_was_open" think 'press applyButton'
+    end_by "$signal" "$dialog_was_open" dismiss 'press applyButton'
 done

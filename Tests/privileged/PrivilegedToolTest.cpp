@@ -201,7 +201,9 @@ TEST_F(PrivilegedTool, SaysThatTheTableOrTheToolIsMissing) {
     const Ended ended = run({"-s", "192.0.2.7", "02:4B:58:00:00:01"});
     EXPECT_EQ(ended.status, 69);
     EXPECT_EQ(ended.error, "The ARP tool cannot be run.\n");
-    ASSERT_EQ(::mount("none", "/proc", "tmpfs", 0, nullptr), 0); // in the view of the replaced file
+    // In the view of the replaced file. Without root only an empty folder can be put there.
+    ASSERT_TRUE(::mount("proc", "/proc", "proc", 0, "subset=pid") == 0 ||
+                ::mount("none", "/proc", "tmpfs", 0, nullptr) == 0);
     EXPECT_EQ(run({"-d", "192.0.2.7", "02:4B:58:00:00:01"}).status, 68);
     ::umount2("/proc", MNT_DETACH);
 }

@@ -48,14 +48,13 @@ std::int32_t LinuxAuthorizationReference::copyRights(const AuthorizationItem& ri
 std::int32_t LinuxAuthorizationReference::executeWithPrivileges(
     const std::string& toolPath, const std::vector<std::string>& arguments, ToolEndAction ended) {
     const bool hasBegun =
-        _begun.has_value() && _begun->toolPath == toolPath && _begun->arguments == arguments;
+        _begun.tool != nullptr && _begun.toolPath == toolPath && _begun.arguments == arguments;
     if (!hasBegun) {
         if (const auto status = begin(toolPath, arguments); status != errAuthorizationSuccess) {
             return status;
         }
     }
-    auto tool = std::move(_begun->tool);
-    _begun.reset();
+    auto tool = std::move(_begun.tool);
     awaitFirstWork(*tool);
     _runningTools.attend(std::move(tool), [alive = std::weak_ptr<bool>(_alive),
                                            action = std::move(ended)](const ToolEnd& end) {
@@ -68,7 +67,7 @@ std::int32_t LinuxAuthorizationReference::executeWithPrivileges(
 
 std::int32_t LinuxAuthorizationReference::begin(const std::string& toolPath,
                                                 const std::vector<std::string>& arguments) {
-    _begun.reset();
+    _begun.tool.reset();
     const std::string program = programFor(toolPath, arguments);
     if (program.empty()) {
         return errAuthorizationDenied;
@@ -83,7 +82,7 @@ std::int32_t LinuxAuthorizationReference::begin(const std::string& toolPath,
     }
     const auto status = awaitPerson(*tool);
     if (status == errAuthorizationSuccess) {
-        _begun = BegunTool{toolPath, arguments, std::move(tool)};
+        _begun = {toolPath, arguments, std::move(tool)};
     } else {
         _runningTools.attend(std::move(tool), {}); // a launcher that has not ended yet is reaped
     }
@@ -98,15 +97,13 @@ std::int32_t LinuxAuthorizationReference::awaitPerson(StartedTool& tool) {
     }
     const auto isSilent = watchForSilence();
     bool isAuthoritySilent = false;
-    const bool isDecided =
-        _waiting.until(
-            [&] {
-                isAuthoritySilent = isSilent();
-                return isAuthoritySilent || tool.hasEnded() || !isLauncher(tool);
-            },
-            localizedText("Waiting for administrator rights.")) &&
-        !isAuthoritySilent;
-    if (!isDecided && takeBack(tool)) {
+    const auto isDecided = [&] {
+        isAuthoritySilent = isSilent();
+        return isAuthoritySilent || tool.hasEnded() || !isLauncher(tool);
+    };
+    const bool wasAwaited =
+        _waiting.until(isDecided, localizedText("Waiting for administrator rights."));
+    if ((!wasAwaited || isAuthoritySilent) && takeBack(tool)) {
         return isAuthoritySilent ? errAuthorizationDenied : errAuthorizationCanceled;
     }
     return tool.hasEnded() && isRefusal(tool) ? refusalOf(tool.status()) : errAuthorizationSuccess;

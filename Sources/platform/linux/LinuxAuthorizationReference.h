@@ -20,7 +20,6 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <set>
 #include <string>
 #include <vector>
@@ -75,7 +74,7 @@ private:
     struct BegunTool {
         std::string toolPath;
         std::vector<std::string> arguments;
-        std::unique_ptr<StartedTool> tool;
+        std::unique_ptr<StartedTool> tool; // null when there is none
     };
 
     bool isLauncher(const StartedTool& tool) const;
@@ -86,8 +85,8 @@ private:
 
     RunningTools& _runningTools;
     Waiting& _waiting;
-    std::set<std::string> _held;     // values of the rights that are held
-    std::optional<BegunTool> _begun; // a person has allowed it, and it was not run yet
+    std::set<std::string> _held; // values of the rights that are held
+    BegunTool _begun;            // a person has allowed it, and no run has taken it over yet
     std::shared_ptr<bool> _alive = std::make_shared<bool>(true);
 };
 
