@@ -171,19 +171,12 @@ bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) cons
     return holder != nullptr && (selected == nullptr || !holder->hasHardwareAddressOf(*selected));
 }
 
-std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
-                                                const std::optional<std::string>& ip) {
-    // A dialogue runs the event loop. Events from outside wait for the end of the action.
-    const auto hold = _services.runLoop.holdCallbacks();
-    const int attempt = ++_latestARPAttempt;
-    if (!authenticateForARP()) {
-        _outlets.alert->runModal(
-            localizedText("KXConfig"),
-            localizedText("Authentication was not completed, some features may not be available."),
-            localizedText("OK"));
-        _arpEntry = {.state = ARPEntryState::rightsNotGiven};
-        return -1;
-    }
+namespace {
+
+constexpr auto arpTool = "/usr/sbin/arp";
+
+std::vector<std::string> argumentsForARP(const std::optional<std::string>& hardwareAddress,
+                                         const std::optional<std::string>& ip) {
     std::vector<std::string> arguments{"-s"};
     for (const auto* const text : {&ip, &hardwareAddress}) {
         if (!text->has_value()) {
@@ -191,25 +184,61 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
         }
         arguments.push_back(**text);
     }
+    return arguments;
+}
+
+} // namespace
+
+std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
+                                                const std::optional<std::string>& ip) {
+    // A dialogue runs the event loop. Events from outside wait for the end of the action.
+    const auto hold = _services.runLoop.holdCallbacks();
+    const int attempt = ++_latestARPAttempt;
+    _arpEntry = {.state = ARPEntryState::rightsNotGiven};
+    const auto arguments = argumentsForARP(hardwareAddress, ip);
+    const auto authorization = authorizationForARP(); // stays when the application ends meanwhile
+    const bool isAuthenticated =
+        authorization != nullptr && authorization->authenticate(arguments);
+    if (_auth != authorization) {
+        return -1; // the application has ended
+    }
+    if (!isAuthenticated) {
+        _outlets.alert->runModal(
+            localizedText("KXConfig"),
+            localizedText("Authentication was not completed, some features may not be available."),
+            localizedText("OK"));
+        return -1;
+    }
     // Only the end of the latest attempt is shown.
-    const auto result = _auth->runToolWithArgs(arguments, [this, attempt](int status) {
-        if (attempt == _latestARPAttempt) {
-            _quietLine.arpToolDidEnd(status);
-        }
-    });
-    _arpEntry = arpEntryForResult(result);
+    const auto result =
+        authorization->runToolWithArgs(arguments, [this, attempt](const ToolEnd& end) {
+            if (attempt == _latestARPAttempt) {
+                _quietLine.arpToolDidEnd(end.status, end.sentence);
+            }
+        });
+    _arpEntry = arpEntryForResult(result, objectionToARPEntry(hardwareAddress, ip));
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
 
-bool KXConfigAppDelegate::authenticateForARP() {
+// Null when nobody gives rights.
+std::shared_ptr<Authorization> KXConfigAppDelegate::authorizationForARP() {
+    if (_auth == nullptr && _services.authorizationService != nullptr) {
+        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpTool);
+    }
+    return _auth;
+}
+
+// Empty when nothing speaks against the entry.
+std::string
+KXConfigAppDelegate::objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
+                                         const std::optional<std::string>& ip) const {
     if (_services.authorizationService == nullptr) {
-        return false;
+        return {};
     }
-    if (_auth == nullptr) {
-        _auth = std::make_unique<Authorization>(*_services.authorizationService, "/usr/sbin/arp");
-    }
-    return _auth->authenticate();
+    return _services.authorizationService
+        ->objectionTo(arpTool, argumentsForARP(hardwareAddress, ip))
+        .value_or("");
 }
 
 void KXConfigAppDelegate::optionCommandPopUp() {
@@ -262,6 +291,9 @@ std::string KXConfigAppDelegate::forecast() const {
     CommandTarget target = commandTarget();
     const auto* const planned = std::get_if<ParameterEdit>(&edit);
     target.newSerialNumberIsTaken = planned != nullptr && newSerialNumberIsTaken(*planned);
+    if (planned != nullptr && planned->parameter == UnitParameter::internalIPAddress) {
+        target.objectionToARPEntry = objectionToARPEntry(target.hardwareAddress, planned->typed);
+    }
     return forecastOfEdit(edit, target);
 }
 

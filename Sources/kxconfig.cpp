@@ -16,9 +16,11 @@
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHelpServices.h"
+#include "platform/qt/WaitingPanel.h"
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "platform/qtcore/TerminationSignals.h"
 
 #include <QApplication>
 #include <csignal>
@@ -55,9 +57,9 @@ int main(int argc, char* argv[]) {
     kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
 
-    const auto authorizationService = kx::makeAuthorizationService(runLoop);
-
     kx::MainWindow window;
+    kx::WaitingPanel waiting(window);
+    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
     kx::KXConfigAppDelegate controller(
         window.outlets(), {.runLoop = runLoop,
                            .hostResolver = hostResolver,
@@ -76,9 +78,16 @@ int main(int argc, char* argv[]) {
                                    return kx::hasHelpPage(page, helpServices);
                                }});
     window.connectActions(controller);
-    QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, [&] {
+    const auto end = [&] {
         window.disconnectActions();
         controller.applicationWillTerminate();
+    };
+    QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, end);
+    // A dialog may be open, below which an action is not done. The action has to find the end when
+    // it goes on, so the end comes before its loop is left.
+    const kx::TerminationSignals terminationSignals([&] {
+        end();
+        QApplication::exit(0);
     });
 
     window.show();

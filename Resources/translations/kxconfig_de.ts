@@ -222,6 +222,7 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
         <translation>KXConfig</translation>
     </message>
@@ -262,6 +263,11 @@
         <translation>HardwareAddress: ungültige Ethernet-Adresse</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
+        <source>The ARP tool gets no text that begins with “-”.</source>
+        <translation>Das ARP-Programm erhält keinen Text, der mit „-“ beginnt.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Ethernet</source>
         <translation>Ethernet</translation>
@@ -295,6 +301,17 @@
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Network</source>
         <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <location filename="../../Sources/platform/linux/PolkitCheck.cpp"/>
+        <source>Waiting for administrator rights.</source>
+        <translation>Warten auf Administratorrechte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <source>Waiting for the tool that has administrator rights.</source>
+        <translation>Warten auf das Programm, das Administratorrechte hat.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
@@ -386,6 +403,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>KXConfig-Hilfe</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <location filename="../../Sources/support/Error.cpp"/>
@@ -629,6 +651,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no ARP entry will be made for “%@”: %@</source>
+        <translation>„Anwenden“ fragt nach Administratorrechten, doch für „%@“ wird kein ARP-Eintrag angelegt: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
         <translation>„Anwenden“ übergibt „%@“ und %@ an das ARP-Programm. Dazu sind Administratorrechte nötig.</translation>
     </message>
@@ -746,6 +773,16 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>Sent %@. The unit has not answered yet.</source>
         <translation>%@ gesendet. Das Gerät hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@.</source>
+        <translation>Für %@ wurde kein ARP-Eintrag angelegt: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -943,6 +980,36 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool gets one address and one hardware address only.</source>
+        <translation>Das ARP-Programm erhält nur eine Adresse und eine Hardwareadresse.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>An address is four decimal numbers without leading zeros, as in 192.0.2.7.</source>
+        <translation>Eine Adresse besteht aus vier Dezimalzahlen ohne führende Nullen, wie 192.0.2.7.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>A hardware address is six pairs of hexadecimal digits and names one host, as in 02:00:00:00:00:07.</source>
+        <translation>Eine Hardwareadresse besteht aus sechs Paaren hexadezimaler Ziffern und gehört zu einem einzigen Host, wie 02:00:00:00:00:07.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache has no fixed entry with this address and this hardware address.</source>
+        <translation>Der ARP-Cache hat keinen festen Eintrag mit dieser Adresse und dieser Hardwareadresse.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache cannot be read.</source>
+        <translation>Der ARP-Cache lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool cannot be run.</source>
+        <translation>Das ARP-Programm lässt sich nicht ausführen.</translation>
     </message>
 </context>
 </TS>

@@ -222,6 +222,7 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
         <translation>KXConfig</translation>
     </message>
@@ -262,6 +263,11 @@
         <translation>HardwareAddress: dirección Ethernet no válida</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
+        <source>The ARP tool gets no text that begins with “-”.</source>
+        <translation>La herramienta ARP no recibe ningún texto que empiece por «-».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Ethernet</source>
         <translation>Ethernet</translation>
@@ -295,6 +301,17 @@
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Network</source>
         <translation>Red</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <location filename="../../Sources/platform/linux/PolkitCheck.cpp"/>
+        <source>Waiting for administrator rights.</source>
+        <translation>Esperando derechos de administrador.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <source>Waiting for the tool that has administrator rights.</source>
+        <translation>Esperando a la herramienta que tiene derechos de administrador.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
@@ -386,6 +403,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>Ayuda de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <location filename="../../Sources/support/Error.cpp"/>
@@ -629,6 +651,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no ARP entry will be made for “%@”: %@</source>
+        <translation>«Aplicar» pide derechos de administrador, pero no se creará ninguna entrada ARP para «%@»: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
         <translation>«Aplicar» entrega «%@» y %@ a la herramienta ARP. Para ello se necesitan derechos de administrador.</translation>
     </message>
@@ -746,6 +773,16 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>Sent %@. The unit has not answered yet.</source>
         <translation>Se envió %@. La unidad aún no ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@</source>
+        <translation>No se creó ninguna entrada ARP para %@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@.</source>
+        <translation>No se creó ninguna entrada ARP para %@: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -943,6 +980,36 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>No se envió: no se conoce la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool gets one address and one hardware address only.</source>
+        <translation>La herramienta ARP solo recibe una dirección y una dirección de hardware.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>An address is four decimal numbers without leading zeros, as in 192.0.2.7.</source>
+        <translation>Una dirección son cuatro números decimales sin ceros a la izquierda, como 192.0.2.7.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>A hardware address is six pairs of hexadecimal digits and names one host, as in 02:00:00:00:00:07.</source>
+        <translation>Una dirección de hardware son seis pares de dígitos hexadecimales y designa un solo equipo, como 02:00:00:00:00:07.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache has no fixed entry with this address and this hardware address.</source>
+        <translation>La caché ARP no tiene ninguna entrada fija con esta dirección y esta dirección de hardware.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache cannot be read.</source>
+        <translation>No se puede leer la caché ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool cannot be run.</source>
+        <translation>No se puede ejecutar la herramienta ARP.</translation>
     </message>
 </context>
 </TS>

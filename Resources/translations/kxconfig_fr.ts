@@ -222,6 +222,7 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
         <translation>KXConfig</translation>
     </message>
@@ -262,6 +263,11 @@
         <translation>HardwareAddress : adresse Ethernet non valide</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
+        <source>The ARP tool gets no text that begins with “-”.</source>
+        <translation>L’outil ARP ne reçoit aucun texte qui commence par « - ».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Ethernet</source>
         <translation>Ethernet</translation>
@@ -295,6 +301,17 @@
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Network</source>
         <translation>Réseau</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <location filename="../../Sources/platform/linux/PolkitCheck.cpp"/>
+        <source>Waiting for administrator rights.</source>
+        <translation>En attente des droits d’administrateur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <source>Waiting for the tool that has administrator rights.</source>
+        <translation>En attente de l’outil qui a les droits d’administrateur.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
@@ -386,6 +403,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>Aide de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
     </message>
     <message>
         <location filename="../../Sources/support/Error.cpp"/>
@@ -629,6 +651,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no ARP entry will be made for “%@”: %@</source>
+        <translation>« Appliquer » demande les droits d’administrateur, mais aucune entrée ARP ne sera créée pour « %@ » : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
         <translation>« Appliquer » transmet « %@ » et %@ à l’outil ARP, ce qui nécessite les droits d’administrateur.</translation>
     </message>
@@ -746,6 +773,16 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>Sent %@. The unit has not answered yet.</source>
         <translation>%@ a été envoyé. L’unité n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@.</source>
+        <translation>Aucune entrée ARP n’a été créée pour %@ : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -943,6 +980,36 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool gets one address and one hardware address only.</source>
+        <translation>L’outil ARP ne reçoit qu’une adresse et une adresse matérielle.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>An address is four decimal numbers without leading zeros, as in 192.0.2.7.</source>
+        <translation>Une adresse se compose de quatre nombres décimaux sans zéros initiaux, comme 192.0.2.7.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>A hardware address is six pairs of hexadecimal digits and names one host, as in 02:00:00:00:00:07.</source>
+        <translation>Une adresse matérielle se compose de six paires de chiffres hexadécimaux et désigne un seul hôte, comme 02:00:00:00:00:07.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache has no fixed entry with this address and this hardware address.</source>
+        <translation>Le cache ARP n’a aucune entrée fixe avec cette adresse et cette adresse matérielle.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache cannot be read.</source>
+        <translation>Le cache ARP ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool cannot be run.</source>
+        <translation>L’outil ARP ne peut pas être exécuté.</translation>
     </message>
 </context>
 </TS>

@@ -222,6 +222,7 @@
     </message>
     <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
         <translation>KXConfig</translation>
     </message>
@@ -262,6 +263,11 @@
         <translation>HardwareAddress: イーサネットアドレスが無効です</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
+        <source>The ARP tool gets no text that begins with “-”.</source>
+        <translation>「-」で始まるテキストは ARP ツールに渡されません。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Ethernet</source>
         <translation>イーサネット</translation>
@@ -295,6 +301,17 @@
         <location filename="../../Sources/platform/linux/ConfigurationRecords.cpp"/>
         <source>Network</source>
         <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <location filename="../../Sources/platform/linux/PolkitCheck.cpp"/>
+        <source>Waiting for administrator rights.</source>
+        <translation>管理者権限を待っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/linux/LinuxAuthorizationReference.cpp"/>
+        <source>Waiting for the tool that has administrator rights.</source>
+        <translation>管理者権限を持つツールを待っています。</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AboutBox.cpp"/>
@@ -386,6 +403,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>KXConfig ヘルプ</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <location filename="../../Sources/support/Error.cpp"/>
@@ -629,6 +651,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Apply asks for administrator rights, but no ARP entry will be made for “%@”: %@</source>
+        <translation>「適用」を押すと管理者権限を求めますが、「%@」の ARP エントリは作成されません: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply hands “%@” and %@ to the ARP tool, which needs administrator rights.</source>
         <translation>「適用」を押すと「%@」と %@ を ARP ツールに渡します。これには管理者権限が必要です。</translation>
     </message>
@@ -746,6 +773,16 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>Sent %@. The unit has not answered yet.</source>
         <translation>%@ を送信しました。ユニットはまだ応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@</source>
+        <translation>%@ の ARP エントリは作成されませんでした: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>No ARP entry was made for %@: %@.</source>
+        <translation>%@ の ARP エントリは作成されませんでした: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -943,6 +980,36 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool gets one address and one hardware address only.</source>
+        <translation>ARP ツールに渡されるのは、1 つのアドレスと 1 つのハードウェアアドレスだけです。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>An address is four decimal numbers without leading zeros, as in 192.0.2.7.</source>
+        <translation>アドレスは、192.0.2.7 のように、先頭にゼロのない 4 つの 10 進数です。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>A hardware address is six pairs of hexadecimal digits and names one host, as in 02:00:00:00:00:07.</source>
+        <translation>ハードウェアアドレスは、02:00:00:00:00:07 のように、16 進数 2 桁が 6 組で、1 台のホストを表します。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache has no fixed entry with this address and this hardware address.</source>
+        <translation>ARP キャッシュには、このアドレスとこのハードウェアアドレスの固定エントリがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP cache cannot be read.</source>
+        <translation>ARP キャッシュを読み取れません。</translation>
+    </message>
+    <message>
+        <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
+        <source>The ARP tool cannot be run.</source>
+        <translation>ARP ツールを実行できません。</translation>
     </message>
 </context>
 </TS>

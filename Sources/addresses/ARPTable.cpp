@@ -19,7 +19,7 @@ std::optional<std::string> toolOutput(const std::string& argument) {
     std::optional<std::string> output;
     try {
         TaskSupport::doShortTaskArgumentsInputShortOutput(toolPath, {argument}, std::nullopt,
-                                                          &output);
+                                                          &output, longestLookup);
     } catch (const PlatformException&) { // a system without the tool knows no address
     }
     return output;

@@ -7,16 +7,21 @@
 // Failures are results. Only the parser of hardware addresses (addresses/HardwareAddressText.h)
 // logs a line, when a sentence does not end in a hardware address.
 //
-// Threading: the main thread only. A lookup blocks it until the tool exits.
+// Threading: the main thread only. A lookup blocks it until the tool exits. A tool that takes
+// longer than longestLookup is ended, and what it has said by then counts.
 
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace kx {
+
+// The tool of net-tools asks name servers about an address, for up to ten seconds on most hosts.
+inline constexpr std::chrono::seconds longestLookup{10};
 
 // The hardware address that the table holds for the address with this text, as "00:1A:2B:3C:4D:5E".
 // Absent for an absent text and while the network is not ready (networkIsReady()); the tool is not

@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <functional>
 #include <new>
 #include <string_view>
@@ -92,16 +93,22 @@ bool readInto(Bytes& bytes, int descriptor) {
 
 // The first bytes that the child writes, as many as fit into a pipe. The rest is read and
 // discarded: a child that waits for room in the pipe would never exit.
-Bytes shortOutputOf(ChildProcess& child, int descriptor) {
+Bytes shortOutputOf(ChildProcess& child, int descriptor, std::optional<milliseconds> limit) {
+    using Clock = std::chrono::steady_clock;
+    const auto begin = Clock::now();
     Bytes kept;
     const auto keepMore = [&] {
         const bool isOpen = readInto(kept, descriptor);
         kept.resize(std::min(kept.size(), TaskSupport::longestShortOutput));
         return isOpen;
     };
+    int open = descriptor;
     while (!child.exitStatus().has_value()) {
-        if (isReadable(descriptor, timeBetweenLooks) && !keepMore()) {
-            child.waitUntilExit();
+        if (limit.has_value() && Clock::now() - begin >= *limit) {
+            ::kill(child.processIdentifier(), SIGKILL);
+        }
+        if (isReadable(open, timeBetweenLooks) && !keepMore()) {
+            open = none; // the tool runs on
         }
     }
     while (kept.size() < TaskSupport::longestShortOutput &&
@@ -187,7 +194,8 @@ bool hasMoreSoon(int descriptor) {
 
 std::int32_t TaskSupport::doShortTaskArgumentsInputShortOutput(
     const std::string& path, const std::vector<std::string>& arguments,
-    const std::optional<std::string>& input, std::optional<std::string>* shortOutput) {
+    const std::optional<std::string>& input, std::optional<std::string>* shortOutput,
+    std::optional<milliseconds> limit) {
     Pipe output;
     auto standardInput = inputEnd(input);
     ChildProcess child(path, arguments,
@@ -196,7 +204,7 @@ std::int32_t TaskSupport::doShortTaskArgumentsInputShortOutput(
                         .standardError = {}});
     standardInput.reset();
     output.writingEnd.close();
-    const Bytes kept = shortOutputOf(child, output.readingEnd.number());
+    const Bytes kept = shortOutputOf(child, output.readingEnd.number(), limit);
     if (!kept.empty() && shortOutput != nullptr) {
         *shortOutput = textFromUTF8(kept);
     }

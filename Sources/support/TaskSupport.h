@@ -1,8 +1,8 @@
 // Runs another program for its exit status and its output.
 //
 // Every operation blocks its thread until the tool has exited, and leaves neither a child nor a
-// descriptor behind. A tool that never exits blocks for ever, except in the one operation with a
-// limit. A stream for which the tool has no pipe is shared with this process.
+// descriptor behind. A tool that never exits blocks for ever, except where there is a limit. A
+// stream for which the tool has no pipe is shared with this process.
 //
 // `path` is the tool's full path. `input`, when it is given, is all that the tool can read. It
 // waits in a pipe when the tool is launched, so it must fit into the pipe: 65,536 bytes, unless the
@@ -44,10 +44,12 @@ public:
     // not change when the tool has written nothing.
     //
     // Returns when the tool itself has exited. It does not wait for programs that the tool leaves
-    // running, or for their output.
+    // running, or for their output. With a limit, a tool that runs for longer is ended at once
+    // (SIGKILL), which the status then tells.
     static std::int32_t doShortTaskArgumentsInputShortOutput(
         const std::string& path, const std::vector<std::string>& arguments,
-        const std::optional<std::string>& input, std::optional<std::string>* shortOutput);
+        const std::optional<std::string>& input, std::optional<std::string>* shortOutput,
+        std::optional<std::chrono::milliseconds> limit = {});
 
     // Runs the loop while the tool runs. `output`, when it is given, is a descriptor that receives
     // the tool's standard output and standard error; it stays the caller's.

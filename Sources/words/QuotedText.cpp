@@ -10,8 +10,6 @@ namespace kx {
 
 namespace {
 
-constexpr std::size_t mostShownCharacters = 32;
-
 bool isContinuationByte(char byte) {
     return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
@@ -38,11 +36,11 @@ std::size_t lengthOfCharacter(std::string_view text) {
 
 } // namespace
 
-std::string safeForSentence(std::string_view text) {
+std::string safeForSentence(std::string_view text, std::size_t mostCharacters) {
     const bool isText = isValidUTF8(bytesOfText(text)); // if not, each byte is a character
     std::string shown;
     for (std::size_t count = 0; !text.empty(); ++count) {
-        if (count == mostShownCharacters) {
+        if (count == mostCharacters) {
             return shown + "…";
         }
         const auto character = text.substr(0, isText ? lengthOfCharacter(text) : 1);

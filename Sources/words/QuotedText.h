@@ -4,13 +4,19 @@
 
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace kx {
 
-// The text on one line, in the order of its characters, and cut behind the first 32 of them.
+// The numbers of characters that are shown of a value, and of a whole sentence of another program.
+inline constexpr std::size_t mostCharactersOfValue = 32;
+inline constexpr std::size_t mostCharactersOfSentence = 200;
+
+// The text on one line, in the order of its characters, and cut behind the first of them.
 // Characters that would change the line or their order are shown as U+FFFD.
-std::string safeForSentence(std::string_view text);
+std::string safeForSentence(std::string_view text,
+                            std::size_t mostCharacters = mostCharactersOfValue);
 
 } // namespace kx

@@ -31,6 +31,17 @@ protected:
         runLoop.setReadable(systemCalls.lastDescriptor(), true);
     }
 
+    // The authority is still at work for the controller when the application ends.
+    void endWhileThePersonIsAsked() {
+        authority.setMeanwhile([&] {
+            controller.applicationWillTerminate();
+            EXPECT_EQ(authority.referencesAlive(), 1);
+        });
+        changeAddress("10.0.0.7");
+        EXPECT_EQ(newlySent(), Lines{});
+        EXPECT_EQ(authority.referencesAlive(), 0);
+    }
+
     Lines newLog() const { return logSince(logBefore); }
 
     Lines newlySent() const {
@@ -285,6 +296,58 @@ TEST_F(ControllerAddressChange, TheEndOfTheApplicationWhileThePersonIsToldIsSafe
     changeAddress("10.0.0.7");
     EXPECT_EQ(newlySent(), Lines{});
     EXPECT_EQ(controller.udpListener(), nullptr);
+}
+
+TEST_F(ControllerAddressChange, ThePersonWhoIsAskedIsShownWhatTheToolGets) {
+    changeAddress("10.0.0.7");
+    ASSERT_EQ(authority.requests().size(), 1U);
+    EXPECT_EQ(authority.requests()[0].right.arguments,
+              (Arguments{"-s", "10.0.0.7", "00:1A:2B:3C:4D:5E"}));
+    EXPECT_EQ(authority.requests()[0].right.arguments, authority.runs().at(0).arguments);
+}
+
+TEST_F(ControllerAddressChange, TheSentenceOfTheToolStandsInTheQuietLineAndNotInTheLog) {
+    changeAddress("192.0.2.010");
+    const auto log = controller.eventLog();
+    authority.endTools(65, "An address is four decimal numbers without leading zeros, as in "
+                           "192.0.2.7.");
+    EXPECT_TRUE(quietLine().ends_with("No ARP entry was made for 192.0.2.010: An address is four "
+                                      "decimal numbers without leading zeros, as in 192.0.2.7."))
+        << quietLine();
+    EXPECT_EQ(controller.eventLog(), log);
+}
+
+TEST_F(ControllerAddressChange, ARunThatTheAuthorityObjectsToIsToldBeforehandAndAfterwards) {
+    authority.objectWith([](const ScriptedAuthorizationService::Run& run) {
+        EXPECT_EQ(run.toolPath, "/usr/sbin/arp");
+        EXPECT_EQ(run.arguments.at(0), "-s");
+        EXPECT_EQ(run.arguments.at(2), "00:1A:2B:3C:4D:5E");
+        return run.arguments.at(1) == "-d" ? std::optional<std::string>("Not this text.")
+                                           : std::nullopt;
+    });
+    fillEditRow("internal IP address", "10.0.0.7");
+    EXPECT_TRUE(quietLine().starts_with("Apply enters 10.0.0.7 at 00:1A:2B:3C:4D:5E"));
+    controller.editTextDidChange("-d");
+    EXPECT_EQ(quietLine(),
+              "Apply asks for administrator rights, but no ARP entry will be made for "
+              "“-d”: Not this text. Apply sends ^^IdI00000000 to 0.0.0.0, because “-d” "
+              "is not an IPv4 address.");
+    authority.startToolsWith(errAuthorizationDenied);
+    changeAddress("-d");
+    EXPECT_TRUE(quietLine().ends_with("No ARP entry was made for -d: Not this text."))
+        << quietLine();
+    EXPECT_EQ(newLog().at(0), "Stuff ARP cache result: -60005");
+}
+
+TEST_F(ControllerAddressChange, TheEndOfTheApplicationWhileThePersonIsAskedIsSafe) {
+    authority.answerDialogsWith(errAuthorizationCanceled);
+    endWhileThePersonIsAsked();
+    EXPECT_TRUE(window.alert.shown().empty());
+}
+
+TEST_F(ControllerAddressChange, RightsThatComeWithTheEndOfTheApplicationAreNotUsed) {
+    endWhileThePersonIsAsked();
+    EXPECT_TRUE(authority.runs().empty());
 }
 
 } // namespace kx

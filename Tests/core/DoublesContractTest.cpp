@@ -11,8 +11,10 @@
 #include "contracts/RunLoopHoldsContract.h"
 #include "contracts/RunLoopWatchesContract.h"
 #include "contracts/SystemLogContract.h"
+#include "contracts/WaitingContract.h"
 #include "contracts/WallClockContract.h"
 #include "doubles/FixedWallClock.h"
+#include "doubles/ImpatientWaiting.h"
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
@@ -50,6 +52,18 @@ private:
     ManualRunLoop _loop;
     int _nextDescriptor = 1000;
 };
+
+class ImpatientWaitingTrait {
+public:
+    Waiting& waiting() { return _waiting; }
+    void giveUpInTheNextWait() { _waiting.patience = std::chrono::milliseconds(50); }
+    void run(const std::function<void()>& test) { test(); }
+
+private:
+    ImpatientWaiting _waiting;
+};
+
+INSTANTIATE_TYPED_TEST_SUITE_P(Impatient, WaitingContract, ImpatientWaitingTrait);
 
 class ScriptedAuthorizationTrait {
 public:

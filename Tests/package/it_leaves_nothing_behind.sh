@@ -51,7 +51,7 @@ snapshot() {
 
 check_installed_files() {
     local file
-    for file in usr/bin/kxconfig usr/bin/kxunits usr/sbin/arp \
+    for file in usr/bin/kxconfig usr/bin/kxunits usr/libexec/kxconfig/kxarp usr/sbin/arp \
         usr/share/applications/org.kxconfig.KXConfig.desktop \
         usr/share/metainfo/org.kxconfig.KXConfig.metainfo.xml \
         usr/share/icons/hicolor/scalable/apps/org.kxconfig.KXConfig.svg \

@@ -21,7 +21,9 @@ KNOWN_LOOKUPS = {
     ("LabelledNames.cpp", "label.key)"),
     ("LocalizedText.cpp", "key)"),
     ("EditForecast.cpp", "descriptionOf(edit.parameter).phrase,"),
+    ("EditForecast.cpp", "target.objectionToARPEntry)"),
     ("EditOutcomeText.cpp", "nameOfUnitParameter("),
+    ("EditOutcomeText.cpp", "said)"),
 }
 
 

@@ -40,6 +40,13 @@ TEST_F(AuthorizationTest, TheRightIsTheAdministratorsForTheTool) {
     EXPECT_EQ(request.flags, 3U);
 }
 
+TEST_F(AuthorizationTest, TheAuthorityHearsTheArgumentsThatArePlanned) {
+    EXPECT_TRUE(authorization.authenticate({"-s", "10.0.0.5"}));
+    EXPECT_EQ(service.requests().at(0).right.arguments, (Words{"-s", "10.0.0.5"}));
+    EXPECT_TRUE(authorization.isAuthenticated());
+    EXPECT_EQ(service.requests().at(1).right.arguments, Words{});
+}
+
 TEST_F(AuthorizationTest, ThePathIsAskedForAsItsBytesAre) {
     const std::string path = "/opt/\xC3\xA9t\xC3\xA9/tool";
     EXPECT_TRUE(Authorization(service, path).authenticate());
@@ -196,7 +203,8 @@ TEST_F(AuthorizationTest, AToolThatCannotBeStartedHasTheAuthoritysStatus) {
 TEST_F(AuthorizationTest, TheEndOfTheToolIsToldAfterItsStart) {
     std::vector<int> ends;
     ASSERT_TRUE(authorization.authenticate());
-    EXPECT_EQ(authorization.runToolWithArgs({"-s"}, [&](int status) { ends.push_back(status); }),
+    EXPECT_EQ(authorization.runToolWithArgs(
+                  {"-s"}, [&](const ToolEnd& end) { ends.push_back(end.status); }),
               0);
     EXPECT_TRUE(ends.empty());
     service.endTools(255);
@@ -207,7 +215,7 @@ TEST_F(AuthorizationTest, TheEndOfTheToolIsToldAfterItsStart) {
 TEST_F(AuthorizationTest, NothingIsToldAfterTheRightWasGivenBack) {
     std::vector<int> ends;
     ASSERT_TRUE(authorization.authenticate());
-    authorization.runToolWithArgs({"-s"}, [&](int status) { ends.push_back(status); });
+    authorization.runToolWithArgs({"-s"}, [&](const ToolEnd& end) { ends.push_back(end.status); });
     authorization.deauthenticate();
     service.endTools(0);
     EXPECT_TRUE(ends.empty());

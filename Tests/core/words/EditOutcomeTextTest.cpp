@@ -2,6 +2,8 @@
 
 #include "core/conversation/EditOutcomes.h"
 #include "doubles/MarkedLocalizedText.h"
+#include "support/AuthorizationService.h"
+#include "words/QuotedText.h"
 
 #include <gtest/gtest.h>
 
@@ -115,6 +117,22 @@ TEST(EditOutcomeText, SaysWhyThereIsNoARPEntry) {
     EXPECT_EQ(text(ARPEntryState::ended, 255), none + "the ARP tool ended with status 255.");
     EXPECT_EQ(textWithARPEntry("10.0.0.7ü", {ARPEntryState::notASCII}),
               sent + " No ARP entry was made for 10.0.0.7ü: it can hold ASCII characters only.");
+}
+
+TEST(EditOutcomeText, SaysInWordsOfTheToolWhyThereIsNoARPEntry) {
+    const auto text = [](const std::string& said) {
+        return textWithARPEntry("10.0.0.7", arpEntryForEndOfTool(255, said));
+    };
+    const std::string none =
+        "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7: ";
+    EXPECT_EQ(text("SIOCSARP: Network is unreachable"), none + "SIOCSARP: Network is unreachable.");
+    EXPECT_EQ(text("The ARP tool cannot be run."), none + "The ARP tool cannot be run.");
+    EXPECT_EQ(text("\x1B[31mred"), none + safeForSentence("\x1B[31mred") + ".");
+    EXPECT_EQ(text(std::string(300, 'x')), none + std::string(200, 'x') + "….");
+    EXPECT_EQ(textWithARPEntry("10.0.0.7", arpEntryForEndOfTool(0, "a warning")),
+              "Sent ^^IdI0A000007. The unit has not answered yet.");
+    EXPECT_EQ(textWithARPEntry("10.0.0.7", arpEntryForResult(errAuthorizationDenied, "Not this.")),
+              none + "Not this.");
 }
 
 TEST(EditOutcomeText, WhyThereIsNoARPEntryStandsBehindWhatTheUnitShows) {

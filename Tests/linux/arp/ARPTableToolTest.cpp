@@ -9,8 +9,10 @@
 #include "linux/ReplacedFile.h"
 
 #include <gtest/gtest.h>
+#include <sys/wait.h>
 
 #include <array>
+#include <chrono>
 
 namespace kx {
 
@@ -107,6 +109,19 @@ TEST_F(ARPTableTool, AToolThatDoesNotSpeakUTF8KnowsNothing) {
     const ReplacedFile tool(toolPath, recording.program("printf '\\377 at 0:5:2:a:b:c'"),
                             executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
+}
+
+TEST_F(ARPTableTool, AToolThatHangsIsEndedThoughItRefusesToEnd) {
+    const ReplacedFile tool(toolPath,
+                            noting.program(saying("? at 0:5:2:a:b:c") +
+                                           "; exec >&-; trap '' TERM; while :; do sleep 1; done"),
+                            executable);
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
+    const auto lasted = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(lasted, longestLookup);
+    EXPECT_LT(lasted, longestLookup + std::chrono::seconds(5));
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left";
 }
 
 TEST_F(ARPTableTool, AToolThatCannotBeRunKnowsNothing) {

@@ -94,6 +94,10 @@ void Steps::take(const QString& verb, const QString& argument) {
         _driver.printLog();
     } else if (verb == "stay") {
         _driver.leaveOpen();
+    } else if (verb == "cancel") {
+        cancelNextPanel();
+    } else if (verb == "keep") {
+        _alertWatch.stop();
     } else if (verb == "read") {
         printFile(qEnvironmentVariable(argument.toLatin1().constData()));
     } else if (verb == "run") {
@@ -275,6 +279,19 @@ void Steps::allowDescriptors(const QString& number) const {
     if (::setrlimit(RLIMIT_NOFILE, &limit) != 0) {
         throw VisitFailure{"the system does not allow descriptors: " + number};
     }
+}
+
+void Steps::cancelNextPanel() {
+    auto* const look = new QTimer(&_alertWatch);
+    QObject::connect(look, &QTimer::timeout, look, [look] {
+        QWidget* const panel = QApplication::activeModalWidget();
+        if (panel != nullptr && panel->objectName() == "waitingPanel") {
+            print("Waiting: " + panel->findChild<QLabel*>()->text());
+            look->deleteLater();
+            QTest::keyClick(panel, Qt::Key_Escape);
+        }
+    });
+    look->start(alertWatchInMilliseconds);
 }
 
 void Steps::expectText(const QString& where, const QString& text,

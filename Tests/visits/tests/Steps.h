@@ -27,6 +27,9 @@
 //   pause MILLISECONDS       keeps the program from handling anything for this long
 //   work MILLISECONDS        does the same by keeping the program busy
 //   print                    prints the shown parameters and the event log
+//   cancel                   presses Escape in the panel that comes up the next time while
+//                            something is waited for, and prints "Waiting: SENTENCE"
+//   keep alerts              leaves message boxes open from now on
 //   stay                     leaves the window open at the end; nothing watches it any more
 //   read VARIABLE            prints the lines of the file that this environment variable names
 //   run COMMAND              runs a command of the shell, which must succeed; the program does
@@ -80,6 +83,7 @@ private:
     void run(const QString& command) const;
     void takeAtLast(const QString& verb, const QString& argument);
     void allowDescriptors(const QString& number) const;
+    void cancelNextPanel();
     void expectText(const QString& where, const QString& text,
                     const std::function<QString()>& shown);
 
