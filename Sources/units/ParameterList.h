@@ -22,7 +22,9 @@ inline constexpr std::string_view tagOfUninterpretedItem = "<O>";
 
 struct DecodedUnitParameters {
     UnitRecord record;
-    std::string displayText; // one line for each item, "\n\tNAME: TEXT", in the order of the list
+    // One line for each item, "\n\tNAME: TEXT", in the order of the list. Line feeds of a unit ID
+    // are quoted (support/QuotedLines.h).
+    std::string displayText;
 };
 
 // Decodes a list. Decoding ends quietly at a tag that is not in the table or that is cut short, and
