@@ -189,7 +189,8 @@ public:
     Window* window() const { return _outlets.window; }
     void setWindow(Window* window) { _outlets.window = window; }
 
-    std::string eventLog() const { return logText.text(); } // a copy
+    std::string eventLog() const { return logText.text(); }                       // a copy
+    std::string shownLog() const { return logText.shownText(0, logText.size()); } // as it is shown
     const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _session.listener(); } // null when there is none

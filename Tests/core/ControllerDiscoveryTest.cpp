@@ -312,4 +312,37 @@ TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {
     EXPECT_EQ(editRows(), Lines{" = "});
 }
 
+TEST_F(ControllerDiscovery, AMillionInventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheList) {
+    launch();
+    discoverTwo();
+    const std::string selected = selectedUnit();
+    SampleUnit invented;
+    for (std::uint32_t number = 0; number < UnitRegistry::defaultLimit + 5; ++number) {
+        invented.serial = {0xFF,
+                           0,
+                           static_cast<std::uint8_t>(number >> 24U),
+                           static_cast<std::uint8_t>(number >> 16U),
+                           static_cast<std::uint8_t>(number >> 8U),
+                           static_cast<std::uint8_t>(number)};
+        receive(invented.reply());
+    }
+    constexpr std::string_view sentence =
+        "More than 1,048,576 units have answered, so the list leaves out those that were not heard "
+        "for longest.";
+    EXPECT_EQ(dropLine(), sentence);
+    EXPECT_EQ(controller.devices().size(), UnitRegistry::defaultLimit);
+    EXPECT_TRUE(controller.devices().contains(selected));
+    const std::string other = "01 02 03 04 05 07";
+    ASSERT_NE(other, selected);
+    EXPECT_FALSE(controller.devices().contains(other)) << "it was not heard for longest";
+    controller.discoverButton();
+    EXPECT_EQ(dropLine(), "");
+    receive(secondSampleUnit().reply());
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(selectedUnit(), selected);
+    selectUnit(other);
+    EXPECT_EQ(selectedUnit(), other);
+    EXPECT_EQ(dropLine(), sentence);
+}
+
 } // namespace kx
