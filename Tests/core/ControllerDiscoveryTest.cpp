@@ -316,6 +316,7 @@ TEST_F(ControllerDiscovery, AMillionInventedUnitsLeaveTheSelectedOneAndTheRealOn
     launch();
     discoverTwo();
     const std::string selected = selectedUnit();
+    const Bytes sender = dataForAddress(ipForString("192.168.1.77"), 3520);
     SampleUnit invented;
     for (std::uint32_t number = 0; number < UnitRegistry::defaultLimit + 5; ++number) {
         invented.serial = {0xFF,
@@ -324,7 +325,7 @@ TEST_F(ControllerDiscovery, AMillionInventedUnitsLeaveTheSelectedOneAndTheRealOn
                            static_cast<std::uint8_t>(number >> 16U),
                            static_cast<std::uint8_t>(number >> 8U),
                            static_cast<std::uint8_t>(number)};
-        receive(invented.reply());
+        controller.echoDidReceiveDataFromAddress(listener(), invented.reply(), sender);
     }
     constexpr std::string_view sentence =
         "More than 1,048,576 units have answered, so the list leaves out those that were not heard "
