@@ -72,6 +72,9 @@ public:
         // Returns whether the help has the page, so that a message can say why it did not open.
         // When this is empty, every page counts as present.
         std::function<bool(std::string_view page)> hasHelpPage = {};
+
+        // The most units that are kept. The sentence about them names the default.
+        std::size_t mostUnits = UnitRegistry::defaultLimit;
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);

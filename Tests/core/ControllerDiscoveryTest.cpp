@@ -312,38 +312,47 @@ TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {
     EXPECT_EQ(editRows(), Lines{" = "});
 }
 
-TEST_F(ControllerDiscovery, AMillionInventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheList) {
-    launch();
-    discoverTwo();
-    const std::string selected = selectedUnit();
-    const Bytes sender = dataForAddress(ipForString("192.168.1.77"), 3520);
+TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheList) {
+    KXConfigAppDelegate small(window.outlets(), {.runLoop = runLoop,
+                                                 .hostResolver = hostResolver,
+                                                 .systemCalls = systemCalls,
+                                                 .wallClock = wallClock,
+                                                 .application = application,
+                                                 .networkInterfaces = nullptr,
+                                                 .mostUnits = 50});
+    small.applicationDidFinishLaunching();
+    const auto discoverRealUnits = [&] {
+        small.discoverButton();
+        receive(SampleUnit().reply());
+        receive(secondSampleUnit().reply());
+        runLoop.advanceBy(2000ms);
+    };
+    discoverRealUnits();
+    const std::string selected = "01 02 03 04 05 06";
+    const std::string other = "01 02 03 04 05 07";
+    ASSERT_EQ(small.selectedUnit(), selected);
+    EXPECT_EQ(dropLine(), "");
     SampleUnit invented;
-    for (std::uint32_t number = 0; number < UnitRegistry::defaultLimit + 5; ++number) {
-        invented.serial = {0xFF,
-                           0,
-                           static_cast<std::uint8_t>(number >> 24U),
-                           static_cast<std::uint8_t>(number >> 16U),
-                           static_cast<std::uint8_t>(number >> 8U),
-                           static_cast<std::uint8_t>(number)};
-        controller.echoDidReceiveDataFromAddress(listener(), invented.reply(), sender);
+    for (std::uint8_t number = 0; number < 60; ++number) {
+        invented.serial = {0xFF, 0, 0, 0, 0, number};
+        receive(invented.reply());
     }
     constexpr std::string_view sentence =
         "More than 1,048,576 units have answered, so the list leaves out those that were not heard "
         "for longest.";
     EXPECT_EQ(dropLine(), sentence);
-    EXPECT_EQ(controller.devices().size(), UnitRegistry::defaultLimit);
-    EXPECT_TRUE(controller.devices().contains(selected));
-    const std::string other = "01 02 03 04 05 07";
-    ASSERT_NE(other, selected);
-    EXPECT_FALSE(controller.devices().contains(other)) << "it was not heard for longest";
-    controller.discoverButton();
-    EXPECT_EQ(dropLine(), "");
-    receive(secondSampleUnit().reply());
-    runLoop.advanceBy(2000ms);
-    EXPECT_EQ(selectedUnit(), selected);
-    selectUnit(other);
-    EXPECT_EQ(selectedUnit(), other);
+    EXPECT_EQ(small.devices().size(), 50U);
+    EXPECT_TRUE(small.devices().contains(selected));
+    EXPECT_FALSE(small.devices().contains(other)) << "it was not heard for longest";
+
+    small.discoverButton();
+    EXPECT_EQ(dropLine(), "") << "the line is about the latest Discover";
+    discoverRealUnits();
     EXPECT_EQ(dropLine(), sentence);
+    EXPECT_EQ(small.selectedUnit(), selected);
+    window.unitSelectPopUp.selectItemWithTitle(other);
+    small.unitSelectPopUp();
+    EXPECT_EQ(small.selectedUnit(), other);
 }
 
 } // namespace kx

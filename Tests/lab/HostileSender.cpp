@@ -4,8 +4,8 @@
 //   kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED [KIND]
 //
 // It sends to UDP port PORT of ADDRESS for SECONDS seconds, as fast as the system takes the
-// datagrams. Without a KIND it sends all of them mixed: random bytes; whole parameter replies with a
-// random serial number; whole parameter replies, and acknowledgements, in the name of SERIAL (12
+// datagrams. Without a KIND it sends all of them mixed: random bytes; whole parameter replies with
+// a random serial number; whole parameter replies, and acknowledgements, in the name of SERIAL (12
 // hexadecimal digits); and a few long texts. With a KIND it sends only
 //
 //   cut        replies that end in the middle of a field
@@ -84,6 +84,8 @@ public:
         constexpr std::string_view forged =
             "\nUDP server did send data.\x1B[2J\x1B]0;title\a\xE2\x80\xAE";
         beHeader(serial);
+        constexpr std::size_t unitIDOffset = 5;
+        std::fill_n(_bytes.begin() + unitIDOffset, 6, std::uint8_t{0}); // a unit ID with a text
         while (_length + forged.size() <= longestDatagram) {
             add(forged);
         }
