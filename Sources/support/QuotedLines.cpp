@@ -1,17 +1,26 @@
 #include "support/QuotedLines.h"
 
-#include <algorithm>
-
 namespace kx {
+
+namespace {
+
+// Nearly all texts have none of them, so the search is what counts.
+void replaceEach(std::string& text, char byte, char replacement) {
+    for (auto at = text.find(byte); at != std::string::npos; at = text.find(byte, at + 1)) {
+        text[at] = replacement;
+    }
+}
+
+} // namespace
 
 std::string quotedLines(std::string_view text) {
     std::string quoted(text);
-    std::ranges::replace(quoted, '\n', quotedLineFeed);
+    replaceEach(quoted, '\n', quotedLineFeed);
     return quoted;
 }
 
 std::string unquotedLines(std::string text) {
-    std::ranges::replace(text, quotedLineFeed, '\n');
+    replaceEach(text, quotedLineFeed, '\n');
     return text;
 }
 

@@ -313,6 +313,7 @@ TEST_F(ControllerDiscovery, RowThatIsGoneEmptiesTheEditRow) {
 }
 
 TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheList) {
+    controller.applicationWillTerminate(); // it has the port
     KXConfigAppDelegate small(window.outlets(), {.runLoop = runLoop,
                                                  .hostResolver = hostResolver,
                                                  .systemCalls = systemCalls,
