@@ -56,11 +56,9 @@ private:
 TEST(TimeZone, AClockFollowsTheHostIntoAnotherTimeZone) {
     const WithoutTZ hostsOwn;
     const SystemWallClock clock;
-    {
-        const ReplacedFile zone("/etc/localtime", zoneFile(2 * 60 * 60), 0644);
-        EXPECT_EQ(clock.localTime().tm_gmtoff, 2 * 60 * 60);
-    }
-    const ReplacedFile zone("/etc/localtime", zoneFile(-7 * 60 * 60), 0644);
+    const ReplacedFile before("/etc/localtime", zoneFile(2 * 60 * 60), 0644);
+    EXPECT_EQ(clock.localTime().tm_gmtoff, 2 * 60 * 60);
+    const ReplacedFile after("/etc/localtime", zoneFile(-7 * 60 * 60), 0644);
     EXPECT_EQ(clock.localTime().tm_gmtoff, -7 * 60 * 60);
 }
 

@@ -275,7 +275,7 @@ TEST_F(LogTextViewTest, APersonsPlaceAndSelectionMoveWithTheTextUntilItGoes) {
     };
     ASSERT_EQ(firstShown(), "line 8500");
     bool hasMoved = false;
-    for (int line = 0; line < 10'000; ++line) {
+    for (int line = 0; line < 13'000; ++line) {
         view.append("\nmore " + std::to_string(line));
         hasMoved = hasMoved || view.text().row(0).text == goneNotice;
     }
