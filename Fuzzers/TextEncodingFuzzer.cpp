@@ -1,8 +1,10 @@
 // Bytes as text, text as numbers, and messages with arguments.
 
 #include "FuzzInput.h"
+#include "support/SystemLog.h"
 #include "support/TextEncoding.h"
 #include "support/TextFormat.h"
+#include "support/VisibleText.h"
 
 #include <string>
 
@@ -26,6 +28,18 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     requireInvariant(!ascii || decoded, "ASCII is UTF-8");
     requireInvariant(!ascii || lengthInCharacters(text) == size, "an ASCII byte is one character");
     requireInvariant(lengthInCharacters(text) <= size, "no character is shorter than a byte");
+
+    const std::string visible = visibleText(text);
+    requireInvariant(isValidUTF8(bytesOfText(visible)), "a visible text is a text");
+    requireInvariant(lengthInCharacters(visible) == lengthInCharacters(text),
+                     "a visible text has as many units");
+    for (const char32_t character : charactersOfText(visible)) {
+        requireInvariant(!actsOnTheScreen(character), "nothing in a visible text acts");
+    }
+    for (const char32_t character : charactersOfText(escapedLine(text))) {
+        requireInvariant(character == U'\t' || !actsOnTheScreen(character),
+                         "nothing but a tab in a line of the system log acts");
+    }
 
     const std::int32_t number = integerValue(text);
     requireInvariant(integerValue(std::to_string(number)) == number,

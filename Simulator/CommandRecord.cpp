@@ -1,10 +1,13 @@
 #include "Simulator/CommandRecord.h"
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
 #include <system_error>
+#include <utility>
 
 namespace kx::simulator {
 
@@ -34,10 +37,47 @@ std::string dotted(IPv4 address) {
     return text;
 }
 
+// Whether everybody may make files in the folder. A folder that cannot be asked counts as such.
+bool isOpenToEverybody(int folder) {
+    struct stat status {};
+    return ::fstat(folder, &status) != 0 || (status.st_mode & S_IWOTH) != 0;
+}
+
+// Whether nobody else can have made the file or given it another name.
+bool isOwnFile(int descriptor) {
+    struct stat status {};
+    return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
+           status.st_uid == ::geteuid() && status.st_nlink == 1;
+}
+
+// -1, with errno set, when there is no such file to write to. The program often runs as root. In a
+// folder where everybody may make files a stranger can lay a link under the record's name, so that
+// root would write into a file of the stranger's choice. There neither a link nor a file of
+// somebody else is taken. The folder is opened once, so that it cannot be exchanged meanwhile.
+int openForAppending(const std::filesystem::path& path) {
+    const auto folderPath = path.has_parent_path() ? path.parent_path() : ".";
+    const int folder = ::open(folderPath.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0) {
+        return -1;
+    }
+    const bool mayBeForeign = isOpenToEverybody(folder);
+    const int flags =
+        O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | (mayBeForeign ? O_NOFOLLOW | O_NONBLOCK : 0);
+    int descriptor = ::openat(folder, path.filename().c_str(), flags, 0644);
+    int error = errno;
+    if (descriptor >= 0 && mayBeForeign && !isOwnFile(descriptor)) {
+        ::close(std::exchange(descriptor, -1));
+        error = EPERM;
+    }
+    ::close(folder);
+    errno = error;
+    return descriptor;
+}
+
 } // namespace
 
 CommandRecord::CommandRecord(const std::string& path)
-    : _descriptor(::open(path.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0644)) {
+    : _descriptor(openForAppending(path)) {
     if (_descriptor < 0) {
         throw std::system_error(errno, std::generic_category(), path);
     }

@@ -26,7 +26,9 @@ namespace kx::simulator {
 
 class CommandRecord {
 public:
-    // Appends to the file at `path`, which is made when it is missing. Throws std::system_error.
+    // Appends to the file at `path`, which is made when it is missing. In a folder where everybody
+    // may make files, such as /tmp, the path must not name a link, nor a file that another user
+    // owns or that has a second name. Throws std::system_error.
     explicit CommandRecord(const std::string& path);
 
     // Appends to standard output.

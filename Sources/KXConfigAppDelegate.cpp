@@ -11,6 +11,7 @@ namespace kx {
 KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services)
     : _outlets(outlets)
     , _services(services)
+    , _devicesD(services.mostUnits)
     , _session({.runLoop = services.runLoop,
                 .hostResolver = services.hostResolver,
                 .systemCalls = services.systemCalls,
@@ -23,6 +24,7 @@ KXConfigAppDelegate::~KXConfigAppDelegate() = default;
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
     _chosenInterface.reset();
+    limitLog();
     logText.clear();
     _outlets.eventLogDrawer->close();
 

@@ -70,6 +70,9 @@ public:
         // Returns whether the help has the page, so that a message can say why it did not open.
         // When this is empty, every page counts as present.
         std::function<bool(std::string_view page)> hasHelpPage = {};
+
+        // The most units that are kept. The sentence about them names the default.
+        std::size_t mostUnits = UnitRegistry::defaultLimit;
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -176,7 +179,12 @@ public:
 
     // --- Event log (KXConfigAppDelegate_EventLog.cpp) ---
 
-    // Appends one entry. An entry begins with its own line break.
+    // The most bytes of entries that the log keeps. Beyond it the oldest go, some 64 KiB at a time,
+    // and a line at the beginning of the log says so.
+    static constexpr std::size_t mostLogBytes = std::size_t{256} * 1024 * 1024;
+
+    // Appends one entry. An entry begins with its own line break; line feeds of foreign texts in it
+    // are quoted (support/QuotedLines.h).
     void appendString(std::string_view text);
 
     // --- Values of the fields, for tests and fronts ---
@@ -184,7 +192,8 @@ public:
     Window* window() const { return _outlets.window; }
     void setWindow(Window* window) { _outlets.window = window; }
 
-    std::string eventLog() const { return logText.text(); } // a copy
+    std::string eventLog() const { return logText.text(); }                       // a copy
+    std::string shownLog() const { return logText.shownText(0, logText.size()); } // as it is shown
     const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null when there is none
@@ -237,6 +246,9 @@ private:
     std::string objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
                                     const std::optional<std::string>& ip) const;
 
+    void limitLog();
+    void showMissing();
+
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -268,6 +280,9 @@ private:
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;
+    std::uint32_t _droppedDatagrams = 0;          // since the listener started
+    std::uint64_t _forgottenUnitsAtDiscovery = 0; // forgotten before the latest Discover
+    bool _saysForgottenUnits = false;             // the line under Discover does
 };
 
 } // namespace kx

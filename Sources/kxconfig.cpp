@@ -8,6 +8,7 @@
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/posix/MemoryExhaustion.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/ThreadHostResolver.h"
@@ -21,6 +22,9 @@
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
 #include "platform/qtcore/TerminationSignals.h"
+#include "support/RateLimitedSystemLog.h"
+
+#include <unistd.h>
 
 #include <QApplication>
 #include <csignal>
@@ -44,12 +48,16 @@ int main(int argc, char* argv[]) {
     kx::installLocalizedText(&localizedText);
 
     kx::QtRunLoop runLoop;
+    kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
+    kx::installSystemLog(&limitedLog);
+    kx::installMemoryExhaustionHandler();
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
-    kx::QtHelpServices helpServices(kx::installedResourceFolder());
+    kx::QtHelpServices helpServices(kx::installedResourceFolder(),
+                                    kx::QtHelpServices::browserForUser(::geteuid()));
 
     kx::KernelLinks kernelLinks(runLoop);
     kx::LinuxKernelQuery kernelQuery(kernelLinks);

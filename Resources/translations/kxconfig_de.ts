@@ -237,6 +237,11 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Das Ereignisprotokoll behält 256 MiB. Ältere Einträge wurden entfernt.]</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>nicht verfügbar</translation>
@@ -935,6 +940,11 @@ Ergebnis des ARP-Cache-Eintrags: %d</translation>
 Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>
 Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Mehr als 1.048.576 Geräte haben geantwortet; in der Liste fehlen deshalb die, die am längsten nicht gehört wurden.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

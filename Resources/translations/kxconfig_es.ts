@@ -237,6 +237,11 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[El registro de eventos conserva 256 MiB. Se han eliminado las entradas más antiguas.]</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>no disponible</translation>
@@ -935,6 +940,11 @@ Resultado de la inscripción en la caché ARP: %d</translation>
 Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>
 No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Han respondido más de 1.048.576 unidades, por lo que en la lista faltan las que no se han oído desde hace más tiempo.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

@@ -237,6 +237,11 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Le journal des événements conserve 256 Mio. Les entrées plus anciennes ont été supprimées.]</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>non disponible</translation>
@@ -935,6 +940,11 @@ Résultat de l’inscription dans le cache ARP : %d</translation>
 Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>
 L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octets</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

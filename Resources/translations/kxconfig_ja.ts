@@ -237,6 +237,11 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[イベントログは 256 MiB まで保持します。古い項目は削除されました。]</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>利用不可</translation>
@@ -935,6 +940,11 @@ ARP キャッシュ登録の結果: %d</translation>
 Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>
 ユニット ID を 6 バイトの UTF-8 文字列に変換できませんでした</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>1,048,576 台を超えるユニットが応答したため、最も長く応答を確認していないユニットは一覧に表示されません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

@@ -121,14 +121,52 @@ local function hexText(bytes, separator)
     return text:sub(1, #text - #separator)
 end
 
--- A text without what a display could take for its own: control characters are written as escapes.
+-- Characters that act on a screen or on a terminal instead of being seen, from first to last: controls,
+-- separators of lines, marks of direction, and whatever takes no room. The application has the same list.
+local actingCharacters = {
+    { 0x0000, 0x001F }, { 0x007F, 0x009F }, { 0x00AD, 0x00AD }, { 0x034F, 0x034F },
+    { 0x061C, 0x061C }, { 0x115F, 0x1160 }, { 0x17B4, 0x17B5 }, { 0x180B, 0x180F },
+    { 0x200B, 0x200F }, { 0x2028, 0x202E }, { 0x2060, 0x206F }, { 0x3164, 0x3164 },
+    { 0xFE00, 0xFE0F }, { 0xFEFF, 0xFEFF }, { 0xFFA0, 0xFFA0 }, { 0xFFF0, 0xFFFC },
+    { 0x1BCA0, 0x1BCA3 }, { 0x1D173, 0x1D17A }, { 0xE0000, 0xE0FFF },
+}
+
+-- The code of one character in UTF-8.
+local function codeOf(character)
+    local first = character:byte()
+    local code = first < 0x80 and first or first < 0xE0 and first - 0xC0 or
+        first < 0xF0 and first - 0xE0 or first - 0xF0
+    for at = 2, #character do
+        code = code * 64 + character:byte(at) - 0x80
+    end
+    return code
+end
+
+local function acts(character)
+    local code = codeOf(character)
+    for _, range in ipairs(actingCharacters) do
+        if code <= range[2] then
+            return code >= range[1]
+        end
+    end
+    return false
+end
+
+local shortEscapes = { ["\r"] = "\\r", ["\n"] = "\\n", ["\0"] = "\\0" }
+
+local function escaped(character)
+    return shortEscapes[character] or (character:gsub(".", function(byte)
+        return string.format("\\x%02X", byte:byte())
+    end))
+end
+
+-- A text without what a display could take for its own: characters that act are written as escapes.
 local function visible(bytes)
     if not isUTF8(bytes) then
         return hexText(bytes, " ")
     end
-    return (bytes:gsub("%c", function(byte)
-        return byte == "\r" and "\\r" or byte == "\n" and "\\n" or byte == "\0" and "\\0" or
-            string.format("\\x%02X", byte:byte())
+    return (bytes:gsub("[\x00-\x7F\xC2-\xF4][\x80-\xBF]*", function(character)
+        return acts(character) and escaped(character) or character
     end))
 end
 

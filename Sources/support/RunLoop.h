@@ -44,7 +44,9 @@ public:
     // descriptor. Null when the descriptor is not open, or the system cannot watch it.
     virtual Handle watchForReading(int descriptor, std::function<void()> readable) = 0;
 
-    // Calls `call` once, not before `delay` has passed on the monotonic clock. Calls fall due in
+    // Calls `call` once, not before `delay` has passed on the monotonic clock. This clock never
+    // jumps, and stands still while the host is suspended: a delay is time in which the program
+    // could hear an answer. Calls fall due in
     // the order of their due times, and equal ones in the order in which they were asked for. A
     // delay of zero or less falls due in the next turn. A delay of more than longestDelay counts as
     // longestDelay. After the call the handle holds nothing; it may be kept or destroyed.

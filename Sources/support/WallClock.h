@@ -13,8 +13,8 @@ class WallClock {
 public:
     virtual ~WallClock() = default;
 
-    // The present time, broken down in the local time zone (see localtime_r(3)): tm_mon counts from
-    // 0. Never fails.
+    // The present time, broken down in the present local time zone (see localtime_r(3)): tm_mon
+    // counts from 0. Never fails.
     virtual std::tm localTime() const = 0;
 };
 

@@ -1,9 +1,10 @@
 // The entries of the event log: one for each thing that is sent, received or done, in words.
 //
 // Each begins with its own line break. Some are followed by a second text, which is appended by
-// itself: the first part stays in the log when the second one cannot be made. Pure, except that
-// they look up the sentences (support/LocalizedText.h), so they belong to the main thread. Texts
-// are UTF-8.
+// itself: the first part stays in the log when the second one cannot be made. Line feeds of foreign
+// and of typed texts are quoted (support/QuotedLines.h), so that each entry has the lines that it
+// is told to have. Pure, except that they look up the sentences (support/LocalizedText.h), so they
+// belong to the main thread. Texts are UTF-8.
 
 #pragma once
 
@@ -43,8 +44,8 @@ std::string entryOfDatagram(std::size_t length); // in bytes
 std::string entryOfIgnoredDatagram(PacketKind kind);
 std::string entryOfReceiveError();
 
-// The entry has `text` only when the unit names itself and its serial number. Here and below an
-// absent text prints as "(null)".
+// The entry has `text` only when the unit names itself and its serial number. A foreign text must
+// come quoted; the lines of a parameter list are. Here and below an absent text prints as "(null)".
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text);
 
 // An ARP cache entry that was handed to the tool; and one that was not, with the result of

@@ -1,6 +1,7 @@
 #include "words/ParameterLines.h"
 
 #include "support/LocalizedText.h"
+#include "support/QuotedLines.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -26,7 +27,12 @@ std::string linesOfParameters(const std::vector<ToldParameter>& items,
         lines += item.parameter().has_value() ? std::string_view(names[indexOf(*item.parameter())])
                                               : tagOfUninterpretedItem;
         lines += ": ";
-        lines += item.text().value_or("(null)");
+        const auto text = item.text().value_or("(null)");
+        if (item.parameter() == UnitParameter::unitID) {
+            lines += quotedLines(text); // the only value that may have a line feed
+        } else {
+            lines += text;
+        }
     }
     return lines;
 }

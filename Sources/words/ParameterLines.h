@@ -20,7 +20,8 @@ using ShownParameterNames = std::array<std::string, unitParameterCount>;
 ShownParameterNames shownParameterNames();
 
 // One line for each item, "\n\tNAME: TEXT", in the order of the list. An item without a parameter
-// has its tag as its name, and one without a text has "(null)".
+// has its tag as its name, and one without a text has "(null)". Line feeds of a unit ID are quoted
+// (support/QuotedLines.h).
 std::string linesOfParameters(const std::vector<ToldParameter>& items,
                               const ShownParameterNames& names);
 

@@ -14,8 +14,8 @@ namespace kx {
 inline constexpr std::size_t mostCharactersOfValue = 32;
 inline constexpr std::size_t mostCharactersOfSentence = 200;
 
-// The text on one line, in the order of its characters, and cut behind the first of them.
-// Characters that would change the line or their order are shown as U+FFFD.
+// The visible text (support/VisibleText.h), cut behind the first `mostCharacters` of its
+// characters.
 std::string safeForSentence(std::string_view text,
                             std::size_t mostCharacters = mostCharactersOfValue);
 

@@ -179,4 +179,32 @@ TEST_F(ControllerEventLog, MessagesOfAFailedStartAreLookedUpToo) {
                             "UDP FAILED TO SEND DATA.", "  THE UDP LISTENER IS NOT RUNNING."}));
 }
 
+// --- The limit ---
+
+namespace {
+
+constexpr std::string_view removalNotice =
+    "[The event log keeps 256 MiB. Older entries were removed.]\n";
+
+} // namespace
+
+TEST_F(ControllerEventLog, BeyondItsLimitTheOldestEntriesGoAndTheFirstLineSaysSo) {
+    launch();
+    window.logTextView.setString(LogText("from before"));
+    const std::string entry = "\n" + std::string(59'999, 'x');
+    for (std::size_t bytes = 0; bytes < KXConfigAppDelegate::mostLogBytes + 1'000'000;
+         bytes += entry.size()) {
+        controller.appendString(entry);
+    }
+    controller.appendString("\nthe last");
+    const std::string log = controller.eventLog();
+    EXPECT_LE(log.size(), std::size_t{256} * 1024 * 1024);
+    EXPECT_GE(log.size(), std::size_t{255} * 1024 * 1024);
+    EXPECT_TRUE(log.starts_with(removalNotice));
+    EXPECT_TRUE(log.ends_with("\nthe last"));
+    EXPECT_EQ(window.logTextView.text(), "") << "a closed view keeps nothing of it alive";
+    controller.discoverButton();
+    EXPECT_TRUE(controller.eventLog().starts_with("[Begin Discover]"));
+}
+
 } // namespace kx

@@ -339,4 +339,44 @@ TEST_F(ControllerProtocol, ExceptionsOfAnotherKindWhileADatagramIsHandledArePass
     EXPECT_EQ(systemLog.lines(), Lines{});
 }
 
+TEST_F(ControllerProtocol, ASendThatTheHostRefusesIsTwoEntriesAndTheNextOneGoes) {
+    for (const int error : {ENOBUFS, EPERM, ENETUNREACH}) {
+        launch();
+        const std::size_t before = controller.eventLog().size();
+        systemCalls.failNext(Operation::sendTo, error);
+        controller.reloadUnitParameterButton();
+        EXPECT_EQ(logSince(before),
+                  (Lines{"Request unit parameters with address: 255.255.255.255",
+                         "UDP failed to send data.", "  " + posixErrorText(error)}));
+        EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(error) + ".");
+        const std::size_t afterwards = controller.eventLog().size();
+        controller.reloadUnitParameterButton();
+        EXPECT_EQ(logSince(afterwards).back(), "UDP server did send data.");
+    }
+}
+
+TEST_F(ControllerProtocol, ALineFeedInAPayloadForgesNoLineAndIsKept) {
+    launch();
+    window.eventLogDrawer.setState(DrawerState::open);
+    const SampleUnit unit;
+    receive(joined({unit.header(), textBytes("hello\nUDP server did send data.\x1B[2J")}));
+    const std::string kept = controller.eventLog();
+    EXPECT_TRUE(kept.ends_with("cidString:$hello\nUDP server did send data.\x1B[2J"));
+    EXPECT_TRUE(controller.shownLog().ends_with(
+        "cidString:$hello\uFFFDUDP server did send data.\uFFFD[2J"));
+}
+
+TEST_F(ControllerProtocol, ALineFeedInAUnitIDOrATagForgesNoLineEither) {
+    launch();
+    SampleUnit unit;
+    unit.unitID = textBytes("A\n\tX:1");
+    receive(unit.reply());
+    EXPECT_NE(controller.eventLog().find("unit ID: A\n\tX:1"), std::string::npos);
+    EXPECT_NE(controller.shownLog().find("unit ID: A\uFFFD\tX:1"), std::string::npos);
+    EXPECT_NE(controller.shownLog().find("unit:A\uFFFD\tX:1 serial:"), std::string::npos);
+    receive(textBytes("^^<\n>"));
+    EXPECT_TRUE(controller.shownLog().ends_with("\nReceived command: ^^<\uFFFD>"));
+    EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "A\n\tX:1") << "kept as it is";
+}
+
 } // namespace kx

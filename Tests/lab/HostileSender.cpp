@@ -1,11 +1,17 @@
 // A malicious sender, for tests in the lab. It knows nothing of the application and nothing of the
 // simulated units' code.
 //
-//   kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED
+//   kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED [KIND]
 //
 // It sends to UDP port PORT of ADDRESS for SECONDS seconds, as fast as the system takes the
-// datagrams, in equal shares: random bytes; whole parameter replies with a random serial number;
-// whole parameter replies, and acknowledgements, in the name of SERIAL (12 hexadecimal digits).
+// datagrams. Without a KIND it sends all of them mixed: random bytes; whole parameter replies with
+// a random serial number; whole parameter replies, and acknowledgements, in the name of SERIAL (12
+// hexadecimal digits); and a few long texts. With a KIND it sends only
+//
+//   cut        replies that end in the middle of a field
+//   long       texts of 60,000 bytes, with line feeds and escape sequences in them
+//   invented   whole parameter replies with a random serial number
+//
 // Every value in a reply is random except for the IP address. The IP address lies in 192.0.2.0/24,
 // so that commands to it stay on the lab's link. Equal seeds give equal datagrams. It prints the
 // number of datagrams that it sent, and ends with 1 when there were none.
@@ -32,7 +38,8 @@ using Clock = std::chrono::steady_clock;
 using Serial = std::array<std::uint8_t, 6>;
 
 constexpr std::size_t datagramsInBatch = 64;
-constexpr std::size_t longestDatagram = 200;
+constexpr std::size_t longestDatagram = 60'000;
+constexpr std::size_t longestRandom = 200;
 
 // A datagram while it is being made.
 class Datagram {
@@ -44,7 +51,7 @@ public:
 
     void beRandom() {
         _length = 0;
-        addRandom(_random() % (longestDatagram + 1));
+        addRandom(_random() % (longestRandom + 1));
         // Every second datagram passes the first check of the receiver.
         if (_length > 0 && _random() % 2 == 0) {
             _bytes[0] = '^';
@@ -70,6 +77,24 @@ public:
         addRandom(6);
         add("<S>");
         add(serial);
+    }
+
+    // Its text tries to forge a line of a log and to give orders to a terminal.
+    void beLongText(const Serial& serial) {
+        constexpr std::string_view forged =
+            "\nUDP server did send data.\x1B[2J\x1B]0;title\a\xE2\x80\xAE";
+        beHeader(serial);
+        constexpr std::size_t unitIDOffset = 5;
+        std::fill_n(_bytes.begin() + unitIDOffset, 6, std::uint8_t{0}); // a unit ID with a text
+        while (_length + forged.size() <= longestDatagram) {
+            add(forged);
+        }
+    }
+
+    void beCut() {
+        _length = 0;
+        add("^^<U>");
+        addRandom(1);
     }
 
     void beAcknowledgement(const Serial& serial) {
@@ -115,7 +140,17 @@ Serial randomSerial(std::mt19937_64& random) {
     return serial;
 }
 
-void invent(Datagram& datagram, const Serial& claimed, std::mt19937_64& random) {
+void invent(Datagram& datagram, std::string_view kind, const Serial& claimed,
+            std::mt19937_64& random) {
+    if (kind == "cut") {
+        return datagram.beCut();
+    }
+    if (kind == "long" || (kind.empty() && random() % 16 == 0)) {
+        return datagram.beLongText(claimed);
+    }
+    if (kind == "invented") {
+        return datagram.beParameterReply(randomSerial(random));
+    }
     switch (random() % 6) {
     case 0:
     case 1:
@@ -169,8 +204,9 @@ std::size_t sendBatch(int descriptor, std::span<Datagram> datagrams) {
 } // namespace
 
 int main(int argc, char* argv[]) {
-    if (argc != 6) {
-        std::fputs("usage: kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED\n", stderr);
+    if (argc != 6 && argc != 7) {
+        std::fputs("usage: kxlab_hostile ADDRESS PORT SECONDS SERIAL SEED [cut|long|invented]\n",
+                   stderr);
         return EXIT_FAILURE;
     }
     const int descriptor = openSocket(argv[1], argv[2]);
@@ -186,7 +222,7 @@ int main(int argc, char* argv[]) {
     std::size_t sent = 0;
     while (Clock::now() < end) {
         for (Datagram& datagram : batch) {
-            invent(datagram, claimed, random);
+            invent(datagram, argc == 7 ? argv[6] : "", claimed, random);
         }
         sent += sendBatch(descriptor, batch);
     }

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# A port is taken, a host has no network, or a broadcast has no route. The real program logs each fault
+# A port is taken, a host has no network, a firewall lets nothing out, or a broadcast has no route. The real program logs each fault
 # in its own words and goes on to the end of the tour.
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
@@ -26,6 +26,11 @@ UDP failed to send data.
   Network is unreachable'
 
 expect_equal 'the log without a network' "$failed_send" "$(log_of_discovery unshare --net)"
+
+nft 'table inet kxtest { chain out { type filter hook output priority 0; udp dport 3520 drop; }; }'
+expect_equal 'the log behind a firewall that lets nothing out' \
+    "${failed_send/Network is unreachable/Operation not permitted}" "$(log_of_discovery env)"
+nft delete table inet kxtest
 
 ip route del default dev kx0
 expect_equal 'the log without a route for the broadcast' "$failed_send" "$(log_of_discovery env)"

@@ -7,10 +7,12 @@
 #include "WithoutNetlink.h"
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedSystemLog.h"
+#include "platform/PollLoopDriver.h"
 #include "support/Error.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <optional>
 #include <string>
@@ -50,6 +52,41 @@ struct ScriptedKernel {
 };
 
 } // namespace
+
+// The kernel drops changes for which the socket has no room, and says so with ENOBUFS.
+TEST(KernelLinks, ChangesThatTheKernelDroppedAreNoLostChanges) {
+    PrivateNetwork network;
+    network.addLink("kx0", "02:00:00:00:00:01");
+    PollRunLoop loop;
+    int questions = 0;
+    KernelLinks links(loop, [&] {
+        ++questions;
+        return readNetworkLinks();
+    });
+    int changes = 0;
+    links.setChangeAction([&] { ++changes; });
+    ASSERT_NE(links.links(), nullptr);
+    std::string commands;
+    for (int address = 0; address < 4000; ++address) {
+        const std::string text = "10.7." + std::to_string(address / 250) + "." +
+                                 std::to_string(address % 250 + 1) + "/16 dev kx0\n";
+        commands += "address add " + text + "address del " + text;
+    }
+    network.batch(commands + "address add 10.9.9.9/24 dev kx0\n");
+    const int before = questions;
+    const auto* const read = links.links();
+    ASSERT_NE(read, nullptr);
+    EXPECT_EQ(questions, before + 1) << "all of the changes are one reading";
+    EXPECT_GE(changes, 1);
+    const auto found =
+        std::ranges::find_if(*read, [](const NetworkLink& link) { return link.name == "kx0"; });
+    ASSERT_NE(found, read->end());
+    ASSERT_EQ(found->ipv4Addresses.size(), 1U);
+    EXPECT_EQ(found->ipv4Addresses[0].address, 0x0A090909U);
+    network.ip("link set kx0 down");
+    EXPECT_TRUE(runLoopUntil(loop, [&, was = changes] { return changes > was; }))
+        << "and later changes are heard";
+}
 
 TEST(KernelLinks, WithoutAWatchTheLinksAreStillReadFresh) {
     PrivateNetwork network;

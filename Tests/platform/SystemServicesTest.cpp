@@ -87,4 +87,12 @@ TEST(SystemWallClock, ShowsTheHostsTimeInTheLocalTimeZone) {
     EXPECT_LE(shown, after);
 }
 
+TEST(SystemWallClock, ShowsTheTimeInTheZoneThatTheHostHasNow) {
+    const TimeZone fiveHoursEast("TEST-5");
+    const SystemWallClock clock;
+    EXPECT_EQ(clock.localTime().tm_gmtoff, 5 * 60 * 60);
+    ::setenv("TZ", "OTHER+3", 1);
+    EXPECT_EQ(clock.localTime().tm_gmtoff, -3 * 60 * 60);
+}
+
 } // namespace kx

@@ -4,7 +4,11 @@
 #include "simulator/Literals.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <cerrno>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -58,6 +62,79 @@ TEST_F(CommandRecordTest, LinesFollowThoseThatAreThere) {
     record.addCommand(_unit, {.source = {}, .destination = {}, .payload = {}});
     record.flush();
     EXPECT_EQ(text(), "there\n4B5800000002 0.0.0.0 0 \n");
+}
+
+namespace {
+
+// A folder that ends with the test, with rights as for chmod(2).
+class Folder {
+public:
+    explicit Folder(mode_t mode) {
+        char path[] = "/tmp/kx-record-XXXXXX";
+        _path = ::mkdtemp(path);
+        EXPECT_EQ(::chmod(path, mode), 0);
+    }
+    ~Folder() { std::filesystem::remove_all(_path); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+
+    std::string file(const std::string& name) const { return (_path / name).string(); }
+
+private:
+    std::filesystem::path _path;
+};
+
+int refusalOf(const std::string& path) {
+    try {
+        const CommandRecord record(path);
+    } catch (const std::system_error& error) {
+        return error.code().value();
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(CommandRecord, ALinkInAFolderThatEverybodyMayWriteToIsNotFollowed) {
+    for (const mode_t mode : {0777U, 01777U}) {
+        const Folder folder(mode);
+        const std::string victim = folder.file("victim");
+        std::ofstream(victim) << "as it was";
+        std::filesystem::create_symlink(victim, folder.file("link"));
+        std::filesystem::create_symlink(folder.file("missing"), folder.file("dangling"));
+        EXPECT_EQ(refusalOf(folder.file("link")), ELOOP);
+        EXPECT_EQ(refusalOf(folder.file("dangling")), ELOOP);
+        EXPECT_FALSE(std::filesystem::exists(folder.file("missing")));
+    }
+}
+
+TEST(CommandRecord, ASecondNameOfAFileAndAPipeAreNotTakenThereEither) {
+    const Folder folder(01777);
+    std::ofstream(folder.file("victim")) << "as it was";
+    std::filesystem::create_hard_link(folder.file("victim"), folder.file("second"));
+    EXPECT_EQ(refusalOf(folder.file("second")), EPERM);
+    ASSERT_EQ(::mkfifo(folder.file("pipe").c_str(), 0600), 0);
+    EXPECT_NE(refusalOf(folder.file("pipe")), 0) << "and it does not wait for a reader";
+}
+
+TEST(CommandRecord, AFileOfSomebodyElseIsNotTakenThereEither) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a file for somebody else";
+    }
+    const Folder folder(0777);
+    std::ofstream(folder.file("theirs")) << "as it was";
+    ASSERT_EQ(::chown(folder.file("theirs").c_str(), 12345, 12345), 0);
+    EXPECT_EQ(refusalOf(folder.file("theirs")), EPERM);
+}
+
+TEST(CommandRecord, AnOwnFileIsTakenThereAndALinkInAnOwnFolderIsFollowed) {
+    const Folder open(01777);
+    EXPECT_EQ(refusalOf(open.file("own")), 0);
+    EXPECT_EQ(refusalOf(open.file("own")), 0) << "again";
+    const Folder own(0755);
+    std::filesystem::create_symlink(own.file("target"), own.file("link"));
+    EXPECT_EQ(refusalOf(own.file("link")), 0);
+    EXPECT_TRUE(std::filesystem::exists(own.file("target")));
 }
 
 TEST(CommandRecord, AFileThatCannotBeOpenedIsAFailure) {

@@ -191,6 +191,23 @@ TEST(QtHelpServices, AnEnvironmentThatNamesNoProgramThatRunsLeavesItToTheRegiste
     qunsetenv("BROWSER");
 }
 
+TEST(QtHelpServices, RootGetsNoBrowserAndReadsTheHelpInTheViewer) {
+    RecordedBrowser browser;
+    const ScriptedRegister desktop;
+    qputenv("BROWSER", "xdg-mime"); // a program that can be run
+    HelpFolder folder;
+    folder.addPage("index");
+    QtHelpServices services(folder.path(), QtHelpServices::browserForUser(0));
+    EXPECT_FALSE(services.openInBrowser("file:///a.html"));
+    EXPECT_FALSE(openHelpAnchor("index", services));
+    EXPECT_EQ(browser.urls, std::vector<std::string>{});
+    EXPECT_TRUE(services.openAnchorInBook("index", "Help"));
+    EXPECT_EQ(pageInViewer(), "index");
+    qunsetenv("BROWSER");
+    EXPECT_TRUE(QtHelpServices(folder.path(), QtHelpServices::browserForUser(1000))
+                    .openInBrowser("file:///a.html"));
+}
+
 TEST(QtHelpServices, AFolderIsNoPage) {
     HelpFolder folder;
     QDir(folder.pages()).mkdir("index.html");

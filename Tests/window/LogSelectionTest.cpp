@@ -1,10 +1,14 @@
 // The log view: the caret, selecting by mouse and keyboard, copying.
 
 #include "LogTextViewFixture.h"
+#include "support/QuotedLines.h"
+
+#include <malloc.h>
 
 #include <QAction>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QMimeData>
 
 namespace kx {
 
@@ -142,13 +146,66 @@ TEST_F(LogSelectionTest, KeysGoOnFromWhatIsInSight) {
 }
 
 TEST_F(LogSelectionTest, CopiesWhatIsSelectedAndNothingElse) {
-    view.setText(LogText("one\r\ntwo\u2028网路😀\tthree"));
+    view.setText(LogText("one\ntwo 网路😀\tthree"));
     QGuiApplication::clipboard()->setText("before");
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard(), "before");
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_C, Qt::ControlModifier);
-    EXPECT_EQ(clipboard(), "one\r\ntwo\u2028网路😀\tthree");
+    EXPECT_EQ(clipboard(), "one\ntwo 网路😀\tthree");
+}
+
+TEST_F(LogSelectionTest, WhatIsCopiedIsWhatTheScreenShows) {
+    view.setText(LogText("V\r\n\x1B[31mred\u009B0m" + quotedLines("\nforged") + "\u202E\u200Bx"));
+    view.selectAll();
+    EXPECT_EQ(selected(), "V \n\uFFFD[31mred\uFFFD0m\uFFFDforged\uFFFD\uFFFDx");
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), selected());
+    EXPECT_EQ(utf8Text(view.toPlainText()), selected());
+    view.select(3, 8);
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_EQ(clipboard(), "\uFFFD[31m");
+}
+
+TEST_F(LogSelectionTest, WhatWasCopiedStaysWhateverTheLogDoes) {
+    view.setText(LogText("before\n" + std::string(200'000, 'x') + "\nafter"));
+    view.select(0, 6);
+    press(Qt::Key_C, Qt::ControlModifier);
+    view.setText(LogText("another"));
+    EXPECT_EQ(clipboard(), "before");
+    view.append("\nmore");
+    view.selectAll();
+    press(Qt::Key_C, Qt::ControlModifier);
+    view.append("\nand more");
+    EXPECT_EQ(clipboard(), "another\nmore");
+}
+
+// The number of bytes that the process holds in blocks of any kind.
+std::size_t bytesHeld() {
+    const struct mallinfo2 blocks = ::mallinfo2();
+    return blocks.uordblks + blocks.hblkhd;
+}
+
+TEST_F(LogSelectionTest, SelectingAndCopyingALongLogTakesNoMemoryUntilSomebodyPastes) {
+    constexpr std::size_t length = std::size_t{32} * 1024 * 1024;
+    LogText text;
+    while (text.size() < length) {
+        text.append("\nUDP listener did receive data. Length: 81" + std::string(60, 'x'));
+    }
+    view.setText(text);
+    QGuiApplication::clipboard()->clear();
+    const std::size_t before = bytesHeld();
+    view.selectAll();
+    press(Qt::Key_C, Qt::ControlModifier);
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasText());
+#ifndef KX_SANITIZED // the sanitizers have an allocator of their own
+    EXPECT_LT(bytesHeld(), before + length / 16);
+#endif
+    const QString pasted = QGuiApplication::clipboard()->text();
+    EXPECT_EQ(pasted.size(), static_cast<qsizetype>(text.size()));
+#ifndef KX_SANITIZED
+    EXPECT_GT(bytesHeld(), before + length) << "this measures what it says";
+#endif
 }
 
 TEST_F(LogSelectionTest, CannotBeChangedByTyping) {

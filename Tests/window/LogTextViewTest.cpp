@@ -235,4 +235,60 @@ TEST_F(LogTextViewTest, TheCaretShowsOnlyWhereTheKeyboardIs) {
     EXPECT_NE(view.viewport()->grab().toImage(), focused);
 }
 
+// --- A text beyond its limit ---
+
+namespace {
+
+constexpr std::string_view goneNotice = "[older text is gone]";
+
+LogText limitedText(std::string_view beginning) {
+    LogText text;
+    text.setLimit(200'000, goneNotice);
+    text.append(beginning);
+    return text;
+}
+
+} // namespace
+
+TEST_F(LogTextViewTest, BeyondTheLimitTheOldestTextGoesAndTheFirstLineSaysSo) {
+    view.setText(limitedText(""));
+    for (int line = 0; line < 30'000; ++line) {
+        view.append("\nline " + std::to_string(line));
+    }
+    view.scrollToEnd();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return view.showsEnd(); }));
+    EXPECT_LE(view.text().size(), 200'000U);
+    EXPECT_TRUE(utf8Text(view.toPlainText()).starts_with(std::string(goneNotice) + "\nline "));
+    EXPECT_EQ(view.verticalScrollBar()->maximum(),
+              static_cast<int>(view.text().rowCount()) - linesInSight());
+    EXPECT_FALSE(view.grab().isNull());
+}
+
+TEST_F(LogTextViewTest, APersonsPlaceAndSelectionMoveWithTheTextUntilItGoes) {
+    view.setText(limitedText(numberedLines(9'000)));
+    const std::size_t from = view.text().row(8'000).position;
+    view.select(from, from + 9);
+    view.verticalScrollBar()->setValue(8'500);
+    ASSERT_EQ(selected(), "line 8000");
+    const auto firstShown = [this] {
+        return std::string(view.text().row(static_cast<std::size_t>(firstRow())).text);
+    };
+    ASSERT_EQ(firstShown(), "line 8500");
+    bool hasMoved = false;
+    for (int line = 0; line < 13'000; ++line) {
+        view.append("\nmore " + std::to_string(line));
+        hasMoved = hasMoved || view.text().row(0).text == goneNotice;
+    }
+    QTest::qWait(50);
+    ASSERT_TRUE(hasMoved);
+    EXPECT_EQ(selected(), "line 8000");
+    EXPECT_EQ(firstShown(), "line 8500");
+    for (int line = 0; line < 30'000; ++line) {
+        view.append("\nmore " + std::to_string(line));
+    }
+    QTest::qWait(50);
+    EXPECT_EQ(selected(), "") << "its text is gone";
+    EXPECT_EQ(firstRow(), 1) << "the first line that is left";
+}
+
 } // namespace kx

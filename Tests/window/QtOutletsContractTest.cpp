@@ -140,7 +140,7 @@ public:
     }
 
     TextView& control() { return _view; }
-    std::string text() const { return utf8Text(_logView.toPlainText()); }
+    std::string text() const { return _logView.text().text(); }
     bool isEndVisible() {
         const auto endIsInSight = [this] {
             const QRect end = _logView.rectOf(_logView.text().size());

@@ -1,6 +1,7 @@
 #include "platform/posix/SyslogSystemLog.h"
 
 #include "System Configuration/SystemCallWrappers.h"
+#include "platform/posix/SystemWallClock.h"
 
 #include <poll.h>
 #include <sys/socket.h>
@@ -28,9 +29,7 @@ FileDescriptor datagramSocket() {
 std::string lineHead() {
     constexpr std::array<const char*, 12> months{"Jan", "Feb", "Mar", "Apr", "May", "Jun",
                                                  "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-    const std::time_t now = std::time(nullptr);
-    std::tm local{};
-    ::localtime_r(&now, &local);
+    const std::tm local = SystemWallClock().localTime();
     std::array<char, 32> time{};
     std::strftime(time.data(), time.size(), "%e %H:%M:%S ", &local);
     std::string head = "<";

@@ -1,4 +1,4 @@
-// The host's own clock and time zone.
+// The host's own clock, and its time zone as it is when asked.
 
 #pragma once
 

@@ -46,8 +46,13 @@ bool desktopKnowsABrowser() {
 
 } // namespace
 
-QtHelpServices::QtHelpServices(QString resourceFolder)
-    : _resourceFolder(std::move(resourceFolder)) {}
+QtHelpServices::QtHelpServices(QString resourceFolder, Browser browser)
+    : _resourceFolder(std::move(resourceFolder))
+    , _browser(browser) {}
+
+QtHelpServices::Browser QtHelpServices::browserForUser(unsigned userID) {
+    return userID == 0 ? Browser::isNot : Browser::isAllowed;
+}
 
 QtHelpServices::~QtHelpServices() = default;
 
@@ -67,7 +72,7 @@ std::optional<std::string> QtHelpServices::pathForResource(std::string_view name
 }
 
 bool QtHelpServices::openInBrowser(std::string_view url) {
-    return desktopKnowsABrowser() &&
+    return _browser == Browser::isAllowed && desktopKnowsABrowser() &&
            QDesktopServices::openUrl(QUrl::fromEncoded(utf8Text(qtText(url)).c_str()));
 }
 

@@ -14,9 +14,19 @@ class HelpViewer;
 
 class QtHelpServices final : public HelpServices {
 public:
+    enum class Browser {
+        isAllowed,
+        isNot, // no browser is looked for and none is started
+    };
+
     // `resourceFolder` is the folder of the program's resources. The pages are in its folder
     // "homepage".
-    explicit QtHelpServices(QString resourceFolder);
+    explicit QtHelpServices(QString resourceFolder, Browser browser = Browser::isAllowed);
+
+    // A browser that root starts shows the pages of the whole world with the rights of root, so
+    // root reads the help in the viewer.
+    static Browser browserForUser(unsigned userID);
+
     ~QtHelpServices() override; // closes the viewer
 
     std::uint32_t modifierFlags() const override;
@@ -28,6 +38,7 @@ public:
 
 private:
     QString _resourceFolder;
+    Browser _browser;
     std::unique_ptr<HelpViewer>
         _viewer; // null until it is first needed; a viewer that was closed is made anew
 };

@@ -40,6 +40,11 @@ TEST(ParameterLines, OfAUnitIDThatIsNoTextSayNull) {
     EXPECT_EQ(linesOf(item("<U>", {0xFF, 1, 2, 3, 4, 5})), "\n\tunit ID: (null)");
 }
 
+TEST(ParameterLines, OfAUnitIDWithALineFeedAreStillOne) {
+    EXPECT_EQ(linesOf(item("<U>", {'a', '\n', 'b', 'c', 'd', 'e'})), "\n\tunit ID: a\xC1"
+                                                                     "bcde");
+}
+
 TEST(ParameterLines, OfTheUninterpretedItemHaveItsTag) {
     EXPECT_EQ(linesOf(item("<O>", {1, 2, 3, 4, 5, 6})), "\n\t<O>: 01:02:03:04:05:06");
 }

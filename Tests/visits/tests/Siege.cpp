@@ -2,6 +2,8 @@
 
 #include "tests/ResponsivenessProbe.h"
 
+#include <sys/resource.h>
+
 #include <QDeadlineTimer>
 
 namespace kx {
@@ -15,6 +17,15 @@ constexpr milliseconds drawerMoves{500};
 
 // A flood brings at least this many invented units; a real network brings fewer.
 constexpr int fewestInvented = 1000;
+
+constexpr int mostListed = 1'048'576;
+
+// The most MiB of memory that the process ever held.
+qint64 mostMemoryHeld() {
+    rusage usage{};
+    ::getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss / 1024;
+}
 
 void expectAtMost(milliseconds found, const char* limit, const QString& what) {
     if (found > milliseconds(qEnvironmentVariableIntValue(limit))) {
@@ -56,6 +67,14 @@ void Siege::run() {
               .arg(computing.count()));
     expectAtMost(gap, "KX_SIEGE_WAIT", "a person's longest wait");
     expectAtMost(computing, "KX_SIEGE_COMPUTING", "the program's own part in a wait");
+    const qint64 held = mostMemoryHeld();
+    print(QString("Most memory: %1 MiB").arg(held));
+    if (held > qEnvironmentVariableIntValue("KX_SIEGE_MEMORY")) {
+        throw VisitFailure{"the program takes too much memory"};
+    }
+    if (_listed > mostListed) {
+        throw VisitFailure{"the list is longer than its limit"};
+    }
     if (_listed < fewestInvented) {
         throw VisitFailure{"there was no flood"};
     }

@@ -6,7 +6,7 @@
 // Main thread only; run() waits in nested event loops. Environment: KX_SIEGE_SECONDS, the length of
 // the visit; KX_SIEGE_UNITS, the serial numbers of the real units, with commas in between;
 // KX_SIEGE_WAIT, the milliseconds that a person may have to wait; KX_SIEGE_COMPUTING, how many of
-// them the program may compute.
+// them the program may compute; KX_SIEGE_MEMORY, the most MiB that the program may ever hold.
 
 #pragma once
 
@@ -21,7 +21,8 @@ public:
     explicit Siege(WindowDriver& driver);
 
     // Stays the whole time, and prints its results. Throws a VisitFailure when a unit was not
-    // found in the end, when a person had to wait too long, and when there was no flood.
+    // found in the end, when a person had to wait too long, when the list or the program grew
+    // beyond its limit, and when there was no flood.
     void run();
 
 private:
