@@ -72,7 +72,8 @@ public:
     virtual ssize_t sendToByLink(int descriptor, ByteView data, ByteView addressRecord,
                                  std::uint32_t link);
 
-    // if_nametoindex(3): the index of the interface that has this name now; 0 when none has.
+    // if_nametoindex(3): the index of the interface that has this name now. 0 and errno when there
+    // is none (ENODEV), or when the system cannot be asked.
     virtual std::uint32_t linkForName(const std::string& name);
 
     // recvmsg(2), flags 0, of one datagram into `buffer`; bytes that do not fit are lost. The bytes

@@ -17,9 +17,13 @@
 #include "KXParameterEntry.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
+#include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
+#include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
 #include "conversation/InterfaceAddress.h"
+#include "conversation/RequestPace.h"
+#include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
 #include "conversation/UnitSession.h"
 #include "support/Authorization.h"
@@ -210,11 +214,18 @@ private:
 
     void listInterfaces(std::vector<std::string> titles);
     std::vector<std::string> currentInterfaceTitles() const;
+    std::optional<ChosenInterface> chosenInterface() const;
+
+    // Every unit on the chosen interface's link. Before a choice the routes decide.
     std::uint32_t broadcastAddress() const;
+    Everybody everybody();
+
+    // The link on which the selected unit was heard last; 0 when none is selected.
+    std::uint32_t linkOfSelectedUnit() const;
 
     const UnitRecord* selectedRecord() const;
     std::optional<std::string> selectedText(UnitParameter parameter) const;
-    UnitDestination unitDestination() const;
+    UnitDestination unitDestination();
     CommandTarget commandTarget() const;
 
     // A command was handed to the session. `failure` says why the session did not send it.
@@ -226,7 +237,10 @@ private:
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
+    void requestParametersOwed();
 
+    void beginFindings();
+    void showFindings();
     void discoverComplete();
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
@@ -240,6 +254,8 @@ private:
     std::optional<std::int32_t> makeARPEntry(const std::optional<std::string>& hardwareAddress,
                                              const std::optional<std::string>& ip);
 
+    // Says whom Reload and Restore Defaults reach now. Called after every change of that.
+    void showTarget();
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -260,12 +276,16 @@ private:
     std::uint32_t localMask = 0;
     UnitRegistry _devicesD;
     UnitSession _session; // owns the listener
+    RequestPace _requestPace;
+    std::optional<std::string> _acceptedSince; // selected unit whose request is owed
+    DiscoveryFindings _findings;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
     int _latestARPAttempt = 0;                         // number of attempts, refused ones included
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
+    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

@@ -3,6 +3,7 @@
 #include "units/UnitCommand.h"
 #include "words/EditForecast.h"
 #include "words/EventLogEntries.h"
+#include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
 #include <utility>
@@ -129,6 +130,7 @@ void KXConfigAppDelegate::edit_internalIP() {
     const auto entry = makeARPEntry(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
+        showTarget();
     }
     if (const auto result = handOver(move.command, move.typed)) {
         EditOutcome outcome(move, std::move(unit), result->failure);
@@ -218,6 +220,12 @@ void KXConfigAppDelegate::sendOptionButton() {
 }
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
+    if (_selectedUnit.has_value() && _shownTarget.has_value() &&
+        _shownTarget->reach == RequestReach::oneUnit) {
+        _findings.expectChange(*_selectedUnit);
+    } else {
+        _findings.expectChanges();
+    }
     const auto failure = sendRequest(restoreCommand, unitDestination());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
     showFailureOrForecast(failure);
@@ -234,6 +242,17 @@ void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
         _textBeingTyped = text;
         showForecast();
     }
+}
+
+void KXConfigAppDelegate::showTarget() {
+    const RequestTarget target = targetOfRequest(selectedRecord(), broadcastAddress());
+    if (_shownTarget == target) {
+        return;
+    }
+    _shownTarget = target;
+    _quietLine.setWarning(warningOfTarget(target));
+    _outlets.reloadButton->setDescription(descriptionOfReload(target));
+    _outlets.restoreButton->setDescription(descriptionOfRestore(target));
 }
 
 CommandTarget KXConfigAppDelegate::commandTarget() const {

@@ -2,7 +2,6 @@
 #include "addresses/IPv4Address.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
-#include "words/DroppedDatagramsText.h"
 #include "words/EventLogEntries.h"
 
 #include <utility>
@@ -28,13 +27,17 @@ KXConfigAppDelegate::handOver(const std::optional<std::string>& command,
         return std::nullopt;
     }
     appendString(entryOfCommand(*command, *address));
-    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port, 0)};
+    if (_selectedUnit.has_value()) {
+        _findings.expectChange(*_selectedUnit);
+    }
+    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port,
+                                    linkOfSelectedUnit())};
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
-    return _session.send(command, destination.address, destination.port, 0);
+    return _session.send(command, destination.address, destination.port, destination.link);
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {
@@ -53,8 +56,13 @@ std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter param
     return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
 }
 
-UnitDestination KXConfigAppDelegate::unitDestination() const {
-    return destinationOfUnit(selectedRecord(), broadcastAddress());
+UnitDestination KXConfigAppDelegate::unitDestination() {
+    return destinationOfUnit(selectedRecord(), everybody());
+}
+
+std::uint32_t KXConfigAppDelegate::linkOfSelectedUnit() const {
+    const UnitRecord* const record = selectedRecord();
+    return record != nullptr ? record->link() : 0;
 }
 
 // --- The session's events ---
@@ -64,7 +72,9 @@ void KXConfigAppDelegate::sessionDidStart(const Bytes& address) {
 }
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
-    sendRequest(parameterRequestCommand, {.address = broadcastAddress(), .port = defaultUnitPort});
+    const Everybody all = everybody();
+    sendRequest(parameterRequestCommand,
+                {.address = all.address, .port = defaultUnitPort, .link = all.link});
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
@@ -85,7 +95,10 @@ void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind) {
 
 void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DecodedUnitParameters& parameters,
-                                                const DatagramOrigin& /*origin*/) {
+                                                const DatagramOrigin& origin) {
+    if (_findings.unitDidTell(parameters.record, origin)) {
+        showFindings();
+    }
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
         if (serial == _selectedUnit) {
             showSelectedUnit();
@@ -97,13 +110,25 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     appendString(entryOfReply(reply, parameters.displayText));
 }
 
-// The log has the request before the acknowledgement.
+// The log has the request before the acknowledgement. When too many acknowledgements come at once,
+// one request follows them later.
 void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
-    const auto failure = requestParametersOfUnit();
-    if (reply.serialNumber.has_value()) {
-        _quietLine.unitDidAccept(*reply.serialNumber, failure);
+    if (_requestPace.admits()) {
+        const auto failure = requestParametersOfUnit();
+        if (reply.serialNumber.has_value()) {
+            _quietLine.unitDidAccept(*reply.serialNumber, failure);
+        }
+    } else if (reply.serialNumber == _selectedUnit) {
+        _acceptedSince = reply.serialNumber;
     }
     appendString(entryOfReply(reply, ""));
+}
+
+void KXConfigAppDelegate::requestParametersOwed() {
+    const auto failure = requestParametersOfUnit();
+    if (const auto accepted = std::exchange(_acceptedSince, std::nullopt)) {
+        _quietLine.unitDidAccept(*accepted, failure);
+    }
 }
 
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
@@ -124,7 +149,8 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 }
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
-    _outlets.dropLine->setStringValue(textOfDroppedDatagrams(datagrams));
+    _findings.setDropped(datagrams);
+    showFindings();
 }
 
 // --- The endpoint's events ---

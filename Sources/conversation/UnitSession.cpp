@@ -85,9 +85,14 @@ std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint
     return std::exchange(_sendFailure, std::nullopt);
 }
 
-std::uint32_t UnitSession::linkForName(const std::string& name) const {
+// A system that has no descriptor left cannot be asked. The interface is most likely still there.
+std::uint32_t UnitSession::linkForName(const std::string& name) {
     const std::uint32_t link = _services.systemCalls.linkForName(name);
-    return link != 0 ? link : noSuchLink;
+    if (link != 0) {
+        _lastLink = {name, link};
+        return link;
+    }
+    return errno != ENODEV && _lastLink.name == name ? _lastLink.index : noSuchLink;
 }
 
 // Told first: what the front sends inside the event has a result of its own.
@@ -151,10 +156,14 @@ void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin&
         return;
     }
     const Reply reply = replyFromDatagram(data);
+    if (reply.serialNumber.has_value()) {
+        _registry.setLink(*reply.serialNumber, origin.link);
+    }
     switch (reply.payloadKind) {
     case PayloadKind::parameterList: {
-        const auto parameters =
+        auto parameters =
             decodeUnitParameters(reply.payload, _shownNames.has_value() ? &*_shownNames : nullptr);
+        parameters.record.setLink(origin.link);
         _registry.store(parameters.record);
         _observer.unitDidTellParameters(reply, parameters, origin);
         break;

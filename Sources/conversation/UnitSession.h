@@ -120,8 +120,9 @@ public:
                                     std::uint16_t port, std::uint32_t link);
 
     // The index of the interface that has this name now; noSuchLink when none has, so that a send
-    // by it fails instead of taking another way.
-    std::uint32_t linkForName(const std::string& name) const;
+    // by it fails instead of taking another way. While the system cannot be asked, the index of the
+    // call before, if it was for the same name.
+    std::uint32_t linkForName(const std::string& name);
 
     // --- The endpoint's events ---
 
@@ -146,8 +147,12 @@ private:
     std::optional<ShownParameterNames> _shownNames;
     std::shared_ptr<UDPEcho> _listener;
     std::optional<SendFailure> _sendFailure; // failure of the datagram that is being sent
-    std::uint32_t _drops = 0;                // the number that was told last
-    RunLoop::Handle _dropCount;              // runs until the next count of drops
+    struct {
+        std::string name;
+        std::uint32_t index = 0;
+    } _lastLink;                // the interface that was found last
+    std::uint32_t _drops = 0;   // the number that was told last
+    RunLoop::Handle _dropCount; // runs until the next count of drops
 };
 
 } // namespace kx

@@ -16,6 +16,7 @@
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
+#include "words/RequestTargetText.h"
 
 #include <gtest/gtest.h>
 
@@ -145,8 +146,24 @@ protected:
 
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
 
-    std::string quietLine() const { return window.quietLine.text(); }
-    std::string dropLine() const { return window.dropLine.text(); }
+    // The warning in front of the quiet line, and what stands behind it.
+    std::string warning() const {
+        const std::string& text = window.quietLine.text();
+        for (const auto reach :
+             {RequestReach::everybodyWithoutUnit, RequestReach::everybodyWithoutAddress,
+              RequestReach::everybodyAtItsAddress}) {
+            if (text.starts_with(warningOfTarget({.reach = reach}))) {
+                return warningOfTarget({.reach = reach});
+            }
+        }
+        return "";
+    }
+    std::string quietLine() const {
+        const std::string& text = window.quietLine.text();
+        const std::size_t length = warning().size();
+        return length == 0 ? text : text.substr(std::min(length + 1, text.size()));
+    }
+    std::string discoveryLine() const { return window.discoveryLine.text(); }
 
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
     Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }

@@ -62,4 +62,9 @@ inline SampleUnit secondSampleUnit() {
     return unit;
 }
 
+// A reply that tells the serial number and nothing else of worth.
+inline Bytes sparseReplyOf(const SampleUnit& unit) {
+    return joined({unit.header(), item("<M>", unit.internalMAC), item("<S>", unit.serial)});
+}
+
 } // namespace kx

@@ -76,6 +76,9 @@ public:
     void addLink(const std::string& name, std::uint32_t index) { _links[name] = index; }
     void removeLink(const std::string& name) { _links.erase(name); }
 
+    // Sets the value of errno with which linkForName() fails; 0 ends the failure.
+    void failLinks(int errorNumber) { _linkFailure = errorNumber; }
+
     // Queues a datagram for receiveFrom(), which fails with EAGAIN when there is none.
     void queueDatagram(Bytes data, Bytes sender, std::uint32_t link = 0) {
         if (link != 0) {
@@ -244,7 +247,11 @@ public:
     // Not recorded: nothing leaves by it.
     std::uint32_t linkForName(const std::string& name) override {
         const auto found = _links.find(name);
-        return found != _links.end() ? found->second : 0;
+        if (_linkFailure != 0 || found == _links.end()) {
+            errno = _linkFailure != 0 ? _linkFailure : ENODEV;
+            return 0;
+        }
+        return found->second;
     }
 
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
@@ -378,6 +385,7 @@ private:
     std::vector<Call> _calls;
     std::function<void(const Call&)> _observer;
     std::deque<Incoming> _incoming;
+    int _linkFailure = 0;
     std::map<std::string, std::uint32_t> _links; // indexes of the interfaces by name
     std::map<int, Socket> _sockets;              // open sockets by descriptor
     std::uint32_t _socketFlags = kCFSocketCloseOnInvalidate;

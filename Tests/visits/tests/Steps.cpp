@@ -165,21 +165,21 @@ void Steps::expectReplies(int units) {
         QString("Replies: %1 units, of which %2 were dropped").arg(units).arg(droppedDatagrams()));
 }
 
-QString Steps::dropLine() const {
-    const auto& line = _driver.control<QLabel>("dropLine");
+QString Steps::discoveryLine() const {
+    const auto& line = _driver.control<QLabel>("discoveryLine");
     return line.isVisible() ? line.text() : QString();
 }
 
 int Steps::droppedDatagrams() const {
     static const QRegularExpression number("[0-9]+");
-    return number.match(dropLine()).captured().toInt();
+    return number.match(discoveryLine()).captured().toInt();
 }
 
 void Steps::expectDropped(const QString& text) {
     if (!text.isEmpty()) {
-        expectText("line below Discover", text, [this] { return dropLine(); });
-    } else if (!dropLine().isEmpty()) {
-        throw VisitFailure{dropLine()};
+        expectText("line below Discover", text, [this] { return discoveryLine(); });
+    } else if (!discoveryLine().isEmpty()) {
+        throw VisitFailure{discoveryLine()};
     }
 }
 

@@ -66,7 +66,7 @@ private:
     void takeOfCrowd(const QString& verb, const QString& argument);
     void discoverCrowd(int units);
     void expectReplies(int units);
-    QString dropLine() const;
+    QString discoveryLine() const;
     int droppedDatagrams() const;
     void expectDropped(const QString& text);
     void watch();
