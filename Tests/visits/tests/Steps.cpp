@@ -112,8 +112,8 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
         discoverCrowd(argument.toInt());
     } else if (verb == "replies") {
         expectReplies(argument.toInt());
-    } else if (verb == "dropped") {
-        expectDropped(argument);
+    } else if (verb == "finding") {
+        expectFinding(argument);
     } else if (verb == "watch") {
         watch();
     } else if (verb == "waited") {
@@ -175,7 +175,7 @@ int Steps::droppedDatagrams() const {
     return number.match(discoveryLine()).captured().toInt();
 }
 
-void Steps::expectDropped(const QString& text) {
+void Steps::expectFinding(const QString& text) {
     if (!text.isEmpty()) {
         expectText("line below Discover", text, [this] { return discoveryLine(); });
     } else if (!discoveryLine().isEmpty()) {
