@@ -9,6 +9,7 @@
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
+#include "doubles/QuietLineText.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
@@ -16,7 +17,6 @@
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
-#include "words/RequestTargetText.h"
 
 #include <gtest/gtest.h>
 
@@ -146,23 +146,9 @@ protected:
 
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
 
-    // The warning in front of the quiet line, and what stands behind it.
-    std::string warning() const {
-        const std::string& text = window.quietLine.text();
-        for (const auto reach :
-             {RequestReach::everybodyWithoutUnit, RequestReach::everybodyWithoutAddress,
-              RequestReach::everybodyAtItsAddress}) {
-            if (text.starts_with(warningOfTarget({.reach = reach}))) {
-                return warningOfTarget({.reach = reach});
-            }
-        }
-        return "";
-    }
-    std::string quietLine() const {
-        const std::string& text = window.quietLine.text();
-        const std::size_t length = warning().size();
-        return length == 0 ? text : text.substr(std::min(length + 1, text.size()));
-    }
+    // The warning in front of the quiet line, and the text behind it.
+    std::string warning() const { return warningIn(window.quietLine.text()); }
+    std::string quietLine() const { return withoutWarning(window.quietLine.text()); }
     std::string discoveryLine() const { return window.discoveryLine.text(); }
 
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }

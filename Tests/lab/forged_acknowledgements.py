@@ -1,16 +1,27 @@
-"""Sends a forged record and then forged acknowledgements in the name of a unit, and counts the datagrams
-that the program sends for them.
+"""Forges a unit and its acknowledgements, and counts the datagrams that the program sends for them.
 
 usage: forged_acknowledgements.py HOST SERIAL COUNT [VICTIM PORT]
 
-HOST is the program's address, SERIAL the unit's serial number in 12 hexadecimal digits. With a VICTIM, an
-address of this host, the record leads there; without one the record has no address, and broadcasts to port
-3520 are counted. Afterwards a reply with the text DONE goes to the program, and the count to the output.
+HOST is the program's address, SERIAL the invented serial number in 12 hexadecimal digits. With a VICTIM, an
+address of this host, the forged record leads there; without one the record has no address, and broadcasts to
+port 3520 are counted. The first line of the input lets the record go, the second one the acknowledgements.
+Three seconds later a reply with the text DONE goes to the program, and the count to the output.
 """
 
 import socket
 import sys
 import time
+
+
+def datagrams(counter, seconds):
+    """The datagrams that come within this time."""
+    end = time.monotonic() + seconds
+    while (left := end - time.monotonic()) > 0:
+        counter.settimeout(left)
+        try:
+            yield counter.recv(2048)
+        except TimeoutError:
+            return
 
 
 def main():
@@ -26,18 +37,13 @@ def main():
     counter.setsockopt(socket.SOL_SOCKET, socket.SO_RCVBUF, 1 << 20)
     counter.bind(victim or ("", 3520))
     sender = socket.socket(socket.AF_INET, socket.SOCK_DGRAM)
+    sys.stdin.readline()
     sender.sendto(header + record, (host, 3520))
+    sys.stdin.readline()
+    list(datagrams(counter, 0.1))  # what came before does not count
     for _ in range(count):
         sender.sendto(header + b"ok\r", (host, 3520))
-
-    heard = 0
-    end = time.monotonic() + 3
-    while (left := end - time.monotonic()) > 0:
-        counter.settimeout(left)
-        try:
-            heard += counter.recv(2048) == b"^^IdX"
-        except TimeoutError:
-            break
+    heard = list(datagrams(counter, 3)).count(b"^^IdX")
     sender.sendto(header + b"DONE", (host, 3520))
     print(heard)
 

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Somebody sends a forged record of the selected unit and hundreds of acknowledgements in its name. The
-# program does not become a reflector: twenty requests follow, and one more at the end of the second.
+# Somebody sends the record of a unit that does not exist, a person selects it, and hundreds of
+# acknowledgements come in its name. The program does not become a reflector: twenty requests follow, and
+# one more at the end of the second.
 set -euo pipefail
 here=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=Tests/lab/expectations.sh
@@ -19,18 +20,20 @@ at_far_end ip address add 192.0.2.77/24 broadcast + dev kx1
 
 # The number of datagrams that follow so many acknowledgements; further arguments name the victim.
 datagrams_after() {
-    mkfifo "$scratch/begin"
-    (read -r <"$scratch/begin" &&
-        at_far_end python3 "$here/forged_acknowledgements.py" 192.0.2.1 4B5800000001 "$@") \
-        >"$scratch/count" &
+    mkfifo "$scratch/orders"
+    at_far_end python3 "$here/forged_acknowledgements.py" 192.0.2.1 000000000001 "$@" \
+        <>"$scratch/orders" >"$scratch/count" &
     local forger=$!
     KX_STEPS="press logDrawerButton
         interface kx0
         discover 1
-        run echo begin >$scratch/begin
-        logs DONE" "$kxconfig" || fail 'the visit failed'
+        run echo record >$scratch/orders
+        discover 2
+        unit 00 00 00 00 00 01
+        run echo acknowledge >$scratch/orders
+        logs DONE" "$kxconfig" >"$scratch/report" || fail "the visit failed: $(<"$scratch/report")"
     wait "$forger" || fail 'the forger failed'
-    rm "$scratch/begin"
+    rm "$scratch/orders"
     cat "$scratch/count"
 }
 

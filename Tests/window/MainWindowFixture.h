@@ -8,6 +8,7 @@
 #include "core/UnitReplies.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
+#include "doubles/QuietLineText.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
@@ -102,9 +103,10 @@ protected:
             .toString()
             .toStdString();
     }
+    // Without the warning in front of it.
     std::string quietLine() {
         const auto& line = control<QLabel>("quietLine");
-        return line.isVisible() ? line.text().toStdString() : "(hidden)";
+        return line.isVisible() ? withoutWarning(line.text().toStdString()) : "(hidden)";
     }
 
     // The commands sent since the last call, without their addresses.
