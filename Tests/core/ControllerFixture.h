@@ -57,13 +57,17 @@ inline Lines linesOf(const std::vector<RecordedTableView::Row>& rows) {
 
 class ControllerTest : public ::testing::Test {
 protected:
-    ControllerTest() { window.editParameterTableView.setDataSource(&controller); }
+    ControllerTest() {
+        window.editParameterTableView.setDataSource(&controller);
+        systemCalls.addLink("eth0", 2);
+        systemCalls.addLink("wlan0", 3);
+    }
 
     void launch() { controller.applicationDidFinishLaunching(); }
 
-    // A datagram arrives at the listener's socket.
+    // A datagram of an honest unit arrives at the listener's socket.
     void receive(const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520));
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 

@@ -36,7 +36,11 @@ namespace kx {
 
 class MainWindowTest : public ::testing::Test {
 public:
-    MainWindowTest() { window.connectActions(controller); }
+    MainWindowTest() {
+        window.connectActions(controller);
+        systemCalls.addLink("eth0", 2);
+        systemCalls.addLink("wlan0", 3);
+    }
     ~MainWindowTest() override { window.disconnectActions(); }
 
 protected:
@@ -54,8 +58,7 @@ protected:
     // Two units answer a discovery, which is then completed.
     void launchWithTwoUnits() {
         launchWithInterface();
-        SampleUnit second;
-        second.serial.back() = 7;
+        SampleUnit second = secondSampleUnit();
         second.unitID.back() = 43;
         receive(SampleUnit().reply());
         receive(second.reply());
@@ -63,7 +66,7 @@ protected:
     }
 
     void receive(const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520));
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 

@@ -78,7 +78,8 @@ TEST_F(MainWindowSpeech, ANoteThatComesAgainIsSaidAgain) {
     launch();
     const ScreenReader listening(&hear);
     click("sendOptionButton");
-    EXPECT_TRUE(hears("Not sent: No unit is selected."));
+    EXPECT_TRUE(hears("No unit is selected: Restore Defaults, like Reload, reaches every unit that "
+                      "hears it. Not sent: No unit is selected."));
     click("sendOptionButton");
     EXPECT_TRUE(QTest::qWaitFor([] { return heard().size() == 2; }));
     EXPECT_EQ(heard().front(), heard().back());
