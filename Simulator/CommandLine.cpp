@@ -59,6 +59,13 @@ constexpr Option optionTable[] = {
      }},
     {"--network", "ADDRESS/LENGTH", "the units' network; default 192.0.2.0/24",
      [](CommandLine& line, const std::string& value) { line.network = networkOf(value); }},
+    {"--broadcasts", "any|own", "which ones a unit takes: any, or its own subnet's; default any",
+     [](CommandLine& line, const std::string& value) {
+         if (value != "any" && value != "own") {
+             throw UsageFailure("needs any or own, not \"" + value + '"');
+         }
+         line.ignoresOtherSubnets = value == "own";
+     }},
     {"--late", "MS", "every reply leaves MS milliseconds late",
      [](CommandLine& line, const std::string& value) {
          line.faults.late = std::chrono::milliseconds(numberOf(value, 0, 60'000));

@@ -17,6 +17,7 @@ struct CommandLine {
     unsigned count = 3;
     unsigned first = 1;
     Network network{.base = 0xC0000200, .prefixLength = 24};
+    bool ignoresOtherSubnets = false; // units ignore a broadcast for another subnet
     FaultPlan faults;
     unsigned floodPerSecond = 0;
     std::optional<std::string> recordPath;

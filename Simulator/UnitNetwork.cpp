@@ -60,10 +60,22 @@ void UnitNetwork::answerRequest(const ArpRequest& request, Frames& frames) const
     }
 }
 
+bool UnitNetwork::takesBroadcast(const SimulatedUnit& unit, IPv4 destination) const {
+    constexpr IPv4 everywhere = 0xFFFFFFFF;
+    if (!_subnetPrefixLength || destination == everywhere) {
+        return true;
+    }
+    const IPv4 hostBits = *_subnetPrefixLength >= 32 ? 0 : everywhere >> *_subnetPrefixLength;
+    return destination == (unit.settings().address | hostBits) ||
+           destination == unit.settings().address;
+}
+
 void UnitNetwork::deliver(const Datagram& datagram, Frames& frames) {
     if (datagram.destination.hardware == broadcastHardware) {
         for (std::size_t unit = 0; unit < _units.size(); ++unit) {
-            deliverToUnit(unit, datagram, frames);
+            if (takesBroadcast(_units[unit], datagram.destination.address)) {
+                deliverToUnit(unit, datagram, frames);
+            }
         }
         return;
     }

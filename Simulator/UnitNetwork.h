@@ -33,6 +33,10 @@ public:
 
     UnitNetwork(std::vector<SimulatedUnit> units, const FaultPlan& plan, Observer observer);
 
+    // From now on a unit ignores a broadcast for another subnet than that of its own address, as
+    // many hosts do. It still takes one to 255.255.255.255.
+    void ignoreOtherSubnets(unsigned prefixLength) { _subnetPrefixLength = prefixLength; }
+
     // The frames that the units send in answer to `frame`, in the order in which they leave.
     std::vector<OutgoingFrame> receive(ByteView frame, UdpChecksum checksum);
 
@@ -48,6 +52,7 @@ public:
 private:
     using Frames = std::vector<OutgoingFrame>;
 
+    bool takesBroadcast(const SimulatedUnit& unit, IPv4 destination) const;
     void answerRequest(const ArpRequest& request, Frames& frames) const;
     void deliver(const Datagram& datagram, Frames& frames);
     void deliverToUnit(std::size_t unit, const Datagram& datagram, Frames& frames);
@@ -56,6 +61,7 @@ private:
 
     std::vector<SimulatedUnit> _units;
     FaultInjector _faults;
+    std::optional<unsigned> _subnetPrefixLength; // absent while units take every broadcast
     Observer _observer;
 
     // Several units may hold the same address, as in a misconfigured network.

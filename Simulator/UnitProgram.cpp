@@ -76,7 +76,11 @@ public:
                    [&record](const SimulatedUnit& unit, const Datagram& datagram) {
                        record.addCommand(unit, datagram);
                    })
-        , _flood(line.floodPerSecond, Clock::now()) {}
+        , _flood(line.floodPerSecond, Clock::now()) {
+        if (line.ignoresOtherSubnets) {
+            _network.ignoreOtherSubnets(line.network.prefixLength);
+        }
+    }
 
     void run() {
         waitForWork();

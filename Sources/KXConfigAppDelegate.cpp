@@ -17,6 +17,7 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
                 .systemCalls = services.systemCalls,
                 .receiveBuffers = services.receiveBuffers},
                _devicesD, *this, this)
+    , _requestPace(services.runLoop, [this] { requestParametersOwed(); })
     , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); }) {}
 
 KXConfigAppDelegate::~KXConfigAppDelegate() = default;
@@ -38,12 +39,15 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _auth.reset();
     _textBeingTyped.reset();
     _quietLine.showForecast({});
+    _shownTarget.reset();
+    showTarget();
     discoverButton();
     optionCommandPopUp();
 }
 
 void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
+    _requestPace.reset();
     logText.clear();
     _session.stop();
     _devicesD.clear();
@@ -100,18 +104,34 @@ void KXConfigAppDelegate::interfacePopUpWillOpen() {
 }
 
 void KXConfigAppDelegate::interfaceSelect() {
-    const auto title = _outlets.interfacePopUp->titleOfSelectedItem();
-    _chosenInterface = title;
+    // Without interfaces the pop-up holds a message, which is none.
+    _chosenInterface =
+        _interfaceTitles.empty() ? std::nullopt : _outlets.interfacePopUp->titleOfSelectedItem();
     const auto chosen =
-        title.has_value() && _services.networkInterfaces != nullptr
-            ? addressOfInterface(*_services.networkInterfaces, bsdNameForTitle(*title))
+        _chosenInterface.has_value() && _services.networkInterfaces != nullptr
+            ? addressOfInterface(*_services.networkInterfaces, bsdNameForTitle(*_chosenInterface))
             : InterfaceAddress();
     localAddress = chosen.address;
     localMask = chosen.mask;
+    showTarget();
+}
+
+std::optional<ChosenInterface> KXConfigAppDelegate::chosenInterface() const {
+    if (!_chosenInterface.has_value()) {
+        return std::nullopt;
+    }
+    return ChosenInterface{.name = bsdNameForTitle(*_chosenInterface),
+                           .address = {.address = localAddress, .mask = localMask}};
 }
 
 std::uint32_t KXConfigAppDelegate::broadcastAddress() const {
     return directedBroadcastAddress(localAddress, localMask);
+}
+
+Everybody KXConfigAppDelegate::everybody() {
+    const auto chosen = chosenInterface();
+    return {.address = broadcastAddress(),
+            .link = chosen.has_value() ? _session.linkForName(chosen->name) : 0};
 }
 
 void KXConfigAppDelegate::udpPortSelect() {

@@ -17,9 +17,13 @@
 #include "KXParameterEntry.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
+#include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
+#include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
 #include "conversation/InterfaceAddress.h"
+#include "conversation/RequestPace.h"
+#include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
 #include "conversation/UnitSession.h"
 #include "support/Authorization.h"
@@ -219,11 +223,18 @@ private:
 
     void listInterfaces(std::vector<std::string> titles);
     std::vector<std::string> currentInterfaceTitles() const;
+    std::optional<ChosenInterface> chosenInterface() const;
+
+    // Every unit on the chosen interface's link. Before a choice the routes decide.
     std::uint32_t broadcastAddress() const;
+    Everybody everybody();
+
+    // The link on which the selected unit was heard last; 0 when none is selected.
+    std::uint32_t linkOfSelectedUnit() const;
 
     const UnitRecord* selectedRecord() const;
     std::optional<std::string> selectedText(UnitParameter parameter) const;
-    UnitDestination unitDestination() const;
+    UnitDestination unitDestination();
     CommandTarget commandTarget() const;
 
     void didStartListenerWithAddress(const Bytes& address);
@@ -232,7 +243,10 @@ private:
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
+    void requestParametersOwed();
 
+    void beginFindings();
+    void showFindings();
     void discoverComplete();
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
@@ -247,8 +261,9 @@ private:
                                     const std::optional<std::string>& ip) const;
 
     void limitLog();
-    void showMissing();
 
+    // Says whom Reload and Restore Defaults reach now. Called after every change of that.
+    void showTarget();
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -272,6 +287,9 @@ private:
     const std::shared_ptr<UDPEcho>& _udpListener = _session.listener(); // null when there is none
     std::optional<SendFailure> _sendFailure; // failure of the latest command; absent when it left
     ShownParameterNames _shownNames;         // those of the language at the launch
+    RequestPace _requestPace;
+    std::optional<std::string> _acceptedSince; // selected unit whose request is owed
+    DiscoveryFindings _findings;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::shared_ptr<Authorization> _auth;              // null until an ARP entry is written
@@ -279,10 +297,8 @@ private:
     ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
+    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
-    std::uint32_t _droppedDatagrams = 0;          // since the listener started
-    std::uint64_t _forgottenUnitsAtDiscovery = 0; // forgotten before the latest Discover
-    bool _saysForgottenUnits = false;             // the line under Discover does
 };
 
 } // namespace kx

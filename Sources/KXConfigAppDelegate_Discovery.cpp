@@ -2,6 +2,7 @@
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
 #include "words/EventLogEntries.h"
+#include "words/FindingText.h"
 #include "words/SendFailureText.h"
 
 #include <utility>
@@ -16,13 +17,28 @@ void KXConfigAppDelegate::discoverButton() {
     _outlets.logTextView->setString(logText);
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
-    _forgottenUnitsAtDiscovery = _devicesD.forgottenUnits();
-    if (_saysForgottenUnits) {
-        showMissing();
-    }
+    beginFindings();
     _session.start(static_cast<std::size_t>(port));
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
+}
+
+// Address and mask of the chosen interface stay as they were at the choice, and nothing tells when
+// they change. So each discovery looks.
+void KXConfigAppDelegate::beginFindings() {
+    const auto chosen = chosenInterface();
+    std::optional<InterfaceFinding> fault;
+    if (chosen.has_value() && _services.networkInterfaces != nullptr) {
+        const bool exists = _session.linkForName(chosen->name) != noSuchLink;
+        fault = faultOfInterface(*_services.networkInterfaces, *chosen, exists);
+    }
+    _findings.begin(std::move(fault), _devicesD.forgottenUnits());
+    showFindings();
+}
+
+void KXConfigAppDelegate::showFindings() {
+    const auto finding = _findings.weightiest();
+    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding) : "");
 }
 
 void KXConfigAppDelegate::discoverComplete() {
@@ -62,6 +78,7 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
         }
     }
     _outlets.unitParameterTableView->reloadData();
+    showTarget();
     refreshForecast();
 }
 

@@ -3,6 +3,7 @@
 #include "units/UnitCommand.h"
 #include "words/EditForecast.h"
 #include "words/EventLogEntries.h"
+#include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
 #include <utility>
@@ -140,6 +141,7 @@ void KXConfigAppDelegate::edit_internalIP() {
     arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
+        showTarget();
     }
     if (sendCommandToAddress(move.command, move.typed)) {
         EditOutcome outcome(move, std::move(unit), _sendFailure);
@@ -197,8 +199,7 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
     _arpEntry = {.state = ARPEntryState::rightsNotGiven};
     const auto arguments = argumentsForARP(hardwareAddress, ip);
     const auto authorization = authorizationForARP(); // stays when the application ends meanwhile
-    const bool isAuthenticated =
-        authorization != nullptr && authorization->authenticate(arguments);
+    const bool isAuthenticated = authorization != nullptr && authorization->authenticate(arguments);
     if (_auth != authorization) {
         return -1; // the application has ended
     }
@@ -257,6 +258,12 @@ void KXConfigAppDelegate::sendOptionButton() {
 }
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
+    if (_selectedUnit.has_value() && _shownTarget.has_value() &&
+        _shownTarget->reach == RequestReach::oneUnit) {
+        _findings.expectChange(*_selectedUnit);
+    } else {
+        _findings.expectChanges();
+    }
     const auto failure = sendRequest(restoreCommand, unitDestination());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
     showFailureOrForecast(failure);
@@ -273,6 +280,17 @@ void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
         _textBeingTyped = text;
         showForecast();
     }
+}
+
+void KXConfigAppDelegate::showTarget() {
+    const RequestTarget target = targetOfRequest(selectedRecord(), broadcastAddress());
+    if (_shownTarget == target) {
+        return;
+    }
+    _shownTarget = target;
+    _quietLine.setWarning(warningOfTarget(target));
+    _outlets.reloadButton->setDescription(descriptionOfReload(target));
+    _outlets.restoreButton->setDescription(descriptionOfRestore(target));
 }
 
 CommandTarget KXConfigAppDelegate::commandTarget() const {

@@ -4,9 +4,7 @@
 #include "support/QuotedLines.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
-#include "words/DroppedDatagramsText.h"
 #include "words/EventLogEntries.h"
-#include "words/ForgottenUnitsText.h"
 
 #include <utility>
 
@@ -21,7 +19,11 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         return false;
     }
     appendString(entryOfCommand(*command, *address));
-    _sendFailure = _session.send(*command, ipForString(*address), unitDestination().port);
+    if (_selectedUnit.has_value()) {
+        _findings.expectChange(*_selectedUnit);
+    }
+    _sendFailure = _session.send(*command, ipForString(*address), unitDestination().port,
+                                 linkOfSelectedUnit());
     return true;
 }
 
@@ -32,7 +34,7 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
-    return _session.send(command, destination.address, destination.port);
+    return _session.send(command, destination.address, destination.port, destination.link);
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {
@@ -51,8 +53,13 @@ std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter param
     return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
 }
 
-UnitDestination KXConfigAppDelegate::unitDestination() const {
-    return destinationOfUnit(selectedRecord(), broadcastAddress());
+UnitDestination KXConfigAppDelegate::unitDestination() {
+    return destinationOfUnit(selectedRecord(), everybody());
+}
+
+std::uint32_t KXConfigAppDelegate::linkOfSelectedUnit() const {
+    const UnitRecord* const record = selectedRecord();
+    return record != nullptr ? record->link() : 0;
 }
 
 // --- The session's events ---
@@ -72,7 +79,9 @@ void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
 }
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
-    sendRequest(parameterRequestCommand, {.address = broadcastAddress(), .port = defaultUnitPort});
+    const Everybody all = everybody();
+    sendRequest(parameterRequestCommand,
+                {.address = all.address, .port = defaultUnitPort, .link = all.link});
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
@@ -96,15 +105,16 @@ void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind,
 
 void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DecodedUnitParameters& parameters,
-                                                const DatagramOrigin& /*origin*/) {
+                                                const DatagramOrigin& origin) {
+    const bool areNew = _findings.unitDidTell(parameters.record, origin);
+    if (_findings.setForgottenUnits(_devicesD.forgottenUnits()) || areNew) {
+        showFindings();
+    }
     appendString(entryOfReply(reply, unitParameters(parameters)));
 }
 
 // Shows what a unit told, and returns its text for the event log.
 std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters) {
-    if (_devicesD.forgottenUnits() != _forgottenUnitsAtDiscovery && !_saysForgottenUnits) {
-        showMissing();
-    }
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
         if (serial == _selectedUnit) {
             showSelectedUnit();
@@ -116,13 +126,25 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
     return linesOfParameters(parameters.items, _shownNames);
 }
 
-// The log has the request before the acknowledgement.
+// The log has the request before the acknowledgement. When too many acknowledgements come at once,
+// one request follows them later.
 void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
-    const auto failure = requestParametersOfUnit();
-    if (reply.serialNumber.has_value()) {
-        _quietLine.unitDidAccept(*reply.serialNumber, failure);
+    if (_requestPace.admits()) {
+        const auto failure = requestParametersOfUnit();
+        if (reply.serialNumber.has_value()) {
+            _quietLine.unitDidAccept(*reply.serialNumber, failure);
+        }
+    } else if (reply.serialNumber == _selectedUnit) {
+        _acceptedSince = reply.serialNumber;
     }
     appendString(entryOfReply(reply, ""));
+}
+
+void KXConfigAppDelegate::requestParametersOwed() {
+    const auto failure = requestParametersOfUnit();
+    if (const auto accepted = std::exchange(_acceptedSince, std::nullopt)) {
+        _quietLine.unitDidAccept(*accepted, failure);
+    }
 }
 
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
@@ -149,18 +171,8 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 }
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
-    _droppedDatagrams = datagrams;
-    showMissing();
-}
-
-// --- The line under Discover ---
-
-void KXConfigAppDelegate::showMissing() {
-    _saysForgottenUnits = _devicesD.forgottenUnits() != _forgottenUnitsAtDiscovery;
-    const std::string dropped = textOfDroppedDatagrams(_droppedDatagrams);
-    const std::string forgotten = textOfForgottenUnits(_saysForgottenUnits);
-    const bool areBoth = !dropped.empty() && !forgotten.empty();
-    _outlets.dropLine->setStringValue(dropped + (areBoth ? " " : "") + forgotten);
+    _findings.setDropped(datagrams);
+    showFindings();
 }
 
 // --- The endpoint's events ---

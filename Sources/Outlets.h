@@ -46,6 +46,15 @@ public:
     virtual void setEnabled(bool enabled) = 0;
 };
 
+class Button {
+public:
+    virtual ~Button() = default;
+
+    // A sentence that says what pressing the button does: its tool tip, and its description for a
+    // screen reader.
+    virtual void setDescription(std::string_view text) = 0;
+};
+
 class TextField {
 public:
     virtual ~TextField() = default;
@@ -143,15 +152,17 @@ struct MainWindowOutlets {
     Window* window = nullptr;
     PopUpButton* interfacePopUp = nullptr;
     PopUpButton* udpPortPopUp = nullptr;
-    TextLabel* dropLine = nullptr; // says what is missing: dropped datagrams, forgotten units
+    TextLabel* discoveryLine = nullptr; // says the weightiest finding of the latest discovery
     PopUpButton* unitSelectPopUp = nullptr;
     TextField* unitIDField = nullptr;
+    Button* reloadButton = nullptr;
     TableView* unitParameterTableView = nullptr;
     GXArrayTable* unitParameterTable = nullptr;  // the data source of unitParameterTableView
     TableView* editParameterTableView = nullptr; // its data source is the controller
     TextLabel* quietLine = nullptr;              // says what Apply will send, and its outcome
     PopUpButton* optionCommandPopUp = nullptr;
     TextField* optionCommandField = nullptr;
+    Button* restoreButton = nullptr;
     Drawer* eventLogDrawer = nullptr;
     TextView* logTextView = nullptr;
     Alert* alert = nullptr;

@@ -560,16 +560,6 @@
         <translation>Geräte-ID %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>„Anwenden“ sendet %@: %@.</translation>
@@ -942,9 +932,94 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
 Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
         <translation>Mehr als 1.048.576 Geräte haben geantwortet; in der Liste fehlen deshalb die, die am längsten nicht gehört wurden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
+        <translation>Die Schnittstelle %@ ist verschwunden, darum wurde kein Broadcast gesendet. Wählen Sie eine andere, oder schließen Sie sie wieder an.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has no link. Is its cable plugged in, and the device at the other end switched on?</source>
+        <translation>Die Schnittstelle %@ hat keine Verbindung. Steckt das Kabel, und ist das Gerät am anderen Ende eingeschaltet?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ reaches no unit by broadcast. Choose the one that leads to the units.</source>
+        <translation>Die Schnittstelle %@ erreicht kein Gerät durch Broadcast. Wählen Sie die, die zu den Geräten führt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has lost the address that it had when it was chosen. When it has one again, choose it again.</source>
+        <translation>Die Schnittstelle %@ hat die Adresse verloren, die sie bei der Auswahl hatte. Wählen Sie sie neu, wenn sie wieder eine hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The address and mask of the interface %@ are out of date: they have changed since it was chosen. Choose it again to take the new ones over.</source>
+        <translation>Adresse und Maske der Schnittstelle %@ sind veraltet: Sie haben sich seit der Auswahl geändert. Wählen Sie sie neu, um die neuen zu übernehmen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat 1 Datagramm verworfen, bevor es gelesen wurde; vielleicht fehlt ein Gerät. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two hosts answer as the unit %@: %@ and %@.</source>
+        <translation>Zwei Rechner antworten als das Gerät %@: %@ und %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
+        <translation>Zwei Geräte geben als ihre Adresse %@ an: %@ und %@. Ein Befehl kann jedes von beiden erreichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ says that its address is %@, but its answer came from %@.</source>
+        <translation>Das Gerät %@ gibt als seine Adresse %@ an, aber seine Antwort kam von %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Kein Gerät ist ausgewählt: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>The address of this unit is not known: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Die Adresse dieses Geräts ist nicht bekannt: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Dieses Gerät nennt eine Adresse vieler als seine eigene: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks the unit at %@ for its parameters.</source>
+        <translation>Fragt das Gerät mit der Adresse %@ nach seinen Parametern.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks every unit that hears it for its parameters.</source>
+        <translation>Fragt jedes Gerät, das es hört, nach seinen Parametern.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets the unit at %@ to its factory settings.</source>
+        <translation>Setzt das Gerät mit der Adresse %@ auf seine Werkseinstellungen zurück.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets every unit that hears it to its factory settings.</source>
+        <translation>Setzt jedes Gerät, das es hört, auf seine Werkseinstellungen zurück.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

@@ -560,16 +560,6 @@
         <translation>identificador de unidad %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>«Aplicar» envía %@: %@.</translation>
@@ -942,9 +932,94 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
 No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
         <translation>Han respondido más de 1.048.576 unidades, por lo que en la lista faltan las que no se han oído desde hace más tiempo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
+        <translation>La interfaz %@ ha desaparecido, por lo que no se envió ninguna difusión. Elija otra o vuelva a conectarla.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has no link. Is its cable plugged in, and the device at the other end switched on?</source>
+        <translation>La interfaz %@ no tiene enlace. ¿Está conectado el cable y encendido el aparato del otro extremo?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ reaches no unit by broadcast. Choose the one that leads to the units.</source>
+        <translation>La interfaz %@ no llega a ninguna unidad por difusión. Elija la que lleva a las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has lost the address that it had when it was chosen. When it has one again, choose it again.</source>
+        <translation>La interfaz %@ ha perdido la dirección que tenía al elegirla. Cuando vuelva a tener una, elíjala otra vez.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The address and mask of the interface %@ are out of date: they have changed since it was chosen. Choose it again to take the new ones over.</source>
+        <translation>La dirección y la máscara de la interfaz %@ no están al día: han cambiado desde que se eligió. Elíjala otra vez para tomar las nuevas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó 1 datagrama antes de que se leyera, por lo que puede faltar una unidad. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two hosts answer as the unit %@: %@ and %@.</source>
+        <translation>Dos equipos responden como la unidad %@: %@ y %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
+        <translation>Dos unidades dicen que su dirección es %@: %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ says that its address is %@, but its answer came from %@.</source>
+        <translation>La unidad %@ dice que su dirección es %@, pero su respuesta llegó de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>No hay ninguna unidad seleccionada: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>The address of this unit is not known: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>No se conoce la dirección de esta unidad: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Esta unidad da como suya una dirección colectiva: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks the unit at %@ for its parameters.</source>
+        <translation>Pide sus parámetros a la unidad con la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks every unit that hears it for its parameters.</source>
+        <translation>Pide sus parámetros a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets the unit at %@ to its factory settings.</source>
+        <translation>Restablece los valores de fábrica de la unidad con la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets every unit that hears it to its factory settings.</source>
+        <translation>Restablece los valores de fábrica de todas las unidades que lo oyen.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

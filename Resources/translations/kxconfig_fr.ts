@@ -560,16 +560,6 @@
         <translation>identifiant d’unité %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>« Appliquer » envoie %@ : %@.</translation>
@@ -942,9 +932,94 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
 L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octets</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
         <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
+        <translation>L’interface %@ a disparu, aucune diffusion n’a donc été envoyée. Choisissez-en une autre ou rebranchez-la.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has no link. Is its cable plugged in, and the device at the other end switched on?</source>
+        <translation>L’interface %@ n’a pas de liaison. Son câble est-il branché, et l’appareil à l’autre bout est-il allumé ?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ reaches no unit by broadcast. Choose the one that leads to the units.</source>
+        <translation>L’interface %@ n’atteint aucune unité par diffusion. Choisissez celle qui mène aux unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has lost the address that it had when it was chosen. When it has one again, choose it again.</source>
+        <translation>L’interface %@ a perdu l’adresse qu’elle avait quand elle a été choisie. Choisissez-la de nouveau quand elle en aura une.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The address and mask of the interface %@ are out of date: they have changed since it was chosen. Choose it again to take the new ones over.</source>
+        <translation>L’adresse et le masque de l’interface %@ ne sont plus à jour : ils ont changé depuis qu’elle a été choisie. Choisissez-la de nouveau pour reprendre les nouveaux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté 1 datagramme avant sa lecture ; il manque peut-être une unité. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two hosts answer as the unit %@: %@ and %@.</source>
+        <translation>Deux hôtes répondent comme l’unité %@ : %@ et %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
+        <translation>Deux unités indiquent comme adresse %@ : %@ et %@. Une commande peut atteindre l’une ou l’autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ says that its address is %@, but its answer came from %@.</source>
+        <translation>L’unité %@ indique comme adresse %@, mais sa réponse est venue de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Aucune unité n’est sélectionnée : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>The address of this unit is not known: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>L’adresse de cette unité n’est pas connue : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>Cette unité donne comme sienne une adresse collective : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks the unit at %@ for its parameters.</source>
+        <translation>Demande ses paramètres à l’unité à l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks every unit that hears it for its parameters.</source>
+        <translation>Demande leurs paramètres à toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets the unit at %@ to its factory settings.</source>
+        <translation>Rétablit les réglages d’usine de l’unité à l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets every unit that hears it to its factory settings.</source>
+        <translation>Rétablit les réglages d’usine de toutes les unités qui l’entendent.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

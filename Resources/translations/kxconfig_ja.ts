@@ -560,16 +560,6 @@
         <translation>ユニット ID %@</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
-        <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/DroppedDatagramsText.cpp"/>
-        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
-        <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
-    </message>
-    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>「適用」を押すと %@ を送信します: %@。</translation>
@@ -942,9 +932,94 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
 ユニット ID を 6 バイトの UTF-8 文字列に変換できませんでした</translation>
     </message>
     <message>
-        <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
         <translation>1,048,576 台を超えるユニットが応答したため、最も長く応答を確認していないユニットは一覧に表示されません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
+        <translation>インターフェース %@ がなくなったため、ブロードキャストは送信されませんでした。別のものを選ぶか、元に戻してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has no link. Is its cable plugged in, and the device at the other end switched on?</source>
+        <translation>インターフェース %@ にリンクがありません。ケーブルは差し込まれ、相手側の機器の電源は入っていますか？</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ reaches no unit by broadcast. Choose the one that leads to the units.</source>
+        <translation>インターフェース %@ からはブロードキャストがどのユニットにも届きません。ユニットにつながるものを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The interface %@ has lost the address that it had when it was chosen. When it has one again, choose it again.</source>
+        <translation>インターフェース %@ は、選択したときのアドレスを失いました。再びアドレスを得たら、もう一度選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The address and mask of the interface %@ are out of date: they have changed since it was chosen. Choose it again to take the new ones over.</source>
+        <translation>インターフェース %@ のアドレスとマスクは古くなっています: 選択後に変わりました。新しいものを使うには、もう一度選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped 1 datagram before it was read, so a unit may be missing. Help says how to allow a larger buffer.</source>
+        <translation>1 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
+        <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two hosts answer as the unit %@: %@ and %@.</source>
+        <translation>2 台のホストがユニット %@ として応答しています: %@ と %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
+        <translation>2 台のユニットがアドレス %@ を名乗っています: %@ と %@。コマンドはどちらに届くかわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ says that its address is %@, but its answer came from %@.</source>
+        <translation>ユニット %@ は自分のアドレスを %@ としていますが、応答は %@ から届きました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>ユニットが選択されていません: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>The address of this unit is not known: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>このユニットのアドレスがわかりません: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
+        <translation>このユニットは多数宛てのアドレスを自分のものとしています: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks the unit at %@ for its parameters.</source>
+        <translation>アドレス %@ のユニットにパラメータを要求します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Asks every unit that hears it for its parameters.</source>
+        <translation>受信したすべてのユニットにパラメータを要求します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets the unit at %@ to its factory settings.</source>
+        <translation>アドレス %@ のユニットを工場出荷時設定に戻します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestTargetText.cpp"/>
+        <source>Resets every unit that hears it to its factory settings.</source>
+        <translation>受信したすべてのユニットを工場出荷時設定に戻します。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

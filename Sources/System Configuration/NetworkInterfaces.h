@@ -15,6 +15,12 @@
 
 namespace kx {
 
+// What an interface can do now.
+struct InterfaceState {
+    bool isRunning = false;    // up and with a carrier
+    bool canBroadcast = false; // several hosts may be on its link, and hear one datagram
+};
+
 class NetworkInterfaces {
 public:
     virtual ~NetworkInterfaces() = default;
@@ -34,6 +40,10 @@ public:
     virtual std::optional<PropertyListValue>
     serviceDataForDictionaryNameKey(std::string_view serviceID, std::string_view dictionaryName,
                                     std::string_view key) = 0;
+
+    // The state of the kernel's interface of this name; absent when there is none, and when the
+    // kernel does not tell.
+    virtual std::optional<InterfaceState> interfaceState(std::string_view bsdName) = 0;
 };
 
 } // namespace kx

@@ -13,7 +13,10 @@ constexpr std::size_t shortestMessage = 4; // up to and including the type byte
 constexpr std::size_t typeOffset = 3;
 constexpr std::size_t presenceMaskOffset = 4;
 constexpr std::size_t flagsOffset = 8;
-constexpr std::uint32_t interfaceIsUp = 1U << 0U;
+constexpr std::uint32_t interfaceIsUp = 0x1;
+constexpr std::uint32_t interfaceCanBroadcast = 0x2;
+constexpr std::uint32_t interfaceIsPointToPoint = 0x10;
+constexpr std::uint32_t interfaceIsRunning = 0x40;
 
 constexpr std::size_t familyOffset = 1;
 constexpr std::size_t nameLengthOffset = 5;
@@ -96,7 +99,11 @@ std::optional<InterfaceMessage> interfaceMessage(ByteView message) {
     }
     InterfaceMessage result;
     result.name = textFromUTF8(name);
-    result.isUp = (hostNumberAt<std::uint32_t>(message, flagsOffset) & interfaceIsUp) != 0;
+    const auto flags = hostNumberAt<std::uint32_t>(message, flagsOffset);
+    result.isUp = (flags & interfaceIsUp) != 0;
+    result.isRunning = (flags & interfaceIsRunning) != 0;
+    result.canBroadcast = (flags & interfaceCanBroadcast) != 0;
+    result.isPointToPoint = (flags & interfaceIsPointToPoint) != 0;
     result.hardwareAddress = wholeRange(link, nameOffset + name.size(), link[addressLengthOffset]);
     return result;
 }

@@ -51,6 +51,9 @@ std::uint8_t routingMessageType(ByteView message);
 struct InterfaceMessage {
     std::optional<std::string> name; // absent when its bytes are not UTF-8
     bool isUp = false;
+    bool isRunning = false; // it has a carrier
+    bool canBroadcast = false;
+    bool isPointToPoint = false;
     ByteView hardwareAddress; // empty when there is none, or the message ends before it
 };
 

@@ -143,6 +143,8 @@ public:
     staticServiceDataForDictionaryNameKey(std::string_view serviceID,
                                           std::string_view dictionaryName, std::string_view key);
 
+    std::optional<InterfaceState> interfaceState(std::string_view bsdName) override;
+
     // A text for people about a service. Several values are joined with ",". A link is "Active",
     // "Inactive" or "Not reported". A missing value is "not available". An unknown request is "not
     // available" too, and logs "interfaceDataForKey unknown request". A kernel-only identifier gets

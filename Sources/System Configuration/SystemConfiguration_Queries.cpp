@@ -172,6 +172,19 @@ std::string SystemConfiguration::bsdNameInterfaceDataForKey(std::string_view bsd
     return localizedText(notAvailableText);
 }
 
+std::optional<InterfaceState> SystemConfiguration::interfaceState(std::string_view bsdName) {
+    const auto list = getParameter(interfaceListName).value_or(Bytes());
+    for (const ByteView message : routingMessages(list)) {
+        const auto interface = interfaceMessage(message);
+        if (interface.has_value() && interface->name == bsdName) {
+            return InterfaceState{.isRunning = interface->isUp && interface->isRunning,
+                                  .canBroadcast =
+                                      interface->canBroadcast && !interface->isPointToPoint};
+        }
+    }
+    return std::nullopt;
+}
+
 PropertyList SystemConfiguration::_interfaceList(const std::optional<std::string>& bsdName,
                                                  std::string_view dictionaryName,
                                                  std::string_view key) {

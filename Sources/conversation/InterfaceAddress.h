@@ -14,6 +14,8 @@ namespace kx {
 struct InterfaceAddress {
     std::uint32_t address = 0; // 0 when none is known
     std::uint32_t mask = 0;
+
+    friend bool operator==(const InterfaceAddress&, const InterfaceAddress&) = default;
 };
 
 // The first IPv4 address of the service that covers the interface of this name in the system, and

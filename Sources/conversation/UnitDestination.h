@@ -1,6 +1,6 @@
-// The address and the port at which a unit is reached, as far as it has told them.
+// The address, the port and the link by which a unit is reached, as far as they are known.
 //
-// Pure; any thread. Addresses and ports are in host byte order.
+// Pure; any thread. Addresses and ports are in host byte order. Links are indexes of interfaces.
 
 #pragma once
 
@@ -13,6 +13,7 @@ namespace kx {
 struct UnitDestination {
     std::uint32_t address = 0;
     std::uint16_t port = 0;
+    std::uint32_t link = 0; // 0 when the routes decide
 };
 
 // All hosts of the sender's own link (RFC 919), 255.255.255.255.
@@ -21,9 +22,16 @@ inline constexpr std::uint32_t limitedBroadcastAddress = 0xFFFFFFFFU;
 // The broadcast address of the subnet of `address`; 255.255.255.255 for the address 0.
 std::uint32_t directedBroadcastAddress(std::uint32_t address, std::uint32_t mask);
 
-// The address is that of the record, or `everybody` when there is no record or it has no address.
-// The port is the device port in the record, cut to 16 bits, or 3520 when it is absent or empty. An
-// address that does not parse is 0.
-UnitDestination destinationOfUnit(const UnitRecord* record, std::uint32_t everybody);
+// Every unit that hears a broadcast.
+struct Everybody {
+    std::uint32_t address = limitedBroadcastAddress;
+    std::uint32_t link = 0; // 0 when the routes decide
+};
+
+// The address is that of the record, and the link is the one on which the unit was heard last. When
+// there is no record, or it has no address, both are those of `everybody`. The port is the device
+// port in the record, cut to 16 bits, or 3520 when it is absent or empty. An address that does not
+// parse is 0.
+UnitDestination destinationOfUnit(const UnitRecord* record, Everybody everybody);
 
 } // namespace kx

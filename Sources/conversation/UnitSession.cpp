@@ -79,18 +79,28 @@ void UnitSession::stop() {
 // A listener that failed to start stays until the next start. A person who presses a button breaks
 // no contract, so sending through this listener fails like any other send.
 std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint32_t address,
-                                             std::uint16_t port) {
+                                             std::uint16_t port, std::uint32_t link) {
     _sendFailure.reset();
     if (_listener == nullptr) {
         return SendFailure();
     }
     if (isListening()) {
-        _listener->_sendDataToAddress(Bytes(command.begin(), command.end()),
-                                      dataForAddress(address, port));
+        _listener->sendDataToAddressByLink(Bytes(command.begin(), command.end()),
+                                           dataForAddress(address, port), link);
     } else {
         didFailToSend({});
     }
     return std::exchange(_sendFailure, std::nullopt);
+}
+
+// A system that has no descriptor left cannot be asked. The interface is most likely still there.
+std::uint32_t UnitSession::linkForName(const std::string& name) {
+    const std::uint32_t link = _services.systemCalls.linkForName(name);
+    if (link != 0) {
+        _lastLink = {name, link};
+        return link;
+    }
+    return errno != ENODEV && _lastLink.name == name ? _lastLink.index : noSuchLink;
 }
 
 // Told first: what the front sends inside the event has a result of its own.
@@ -158,9 +168,13 @@ void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin&
         return;
     }
     const Reply reply = replyFromDatagram(data);
+    if (reply.serialNumber.has_value()) {
+        _registry.setLink(*reply.serialNumber, origin.link);
+    }
     switch (reply.payloadKind) {
     case PayloadKind::parameterList: {
-        const auto parameters = decodeUnitParameters(reply.payload);
+        auto parameters = decodeUnitParameters(reply.payload);
+        parameters.record.setLink(origin.link);
         _registry.store(parameters.record);
         _observer.unitDidTellParameters(reply, parameters, origin);
         break;

@@ -115,12 +115,19 @@ public:
     const std::shared_ptr<UDPEcho>& listener() const { return _listener; }
     bool isListening() const { return _listener != nullptr && _listener->port() != 0; }
 
-    // Sends the bytes of `command` as one datagram to an IPv4 address and port in host byte order.
-    // They are sent as they are; units understand ASCII only. An empty command fails with EPIPE.
-    // The result is absent when the datagram was sent. The session also reports a failure as an
-    // event, but not that there is no listener.
+    // Sends the bytes of `command` as one datagram to an IPv4 address and port in host byte order,
+    // by the interface with the index `link` (DatagramOrigin::link, or linkForName()). With link 0
+    // the routes decide. When the datagram cannot leave by that interface, the send fails; it takes
+    // no other way. The bytes are sent as they are; units understand ASCII only. An empty command
+    // fails with EPIPE. The result is absent when the datagram was sent. The session also reports
+    // a failure as an event, but not that there is no listener.
     std::optional<SendFailure> send(std::string_view command, std::uint32_t address,
-                                    std::uint16_t port);
+                                    std::uint16_t port, std::uint32_t link);
+
+    // The index of the interface that has this name now; noSuchLink when none has, so that a send
+    // by it fails instead of taking another way. While the system cannot be asked, the index of the
+    // call before, if it was for the same name.
+    std::uint32_t linkForName(const std::string& name);
 
     // --- The endpoint's events ---
 
@@ -145,8 +152,12 @@ private:
     UDPEchoDelegate* _delegate;
     std::shared_ptr<UDPEcho> _listener;
     std::optional<SendFailure> _sendFailure; // failure of the datagram that is being sent
-    std::uint32_t _drops = 0;                // the number that was told last
-    RunLoop::Handle _dropCount;              // runs until the next count of drops
+    struct {
+        std::string name;
+        std::uint32_t index = 0;
+    } _lastLink;                // the interface that was found last
+    std::uint32_t _drops = 0;   // the number that was told last
+    RunLoop::Handle _dropCount; // runs until the next count of drops
 };
 
 } // namespace kx

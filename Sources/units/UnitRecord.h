@@ -1,4 +1,4 @@
-// One unit's parameters as texts.
+// One unit's parameters as texts, and the link on which the unit was heard.
 //
 // A plain value without heap storage: copying one copies its bytes. Any thread, one at a time.
 
@@ -40,7 +40,11 @@ public:
         return address.has_value() && address == other.value(UnitParameter::internalMACAddress);
     }
 
-    // Whether both have the same parameters with the same texts.
+    // The index of the interface by which the unit was heard last; 0 when it is not known.
+    std::uint32_t link() const { return _link; }
+    void setLink(std::uint32_t link) { _link = link; }
+
+    // Whether both have the same parameters with the same texts. The link does not count.
     friend bool operator==(const UnitRecord& left, const UnitRecord& right);
 
 private:
@@ -51,6 +55,7 @@ private:
     };
 
     std::array<Slot, unitParameterCount> _slots;
+    std::uint32_t _link = 0;
 };
 
 } // namespace kx

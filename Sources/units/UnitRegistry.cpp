@@ -87,6 +87,13 @@ void UnitRegistry::withdrawAddress(std::string_view serial) {
     }
 }
 
+void UnitRegistry::setLink(std::string_view serial, std::uint32_t link) {
+    const auto found = _records.find(serial);
+    if (found != _records.end() && link != 0) {
+        found->second.setLink(link);
+    }
+}
+
 std::optional<std::string_view> UnitRegistry::lastToldAddress(std::string_view serial) const {
     const auto withdrawn = _withdrawnAddresses.find(serial);
     if (withdrawn != _withdrawnAddresses.end()) {

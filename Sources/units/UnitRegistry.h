@@ -58,6 +58,10 @@ public:
     // moving to another address. The unit's next record replaces this one.
     void withdrawAddress(std::string_view serial);
 
+    // A known unit was heard by the interface with this index. Does nothing for another unit, and
+    // for link 0, which tells nothing.
+    void setLink(std::string_view serial, std::uint32_t link);
+
     // The internal IP address in a unit's record, or the address that was withdrawn since the unit
     // told its record; absent when the unit told none.
     std::optional<std::string_view> lastToldAddress(std::string_view serial) const;

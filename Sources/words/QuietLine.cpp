@@ -11,7 +11,15 @@ QuietLine::QuietLine(std::function<void(std::string_view text)> show)
 
 void QuietLine::show(std::string_view text) {
     _shown = text;
-    _show(text);
+    const bool both = !_warning.empty() && !text.empty();
+    _show(both ? _warning + ' ' + _shown : _warning + _shown);
+}
+
+void QuietLine::setWarning(std::string warning) {
+    if (warning != _warning) {
+        _warning = std::move(warning);
+        show(std::string(_shown));
+    }
 }
 
 void QuietLine::showForecast(std::string text) {

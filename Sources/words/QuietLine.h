@@ -7,7 +7,8 @@
 //   a message    says, for example, why a command was not sent. It stands until a person does one
 //                of these things, presses Discover or Reload, or opens the help.
 //
-// News from the network ends neither an outcome nor a message.
+// News from the network ends neither an outcome nor a message. A warning may stand in front of all
+// of them; no other sentence takes its place.
 //
 // Main thread only. Texts are UTF-8.
 
@@ -37,6 +38,9 @@ public:
     explicit QuietLine(std::function<void(std::string_view text)> show);
 
     const State& state() const { return _state; }
+
+    // Sets the sentence that stands in front until it is set again; empty for none.
+    void setWarning(std::string warning);
 
     // A person chose, typed or pressed something, so the present sentence ends.
     void showForecast(std::string text);
@@ -68,7 +72,8 @@ private:
     void refreshOutcome();
 
     std::function<void(std::string_view text)> _show;
-    std::string _shown;
+    std::string _shown; // without the warning
+    std::string _warning;
     State _state;
 };
 

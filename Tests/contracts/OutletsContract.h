@@ -9,6 +9,8 @@
 //                void chooseItem(const std::string& title), as a person does; setAction()
 //   text field   TextField& control();
 //                void type(const std::string& text), as a person does; setAction()
+//   button       Button& control(); std::string toolTip(), as a person reads it;
+//                std::string spokenDescription(), as a screen reader says it
 //   text label   TextLabel& control(); std::string shownText()
 //   text view    TextView& control(); std::string text(); bool isEndVisible(), which waits for
 //                the view to show its text
@@ -218,6 +220,28 @@ TYPED_TEST_P(TextFieldContract, SettingTheTextRunsNoAction) {
 REGISTER_TYPED_TEST_SUITE_P(TextFieldContract, TypingRunsTheActionAndGivesTheText,
                             SettingTheTextRunsNoAction, IsEmptyAtFirst, GivesBackTheTextThatWasSet,
                             EmptyTextReplacesWhatWasThere);
+
+// --- Button ---
+
+template<class Trait>
+class ButtonContract : public ::testing::Test {
+protected:
+    Trait trait;
+};
+
+TYPED_TEST_SUITE_P(ButtonContract);
+
+TYPED_TEST_P(ButtonContract, ItsDescriptionIsShownAndSaid) {
+    EXPECT_EQ(this->trait.toolTip(), "");
+    EXPECT_EQ(this->trait.spokenDescription(), "");
+    for (const char* const text : {"Asks the unit at 192.0.2.11.", "<b>&amp;</b> “網路”"}) {
+        this->trait.control().setDescription(text);
+        EXPECT_EQ(this->trait.toolTip(), text);
+        EXPECT_EQ(this->trait.spokenDescription(), text);
+    }
+}
+
+REGISTER_TYPED_TEST_SUITE_P(ButtonContract, ItsDescriptionIsShownAndSaid);
 
 // --- Text label ---
 

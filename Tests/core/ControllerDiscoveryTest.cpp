@@ -332,7 +332,7 @@ TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheL
     const std::string selected = "01 02 03 04 05 06";
     const std::string other = "01 02 03 04 05 07";
     ASSERT_EQ(small.selectedUnit(), selected);
-    EXPECT_EQ(dropLine(), "");
+    EXPECT_EQ(discoveryLine(), "");
     SampleUnit invented;
     for (std::uint8_t number = 0; number < 60; ++number) {
         invented.serial = {0xFF, 0, 0, 0, 0, number};
@@ -341,15 +341,15 @@ TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheL
     constexpr std::string_view sentence =
         "More than 1,048,576 units have answered, so the list leaves out those that were not heard "
         "for longest.";
-    EXPECT_EQ(dropLine(), sentence);
+    EXPECT_EQ(discoveryLine(), sentence);
     EXPECT_EQ(small.devices().size(), 50U);
     EXPECT_TRUE(small.devices().contains(selected));
     EXPECT_FALSE(small.devices().contains(other)) << "it was not heard for longest";
 
     small.discoverButton();
-    EXPECT_EQ(dropLine(), "") << "the line is about the latest Discover";
+    EXPECT_EQ(discoveryLine(), "") << "the line is about the latest Discover";
     discoverRealUnits();
-    EXPECT_EQ(dropLine(), sentence);
+    EXPECT_EQ(discoveryLine(), sentence);
     EXPECT_EQ(small.selectedUnit(), selected);
     window.unitSelectPopUp.selectItemWithTitle(other);
     small.unitSelectPopUp();

@@ -9,6 +9,7 @@
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
+#include "doubles/QuietLineText.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
@@ -56,13 +57,17 @@ inline Lines linesOf(const std::vector<RecordedTableView::Row>& rows) {
 
 class ControllerTest : public ::testing::Test {
 protected:
-    ControllerTest() { window.editParameterTableView.setDataSource(&controller); }
+    ControllerTest() {
+        window.editParameterTableView.setDataSource(&controller);
+        systemCalls.addLink("eth0", 2);
+        systemCalls.addLink("wlan0", 3);
+    }
 
     void launch() { controller.applicationDidFinishLaunching(); }
 
-    // A datagram arrives at the listener's socket.
+    // A datagram of an honest unit arrives at the listener's socket.
     void receive(const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520));
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
@@ -145,8 +150,10 @@ protected:
 
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }
 
-    std::string quietLine() const { return window.quietLine.text(); }
-    std::string dropLine() const { return window.dropLine.text(); }
+    // The warning in front of the quiet line, and the text behind it.
+    std::string warning() const { return warningIn(window.quietLine.text()); }
+    std::string quietLine() const { return withoutWarning(window.quietLine.text()); }
+    std::string discoveryLine() const { return window.discoveryLine.text(); }
 
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
     Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }

@@ -379,4 +379,61 @@ TEST_F(ControllerProtocol, ALineFeedInAUnitIDOrATagForgesNoLineEither) {
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "A\n\tX:1") << "kept as it is";
 }
 
+// --- Many acknowledgements ---
+
+TEST_F(ControllerProtocol, TwentyAcknowledgementsOfASecondAreFollowedAndOneRequestByTheRest) {
+    discover({SampleUnit()});
+    const std::size_t before = sent().size();
+    for (int i = 0; i < 500; ++i) {
+        receive(SampleUnit().acknowledgement());
+    }
+    EXPECT_EQ(sent().size(), before + 20);
+    runLoop.advanceBy(999ms);
+    EXPECT_EQ(sent().size(), before + 20);
+    const std::size_t length = controller.eventLog().size();
+    runLoop.advanceBy(1ms);
+    EXPECT_EQ(sent().size(), before + 21);
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^IdX");
+    EXPECT_EQ(logSince(length), (Lines{"Request unit parameters with address: 192.168.1.10",
+                                       "UDP server did send data."}));
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(sent().size(), before + 21);
+}
+
+TEST_F(ControllerProtocol, EveryAcknowledgementIsLogged) {
+    discover({SampleUnit()});
+    for (int i = 0; i < 30; ++i) {
+        const std::size_t length = controller.eventLog().size();
+        receive(SampleUnit().acknowledgement());
+        const Lines entry = logSince(length);
+        EXPECT_EQ(entry.size(), i < 20 ? 4U : 2U);
+        EXPECT_EQ(entry.back(),
+                  "Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:");
+    }
+}
+
+TEST_F(ControllerProtocol, AnEditWhoseAcceptanceComesTooOftenIsReportedWithTheLateRequest) {
+    discover({SampleUnit()});
+    for (int i = 0; i < 20; ++i) {
+        receive(secondSampleUnit().acknowledgement());
+    }
+    apply(UnitParameter::destinationPortNumber, "3521");
+    receive(SampleUnit().acknowledgement());
+    EXPECT_EQ(quietLine(), "Sent ^^IdT0DC1. The unit has not answered yet.");
+    runLoop.advanceBy(1s);
+    EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
+}
+
+TEST_F(ControllerProtocol, NoRequestIsOwedAfterTheEnd) {
+    discover({SampleUnit()});
+    for (int i = 0; i < 30; ++i) {
+        receive(SampleUnit().acknowledgement());
+    }
+    controller.applicationWillTerminate();
+    const std::size_t before = sent().size();
+    runLoop.advanceBy(10s);
+    EXPECT_EQ(sent().size(), before);
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+}
+
 } // namespace kx

@@ -60,15 +60,15 @@ TEST_F(ControllerReceiveBuffer, TheLineIsEmptyWhileNothingIsDropped) {
     receive(SampleUnit().reply());
     runLoop.advanceBy(2000ms);
     EXPECT_GT(receiveBuffers.lookCount(), 0);
-    EXPECT_EQ(dropLine(), "");
+    EXPECT_EQ(discoveryLine(), "");
 }
 
 TEST_F(ControllerReceiveBuffer, TheLineSaysHowManyDatagramsWereDropped) {
     launch();
     dropAndCount(1);
-    EXPECT_EQ(dropLine(), oneDropped);
+    EXPECT_EQ(discoveryLine(), oneDropped);
     dropAndCount(1233);
-    EXPECT_EQ(dropLine(), manyDropped("1234"));
+    EXPECT_EQ(discoveryLine(), manyDropped("1234"));
 }
 
 TEST_F(ControllerReceiveBuffer, TheEventLogDoesNotMentionIt) {
@@ -88,7 +88,7 @@ TEST_F(ControllerReceiveBuffer, TheQuietLineKeepsWhatItSays) {
     controller.editTextDidChange("3521");
     const std::string before = quietLine();
     dropAndCount(5);
-    EXPECT_EQ(dropLine(), manyDropped("5"));
+    EXPECT_EQ(discoveryLine(), manyDropped("5"));
     EXPECT_EQ(quietLine(), before);
 }
 
@@ -96,9 +96,9 @@ TEST_F(ControllerReceiveBuffer, DiscoverBeginsAnew) {
     launch();
     dropAndCount(5);
     controller.discoverButton();
-    EXPECT_EQ(dropLine(), "");
+    EXPECT_EQ(discoveryLine(), "");
     dropAndCount(1);
-    EXPECT_EQ(dropLine(), oneDropped);
+    EXPECT_EQ(discoveryLine(), oneDropped);
 }
 
 TEST_F(ControllerReceiveBuffer, TheNextLaunchCountsAgain) {
@@ -107,7 +107,7 @@ TEST_F(ControllerReceiveBuffer, TheNextLaunchCountsAgain) {
     controller.applicationWillTerminate();
     launch();
     dropAndCount(6);
-    EXPECT_EQ(dropLine(), manyDropped("6"));
+    EXPECT_EQ(discoveryLine(), manyDropped("6"));
 }
 
 TEST_F(ControllerReceiveBuffer, WithoutTheServiceTheListenerWorksAllTheSame) {
@@ -117,7 +117,7 @@ TEST_F(ControllerReceiveBuffer, WithoutTheServiceTheListenerWorksAllTheSame) {
     drop(5);
     runLoop.advanceBy(2000ms);
     EXPECT_EQ(plain.devices().size(), 1U);
-    EXPECT_EQ(dropLine(), "");
+    EXPECT_EQ(discoveryLine(), "");
 }
 
 } // namespace kx

@@ -25,7 +25,7 @@ protected:
 
         ASSERT_EQ(controller.eventLog().substr(logLength),
                   "\nUDP listener did receive data. Length: " + std::to_string(datagram.size()) +
-                      expected.log);
+                      logAtOnce(expected.log));
         ASSERT_EQ(systemLog.lines().size(), systemLogCount + (expected.isAbandoned ? 1 : 0));
         if (expected.isAbandoned) {
             ASSERT_TRUE(systemLog.lines().back().starts_with(
@@ -38,6 +38,15 @@ protected:
             ASSERT_EQ(plain(controller.devices().at(serial)), *expected.record);
         }
         ASSERT_EQ(controller.devices().size(), registry.size());
+    }
+
+    // No time passes here, so only the first acknowledgements are followed by a request at once.
+    std::string logAtOnce(const std::string& log) {
+        const bool isAcknowledgement = log.starts_with(request);
+        acknowledgements += isAcknowledgement ? 1 : 0;
+        return isAcknowledgement && acknowledgements > RequestPace::mostAtOnce
+                   ? log.substr(request.size())
+                   : log;
     }
 
     void expectWholeRegistry() {
@@ -56,6 +65,9 @@ protected:
         return result;
     }
 
+    const std::string request = "\nRequest unit parameters with address: 255.255.255.255"
+                                "\nUDP server did send data.";
+    int acknowledgements = 0;
     std::map<std::string, ReferenceRecord> registry;
 };
 

@@ -26,6 +26,14 @@ struct RecordedTextFieldTrait {
     RecordedTextField field;
 };
 
+struct RecordedButtonTrait {
+    Button& control() { return button; }
+    std::string toolTip() const { return button.description(); }
+    std::string spokenDescription() const { return button.description(); }
+
+    RecordedButton button;
+};
+
 struct RecordedTextLabelTrait {
     TextLabel& control() { return label; }
     std::string shownText() const { return label.text(); }
@@ -110,6 +118,7 @@ struct RecordedApplicationTrait {
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextFieldContract, RecordedTextFieldTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, ButtonContract, RecordedButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextLabelContract, RecordedTextLabelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TableViewContract, RecordedTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextViewContract, RecordedTextViewTrait);

@@ -4,6 +4,8 @@
 
 #include "support/ByteRange.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <initializer_list>
 #include <string_view>
 
@@ -60,6 +62,24 @@ inline SampleUnit secondSampleUnit() {
     unit.internalIP.back() = 11;
     unit.serial.back() = 7;
     return unit;
+}
+
+// The internal IP address that a reply tells, from which an honest unit sends it; 192.168.1.10 when
+// it tells none.
+inline std::uint32_t addressToldIn(const Bytes& reply) {
+    const Bytes tag = textBytes("<I>");
+    const auto found = std::search(reply.begin(), reply.end(), tag.begin(), tag.end());
+    if (reply.end() - found < 7) {
+        return 0xC0A8010AU;
+    }
+    return static_cast<std::uint32_t>(found[3]) << 24U |
+           static_cast<std::uint32_t>(found[4]) << 16U |
+           static_cast<std::uint32_t>(found[5]) << 8U | found[6];
+}
+
+// A reply that tells the serial number and nothing else of worth.
+inline Bytes sparseReplyOf(const SampleUnit& unit) {
+    return joined({unit.header(), item("<M>", unit.internalMAC), item("<S>", unit.serial)});
 }
 
 } // namespace kx

@@ -98,6 +98,16 @@ private:
     std::function<void()> _action;
 };
 
+class RecordedButton final : public Button {
+public:
+    void setDescription(std::string_view text) override { _description = text; }
+
+    const std::string& description() const { return _description; }
+
+private:
+    std::string _description;
+};
+
 class RecordedTextLabel final : public TextLabel {
 public:
     void setStringValue(std::string_view text) override {
@@ -315,15 +325,17 @@ struct RecordedMainWindow {
     RecordedWindow window;
     RecordedPopUpButton interfacePopUp;
     RecordedPopUpButton udpPortPopUp{{"3520", "3521", "3522", "3523"}};
-    RecordedTextLabel dropLine;
+    RecordedTextLabel discoveryLine;
     RecordedPopUpButton unitSelectPopUp;
     RecordedTextField unitIDField;
+    RecordedButton reloadButton;
     GXArrayTable unitParameterTable;
     RecordedTableView unitParameterTableView{&unitParameterTable};
     RecordedTableView editParameterTableView{nullptr}; // the controller becomes its data source
     RecordedTextLabel quietLine;
     RecordedPopUpButton optionCommandPopUp{{"V  Version", "-Z  Set clock"}};
     RecordedTextField optionCommandField;
+    RecordedButton restoreButton;
     RecordedDrawer eventLogDrawer;
     RecordedTextView logTextView;
     RecordedAlert alert;
@@ -333,15 +345,17 @@ struct RecordedMainWindow {
         outlets.window = &window;
         outlets.interfacePopUp = &interfacePopUp;
         outlets.udpPortPopUp = &udpPortPopUp;
-        outlets.dropLine = &dropLine;
+        outlets.discoveryLine = &discoveryLine;
         outlets.unitSelectPopUp = &unitSelectPopUp;
         outlets.unitIDField = &unitIDField;
+        outlets.reloadButton = &reloadButton;
         outlets.unitParameterTableView = &unitParameterTableView;
         outlets.unitParameterTable = &unitParameterTable;
         outlets.editParameterTableView = &editParameterTableView;
         outlets.quietLine = &quietLine;
         outlets.optionCommandPopUp = &optionCommandPopUp;
         outlets.optionCommandField = &optionCommandField;
+        outlets.restoreButton = &restoreButton;
         outlets.eventLogDrawer = &eventLogDrawer;
         outlets.logTextView = &logTextView;
         outlets.alert = &alert;

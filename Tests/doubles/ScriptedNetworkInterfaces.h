@@ -33,6 +33,12 @@ public:
                                std::move(value));
     }
 
+    // Sets the state of an interface, absent for a kernel that does not tell. Without this call an
+    // interface is running and can broadcast.
+    void setState(const std::string& bsdName, std::optional<InterfaceState> state) {
+        _states[bsdName] = state;
+    }
+
     // Removes all interfaces.
     void clear() { *this = ScriptedNetworkInterfaces(); }
 
@@ -70,12 +76,19 @@ public:
         return found != _data.end() ? std::optional(found->second) : std::nullopt;
     }
 
+    std::optional<InterfaceState> interfaceState(std::string_view bsdName) override {
+        const auto found = _states.find(bsdName);
+        return found != _states.end() ? found->second
+                                      : InterfaceState{.isRunning = true, .canBroadcast = true};
+    }
+
 private:
     using DataKey = std::tuple<std::string, std::string, std::string>;
 
     std::vector<std::string> _titles;
     std::vector<std::string> _serviceIDs;
     std::map<std::string, std::string, std::less<>> _services;
+    std::map<std::string, std::optional<InterfaceState>, std::less<>> _states;
     std::map<DataKey, PropertyListValue> _data;
 };
 

@@ -18,7 +18,7 @@ report=$(KX_STEPS="
     crowd 10000
     waited $longest_wait
     worked $longest_work
-    dropped
+    finding
     log
     replies 10000
     watch
@@ -26,7 +26,7 @@ report=$(KX_STEPS="
     waited $longest_wait
     worked $longest_work
     replies 10000
-    dropped" "$kxconfig" 2>&1) || fail "the visit failed: $report"
+    finding" "$kxconfig" 2>&1) || fail "the visit failed: $report"
 expect_equal 'the replies with the log closed and open' 2 \
     "$(grep -c '^Replies: 10000 units, of which 0 were dropped$' <<<"$report")"
 mapfile -t times < <(grep '^Longest time ' <<<"$report")

@@ -9,9 +9,9 @@ kxconfig=$2
 
 export QT_QPA_PLATFORM=offscreen QT_QPA_GENERIC_PLUGINS=kxsteps QT_PLUGIN_PATH=$KX_BUILD_DIR/plugins
 report=$(KX_STEPS='
-    dropped
+    finding
     pause 3000
-    dropped datagrams before they were read, so units may be missing.
+    finding datagrams before they were read, so units may be missing.
     picture window-dropped
     log
     replies 13000

@@ -156,6 +156,15 @@ TEST(ConfigurationRecords, ADialUpProfileHasTheDialUpType) {
     EXPECT_EQ(serviceOrder(configurationRecords({ppp}, {})), Keys()) << "it cannot broadcast";
 }
 
+TEST(ConfigurationRecords, ATunnelWithAProfileIsNoServiceBecauseItCarriesNoBroadcast) {
+    NetworkLink tunnel = linkWithAddress(2, "tun0", LinkKind::other);
+    tunnel.canBroadcast = false;
+    tunnel.isPointToPoint = true;
+    const auto records = configurationRecords({tunnel}, {{"1234", "Company", "tun0", {}}});
+    EXPECT_EQ(serviceOrder(records), Keys());
+    EXPECT_EQ(dictionaryAtPath(records.preferences, "/NetworkServices/1234"), nullptr);
+}
+
 TEST(ConfigurationRecords, ServicesStandInTheOrderOfTheirDefaultRoutes) {
     auto slow = linkWithAddress(2, "wlan0");
     slow.defaultRouteMetric = 600;

@@ -157,6 +157,41 @@ TEST_F(LinuxInterfaces, EveryAddressOfALinkIsListedThePrimaryOnesFirst) {
     EXPECT_EQ(configuration().bsdNameInterfaceDataForKey("kx0", netNumberRequest), "10.0.0.5/8");
 }
 
+TEST_F(LinuxInterfaces, AnAddressOfTheWholeNetworkComesBeforeOneOfTheLinkOrTheHost) {
+    network.addLink("kx0", "02:00:00:00:00:01");
+    network.addAddress("kx0", "10.5.0.1/24");
+    network.ip("address add 169.254.7.7/16 dev kx0 scope link");
+    network.ip("address add 10.9.0.1/24 dev kx0 scope host");
+    network.addAddress("kx0", "10.6.0.1/24");
+    EXPECT_EQ(choice("Ethernet (kx0)"), "10.5.0.1/255.255.255.0");
+    EXPECT_EQ(textOf("link-kx0", netNumberRequest),
+              "10.5.0.1/24,10.6.0.1/24,169.254.7.7/16,10.9.0.1/24");
+    EXPECT_EQ(configuration().bsdNameInterfaceDataForKey("kx0", netNumberRequest), "10.5.0.1/24");
+    network.ip("address delete 10.5.0.1/24 dev kx0");
+    network.ip("address delete 10.6.0.1/24 dev kx0");
+    EXPECT_EQ(choice("Ethernet (kx0)"), "169.254.7.7/255.255.0.0");
+}
+
+TEST_F(LinuxInterfaces, TheStateOfALinkFollowsItsFlagsAndItsCarrier) {
+    const auto stateOf = [this](const std::string& name) {
+        const auto state = configuration().interfaceState(name);
+        return !state.has_value() ? std::string("unknown")
+                                  : std::string(state->isRunning ? "running" : "not running") +
+                                        (state->canBroadcast ? ", can broadcast" : "");
+    };
+    EXPECT_EQ(stateOf("kx0"), "unknown");
+    network.addLink("kx0", "02:00:00:00:00:01");
+    EXPECT_TRUE(eventually([&] { return stateOf("kx0") == "running, can broadcast"; }));
+    network.ip("link set p-kx0 down");
+    EXPECT_TRUE(eventually([&] { return stateOf("kx0") == "not running, can broadcast"; }));
+    network.ip("link set p-kx0 up");
+    network.ip("link set kx0 down");
+    EXPECT_EQ(stateOf("kx0"), "not running, can broadcast");
+    network.ip("tuntap add tun0 mode tun");
+    EXPECT_EQ(stateOf("tun0"), "not running");
+    EXPECT_EQ(stateOf("lo"), "running");
+}
+
 TEST_F(LinuxInterfaces, ALinkIsActiveWhileItHasACarrier) {
     network.addLink("kx0", "02:00:00:00:00:01");
     network.addAddress("kx0", "192.0.2.1/24");

@@ -40,7 +40,7 @@ protected:
 
     static Texts ipv4Of(const std::string& name) {
         Texts texts;
-        for (const auto& [address, prefixLength] : link(name).ipv4Addresses) {
+        for (const auto& [address, prefixLength, scope] : link(name).ipv4Addresses) {
             texts.push_back(stringForIP(address) + "/" + std::to_string(prefixLength));
         }
         return texts;

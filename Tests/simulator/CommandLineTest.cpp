@@ -32,11 +32,12 @@ TEST(CommandLine, WithoutOptionsThreeFlawlessUnitsAreOnTheLink) {
 }
 
 TEST(CommandLine, EveryOptionIsRead) {
-    const CommandLine line = read(
-        {"--link",      "tap7",   "--count",    "200",      "--first",   "11",          "--network",
-         "10.1.2.3/16", "--late", "1500",       "--lose",   "1",         "--duplicate", "2",
-         "--reorder",   "3",      "--truncate", "0",        "--malform", "100",         "--flood",
-         "1000",        "--seed", "42",         "--record", "a b/record"});
+    const CommandLine line =
+        read({"--link",      "tap7",        "--count",      "200",  "--first",    "11",
+              "--network",   "10.1.2.3/16", "--late",       "1500", "--lose",     "1",
+              "--duplicate", "2",           "--reorder",    "3",    "--truncate", "0",
+              "--malform",   "100",         "--flood",      "1000", "--seed",     "42",
+              "--record",    "a b/record",  "--broadcasts", "own"});
     EXPECT_EQ(line.link, "tap7");
     EXPECT_EQ(line.count, 200U);
     EXPECT_EQ(line.first, 11U);
@@ -51,6 +52,7 @@ TEST(CommandLine, EveryOptionIsRead) {
     EXPECT_EQ(line.faults.seed, 42U);
     EXPECT_EQ(line.floodPerSecond, 1000U);
     EXPECT_EQ(line.recordPath, "a b/record");
+    EXPECT_TRUE(line.ignoresOtherSubnets);
 }
 
 TEST(CommandLine, HelpWinsOverWhatFollows) {
@@ -58,9 +60,9 @@ TEST(CommandLine, HelpWinsOverWhatFollows) {
 }
 
 TEST(CommandLine, HelpNamesEveryOption) {
-    for (const char* option :
-         {"--link", "--count", "--first", "--network", "--late", "--lose", "--duplicate",
-          "--reorder", "--truncate", "--malform", "--flood", "--seed", "--record", "--help"}) {
+    for (const char* option : {"--link", "--count", "--first", "--network", "--late", "--lose",
+                               "--duplicate", "--reorder", "--truncate", "--malform", "--flood",
+                               "--seed", "--record", "--broadcasts", "--help"}) {
         EXPECT_NE(helpText().find("\n  " + std::string(option) + ' '), std::string::npos) << option;
     }
 }
@@ -78,6 +80,13 @@ TEST(CommandLine, ComplaintsNameTheOption) {
               "--network needs a network such as 192.0.2.0/24, not \"192.0.2.0\"");
     EXPECT_EQ(complaintAbout({"--network", "192.0.2.0/31"}),
               "--network needs a number from 8 to 30, not \"31\"");
+}
+
+TEST(CommandLine, UnitsTakeAnyBroadcastOrThoseOfTheirOwnSubnet) {
+    EXPECT_FALSE(read({}).ignoresOtherSubnets);
+    EXPECT_FALSE(read({"--broadcasts", "own", "--broadcasts", "any"}).ignoresOtherSubnets);
+    EXPECT_EQ(complaintAbout({"--broadcasts", "none"}),
+              "--broadcasts needs any or own, not \"none\"");
 }
 
 TEST(CommandLine, UnitsMustFitTheirNetworkAndTheirNumbers) {

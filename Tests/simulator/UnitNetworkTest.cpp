@@ -105,6 +105,22 @@ TEST_F(UnitNetworkTest, OnlyTheAddressedUnitAnswers) {
     EXPECT_TRUE(send(programHardware, addressOf(2), "^^IdX").empty());
 }
 
+TEST_F(UnitNetworkTest, EveryBroadcastIsTakenWhateverSubnetItIsFor) {
+    play(2);
+    EXPECT_EQ(send(broadcastHardware, 0xC0A801FF, "^^IdX").size(), 2U);
+}
+
+TEST_F(UnitNetworkTest, UnitsMayIgnoreABroadcastForAnotherSubnet) {
+    play(2);
+    _network->ignoreOtherSubnets(wideNetwork.prefixLength);
+    EXPECT_TRUE(send(broadcastHardware, 0xC0A801FF, "^^IdX").empty());
+    EXPECT_TRUE(send(broadcastHardware, 0x0A0000FF, "^^IdX").empty()) << "it is for 10.0.0.0/24";
+    EXPECT_TRUE(_heard.empty());
+    EXPECT_EQ(send(broadcastHardware, 0x0A00FFFF, "^^IdX").size(), 2U);
+    EXPECT_EQ(broadcast("^^IdX").size(), 2U);
+    EXPECT_EQ(send(hardwareOf(1), 0xC0A80105, "^^IdX").size(), 1U) << "it is no broadcast";
+}
+
 TEST_F(UnitNetworkTest, OtherPortsAreNotHeard) {
     play(3);
     EXPECT_TRUE(send(hardwareOf(1), addressOf(1), "^^IdX", 3521).empty());

@@ -119,14 +119,15 @@ TEST_F(EditCommandsTest, APopUpGivesItsTitle) {
 }
 
 TEST_F(EditCommandsTest, TheQuietLineGivesWhatTheMouseSelected) {
-    launch();
+    launchWithTwoUnits();
+    control<QLineEdit>("optionCommandField").setText("Zürich");
     click("sendOptionButton");
     auto& line = control<QLabel>("quietLine");
     QTest::mouseDClick(&line, Qt::LeftButton, Qt::NoModifier, QPoint(10, 8));
     EXPECT_EQ(window.focusWidget(), &line);
     EXPECT_EQ(copiedByKeys(), "Not");
     press(Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(copiedByKeys(), "Not sent: No unit is selected.");
+    EXPECT_EQ(copiedByKeys(), "Not sent: A command can hold ASCII characters only.");
 }
 
 TEST_F(EditCommandsTest, AButtonGivesNothing) {

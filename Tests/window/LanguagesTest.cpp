@@ -240,6 +240,7 @@ TEST_P(LanguagesTest, TheLongestNoteHasRoom) {
     launchWithTwoUnits();
     auto& line = control<QLabel>("quietLine");
     line.setText(QString::fromStdString(
+        warningOfTarget({.reach = RequestReach::everybodyWithoutAddress}) + ' ' +
         localizedText("Apply asks for administrator rights, but no MAC address is known for an "
                       "ARP entry.") +
         ' ' + localizedText("No unit is selected.") + ' ' +

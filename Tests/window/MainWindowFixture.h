@@ -8,6 +8,7 @@
 #include "core/UnitReplies.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
+#include "doubles/QuietLineText.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
@@ -36,7 +37,11 @@ namespace kx {
 
 class MainWindowTest : public ::testing::Test {
 public:
-    MainWindowTest() { window.connectActions(controller); }
+    MainWindowTest() {
+        window.connectActions(controller);
+        systemCalls.addLink("eth0", 2);
+        systemCalls.addLink("wlan0", 3);
+    }
     ~MainWindowTest() override { window.disconnectActions(); }
 
 protected:
@@ -54,8 +59,7 @@ protected:
     // Two units answer a discovery, which is then completed.
     void launchWithTwoUnits() {
         launchWithInterface();
-        SampleUnit second;
-        second.serial.back() = 7;
+        SampleUnit second = secondSampleUnit();
         second.unitID.back() = 43;
         receive(SampleUnit().reply());
         receive(second.reply());
@@ -63,7 +67,7 @@ protected:
     }
 
     void receive(const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(ipForString("192.168.1.10"), 3520));
+        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520));
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
@@ -116,9 +120,10 @@ protected:
             .toString()
             .toStdString();
     }
+    // Without the warning in front of it.
     std::string quietLine() {
         const auto& line = control<QLabel>("quietLine");
-        return line.isVisible() ? line.text().toStdString() : "(hidden)";
+        return line.isVisible() ? withoutWarning(line.text().toStdString()) : "(hidden)";
     }
 
     // The commands sent since the last call, without their addresses.

@@ -48,7 +48,21 @@ TEST_F(MainWindowSpeech, TheQuietLineIsANotificationWithItsText) {
     click("sendOptionButton");
     EXPECT_EQ(accessible("quietLine").role(), QAccessible::Notification);
     EXPECT_EQ(accessible("quietLine").text(QAccessible::Name).toStdString(),
-              "Not sent: No unit is selected.");
+              "No unit is selected: Restore Defaults, like Reload, reaches every unit that hears "
+              "it. Not sent: No unit is selected.");
+}
+
+TEST_F(MainWindowSpeech, TheButtonsThatMayReachEverybodySayWhomTheyReach) {
+    launch();
+    EXPECT_EQ(description("reloadButton"), "Asks every unit that hears it for its parameters.");
+    EXPECT_EQ(description("restoreButton"),
+              "Resets every unit that hears it to its factory settings.");
+    EXPECT_TRUE(control<QWidget>("restoreButton").toolTip().contains("every unit that hears it"));
+    launchWithTwoUnits();
+    EXPECT_EQ(description("reloadButton"), "Asks the unit at 192.168.1.10 for its parameters.");
+    EXPECT_EQ(description("restoreButton"),
+              "Resets the unit at 192.168.1.10 to its factory settings.");
+    EXPECT_TRUE(control<QWidget>("reloadButton").toolTip().contains("the unit at 192.168.1.10"));
 }
 
 TEST_F(MainWindowSpeech, ANoteIsSaidWhenTheTypingRests) {
@@ -64,7 +78,8 @@ TEST_F(MainWindowSpeech, ANoteThatComesAgainIsSaidAgain) {
     launch();
     const ScreenReader listening(&hear);
     click("sendOptionButton");
-    EXPECT_TRUE(hears("Not sent: No unit is selected."));
+    EXPECT_TRUE(hears("No unit is selected: Restore Defaults, like Reload, reaches every unit that "
+                      "hears it. Not sent: No unit is selected."));
     click("sendOptionButton");
     EXPECT_TRUE(QTest::qWaitFor([] { return heard().size() == 2; }));
     EXPECT_EQ(heard().front(), heard().back());

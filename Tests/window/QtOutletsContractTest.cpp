@@ -5,6 +5,7 @@
 #include "contracts/WindowContract.h"
 #include "platform/qt/QtAlert.h"
 #include "platform/qt/QtApplication.h"
+#include "platform/qt/QtButton.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
@@ -19,7 +20,9 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTest>
+#include <QTextDocument>
 #include <QTimer>
 #include <QVBoxLayout>
 
@@ -67,6 +70,22 @@ public:
 private:
     QLineEdit _lineEdit;
     QtTextField _field{_lineEdit};
+};
+
+class QtButtonTrait {
+public:
+    Button& control() { return _button; }
+    // Qt shows a tool tip as markup when it looks like it.
+    std::string toolTip() const {
+        QTextDocument shown;
+        shown.setHtml(_pushButton.toolTip());
+        return utf8Text(shown.toPlainText());
+    }
+    std::string spokenDescription() const { return utf8Text(_pushButton.accessibleDescription()); }
+
+private:
+    QPushButton _pushButton;
+    QtButton _button{_pushButton};
 };
 
 class QtTextLabelTrait {
@@ -290,6 +309,7 @@ private:
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, PopUpButtonContract, QtPopUpButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextFieldContract, QtTextFieldTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ButtonContract, QtButtonTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextLabelContract, QtTextLabelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TableViewContract, QtTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextViewContract, QtTextViewTrait);

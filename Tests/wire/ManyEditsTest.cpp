@@ -34,17 +34,24 @@ constexpr std::size_t editCount = 1000;
 
 } // namespace
 
-using ManyEdits = WireTest;
+class ManyEdits : public WireTest {
+protected:
+    // An edit of a person, who needs a moment for each.
+    void edit(UnitParameter parameter, const std::string& value) {
+        apply(parameter, value);
+        converse();
+        runLoop.advanceBy(std::chrono::seconds(1));
+    }
+};
 
 TEST_F(ManyEdits, EachIsAcknowledgedAndShown) {
     for (std::size_t i = 0; i < editCount; ++i) {
-        const Edit& edit = edits[i % edits.size()];
+        const Edit& next = edits[i % edits.size()];
         const std::size_t commandsBefore = link.commandCount();
-        apply(edit.parameter, edit.value);
-        converse();
+        edit(next.parameter, next.value);
         ASSERT_EQ(link.commandCount(), commandsBefore + 2); // the edit and the parameter request
         ASSERT_EQ(link.acknowledgementCount(), i + 1);
-        ASSERT_EQ(shown(edit.parameter), edit.value);
+        ASSERT_EQ(shown(next.parameter), next.value);
     }
     EXPECT_EQ(systemLog.lines(), std::vector<std::string>{});
 }
@@ -53,8 +60,7 @@ TEST_F(ManyEdits, AUnitMovesAThousandTimes) {
     for (std::size_t i = 0; i < editCount; ++i) {
         const std::string address =
             "10.0." + std::to_string(i / 100) + "." + std::to_string(1 + i % 100);
-        apply(internalIPAddress, address);
-        converse();
+        edit(internalIPAddress, address);
         ASSERT_EQ(link.acknowledgementCount(), i + 1);
         ASSERT_EQ(shown(internalIPAddress), address);
     }
@@ -65,9 +71,8 @@ TEST_F(ManyEdits, AUnitMovesAThousandTimes) {
 TEST_F(ManyEdits, LeaveNothingBehind) {
     const auto applyAllAndEmptyTheLog = [&](std::size_t count) {
         for (std::size_t i = 0; i < count; ++i) {
-            const Edit& edit = edits[i % edits.size()];
-            apply(edit.parameter, edit.value);
-            converse();
+            const Edit& next = edits[i % edits.size()];
+            edit(next.parameter, next.value);
         }
         discover();
     };

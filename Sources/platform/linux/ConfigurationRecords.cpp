@@ -61,6 +61,12 @@ auto preference(const Service& service) {
     return std::tuple(metric.has_value() ? std::uint64_t{*metric} : last, service.link->index);
 }
 
+// A tunnel leads to one other host. A link over a telephone line does so too, but is a service of a
+// kind of its own.
+bool isTunnel(const NetworkLink& link) {
+    return !link.canBroadcast && link.kind != LinkKind::pointToPoint;
+}
+
 // A profile may be active on several links at a time. All of them but the first then need an
 // identifier of their own.
 std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
@@ -74,7 +80,7 @@ std::vector<Service> servicesOf(const std::vector<NetworkLink>& links,
     std::set<std::string_view> identifiers;
     for (const auto& profile : profiles) {
         const auto found = linksByName.find(profile.interfaceName);
-        if (found == linksByName.end() || found->second->isLoopback) {
+        if (found == linksByName.end() || found->second->isLoopback || isTunnel(*found->second)) {
             continue;
         }
         const bool isFirst = identifiers.insert(profile.identifier).second;

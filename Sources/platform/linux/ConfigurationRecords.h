@@ -3,7 +3,8 @@
 //
 // The services are:
 //   - the active connection profiles of links, by their own identifiers and names, except on the
-//     loopback; a modem's device, for example, is no link and carries no datagrams
+//     loopback and on tunnels, which carry no broadcasts; a modem's device, for example, is no link
+//     and carries no datagrams
 //   - every link that can broadcast, has an IPv4 address and has no profile; its identifier is
 //     "link-" and its name, and its user-defined name says its kind
 // The service with the host's preferred default route comes first. Services without a default route

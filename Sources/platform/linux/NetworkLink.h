@@ -19,6 +19,7 @@ enum class LinkKind { ethernet, wiFi, bridge, vlan, bond, pointToPoint, other };
 struct IPv4InterfaceAddress {
     std::uint32_t address = 0; // in host byte order
     unsigned prefixLength = 0; // 0 to 32
+    int scope = 0;             // RT_SCOPE_UNIVERSE and so on (rtnetlink(7)); 0 reaches farthest
 
     friend bool operator==(const IPv4InterfaceAddress&, const IPv4InterfaceAddress&) = default;
 };
@@ -40,8 +41,10 @@ struct NetworkLink {
     bool canBroadcast = false;
     bool isPointToPoint = false;
     bool canMulticast = false;
-    Bytes hardwareAddress;                           // empty when the link has none
-    std::vector<IPv4InterfaceAddress> ipv4Addresses; // in the kernel's order, primary ones first
+    Bytes hardwareAddress; // empty when the link has none
+    // By scope: global before link before host. In the kernel's order within one scope, the primary
+    // ones first.
+    std::vector<IPv4InterfaceAddress> ipv4Addresses;
     std::vector<IPv6InterfaceAddress> ipv6Addresses;
 
     // The metric of the default route out of this link; the lowest one when there are several. The

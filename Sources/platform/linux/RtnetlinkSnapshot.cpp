@@ -139,6 +139,13 @@ NetworkLink networkLink(rtnl_link* link) {
     return result;
 }
 
+// The kernel tells the addresses of the smallest scope first. The first one decides where
+// broadcasts go, and a link-local address beside a real one must not.
+void insertByScope(const IPv4InterfaceAddress& address, std::vector<IPv4InterfaceAddress>& all) {
+    all.insert(std::ranges::upper_bound(all, address.scope, {}, &IPv4InterfaceAddress::scope),
+               address);
+}
+
 void addAddress(rtnl_addr* address, NetworkLink& link) {
     const Bytes bytes = bytesOf(rtnl_addr_get_local(address));
     const auto prefixLength = static_cast<unsigned>(rtnl_addr_get_prefixlen(address));
@@ -147,7 +154,7 @@ void addAddress(rtnl_addr* address, NetworkLink& link) {
         for (const std::uint8_t byte : bytes) {
             value = value << 8U | byte;
         }
-        link.ipv4Addresses.push_back({value, prefixLength});
+        insertByScope({value, prefixLength, rtnl_addr_get_scope(address)}, link.ipv4Addresses);
     }
     IPv6InterfaceAddress ipv6{{}, prefixLength};
     if (rtnl_addr_get_family(address) == AF_INET6 && bytes.size() == ipv6.address.size()) {

@@ -7,6 +7,7 @@
 #include "platform/qt/FindBar.h"
 #include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qt/QtAlert.h"
+#include "platform/qt/QtButton.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtTableView.h"
@@ -48,14 +49,16 @@ struct MainWindow::Controls {
         : window(mainWindow)
         , interfacePopUp(*ui.interfacePopUp)
         , udpPortPopUp(*ui.udpPortPopUp)
-        , dropLine(*ui.dropLine, EmptyLabel::isHidden)
+        , discoveryLine(*ui.discoveryLine, EmptyLabel::isHidden)
         , unitSelectPopUp(*ui.unitSelectPopUp)
         , unitIDField(*ui.unitIDField)
+        , reloadButton(*ui.reloadButton)
         , unitParameterTableView(*ui.unitParameterTableView, parameterColumns(false))
         , editParameterTableView(*ui.editParameterTableView, parameterColumns(true))
         , quietLine(*ui.quietLine)
         , optionCommandPopUp(*ui.optionCommandPopUp)
         , optionCommandField(*ui.optionCommandField)
+        , restoreButton(*ui.restoreButton)
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
         , findBar(*ui.logTextView, ui.logScrollView)
@@ -68,14 +71,16 @@ struct MainWindow::Controls {
     QtWindow window;
     QtPopUpButton interfacePopUp;
     QtPopUpButton udpPortPopUp;
-    QtTextLabel dropLine;
+    QtTextLabel discoveryLine;
     QtPopUpButton unitSelectPopUp;
     QtTextField unitIDField;
+    QtButton reloadButton;
     QtTableView unitParameterTableView;
     QtTableView editParameterTableView;
     QtTextLabel quietLine;
     QtPopUpButton optionCommandPopUp;
     QtTextField optionCommandField;
+    QtButton restoreButton;
     QtDrawer eventLogDrawer;
     QtTextView logTextView;
     FindBar findBar;
@@ -108,15 +113,17 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.window = &_controls->window;
     outlets.interfacePopUp = &_controls->interfacePopUp;
     outlets.udpPortPopUp = &_controls->udpPortPopUp;
-    outlets.dropLine = &_controls->dropLine;
+    outlets.discoveryLine = &_controls->discoveryLine;
     outlets.unitSelectPopUp = &_controls->unitSelectPopUp;
     outlets.unitIDField = &_controls->unitIDField;
+    outlets.reloadButton = &_controls->reloadButton;
     outlets.unitParameterTableView = &_controls->unitParameterTableView;
     outlets.unitParameterTable = &_controls->unitParameterTable;
     outlets.editParameterTableView = &_controls->editParameterTableView;
     outlets.quietLine = &_controls->quietLine;
     outlets.optionCommandPopUp = &_controls->optionCommandPopUp;
     outlets.optionCommandField = &_controls->optionCommandField;
+    outlets.restoreButton = &_controls->restoreButton;
     outlets.eventLogDrawer = &_controls->eventLogDrawer;
     outlets.logTextView = &_controls->logTextView;
     outlets.alert = &_controls->alert;

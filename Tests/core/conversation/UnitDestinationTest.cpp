@@ -8,7 +8,7 @@ namespace {
 
 using enum UnitParameter;
 
-constexpr std::uint32_t everybody = 0xC0A801FFU; // 192.168.1.255
+constexpr Everybody everybody{.address = 0xC0A801FFU, .link = 7}; // 192.168.1.255
 
 UnitDestination destinationOf(std::string_view address, std::string_view port) {
     UnitRecord record;
@@ -39,7 +39,7 @@ TEST(UnitDestination, IsWhatTheUnitHasToldOfItself) {
 
 TEST(UnitDestination, WithoutARecordIsEverybodyOnTheDefaultPort) {
     const UnitDestination nobody = destinationOfUnit(nullptr, everybody);
-    EXPECT_EQ(nobody.address, everybody);
+    EXPECT_EQ(nobody.address, everybody.address);
     EXPECT_EQ(nobody.port, 3520);
 }
 
@@ -47,7 +47,7 @@ TEST(UnitDestination, WithoutAnAddressIsEverybodyOnTheUnitsOwnPort) {
     UnitRecord record;
     record.setValue(devicePortNumber, "10000");
     const UnitDestination moving = destinationOfUnit(&record, everybody);
-    EXPECT_EQ(moving.address, everybody);
+    EXPECT_EQ(moving.address, everybody.address);
     EXPECT_EQ(moving.port, 10000);
 }
 
@@ -62,6 +62,23 @@ TEST(UnitDestination, WithoutAPortIsTheUnitOnTheDefaultPort) {
 TEST(UnitDestination, AnAddressThatDoesNotParseIsZeroAndNotEverybody) {
     EXPECT_EQ(destinationOf("nowhere", "10000").address, 0U);
     EXPECT_EQ(destinationOf("", "10000").address, 0U);
+}
+
+TEST(UnitDestination, IsReachedByTheLinkOnWhichTheUnitWasHeard) {
+    UnitRecord record;
+    record.setValue(internalIPAddress, "10.0.0.7");
+    record.setLink(3);
+    EXPECT_EQ(destinationOfUnit(&record, everybody).link, 3U);
+    EXPECT_EQ(destinationOf("192.168.1.10", "10000").link, 0U) << "no link was told";
+}
+
+TEST(UnitDestination, EverybodyIsReachedByTheChosenLink) {
+    EXPECT_EQ(destinationOfUnit(nullptr, everybody).link, 7U);
+    UnitRecord withoutAddress;
+    withoutAddress.setLink(3);
+    EXPECT_EQ(destinationOfUnit(&withoutAddress, everybody).link, 7U);
+    EXPECT_EQ(destinationOfUnit(nullptr, Everybody()).address, limitedBroadcastAddress);
+    EXPECT_EQ(destinationOfUnit(nullptr, Everybody()).link, 0U);
 }
 
 TEST(UnitDestination, APortIsCutTo16Bits) {

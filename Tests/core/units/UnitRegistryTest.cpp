@@ -121,6 +121,22 @@ TEST(UnitRegistry, AReplyOfAnotherUnitLeavesAWithdrawnAddressRemembered) {
     EXPECT_EQ(registry.lastToldAddress(secondSerial), "192.168.1.11");
 }
 
+TEST(UnitRegistry, RemembersTheLinkOnWhichAUnitWasHeardLast) {
+    UnitRegistry registry;
+    UnitRecord record = recordAt(firstSerial, "192.168.1.10");
+    record.setLink(3);
+    registry.store(record);
+    EXPECT_EQ(registry.find(firstSerial)->link(), 3U);
+    registry.setLink(firstSerial, 4);
+    EXPECT_EQ(registry.find(firstSerial)->link(), 4U);
+    registry.setLink(firstSerial, 0);
+    EXPECT_EQ(registry.find(firstSerial)->link(), 4U) << "0 tells nothing";
+    registry.withdrawAddress(firstSerial);
+    EXPECT_EQ(registry.find(firstSerial)->link(), 4U);
+    registry.setLink(secondSerial, 3);
+    EXPECT_EQ(registry.find(secondSerial), nullptr);
+}
+
 TEST(UnitRegistry, WithdrawsNothingOfAUnitThatItDoesNotKnow) {
     UnitRegistry registry;
     registry.withdrawAddress(firstSerial);

@@ -222,4 +222,33 @@ TEST_F(QuietLineTest, TheEndOfAToolDoesNotTouchTheOutcomeOfAnotherParameter) {
     EXPECT_EQ(std::get<EditOutcome>(line.state()).arpEntry(), ARPEntry());
 }
 
+TEST_F(QuietLineTest, AWarningStandsInFrontOfEverySentenceUntilItIsTakenBack) {
+    line.setWarning("Careful.");
+    EXPECT_EQ(taken(), Said{"Careful."});
+    line.showForecast("Apply sends it.");
+    line.showMessage("Not sent.");
+    line.showOutcome(portOutcome());
+    EXPECT_EQ(taken(), (Said{"Careful. Apply sends it.", "Careful.", "Careful. Not sent.",
+                             "Careful. " + sentPort}));
+    line.showForecast({});
+    EXPECT_EQ(taken(), Said{"Careful."});
+    line.showForecast("Apply sends it.");
+    taken();
+    line.setWarning({});
+    EXPECT_EQ(taken(), Said{"Apply sends it."});
+}
+
+TEST_F(QuietLineTest, AWarningEndsNothingAndIsSaidOnce) {
+    line.showOutcome(portOutcome());
+    taken();
+    line.setWarning("Careful.");
+    line.setWarning("Careful.");
+    EXPECT_EQ(taken(), Said{"Careful. " + sentPort});
+    EXPECT_TRUE(holds<EditOutcome>());
+    line.showForecast("Apply sends it.");
+    taken();
+    line.refreshForecast("Apply sends it.");
+    EXPECT_EQ(taken(), Said{}) << "the warning makes no new text of it";
+}
+
 } // namespace kx

@@ -127,6 +127,21 @@ TEST_F(NetworkManagerNames, TitlesAreTheNamesOfTheProfilesWithTheirDevices) {
     EXPECT_EQ(sources->configuration.bsdNameForServiceID(line), "kx1");
 }
 
+// NetworkManager gives the link-local address the scope of the link, and the kernel tells it first.
+TEST_F(NetworkManagerNames, ALinkLocalAddressBesideARealOneIsNotTheOneThatIsChosen) {
+    host.addProfile(office, "Office",
+                    PrivateHost::ethernet("kx0", "address1=192.0.2.5/24\nlink-local=3\n"));
+    startAndList();
+    const auto addresses = [this] {
+        return sources->configuration.serviceInterfaceDataForKey(office, grantAddressRequest);
+    };
+    EXPECT_TRUE(handleEventsUntil([&] {
+        return addresses().find(",169.254.") != std::string::npos;
+    })) << addresses();
+    EXPECT_TRUE(addresses().starts_with("192.0.2.5,169.254.")) << addresses();
+    EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");
+}
+
 TEST_F(NetworkManagerNames, ChoosingOneGivesItsAddressAndMask) {
     startAndList();
     EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");

@@ -116,8 +116,8 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
         discoverCrowd(argument.toInt());
     } else if (verb == "replies") {
         expectReplies(argument.toInt());
-    } else if (verb == "dropped") {
-        expectDropped(argument);
+    } else if (verb == "finding") {
+        expectFinding(argument);
     } else if (verb == "watch") {
         watch();
     } else if (verb == "waited") {
@@ -169,21 +169,21 @@ void Steps::expectReplies(int units) {
         QString("Replies: %1 units, of which %2 were dropped").arg(units).arg(droppedDatagrams()));
 }
 
-QString Steps::dropLine() const {
-    const auto& line = _driver.control<QLabel>("dropLine");
+QString Steps::discoveryLine() const {
+    const auto& line = _driver.control<QLabel>("discoveryLine");
     return line.isVisible() ? line.text() : QString();
 }
 
 int Steps::droppedDatagrams() const {
     static const QRegularExpression number("[0-9]+");
-    return number.match(dropLine()).captured().toInt();
+    return number.match(discoveryLine()).captured().toInt();
 }
 
-void Steps::expectDropped(const QString& text) {
+void Steps::expectFinding(const QString& text) {
     if (!text.isEmpty()) {
-        expectText("line below Discover", text, [this] { return dropLine(); });
-    } else if (!dropLine().isEmpty()) {
-        throw VisitFailure{dropLine()};
+        expectText("line below Discover", text, [this] { return discoveryLine(); });
+    } else if (!discoveryLine().isEmpty()) {
+        throw VisitFailure{discoveryLine()};
     }
 }
 

@@ -19,8 +19,8 @@
 //   replies COUNT            waits until the event log, whose drawer must be open, holds replies
 //                            of this many units, less those that the line below Discover counts
 //   line TEXT                waits until the quiet line contains the text
-//   dropped TEXT             waits until the line below Discover contains the text
-//   dropped                  expects that there is no such line
+//   finding TEXT             waits until the line below Discover contains the text
+//   finding                  expects that there is no such line
 //   watch                    begins to watch how long a user's event has to wait
 //   waited MILLISECONDS      prints the longest wait of an event, and expects no longer one
 //   worked MILLISECONDS      does the same for the time that the program worked for an event
@@ -69,9 +69,9 @@ private:
     void takeOfCrowd(const QString& verb, const QString& argument);
     void discoverCrowd(int units);
     void expectReplies(int units);
-    QString dropLine() const;
+    QString discoveryLine() const;
     int droppedDatagrams() const;
-    void expectDropped(const QString& text);
+    void expectFinding(const QString& text);
     void watch();
     const ResponsivenessProbe& probe() const;
     static void expectAtMost(const QString& what, std::chrono::milliseconds longest,

@@ -9,15 +9,15 @@ namespace {
 constexpr const char* text = "The system dropped 1234 datagrams before they were read, so units "
                              "may be missing. Help says how to allow a larger buffer.";
 
-class DropLineTest : public MainWindowTest {
+class DiscoveryLineTest : public MainWindowTest {
 protected:
-    DropLineTest() {
+    DiscoveryLineTest() {
         launchWithTwoUnits();
         layOut();
     }
 
     void say(const char* said) {
-        window.outlets().dropLine->setStringValue(said);
+        window.outlets().discoveryLine->setStringValue(said);
         layOut();
     }
 
@@ -26,7 +26,7 @@ protected:
         return {widget.mapTo(&window, QPoint(0, 0)), widget.size()};
     }
 
-    QLabel& line() { return control<QLabel>("dropLine"); }
+    QLabel& line() { return control<QLabel>("discoveryLine"); }
 
 private:
     static void layOut() { QTest::qWait(10); }
@@ -34,7 +34,7 @@ private:
 
 } // namespace
 
-TEST_F(DropLineTest, TakesNoPlaceWhileThereIsNothingToSay) {
+TEST_F(DiscoveryLineTest, TakesNoPlaceWhileThereIsNothingToSay) {
     EXPECT_FALSE(line().isVisible());
     const QRect unitsBefore = placeOf("unitSelectPopUp");
     say(text);
@@ -45,17 +45,17 @@ TEST_F(DropLineTest, TakesNoPlaceWhileThereIsNothingToSay) {
     EXPECT_EQ(placeOf("unitSelectPopUp"), unitsBefore);
 }
 
-TEST_F(DropLineTest, StandsBelowDiscoverAndIsShownWhole) {
+TEST_F(DiscoveryLineTest, StandsBelowDiscoverAndIsShownWhole) {
     say(text);
-    EXPECT_GT(placeOf("dropLine").top(), placeOf("discoverButton").bottom());
-    EXPECT_LT(placeOf("dropLine").bottom(), placeOf("unitSelectPopUp").top());
+    EXPECT_GT(placeOf("discoveryLine").top(), placeOf("discoverButton").bottom());
+    EXPECT_LT(placeOf("discoveryLine").bottom(), placeOf("unitSelectPopUp").top());
     EXPECT_GE(line().height(), line().heightForWidth(line().width()));
     window.resize(420, 480);
     say(text);
     EXPECT_GE(line().height(), line().heightForWidth(line().width()));
 }
 
-TEST_F(DropLineTest, WhateverAPersonIsAboutToClickBelowTheTableStaysWhereItIs) {
+TEST_F(DiscoveryLineTest, WhateverAPersonIsAboutToClickBelowTheTableStaysWhereItIs) {
     const auto places = [&] {
         std::vector<QRect> all;
         for (const char* name : {"editParameterTableView", "applyButton", "quietLine",
@@ -71,7 +71,7 @@ TEST_F(DropLineTest, WhateverAPersonIsAboutToClickBelowTheTableStaysWhereItIs) {
     EXPECT_EQ(window.size(), sizeBefore);
 }
 
-TEST_F(DropLineTest, CanBeCopied) {
+TEST_F(DiscoveryLineTest, CanBeCopied) {
     say(text);
     EXPECT_TRUE(line().textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
     EXPECT_EQ(line().text(), text);

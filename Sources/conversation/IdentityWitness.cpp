@@ -1,0 +1,119 @@
+#include "conversation/IdentityWitness.h"
+
+#include "addresses/IPv4Address.h"
+#include "addresses/SocketAddressRecord.h"
+#include "units/IdentityText.h"
+
+#include <array>
+#include <charconv>
+#include <string>
+
+namespace kx {
+
+namespace {
+
+// The number of six bytes in the text form of a record, two digits and one separator each; 0 for a
+// text that is absent.
+std::uint64_t numberOfSixBytes(std::optional<std::string_view> text) {
+    std::uint64_t number = 0;
+    for (std::size_t i = 0; text.has_value() && i + 1 < text->size(); i += 3) {
+        std::uint8_t byte = 0;
+        std::from_chars(text->data() + i, text->data() + i + 2, byte, 16);
+        number = number << 8U | byte;
+    }
+    return number;
+}
+
+std::string textOfSixBytes(std::uint64_t number, std::string_view separator) {
+    std::array<std::uint8_t, identityLength> bytes{};
+    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
+        *byte = static_cast<std::uint8_t>(number);
+        number >>= 8U;
+    }
+    return hexStringForData(bytes, separator);
+}
+
+std::uint32_t addressOfSender(const DatagramOrigin& origin) {
+    std::uint32_t address = 0;
+    IPv6Octets unused{};
+    std::uint16_t port = 0;
+    addressForData(origin.sender, address, unused, &port);
+    return address;
+}
+
+// 0 for an absent address.
+std::uint32_t addressOfText(std::optional<std::string_view> text) {
+    return text.has_value() ? ipForString(*text) : 0;
+}
+
+bool differ(std::uint64_t left, std::uint64_t right) {
+    return left != 0 && right != 0 && left != right;
+}
+
+} // namespace
+
+void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
+                                  std::vector<Finding>& findings) {
+    const auto serial = record.value(UnitParameter::serialNumber);
+    if (!serial.has_value()) {
+        return;
+    }
+    const std::uint64_t key = numberOfSixBytes(*serial);
+    const Host now{.hardwareAddress =
+                       numberOfSixBytes(record.value(UnitParameter::internalMACAddress)),
+                   .sender = addressOfSender(origin),
+                   .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress))};
+    if (_hosts.size() >= mostSerials && !_hosts.contains(key)) {
+        return;
+    }
+    Host& first = _hosts.try_emplace(key, now).first->second;
+    compareHosts(*serial, now, first, findings);
+    compareClaims(*serial, key, now.claimedAddress, findings);
+}
+
+void IdentityWitness::compareHosts(std::string_view serial, const Host& now, Host& first,
+                                   std::vector<Finding>& findings) {
+    const bool sendersDiffer = differ(first.sender, now.sender);
+    if (!first.isToldAsTwo &&
+        (sendersDiffer || differ(first.hardwareAddress, now.hardwareAddress))) {
+        first.isToldAsTwo = true;
+        const auto nameOf = [sendersDiffer](const Host& host) {
+            return sendersDiffer ? stringForIP(host.sender)
+                                 : textOfSixBytes(host.hardwareAddress, ":");
+        };
+        findings.push_back(TwoHostsOfOneSerial{std::string(serial), nameOf(first), nameOf(now)});
+    }
+    if (!first.isToldAsOtherSender && differ(now.claimedAddress, now.sender)) {
+        first.isToldAsOtherSender = true;
+        findings.push_back(
+            SenderOfAnotherAddress{std::string(serial), now.claimedAddress, now.sender});
+    }
+}
+
+void IdentityWitness::compareClaims(std::string_view serial, std::uint64_t key,
+                                    std::uint32_t address, std::vector<Finding>& findings) {
+    if (address == 0 || (_claims.size() >= mostSerials && !_claims.contains(address))) {
+        return;
+    }
+    Claim& claim = _claims.try_emplace(address, Claim{.serial = key}).first->second;
+    if (claim.serial != key && !claim.isTold) {
+        claim.isTold = true;
+        findings.push_back(TwoSerialsOfOneAddress{address, textOfSixBytes(claim.serial, " "),
+                                                  std::string(serial)});
+    }
+}
+
+void IdentityWitness::expectChange(std::string_view serial) {
+    const std::uint64_t key = numberOfSixBytes(serial);
+    const auto host = _hosts.find(key);
+    if (host == _hosts.end()) {
+        return;
+    }
+    const auto claim = _claims.find(host->second.claimedAddress);
+    if (claim != _claims.end() && claim->second.serial == key) {
+        _claims.erase(claim);
+    }
+    _hosts.erase(host);
+}
+
+} // namespace kx

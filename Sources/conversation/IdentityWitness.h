@@ -1,0 +1,62 @@
+// Compares the answers of units with each other and with their senders, and finds those that
+// contradict each other.
+//
+// Nothing is refused: any host that reaches the port can answer as any unit, and nothing in an
+// answer proves who sent it. An honest unit changes what it tells only after a command, so a
+// front announces each command with expectChange(); what the unit told before is then forgotten.
+//
+// A value type; any thread, one at a time. It remembers the first 131,072 serial numbers, about 20
+// MB of memory, and ignores the ones after them, because anybody can invent serial numbers. Every
+// contradiction is told once.
+
+#pragma once
+
+#include "DatagramSystemCalls.h"
+#include "conversation/Finding.h"
+#include "units/UnitRecord.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace kx {
+
+class IdentityWitness {
+public:
+    static constexpr std::size_t mostSerials = 131'072;
+
+    // A unit told its parameters. Appends what this answer contradicts to `findings`. An answer
+    // without a serial number contradicts nothing.
+    void unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
+                     std::vector<Finding>& findings);
+
+    // The unit of this serial number, or any unit, may answer differently from now on.
+    void expectChange(std::string_view serial);
+    void expectChanges() { *this = {}; }
+
+private:
+    // The first answer under a serial number. 0 stands for what was not told.
+    struct Host {
+        std::uint64_t hardwareAddress = 0;
+        std::uint32_t sender = 0;
+        std::uint32_t claimedAddress = 0;
+        bool isToldAsTwo = false;         // as two hosts of this serial number
+        bool isToldAsOtherSender = false; // as an answer from another address
+    };
+    struct Claim {
+        std::uint64_t serial = 0;
+        bool isTold = false; // as the address of two serial numbers
+    };
+
+    void compareHosts(std::string_view serial, const Host& now, Host& first,
+                      std::vector<Finding>& findings);
+    void compareClaims(std::string_view serial, std::uint64_t key, std::uint32_t address,
+                       std::vector<Finding>& findings);
+
+    std::unordered_map<std::uint64_t, Host> _hosts;   // by serial number
+    std::unordered_map<std::uint32_t, Claim> _claims; // by claimed address
+};
+
+} // namespace kx

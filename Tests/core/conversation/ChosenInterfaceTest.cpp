@@ -1,0 +1,105 @@
+#include "conversation/ChosenInterface.h"
+
+#include "doubles/ScriptedNetworkInterfaces.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+class ChosenInterfaceTest : public testing::Test {
+protected:
+    ChosenInterfaceTest() { configure("192.168.1.20", "255.255.255.0"); }
+
+    void configure(const std::string& address, const std::string& mask) {
+        interfaces.clear();
+        interfaces.addService("Ethernet", "eth0", address, mask);
+    }
+
+    // The interface as it is now.
+    ChosenInterface chosen() {
+        return {.name = "eth0", .address = addressOfInterface(interfaces, "eth0")};
+    }
+
+    std::string faultOf(const ChosenInterface& interface, bool exists = true) {
+        const auto finding = faultOfInterface(interfaces, interface, exists);
+        if (!finding.has_value()) {
+            return "none";
+        }
+        EXPECT_EQ(finding->interface, interface.name);
+        switch (finding->fault) {
+        case InterfaceFault::gone:
+            return "gone";
+        case InterfaceFault::withoutLink:
+            return "without link";
+        case InterfaceFault::withoutBroadcast:
+            return "without broadcast";
+        case InterfaceFault::lostAddress:
+            return "lost its address";
+        case InterfaceFault::outOfDate:
+            break;
+        }
+        return "out of date";
+    }
+
+    ScriptedNetworkInterfaces interfaces;
+};
+
+} // namespace
+
+TEST_F(ChosenInterfaceTest, HasNoFaultWhileItIsAsItWasChosen) {
+    EXPECT_EQ(faultOf(chosen()), "none");
+}
+
+TEST_F(ChosenInterfaceTest, IsOutOfDateWhenItsAddressOrItsMaskIsAnother) {
+    const ChosenInterface before = chosen();
+    configure("192.168.1.21", "255.255.255.0");
+    EXPECT_EQ(faultOf(before), "out of date");
+    configure("192.168.1.20", "255.255.0.0");
+    EXPECT_EQ(faultOf(before), "out of date");
+    configure("192.168.1.20", "255.255.255.0");
+    EXPECT_EQ(faultOf(before), "none");
+}
+
+TEST_F(ChosenInterfaceTest, AnAddressThatCameAfterTheChoiceIsOneToTakeOver) {
+    EXPECT_EQ(faultOf({.name = "eth0", .address = {}}), "out of date");
+}
+
+TEST_F(ChosenInterfaceTest, SaysWhenItHasLostItsAddress) {
+    const ChosenInterface before = chosen();
+    interfaces.clear();
+    EXPECT_EQ(faultOf(before), "lost its address");
+}
+
+TEST_F(ChosenInterfaceTest, ReachesNobodyByBroadcastInASubnetOfTwoAddressesOrOne) {
+    for (const char* const mask : {"255.255.255.255", "255.255.255.254"}) {
+        configure("192.168.1.20", mask);
+        EXPECT_EQ(faultOf(chosen()), "without broadcast") << mask;
+    }
+    configure("192.168.1.20", "255.255.255.252");
+    EXPECT_EQ(faultOf(chosen()), "none");
+}
+
+TEST_F(ChosenInterfaceTest, ReachesNobodyByBroadcastWhenItLeadsToOneHostOnly) {
+    interfaces.setState("eth0", InterfaceState{.isRunning = true, .canBroadcast = false});
+    EXPECT_EQ(faultOf(chosen()), "without broadcast");
+}
+
+TEST_F(ChosenInterfaceTest, TheWeightiestFaultIsTold) {
+    const ChosenInterface before = chosen();
+    configure("10.0.0.1", "255.255.255.255");
+    EXPECT_EQ(faultOf(before), "without broadcast");
+    interfaces.setState("eth0", InterfaceState{.isRunning = false, .canBroadcast = false});
+    EXPECT_EQ(faultOf(before), "without link");
+    EXPECT_EQ(faultOf(before, false), "gone");
+}
+
+TEST_F(ChosenInterfaceTest, AKernelThatDoesNotTellIsNoFault) {
+    const ChosenInterface before = chosen();
+    configure("10.0.0.1", "255.0.0.0");
+    interfaces.setState("eth0", std::nullopt);
+    EXPECT_EQ(faultOf(before), "none");
+}
+
+} // namespace kx

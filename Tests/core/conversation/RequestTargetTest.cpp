@@ -1,0 +1,47 @@
+#include "conversation/RequestTarget.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+using enum UnitParameter;
+using enum RequestReach;
+
+constexpr std::uint32_t broadcastAddress = 0xC0A801FFU; // 192.168.1.255
+
+RequestReach reachOfUnitAt(std::string_view address) {
+    UnitRecord record;
+    record.setValue(internalIPAddress, address);
+    return targetOfRequest(&record, broadcastAddress).reach;
+}
+
+} // namespace
+
+TEST(RequestTarget, IsTheUnitAtTheAddressThatItTells) {
+    UnitRecord record;
+    record.setValue(internalIPAddress, "192.168.1.10");
+    EXPECT_EQ(targetOfRequest(&record, broadcastAddress),
+              (RequestTarget{.reach = oneUnit, .address = 0xC0A8010AU}));
+}
+
+TEST(RequestTarget, IsEverybodyWithoutAUnitOrWithoutItsAddress) {
+    EXPECT_EQ(targetOfRequest(nullptr, broadcastAddress),
+              (RequestTarget{.reach = everybodyWithoutUnit}));
+    const UnitRecord record;
+    EXPECT_EQ(targetOfRequest(&record, broadcastAddress),
+              (RequestTarget{.reach = everybodyWithoutAddress}));
+}
+
+TEST(RequestTarget, IsEverybodyAtAnAddressOfMany) {
+    EXPECT_EQ(reachOfUnitAt("192.168.1.255"), everybodyAtItsAddress);
+    EXPECT_EQ(reachOfUnitAt("255.255.255.255"), everybodyAtItsAddress);
+    EXPECT_EQ(reachOfUnitAt("224.0.0.1"), everybodyAtItsAddress);
+    EXPECT_EQ(reachOfUnitAt("239.255.255.255"), everybodyAtItsAddress);
+    EXPECT_EQ(reachOfUnitAt("223.255.255.255"), oneUnit);
+    EXPECT_EQ(reachOfUnitAt("240.0.0.0"), oneUnit);
+    EXPECT_EQ(reachOfUnitAt("192.168.2.255"), oneUnit) << "which subnets there are is not known";
+}
+
+} // namespace kx
