@@ -7,11 +7,8 @@
 
 namespace kx {
 
-void require(bool condition, std::string_view expression, std::string_view sourcePath,
-             std::source_location location) {
-    if (condition) {
-        return;
-    }
+void endBrokenContract(std::string_view expression, std::string_view sourcePath,
+                       const std::source_location& location) {
     std::string line = "Assertion failed: (";
     line.append(expression);
     line.append("), function ");

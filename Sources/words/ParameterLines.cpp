@@ -23,12 +23,13 @@ std::string linesOfParameters(const std::vector<ToldParameter>& items,
     std::string lines;
     lines.reserve(items.size() * usualLine);
     for (const ToldParameter& item : items) {
+        const auto& parameter = item.parameter();
         lines += "\n\t";
-        lines += item.parameter().has_value() ? std::string_view(names[indexOf(*item.parameter())])
-                                              : tagOfUninterpretedItem;
+        lines += parameter.has_value() ? std::string_view(names[indexOf(*parameter)])
+                                       : tagOfUninterpretedItem;
         lines += ": ";
         const auto text = item.text().value_or("(null)");
-        if (item.parameter() == UnitParameter::unitID) {
+        if (parameter == UnitParameter::unitID) {
             lines += quotedLines(text); // the only value that may have a line feed
         } else {
             lines += text;
