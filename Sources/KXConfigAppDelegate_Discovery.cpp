@@ -68,11 +68,11 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
     _outlets.unitIDField->setStringValue(selectedText(UnitParameter::unitID).value_or(""));
     _outlets.unitParameterTable->removeAllObjects();
     for (const UnitParameter parameter : allUnitParameters) {
-        auto value = selectedText(parameter);
+        const auto value = selectedText(parameter);
         if (value.has_value()) {
             auto entry = std::make_shared<KXParameterEntry>();
             entry->setParameterName(std::string(nameOfUnitParameter(parameter)));
-            entry->setParameterValue(std::move(value));
+            entry->setParameterValue(value);
             _outlets.unitParameterTable->addObject(std::move(entry));
         }
     }
