@@ -227,6 +227,7 @@ private:
 
     // Every unit on the chosen interface's link. Before a choice the routes decide.
     std::uint32_t broadcastAddress() const;
+    bool broadcastCanLeave() const;
     Everybody everybody();
 
     // The link on which the selected unit was heard last; 0 when none is selected.

@@ -6,6 +6,7 @@
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
 
+#include <cerrno>
 #include <utility>
 
 namespace kx {
@@ -34,7 +35,17 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
+    if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
+        return _session.failToSend(posixError(ENETUNREACH));
+    }
     return _session.send(command, destination.address, destination.port, destination.link);
+}
+
+// The chosen interface may have lost the address that it had when it was chosen.
+bool KXConfigAppDelegate::broadcastCanLeave() const {
+    const auto chosen = chosenInterface();
+    return !chosen.has_value() || _services.networkInterfaces == nullptr ||
+           kx::broadcastCanLeave(*_services.networkInterfaces, chosen->name, broadcastAddress());
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {

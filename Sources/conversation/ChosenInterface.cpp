@@ -1,5 +1,9 @@
 #include "conversation/ChosenInterface.h"
 
+#include "conversation/UnitDestination.h"
+
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -36,6 +40,17 @@ std::optional<InterfaceFinding> faultOfInterface(NetworkInterfaces& interfaces,
         return std::nullopt;
     }
     return found(now.address == 0 ? InterfaceFault::lostAddress : InterfaceFault::outOfDate);
+}
+
+bool broadcastCanLeave(NetworkInterfaces& interfaces, std::string_view bsdName,
+                       std::uint32_t address) {
+    if (address == limitedBroadcastAddress || !interfaces.interfaceState(bsdName).has_value()) {
+        return true;
+    }
+    const auto all = addressesOfInterface(interfaces, bsdName);
+    return std::ranges::any_of(all, [address](const InterfaceAddress& each) {
+        return directedBroadcastAddress(each.address, each.mask) == address;
+    });
 }
 
 } // namespace kx

@@ -10,8 +10,10 @@
 #include "conversation/Finding.h"
 #include "conversation/InterfaceAddress.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace kx {
 
@@ -25,5 +27,12 @@ struct ChosenInterface {
 // system does not tell.
 std::optional<InterfaceFinding> faultOfInterface(NetworkInterfaces& interfaces,
                                                  const ChosenInterface& chosen, bool exists);
+
+// Whether a broadcast to this address can leave by the interface of this name as it is now. The
+// system itself does not tell: it would look for a host of this address on the link, and say that
+// the datagram was sent. True for 255.255.255.255, and when the system tells nothing of the
+// interface.
+bool broadcastCanLeave(NetworkInterfaces& interfaces, std::string_view bsdName,
+                       std::uint32_t address);
 
 } // namespace kx

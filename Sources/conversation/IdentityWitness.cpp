@@ -26,9 +26,9 @@ std::uint64_t numberOfSixBytes(std::optional<std::string_view> text) {
 
 std::string textOfSixBytes(std::uint64_t number, std::string_view separator) {
     std::array<std::uint8_t, identityLength> bytes{};
-    for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
-        *byte = static_cast<std::uint8_t>(number);
-        number >>= 8U;
+    for (std::uint8_t& byte : bytes) {
+        byte = static_cast<std::uint8_t>(number >> 40U);
+        number <<= 8U;
     }
     return hexStringForData(bytes, separator);
 }

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace kx {
 
@@ -21,5 +22,9 @@ struct InterfaceAddress {
 // The first IPv4 address of the service that covers the interface of this name in the system, and
 // its mask. A value that is missing or does not parse is 0.
 InterfaceAddress addressOfInterface(NetworkInterfaces& interfaces, std::string_view bsdName);
+
+// All of them, in the order of the service; an address that is missing or does not parse is 0.
+std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces,
+                                                   std::string_view bsdName);
 
 } // namespace kx

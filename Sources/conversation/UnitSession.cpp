@@ -93,6 +93,14 @@ std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint
     return std::exchange(_sendFailure, std::nullopt);
 }
 
+std::optional<SendFailure> UnitSession::failToSend(const Error& error) {
+    _sendFailure.reset();
+    if (_listener != nullptr) {
+        didFailToSend(isListening() ? SendFailure{error} : SendFailure());
+    }
+    return std::exchange(_sendFailure, std::nullopt);
+}
+
 // A system that has no descriptor left cannot be asked. The interface is most likely still there.
 std::uint32_t UnitSession::linkForName(const std::string& name) {
     const std::uint32_t link = _services.systemCalls.linkForName(name);

@@ -124,6 +124,10 @@ public:
     std::optional<SendFailure> send(std::string_view command, std::uint32_t address,
                                     std::uint16_t port, std::uint32_t link);
 
+    // Reports a datagram that cannot leave as a send that failed for this reason. The result and
+    // the event are those of send().
+    std::optional<SendFailure> failToSend(const Error& error);
+
     // The index of the interface that has this name now; noSuchLink when none has, so that a send
     // by it fails instead of taking another way. While the system cannot be asked, the index of the
     // call before, if it was for the same name.

@@ -54,7 +54,13 @@ TEST_F(ControllerFindings, ANewAddressIsSeenAtTheNextDiscoverAndTakenOverByChoos
     controller.discoverButton();
     configure("10.1.2.3", "255.255.0.0");
     EXPECT_EQ(discoveryLine(), "") << "the controller subscribes to nothing";
+    const std::size_t before = sent().size();
     EXPECT_EQ(lineAfterDiscover(), outOfDate);
+    EXPECT_EQ(log(), (Lines{"[Begin Discover]", "UDP listener did start. 0.0.0.0:3520",
+                            "Request unit parameters with address: 192.168.1.255",
+                            "UDP failed to send data.", "  " + posixErrorText(ENETUNREACH)}))
+        << "address and mask stay those of the choice";
+    EXPECT_EQ(sent().size(), before);
     EXPECT_EQ(lastSent(), "192.168.1.255:3520 ^^IdX")
         << "address and mask stay those of the choice";
     choose();

@@ -90,6 +90,7 @@ TEST_F(ControllerInterfaces, NothingIsSelectedOnceTheChosenInterfaceIsGone) {
     launch();
     choose("Ethernet (eth0)");
     interfaces.clear();
+    interfaces.setState("eth0", std::nullopt);
     addWiFi();
     controller.interfacePopUpWillOpen();
     EXPECT_EQ(window.interfacePopUp.titles(), Titles{"Wi-Fi (wlan0)"});
@@ -135,6 +136,7 @@ TEST_F(ControllerInterfaces, AfterAnEmptyListNoOtherInterfaceLooksChosen) {
     interfaces.clear();
     controller.interfacePopUpWillOpen();
     addEthernet();
+    interfaces.setState("wlan0", std::nullopt);
     controller.interfacePopUpWillOpen();
     EXPECT_EQ(selected(), "(none)");
     EXPECT_EQ(broadcast(), "10.255.255.255:3520 ^^IdX") << "until another one is chosen";

@@ -7,7 +7,7 @@ namespace kx {
 namespace {
 
 constexpr std::uint32_t chosenLink = 2;
-constexpr std::uint32_t otherLink = 3;
+constexpr std::uint32_t otherLink = 7;
 
 class ControllerLink : public ControllerTest {
 protected:
@@ -102,13 +102,13 @@ TEST_F(ControllerLink, CommandsLeaveByTheOneOnWhichTheUnitWasHeardLast) {
     choose();
     discoverByOtherLink();
     apply(UnitParameter::destinationPortNumber, "3521");
-    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdT0DC1 by 3");
+    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdT0DC1 by 7");
     controller.sendOptionButton();
-    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdV\\r by 3");
+    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdV\\r by 7");
     controller.reloadUnitParameterButton();
-    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdX by 3");
+    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdX by 7");
     controller.restoreDefaultSettings();
-    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdZ by 3");
+    EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdZ by 7");
     receiveBy(5, SampleUnit().reply());
     controller.reloadUnitParameterButton();
     EXPECT_EQ(last(), "192.168.1.10:10000 ^^IdX by 5");
@@ -119,7 +119,7 @@ TEST_F(ControllerLink, CommandsLeaveByTheOneOnWhichTheUnitWasHeardLast) {
 TEST_F(ControllerLink, AMoveLeavesByTheOneOnWhichTheUnitWasHeard) {
     discoverByOtherLink();
     apply(UnitParameter::internalIPAddress, "10.0.0.7");
-    EXPECT_EQ(last(), "10.0.0.7:10000 ^^IdI0A000007 by 3");
+    EXPECT_EQ(last(), "10.0.0.7:10000 ^^IdI0A000007 by 7");
 }
 
 TEST_F(ControllerLink, AUnitWhoseAddressIsNotKnownIsLookedForOnTheChosenOne) {
@@ -132,7 +132,7 @@ TEST_F(ControllerLink, AUnitWhoseAddressIsNotKnownIsLookedForOnTheChosenOne) {
 
 TEST_F(ControllerLink, ACommandByALinkThatIsGoneFails) {
     discoverByOtherLink();
-    systemCalls.removeLink("link 3");
+    systemCalls.removeLink("link 7");
     apply(UnitParameter::destinationPortNumber, "3521");
     EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENODEV) + ".");
 }

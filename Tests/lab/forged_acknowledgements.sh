@@ -28,6 +28,7 @@ datagrams_after() {
         interface kx0
         discover 1
         run echo record >$scratch/orders
+        logs serial:00 00 00 00 00 01
         discover 2
         unit 00 00 00 00 00 01
         run echo acknowledge >$scratch/orders

@@ -1,5 +1,6 @@
 #include "conversation/ChosenInterface.h"
 
+#include "addresses/IPv4Address.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 
 #include <gtest/gtest.h>
@@ -100,6 +101,25 @@ TEST_F(ChosenInterfaceTest, AKernelThatDoesNotTellIsNoFault) {
     configure("10.0.0.1", "255.0.0.0");
     interfaces.setState("eth0", std::nullopt);
     EXPECT_EQ(faultOf(before), "none");
+}
+
+TEST_F(ChosenInterfaceTest, ABroadcastLeavesOnlyToASubnetThatTheInterfaceHasNow) {
+    const auto canLeave = [this](const std::string& address) {
+        return broadcastCanLeave(interfaces, "eth0", ipForString(address));
+    };
+    EXPECT_TRUE(canLeave("192.168.1.255"));
+    EXPECT_FALSE(canLeave("10.255.255.255"));
+    interfaces.setData("service-eth0", "IPv4", "Addresses",
+                       PropertyList{"10.0.0.1", "192.168.1.20"});
+    interfaces.setData("service-eth0", "IPv4", "SubnetMasks",
+                       PropertyList{"255.0.0.0", "255.255.255.0"});
+    EXPECT_TRUE(canLeave("192.168.1.255")) << "also to that of another address than the first";
+    EXPECT_TRUE(canLeave("10.255.255.255"));
+    interfaces.clear();
+    EXPECT_FALSE(canLeave("192.168.1.255"));
+    EXPECT_TRUE(canLeave("255.255.255.255")) << "it needs no address";
+    interfaces.setState("eth0", std::nullopt);
+    EXPECT_TRUE(canLeave("192.168.1.255")) << "the system does not tell";
 }
 
 } // namespace kx

@@ -152,6 +152,21 @@ TEST_F(UnitSessionLife, ASendByALinkThatIsGoneFailsAndTakesNoOtherWay) {
     EXPECT_EQ(systemCalls.count(Operation::sendTo), 1U);
 }
 
+TEST_F(UnitSessionLife, ADatagramThatCannotLeaveIsASendThatFailed) {
+    const auto failed = [this] {
+        const auto failure = session.failToSend(posixError(ENETUNREACH));
+        return failure.has_value() ? RecordingObserver::reasonOf(*failure) : "nothing";
+    };
+    EXPECT_EQ(failed(), "nothing") << "there is no listener";
+    start();
+    EXPECT_EQ(failed(), errorText(ENETUNREACH));
+    EXPECT_EQ(observer.taken(), Events{"not sent: " + errorText(ENETUNREACH)});
+    systemCalls.failNext(Operation::bind, EADDRINUSE);
+    start();
+    EXPECT_EQ(failed(), "no listener");
+    EXPECT_EQ(systemCalls.count(Operation::sendTo), 0U);
+}
+
 TEST_F(UnitSessionLife, AFailedSendIsAResultAndAnEvent) {
     start();
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
