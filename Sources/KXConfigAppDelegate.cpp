@@ -36,6 +36,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
     _session.stop();
     _devicesD.clear();
+    _devicesD.keep(std::nullopt);
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
@@ -50,6 +51,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     logText.clear();
     _session.stop();
     _devicesD.clear();
+    _devicesD.keep(std::nullopt);
     _selectedUnit.reset();
     _editTableEntry.reset();
     _auth.reset();

@@ -236,11 +236,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[Das Ereignisprotokoll behält 256 MiB. Ältere Einträge wurden entfernt.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>nicht verfügbar</translation>
@@ -791,6 +786,11 @@
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Beginn der Suche]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Das Ereignisprotokoll behält 256 MiB. Ältere Einträge wurden entfernt.]</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>

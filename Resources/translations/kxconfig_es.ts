@@ -236,11 +236,6 @@
         <translation>Aceptar</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[El registro de eventos conserva 256 MiB. Se han eliminado las entradas más antiguas.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>no disponible</translation>
@@ -791,6 +786,11 @@
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Inicio de la búsqueda]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[El registro de eventos conserva 256 MiB. Se han eliminado las entradas más antiguas.]</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>

@@ -236,11 +236,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[Le journal des événements conserve 256 Mio. Les entrées plus anciennes ont été supprimées.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>non disponible</translation>
@@ -794,6 +789,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Le journal des événements conserve 256 Mio. Les entrées plus anciennes ont été supprimées.]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>
 UDP listener did start. </source>
         <translation>
@@ -907,7 +907,7 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     <message>
         <location filename="../../Sources/words/ForgottenUnitsText.cpp"/>
         <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
-        <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
+        <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>

@@ -236,11 +236,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[イベントログは 256 MiB まで保持します。古い項目は削除されました。]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>利用不可</translation>
@@ -791,6 +786,11 @@
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[検出開始]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[イベントログは 256 MiB まで保持します。古い項目は削除されました。]</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>

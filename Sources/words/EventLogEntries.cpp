@@ -24,6 +24,10 @@ std::string entryOfDiscovery() {
     return localizedText("[Begin Discover]");
 }
 
+std::string noticeOfRemovedEntries() {
+    return localizedText("[The event log keeps 256 MiB. Older entries were removed.]");
+}
+
 std::string entryOfStart(const Bytes& localAddress) {
     std::string entry = localizedText("\nUDP listener did start. ");
     std::uint32_t address = 0;

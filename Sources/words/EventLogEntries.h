@@ -22,6 +22,9 @@ namespace kx {
 // The first entry of the log. It has no line break.
 std::string entryOfDiscovery();
 
+// The first line of a log whose oldest entries were removed. It has no line break.
+std::string noticeOfRemovedEntries();
+
 // Names the address and the port of an IPv4 record, and neither for any other record.
 std::string entryOfStart(const Bytes& localAddress);
 
