@@ -34,6 +34,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
     _session.stop();
     _devicesD.clear();
+    _devicesD.keep(std::nullopt);
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
@@ -51,6 +52,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     logText.clear();
     _session.stop();
     _devicesD.clear();
+    _devicesD.keep(std::nullopt);
     _selectedUnit.reset();
     _editTableEntry.reset();
     _auth.reset();

@@ -1,11 +1,10 @@
 #include "KXConfigAppDelegate.h"
-#include "support/LocalizedText.h"
+#include "words/EventLogEntries.h"
 
 namespace kx {
 
 void KXConfigAppDelegate::limitLog() {
-    logText.setLimit(mostLogBytes,
-                     localizedText("[The event log keeps 256 MiB. Older entries were removed.]"));
+    logText.setLimit(mostLogBytes, noticeOfRemovedEntries());
 }
 
 // The view trims its own text, which is the same, in the same way. A closed view would keep what

@@ -237,11 +237,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[Das Ereignisprotokoll behält 256 MiB. Ältere Einträge wurden entfernt.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>nicht verfügbar</translation>
@@ -821,6 +816,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Das Ereignisprotokoll behält 256 MiB. Ältere Einträge wurden entfernt.]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>
 UDP listener did start. </source>
         <translation>
@@ -933,11 +933,6 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
-        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
-        <translation>Mehr als 1.048.576 Geräte haben geantwortet; in der Liste fehlen deshalb die, die am längsten nicht gehört wurden.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
         <translation>Die Schnittstelle %@ ist verschwunden, darum wurde kein Broadcast gesendet. Wählen Sie eine andere, oder schließen Sie sie wieder an.</translation>
     </message>
@@ -970,6 +965,11 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>Das System hat %d Datagramme verworfen, bevor sie gelesen wurden; vielleicht fehlen Geräte. Die Hilfe sagt, wie sich ein größerer Puffer erlauben lässt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Mehr als 1.048.576 Geräte haben geantwortet; in der Liste fehlen deshalb die, die am längsten nicht gehört wurden.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

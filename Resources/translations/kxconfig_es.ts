@@ -237,11 +237,6 @@
         <translation>Aceptar</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[El registro de eventos conserva 256 MiB. Se han eliminado las entradas más antiguas.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>no disponible</translation>
@@ -821,6 +816,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[El registro de eventos conserva 256 MiB. Se han eliminado las entradas más antiguas.]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>
 UDP listener did start. </source>
         <translation>
@@ -933,11 +933,6 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
-        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
-        <translation>Han respondido más de 1.048.576 unidades, por lo que en la lista faltan las que no se han oído desde hace más tiempo.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
         <translation>La interfaz %@ ha desaparecido, por lo que no se envió ninguna difusión. Elija otra o vuelva a conectarla.</translation>
     </message>
@@ -970,6 +965,11 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>El sistema descartó %d datagramas antes de que se leyeran, por lo que pueden faltar unidades. La ayuda explica cómo permitir un búfer mayor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Han respondido más de 1.048.576 unidades, por lo que en la lista faltan las que no se han oído desde hace más tiempo.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

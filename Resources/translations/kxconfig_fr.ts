@@ -237,11 +237,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[Le journal des événements conserve 256 Mio. Les entrées plus anciennes ont été supprimées.]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>non disponible</translation>
@@ -821,6 +816,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[Le journal des événements conserve 256 Mio. Les entrées plus anciennes ont été supprimées.]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>
 UDP listener did start. </source>
         <translation>
@@ -933,11 +933,6 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
-        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
-        <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
         <translation>L’interface %@ a disparu, aucune diffusion n’a donc été envoyée. Choisissez-en une autre ou rebranchez-la.</translation>
     </message>
@@ -970,6 +965,11 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>Le système a rejeté %d datagrammes avant leur lecture ; il manque peut-être des unités. L’aide explique comment autoriser un tampon plus grand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>Plus de 1 048 576 unités ont répondu ; la liste omet donc celles qui n’ont pas été entendues depuis le plus longtemps.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

@@ -237,11 +237,6 @@
         <translation>OK</translation>
     </message>
     <message>
-        <location filename="../../Sources/KXConfigAppDelegate_EventLog.cpp"/>
-        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
-        <translation>[イベントログは 256 MiB まで保持します。古い項目は削除されました。]</translation>
-    </message>
-    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>利用不可</translation>
@@ -821,6 +816,11 @@
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
+        <source>[The event log keeps 256 MiB. Older entries were removed.]</source>
+        <translation>[イベントログは 256 MiB まで保持します。古い項目は削除されました。]</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>
 UDP listener did start. </source>
         <translation>
@@ -933,11 +933,6 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
-        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
-        <translation>1,048,576 台を超えるユニットが応答したため、最も長く応答を確認していないユニットは一覧に表示されません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The interface %@ is gone, so no broadcast was sent. Choose another one, or bring it back.</source>
         <translation>インターフェース %@ がなくなったため、ブロードキャストは送信されませんでした。別のものを選ぶか、元に戻してください。</translation>
     </message>
@@ -970,6 +965,11 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The system dropped %d datagrams before they were read, so units may be missing. Help says how to allow a larger buffer.</source>
         <translation>%d 個のデータグラムが、読み取られる前にシステムに破棄されました。ユニットが足りない可能性があります。バッファーを大きくする方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>More than 1,048,576 units have answered, so the list leaves out those that were not heard for longest.</source>
+        <translation>1,048,576 台を超えるユニットが応答したため、最も長く応答を確認していないユニットは一覧に表示されません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

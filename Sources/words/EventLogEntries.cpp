@@ -23,6 +23,10 @@ std::string entryOfDiscovery() {
     return localizedText("[Begin Discover]");
 }
 
+std::string noticeOfRemovedEntries() {
+    return localizedText("[The event log keeps 256 MiB. Older entries were removed.]");
+}
+
 std::string entryOfStart() {
     return localizedText("\nUDP listener did start. ");
 }

@@ -22,6 +22,9 @@ namespace kx {
 // The first entry of the log. It has no line break.
 std::string entryOfDiscovery();
 
+// The first line of a log whose oldest entries were removed. It has no line break.
+std::string noticeOfRemovedEntries();
+
 // The start of the listener, and after it its own IPv4 address and port, both in host byte order.
 std::string entryOfStart();
 std::string addressInEntry(std::uint32_t address, std::uint16_t port);

@@ -43,9 +43,10 @@ void LogText::setLimit(std::size_t bytes, std::string_view notice) {
 }
 
 void LogText::clear() {
-    _full = {};
-    _last = {};
-    _charactersBeforeChunk = {};
+    LogText empty;
+    empty._limit = _limit;
+    empty._notice = std::move(_notice);
+    *this = std::move(empty);
 }
 
 void LogText::append(std::string_view text) {

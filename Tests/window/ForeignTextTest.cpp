@@ -60,6 +60,11 @@ TEST_F(ForeignTextTest, TheTablesShowMarksAndApplySendsTheTextItself) {
     table.selectRow(rowOf());
     auto& edit = control<QTableView>("editParameterTableView");
     EXPECT_EQ(utf8Text(edit.model()->index(0, 1).data().toString()), seenUnitID);
+    const QString forecast = control<QLabel>("quietLine").text();
+    edit.edit(edit.model()->index(0, 1));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    QTest::qWait(10);
+    EXPECT_EQ(control<QLabel>("quietLine").text(), forecast) << "an edit that is given up";
     const std::size_t before = controller.eventLog().size();
     control<QPushButton>("applyButton").click();
     EXPECT_NE(controller.eventLog().find("command: ^^IdU41E280AE1B7A", before), std::string::npos);

@@ -46,7 +46,7 @@ bool isForWantOfMemory() {
         otherHandler();
         std::abort();
     }
-    reserve() = {};
+    reserve() = std::vector<std::byte>();
     try {
         logLastToSystem(lastSentence);
     } catch (...) {

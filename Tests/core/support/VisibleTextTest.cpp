@@ -40,7 +40,8 @@ std::string marks(int count) {
 TEST(VisibleText, ControlsOfEitherSetAreMarked) {
     for (char32_t code = 0; code < 0xA0; ++code) {
         const bool isControl = code < 0x20 || code >= 0x7F;
-        EXPECT_EQ(visibleText(encoded(code)), isControl ? marks(1) : encoded(code)) << static_cast<unsigned>(code);
+        EXPECT_EQ(visibleText(encoded(code)), isControl ? marks(1) : encoded(code))
+            << static_cast<unsigned>(code);
     }
     EXPECT_EQ(visibleText("\x1B[31mred\u009B0m\r\n"),
               marks(1) + "[31mred" + marks(1) + "0m" + marks(2));
@@ -49,7 +50,8 @@ TEST(VisibleText, ControlsOfEitherSetAreMarked) {
 TEST(VisibleText, WhatTurnsOrBreaksALineIsMarked) {
     for (const char32_t code : {0x061C, 0x200E, 0x200F, 0x2028, 0x2029, 0x202A, 0x202B, 0x202C,
                                 0x202D, 0x202E, 0x2066, 0x2067, 0x2068, 0x2069}) {
-        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(1) + "b") << static_cast<unsigned>(code);
+        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(1) + "b")
+            << static_cast<unsigned>(code);
     }
 }
 
@@ -58,14 +60,16 @@ TEST(VisibleText, WhatNobodySeesIsMarked) {
          {0x00AD, 0x034F, 0x115F, 0x1160, 0x17B4, 0x17B5, 0x180B, 0x180E, 0x180F,
           0x200B, 0x200C, 0x200D, 0x2060, 0x2064, 0x206A, 0x206F, 0x3164, 0xFE00,
           0xFE0F, 0xFEFF, 0xFFA0, 0xFFF0, 0xFFF8, 0xFFF9, 0xFFFC}) {
-        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(1) + "b") << static_cast<unsigned>(code);
+        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(1) + "b")
+            << static_cast<unsigned>(code);
     }
 }
 
 TEST(VisibleText, ACharacterBeyondTheBasicPlaneGivesTwoMarks) {
     for (const char32_t code : {0x1BCA0, 0x1D173, 0x1D17A, 0xE0000, 0xE0001, 0xE0041, 0xE007F,
                                 0xE0100, 0xE01EF, 0xE0FFF}) {
-        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(2) + "b") << static_cast<unsigned>(code);
+        EXPECT_EQ(visibleText("a" + encoded(code) + "b"), "a" + marks(2) + "b")
+            << static_cast<unsigned>(code);
     }
 }
 
@@ -97,7 +101,8 @@ TEST(VisibleText, ATabIsMarkedUnlessItIsToBeKept) {
 TEST(VisibleText, HasAsManyUnitsAsTheText) {
     for (char32_t code = 0; code <= 0x10FFFF; code += code == 0xD7FF ? 0x801 : 1) {
         const std::string text = encoded(code);
-        ASSERT_EQ(lengthInCharacters(visibleText(text)), lengthInCharacters(text)) << static_cast<unsigned>(code);
+        ASSERT_EQ(lengthInCharacters(visibleText(text)), lengthInCharacters(text))
+            << static_cast<unsigned>(code);
     }
 }
 
