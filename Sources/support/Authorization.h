@@ -4,11 +4,11 @@
 // A right that was granted stays until deauthenticate() or the end of the object, so a person is
 // asked once. Callers authenticate before every run.
 //
-// Threading: the main thread only. authenticate() returns when the person who is asked has answered.
-// runToolWithArgs() returns after that too, when a person is asked again, and when the tool has done
-// its first work, at most two seconds later. Both handle the application's events meanwhile
-// (support/AuthorizationService.h). Ownership: the service must outlive the object, and the object
-// must not be destroyed from inside a call.
+// Threading: the main thread only. authenticate() returns when the person who is asked has
+// answered. runToolWithArgs() returns after that too, when a person is asked again, and when the
+// tool has done its first work, at most two seconds later. Both handle the application's events
+// meanwhile (support/AuthorizationService.h). Ownership: the service must outlive the object, and
+// the object must not be destroyed from inside a call.
 
 #pragma once
 

@@ -6,9 +6,9 @@
 //
 // Threading: the main thread only. A call that may ask a person returns when that person has
 // answered or has given up waiting, or when the authority has fallen silent. It handles the
-// application's events meanwhile (support/Waiting.h), so a caller that must not be called back holds
-// the run loop. Ownership: references must not outlive their service, and must not be destroyed from
-// inside a call.
+// application's events meanwhile (support/Waiting.h), so a caller that must not be called back
+// holds the run loop. Ownership: references must not outlive their service, and must not be
+// destroyed from inside a call.
 
 #pragma once
 
@@ -53,7 +53,7 @@ inline constexpr std::int32_t errAuthorizationToolExecuteFailure = -60031;
 
 // How a tool ended.
 struct ToolEnd {
-    int status = 0;            // its exit status, or the number of the signal that ended it plus 128
+    int status = 0; // its exit status, or the number of the signal that ended it plus 128
     std::string sentence = {}; // the first line of its standard error, UTF-8; empty without one
 
     friend bool operator==(const ToolEnd&, const ToolEnd&) = default;

@@ -47,8 +47,9 @@ protected:
 
     // Starts the tool and records its end.
     std::int32_t run() {
-        return reference->executeWithPrivileges(trait.tool(), trait.arguments(),
-                                                [this](const ToolEnd& end) { ends.push_back(end.status); });
+        return reference->executeWithPrivileges(
+            trait.tool(), trait.arguments(),
+            [this](const ToolEnd& end) { ends.push_back(end.status); });
     }
     bool runUntilEnds(std::size_t count) {
         return trait.runUntil([this, count] { return ends.size() >= count; });
@@ -137,9 +138,10 @@ TYPED_TEST_P(AuthorizationServiceContract, AToolThatIsNotThereDoesNotStartAndNev
     const auto right = this->rightOf(this->trait.absentTool());
     ASSERT_EQ(this->reference->copyRights(right, this->asking | this->keeping),
               errAuthorizationSuccess);
-    EXPECT_EQ(this->reference->executeWithPrivileges(
-                  right.value, {}, [this](const ToolEnd& end) { this->ends.push_back(end.status); }),
-              errAuthorizationToolExecuteFailure);
+    EXPECT_EQ(
+        this->reference->executeWithPrivileges(
+            right.value, {}, [this](const ToolEnd& end) { this->ends.push_back(end.status); }),
+        errAuthorizationToolExecuteFailure);
     this->trait.runAWhile();
     EXPECT_TRUE(this->ends.empty());
 }

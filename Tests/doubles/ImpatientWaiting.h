@@ -1,4 +1,5 @@
-// A wait in which the thread sleeps and nothing is handled. The test decides when the person gives up.
+// A wait in which the thread sleeps and nothing is handled. The test decides when the person gives
+// up.
 
 #pragma once
 

@@ -116,7 +116,7 @@ def logged_entries(path):
 def functions_of_entries(header):
     """The functions of a header that word an entry, or a text that follows one."""
     text = pathlib.Path(header).read_text(encoding="utf-8")
-    return set(re.findall(r"std::string (\w+)\(", text))
+    return set(re.findall(r"std::string (entryOf\w+|\w+InEntry)\(", text))
 
 
 def appended(source_folder):

@@ -35,8 +35,8 @@ std::optional<std::string> objectionForAdministrator(const std::vector<std::stri
     const bool holdsOption =
         std::any_of(arguments.begin() + (arguments.empty() ? 0 : 1), arguments.end(),
                     [](const std::string& text) { return text.starts_with('-'); });
-    return holdsOption ? std::optional<std::string>(localizedKey(
-                             "The ARP tool gets no text that begins with “-”."))
+    return holdsOption ? std::optional<std::string>(
+                             localizedKey("The ARP tool gets no text that begins with “-”."))
                        : std::nullopt;
 }
 

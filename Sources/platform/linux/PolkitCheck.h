@@ -4,9 +4,9 @@
 // starts late, makes no difference.
 //
 // No question is without bounds. The application's events are handled meanwhile, and the person can
-// give up (support/Waiting.h); the question is then taken back from polkit. While a person is asked,
-// polkit has to show from time to time that it still answers at all. A bus has one second to show
-// that it is there; no event is handled during this second.
+// give up (support/Waiting.h); the question is then taken back from polkit. While a person is
+// asked, polkit has to show from time to time that it still answers at all. A bus has one second to
+// show that it is there; no event is handled during this second.
 //
 // Threading: the main thread only. A QCoreApplication must exist.
 

@@ -23,8 +23,9 @@ public:
     RootAuthorizationService(RunLoop& loop, Waiting& waiting);
 
     std::unique_ptr<AuthorizationReference> create() override;
-    std::optional<std::string> objectionTo(const std::string& toolPath,
-                                           const std::vector<std::string>& arguments) const override;
+    std::optional<std::string>
+    objectionTo(const std::string& toolPath,
+                const std::vector<std::string>& arguments) const override;
 
 private:
     RunningTools _runningTools;

@@ -1,6 +1,6 @@
 // Waiting with a panel above a window: after a moment the panel says what is waited for and offers
-// Cancel, which Escape presses too. The window takes no input from the beginning of the wait, and is
-// painted all the time. The window must outlive the object.
+// Cancel, which Escape presses too. The window takes no input from the beginning of the wait, and
+// is painted all the time. The window must outlive the object.
 
 #pragma once
 

@@ -112,10 +112,11 @@ TEST_F(ARPTableTool, AToolThatDoesNotSpeakUTF8KnowsNothing) {
 }
 
 TEST_F(ARPTableTool, AToolThatHangsIsEndedThoughItRefusesToEnd) {
-    const ReplacedFile tool(toolPath,
-                            noting.program(saying("? at 0:5:2:a:b:c") +
-                                           "; exec >&-; trap '' TERM; while :; do sleep 1; done"),
-                            executable);
+    const ReplacedFile tool(
+        toolPath,
+        recording.program(saying("? at 0:5:2:a:b:c") +
+                          "; exec >&-; trap '' TERM; while :; do sleep 1; done"),
+        executable);
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
     const auto lasted = std::chrono::steady_clock::now() - begin;

@@ -28,6 +28,17 @@ QString inPairs(const QString& digits, QChar separator) {
 
 // Adds a number when the first five bytes are zero, otherwise a text. Adds nothing when the bytes
 // are no text.
+// A window marks the characters that nobody sees and that act on a line. Those that the units of
+// these tests can get are controls.
+QString withMarks(QString text) {
+    for (QChar& character : text) {
+        if (character.category() == QChar::Other_Control) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return text;
+}
+
 void addUnitID(ShownParameters& shown, const QString& digits) {
     const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
     if (bytes.startsWith(QByteArray(5, '\0'))) {
@@ -37,7 +48,7 @@ void addUnitID(ShownParameters& shown, const QString& digits) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(bytes);
     if (!decoder.hasError()) {
-        shown["unit ID"] = text;
+        shown["unit ID"] = withMarks(text);
     }
 }
 
