@@ -10,8 +10,12 @@
 #pragma once
 
 #include "support/ByteRange.h"
+#include "units/IdentityText.h"
 #include "units/UnitRecord.h"
 
+#include <array>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,8 +24,11 @@ namespace kx {
 // The tag of the item that is shown and not kept. The item is shown under this tag.
 inline constexpr std::string_view tagOfUninterpretedItem = "<O>";
 
+using UnitIDBytes = std::array<std::uint8_t, identityLength>;
+
 struct DecodedUnitParameters {
     UnitRecord record;
+    std::optional<UnitIDBytes> unitIDBytes; // also of a unit ID that is not UTF-8
     std::string displayText; // one line for each item, "\n\tNAME: TEXT", in the order of the list
 };
 
