@@ -3,6 +3,7 @@
 #include "addresses/SocketAddressRecord.h"
 
 #include <fcntl.h>
+#include <net/if.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/uio.h>
@@ -119,6 +120,35 @@ ssize_t DatagramSystemCalls::sendTo(int descriptor, ByteView data,
     return address ? ::sendto(descriptor, data.data(), data.size(), 0,
                               reinterpret_cast<const sockaddr*>(&*address), sizeof *address)
                    : -1;
+}
+
+ssize_t DatagramSystemCalls::sendToByLink(int descriptor, ByteView data, ByteView addressRecord,
+                                          std::uint32_t link) {
+    auto address = hostAddress(addressRecord);
+    if (!address) {
+        return -1;
+    }
+    iovec bytes{.iov_base = const_cast<std::uint8_t*>(data.data()), .iov_len = data.size()};
+    alignas(cmsghdr) std::array<std::byte, CMSG_SPACE(sizeof(in_pktinfo))> control{};
+    msghdr message{};
+    message.msg_name = &*address;
+    message.msg_namelen = sizeof *address;
+    message.msg_iov = &bytes;
+    message.msg_iovlen = 1;
+    message.msg_control = control.data();
+    message.msg_controllen = control.size();
+    cmsghdr* const part = CMSG_FIRSTHDR(&message);
+    part->cmsg_level = IPPROTO_IP;
+    part->cmsg_type = IP_PKTINFO;
+    part->cmsg_len = CMSG_LEN(sizeof(in_pktinfo));
+    in_pktinfo information{};
+    information.ipi_ifindex = static_cast<int>(link);
+    std::memcpy(CMSG_DATA(part), &information, sizeof information);
+    return ::sendmsg(descriptor, &message, 0);
+}
+
+std::uint32_t DatagramSystemCalls::linkForName(const std::string& name) {
+    return ::if_nametoindex(name.c_str());
 }
 
 ssize_t DatagramSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,

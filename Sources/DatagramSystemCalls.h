@@ -17,11 +17,16 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <string>
 
 namespace kx {
 
 // Flags of a socket wrapper (EndpointSocket in UDPEcho.h).
 inline constexpr std::uint32_t kCFSocketCloseOnInvalidate = 128;
+
+// The index of no interface: a send by it fails. Indexes of interfaces are positive 32-bit
+// integers, and Linux counts them up from 1.
+inline constexpr std::uint32_t noSuchLink = 0x7FFFFFFFU;
 
 // Where a datagram came from.
 struct DatagramOrigin {
@@ -58,6 +63,17 @@ public:
     // sendto(2) of the whole of `data`, flags 0, to an IPv4 record. When `addressRecord` is absent,
     // the datagram goes to the peer of a connected socket. The bytes sent, or -1.
     virtual ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> addressRecord);
+
+    // sendmsg(2) of the whole of `data`, flags 0, to an IPv4 record, by the interface with this
+    // index (IP_PKTINFO, ip(7)). No route to another interface counts, for a broadcast neither; a
+    // destination that no route of the interface covers is taken for a neighbour on it. The bytes
+    // sent, or -1: ENODEV when there is no such interface, and ENETUNREACH when it is down. Index 0
+    // leaves the choice to the routes, as sendTo() does.
+    virtual ssize_t sendToByLink(int descriptor, ByteView data, ByteView addressRecord,
+                                 std::uint32_t link);
+
+    // if_nametoindex(3): the index of the interface that has this name now; 0 when none has.
+    virtual std::uint32_t linkForName(const std::string& name);
 
     // recvmsg(2), flags 0, of one datagram into `buffer`; bytes that do not fit are lost. The bytes
     // received, or -1. On success `origin` holds the link and the sender's record, which is empty

@@ -28,13 +28,13 @@ KXConfigAppDelegate::handOver(const std::optional<std::string>& command,
         return std::nullopt;
     }
     appendString(entryOfCommand(*command, *address));
-    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port)};
+    return HandedOver{_session.send(*command, ipForString(*address), unitDestination().port, 0)};
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
-    return _session.send(command, destination.address, destination.port);
+    return _session.send(command, destination.address, destination.port, 0);
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::requestParametersOfUnit() {

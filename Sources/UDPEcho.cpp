@@ -241,20 +241,24 @@ void UDPEcho::sendData(const std::optional<Bytes>& data) {
 
 void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
                                  const std::optional<Bytes>& address) {
+    sendDataToAddressByLink(data, address, 0);
+}
+
+void UDPEcho::sendDataToAddressByLink(const std::optional<Bytes>& data,
+                                      const std::optional<Bytes>& address, std::uint32_t link) {
     const Bytes& bytes = requireValue(data, "data != nil", sourcePath);
     require(address.has_value() == isServer(), "(addr != nil) == self.isServer", sourcePath);
     require(!address.has_value() || address->size() <= longestRecordLength,
             "(addr == nil) || ([addr length] <= sizeof(struct sockaddr_storage))", sourcePath);
-    const int sock = nativeSocket();
-    require(sock >= 0, "sock >= 0", sourcePath);
+    require(nativeSocket() >= 0, "sock >= 0", sourcePath);
 
     // A copy, because the delegate may stop the endpoint.
     const std::optional<Bytes> destination = address.has_value() ? address : _hostAddress;
     const Bytes& addr = requireValue(destination, "addr != nil", sourcePath);
 
-    // sendTo() gets no address for a connected socket.
+    // A connected socket sends without an address.
     const auto addressToSend = address.has_value() ? std::optional<ByteView>(addr) : std::nullopt;
-    const ssize_t bytesWritten = _systemCalls.sendTo(sock, bytes, addressToSend);
+    const ssize_t bytesWritten = _send(bytes, addressToSend, link);
     int err = 0;
     if (bytesWritten < 0) {
         err = errno;
@@ -270,6 +274,12 @@ void UDPEcho::_sendDataToAddress(const std::optional<Bytes>& data,
     } else if (_delegate != nullptr) {
         _delegate->echoDidFailToSendDataToAddressError(*this, bytes, addr, posixError(err));
     }
+}
+
+ssize_t UDPEcho::_send(ByteView data, std::optional<ByteView> address, std::uint32_t link) {
+    const int sock = nativeSocket();
+    return address.has_value() && link != 0 ? _systemCalls.sendToByLink(sock, data, *address, link)
+                                            : _systemCalls.sendTo(sock, data, address);
 }
 
 void UDPEcho::_readData() {

@@ -179,6 +179,12 @@ public:
     // "addr != nil" (a client without a peer), "(NSUInteger) bytesWritten == [data length]".
     void _sendDataToAddress(const std::optional<Bytes>& data, const std::optional<Bytes>& address);
 
+    // Server mode: sends one datagram to `address` by the interface with this index, whatever the
+    // routes say (DatagramSystemCalls::sendToByLink()); index 0 leaves the choice to the routes.
+    // Reports as _sendDataToAddress() does, whose contracts hold too. A client ignores the link.
+    void sendDataToAddressByLink(const std::optional<Bytes>& data,
+                                 const std::optional<Bytes>& address, std::uint32_t link);
+
     // Stops and releases everything, silently. Does nothing when stopped.
     void stop();
 
@@ -241,6 +247,7 @@ protected:
 private:
     int _openSocket(int& sock, const std::optional<Bytes>& address, std::size_t port);
     void _scheduleSocket(int sock);
+    ssize_t _send(ByteView data, std::optional<ByteView> address, std::uint32_t link);
     std::optional<Error> _connectToFirstOf(const std::vector<Bytes>& addresses);
 
     RunLoop& _runLoop;

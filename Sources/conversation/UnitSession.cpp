@@ -71,18 +71,23 @@ void UnitSession::stop() {
 // A listener that failed to start stays until the next start. A person who presses a button breaks
 // no contract, so sending through this listener fails like any other send.
 std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint32_t address,
-                                             std::uint16_t port) {
+                                             std::uint16_t port, std::uint32_t link) {
     _sendFailure.reset();
     if (_listener == nullptr) {
         return std::nullopt;
     }
     if (isListening()) {
-        _listener->_sendDataToAddress(Bytes(command.begin(), command.end()),
-                                      dataForAddress(address, port));
+        _listener->sendDataToAddressByLink(Bytes(command.begin(), command.end()),
+                                           dataForAddress(address, port), link);
     } else {
         didFailToSend({});
     }
     return std::exchange(_sendFailure, std::nullopt);
+}
+
+std::uint32_t UnitSession::linkForName(const std::string& name) const {
+    const std::uint32_t link = _services.systemCalls.linkForName(name);
+    return link != 0 ? link : noSuchLink;
 }
 
 // Told first: what the front sends inside the event has a result of its own.

@@ -111,11 +111,17 @@ public:
     const UDPEcho* listener() const { return _listener.get(); }
     bool isListening() const { return _listener != nullptr && _listener->port() != 0; }
 
-    // Sends one datagram to an IPv4 address and port in host byte order. The result is absent when
-    // the datagram was sent, and when there is no listener. The session also reports a failure as
-    // an event.
+    // Sends one datagram to an IPv4 address and port in host byte order, by the interface with the
+    // index `link` (DatagramOrigin::link, or linkForName()). With link 0 the routes decide. When
+    // the datagram cannot leave by that interface, the send fails; it takes no other way. The
+    // result is absent when the datagram was sent, and when there is no listener. The session also
+    // reports a failure as an event.
     std::optional<SendFailure> send(std::string_view command, std::uint32_t address,
-                                    std::uint16_t port);
+                                    std::uint16_t port, std::uint32_t link);
+
+    // The index of the interface that has this name now; noSuchLink when none has, so that a send
+    // by it fails instead of taking another way.
+    std::uint32_t linkForName(const std::string& name) const;
 
     // --- The endpoint's events ---
 

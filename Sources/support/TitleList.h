@@ -64,7 +64,7 @@ class TitleList::const_iterator {
 public:
     using iterator_concept = std::random_access_iterator_tag;
     using iterator_category =
-        std::input_iterator_tag; // older categories requireInvariant references
+        std::input_iterator_tag; // older categories promise references
     using value_type = std::string_view;
     using difference_type = std::ptrdiff_t;
     using reference = std::string_view;

@@ -14,6 +14,8 @@
 //     Bytes deliver(int descriptor, const Bytes& data);
 //     // The index of the interface by which deliver() delivers, not 0.
 //     std::uint32_t link();
+//     // The name of that interface.
+//     std::string linkName();
 
 #pragma once
 
@@ -201,6 +203,27 @@ TYPED_TEST_P(DatagramSystemCallsContract, ASendTellsHowManyBytesItSent) {
     EXPECT_EQ(this->calls().sendTo(descriptor, {}, ByteView(address)), 0);
 }
 
+TYPED_TEST_P(DatagramSystemCallsContract, ASendByALinkTellsHowManyBytesItSent) {
+    const int descriptor = this->newBoundSocket();
+    const Bytes address = this->calls().localAddress(descriptor).value_or(Bytes{});
+    for (const std::uint32_t link : {this->trait.link(), std::uint32_t{0}}) {
+        EXPECT_EQ(this->calls().sendToByLink(descriptor, this->data, address, link), 3) << link;
+    }
+    EXPECT_EQ(this->calls().sendToByLink(descriptor, {}, address, this->trait.link()), 0);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ASendByALinkThatDoesNotExistFails) {
+    const int descriptor = this->newBoundSocket();
+    const Bytes address = this->calls().localAddress(descriptor).value_or(Bytes{});
+    EXPECT_FAILURE(this->calls().sendToByLink(descriptor, this->data, address, noSuchLink), ENODEV);
+}
+
+TYPED_TEST_P(DatagramSystemCallsContract, ALinkIsFoundByItsName) {
+    EXPECT_EQ(this->calls().linkForName(this->trait.linkName()), this->trait.link());
+    EXPECT_EQ(this->calls().linkForName("no-such-link"), 0U);
+    EXPECT_EQ(this->calls().linkForName(""), 0U);
+}
+
 TYPED_TEST_P(DatagramSystemCallsContract, OnlyAConnectedSocketSendsWithoutAnAddress) {
     const int descriptor = this->newBoundSocket();
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EDESTADDRREQ);
@@ -217,6 +240,9 @@ TYPED_TEST_P(DatagramSystemCallsContract, ARecordOfAnotherFamilyIsRefused) {
         EXPECT_FAILURE(this->calls().bind(descriptor, record), EAFNOSUPPORT);
         EXPECT_FAILURE(this->calls().connect(descriptor, record), EAFNOSUPPORT);
         EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, record), EAFNOSUPPORT);
+        EXPECT_FAILURE(
+            this->calls().sendToByLink(descriptor, this->data, record, this->trait.link()),
+            EAFNOSUPPORT);
     }
 }
 
@@ -227,6 +253,8 @@ TYPED_TEST_P(DatagramSystemCallsContract, ARecordThatIsTooShortIsRefused) {
     EXPECT_FAILURE(this->calls().bind(descriptor, record), EINVAL);
     EXPECT_FAILURE(this->calls().connect(descriptor, record), EINVAL);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, record), EINVAL);
+    EXPECT_FAILURE(this->calls().sendToByLink(descriptor, this->data, record, this->trait.link()),
+                   EINVAL);
 }
 
 // Otherwise a datagram whose destination got lost would go to the peer.
@@ -251,6 +279,8 @@ TYPED_TEST_P(DatagramSystemCallsContract, AClosedDescriptorFailsEveryCall) {
     EXPECT_FAILURE(this->calls().enablePacketInfo(descriptor), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, ByteView(address)), EBADF);
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EBADF);
+    EXPECT_FAILURE(this->calls().sendToByLink(descriptor, this->data, address, this->trait.link()),
+                   EBADF);
     EXPECT_FAILURE(this->calls().receiveFrom(descriptor, buffer, origin), EBADF);
     EXPECT_EQ(origin.sender, Bytes{7});
     EXPECT_EQ(origin.link, 7U);
@@ -277,7 +307,8 @@ REGISTER_TYPED_TEST_SUITE_P(DatagramSystemCallsContract, StatusFlagsAreKept,
                             ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
                             TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor,
                             OneSocketTellsTheLinkAndAnotherDoesNot, ASendTellsHowManyBytesItSent,
-                            OnlyAConnectedSocketSendsWithoutAnAddress,
+                            ASendByALinkTellsHowManyBytesItSent, ASendByALinkThatDoesNotExistFails,
+                            ALinkIsFoundByItsName, OnlyAConnectedSocketSendsWithoutAnAddress,
                             ARecordOfAnotherFamilyIsRefused, ARecordThatIsTooShortIsRefused,
                             AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
                             BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);

@@ -96,6 +96,8 @@ private:
 class ScriptedSystemCallsTrait {
 public:
     DatagramSystemCalls& systemCalls() { return _calls; }
+    ScriptedSystemCallsTrait() { _calls.addLink(linkName(), link()); }
+
     Bytes freeAddress() { return dataForAddress(0x7F000001U, _nextPort++); }
     Bytes deliver(int /*descriptor*/, const Bytes& data) {
         Bytes sender = dataForAddress(0x0A000002U, 3520);
@@ -103,6 +105,7 @@ public:
         return sender;
     }
     std::uint32_t link() { return 3; }
+    std::string linkName() { return "kx0"; }
 
 private:
     ScriptedSystemCalls _calls;

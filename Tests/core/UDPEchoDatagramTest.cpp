@@ -53,6 +53,28 @@ TEST_F(UDPEchoDatagram, AServerSendsToTheGivenAddress) {
     EXPECT_EQ(event.address, broadcastAddress);
 }
 
+TEST_F(UDPEchoDatagram, AServerSendsByTheGivenLinkAndReportsAsUsual) {
+    startServerQuietly();
+    systemCalls.addLink("kx0", 4);
+    echo->sendDataToAddressByLink(hello, broadcastAddress, 4);
+    EXPECT_EQ(systemCalls.sentDatagrams().back().link, 4U);
+    EXPECT_EQ(systemCalls.sentDatagrams().back().data, hello);
+    const auto event = onlyEvent();
+    EXPECT_EQ(event.kind, EchoEvent::sentData);
+    EXPECT_EQ(event.address, broadcastAddress);
+
+    echo->sendDataToAddressByLink(hello, broadcastAddress, noSuchLink);
+    expectFailedSend(ENODEV, hello, broadcastAddress);
+    EXPECT_EQ(systemCalls.sentDatagrams().size(), 2U) << "it takes no other way";
+}
+
+TEST_F(UDPEchoDatagram, AClientIsConnectedSoTheRoutesDecide) {
+    startClientQuietly();
+    echo->sendDataToAddressByLink(hello, std::nullopt, noSuchLink);
+    EXPECT_EQ(systemCalls.sentDatagrams().back().link, 0U);
+    EXPECT_EQ(onlyEvent().kind, EchoEvent::sentData);
+}
+
 TEST_F(UDPEchoDatagram, AClientSendsWithoutAnAddressAndReportsThePeer) {
     startClientQuietly();
     echo->sendData(hello);

@@ -22,6 +22,7 @@
 #include <optional>
 #include <set>
 #include <span>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -51,11 +52,13 @@ public:
         Bytes data = {};
         Bytes address = {};
         int flags = 0;
+        std::uint32_t link = 0;
     };
 
     struct Datagram {
         Bytes data;
-        Bytes address; // a record; empty for a datagram without a destination
+        Bytes address;          // a record; empty for a datagram without a destination
+        std::uint32_t link = 0; // index of the interface; 0 when the routes decided
     };
 
     // The next call of `operation` fails with this value of errno (0 is allowed).
@@ -68,8 +71,16 @@ public:
         _script[operation].push_back({result, std::nullopt});
     }
 
+    // Adds an interface, or gives it another index. An interface also exists once a datagram has
+    // come by its index.
+    void addLink(const std::string& name, std::uint32_t index) { _links[name] = index; }
+    void removeLink(const std::string& name) { _links.erase(name); }
+
     // Queues a datagram for receiveFrom(), which fails with EAGAIN when there is none.
     void queueDatagram(Bytes data, Bytes sender, std::uint32_t link = 0) {
+        if (link != 0) {
+            addLink("link " + std::to_string(link), link);
+        }
         _incoming.push_back({std::move(data), {.sender = std::move(sender), .link = link}});
     }
 
@@ -86,12 +97,12 @@ public:
                           [operation](const Call& call) { return call.operation == operation; }));
     }
 
-    // Every datagram handed to sendTo(), including those of failed sends.
+    // Every datagram handed to sendTo() or sendToByLink(), including those of failed sends.
     std::vector<Datagram> sentDatagrams() const {
         std::vector<Datagram> sent;
         for (const auto& call : _calls) {
             if (call.operation == Operation::sendTo) {
-                sent.push_back({call.data, call.address});
+                sent.push_back({call.data, call.address, call.link});
             }
         }
         return sent;
@@ -210,6 +221,30 @@ public:
             return -1;
         }
         return static_cast<ssize_t>(data.size());
+    }
+
+    // A send by an interface is an operation sendTo with a link.
+    ssize_t sendToByLink(int descriptor, ByteView data, ByteView addressRecord,
+                         std::uint32_t link) override {
+        if (const auto outcome = record(
+                {Operation::sendTo, descriptor, bytesOf(data), bytesOf(addressRecord), 0, link})) {
+            return *outcome;
+        }
+        if (!isUsable(addressRecord) || openSocket(descriptor) == nullptr) {
+            return -1;
+        }
+        if (link != 0 && std::ranges::none_of(
+                             _links, [link](const auto& entry) { return entry.second == link; })) {
+            errno = ENODEV;
+            return -1;
+        }
+        return static_cast<ssize_t>(data.size());
+    }
+
+    // Not recorded: nothing leaves by it.
+    std::uint32_t linkForName(const std::string& name) override {
+        const auto found = _links.find(name);
+        return found != _links.end() ? found->second : 0;
     }
 
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
@@ -343,7 +378,8 @@ private:
     std::vector<Call> _calls;
     std::function<void(const Call&)> _observer;
     std::deque<Incoming> _incoming;
-    std::map<int, Socket> _sockets; // open sockets by descriptor
+    std::map<std::string, std::uint32_t> _links; // indexes of the interfaces by name
+    std::map<int, Socket> _sockets;              // open sockets by descriptor
     std::uint32_t _socketFlags = kCFSocketCloseOnInvalidate;
     int _nextDescriptor = 1000;
     int _lastDescriptor = -1;

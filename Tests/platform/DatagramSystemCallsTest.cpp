@@ -40,6 +40,7 @@ public:
     }
 
     std::uint32_t link() { return ::if_nametoindex("lo"); }
+    std::string linkName() { return "lo"; }
 
 private:
     DatagramSystemCalls _calls;

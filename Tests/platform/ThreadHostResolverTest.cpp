@@ -41,9 +41,9 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Thread, HostResolverContract, ThreadHostResolverT
 
 // A lookup that takes as long as the test wants.
 struct SlowLookup {
-    std::requireInvariant<void> release;
+    std::promise<void> release;
     std::shared_future<void> released = release.get_future().share();
-    std::requireInvariant<void> start;
+    std::promise<void> start;
 
     HostResolution operator()() {
         start.set_value();

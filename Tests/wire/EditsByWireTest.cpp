@@ -92,7 +92,7 @@ TEST_F(EditsByWire, AnEditThatIsTooLongForADatagramIsNotSentAndSaysSo) {
     EXPECT_NE(
         controller.eventLog().find("\nUDP failed to send data.\n  " + posixErrorText(EMSGSIZE)),
         std::string::npos);
-    // The line does not requireInvariant it before the edit either.
+    // The line does not promise it before the edit either.
     window.editParameterTableView.typeIntoCell(0, "parameterValue", typed);
     EXPECT_TRUE(window.quietLine.text().starts_with("Apply sends nothing: the command is too long"))
         << window.quietLine.text();

@@ -69,6 +69,12 @@ public:
         return static_cast<ssize_t>(data.size());
     }
 
+    ssize_t sendToByLink(int descriptor, ByteView data, ByteView addressRecord,
+                         std::uint32_t /*link*/) override {
+        return sendTo(descriptor, data, addressRecord);
+    }
+    std::uint32_t linkForName(const std::string& /*name*/) override { return 1; }
+
     ssize_t receiveFrom(int /*descriptor*/, std::span<std::uint8_t> buffer,
                         DatagramOrigin& origin) override {
         if (_replies.empty()) {

@@ -125,8 +125,8 @@ protected:
     }
 
     // "sent", or why not.
-    std::string resultOfSend(std::string_view command) {
-        const auto failure = session.send(command, unitAddress, 10000);
+    std::string resultOfSend(std::string_view command, std::uint32_t link = 0) {
+        const auto failure = session.send(command, unitAddress, 10000, link);
         return failure.has_value() ? RecordingObserver::reasonOf(*failure) : "sent";
     }
 

@@ -256,9 +256,9 @@ TEST(UnitSessionObserver, NeedsNoMethodAtAll) {
     session.start(3520);
     systemCalls.failNext(ScriptedSystemCalls::Operation::bind, EADDRINUSE);
     session.start(3520);
-    session.send("^^IdX", 0, 3520);
+    session.send("^^IdX", 0, 3520, 0);
     session.start(3520);
-    session.send("^^IdX", 0, 3520);
+    session.send("^^IdX", 0, 3520, 0);
     for (const Bytes& datagram : {textBytes("x"), textBytes("^^<X>"), SampleUnit().reply(),
                                   SampleUnit().acknowledgement(), Bytes()}) {
         systemCalls.queueDatagram(datagram, dataForAddress(0, 3520));

@@ -134,6 +134,24 @@ TEST_F(UnitSessionLife, ASendGoesToTheAddressAndPortThatItNames) {
     EXPECT_EQ(observer.events, Events{"sent"});
 }
 
+TEST_F(UnitSessionLife, ASendLeavesByTheLinkThatItNames) {
+    start();
+    systemCalls.addLink("kx0", 4);
+    const auto lastLink = [&] { return systemCalls.sentDatagrams().back().link; };
+    EXPECT_EQ(resultOfSend("^^IdX", session.linkForName("kx0")), "sent");
+    EXPECT_EQ(lastLink(), 4U);
+    EXPECT_EQ(resultOfSend("^^IdX"), "sent");
+    EXPECT_EQ(lastLink(), 0U) << "the routes decide again";
+}
+
+TEST_F(UnitSessionLife, ASendByALinkThatIsGoneFailsAndTakesNoOtherWay) {
+    start();
+    EXPECT_EQ(session.linkForName("kx0"), noSuchLink);
+    EXPECT_EQ(resultOfSend("^^IdX", session.linkForName("kx0")), errorText(ENODEV));
+    EXPECT_EQ(observer.taken(), Events{"not sent: " + errorText(ENODEV)});
+    EXPECT_EQ(systemCalls.count(Operation::sendTo), 1U);
+}
+
 TEST_F(UnitSessionLife, AFailedSendIsAResultAndAnEvent) {
     start();
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
@@ -159,10 +177,10 @@ TEST_F(UnitSessionLife, ASendThroughAStoppedListenerFailsWithoutASystemCall) {
 }
 
 TEST_F(UnitSessionLife, WithoutAListenerASendDoesNothing) {
-    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520), std::nullopt);
+    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520, 0), std::nullopt);
     start();
     session.stop();
-    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520), std::nullopt);
+    EXPECT_EQ(session.send("^^IdX", unitAddress, 3520, 0), std::nullopt);
     EXPECT_EQ(observer.events, Events{});
     EXPECT_EQ(systemCalls.count(Operation::sendTo), 0U);
 }
