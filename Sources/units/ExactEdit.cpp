@@ -59,7 +59,7 @@ std::variant<ExactEdit, EditRefusal> exactEdit(UnitParameter parameter, std::str
     if (const auto* const refusal = std::get_if<EditRefusal>(&edit)) {
         return *refusal;
     }
-    ExactEdit exact{.edit = std::get<ParameterEdit>(edit)};
+    ExactEdit exact{.edit = std::get<ParameterEdit>(edit), .unitIDBytes = {}, .isChanged = false};
     exact.isChanged = exact.edit.change != ValueChange::none && !isShortName(exact.edit);
     if (parameter == UnitParameter::unitID) {
         exact.unitIDBytes = bytesOfArgument(exact.edit);

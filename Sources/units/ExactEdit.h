@@ -22,7 +22,7 @@ struct ExactEdit {
     // For a unit ID, the six bytes that the unit holds after it has taken the value: those of the
     // command, filled up with zero bytes. Absent for other parameters, and when the command carries
     // more than six bytes.
-    std::optional<UnitIDBytes> unitIDBytes;
+    std::optional<UnitIDBytes> unitIDBytes = {};
 
     // The conversion has turned the text into another value, or into one that units do not take.
     bool isChanged = false;
