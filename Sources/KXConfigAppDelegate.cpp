@@ -23,6 +23,7 @@ KXConfigAppDelegate::~KXConfigAppDelegate() = default;
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
     _chosenInterface.reset();
+    limitLog();
     logText.clear();
     _outlets.eventLogDrawer->close();
 

@@ -176,7 +176,12 @@ public:
 
     // --- Event log (KXConfigAppDelegate_EventLog.cpp) ---
 
-    // Appends one entry. An entry begins with its own line break.
+    // The most bytes of entries that the log keeps. Beyond it the oldest go, some 64 KiB at a time,
+    // and a line at the beginning of the log says so.
+    static constexpr std::size_t mostLogBytes = std::size_t{256} * 1024 * 1024;
+
+    // Appends one entry. An entry begins with its own line break; line feeds of foreign texts in it
+    // are quoted (support/QuotedLines.h).
     void appendString(std::string_view text);
 
     // --- Values of the fields, for tests and fronts ---
@@ -240,6 +245,9 @@ private:
     std::optional<std::int32_t> makeARPEntry(const std::optional<std::string>& hardwareAddress,
                                              const std::optional<std::string>& ip);
 
+    void limitLog();
+    void showMissing();
+
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -267,6 +275,9 @@ private:
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::list<RunLoop::Handle> _delayedCalls;
+    std::uint32_t _droppedDatagrams = 0;          // since the listener started
+    std::uint64_t _forgottenUnitsAtDiscovery = 0; // forgotten before the latest Discover
+    bool _saysForgottenUnits = false;             // the line under Discover does
 };
 
 } // namespace kx

@@ -16,6 +16,10 @@ void KXConfigAppDelegate::discoverButton() {
     _outlets.logTextView->setString(logText);
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
+    _forgottenUnitsAtDiscovery = _devicesD.forgottenUnits();
+    if (_saysForgottenUnits) {
+        showMissing();
+    }
     _session.start(static_cast<std::size_t>(port));
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
@@ -42,6 +46,7 @@ void KXConfigAppDelegate::showSelectedUnit() {
 
 void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
     _selectedUnit = key;
+    _devicesD.keep(key);
     if (key.has_value()) {
         _quietLine.unitIsShown(*key);
     }

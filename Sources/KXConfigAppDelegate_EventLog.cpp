@@ -1,12 +1,27 @@
 #include "KXConfigAppDelegate.h"
+#include "support/LocalizedText.h"
 
 namespace kx {
 
+void KXConfigAppDelegate::limitLog() {
+    logText.setLimit(mostLogBytes,
+                     localizedText("[The event log keeps 256 MiB. Older entries were removed.]"));
+}
+
+// The view trims its own text, which is the same, in the same way. A closed view would keep what
+// was removed here, so it is emptied; opening the drawer gives it all of the log again.
 void KXConfigAppDelegate::appendString(std::string_view text) {
     logText.append(text);
+    const bool isOverLimit = logText.surplus() > 0;
+    if (isOverLimit) {
+        logText.trim();
+    }
     if (_outlets.eventLogDrawer->state() != DrawerState::closed) {
         _outlets.logTextView->insertAtEnd(text);
+        _outlets.logTextView->shareMemoryOf(logText);
         _outlets.logTextView->scrollEndToVisible();
+    } else if (isOverLimit) {
+        _outlets.logTextView->setString({});
     }
 }
 

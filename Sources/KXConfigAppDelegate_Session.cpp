@@ -1,9 +1,11 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
+#include "support/QuotedLines.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/DroppedDatagramsText.h"
 #include "words/EventLogEntries.h"
+#include "words/ForgottenUnitsText.h"
 
 #include <utility>
 
@@ -86,6 +88,9 @@ void KXConfigAppDelegate::sessionDidIgnoreDatagram(PacketKind kind) {
 void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DecodedUnitParameters& parameters,
                                                 const DatagramOrigin& /*origin*/) {
+    if (_devicesD.forgottenUnits() != _forgottenUnitsAtDiscovery && !_saysForgottenUnits) {
+        showMissing();
+    }
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
         if (serial == _selectedUnit) {
             showSelectedUnit();
@@ -108,7 +113,11 @@ void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin
 
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
                                                 const DatagramOrigin& /*origin*/) {
-    appendString(entryOfReply(reply, textFromUTF8(reply.payload)));
+    auto text = textFromUTF8(reply.payload);
+    if (text.has_value()) {
+        text = quotedLines(*text);
+    }
+    appendString(entryOfReply(reply, text));
 }
 
 void KXConfigAppDelegate::sessionDidReceiveError(const Error& error) {
@@ -124,7 +133,18 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 }
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
-    _outlets.dropLine->setStringValue(textOfDroppedDatagrams(datagrams));
+    _droppedDatagrams = datagrams;
+    showMissing();
+}
+
+// --- The line under Discover ---
+
+void KXConfigAppDelegate::showMissing() {
+    _saysForgottenUnits = _devicesD.forgottenUnits() != _forgottenUnitsAtDiscovery;
+    const std::string dropped = textOfDroppedDatagrams(_droppedDatagrams);
+    const std::string forgotten = textOfForgottenUnits(_saysForgottenUnits);
+    const bool areBoth = !dropped.empty() && !forgotten.empty();
+    _outlets.dropLine->setStringValue(dropped + (areBoth ? " " : "") + forgotten);
 }
 
 // --- The endpoint's events ---

@@ -84,8 +84,13 @@ public:
     // text, except that a screen reader is told all of it.
     virtual void setString(const LogText& text) = 0;
 
-    // Replaces the empty range at the end of the text.
+    // Replaces the empty range at the end of the text. Where the text has a limit, its oldest
+    // pieces beyond it go.
     virtual void insertAtEnd(std::string_view text) = 0;
+
+    // The view's text is equal to this one and grew with it, so the two may share their memory.
+    // Changes nothing that can be seen.
+    virtual void shareMemoryOf(const LogText& equalText) = 0;
 
     // Scrolls so that the end of the text is visible.
     virtual void scrollEndToVisible() = 0;
@@ -138,7 +143,7 @@ struct MainWindowOutlets {
     Window* window = nullptr;
     PopUpButton* interfacePopUp = nullptr;
     PopUpButton* udpPortPopUp = nullptr;
-    TextLabel* dropLine = nullptr; // says how many datagrams the system dropped
+    TextLabel* dropLine = nullptr; // says what is missing: dropped datagrams, forgotten units
     PopUpButton* unitSelectPopUp = nullptr;
     TextField* unitIDField = nullptr;
     TableView* unitParameterTableView = nullptr;

@@ -19,6 +19,7 @@
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "support/RateLimitedSystemLog.h"
 
 #include <QApplication>
 #include <csignal>
@@ -42,6 +43,8 @@ int main(int argc, char* argv[]) {
     kx::installLocalizedText(&localizedText);
 
     kx::QtRunLoop runLoop;
+    kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
+    kx::installSystemLog(&limitedLog);
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;

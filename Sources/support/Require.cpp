@@ -18,7 +18,7 @@ void require(bool condition, std::string_view expression, std::string_view sourc
     line.append(location.function_name());
     line.append(", ");
     line.append(sourcePath);
-    logToSystem(line);
+    logLastToSystem(line);
     std::abort();
 }
 

@@ -1,5 +1,9 @@
 #include "support/SystemLog.h"
 
+#include "support/TextEncoding.h"
+#include "support/VisibleText.h"
+
+#include <cstdint>
 #include <cstdio>
 #include <string>
 #include <utility>
@@ -10,18 +14,27 @@ namespace {
 
 SystemLog* installedLog = nullptr;
 
+void writeToStandardError(std::string_view line) {
+    const std::string text = escapedLine(line) + "\n";
+    std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
 } // namespace
 
 std::string escapedLine(std::string_view line) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     std::string result;
-    for (const char character : line) {
-        const auto code = static_cast<unsigned char>(character);
-        if ((code < 0x20 && character != '\t') || code == 0x7F) {
-            result.append("\\x").append({digits[code >> 4U], digits[code & 0xFU]});
-        } else {
+    while (!line.empty()) {
+        const FrontCharacter front = characterAtFrontOf(bytesOfText(line));
+        const std::string_view character = line.substr(0, front.length);
+        if (character == "\t" || !actsOnTheScreen(front.code)) {
             result += character;
+        } else {
+            for (const std::uint8_t byte : bytesOfText(character)) {
+                result.append("\\x").append({digits[byte >> 4U], digits[byte & 0xFU]});
+            }
         }
+        line.remove_prefix(front.length);
     }
     return result;
 }
@@ -33,10 +46,17 @@ SystemLog* installSystemLog(SystemLog* log) {
 void logToSystem(std::string_view line) {
     if (installedLog != nullptr) {
         installedLog->write(line);
-        return;
+    } else {
+        writeToStandardError(line);
     }
-    const std::string text = escapedLine(line) + "\n";
-    std::fwrite(text.data(), 1, text.size(), stderr);
+}
+
+void logLastToSystem(std::string_view line) {
+    if (installedLog != nullptr) {
+        installedLog->writeLast(line);
+    } else {
+        writeToStandardError(line);
+    }
 }
 
 } // namespace kx

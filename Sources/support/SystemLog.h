@@ -20,10 +20,15 @@ public:
     // line are written as escapedLine() writes them. Never fails: a log that cannot be written is
     // no reason to stop, and there is nowhere to report it.
     virtual void write(std::string_view line) = 0;
+
+    // Writes the last line before the process ends. A log that holds lines back writes this one
+    // all the same.
+    virtual void writeLast(std::string_view line) { write(line); }
 };
 
-// The text as one line that shows everywhere: each control character but the tab as "\xHH", for
-// example "\x00" for a zero byte and "\x0A" for a line break. For sinks; any thread.
+// The text as one line that shows everywhere: each byte of a character that acts on the screen
+// (support/VisibleText.h), except for the tab, as "\xHH". For example "\x00" for a zero byte,
+// "\x0A" for a line break and "\xE2\x80\xAE" for a mark of direction. For sinks; any thread.
 std::string escapedLine(std::string_view line);
 
 // Makes `log` the process's sink and returns the one before it; null means standard error. The
@@ -32,5 +37,8 @@ SystemLog* installSystemLog(SystemLog* log);
 
 // Writes one line to the installed sink.
 void logToSystem(std::string_view line);
+
+// Writes the last line before the process ends.
+void logLastToSystem(std::string_view line);
 
 } // namespace kx

@@ -96,25 +96,28 @@ std::size_t lengthInCharacters(std::string_view text) {
     return units;
 }
 
-std::u32string charactersOfText(std::string_view text) {
+FrontCharacter characterAtFrontOf(ByteView bytes) {
     constexpr char32_t beyondUnicode = 0x110000;
     constexpr std::array<std::uint8_t, 5> valueBitsOfFirstByte{0, 0x7F, 0x1F, 0x0F, 0x07};
+    const std::size_t length = sequenceLength(bytes);
+    if (length == 0) {
+        return {beyondUnicode + bytes[0], 1};
+    }
+    char32_t code = bytes[0] & valueBitsOfFirstByte[length];
+    for (const std::uint8_t byte : bytes.subspan(1, length - 1)) {
+        code = code << 6U | (byte & 0x3FU);
+    }
+    return {code, length};
+}
+
+std::u32string charactersOfText(std::string_view text) {
     std::u32string characters;
     characters.reserve(text.size());
     ByteView bytes = bytesOfText(text);
     while (!bytes.empty()) {
-        const std::size_t length = sequenceLength(bytes);
-        if (length == 0) {
-            characters.push_back(beyondUnicode + bytes[0]);
-            bytes = bytes.subspan(1);
-            continue;
-        }
-        char32_t character = bytes[0] & valueBitsOfFirstByte[length];
-        for (const std::uint8_t byte : bytes.subspan(1, length - 1)) {
-            character = character << 6U | (byte & 0x3FU);
-        }
-        characters.push_back(character);
-        bytes = bytes.subspan(length);
+        const FrontCharacter front = characterAtFrontOf(bytes);
+        characters.push_back(front.code);
+        bytes = bytes.subspan(front.length);
     }
     return characters;
 }

@@ -35,6 +35,15 @@ std::optional<Bytes> asciiBytes(std::string_view text);
 // A byte that is not part of a well-formed sequence counts as one unit.
 std::size_t lengthInCharacters(std::string_view text);
 
+struct FrontCharacter {
+    char32_t code;
+    std::size_t length; // bytes
+};
+
+// The first character of bytes that are not empty. A byte that is not part of a well-formed
+// sequence counts as one character, with the code that charactersOfText() tells.
+FrontCharacter characterAtFrontOf(ByteView bytes);
+
 // The characters of a text. A byte that is not part of a well-formed sequence counts as one
 // character, with a code beyond the last of Unicode: 0x110000 plus the byte.
 std::u32string charactersOfText(std::string_view text);

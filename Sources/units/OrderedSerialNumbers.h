@@ -18,11 +18,13 @@ namespace kx {
 
 class OrderedSerialNumbers {
 public:
-    void clear() { _numbers.clear(); }
+    void clear();
 
-    // Adds a number that was not added before. Contract: "number.size() <=
-    // UnitRecord::longestText".
+    // Adds a number that is not among them. Contract: "number.size() <= UnitRecord::longestText".
     void add(std::string_view number);
+
+    // Removes a number that is among them.
+    void remove(std::string_view number);
 
     // Every number once, in ascending order.
     TitleList list();
@@ -43,12 +45,29 @@ private:
         std::uint8_t _length;
     };
 
-    void mergeLast(std::size_t first, std::size_t second);
+    // Numbers that are added one by one and put in order together. The same number may be there
+    // several times.
+    class Runs {
+    public:
+        void add(Number number);
+        void sort();     // all of them
+        void sortRest(); // all but the longest run, whose length is lengthOfFirst()
+        std::size_t lengthOfFirst() const;
 
-    // Ascending runs, one behind the other. Run lengths are distinct powers of two times the
-    // shortest run, so a number moves O(log n) times; a single add() may merge all of them. The
-    // numbers behind the last run are too few for a run, and not in order.
-    std::vector<Number> _numbers;
+        // Ascending runs, one behind the other. Run lengths are distinct powers of two times the
+        // shortest run, so a number moves O(log n) times; a single add() may merge all of them. The
+        // numbers behind the last run are too few for a run, and not in order. Numbers that are all
+        // in order are such runs too.
+        std::vector<Number> numbers;
+
+    private:
+        void mergeLast(std::size_t first, std::size_t second);
+    };
+
+    void takeOutRemoved();
+
+    Runs _added;
+    Runs _removed; // each of these cancels one equal number of the added ones
 };
 
 } // namespace kx

@@ -1,6 +1,7 @@
 #include "units/ParameterList.h"
 
 #include "addresses/IPv4Address.h"
+#include "support/QuotedLines.h"
 
 #include <algorithm>
 #include <array>
@@ -169,7 +170,11 @@ void decodeItem(const Item& item, ByteView value, const ShownParameterNames* nam
     ValueText text;
     const bool hasText = takeValue(item.form, value, text);
     appendLineStart(decoded.displayText, item, names);
-    decoded.displayText += hasText ? text.view() : missingText;
+    if (item.form == ValueForm::unitID && hasText) {
+        decoded.displayText += quotedLines(text.view()); // the only value that may have a line feed
+    } else {
+        decoded.displayText += hasText ? text.view() : missingText;
+    }
     if (!item.parameter.has_value()) {
         return;
     }

@@ -29,7 +29,10 @@ using UnitIDBytes = std::array<std::uint8_t, identityLength>;
 struct DecodedUnitParameters {
     UnitRecord record;
     std::optional<UnitIDBytes> unitIDBytes; // also of a unit ID that is not UTF-8
-    std::string displayText; // one line for each item, "\n\tNAME: TEXT", in the order of the list
+
+    // One line for each item, "\n\tNAME: TEXT", in the order of the list. Line feeds of a unit ID
+    // are quoted (support/QuotedLines.h).
+    std::string displayText;
 };
 
 // Decodes a list. Decoding ends quietly at a tag that is not in the table or that is cut short, and

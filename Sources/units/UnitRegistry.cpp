@@ -4,6 +4,7 @@ namespace kx {
 
 void UnitRegistry::clear() {
     _records.clear();
+    _newest = nullptr;
     _serialNumbers.clear();
     _withdrawnAddresses.clear();
 }
@@ -13,14 +14,60 @@ bool UnitRegistry::store(const UnitRecord& record) {
     if (!serial.has_value()) {
         return false;
     }
-    const auto [unit, isNew] = _records.insert_or_assign(std::string(*serial), record);
+    const auto [unit, isNew] = _records.try_emplace(std::string(*serial));
+    static_cast<UnitRecord&>(unit->second) = record;
     if (isNew) {
+        unit->second.serial = &unit->first;
         _serialNumbers.add(unit->first);
     }
+    hear(unit->second);
     if (!_withdrawnAddresses.empty()) {
         _withdrawnAddresses.erase(unit->first);
     }
+    if (_records.size() > _limit) {
+        forgetOldest();
+    }
     return true;
+}
+
+void UnitRegistry::leaveRing(Unit& unit) {
+    if (_newest == &unit) {
+        _newest = unit.older == &unit ? nullptr : unit.older;
+    }
+    unit.older->newer = unit.newer;
+    unit.newer->older = unit.older;
+}
+
+// Puts the unit behind the newest one.
+void UnitRegistry::hear(Unit& unit) {
+    if (_newest == &unit) {
+        return;
+    }
+    if (unit.older != nullptr) {
+        leaveRing(unit);
+    }
+    if (_newest == nullptr) {
+        unit.older = unit.newer = &unit;
+    } else {
+        unit.older = _newest;
+        unit.newer = _newest->newer;
+        unit.older->newer = unit.newer->older = &unit;
+    }
+    _newest = &unit;
+}
+
+// With the kept unit passed over there is another one, because the limit is at least 2.
+void UnitRegistry::forgetOldest() {
+    Unit* oldest = _newest->newer;
+    if (_kept.has_value() && *_kept == *oldest->serial) {
+        oldest = oldest->newer;
+    }
+    leaveRing(*oldest);
+    const auto forgotten = _records.find(*oldest->serial);
+    _serialNumbers.remove(forgotten->first);
+    _withdrawnAddresses.erase(forgotten->first);
+    _records.erase(forgotten);
+    ++_forgotten;
 }
 
 const UnitRecord* UnitRegistry::find(std::string_view serial) const {

@@ -1,7 +1,9 @@
 // The units that have answered, by serial number: the latest record of each, and the numbers in
 // ascending order.
 //
-// A unit that stops answering stays in the registry. Main thread only.
+// A unit that stops answering stays in the registry. Any host on the network can invent units, so
+// the registry has a limit: one more unit takes the place of the one that was not heard for
+// longest. Main thread only.
 
 #pragma once
 
@@ -9,23 +11,45 @@
 #include "units/OrderedSerialNumbers.h"
 #include "units/UnitRecord.h"
 
+#include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <map>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kx {
 
 class UnitRegistry {
-public:
-    using Records = std::map<std::string, UnitRecord, std::less<>>;
+private:
+    struct Unit;
 
+public:
+    // More than any network has, and small enough for a desktop's memory.
+    static constexpr std::size_t defaultLimit = 1'048'576;
+
+    using Records = std::map<std::string, Unit, std::less<>>; // values are UnitRecords
+
+    // `limit` is the most units that it keeps, at least 2.
+    explicit UnitRegistry(std::size_t limit = defaultLimit)
+        : _limit(limit) {}
+    UnitRegistry(const UnitRegistry&) = delete;
+    UnitRegistry& operator=(const UnitRegistry&) = delete;
+
+    // Forgets every unit. The kept serial number stays kept.
     void clear();
 
-    // Adds a unit, or replaces the whole record of a known unit. For a record without a serial
-    // number, returns false and stores nothing.
+    // Adds a unit, or replaces the whole record of a known unit; either is now the one that was
+    // heard last. For a record without a serial number, returns false and stores nothing.
     bool store(const UnitRecord& record);
+
+    // The unit of this serial number never makes room for another one. Absent: no unit is kept so.
+    void keep(std::optional<std::string> serial) { _kept = std::move(serial); }
+
+    // How many units made room for others since the start; clear() does not change it.
+    std::uint64_t forgottenUnits() const { return _forgotten; }
 
     // Null for a serial number that no unit has told. Valid until the next store() or clear().
     const UnitRecord* find(std::string_view serial) const;
@@ -46,7 +70,23 @@ public:
     TitleList serialNumbers() { return _serialNumbers.list(); }
 
 private:
+    // The units form a ring in the order in which they were heard, so that finding the next one to
+    // forget takes no search.
+    struct Unit : UnitRecord {
+        Unit* older = nullptr;
+        Unit* newer = nullptr;
+        const std::string* serial = nullptr; // the key of this unit
+    };
+
+    void hear(Unit& unit);
+    void leaveRing(Unit& unit);
+    void forgetOldest();
+
+    std::size_t _limit;
     Records _records;
+    Unit* _newest = nullptr; // null while there is no unit; its `newer` is the oldest
+    std::optional<std::string> _kept;
+    std::uint64_t _forgotten = 0;
     OrderedSerialNumbers _serialNumbers;
     std::map<std::string, std::string, std::less<>> _withdrawnAddresses; // by serial number
 };

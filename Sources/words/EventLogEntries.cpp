@@ -3,11 +3,16 @@
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
 #include "support/LocalizedText.h"
+#include "support/QuotedLines.h"
 #include "words/SendFailureText.h"
 
 namespace kx {
 
 namespace {
+
+std::optional<std::string> quoted(const std::optional<std::string>& text) {
+    return text.has_value() ? std::optional(quotedLines(*text)) : std::nullopt;
+}
 
 std::string continuation(const std::string& text) {
     return localizedText("\n  %@", {text});
@@ -43,7 +48,7 @@ std::string entryOfRequest(std::uint32_t target) {
 }
 
 std::string entryOfCommand(std::string_view command, std::string_view address) {
-    return localizedText("\nSend to: %@ command: %@", {address, command});
+    return localizedText("\nSend to: %@ command: %@", {quotedLines(address), quotedLines(command)});
 }
 
 std::string entryOfSend() {
@@ -71,13 +76,14 @@ std::string entryOfReceiveError(const Error& error) {
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text) {
     return reply.unitID.has_value() && reply.serialNumber.has_value()
                ? localizedText("\nReceived command: ^^%@ unit:%@ serial:%@ cidString:%@",
-                               {reply.tag, reply.unitID, reply.serialNumber, text})
-               : localizedText("\nReceived command: ^^%@", {reply.tag});
+                               {quoted(reply.tag), quoted(reply.unitID), reply.serialNumber, text})
+               : localizedText("\nReceived command: ^^%@", {quoted(reply.tag)});
 }
 
 std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,
                             const std::optional<std::string>& address) {
-    return localizedText("\nStuff ARP cache with MAC %@ for IP %@", {hardwareAddress, address});
+    return localizedText("\nStuff ARP cache with MAC %@ for IP %@",
+                         {quoted(hardwareAddress), quoted(address)});
 }
 
 std::string entryOfARPFailure(std::int32_t result) {

@@ -1,7 +1,9 @@
 // The entries of the event log: one for each thing that is sent, received or done, in words.
 //
-// Each begins with its own line break. Pure, except that they look up the sentences
-// (support/LocalizedText.h), so they belong to the main thread. Texts are UTF-8.
+// Each begins with its own line break. Line feeds of foreign and of typed texts are quoted in them
+// (support/QuotedLines.h), so that each entry has the lines that it is told to have. Pure, except
+// that they look up the sentences (support/LocalizedText.h), so they belong to the main thread.
+// Texts are UTF-8.
 
 #pragma once
 
@@ -38,7 +40,7 @@ std::string entryOfIgnoredDatagram(PacketKind kind);
 std::string entryOfReceiveError(const Error& error);
 
 // The entry has `text` only when the unit names itself and its serial number. An absent text prints
-// as "(null)".
+// as "(null)". A foreign text must come quoted; the display text of a parameter list is.
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text);
 
 // One entry for an ARP cache entry that was handed to the tool, and one for an entry that was not.

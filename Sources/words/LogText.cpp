@@ -1,7 +1,9 @@
 #include "words/LogText.h"
 
+#include "support/QuotedLines.h"
+#include "support/VisibleText.h"
+
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 namespace kx {
@@ -34,8 +36,16 @@ std::string_view wholeCharacters(std::string_view text, std::size_t most) {
 
 } // namespace
 
+void LogText::setLimit(std::size_t bytes, std::string_view notice) {
+    _limit = bytes;
+    _notice = notice;
+    _notice += '\n';
+}
+
 void LogText::clear() {
-    *this = LogText();
+    _full = {};
+    _last = {};
+    _charactersBeforeChunk = {};
 }
 
 void LogText::append(std::string_view text) {
@@ -81,35 +91,133 @@ void LogText::beginChunk() {
     _full.push_back(std::make_shared<const Chunk>(std::move(full)));
 }
 
+// --- The limit ---
+
+std::size_t LogText::Trimmed::movedPosition(std::size_t position) const {
+    return std::max(position, bytes) - bytes + noticeBytes;
+}
+
+std::size_t LogText::Trimmed::movedRow(std::size_t row) const {
+    return std::max(row, rows) - rows + (noticeBytes > 0 ? 1 : 0);
+}
+
+// The notice of an earlier trim is the first of these chunks.
+std::size_t LogText::chunksOfSurplus() const {
+    std::size_t chunks = 0;
+    if (size() > _limit) {
+        std::size_t left = size() + _notice.size();
+        while (chunks < _full.size() && left > _limit) {
+            left -= _full[chunks]->text.size();
+            ++chunks;
+        }
+    }
+    return chunks;
+}
+
+std::size_t LogText::surplus() const {
+    return chunk(chunksOfSurplus()).position - firstChunk().position;
+}
+
+LogText::Trimmed LogText::trim() {
+    const std::size_t chunks = chunksOfSurplus();
+    if (chunks == 0) {
+        return {};
+    }
+    const Chunk& kept = chunk(chunks);
+    const Trimmed trimmed{.bytes = kept.position - firstChunk().position,
+                          .rows = kept.firstRow - firstChunk().firstRow,
+                          .noticeBytes = _notice.size()};
+    Chunk notice;
+    notice.position = kept.position - _notice.size();
+    notice.firstRow = kept.firstRow - 1;
+    notice.text = _notice;
+    _full[chunks - 1] = std::make_shared<const Chunk>(std::move(notice));
+    _full.erase(_full.begin(), _full.begin() + static_cast<std::ptrdiff_t>(chunks - 1));
+    forgetCharacters(chunks);
+    return trimmed;
+}
+
+// The counts of the chunks that stay are moved. Counting them again would take as long as reading
+// all of the text.
+void LogText::forgetCharacters(std::size_t chunks) {
+    if (_charactersBeforeChunk.size() <= chunks) {
+        _charactersBeforeChunk.clear();
+        return;
+    }
+    const std::size_t before = _charactersBeforeChunk[chunks];
+    const std::size_t ofNotice = charactersIn(_notice);
+    _charactersBeforeChunk.erase(_charactersBeforeChunk.begin(),
+                                 _charactersBeforeChunk.begin() +
+                                     static_cast<std::ptrdiff_t>(chunks - 1));
+    _charactersBeforeChunk.front() = 0;
+    for (std::size_t index = 1; index < _charactersBeforeChunk.size(); ++index) {
+        _charactersBeforeChunk[index] -= before - ofNotice;
+    }
+}
+
+// --- Sharing ---
+
+void LogText::shareMemoryOf(const LogText& equalText) {
+    if (equalText.chunkCount() != chunkCount() || equalText.size() != size()) {
+        return;
+    }
+    for (std::size_t index = _full.size(); index-- > 0;) {
+        if (_full[index] == equalText._full[index]) {
+            break;
+        }
+        _full[index] = equalText._full[index];
+    }
+}
+
+LogText::Excerpt LogText::excerpt(std::size_t from, std::size_t to) const {
+    const std::size_t first = chunkAt(from);
+    const std::size_t last = chunkAt(to);
+    Excerpt excerpt{.text = {}, .position = chunk(first).position - firstChunk().position};
+    const auto at = [this](std::size_t index) {
+        return _full.begin() + static_cast<std::ptrdiff_t>(index);
+    };
+    excerpt.text._full.assign(at(first), at(std::min(last + 1, _full.size())));
+    if (last == _full.size()) {
+        excerpt.text._last = _last;
+    } else {
+        excerpt.text._last.position = chunk(last + 1).position;
+        excerpt.text._last.firstRow = chunk(last + 1).firstRow;
+    }
+    return excerpt;
+}
+
+// --- Rows and positions ---
+
 std::string_view LogText::lastRow() const {
     return std::string_view(_last.text).substr(_last.rowStarts.back());
 }
 
 std::size_t LogText::size() const {
-    return _last.position + _last.text.size();
+    return _last.position + _last.text.size() - firstChunk().position;
 }
 
 std::size_t LogText::rowCount() const {
-    return _last.firstRow + _last.rowStarts.size();
+    return _last.firstRow + _last.rowStarts.size() - firstChunk().firstRow;
 }
 
 LogText::Row LogText::row(std::size_t index) const {
     const Chunk& holder = chunk(chunkOfRow(index));
-    const std::size_t within = index - holder.firstRow;
+    const std::size_t within = index + firstChunk().firstRow - holder.firstRow;
     const std::size_t start = holder.rowStarts[within];
     const bool isLast = within + 1 == holder.rowStarts.size();
     const std::size_t end = isLast ? holder.text.size() : holder.rowStarts[within + 1];
     std::string_view text = std::string_view(holder.text).substr(start, end - start);
     const bool endsLine = text.ends_with('\n');
     text.remove_suffix(endsLine ? 1 : 0);
-    return {holder.position + start, text, endsLine};
+    return {holder.position - firstChunk().position + start, text, endsLine};
 }
 
 std::size_t LogText::rowAt(std::size_t position) const {
     const Chunk& holder = chunk(chunkAt(position));
-    const std::size_t within = position - holder.position;
+    const std::size_t within = position + firstChunk().position - holder.position;
     const auto next = std::upper_bound(holder.rowStarts.begin(), holder.rowStarts.end(), within);
-    return holder.firstRow + static_cast<std::size_t>(next - holder.rowStarts.begin()) - 1;
+    return holder.firstRow - firstChunk().firstRow +
+           static_cast<std::size_t>(next - holder.rowStarts.begin()) - 1;
 }
 
 const LogText::Chunk& LogText::chunk(std::size_t index) const {
@@ -117,6 +225,7 @@ const LogText::Chunk& LogText::chunk(std::size_t index) const {
 }
 
 std::size_t LogText::chunkAt(std::size_t position) const {
+    position += firstChunk().position;
     if (position >= _last.position) {
         return _full.size();
     }
@@ -126,6 +235,7 @@ std::size_t LogText::chunkAt(std::size_t position) const {
 }
 
 std::size_t LogText::chunkOfRow(std::size_t row) const {
+    row += firstChunk().firstRow;
     if (row >= _last.firstRow) {
         return _full.size();
     }
@@ -136,7 +246,7 @@ std::size_t LogText::chunkOfRow(std::size_t row) const {
 
 LogText::Piece LogText::pieceAt(std::size_t position) const {
     const Chunk& holder = chunk(chunkAt(position));
-    return {holder.position, holder.text};
+    return {holder.position - firstChunk().position, holder.text};
 }
 
 std::string LogText::text() const {
@@ -145,7 +255,29 @@ std::string LogText::text() const {
     for (std::size_t index = 0; index < chunkCount(); ++index) {
         whole += chunk(index).text;
     }
-    return whole;
+    return unquotedLines(std::move(whole));
+}
+
+std::string LogText::shownText(std::size_t from, std::size_t to) const {
+    std::string shown;
+    shown.reserve(to - from);
+    for (std::size_t index = rowAt(from); from < to; ++index) {
+        const Row each = row(index);
+        const std::size_t end = each.position + each.text.size();
+        const std::size_t start = std::min(from, end);
+        // A row that is not wanted to its end does not show its end.
+        std::string part = shownRow(each.text.substr(start - each.position));
+        if (to < end) {
+            part.resize(part.size() - shownRow(each.text.substr(to - each.position)).size());
+        }
+        shown += part;
+        from = end;
+        if (each.endsLine && from < to) {
+            shown += '\n';
+            ++from;
+        }
+    }
+    return shown;
 }
 
 std::size_t LogText::charactersBefore(std::size_t position) const {
@@ -159,7 +291,8 @@ std::size_t LogText::charactersBefore(std::size_t position) const {
                                          charactersIn(counted.text));
     }
     const Chunk& holder = chunk(index);
-    const std::string_view before(holder.text.data(), position - holder.position);
+    const std::string_view before(holder.text.data(),
+                                  position + firstChunk().position - holder.position);
     return _charactersBeforeChunk[index] + charactersIn(before);
 }
 
@@ -169,8 +302,16 @@ std::size_t LogText::positionAfter(std::size_t characters) const {
         std::upper_bound(_charactersBeforeChunk.begin(), _charactersBeforeChunk.end(), characters);
     const auto index = static_cast<std::size_t>(next - _charactersBeforeChunk.begin()) - 1;
     const Chunk& holder = chunk(index);
-    return holder.position +
+    return holder.position - firstChunk().position +
            bytesOfCharacters(holder.text, characters - _charactersBeforeChunk[index]);
+}
+
+std::string shownRow(std::string_view row) {
+    const bool endsWithReturn = row.ends_with('\r');
+    row.remove_suffix(endsWithReturn ? 1 : 0);
+    std::string shown = visibleText(row, Tabs::kept);
+    shown += endsWithReturn ? " " : "";
+    return shown;
 }
 
 std::size_t charactersIn(std::string_view text) {

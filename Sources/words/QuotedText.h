@@ -9,8 +9,7 @@
 
 namespace kx {
 
-// The text on one line, in the order of its characters, and cut behind the first 32 of them.
-// Characters that would change the line or their order are shown as U+FFFD.
+// The visible text (support/VisibleText.h), cut behind the first 32 of its characters.
 std::string safeForSentence(std::string_view text);
 
 } // namespace kx

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Outlets.h"
+#include "support/QuotedLines.h"
 #include "tables/GXArrayTable.h"
 #include "tables/TableViewDataSource.h"
 
@@ -178,8 +179,10 @@ public:
         _isEndVisible = false;
     }
 
+    void shareMemoryOf(const LogText& /*equalText*/) override {}
+
     void insertAtEnd(std::string_view text) override {
-        _text += text;
+        _text += unquotedLines(std::string(text));
         _isEndVisible = false;
         ++_insertCount;
     }

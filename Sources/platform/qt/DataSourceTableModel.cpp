@@ -1,6 +1,7 @@
 #include "platform/qt/DataSourceTableModel.h"
 
 #include "platform/qtcore/QtText.h"
+#include "support/VisibleText.h"
 
 #include <utility>
 
@@ -55,7 +56,8 @@ QVariant DataSourceTableModel::data(const QModelIndex& index, int role) const {
         return {};
     }
     const Row& row = _rows[static_cast<std::size_t>(index.row())];
-    return row[static_cast<std::size_t>(index.column())];
+    const QString& text = row[static_cast<std::size_t>(index.column())];
+    return role == Qt::DisplayRole ? qtText(visibleText(utf8Text(text))) : text;
 }
 
 QVariant DataSourceTableModel::headerData(int section, Qt::Orientation orientation,

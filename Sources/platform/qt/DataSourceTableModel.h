@@ -1,7 +1,8 @@
 // The values of a table view, as its data source gave them at the last reload().
 //
 // The model asks the data source in reload() and for a cell that was just edited, and never from
-// inside a paint event. So everything on the screen belongs to the same moment. Without a data
+// inside a paint event. The display role has the visible text (support/VisibleText.h), the edit
+// role the text itself. So everything on the screen belongs to the same moment. Without a data
 // source there are no rows.
 
 #pragma once

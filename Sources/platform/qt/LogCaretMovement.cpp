@@ -1,8 +1,9 @@
 #include "platform/qt/LogCaretMovement.h"
 
-#include "platform/qt/LogRowLayout.h"
+#include "platform/qtcore/QtText.h"
 
 #include <QTextBoundaryFinder>
+#include <QTextLayout>
 #include <algorithm>
 
 namespace kx {
@@ -26,7 +27,7 @@ std::size_t forward(const LogText& text, std::size_t position, QTextLayout::Curs
     if (position == endOf(row)) {
         return std::min(position + 1, text.size()); // step over the line feed
     }
-    const QTextLayout layout(shownText(row.text));
+    const QTextLayout layout(qtText(shownRow(row.text)));
     return positionOf(row, layout.nextCursorPosition(unitOf(row, position), mode));
 }
 
@@ -42,13 +43,13 @@ std::size_t backward(const LogText& text, std::size_t position, QTextLayout::Cur
         }
     }
     const LogText::Row row = text.row(index);
-    const QTextLayout layout(shownText(row.text));
+    const QTextLayout layout(qtText(shownRow(row.text)));
     return positionOf(row, layout.previousCursorPosition(unitOf(row, position), mode));
 }
 
 LogRange wordAround(const LogText& text, std::size_t position) {
     const LogText::Row row = text.row(text.rowAt(position));
-    const QString shown = shownText(row.text);
+    const QString shown = qtText(shownRow(row.text));
     QTextBoundaryFinder finder(QTextBoundaryFinder::Word, shown);
     finder.setPosition(std::min<qsizetype>(unitOf(row, position), shown.size()));
     const bool atEnd = finder.position() == shown.size();

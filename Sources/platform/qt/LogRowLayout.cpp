@@ -7,34 +7,10 @@
 
 namespace kx {
 
-namespace {
-
-bool actsOnTheScreen(QChar character) {
-    const char16_t code = character.unicode();
-    const bool isControl = (code < 0x20 && code != '\t') || (code >= 0x7F && code < 0xA0);
-    const bool breaksLines = code == QChar::LineSeparator || code == QChar::ParagraphSeparator;
-    const bool turnsDirection = code == 0x061C || code == 0x200E || code == 0x200F ||
-                                (code >= 0x202A && code <= 0x202E) ||
-                                (code >= 0x2066 && code <= 0x2069);
-    return isControl || breaksLines || turnsDirection || code == QChar::ObjectReplacementCharacter;
-}
-
-} // namespace
-
-QString shownText(std::string_view text) {
-    QString shown = qtText(text);
-    if (shown.endsWith('\r')) {
-        shown.back() = ' ';
-    }
-    std::replace_if(shown.begin(), shown.end(), actsOnTheScreen,
-                    QChar(QChar::ReplacementCharacter));
-    return shown;
-}
-
 LogRowLayout::LogRowLayout(const LogText::Row& row, const LogRowStyle& looks)
     : _row(row)
     , _looks(looks)
-    , _layout(shownText(row.text), looks.font) {
+    , _layout(qtText(shownRow(row.text)), looks.font) {
     QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
     option.setTextDirection(Qt::LeftToRight);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -1,10 +1,8 @@
 // One row of the log as it is drawn, broken into as many lines as it needs in the given width.
 //
 // A row runs from left to right whatever its letters are, so that a foreign name cannot turn the
-// row around. Text that is written from right to left keeps its order inside. A character that
-// would act on the screen instead of being visible (controls, line separators, marks of direction)
-// is shown as a replacement mark, so that a text from the network is harmless. A carriage return at
-// the end of a row, which ends most commands, is shown as a blank.
+// row around. Text that is written from right to left keeps its order inside. The row is shown as
+// shownRow() (words/LogText.h) tells it, so that a text from the network is harmless.
 //
 // Layouts are made for rows in sight only and live for a short time: the row must not change
 // meanwhile.
@@ -29,9 +27,6 @@ struct LogRowStyle {
     qreal blank = 1; // the width of a blank
     qreal width = 1; // the width of a line
 };
-
-// The text as it is drawn: as many UTF-16 units as the text has, some of them replaced.
-QString shownText(std::string_view text);
 
 class LogRowLayout {
 public:

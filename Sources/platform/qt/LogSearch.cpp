@@ -2,13 +2,13 @@
 
 #include "platform/qtcore/QtText.h"
 
+#include <algorithm>
+#include <string>
+#include <string_view>
+
 namespace kx {
 
 namespace {
-
-std::size_t bytesIn(QStringView text) {
-    return static_cast<std::size_t>(text.toUtf8().size());
-}
 
 // The text with every letter in the case in which letters are compared, and with the same number of
 // units. The toolkit can compare in either case by itself. But Qt 6.8 then finds nothing when the
@@ -34,38 +34,75 @@ QString folded(QString text) {
     return text;
 }
 
-// The end of one piece that is searched together with the next one, because a match may lie across
-// two pieces.
-QString tailOf(const QString& text, qsizetype units) {
-    QString tail = text.right(units);
-    return !tail.isEmpty() && tail.front().isLowSurrogate() ? tail.mid(1) : tail;
+bool continuesCharacter(char byte) {
+    return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
 }
 
-QString headOf(const QString& text, qsizetype units) {
-    QString head = text.left(units);
-    return !head.isEmpty() && head.back().isHighSurrogate() ? head.chopped(1) : head;
-}
+// A part of the log, and the text that a person sees of it. Both have as many units, so a place in
+// one tells the place in the other.
+class SearchedPart {
+public:
+    SearchedPart(const LogText& log, std::size_t from, std::size_t to)
+        : _from(from)
+        , _shown(folded(qtText(log.shownText(from, to)))) {
+        while (from < to) {
+            const LogText::Piece piece = log.pieceAt(from);
+            _text += piece.text.substr(from - piece.position, to - from);
+            from = piece.position + piece.text.size();
+        }
+    }
 
-LogRange rangeIn(const QString& searched, std::size_t position, qsizetype index, qsizetype length) {
-    const std::size_t from = position + bytesIn(QStringView(searched).left(index));
-    return {from, from + bytesIn(QStringView(searched).mid(index, length))};
+    const QString& shown() const { return _shown; }
+
+    LogRange rangeOf(qsizetype unit, qsizetype units) const {
+        const std::size_t from = bytesOfCharacters(_text, static_cast<std::size_t>(unit));
+        const std::string_view rest = std::string_view(_text).substr(from);
+        const std::size_t length = bytesOfCharacters(rest, static_cast<std::size_t>(units));
+        return {_from + from, _from + from + length};
+    }
+
+    // A position of a whole character with at least so many bytes behind it, or in front of it.
+    std::size_t positionBefore(std::size_t bytes) const {
+        std::size_t index = _text.size() - std::min(bytes, _text.size());
+        while (index > 0 && continuesCharacter(_text[index])) {
+            --index;
+        }
+        return _from + index;
+    }
+    std::size_t positionBehind(std::size_t bytes) const {
+        std::size_t index = std::min(bytes, _text.size());
+        while (index < _text.size() && continuesCharacter(_text[index])) {
+            ++index;
+        }
+        return _from + index;
+    }
+
+private:
+    std::size_t _from;
+    QString _shown;
+    std::string _text;
+};
+
+// The most bytes of a match: a unit takes at most three, and a pair of units takes four. Parts that
+// are searched one after the other overlap by so many, because a match may lie across them.
+std::size_t overlapFor(const QString& sought) {
+    return static_cast<std::size_t>(sought.size()) * 3;
 }
 
 } // namespace
 
 std::optional<LogRange> findForward(const LogText& text, const QString& sought, std::size_t start) {
     const QString wanted = folded(sought);
-    QString before;
+    std::size_t from = start;
     while (start < text.size()) {
         const LogText::Piece piece = text.pieceAt(start);
         const std::size_t end = piece.position + piece.text.size();
-        const std::size_t position = start - bytesIn(before);
-        const QString searched = before + qtText(piece.text.substr(start - piece.position));
-        const qsizetype index = folded(searched).indexOf(wanted);
+        const SearchedPart part(text, from, end);
+        const qsizetype index = part.shown().indexOf(wanted);
         if (index >= 0) {
-            return rangeIn(searched, position, index, sought.size());
+            return part.rangeOf(index, sought.size());
         }
-        before = tailOf(searched, sought.size() - 1);
+        from = part.positionBefore(overlapFor(sought));
         start = end;
     }
     return std::nullopt;
@@ -73,15 +110,15 @@ std::optional<LogRange> findForward(const LogText& text, const QString& sought, 
 
 std::optional<LogRange> findBackward(const LogText& text, const QString& sought, std::size_t end) {
     const QString wanted = folded(sought);
-    QString after;
+    std::size_t to = end;
     while (end > 0) {
         const LogText::Piece piece = text.pieceAt(end - 1);
-        const QString searched = qtText(piece.text.substr(0, end - piece.position)) + after;
-        const qsizetype index = folded(searched).lastIndexOf(wanted);
+        const SearchedPart part(text, piece.position, to);
+        const qsizetype index = part.shown().lastIndexOf(wanted);
         if (index >= 0) {
-            return rangeIn(searched, piece.position, index, sought.size());
+            return part.rangeOf(index, sought.size());
         }
-        after = headOf(searched, sought.size() - 1);
+        to = part.positionBehind(overlapFor(sought));
         end = piece.position;
     }
     return std::nullopt;

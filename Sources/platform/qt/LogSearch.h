@@ -1,5 +1,6 @@
-// Searches the log's text. Letters match in either case. Pure; the search goes through the text
-// piece by piece, so a long text is never copied whole. `sought` must not be empty.
+// Searches the log's text as it is shown. Letters match in either case. Pure; the search goes
+// through the text piece by piece, so a long text is never copied whole. `sought` must not be
+// empty.
 
 #pragma once
 

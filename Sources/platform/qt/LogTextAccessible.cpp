@@ -143,10 +143,9 @@ void installLogTextAccessible() {
     QAccessible::installFactory(&makeLogTextAccessible);
 }
 
-void announceInsertion(LogTextView& view, std::size_t from) {
-    if (QAccessible::isActive() && from < view.text().size()) {
-        QAccessibleTextInsertEvent event(&view, offsetOf(view, from),
-                                         view.textBetween(from, view.text().size()));
+void announceInsertion(LogTextView& view, std::size_t from, std::size_t to) {
+    if (QAccessible::isActive() && from < to) {
+        QAccessibleTextInsertEvent event(&view, offsetOf(view, from), view.textBetween(from, to));
         QAccessible::updateAccessibility(&event);
     }
 }

@@ -13,8 +13,8 @@ class LogTextView;
 // Call this before the first view is made. Further calls do nothing.
 void installLogTextAccessible();
 
-// Announces that the text from this position on is new.
-void announceInsertion(LogTextView& view, std::size_t from);
+// Announces that the text between these positions is new.
+void announceInsertion(LogTextView& view, std::size_t from, std::size_t to);
 
 // Announces that the text up to this position is about to be removed.
 void announceRemoval(LogTextView& view, std::size_t to);

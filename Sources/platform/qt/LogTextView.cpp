@@ -1,5 +1,6 @@
 #include "platform/qt/LogTextView.h"
 
+#include "platform/qt/LogMimeData.h"
 #include "platform/qt/LogTextAccessible.h"
 #include "platform/qtcore/QtText.h"
 
@@ -52,7 +53,26 @@ void LogTextView::setText(const LogText& text) {
 
 void LogTextView::append(std::string_view text) {
     _text.append(text);
+    if (_text.surplus() > 0) {
+        forgetOldest();
+    }
     frameIsBehind();
+}
+
+// A frame follows at once, because the text on the screen is about to be freed.
+void LogTextView::forgetOldest() {
+    announceRemoval(*this, std::min(_text.surplus(), _announced));
+    const LogText::Trimmed trimmed = _text.trim();
+    for (std::size_t* const position :
+         {&_anchor, &_caret, &_announced, &_dragOrigin.from, &_dragOrigin.to}) {
+        *position = trimmed.movedPosition(*position);
+    }
+    for (WrappedLogLine* const line : {&_top, &_lowestTop}) {
+        line->line = line->row < trimmed.rows ? 0 : line->line;
+        line->row = trimmed.movedRow(line->row);
+    }
+    announceInsertion(*this, 0, trimmed.noticeBytes);
+    viewport()->update();
 }
 
 void LogTextView::scrollToEnd() {
@@ -68,17 +88,8 @@ QString LogTextView::toPlainText() const {
     return textBetween(0, _text.size());
 }
 
-// Goes piece by piece, so that a long text is copied only once, into Qt's form.
 QString LogTextView::textBetween(std::size_t from, std::size_t to) const {
-    QString result;
-    result.reserve(static_cast<qsizetype>(to - from));
-    while (from < to) {
-        const LogText::Piece piece = _text.pieceAt(from);
-        const std::string_view part = piece.text.substr(from - piece.position, to - from);
-        result += qtText(part);
-        from += part.size();
-    }
-    return result;
+    return shownLogText(_text, {from, to});
 }
 
 LogRange LogTextView::selection() const {
@@ -102,14 +113,14 @@ void LogTextView::selectAll() {
 
 void LogTextView::copy() const {
     if (_anchor != _caret) {
-        QGuiApplication::clipboard()->setText(selectedText());
+        QGuiApplication::clipboard()->setMimeData(new LogMimeData(_text, selection()));
     }
 }
 
 void LogTextView::takeAsPrimarySelection() const {
     QClipboard* clipboard = QGuiApplication::clipboard();
     if (_anchor != _caret && clipboard->supportsSelection()) {
-        clipboard->setText(selectedText(), QClipboard::Selection);
+        clipboard->setMimeData(new LogMimeData(_text, selection()), QClipboard::Selection);
     }
 }
 
@@ -142,7 +153,7 @@ void LogTextView::showFrame() {
         setTop(_lowestTop);
     }
     viewport()->update();
-    announceInsertion(*this, std::exchange(_announced, _text.size()));
+    announceInsertion(*this, std::exchange(_announced, _text.size()), _text.size());
     _sinceFrame.restart();
 }
 

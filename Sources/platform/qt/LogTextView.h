@@ -1,14 +1,16 @@
 // The view of the event log: fixed-width text that a person can select, copy and search, but not
 // change. A line too long for the view goes on in the next line of the view.
 //
-// The view is made for a log that grows fast and without limit. The cost of appending depends only
-// on the appended text. The screen follows in frames of its own, so it may be one frame behind the
-// text; the operations that read the text see all of it. Only the rows in sight are ever laid out,
-// and the scroll bar counts rows. At rest nothing wakes up.
+// The view is made for a log that grows fast. When the text goes beyond its limit, the oldest
+// pieces go, and the person's place and selection stay as far as they are left. The cost of
+// appending depends only on the appended text. The screen follows in frames of its own, so it may
+// be one frame behind the text; the operations that read the text see all of it. Only the rows in
+// sight are ever laid out, and the scroll bar counts rows. At rest nothing wakes up.
 //
 // Selecting works as in the platform's text fields: drag, double click for words, triple click for
 // lines, Shift with a click or a movement key. The selected text becomes the primary selection
-// where the system has one. New text does not change the selection. When a key moves a caret that
+// where the system has one. Copied and selected text is the text as it is shown; it is made when
+// somebody pastes it. New text does not change the selection. When a key moves a caret that
 // is out of sight, the caret first comes to the edge of the text in sight, so that the keyboard
 // goes on from the place where the person reads.
 //
@@ -38,16 +40,19 @@ public:
 
     void append(std::string_view text);
 
+    // See TextView (Outlets.h).
+    void shareMemoryOf(const LogText& equalText) { _text.shareMemoryOf(equalText); }
+
     // Makes the next frame show the end of the text.
     void scrollToEnd();
 
     // Whether the end of the text is in sight, in the frame on the screen.
     bool showsEnd() const;
 
-    // All of the text, including the part that no frame has shown yet.
+    // All of the text as it is shown, including the part that no frame has shown yet.
     QString toPlainText() const;
 
-    // The text between two positions; `from` comes first.
+    // The text between two positions as it is shown; `from` comes first.
     QString textBetween(std::size_t from, std::size_t to) const;
     const LogText& text() const { return _text; }
 
@@ -95,6 +100,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void forgetOldest();
     void frameIsBehind();
     void showFrame();
 

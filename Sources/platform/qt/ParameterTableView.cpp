@@ -114,7 +114,7 @@ QSize ParameterTableView::minimumSizeHint() const {
 void ParameterTableView::closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) {
     QTableView::closeEditor(editor, QAbstractItemDelegate::NoHint);
     // This is not the current cell: an editor also closes because another cell became current.
-    emit textEdited(_editedCell.data().toString());
+    emit textEdited(_editedCell.data(Qt::EditRole).toString());
     if (hint == QAbstractItemDelegate::EditNextItem) {
         focusNextChild();
     } else if (hint == QAbstractItemDelegate::EditPreviousItem) {

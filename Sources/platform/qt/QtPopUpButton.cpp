@@ -149,7 +149,7 @@ std::optional<std::string> QtPopUpButton::titleOfSelectedItem() const {
     if (_comboBox.currentIndex() < 0) {
         return std::nullopt;
     }
-    return utf8Text(_comboBox.currentText());
+    return std::string(_model.titles()[static_cast<std::size_t>(_comboBox.currentIndex())]);
 }
 
 void QtPopUpButton::setEnabled(bool enabled) {

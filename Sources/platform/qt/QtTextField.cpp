@@ -1,17 +1,19 @@
 #include "platform/qt/QtTextField.h"
 
 #include "platform/qtcore/QtText.h"
+#include "support/VisibleText.h"
 
 namespace kx {
 
 void QtTextField::setStringValue(std::string_view text) {
-    _lineEdit.setText(qtText(text));
+    _text = text;
+    _lineEdit.setText(qtText(_lineEdit.isReadOnly() ? visibleText(text) : _text));
     // A text longer than the field shows its beginning.
     _lineEdit.setCursorPosition(0);
 }
 
 std::string QtTextField::stringValue() const {
-    return utf8Text(_lineEdit.text());
+    return _lineEdit.isReadOnly() ? _text : utf8Text(_lineEdit.text());
 }
 
 } // namespace kx

@@ -1,4 +1,5 @@
-// A text field over a line edit. The line edit must outlive it.
+// A text field over a line edit. The line edit must outlive it. A field that a person cannot edit
+// shows the visible text (support/VisibleText.h), and a person copies that.
 
 #pragma once
 
@@ -18,6 +19,7 @@ public:
 
 private:
     QLineEdit& _lineEdit;
+    std::string _text; // of a field that a person cannot edit
 };
 
 } // namespace kx

@@ -13,6 +13,10 @@ void QtTextView::insertAtEnd(std::string_view text) {
     _view.append(text);
 }
 
+void QtTextView::shareMemoryOf(const LogText& equalText) {
+    _view.shareMemoryOf(equalText);
+}
+
 void QtTextView::scrollEndToVisible() {
     _view.scrollToEnd();
 }

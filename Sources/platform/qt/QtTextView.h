@@ -13,6 +13,7 @@ public:
 
     void setString(const LogText& text) override;
     void insertAtEnd(std::string_view text) override;
+    void shareMemoryOf(const LogText& equalText) override;
     void scrollEndToVisible() override;
 
 private:

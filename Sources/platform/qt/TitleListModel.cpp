@@ -1,6 +1,7 @@
 #include "platform/qt/TitleListModel.h"
 
 #include "platform/qtcore/QtText.h"
+#include "support/VisibleText.h"
 
 #include <algorithm>
 #include <utility>
@@ -10,11 +11,11 @@ namespace kx {
 namespace {
 
 bool startsWith(std::string_view title, const QString& text) {
-    const bool isASCII = std::ranges::none_of(
-        title, [](char character) { return (static_cast<unsigned char>(character) & 0x80) != 0; });
-    return isASCII ? QLatin1StringView(title.data(), static_cast<qsizetype>(title.size()))
+    const bool isPlain = std::ranges::all_of(
+        title, [](char character) { return character >= ' ' && character <= '~'; });
+    return isPlain ? QLatin1StringView(title.data(), static_cast<qsizetype>(title.size()))
                          .startsWith(text, Qt::CaseInsensitive)
-                   : qtText(title).startsWith(text, Qt::CaseInsensitive);
+                   : qtText(visibleText(title)).startsWith(text, Qt::CaseInsensitive);
 }
 
 } // namespace
@@ -34,7 +35,8 @@ QVariant TitleListModel::data(const QModelIndex& index, int role) const {
     if (!asksForText || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
-    return qtText(_titles[static_cast<std::size_t>(index.row())]);
+    const std::string_view title = _titles[static_cast<std::size_t>(index.row())];
+    return role == Qt::DisplayRole ? qtText(visibleText(title)) : qtText(title);
 }
 
 QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const QVariant& value,

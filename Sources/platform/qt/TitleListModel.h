@@ -1,5 +1,6 @@
 // The titles of a pop-up as a model. A title is kept in UTF-8 and turned into Qt's form each time
-// it is read, so a long list needs no second copy of its texts. Main thread only.
+// it is read, so a long list needs no second copy of its texts. The display role has the visible
+// text (support/VisibleText.h), the edit role the title itself. Main thread only.
 
 #pragma once
 

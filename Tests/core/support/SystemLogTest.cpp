@@ -65,9 +65,27 @@ TEST(SystemLog, LineWithAZeroByteAndALineBreakIsOneWholeLineWithoutASinkToo) {
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "a\\x00b\\x0Ac\n");
 }
 
-TEST(SystemLog, OnlyControlCharactersAreEscaped) {
-    EXPECT_EQ(escapedLine("\x1F \t~\x7F\x80 \xC3\xA9 \\ %"), "\\x1F \t~\\x7F\x80 \xC3\xA9 \\ %");
+TEST(SystemLog, OnlyWhatActsOnAScreenIsEscapedByteByByte) {
+    EXPECT_EQ(escapedLine("\x1F \t~\x7F \xC3\xA9 \\ %"), "\\x1F \t~\\x7F \xC3\xA9 \\ %");
+    EXPECT_EQ(escapedLine("a\u009B31m\u202Eb"), R"(a\xC2\x9B31m\xE2\x80\xAEb)");
+    EXPECT_EQ(escapedLine("\x9B"
+                          "31m\xC1"),
+              R"(\x9B31m\xC1)")
+        << "an 8-bit terminal obeys it";
+    EXPECT_EQ(escapedLine("網😀"), "網😀");
     EXPECT_EQ(escapedLine(""), "");
+}
+
+TEST(SystemLog, TheLastLineGoesToTheInstalledSinkOrToStandardError) {
+    {
+        const RecordedSystemLog log;
+        logLastToSystem("the end");
+        EXPECT_EQ(log.lines(), Lines{"the end"});
+    }
+    const NoSystemLog quiet;
+    testing::internal::CaptureStderr();
+    logLastToSystem("the end");
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "the end\n");
 }
 
 } // namespace

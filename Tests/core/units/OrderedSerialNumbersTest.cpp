@@ -64,6 +64,37 @@ TEST(OrderedSerialNumbers, AreForgottenWhenTheyAreCleared) {
     EXPECT_EQ(listed(keys), std::vector<std::string>{"A"});
 }
 
+TEST(OrderedSerialNumbers, RemovedOnesAreGoneAndMayComeBack) {
+    std::mt19937 random(2);
+    OrderedSerialNumbers keys;
+    std::set<std::string> expected;
+    for (int step = 0; step < 20'000; ++step) {
+        const std::string key = std::to_string(random() % 3000);
+        if (expected.insert(key).second) {
+            keys.add(key);
+        } else {
+            expected.erase(key);
+            keys.remove(key);
+        }
+        if (step % 501 == 0) {
+            ASSERT_EQ(listed(keys), std::vector<std::string>(expected.begin(), expected.end()));
+        }
+    }
+}
+
+TEST(OrderedSerialNumbers, AllOfThemMayBeRemoved) {
+    OrderedSerialNumbers keys;
+    for (int number = 0; number < 200; ++number) {
+        keys.add(std::to_string(number));
+    }
+    for (int number = 0; number < 200; ++number) {
+        keys.remove(std::to_string(number));
+    }
+    EXPECT_TRUE(keys.list().empty());
+    keys.add("7");
+    EXPECT_EQ(listed(keys), std::vector<std::string>{"7"});
+}
+
 TEST(OrderedSerialNumbersDeathTest, ANumberThatIsTooLongBreaksTheContract) {
     OrderedSerialNumbers keys;
     EXPECT_DEATH(keys.add("18 characters long"), "number.size\\(\\) <= UnitRecord::longestText");

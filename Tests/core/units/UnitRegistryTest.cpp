@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -140,6 +142,106 @@ TEST(UnitRegistry, ForgetsEverythingWhenItIsCleared) {
     registry.store(withoutAddress);
     EXPECT_EQ(registry.lastToldAddress(firstSerial), std::nullopt);
     EXPECT_EQ(listedIn(registry), std::vector<std::string>{std::string(firstSerial)});
+}
+
+// --- The limit ---
+
+namespace {
+
+std::string serialOf(int number) {
+    std::string serial = std::to_string(1'000'000 + number);
+    return serial;
+}
+
+void tell(UnitRegistry& registry, int number) {
+    registry.store(recordAt(serialOf(number), "192.168.1.10"));
+}
+
+} // namespace
+
+TEST(UnitRegistry, OneUnitTooManyTakesThePlaceOfTheOneNotHeardForLongest) {
+    UnitRegistry registry(3);
+    tell(registry, 1);
+    tell(registry, 2);
+    tell(registry, 3);
+    EXPECT_EQ(registry.forgottenUnits(), 0U);
+    tell(registry, 1); // heard again
+    tell(registry, 4);
+    EXPECT_EQ(listedIn(registry), (std::vector{serialOf(1), serialOf(3), serialOf(4)}));
+    EXPECT_EQ(registry.find(serialOf(2)), nullptr);
+    EXPECT_EQ(registry.forgottenUnits(), 1U);
+    tell(registry, 2); // comes back
+    EXPECT_EQ(listedIn(registry), (std::vector{serialOf(1), serialOf(2), serialOf(4)}));
+    EXPECT_EQ(registry.forgottenUnits(), 2U);
+}
+
+TEST(UnitRegistry, TheKeptUnitNeverMakesRoom) {
+    UnitRegistry registry(3);
+    tell(registry, 1);
+    registry.keep(serialOf(1));
+    for (int number = 2; number < 100; ++number) {
+        tell(registry, number);
+    }
+    EXPECT_EQ(listedIn(registry), (std::vector{serialOf(1), serialOf(98), serialOf(99)}));
+    registry.keep(std::nullopt);
+    tell(registry, 100);
+    EXPECT_EQ(registry.find(serialOf(1)), nullptr);
+}
+
+TEST(UnitRegistry, AForgottenUnitsWithdrawnAddressIsForgottenToo) {
+    UnitRegistry registry(2);
+    tell(registry, 1);
+    registry.withdrawAddress(serialOf(1));
+    tell(registry, 2);
+    tell(registry, 3);
+    EXPECT_EQ(registry.lastToldAddress(serialOf(1)), std::nullopt);
+}
+
+TEST(UnitRegistry, AClearedRegistryTakesAsManyUnitsAgain) {
+    UnitRegistry registry(2);
+    tell(registry, 1);
+    tell(registry, 2);
+    registry.clear();
+    tell(registry, 3);
+    tell(registry, 4);
+    EXPECT_EQ(listedIn(registry), (std::vector{serialOf(3), serialOf(4)}));
+    EXPECT_EQ(registry.forgottenUnits(), 0U);
+}
+
+// The same by a plain list of the serial numbers in the order in which they were heard.
+TEST(UnitRegistry, AgreesWithAPlainListOverManyRandomReplies) {
+    constexpr std::size_t most = 500;
+    UnitRegistry registry(most);
+    std::vector<std::string> heard;
+    std::mt19937 random(1);
+    for (int reply = 0; reply < 20'000; ++reply) {
+        const std::string serial = serialOf(static_cast<int>(random() % 900));
+        registry.store(recordAt(serial, "192.168.1.10"));
+        std::erase(heard, serial);
+        heard.push_back(serial);
+        if (heard.size() > most) {
+            heard.erase(heard.begin());
+        }
+        if (reply % 997 == 0) {
+            std::vector<std::string> expected = heard;
+            std::ranges::sort(expected);
+            ASSERT_EQ(listedIn(registry), expected) << reply;
+            ASSERT_EQ(registry.records().size(), expected.size());
+        }
+    }
+}
+
+TEST(UnitRegistry, KeepsAMillionUnitsAndNoMore) {
+    UnitRegistry registry;
+    constexpr auto most = static_cast<int>(UnitRegistry::defaultLimit);
+    for (int number = 0; number < most + 10; ++number) {
+        tell(registry, number);
+    }
+    EXPECT_EQ(registry.records().size(), 1'048'576U);
+    EXPECT_EQ(registry.serialNumbers().size(), 1'048'576U);
+    EXPECT_EQ(registry.forgottenUnits(), 10U);
+    EXPECT_EQ(registry.find(serialOf(9)), nullptr);
+    EXPECT_NE(registry.find(serialOf(10)), nullptr);
 }
 
 } // namespace kx

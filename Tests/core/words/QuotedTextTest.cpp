@@ -16,7 +16,11 @@ TEST(QuotedText, AForeignTextStaysOnOneLineAndIsCut) {
     EXPECT_EQ(safeForSentence(std::string_view("a\0b", 3)), "a\uFFFDb");
     EXPECT_EQ(safeForSentence("a\u0085\u2028\u2029b"), "a\uFFFD\uFFFD\uFFFDb");
     EXPECT_EQ(safeForSentence("1\u202E2\u20663\u200F4"), "1\uFFFD2\uFFFD3\uFFFD4");
-    EXPECT_EQ(safeForSentence(std::string(100, '\x80')), std::string(32, '\x80') + "…");
+    std::string marks;
+    for (int i = 0; i < 32; ++i) {
+        marks += "\uFFFD";
+    }
+    EXPECT_EQ(safeForSentence(std::string(100, '\x80')), marks + "…");
 }
 
 } // namespace kx
