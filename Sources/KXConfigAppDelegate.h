@@ -137,8 +137,10 @@ public:
     // Writes a static entry into the host's ARP cache. The arguments of the tool are "-s", the IP
     // text and the hardware address text; the list ends before the first text that is absent.
     // Returns the result of Authorization::runToolWithArgs(), or -1, with an alert, when rights
-    // were not given. Blocks while a person is asked or told, and up to two seconds for the tool.
-    // Datagrams and delayed calls that come meanwhile are handled afterwards.
+    // were not given. Returns when the person who is asked or told has answered, and at most two
+    // seconds after the start of the tool. Windows are painted meanwhile; datagrams and delayed
+    // calls that come meanwhile are handled afterwards. The application may end meanwhile: then
+    // nobody is told, and the result is -1.
     std::int32_t arpSetEAForIP(const std::optional<std::string>& hardwareAddress,
                                const std::optional<std::string>& ip);
 
@@ -241,9 +243,11 @@ private:
     void sendEdit(UnitParameter parameter);
     EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
     bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
-    bool authenticateForARP();
+    std::shared_ptr<Authorization> authorizationForARP();
     std::optional<std::int32_t> makeARPEntry(const std::optional<std::string>& hardwareAddress,
                                              const std::optional<std::string>& ip);
+    std::string objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
+                                    const std::optional<std::string>& ip) const;
 
     void limitLog();
     void showMissing();
@@ -270,7 +274,7 @@ private:
     UnitSession _session; // owns the listener
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
-    std::unique_ptr<Authorization> _auth;              // null until an ARP entry is written
+    std::shared_ptr<Authorization> _auth;              // null until an ARP entry is written
     int _latestARPAttempt = 0;                         // number of attempts, refused ones included
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;

@@ -127,12 +127,13 @@ void KXConfigAppDelegate::edit_internalIP() {
     const auto& move = std::get<ParameterEdit>(edit);
     EditOutcome::Unit unit = editedUnit(move);
     const auto entry = makeARPEntry(unit.hardwareAddress, move.typed);
+    const auto objection = objectionToARPEntry(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
     }
     if (const auto result = handOver(move.command, move.typed)) {
         EditOutcome outcome(move, std::move(unit), result->failure);
-        outcome.setARPEntry(entry.has_value() ? arpEntryForResult(*entry)
+        outcome.setARPEntry(entry.has_value() ? arpEntryForResult(*entry, objection)
                                               : ARPEntry{.state = ARPEntryState::rightsNotGiven});
         _quietLine.showOutcome(std::move(outcome));
     }
@@ -160,20 +161,12 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
     return makeARPEntry(hardwareAddress, ip).value_or(-1);
 }
 
-// Absent when rights were not given.
-std::optional<std::int32_t>
-KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddress,
-                                  const std::optional<std::string>& ip) {
-    // A dialogue runs the event loop. Events from outside wait for the end of the action.
-    const auto hold = _services.runLoop.holdCallbacks();
-    const int attempt = ++_latestARPAttempt;
-    if (!authenticateForARP()) {
-        _outlets.alert->runModal(
-            localizedText("KXConfig"),
-            localizedText("Authentication was not completed, some features may not be available."),
-            localizedText("OK"));
-        return std::nullopt;
-    }
+namespace {
+
+constexpr auto arpTool = "/usr/sbin/arp";
+
+std::vector<std::string> argumentsForARP(const std::optional<std::string>& hardwareAddress,
+                                         const std::optional<std::string>& ip) {
     std::vector<std::string> arguments{"-s"};
     for (const auto* const text : {&ip, &hardwareAddress}) {
         if (!text->has_value()) {
@@ -181,24 +174,61 @@ KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddr
         }
         arguments.push_back(**text);
     }
+    return arguments;
+}
+
+} // namespace
+
+// Absent when rights were not given.
+std::optional<std::int32_t>
+KXConfigAppDelegate::makeARPEntry(const std::optional<std::string>& hardwareAddress,
+                                  const std::optional<std::string>& ip) {
+    // A dialogue runs the event loop. Events from outside wait for the end of the action.
+    const auto hold = _services.runLoop.holdCallbacks();
+    const int attempt = ++_latestARPAttempt;
+    const auto arguments = argumentsForARP(hardwareAddress, ip);
+    const auto authorization = authorizationForARP(); // stays when the application ends meanwhile
+    const bool isAuthenticated =
+        authorization != nullptr && authorization->authenticate(arguments);
+    if (_auth != authorization) {
+        return std::nullopt; // the application has ended
+    }
+    if (!isAuthenticated) {
+        _outlets.alert->runModal(
+            localizedText("KXConfig"),
+            localizedText("Authentication was not completed, some features may not be available."),
+            localizedText("OK"));
+        return std::nullopt;
+    }
     // Only the end of the latest attempt is shown.
-    const auto result = _auth->runToolWithArgs(arguments, [this, attempt](int status) {
-        if (attempt == _latestARPAttempt) {
-            _quietLine.arpToolDidEnd(status);
-        }
-    });
+    const auto result =
+        authorization->runToolWithArgs(arguments, [this, attempt](const ToolEnd& end) {
+            if (attempt == _latestARPAttempt) {
+                _quietLine.arpToolDidEnd(end.status, end.sentence);
+            }
+        });
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
 
-bool KXConfigAppDelegate::authenticateForARP() {
+// Null when nobody gives rights.
+std::shared_ptr<Authorization> KXConfigAppDelegate::authorizationForARP() {
+    if (_auth == nullptr && _services.authorizationService != nullptr) {
+        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpTool);
+    }
+    return _auth;
+}
+
+// Empty when nothing speaks against the entry.
+std::string
+KXConfigAppDelegate::objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
+                                         const std::optional<std::string>& ip) const {
     if (_services.authorizationService == nullptr) {
-        return false;
+        return {};
     }
-    if (_auth == nullptr) {
-        _auth = std::make_unique<Authorization>(*_services.authorizationService, "/usr/sbin/arp");
-    }
-    return _auth->authenticate();
+    return _services.authorizationService
+        ->objectionTo(arpTool, argumentsForARP(hardwareAddress, ip))
+        .value_or("");
 }
 
 void KXConfigAppDelegate::optionCommandPopUp() {
@@ -252,6 +282,9 @@ std::string KXConfigAppDelegate::forecast() const {
     CommandTarget target = commandTarget();
     const auto* const planned = std::get_if<ParameterEdit>(&edit);
     target.newSerialNumberIsTaken = planned != nullptr && newSerialNumberIsTaken(*planned);
+    if (planned != nullptr && planned->parameter == UnitParameter::internalIPAddress) {
+        target.objectionToARPEntry = objectionToARPEntry(target.hardwareAddress, planned->typed);
+    }
     return forecastOfEdit(edit, target);
 }
 

@@ -16,6 +16,7 @@
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHelpServices.h"
+#include "platform/qt/WaitingPanel.h"
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
@@ -58,9 +59,9 @@ int main(int argc, char* argv[]) {
     kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
 
-    const auto authorizationService = kx::makeAuthorizationService(runLoop);
-
     kx::MainWindow window;
+    kx::WaitingPanel waiting(window);
+    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
     kx::KXConfigAppDelegate controller(
         window.outlets(), {.runLoop = runLoop,
                            .hostResolver = hostResolver,

@@ -1,10 +1,12 @@
 # The places of all installed files, relative to the prefix.
 #
 #   bin/                        both programs
+#   libexec/kxconfig/           the program that runs with administrator rights
 #   share/applications, share/metainfo, share/icons, share/man
 #                               files that a desktop reads
-#   share/polkit-1/actions      the action that asks for administrator rights; its daemon looks
-#                               there below a prefix of /usr
+#   share/polkit-1/actions      the actions that ask for administrator rights; they name the program
+#                               by its full path, and the daemon looks there, below a prefix of /usr
+#                               only
 #   share/kxconfig/             the help pages and the dissector
 #
 # The version comes from project(), and the day comes from the clock or from SOURCE_DATE_EPOCH.
@@ -46,6 +48,7 @@ function(kx_set_screenshots VARIABLE)
 endfunction()
 
 install(TARGETS kxconfig kxunits RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS kxarp RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/kxconfig")
 kx_install_manual(kxconfig.1)
 kx_install_manual(kxunits.1)
 

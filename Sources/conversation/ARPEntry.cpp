@@ -2,14 +2,16 @@
 
 #include "support/AuthorizationService.h"
 
+#include <utility>
+
 namespace kx {
 
-ARPEntry arpEntryForResult(std::int32_t result) {
+ARPEntry arpEntryForResult(std::int32_t result, std::string objection) {
     switch (result) {
     case errAuthorizationSuccess:
         return {.state = ARPEntryState::started};
     case errAuthorizationDenied:
-        return {.state = ARPEntryState::refused};
+        return {.state = ARPEntryState::refused, .sentence = std::move(objection)};
     case errAuthorizationCanceled:
         return {.state = ARPEntryState::dismissed};
     case errAuthorizationToolExecuteFailure:
@@ -21,9 +23,11 @@ ARPEntry arpEntryForResult(std::int32_t result) {
     }
 }
 
-ARPEntry arpEntryForEndOfTool(std::int32_t status) {
+ARPEntry arpEntryForEndOfTool(std::int32_t status, std::string sentence) {
     return status == 0 ? ARPEntry{.state = ARPEntryState::started}
-                       : ARPEntry{.state = ARPEntryState::ended, .code = status};
+                       : ARPEntry{.state = ARPEntryState::ended,
+                                  .code = status,
+                                  .sentence = std::move(sentence)};
 }
 
 } // namespace kx

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 namespace kx {
 
@@ -23,15 +24,17 @@ enum class ARPEntryState {
 struct ARPEntry {
     ARPEntryState state = ARPEntryState::notWanted;
     std::int32_t code = 0;
+    std::string sentence = {}; // what the tool or the authority says about it; empty without words
 
     friend bool operator==(const ARPEntry&, const ARPEntry&) = default;
 };
 
-// The entry for a result of Authorization::runToolWithArgs().
-ARPEntry arpEntryForResult(std::int32_t result);
+// The entry for a result of Authorization::runToolWithArgs(). `objection` says why the authority
+// refuses such a run; it is empty when there is no such reason.
+ARPEntry arpEntryForResult(std::int32_t result, std::string objection = {});
 
 // The entry for a tool that ended. `status` is its exit status, or the number of the signal that
-// ended it plus 128.
-ARPEntry arpEntryForEndOfTool(std::int32_t status);
+// ended it plus 128. `sentence` is what it said on standard error, which may be nothing.
+ARPEntry arpEntryForEndOfTool(std::int32_t status, std::string sentence = {});
 
 } // namespace kx

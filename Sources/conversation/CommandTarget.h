@@ -22,6 +22,10 @@ struct CommandTarget {
 
     // Another unit than the selected one has the serial number that was typed.
     bool newSerialNumberIsTaken = false;
+
+    // Why no ARP entry will be made for the typed address, in a sentence that is a key of the
+    // catalogues. Empty when nothing speaks against it.
+    std::string objectionToARPEntry = {};
 };
 
 enum class CommandRefusal {

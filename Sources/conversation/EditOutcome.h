@@ -18,6 +18,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace kx {
 
@@ -65,7 +66,7 @@ public:
     const std::optional<SendFailure>& requestFailure() const { return _requestFailure; }
 
     const ARPEntry& arpEntry() const { return _arpEntry; }
-    void setARPEntry(ARPEntry entry) { _arpEntry = entry; }
+    void setARPEntry(ARPEntry entry) { _arpEntry = std::move(entry); }
 
     // A unit accepted a command and was then asked for its parameters; `requestFailure` says why it
     // could not be asked. Returns false and changes nothing for another unit, for an edit that was

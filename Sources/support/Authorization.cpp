@@ -14,24 +14,28 @@ Authorization::Authorization(AuthorizationService& service, std::string toolPath
 
 Authorization::~Authorization() = default;
 
-bool Authorization::authenticate() {
-    return copyRights(kAuthorizationFlagInteractionAllowed | kAuthorizationFlagExtendRights);
+bool Authorization::authenticate(const std::vector<std::string>& plannedArguments) {
+    return copyRights(kAuthorizationFlagInteractionAllowed | kAuthorizationFlagExtendRights,
+                      plannedArguments);
 }
 
 bool Authorization::isAuthenticated() {
-    return copyRights(kAuthorizationFlagExtendRights);
+    return copyRights(kAuthorizationFlagExtendRights, {});
 }
 
 void Authorization::deauthenticate() {
     mAuthorizationRef.reset();
 }
 
-bool Authorization::copyRights(std::uint32_t flags) {
+bool Authorization::copyRights(std::uint32_t flags,
+                               const std::vector<std::string>& plannedArguments) {
     if (mAuthorizationRef == nullptr) {
         mAuthorizationRef = _service.create();
     }
-    const AuthorizationItem right{
-        .name = std::string(kAuthorizationRightExecute), .value = _privilegedToolPath, .flags = 0};
+    const AuthorizationItem right{.name = std::string(kAuthorizationRightExecute),
+                                  .value = _privilegedToolPath,
+                                  .flags = 0,
+                                  .arguments = plannedArguments};
     return mAuthorizationRef != nullptr &&
            mAuthorizationRef->copyRights(right, flags) == errAuthorizationSuccess;
 }

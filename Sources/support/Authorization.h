@@ -4,9 +4,11 @@
 // A right that was granted stays until deauthenticate() or the end of the object, so a person is
 // asked once. Callers authenticate before every run.
 //
-// Threading: the main thread only. authenticate() blocks while a person is asked. runToolWithArgs()
-// blocks while a person is asked again, and while the tool does its first work, up to two seconds.
-// Ownership: the service must outlive the object.
+// Threading: the main thread only. authenticate() returns when the person who is asked has answered.
+// runToolWithArgs() returns after that too, when a person is asked again, and when the tool has done
+// its first work, at most two seconds later. Both handle the application's events meanwhile
+// (support/AuthorizationService.h). Ownership: the service must outlive the object, and the object
+// must not be destroyed from inside a call.
 
 #pragma once
 
@@ -30,7 +32,8 @@ public:
 
     // Obtains the right to run the tool, and asks a person where that is needed. False when the
     // request was refused, when the person dismissed the question, and when there is no authority.
-    bool authenticate();
+    // The person is shown the arguments that the tool will get, where they are given.
+    bool authenticate(const std::vector<std::string>& plannedArguments = {});
 
     // Whether the right is held already. Never asks anybody.
     bool isAuthenticated();
@@ -50,7 +53,7 @@ protected:
     bool _authorizationDeclined = false; // for subclasses; nothing here sets it
 
 private:
-    bool copyRights(std::uint32_t flags);
+    bool copyRights(std::uint32_t flags, const std::vector<std::string>& plannedArguments);
 
     AuthorizationService& _service;
     std::unique_ptr<AuthorizationReference> mAuthorizationRef; // null until first needed

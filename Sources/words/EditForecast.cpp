@@ -145,6 +145,11 @@ std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& targ
         return localizedText("Apply asks for administrator rights, but an ARP entry can hold ASCII "
                              "characters only.");
     }
+    if (!target.objectionToARPEntry.empty()) {
+        return localizedText("Apply asks for administrator rights, but no ARP entry will be made "
+                             "for “%@”: %@",
+                             {safeForSentence(typed), localizedText(target.objectionToARPEntry)});
+    }
     if (stringForIP(ipForString(typed)) != typed) {
         return localizedText("Apply hands “%@” and %@ to the ARP tool, which needs administrator "
                              "rights.",

@@ -66,10 +66,21 @@ std::string textOfState(const EditOutcome& outcome) {
     return textOfShownValue(outcome);
 }
 
+// In the words of the tool or the authority. A sentence that the catalogues know is translated.
+std::string textOfSentence(const std::string& address, const std::string& said) {
+    const std::string sentence = safeForSentence(localizedText(said));
+    return isWholeSentence(sentence)
+               ? localizedText("No ARP entry was made for %@: %@", {address, sentence})
+               : localizedText("No ARP entry was made for %@: %@.", {address, sentence});
+}
+
 // The reason why there is no entry for the new address; empty when there is one, or none is wanted.
 std::string textOfARPEntry(const EditOutcome& outcome) {
     const std::string address = safeForSentence(outcome.edit().typed);
     const ARPEntry& entry = outcome.arpEntry();
+    if (!entry.sentence.empty()) {
+        return textOfSentence(address, entry.sentence);
+    }
     switch (entry.state) {
     case ARPEntryState::notWanted:
     case ARPEntryState::started:

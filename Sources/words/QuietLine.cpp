@@ -70,10 +70,10 @@ void QuietLine::unitDidTell(std::string_view serialNumber, const UnitRecord& rec
     }
 }
 
-void QuietLine::arpToolDidEnd(std::int32_t status) {
+void QuietLine::arpToolDidEnd(std::int32_t status, std::string sentence) {
     auto* const outcome = std::get_if<EditOutcome>(&_state);
     if (outcome != nullptr && outcome->arpEntry().state != ARPEntryState::notWanted) {
-        outcome->setARPEntry(arpEntryForEndOfTool(status));
+        outcome->setARPEntry(arpEntryForEndOfTool(status, std::move(sentence)));
         refreshOutcome();
     }
 }

@@ -62,7 +62,7 @@ public:
     void unitDidAccept(std::string_view serialNumber,
                        const std::optional<SendFailure>& requestFailure);
     void unitDidTell(std::string_view serialNumber, const UnitRecord& record);
-    void arpToolDidEnd(std::int32_t status);
+    void arpToolDidEnd(std::int32_t status, std::string sentence = {});
 
 private:
     void show(std::string_view text);

@@ -48,7 +48,7 @@ protected:
     // Starts the tool and records its end.
     std::int32_t run() {
         return reference->executeWithPrivileges(trait.tool(), trait.arguments(),
-                                                [this](int status) { ends.push_back(status); });
+                                                [this](const ToolEnd& end) { ends.push_back(end.status); });
     }
     bool runUntilEnds(std::size_t count) {
         return trait.runUntil([this, count] { return ends.size() >= count; });
@@ -138,7 +138,7 @@ TYPED_TEST_P(AuthorizationServiceContract, AToolThatIsNotThereDoesNotStartAndNev
     ASSERT_EQ(this->reference->copyRights(right, this->asking | this->keeping),
               errAuthorizationSuccess);
     EXPECT_EQ(this->reference->executeWithPrivileges(
-                  right.value, {}, [this](int status) { this->ends.push_back(status); }),
+                  right.value, {}, [this](const ToolEnd& end) { this->ends.push_back(end.status); }),
               errAuthorizationToolExecuteFailure);
     this->trait.runAWhile();
     EXPECT_TRUE(this->ends.empty());
@@ -156,8 +156,8 @@ TYPED_TEST_P(AuthorizationServiceContract, NoEndIsToldAfterTheReferenceIsGone) {
 TYPED_TEST_P(AuthorizationServiceContract, TheWordOfAnEndMayDestroyTheReference) {
     ASSERT_EQ(this->reference->copyRights(this->right(), this->asking | this->keeping),
               errAuthorizationSuccess);
-    const auto endAll = [this](int status) {
-        this->ends.push_back(status);
+    const auto endAll = [this](const ToolEnd& end) {
+        this->ends.push_back(end.status);
         this->reference.reset();
     };
     for (int tool = 0; tool < 2; ++tool) {

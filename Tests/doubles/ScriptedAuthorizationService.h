@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -35,6 +36,17 @@ public:
         return std::make_unique<Reference>(*this);
     }
 
+    std::optional<std::string>
+    objectionTo(const std::string& toolPath,
+                const std::vector<std::string>& arguments) const override {
+        return _object ? _object({toolPath, arguments}) : std::nullopt;
+    }
+
+    // Sets what speaks against a run; nothing at first.
+    void objectWith(std::function<std::optional<std::string>(const Run&)> object) {
+        _object = std::move(object);
+    }
+
     // After this, there is no authority.
     void beAbsent() { _isAbsent = true; }
 
@@ -50,22 +62,22 @@ public:
     // Ends the rights that were given: a person is asked anew.
     void revokeRights() { ++_revocations; }
 
-    // Ends the tool that has run longest.
-    void endOldestTool(int status) {
+    // Ends the tool that has run longest, after it has said this.
+    void endOldestTool(int status, const std::string& sentence = {}) {
         if (_running.empty()) {
             throw std::logic_error("no tool runs");
         }
         const auto ended = std::move(_running.front().second);
         _running.erase(_running.begin()); // first, because it may destroy references
         if (ended) {
-            ended(status);
+            ended({status, sentence});
         }
     }
 
     // Ends the running tools, each with this status, as a turn of the run loop would report it.
-    void endTools(int status) {
+    void endTools(int status, const std::string& sentence = {}) {
         for (auto left = _running.size(); left > 0 && !_running.empty(); --left) {
-            endOldestTool(status);
+            endOldestTool(status, sentence);
         }
     }
 
@@ -129,6 +141,7 @@ private:
     std::int32_t _dialogAnswer = errAuthorizationSuccess;
     std::int32_t _startStatus = errAuthorizationSuccess;
     std::function<void()> _meanwhile;
+    std::function<std::optional<std::string>(const Run&)> _object;
     std::vector<Request> _requests;
     std::vector<Run> _runs;
     std::vector<std::pair<Reference*, AuthorizationReference::ToolEndAction>> _running;

@@ -6,6 +6,7 @@
 #include "addresses/SocketAddressRecord.h"
 #include "core/UnitReplies.h"
 #include "doubles/FixedWallClock.h"
+#include "doubles/ImpatientWaiting.h"
 #include "doubles/RecordedOutlets.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "platform/PollLoopDriver.h"
@@ -102,7 +103,8 @@ protected:
     DatagramSystemCalls systemCalls;
     FixedWallClock wallClock{2023, 11, 15, 23, 47, 0};
     RecordedApplication application;
-    RootAuthorizationService authority{loop};
+    ImpatientWaiting waiting;
+    RootAuthorizationService authority{loop, waiting};
     RecordedMainWindow window;
     KXConfigAppDelegate controller{
         window.outlets(),

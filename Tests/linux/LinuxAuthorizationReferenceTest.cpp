@@ -2,11 +2,13 @@
 
 #include "platform/linux/LinuxAuthorizationReference.h"
 
+#include "doubles/ImpatientWaiting.h"
 #include "platform/PollLoopDriver.h"
 
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/mount.h>
+#include <sys/wait.h>
 
 #include <cerrno>
 #include <csignal>
@@ -19,11 +21,15 @@ namespace {
 
 class PlayedReference final : public LinuxAuthorizationReference {
 public:
-    explicit PlayedReference(RunningTools& runningTools)
-        : LinuxAuthorizationReference(runningTools) {}
+    PlayedReference(RunningTools& runningTools, Waiting& waiting)
+        : LinuxAuthorizationReference(runningTools, waiting) {}
 
     std::int32_t answer = errAuthorizationSuccess;
+    bool isSilent = false;
+    int begun = 0;                  // number of programs that were started
     std::vector<bool> mayAskPerson; // flag of each request, in order
+
+    using LinuxAuthorizationReference::begin;
 
 private:
     std::int32_t obtain(const AuthorizationItem& /*right*/, bool mayAsk) override {
@@ -32,7 +38,15 @@ private:
     }
     std::unique_ptr<StartedTool> start(const std::string& toolPath,
                                        const std::vector<std::string>& arguments) override {
+        ++begun;
         return StartedTool::start(toolPath, arguments, std::nullopt);
+    }
+    std::string programFor(const std::string& toolPath,
+                           const std::vector<std::string>& /*arguments*/) const override {
+        return toolPath == "/refused" ? std::string() : toolPath;
+    }
+    std::function<bool()> watchForSilence() override {
+        return [this] { return isSilent; };
     }
     std::string launcher() const override { return "sh"; }
     std::int32_t refusalOf(int launcherStatus) const override { return launcherStatus; }
@@ -59,11 +73,19 @@ protected:
     static constexpr auto asking = kAuthorizationFlagInteractionAllowed;
     static constexpr auto keeping = kAuthorizationFlagExtendRights;
 
+    // A launcher that stays itself until a signal ends it.
+    static constexpr auto waitAsItself = "while :; do :; done";
+
+    static bool hasNoChildren() {
+        return ::waitpid(-1, nullptr, WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
+    }
+
     const AuthorizationItem right{
         .name = std::string(kAuthorizationRightExecute), .value = "/bin/true", .flags = 0};
     PollRunLoop loop;
     RunningTools runningTools{loop};
-    PlayedReference reference{runningTools};
+    ImpatientWaiting waiting;
+    PlayedReference reference{runningTools, waiting};
 };
 
 } // namespace
@@ -95,9 +117,10 @@ TEST_F(LinuxAuthorizationReferenceTest, ALauncherThatBecomesAnotherProgramHasSta
 TEST_F(LinuxAuthorizationReferenceTest, ALauncherWhoseEndIsUnknownIsNotSaidToHaveRefused) {
     std::vector<int> ends;
     const auto before = std::signal(SIGCHLD, SIG_IGN); // the system then keeps no exit status
-    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"},
-                                              [&](int status) { ends.push_back(status); }),
-              errAuthorizationSuccess);
+    EXPECT_EQ(
+        reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"},
+                                        [&](const ToolEnd& end) { ends.push_back(end.status); }),
+        errAuthorizationSuccess);
     std::signal(SIGCHLD, before);
     EXPECT_TRUE(runLoopUntil(loop, [&] { return !ends.empty(); }));
     EXPECT_EQ(ends, std::vector<int>{-1});
@@ -106,8 +129,8 @@ TEST_F(LinuxAuthorizationReferenceTest, ALauncherWhoseEndIsUnknownIsNotSaidToHav
 TEST_F(LinuxAuthorizationReferenceTest, WithoutNamesOfProgramsTheStatusTellsARefusal) {
     std::vector<int> ends;
     const auto run = [&](const std::string& script) {
-        return reference.executeWithPrivileges("/bin/sh", {"-c", script},
-                                               [&](int status) { ends.push_back(status); });
+        return reference.executeWithPrivileges(
+            "/bin/sh", {"-c", script}, [&](const ToolEnd& end) { ends.push_back(end.status); });
     };
     const HiddenProcesses hidden;
     EXPECT_EQ(run("exit 126"), 126);
@@ -122,6 +145,64 @@ TEST_F(LinuxAuthorizationReferenceTest, WithoutNamesOfProgramsTheStatusTellsARef
 TEST_F(LinuxAuthorizationReferenceTest, WithoutNamesOfProgramsALongRunIsWaitedFor) {
     const HiddenProcesses hidden;
     EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "sleep 2.2; exit 126"}, {}), 126);
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherIsEndedWhenThePersonGivesUp) {
+    waiting.patience = std::chrono::milliseconds(100);
+    EXPECT_EQ(reference.begin("/bin/sh", {"-c", waitAsItself}), errAuthorizationCanceled);
+    EXPECT_EQ(waiting.sentences, std::vector<std::string>{"Waiting for administrator rights."});
+    EXPECT_TRUE(runLoopUntil(loop, hasNoChildren));
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherIsEndedWhenItsAuthorityFallsSilent) {
+    reference.isSilent = true;
+    EXPECT_EQ(reference.begin("/bin/sh", {"-c", waitAsItself}), errAuthorizationDenied);
+    EXPECT_TRUE(runLoopUntil(loop, hasNoChildren));
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ALauncherThatBecomesTheToolAtTheLastMomentIsNoRefusal) {
+    waiting.patience = std::chrono::milliseconds(100);
+    // It does not end when it is asked to, but becomes the tool.
+    EXPECT_EQ(reference.begin("/bin/sh", {"-c", "trap 'exec /bin/true' TERM; while :; do :; done"}),
+              errAuthorizationSuccess);
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, AToolThatHasBegunIsTakenOverByTheRunWithItsArguments) {
+    const std::vector<std::string> arguments{"-c", "echo once >&2; exec /bin/false"};
+    std::vector<ToolEnd> ends;
+    const auto record = [&](const ToolEnd& end) { ends.push_back(end); };
+    EXPECT_EQ(reference.begin("/bin/sh", arguments), errAuthorizationSuccess);
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", arguments, record),
+              errAuthorizationSuccess);
+    EXPECT_EQ(reference.begun, 1);
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return ends.size() == 1; }));
+    EXPECT_EQ(ends, (std::vector<ToolEnd>{{1, "once"}}));
+
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", arguments, record),
+              errAuthorizationSuccess);
+    EXPECT_EQ(reference.begun, 2) << "it was taken over once";
+    EXPECT_EQ(reference.begin("/bin/sh", arguments), errAuthorizationSuccess);
+    EXPECT_EQ(reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/true"}, record),
+              errAuthorizationSuccess);
+    EXPECT_EQ(reference.begun, 4) << "other arguments are another run";
+}
+
+TEST_F(LinuxAuthorizationReferenceTest, ARunThatTheAuthorityRefusesStartsNothing) {
+    EXPECT_EQ(reference.executeWithPrivileges("/refused", {}, {}), errAuthorizationDenied);
+    EXPECT_EQ(reference.begun, 0);
+}
+
+// A person may cancel the wait for the tool's first work, but not the tool.
+TEST_F(LinuxAuthorizationReferenceTest, AToolRunsOnWhenThePersonDoesNotWaitForItsFirstWork) {
+    std::vector<int> ends;
+    waiting.patience = std::chrono::milliseconds(300);
+    EXPECT_EQ(
+        reference.executeWithPrivileges("/bin/sh", {"-c", "exec /bin/sleep 1"},
+                                        [&](const ToolEnd& end) { ends.push_back(end.status); }),
+        errAuthorizationSuccess);
+    EXPECT_TRUE(ends.empty());
+    EXPECT_TRUE(runLoopUntil(loop, [&] { return !ends.empty(); }));
+    EXPECT_EQ(ends, std::vector<int>{0});
 }
 
 } // namespace kx

@@ -7,11 +7,11 @@
 
 namespace kx {
 
-std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop) {
+std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop, Waiting& waiting) {
     if (::geteuid() == 0) {
-        return std::make_unique<RootAuthorizationService>(loop);
+        return std::make_unique<RootAuthorizationService>(loop, waiting);
     }
-    return std::make_unique<PolkitAuthorizationService>(loop);
+    return std::make_unique<PolkitAuthorizationService>(loop, waiting);
 }
 
 } // namespace kx

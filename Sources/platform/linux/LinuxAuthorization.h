@@ -5,14 +5,15 @@
 
 #include "support/AuthorizationService.h"
 #include "support/RunLoop.h"
+#include "support/Waiting.h"
 
 #include <memory>
 
 namespace kx {
 
 // The authority for this process, by its effective user: RootAuthorizationService for the
-// administrator, PolkitAuthorizationService for every other user. Never null. `loop` must outlive
-// it.
-std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop);
+// administrator, PolkitAuthorizationService for every other user. Never null. `loop` and `waiting`
+// must outlive it.
+std::unique_ptr<AuthorizationService> makeAuthorizationService(RunLoop& loop, Waiting& waiting);
 
 } // namespace kx

@@ -1,5 +1,6 @@
 #include "platform/linux/PolkitAuthorizationService.h"
 
+#include "platform/linux/ARPTool.h"
 #include "platform/linux/LinuxAuthorizationReference.h"
 #include "platform/linux/PolkitCheck.h"
 
@@ -13,41 +14,70 @@ constexpr auto launcherName = "pkexec";
 // pkexec(1): the dialog was dismissed. For every other reason not to run the tool it returns 127.
 constexpr int launcherDismissed = 126;
 
-constexpr auto arpToolPath = "/usr/sbin/arp";
-constexpr auto arpToolAction = "org.kxconfig.KXConfig.set-arp-entry";
+// The actions of kxarp. The last one has a dialog without addresses, and includes the others.
+constexpr auto enterAction = "org.kxconfig.KXConfig.set-arp-entry";
+constexpr auto takeOutAction = "org.kxconfig.KXConfig.remove-arp-entry";
+constexpr auto anyEntryAction = "org.kxconfig.KXConfig.change-arp-entries";
 constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
+
+// The action under which pkexec runs the tool of a right.
+std::string actionOfRun(const AuthorizationItem& right) {
+    if (right.value != arpToolPath) {
+        return anyToolAction;
+    }
+    if (right.arguments.empty() || right.arguments.front() == "-s") {
+        return enterAction;
+    }
+    return right.arguments.front() == "-d" ? takeOutAction : anyToolAction;
+}
+
+std::int32_t statusOf(PolkitAnswer answer) {
+    switch (answer) {
+    case PolkitAnswer::authorized:
+        return errAuthorizationSuccess;
+    case PolkitAnswer::dismissed:
+        return errAuthorizationCanceled;
+    case PolkitAnswer::nobodyAsked:
+        return errAuthorizationInteractionNotAllowed;
+    case PolkitAnswer::refused:
+    case PolkitAnswer::unreachable:
+        break;
+    }
+    return errAuthorizationDenied;
+}
 
 class PolkitReference final : public LinuxAuthorizationReference {
 public:
-    explicit PolkitReference(RunningTools& runningTools)
-        : LinuxAuthorizationReference(runningTools) {}
+    PolkitReference(RunningTools& runningTools, Waiting& waiting)
+        : LinuxAuthorizationReference(runningTools, waiting) {}
 
 private:
     std::int32_t obtain(const AuthorizationItem& right, bool mayAskPerson) override {
         if (right.name != kAuthorizationRightExecute) {
             return errAuthorizationDenied;
         }
-        switch (
-            askPolkit(right.value == arpToolPath ? arpToolAction : anyToolAction, mayAskPerson)) {
-        case PolkitAnswer::authorized:
-            return errAuthorizationSuccess;
-        case PolkitAnswer::dismissed:
-            return errAuthorizationCanceled;
-        case PolkitAnswer::nobodyAsked:
-            return errAuthorizationInteractionNotAllowed;
-        case PolkitAnswer::refused:
-        case PolkitAnswer::unreachable:
-            break;
+        const auto answer = askPolkit(actionOfRun(right), false, waiting());
+        if (answer != PolkitAnswer::nobodyAsked || !mayAskPerson) {
+            return statusOf(answer);
         }
-        return errAuthorizationDenied;
+        if (!right.arguments.empty()) {
+            return begin(right.value, right.arguments);
+        }
+        return statusOf(askPolkit(right.value == arpToolPath ? anyEntryAction : anyToolAction, true,
+                                  waiting()));
+    }
+
+    std::string programFor(const std::string& toolPath,
+                           const std::vector<std::string>& /*arguments*/) const override {
+        return toolPath == arpToolPath ? privilegedToolPath : toolPath;
     }
 
     // The launcher gives the tool its own environment. It refuses to start the tool when it finds
     // one of a few variables in doubt, so it gets none. It must not ask in a terminal, because the
     // user of a window does not look there.
-    std::unique_ptr<StartedTool> start(const std::string& toolPath,
+    std::unique_ptr<StartedTool> start(const std::string& program,
                                        const std::vector<std::string>& arguments) override {
-        std::vector<std::string> words{"--disable-internal-agent", toolPath};
+        std::vector<std::string> words{"--disable-internal-agent", program};
         words.insert(words.end(), arguments.begin(), arguments.end());
         return StartedTool::start(launcherPath, words, std::vector<std::string>());
     }
@@ -58,15 +88,25 @@ private:
         return launcherStatus == launcherDismissed ? errAuthorizationCanceled
                                                    : errAuthorizationDenied;
     }
+
+    std::function<bool()> watchForSilence() override { return watchPolkitForSilence(); }
 };
 
 } // namespace
 
-PolkitAuthorizationService::PolkitAuthorizationService(RunLoop& loop)
-    : _runningTools(loop) {}
+PolkitAuthorizationService::PolkitAuthorizationService(RunLoop& loop, Waiting& waiting)
+    : _runningTools(loop)
+    , _waiting(waiting) {}
 
 std::unique_ptr<AuthorizationReference> PolkitAuthorizationService::create() {
-    return isPolkitThere() ? std::make_unique<PolkitReference>(_runningTools) : nullptr;
+    return isPolkitThere(_waiting) ? std::make_unique<PolkitReference>(_runningTools, _waiting)
+                                   : nullptr;
+}
+
+std::optional<std::string>
+PolkitAuthorizationService::objectionTo(const std::string& toolPath,
+                                        const std::vector<std::string>& arguments) const {
+    return toolPath == arpToolPath ? objectionOfPrivilegedTool(arguments) : std::nullopt;
 }
 
 } // namespace kx

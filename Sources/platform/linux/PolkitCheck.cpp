@@ -1,6 +1,7 @@
 #include "platform/linux/PolkitCheck.h"
 
 #include "platform/qtcore/SystemBus.h"
+#include "support/LocalizedText.h"
 
 #include <unistd.h>
 
@@ -15,6 +16,8 @@
 #include <cstdint>
 #include <fstream>
 #include <iterator>
+#include <memory>
+#include <optional>
 #include <sstream>
 
 namespace kx {
@@ -32,9 +35,11 @@ const QString resultSignature = QStringLiteral("(bba{ss})");
 constexpr quint32 allowUserInteraction = 1;
 
 // The time that the bus may take to answer, and the longer time that it may take to start polkit.
-// The window does not react meanwhile.
 constexpr std::chrono::milliseconds patienceWithBus{1000};
 constexpr std::chrono::milliseconds patienceWithStart{2000};
+
+// The time between two looks at a polkit that has a person asked.
+constexpr std::chrono::milliseconds betweenLooks{1000};
 
 using Details = QMap<QString, QString>;
 
@@ -100,11 +105,13 @@ PolkitAnswer answerOf(const QDBusMessage& reply) {
                                                                 : PolkitAnswer::refused;
 }
 
+// The answer; an error when there is none in time, and when the person gives up.
 QDBusMessage answerTo(SystemBus& bus, const QDBusMessage& question,
-                      std::chrono::milliseconds patience) {
-    QDBusPendingCall call = bus.call(question, patience);
-    call.waitForFinished();
-    return call.reply();
+                      std::chrono::milliseconds patience, Waiting& waiting) {
+    const QDBusPendingCall call = bus.call(question, patience);
+    waiting.until([&call] { return call.isFinished(); },
+                  localizedText("Waiting for administrator rights."));
+    return call.isFinished() ? call.reply() : QDBusMessage();
 }
 
 QDBusMessage questionToBus(const QString& method) {
@@ -115,8 +122,9 @@ QDBusMessage questionToBus(const QString& method) {
 
 void hearNothing(const QDBusMessage& /*signal*/) {}
 
-bool isPolkitOn(SystemBus& bus) {
-    const auto has = answerTo(bus, questionToBus(QStringLiteral("NameHasOwner")), patienceWithBus);
+bool isPolkitOn(SystemBus& bus, Waiting& waiting) {
+    const auto has =
+        answerTo(bus, questionToBus(QStringLiteral("NameHasOwner")), patienceWithBus, waiting);
     if (has.type() != QDBusMessage::ReplyMessage) {
         return false;
     }
@@ -125,28 +133,95 @@ bool isPolkitOn(SystemBus& bus) {
     }
     auto start = questionToBus(QStringLiteral("StartServiceByName"));
     start << 0U; // no flags are defined
-    return answerTo(bus, start, patienceWithStart).type() == QDBusMessage::ReplyMessage;
+    return answerTo(bus, start, patienceWithStart, waiting).type() == QDBusMessage::ReplyMessage;
 }
+
+QDBusMessage questionToPolkit(const QString& method) {
+    return QDBusMessage::createMethodCall(authorityName, authorityPath, authorityInterface, method);
+}
+
+// A name for a question, by which it can be taken back. It is unique on its connection.
+const QString nameOfQuestion = QStringLiteral("question");
+
+QDBusMessage questionAbout(const std::string& action, quint32 flags) {
+    auto question = questionToPolkit(QStringLiteral("CheckAuthorization"));
+    question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
+             << QVariant::fromValue(noDetails()) << flags << nameOfQuestion;
+    return question;
+}
+
+void takeBack(SystemBus& bus) {
+    auto word = questionToPolkit(QStringLiteral("CancelCheckAuthorization"));
+    word << nameOfQuestion;
+    bus.call(word, patienceWithBus).waitForFinished(); // the connection ends afterwards
+}
+
+// Looks from time to time whether polkit answers a question that needs nobody.
+class SilenceWatch {
+public:
+    bool isSilent() {
+        if (_isSilent) {
+            return true;
+        }
+        if (!_look.has_value()) {
+            if (Clock::now() >= _nextLook) {
+                auto question = QDBusMessage::createMethodCall(
+                    authorityName, authorityPath, QStringLiteral("org.freedesktop.DBus.Properties"),
+                    QStringLiteral("Get"));
+                question << authorityInterface << QStringLiteral("BackendName");
+                _look = _bus.call(question, patienceWithPolkit);
+            }
+        } else if (_look->isFinished()) {
+            _isSilent = _look->isError();
+            _look.reset();
+            _nextLook = Clock::now() + betweenLooks;
+        }
+        return _isSilent;
+    }
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    SystemBus _bus{hearNothing, patienceWithBus};
+    std::optional<QDBusPendingCall> _look;
+    Clock::time_point _nextLook = Clock::now() + betweenLooks;
+    bool _isSilent = false;
+};
 
 } // namespace
 
-bool isPolkitThere() {
+bool isPolkitThere(Waiting& waiting) {
     SystemBus bus(hearNothing, patienceWithBus);
-    return isPolkitOn(bus);
+    return isPolkitOn(bus, waiting);
 }
 
-// A person may type a password meanwhile, so the answer has no time-out.
-PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson) {
+std::function<bool()> watchPolkitForSilence() {
+    return [watch = std::make_shared<SilenceWatch>()] { return watch->isSilent(); };
+}
+
+PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson, Waiting& waiting) {
     SystemBus bus(hearNothing, patienceWithBus);
-    if (!isPolkitOn(bus)) {
+    if (!isPolkitOn(bus, waiting)) {
         return PolkitAnswer::unreachable;
     }
-    auto question = QDBusMessage::createMethodCall(authorityName, authorityPath, authorityInterface,
-                                                   QStringLiteral("CheckAuthorization"));
-    question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
-             << QVariant::fromValue(noDetails()) << (mayAskPerson ? allowUserInteraction : 0U)
-             << QString(); // no name for a later cancellation
-    return answerOf(answerTo(bus, question, SystemBus::endlessPatience));
+    if (!mayAskPerson) {
+        return answerOf(answerTo(bus, questionAbout(action, 0), patienceWithPolkit, waiting));
+    }
+    const QDBusPendingCall call =
+        bus.call(questionAbout(action, allowUserInteraction), SystemBus::endlessPatience);
+    const auto hasFallenSilent = watchPolkitForSilence();
+    bool isSilent = false;
+    waiting.until(
+        [&] {
+            isSilent = hasFallenSilent();
+            return isSilent || call.isFinished();
+        },
+        localizedText("Waiting for administrator rights."));
+    if (call.isFinished()) {
+        return answerOf(call.reply());
+    }
+    takeBack(bus);
+    return isSilent ? PolkitAnswer::unreachable : PolkitAnswer::dismissed;
 }
 
 } // namespace kx

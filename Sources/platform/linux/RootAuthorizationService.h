@@ -1,5 +1,6 @@
 // The authority for a process that is the administrator already: it grants every right without
-// asking anybody, and starts tools as they are.
+// asking anybody, and starts tools as they are. The ARP tool gets no text that begins with "-",
+// because it would take that for an option.
 //
 // As with every authority, a right is held under a reference only once it was obtained there
 // (platform/linux/LinuxAuthorizationReference.h), so users of the two authorities see no
@@ -10,6 +11,7 @@
 #include "platform/linux/RunningTools.h"
 #include "support/AuthorizationService.h"
 #include "support/RunLoop.h"
+#include "support/Waiting.h"
 
 #include <memory>
 
@@ -17,13 +19,16 @@ namespace kx {
 
 class RootAuthorizationService final : public AuthorizationService {
 public:
-    // `loop` must outlive the service.
-    explicit RootAuthorizationService(RunLoop& loop);
+    // `loop` and `waiting` must outlive the service.
+    RootAuthorizationService(RunLoop& loop, Waiting& waiting);
 
     std::unique_ptr<AuthorizationReference> create() override;
+    std::optional<std::string> objectionTo(const std::string& toolPath,
+                                           const std::vector<std::string>& arguments) const override;
 
 private:
     RunningTools _runningTools;
+    Waiting& _waiting;
 };
 
 } // namespace kx

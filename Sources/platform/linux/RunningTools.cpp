@@ -36,9 +36,9 @@ void RunningTools::look() {
     }
     // An action may add further tools, or destroy this object.
     for (const auto& [tool, action] : ended) {
-        const int status = tool->status();
+        const ToolEnd end{.status = tool->status(), .sentence = tool->sentence()};
         if (action) {
-            action(status);
+            action(end);
         }
     }
 }

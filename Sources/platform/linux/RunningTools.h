@@ -20,7 +20,7 @@ public:
 
     explicit RunningTools(RunLoop& loop);
 
-    // Watches the tool until it has ended, and then calls `ended` with its status from the run
+    // Watches the tool until it has ended, and then calls `ended` with its end from the run
     // loop. The tool may have ended already.
     void attend(std::unique_ptr<StartedTool> tool, EndAction ended);
 

@@ -1,26 +1,26 @@
 #include "platform/linux/StartedTool.h"
 
+#include "System Configuration/SystemCallWrappers.h"
+#include "support/ByteRange.h"
 #include "support/Error.h"
-#include "support/Pipe.h"
 #include "support/PlatformException.h"
 #include "support/SystemLog.h"
+#include "support/TextEncoding.h"
 #include "support/TextFormat.h"
 
 #include <fcntl.h>
 #include <sys/wait.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
+#include <csignal>
 #include <fstream>
-#include <thread>
 #include <utility>
 
 namespace kx {
 
 namespace {
-
-// The time between two looks at a program that is waited for. It is short, because the window does
-// not react meanwhile. It is long enough to cost nothing while a person is asked.
-constexpr std::chrono::milliseconds interval{5};
 
 constexpr int signalBase = 128;
 
@@ -34,22 +34,38 @@ std::unique_ptr<StartedTool> StartedTool::start(const std::string& path,
         logToSystem(filledText("Could not open /dev/null: %s", {posixErrorText(errno)}));
         return nullptr;
     }
-    const ChildProcess::Streams streams{
-        .standardInput = nothing.number(), .standardOutput = nothing.number(), .standardError = {}};
     try {
+        Pipe words;
+        ::fcntl(words.readingEnd.number(), F_SETFL, O_NONBLOCK);
+        const ChildProcess::Streams streams{.standardInput = nothing.number(),
+                                            .standardOutput = nothing.number(),
+                                            .standardError = words.writingEnd.number()};
         return std::unique_ptr<StartedTool>(new StartedTool(
             environment.has_value() ? ChildProcess(path, arguments, streams, *environment)
-                                    : ChildProcess(path, arguments, streams)));
+                                    : ChildProcess(path, arguments, streams),
+            std::move(words.readingEnd)));
     } catch (const PlatformException& exception) {
         logToSystem(exception.reason());
         return nullptr;
     }
 }
 
-StartedTool::StartedTool(ChildProcess child)
-    : _child(std::move(child)) {}
+StartedTool::StartedTool(ChildProcess child, FileDescriptor words)
+    : _child(std::move(child))
+    , _words(std::move(words)) {}
 
-bool StartedTool::hasEnded() const {
+// All of it is read, so that the tool never waits for room in the pipe.
+void StartedTool::listen() {
+    std::array<char, 4096> buffer{};
+    ssize_t count = 0;
+    while ((count = Read(_words.number(), buffer.data(), buffer.size())) > 0) {
+        _said.append(buffer.data(), static_cast<std::size_t>(count));
+        _said.resize(std::min(_said.size(), mostSaid));
+    }
+}
+
+bool StartedTool::hasEnded() {
+    listen();
     const auto process = _child.processIdentifier();
     siginfo_t end{};
     // This only looks, with WNOWAIT: `_child` takes the end later, and until then the system keeps
@@ -64,23 +80,28 @@ std::optional<std::string> StartedTool::programName() const {
     return std::getline(file, name) ? std::optional(name) : std::nullopt;
 }
 
-bool StartedTool::waitAMoment(const std::string& launcher) {
-    using Clock = std::chrono::steady_clock;
-    auto end = Clock::now() + moment;
-    while (!hasEnded()) {
-        if (!launcher.empty() && programName().value_or(launcher) == launcher) {
-            end = Clock::now() + moment;
-        } else if (Clock::now() >= end) {
-            return false;
-        }
-        std::this_thread::sleep_for(interval);
+void StartedTool::askToEnd() {
+    if (!hasEnded()) {
+        ::kill(_child.processIdentifier(), SIGTERM);
     }
-    return true;
 }
 
 int StartedTool::status() {
     const int status = _child.waitUntilExit();
     return _child.wasEndedBySignal() ? signalBase + status : status;
+}
+
+std::string StartedTool::sentence() {
+    constexpr auto blanks = " \t\r\n";
+    listen();
+    const auto begin = _said.find_first_not_of(blanks);
+    if (begin == std::string::npos) {
+        return {};
+    }
+    const std::string line = _said.substr(begin, _said.find('\n', begin) - begin);
+    const std::string trimmed = line.substr(0, line.find_last_not_of(blanks) + 1);
+    const Bytes bytes(trimmed.begin(), trimmed.end());
+    return textFromUTF8(subrange(bytes, 0, lengthOfWholeCharacters(bytes))).value_or("");
 }
 
 } // namespace kx

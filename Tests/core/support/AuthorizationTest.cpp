@@ -196,7 +196,7 @@ TEST_F(AuthorizationTest, AToolThatCannotBeStartedHasTheAuthoritysStatus) {
 TEST_F(AuthorizationTest, TheEndOfTheToolIsToldAfterItsStart) {
     std::vector<int> ends;
     ASSERT_TRUE(authorization.authenticate());
-    EXPECT_EQ(authorization.runToolWithArgs({"-s"}, [&](int status) { ends.push_back(status); }),
+    EXPECT_EQ(authorization.runToolWithArgs({"-s"}, [&](const ToolEnd& end) { ends.push_back(end.status); }),
               0);
     EXPECT_TRUE(ends.empty());
     service.endTools(255);
@@ -207,7 +207,7 @@ TEST_F(AuthorizationTest, TheEndOfTheToolIsToldAfterItsStart) {
 TEST_F(AuthorizationTest, NothingIsToldAfterTheRightWasGivenBack) {
     std::vector<int> ends;
     ASSERT_TRUE(authorization.authenticate());
-    authorization.runToolWithArgs({"-s"}, [&](int status) { ends.push_back(status); });
+    authorization.runToolWithArgs({"-s"}, [&](const ToolEnd& end) { ends.push_back(end.status); });
     authorization.deauthenticate();
     service.endTools(0);
     EXPECT_TRUE(ends.empty());

@@ -4,6 +4,7 @@
 #include "contracts/AuthorizationServiceContract.h"
 #include "platform/PollLoopDriver.h"
 #include "platform/linux/LinuxAuthorization.h"
+#include "platform/qtcore/EventLoopWaiting.h"
 
 namespace kx {
 
@@ -21,7 +22,8 @@ public:
 
 private:
     PollRunLoop _loop;
-    std::unique_ptr<AuthorizationService> _service = makeAuthorizationService(_loop);
+    EventLoopWaiting _waiting;
+    std::unique_ptr<AuthorizationService> _service = makeAuthorizationService(_loop, _waiting);
 };
 
 INSTANTIATE_TYPED_TEST_SUITE_P(Host, AuthorizationServiceContract, HostAuthorityTrait);

@@ -8,12 +8,14 @@
 
 #include "platform/PollLoopDriver.h"
 #include "platform/linux/LinuxAuthorization.h"
+#include "platform/qtcore/EventLoopWaiting.h"
 #include "support/Authorization.h"
 
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -23,10 +25,24 @@
 
 namespace kx {
 
+// A person at the application who gives up after a while.
+class ImpatientEventLoop final : public Waiting {
+public:
+    void giveUpAfter(std::chrono::milliseconds patience) { _patience = patience; }
+
+    bool until(const std::function<bool()>& isDone, std::string_view /*sentence*/) override {
+        return handleEventsUntil(isDone, _patience, QEventLoop::AllEvents) == EventsEnd::done;
+    }
+
+private:
+    std::chrono::milliseconds _patience = RunLoop::longestDelay;
+};
+
 class AuthorityFixture : public testing::Test {
 protected:
     static constexpr auto arpTool = "/usr/sbin/arp";
     static constexpr auto arpAction = "org.kxconfig.KXConfig.set-arp-entry";
+    static constexpr auto anyEntryAction = "org.kxconfig.KXConfig.change-arp-entries";
     static constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
     static constexpr auto shell = "/bin/sh";
     static constexpr std::uint32_t asking = kAuthorizationFlagInteractionAllowed;
@@ -40,9 +56,21 @@ protected:
         return {.name = std::string(kAuthorizationRightExecute), .value = tool, .flags = 0};
     }
 
-    // The actions of the questions that the person was asked so far.
-    static std::vector<std::string> dialogs() {
-        std::ifstream file(std::getenv("KX_DIALOGS"));
+    // The right to enter the address.
+    static AuthorizationItem rightToEnter() {
+        AuthorizationItem right = rightOf(arpTool);
+        right.arguments = enteringArguments();
+        return right;
+    }
+
+    static std::vector<std::string> enteringArguments() { return {"-s", newAddress, unitAddress}; }
+
+    // The actions of the questions that the person was asked so far, and the texts of the dialogs.
+    static std::vector<std::string> dialogs() { return linesOf("KX_DIALOGS"); }
+    static std::vector<std::string> messages() { return linesOf("KX_MESSAGES"); }
+
+    static std::vector<std::string> linesOf(const char* variable) {
+        std::ifstream file(std::getenv(variable));
         std::vector<std::string> lines;
         for (std::string line; std::getline(file, line);) {
             lines.push_back(line);
@@ -84,10 +112,12 @@ protected:
 
     // Starts a tool and records its end.
     std::int32_t run(const std::string& tool, const std::vector<std::string>& arguments) {
-        return reference->executeWithPrivileges(tool, arguments,
-                                                [this](int status) { ends.push_back(status); });
+        return reference->executeWithPrivileges(tool, arguments, [this](const ToolEnd& end) {
+            ends.push_back(end.status);
+            sentences.push_back(end.sentence);
+        });
     }
-    std::int32_t runArp() { return run(arpTool, {"-s", newAddress, unitAddress}); }
+    std::int32_t runArp() { return run(arpTool, enteringArguments()); }
     std::int32_t runShell(const std::string& script) { return run(shell, {"-c", script}); }
 
     bool runUntilEnd() {
@@ -95,9 +125,11 @@ protected:
     }
 
     PollRunLoop loop;
-    std::unique_ptr<AuthorizationService> service = makeAuthorizationService(loop);
+    ImpatientEventLoop waiting;
+    std::unique_ptr<AuthorizationService> service = makeAuthorizationService(loop, waiting);
     std::unique_ptr<AuthorizationReference> reference = service->create();
     std::vector<int> ends;
+    std::vector<std::string> sentences;
 };
 
 // A tool that runs until the test lets it end.

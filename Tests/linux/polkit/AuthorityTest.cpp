@@ -27,18 +27,76 @@ TEST_F(AnAllowingPerson, IsAskedOnce) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
+    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
+}
+
+TEST_F(AnAllowingPerson, IsShownTheAddressesAndAskedOnceForTheQuestionAndTheRun) {
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, std::vector<int>{0});
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+    ASSERT_EQ(messages().size(), 1U);
+    EXPECT_TRUE(messages()[0].ends_with("ARP cache: /usr/libexec/kxconfig/kxarp -s 192.0.2.77 "
+                                        "02:00:00:00:00:77"))
+        << messages()[0];
+}
+
+TEST_F(AnAllowingPerson, IsNotAskedAboutOtherAddressesWhileTheGrantIsKept) {
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
+    // Another list is a run of its own, under the grant that polkit keeps.
+    EXPECT_EQ(run(arpTool, {"-s", "192.0.2.78", unitAddress}), errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, std::vector<int>{0});
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
-// The question ends before the next event, so Qt's loop must not run under it.
-TEST_F(AnAllowingPerson, IsAskedWhileTheEventLoopStands) {
+TEST_F(AnAllowingPerson, WhoAllowsToEnterAnAddressAllowsToTakeItOut) {
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
+    AuthorizationItem right = rightToEnter();
+    right.arguments.front() = "-d";
+    EXPECT_EQ(reference->copyRights(right, asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(run(arpTool, right.arguments), errAuthorizationSuccess);
+    EXPECT_TRUE(runLoopUntil(loop, [] { return neighbour().empty(); }));
+    EXPECT_EQ(dialogs(), Actions{arpAction});
+}
+
+TEST_F(AnAllowingPerson, IsAskedWithoutAddressesWhenNoneAreNamed) {
+    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
+    EXPECT_EQ(messages().at(0).find("$("), std::string::npos) << messages()[0];
+}
+
+// A boundary that stands before the tool and not in the window.
+TEST_F(AnAllowingPerson, CannotMakeTheToolReadAFile) {
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"-v", "-f", "/etc/shadow"},
+          {"-s", "-v", "-f", "/etc/shadow"},
+          {"-s", "-f", "/etc/shadow"},
+          {"-s", newAddress, "-f"},
+          {"-s", "192.0.2.077", unitAddress},
+          {"-s", "unit.example", unitAddress},
+          {"-s", newAddress, unitAddress, "pub"}}) {
+        ends.clear();
+        sentences.clear();
+        EXPECT_EQ(run(arpTool, words), errAuthorizationSuccess);
+        EXPECT_TRUE(runUntilEnd());
+        ASSERT_EQ(ends.size(), 1U);
+        EXPECT_TRUE(ends[0] == 64 || ends[0] == 65 || ends[0] == 66) << ends[0];
+        EXPECT_EQ(sentences[0], service->objectionTo(arpTool, words));
+        EXPECT_EQ(sentences[0].find("root:"), std::string::npos);
+    }
+    EXPECT_EQ(neighbour(), "");
+}
+
+// A window is painted meanwhile.
+TEST_F(AnAllowingPerson, IsAskedWhileTheEventLoopRuns) {
     int events = 0;
     QTimer::singleShot(0, QCoreApplication::instance(), [&] { ++events; });
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
-    EXPECT_EQ(runArp(), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), Actions{arpAction});
-    EXPECT_EQ(events, 0);
-    QCoreApplication::processEvents();
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(events, 1);
 }
 
@@ -48,7 +106,7 @@ TEST_F(AnAllowingPerson, IsNotAskedWhetherTheRightIsHeld) {
     EXPECT_EQ(dialogs(), Actions{});
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), Actions{arpAction});
+    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
 }
 
 TEST_F(AnAllowingPerson, GrantsNothingForLaterWhenTheRightIsNotToBeKept) {
@@ -62,7 +120,7 @@ TEST_F(AnAllowingPerson, GrantsTheRightToOneToolOnly) {
     EXPECT_EQ(reference->copyRights(rightOf(shell), keeping),
               errAuthorizationInteractionNotAllowed);
     EXPECT_EQ(reference->copyRights(rightOf(shell), asking | keeping), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), (Actions{arpAction, anyToolAction}));
+    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, anyToolAction}));
 }
 
 TEST_F(AnAllowingPerson, GrantsNothingUnderTheNextReference) {
@@ -91,7 +149,7 @@ TEST_F(AnAllowingPerson, MayTakeTheirTimeInTheRun) {
 
 // The person takes longer than a call to another program usually takes.
 TEST_F(AnAllowingPerson, MayTakeTheirTime) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
@@ -108,7 +166,8 @@ TEST_F(ARefusingPerson, LeavesTheRightUnheld) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
-    EXPECT_EQ(dialogs(), Actions{arpAction});
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, arpAction}));
 }
 
 TEST_F(ARefusingPerson, KeepsTheToolFromBeingStarted) {
@@ -125,7 +184,8 @@ TEST_F(ADismissingPerson, CancelsTheRequest) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationCanceled);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
-    EXPECT_EQ(dialogs(), Actions{arpAction});
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationCanceled);
+    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, arpAction}));
 }
 
 TEST_F(ADismissingPerson, CancelsTheRun) {
@@ -141,6 +201,7 @@ class NobodyAtTheDialogs : public AuthorityFixture {};
 TEST_F(NobodyAtTheDialogs, CanAllowAnything) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping),
               errAuthorizationInteractionNotAllowed);
+    EXPECT_NE(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationDenied);
     EXPECT_EQ(neighbour(), "");
     EXPECT_FALSE(Authorization(*service, arpTool).authenticate());
@@ -149,7 +210,7 @@ TEST_F(NobodyAtTheDialogs, CanAllowAnything) {
 class ARuleThatAllows : public AuthorityFixture {};
 
 TEST_F(ARuleThatAllows, NeedsNoPerson) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
     EXPECT_EQ(dialogs(), Actions{});
@@ -162,7 +223,7 @@ TEST_F(ARuleThatAllows, MeansNothingBeforeTheRightIsAskedFor) {
 class ARuleThatForbids : public AuthorityFixture {};
 
 TEST_F(ARuleThatForbids, LeavesNothingToAskAPerson) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationDenied);
     EXPECT_EQ(runArp(), errAuthorizationDenied);
     EXPECT_EQ(neighbour(), "");
     EXPECT_EQ(dialogs(), Actions{});
@@ -191,24 +252,37 @@ TEST(ASilentBus, IsAsGoodAsNone) {
     ASSERT_EQ(::listen(bus.number(), 4), 0);
     ::setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + path).c_str(), 1);
     const auto before = std::chrono::steady_clock::now();
-    EXPECT_FALSE(isPolkitThere());
-    EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", true), PolkitAnswer::unreachable);
+    EventLoopWaiting waiting;
+    EXPECT_FALSE(isPolkitThere(waiting));
+    EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", true, waiting),
+              PolkitAnswer::unreachable);
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(15));
 }
 
 class AnUnknownAction : public AuthorityFixture {};
 
 TEST_F(AnUnknownAction, IsDenied) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationDenied);
     EXPECT_EQ(dialogs(), Actions{});
 }
 
 class NoLauncher : public AuthorityFixture {};
 
-TEST_F(NoLauncher, MeansThatNoToolIsStarted) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+TEST_F(NoLauncher, MeansThatNobodyIsAskedInVain) {
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping),
+              errAuthorizationToolExecuteFailure);
     EXPECT_EQ(runArp(), errAuthorizationToolExecuteFailure);
+    EXPECT_EQ(dialogs(), Actions{});
     EXPECT_FALSE(hasChildren());
+}
+
+class NoTool : public AuthorityFixture {};
+
+TEST_F(NoTool, MeansThatNobodyIsAskedInVain) {
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping),
+              errAuthorizationToolExecuteFailure);
+    EXPECT_EQ(runArp(), errAuthorizationToolExecuteFailure);
+    EXPECT_EQ(dialogs(), Actions{});
 }
 
 class TheAdministrator : public AuthorityFixture {};
@@ -217,6 +291,21 @@ TEST_F(TheAdministrator, NeedsNobodyElse) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
+}
+
+TEST_F(TheAdministrator, HasTextsHandedOnAsTheyAreButNoOptions) {
+    EXPECT_EQ(run(arpTool, {"-s", "192.0.2.077", unitAddress}), errAuthorizationSuccess); // octal
+    for (const std::vector<std::string>& words :
+         {std::vector<std::string>{"-s", "-f", "/etc/shadow"},
+          {"-s", newAddress, "-v"},
+          {"-s", "-"}}) {
+        EXPECT_EQ(run(arpTool, words), errAuthorizationDenied);
+        EXPECT_EQ(service->objectionTo(arpTool, words),
+                  "The ARP tool gets no text that begins with “-”.");
+    }
+    EXPECT_EQ(service->objectionTo(arpTool, {"-s", "unit.example"}), std::nullopt);
+    EXPECT_EQ(service->objectionTo("/bin/true", {"-s", "-f"}), std::nullopt);
+    EXPECT_EQ(neighbour(), "");
 }
 
 TEST_F(TheAdministrator, HoldsARightOnceItWasAskedFor) {

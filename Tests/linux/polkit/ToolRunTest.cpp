@@ -29,11 +29,42 @@ TEST_F(AToolRun, HasItsEndToldFromTheRunLoop) {
     EXPECT_FALSE(hasChildren());
 }
 
-TEST_F(AToolRun, MayFailAfterItsStart) {
-    EXPECT_EQ(run(arpTool, {"-s", "203.0.113.1", "not-a-hardware-address"}),
-              errAuthorizationSuccess);
+TEST_F(AToolRun, MayFailAfterItsStartAndSaysWhy) {
+    EXPECT_EQ(run(arpTool, {"-s", "203.0.113.1", unitAddress}), errAuthorizationSuccess);
     EXPECT_TRUE(runUntilEnd());
     EXPECT_EQ(ends, Ends{255});
+    EXPECT_EQ(sentences, std::vector<std::string>{"SIOCSARP: Network is unreachable"});
+}
+
+TEST_F(AToolRun, TakesOutTheEntryThatItHasMade) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
+    EXPECT_EQ(run(arpTool, {"-d", newAddress, unitAddress}), errAuthorizationSuccess);
+    EXPECT_TRUE(runLoopUntil(loop, [] { return neighbour().empty(); }));
+    EXPECT_TRUE(runLoopUntil(loop, [this] { return ends.size() == 2; }));
+    EXPECT_EQ(ends, (Ends{0, 0}));
+}
+
+TEST_F(AToolRun, TakesOutNoEntryOfAnotherHardwareAddress) {
+    EXPECT_EQ(runArp(), errAuthorizationSuccess);
+    EXPECT_EQ(neighbourInTime(), unitAddress);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(run(arpTool, {"-d", newAddress, "02:00:00:00:00:78"}), errAuthorizationSuccess);
+    EXPECT_TRUE(runLoopUntil(loop, [this] { return ends.size() == 2; }));
+    EXPECT_EQ(ends.back(), 67);
+    EXPECT_EQ(sentences.back(), "The ARP cache has no fixed entry with this address and this "
+                                "hardware address.");
+    EXPECT_EQ(neighbour(), unitAddress);
+}
+
+// A tool that waits for room to say more would never end.
+TEST_F(AToolRun, MaySayMuchOfWhichTheBeginningIsKept) {
+    EXPECT_EQ(
+        runShell("printf '\\n  first \\nsecond\\n' >&2; yes >&2 & sleep 0.5; kill %1; exit 4"),
+        errAuthorizationSuccess);
+    EXPECT_TRUE(runUntilEnd());
+    EXPECT_EQ(ends, Ends{4});
+    EXPECT_EQ(sentences, std::vector<std::string>{"first"});
 }
 
 TEST_F(AToolRun, IsNotTakenForARefusalByItsStatus) {
@@ -114,8 +145,8 @@ TEST_F(AToolRun, IsReapedThoughNobodyWantsToKnow) {
 TEST_F(AToolRun, LetsItsReferenceBeDestroyedByTheWordOfItsEnd) {
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(reference->executeWithPrivileges(arpTool, {"-s", newAddress, unitAddress},
-                                               [this](int status) {
-                                                   ends.push_back(status);
+                                               [this](const ToolEnd& end) {
+                                                   ends.push_back(end.status);
                                                    reference.reset();
                                                }),
               errAuthorizationSuccess);

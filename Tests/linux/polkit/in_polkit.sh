@@ -8,8 +8,9 @@
 # DESCRIPTION
 #   Starts the host's own message bus and polkit daemon anew, with a private /run, and runs the
 #   command there as the user kx-user, who is in no administrator's group. The daemon knows the
-#   application's action, from Resources/, and those of polkit itself. A person may sit at the
-#   dialogs of the command; their administrator is root.
+#   application's actions, from Resources/, and those of polkit itself; the program that they name
+#   is installed where they name it. A person may sit at the dialogs of the command; their
+#   administrator is root.
 #
 #   It needs root, because a program that changes its user does not do so for anybody else's
 #   namespaces. The mounts and processes are its own, the network is the caller's: run it inside
@@ -19,22 +20,26 @@
 #     HOME           a folder of its own
 #     KX_DIALOGS     a file with one line for each question that the person was asked, the
 #                    action's name
+#     KX_MESSAGES    a file with one line for each of these questions, the text of the dialog; and
+#                    a line "taken back" for each dialog that the daemon closes again
 #     KX_HOST        a pipe: the line "end" in it ends the bus and the daemon, "start" starts
-#                    them anew
+#                    them anew, "stop" stops the daemon as a hanging one is stopped, "continue"
+#                    lets it go on, and "leave" ends the person's agent
 #
 # OPTIONS
-#   --person ANSWER  who sits at the dialogs: one who will allow, refuse (by a wrong password) or
-#                    dismiss; without this option nobody does
+#   --person ANSWER  who sits at the dialogs: one who will allow, refuse (by a wrong password),
+#                    dismiss, or think without an end; without this option nobody does
 #   --after SECONDS  how long the person takes for each answer; default 0
 #   --rule RESULT    what the host's rules say of the user's questions, before any dialog: yes or
 #                    no; without this option what the actions themselves say
-#   --without PART   what the host lacks: "action", the application's own, "launcher", the program
-#                    that runs tools, "polkit", the daemon, or "bus", which means the daemon too
+#   --without PART   what the host lacks: "action", the application's own, "tool", the program that
+#                    they name, "launcher", the program that runs tools, "polkit", the daemon, or
+#                    "bus", which means the daemon too
 #   --root           run the command as root
 #   --help           this text
 #
 # ENVIRONMENT
-#   KX_BUILD_DIR     where kxperson was built, as bin/kxperson; default build/dev
+#   KX_BUILD_DIR     where kxperson and kxarp were built, in bin/; default build/dev
 #
 # EXIT STATUS
 #   The command's own, 128 and the signal's number when a signal ended it; 125 when this script
@@ -100,6 +105,17 @@ install_rules() {
     mount --bind -- "$scratch/rules" "$rules"
 }
 
+# Beside what the folder holds already.
+install_tool() {
+    local folder=/usr/libexec
+    install -d -m 755 "$scratch/libexec" "$scratch/libexec-here"
+    mount --rbind -- "$folder" "$scratch/libexec"
+    install -D -m 755 -- "$kxarp" "$scratch/libexec-here/kxconfig/kxarp"
+    find "$scratch/libexec" -mindepth 1 -maxdepth 1 ! -name kxconfig \
+        -exec ln -s -t "$scratch/libexec-here" -- {} +
+    mount --bind -- "$scratch/libexec-here" "$folder"
+}
+
 # The folder of the project may be below a folder that is closed to other users. Then the rest of that
 # folder is hidden, so that the way to the project can be opened.
 open_way_to_project() {
@@ -152,6 +168,9 @@ obey() {
     while read -r word; do
         case $word in
         end) kill "$bus" "$daemon" ;;
+        stop) kill -STOP "$daemon" ;;
+        continue) kill -CONT "$daemon" ;;
+        leave) kill -KILL "$(<"$scratch/agent")" ;;
         start)
             start_bus
             start_daemon
@@ -161,7 +180,8 @@ obey() {
 }
 
 seat_person() {
-    exec {ready}< <(exec "$kxperson" "$command_pid" "$person" "$seconds" "$dialogs")
+    exec {ready}< <(exec "$kxperson" "$command_pid" "$person" "$seconds" "$dialogs" "$messages")
+    printf '%s\n' "$!" >"$scratch/agent"
     await 'the person' "$ready"
 }
 
@@ -177,7 +197,8 @@ become_command() {
         identity=()
     fi
     exec setpriv "${identity[@]}" -- env --default-signal=INT,QUIT \
-        HOME="$home" USER="$user" LOGNAME="$user" KX_DIALOGS="$dialogs" KX_HOST="$host" "$@"
+        HOME="$home" USER="$user" LOGNAME="$user" KX_DIALOGS="$dialogs" KX_MESSAGES="$messages" \
+        KX_HOST="$host" "$@"
 }
 
 run_inside() {
@@ -188,8 +209,9 @@ run_inside() {
     mount -t tmpfs -o mode=755 tmpfs /run
     scratch=/run/kx
     install -d -m 755 /run/dbus "$scratch"
-    home=$scratch/home dialogs=$scratch/dialogs host=$scratch/host
+    home=$scratch/home dialogs=$scratch/dialogs messages=$scratch/messages host=$scratch/host
     : >"$dialogs"
+    : >"$messages"
     mkfifo -- "$scratch/go"
     mkfifo -m 622 -- "$host"
 
@@ -197,6 +219,9 @@ run_inside() {
     open_way_to_project
     # The bus must not start any services by itself.
     mount -t tmpfs -o mode=755 tmpfs /usr/share/dbus-1/system-services
+    if [[ $without != tool ]]; then
+        install_tool
+    fi
     if [[ $without != bus ]]; then
         start_bus
     fi
@@ -225,6 +250,7 @@ run_inside() {
 script=$(readlink -f -- "${BASH_SOURCE[0]}")
 top=${script%/Tests/linux/polkit/in_polkit.sh}
 kxperson=${KX_BUILD_DIR:-$top/build/dev}/bin/kxperson
+kxarp=${KX_BUILD_DIR:-$top/build/dev}/bin/kxarp
 
 options=() person='' seconds=0 rule='' without='' as_root=false inside=false
 while (($# > 0)); do
@@ -259,12 +285,12 @@ while (($# > 0)); do
     shift
 done
 (($# > 0)) || die "$usage_failed" 'no command; see --help'
-[[ $person =~ ^(allow|refuse|dismiss|)$ ]] ||
-    die "$usage_failed" '--person needs allow, refuse or dismiss'
+[[ $person =~ ^(allow|refuse|dismiss|think|)$ ]] ||
+    die "$usage_failed" '--person needs allow, refuse, dismiss or think'
 [[ $seconds =~ ^[0-9]+$ ]] || die "$usage_failed" '--after needs a number of seconds'
 [[ $rule =~ ^(yes|no|)$ ]] || die "$usage_failed" '--rule needs yes or no'
-[[ $without =~ ^(action|launcher|polkit|bus|)$ ]] ||
-    die "$usage_failed" '--without needs action, launcher, polkit or bus'
+[[ $without =~ ^(action|tool|launcher|polkit|bus|)$ ]] ||
+    die "$usage_failed" '--without needs action, tool, launcher, polkit or bus'
 
 if $inside; then
     run_inside "$@"
@@ -274,7 +300,9 @@ if ! reason=$(unshare --mount --pid --fork setpriv --reuid "$user_id" true 2>&1)
     printf 'skipped: no right to a private system bus here (%s)\n' "$reason"
     exit "$skipped"
 fi
-[[ -x $kxperson ]] || die "$failed" "no program $kxperson; build it, or set KX_BUILD_DIR"
+for program in "$kxperson" "$kxarp"; do
+    [[ -x $program ]] || die "$failed" "no program $program; build it, or set KX_BUILD_DIR"
+done
 # Everything ends with the process that made the namespaces, and this process does not outlive its
 # parent. It would ignore a plain request to end.
 setpriv --pdeathsig KILL unshare --mount --pid --fork --kill-child --mount-proc -- \
