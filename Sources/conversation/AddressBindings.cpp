@@ -1,7 +1,5 @@
 #include "conversation/AddressBindings.h"
 
-#include <utility>
-
 namespace kx {
 
 namespace {
@@ -13,23 +11,25 @@ constexpr auto arpTool = "/usr/sbin/arp";
 AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service)
     : _authorization(std::make_shared<Authorization>(service, arpTool)) {}
 
-void AuthorizedAddressBindings::bind(const std::string& address,
-                                     const std::string& hardwareAddress, Done done) {
-    run({"-s", address, hardwareAddress}, std::move(done));
+void AuthorizedAddressBindings::bind(const std::string& address, const std::string& hardwareAddress,
+                                     Done done) {
+    run({"-s", address, hardwareAddress}, done);
 }
 
 void AuthorizedAddressBindings::release(const std::string& address,
                                         const std::string& hardwareAddress, Done done) {
-    run({"-d", address, hardwareAddress}, std::move(done));
+    run({"-d", address, hardwareAddress}, done);
 }
 
-void AuthorizedAddressBindings::run(const std::vector<std::string>& arguments, Done done) {
-    if (!_authorization->authenticate()) {
+void AuthorizedAddressBindings::run(const std::vector<std::string>& arguments, const Done& done) {
+    const auto authorization = _authorization; // a wait for a person may end this object
+    if (!authorization->authenticate(arguments)) {
         done({.state = ARPEntryState::rightsNotGiven});
         return;
     }
-    const auto result = _authorization->runToolWithArgs(
-        arguments, [done](int status) { done(arpEntryForEndOfTool(status)); });
+    const auto result = authorization->runToolWithArgs(arguments, [done](const ToolEnd& end) {
+        done(arpEntryForEndOfTool(end.status, end.sentence));
+    });
     if (result != errAuthorizationSuccess) {
         done(arpEntryForResult(result));
     }

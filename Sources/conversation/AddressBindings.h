@@ -17,7 +17,8 @@ namespace kx {
 
 class AddressBindings {
 public:
-    // Tells whether the entry is there, or gone: `started` means that the tool did what it was told.
+    // Tells whether the entry is there, or gone: `started` means that the tool did what it was
+    // told.
     using Done = std::function<void(const ARPEntry&)>;
 
     virtual ~AddressBindings() = default;
@@ -41,7 +42,7 @@ public:
                  Done done) override;
 
 private:
-    void run(const std::vector<std::string>& arguments, Done done);
+    void run(const std::vector<std::string>& arguments, const Done& done);
 
     std::shared_ptr<Authorization> _authorization; // may have to outlive a call
 };

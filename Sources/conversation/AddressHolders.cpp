@@ -24,7 +24,7 @@ constexpr auto timeForSerialNumber = 200ms;
 } // namespace
 
 HolderSearch::HolderSearch(UnitExchange& exchange, const Services& services,
-                           std::vector<AddressQuestion> questions)
+                           const std::vector<AddressQuestion>& questions)
     : Listener(exchange)
     , _services(services) {
     for (const AddressQuestion& question : questions) {
@@ -76,8 +76,7 @@ void HolderSearch::probe() {
         }
     }
     if (_probesSent < probeCount) {
-        _nextProbe =
-            exchange().runLoop().callOnceAfter(timeBetweenProbes, [this] { probe(); });
+        _nextProbe = exchange().runLoop().callOnceAfter(timeBetweenProbes, [this] { probe(); });
     }
 }
 
@@ -98,7 +97,8 @@ void HolderSearch::look() {
 }
 
 // An address that is probed is decided when all probes had their time. The table decides the
-// others. An entry that somebody made by hand, or that nobody has confirmed lately, decides nothing.
+// others. An entry that somebody made by hand, or that nobody has confirmed lately, decides
+// nothing.
 void HolderSearch::lookAt(std::size_t index) {
     Asked& asked = _asked[index];
     AddressHolders& result = _results[index];

@@ -96,7 +96,7 @@ public:
     static constexpr std::chrono::milliseconds patience{4000};
 
     HolderSearch(UnitExchange& exchange, const Services& services,
-                 std::vector<AddressQuestion> questions);
+                 const std::vector<AddressQuestion>& questions);
 
     // In the order of the questions.
     const std::vector<AddressHolders>& results() const { return _results; }

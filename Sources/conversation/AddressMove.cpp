@@ -19,8 +19,8 @@ constexpr auto patienceForOwnAnswer = 3200ms;
 
 } // namespace
 
-AddressMove::AddressMove(UnitExchange& exchange, const Services& services,
-                         std::uint32_t newAddress, std::string hardwareAddress, CommandPlan command)
+AddressMove::AddressMove(UnitExchange& exchange, const Services& services, std::uint32_t newAddress,
+                         std::string hardwareAddress, CommandPlan command)
     : _exchange(exchange)
     , _services(services)
     , _newAddress(newAddress)
@@ -59,13 +59,12 @@ void AddressMove::didSearch() {
     } else if (_holders.state == HolderState::unknown) {
         endWith(MoveState::unknownHolder);
     } else {
-        _services.bindings.bind(
-            stringForIP(_newAddress), _hardwareAddress,
-            [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
-                if (!isAlive.expired()) {
-                    didBind(entry);
-                }
-            });
+        _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
+                                [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
+                                    if (!isAlive.expired()) {
+                                        didBind(entry);
+                                    }
+                                });
     }
 }
 

@@ -1,8 +1,8 @@
 // The move of a unit to another internal IP address.
 //
 // First somebody else must not hold the address. Then the address is bound to the unit's hardware
-// address, so that the command reaches the unit at an address that it does not hold yet. The unit is
-// asked for its parameters there. Afterwards the binding is taken out again, whatever the unit
+// address, so that the command reaches the unit at an address that it does not hold yet. The unit
+// is asked for its parameters there. Afterwards the binding is taken out again, whatever the unit
 // showed, and the unit itself must answer for its new address (RFC 826).
 //
 // Threading and ownership: see Operation.h. The exchange and the services must outlive the move.
@@ -29,7 +29,8 @@ enum class MoveState {
     unknownHolder, // whether somebody does could not be found out
     notBound,      // the ARP entry could not be made
     commanded,     // the outcome of the command says the rest
-    foreignAnswer, // the unit shows the address, but another hardware address answers for it, or none
+    foreignAnswer, // the unit shows the address, but another hardware address answers for it, or
+                   // none
     moved,
 };
 
@@ -40,8 +41,8 @@ public:
         AddressBindings& bindings;
     };
 
-    // `command` is the plan for the command. Its target and the places that are asked are replaced by
-    // the new address, at the target's port and link.
+    // `command` is the plan for the command. Its target and the places that are asked are replaced
+    // by the new address, at the target's port and link.
     AddressMove(UnitExchange& exchange, const Services& services, std::uint32_t newAddress,
                 std::string hardwareAddress, CommandPlan command);
     ~AddressMove() override;

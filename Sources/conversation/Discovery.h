@@ -17,7 +17,7 @@
 namespace kx {
 
 struct DiscoveryPlan {
-    std::vector<UnitTarget> everybody; // each request goes to all of these
+    std::vector<UnitTarget> everybody = {}; // each request goes to all of these
     std::chrono::milliseconds wait{2000};
     int tries = 2; // requests in all, spread evenly over the wait
 

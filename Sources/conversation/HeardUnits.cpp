@@ -38,19 +38,25 @@ UnitTarget HeardUnit::target() const {
     return {.address = destination.address, .port = destination.port, .link = link};
 }
 
-void HeardUnits::add(HeardUnit unit) {
+void HeardUnits::add(const HeardUnit& unit) {
     const auto known = _units.find(unit.serialNumber());
+    if (known != _units.end()) {
+        const auto same = std::ranges::find_if(known->second, [&unit](const HeardUnit& other) {
+            return other.hardwareAddress() == unit.hardwareAddress();
+        });
+        if (same != known->second.end()) {
+            *same = unit;
+            return;
+        }
+    }
+    if (_count == _limit) {
+        _isIncomplete = true;
+        return;
+    }
     auto& sameNumber =
         known != _units.end() ? known->second : _units[std::string(unit.serialNumber())];
-    const auto same = std::ranges::find_if(sameNumber, [&unit](const HeardUnit& other) {
-        return other.hardwareAddress() == unit.hardwareAddress();
-    });
-    if (same != sameNumber.end()) {
-        *same = std::move(unit);
-    } else {
-        sameNumber.push_back(std::move(unit));
-        ++_count;
-    }
+    sameNumber.push_back(unit);
+    ++_count;
 }
 
 std::vector<const HeardUnit*> HeardUnits::all() const {
@@ -119,10 +125,9 @@ bool HeardUnits::isDuplicated(const HeardUnit& unit) const {
     return std::ranges::any_of(all(), [&](const HeardUnit* other) {
         const bool isSame = other->serialNumber() == unit.serialNumber() &&
                             other->hardwareAddress() == unit.hardwareAddress();
-        return !isSame &&
-               (other->serialNumber() == unit.serialNumber() ||
-                (address.has_value() &&
-                 other->record.value(UnitParameter::internalIPAddress) == address));
+        return !isSame && (other->serialNumber() == unit.serialNumber() ||
+                           (address.has_value() &&
+                            other->record.value(UnitParameter::internalIPAddress) == address));
     });
 }
 

@@ -56,10 +56,21 @@ struct DuplicateSerialNumber {
     std::vector<std::string> hardwareAddresses;
 };
 
+// Any host on the network can invent units, so there is a limit.
 class HeardUnits {
 public:
-    // Adds an answer. It replaces an earlier one of the same serial number and hardware address.
-    void add(HeardUnit unit);
+    // More than any network has, and small enough for a computer's memory.
+    static constexpr std::size_t defaultLimit = 1'048'576;
+
+    explicit HeardUnits(std::size_t limit = defaultLimit)
+        : _limit(limit) {}
+
+    // Adds an answer. It replaces an earlier one of the same serial number and hardware address. A
+    // new unit beyond the limit is left out.
+    void add(const HeardUnit& unit);
+
+    // Units have been left out.
+    bool isIncomplete() const { return _isIncomplete; }
 
     // One for each serial number and hardware address, in the order of serial numbers.
     std::vector<const HeardUnit*> all() const;
@@ -76,7 +87,9 @@ public:
 
 private:
     std::map<std::string, std::vector<HeardUnit>, std::less<>> _units; // by serial number
+    std::size_t _limit;
     std::size_t _count = 0;
+    bool _isIncomplete = false;
 };
 
 // The text of the unit ID without zero bytes at its end; absent when the unit does not tell it, and

@@ -42,7 +42,8 @@ std::vector<HostInterface> interfacesNamed(const std::vector<HostInterface>& int
 }
 
 std::vector<HostInterface> askableInterfaces(const std::vector<HostInterface>& interfaces) {
-    return oneOfEachLink(interfaces, [](const HostInterface& interface) { return interface.canAsk; });
+    return oneOfEachLink(interfaces,
+                         [](const HostInterface& interface) { return interface.canAsk; });
 }
 
 } // namespace kx

@@ -27,11 +27,13 @@ struct HostInterface {
     std::string title;    // with the name in parentheses, as the window shows it
     std::string userName; // name of the profile, or of the kind of interface
     bool hasProfile = false;
-    std::string kind; // "ethernet", "wi-fi", "bridge", "vlan", "bond", "point-to-point",
-                      // "loopback" or "other"
-    std::uint32_t link = 0;                   // the kernel's index
+    std::string kind;       // "ethernet", "wi-fi", "bridge", "vlan", "bond", "point-to-point",
+                            // "loopback" or "other"
+    std::uint32_t link = 0; // the kernel's index
     std::vector<NetworkOfInterface> networks; // IPv4, the one that is used first
     Bytes hardwareAddress;                    // empty when it has none
+
+    bool canBroadcast = false;
 
     // It carries datagrams, can broadcast, and has an IPv4 address.
     bool canAsk = false;

@@ -32,9 +32,8 @@ void OptionCommand::start() {
 
 // An answer whose header tells no serial number is the unit's when it comes from its address.
 void OptionCommand::unitDidAnswer(const UnitAnswer& answer) {
-    const bool isFromUnit = answer.serialNumber.has_value()
-                                ? *answer.serialNumber == _serialNumber
-                                : answer.sender == _target.address;
+    const bool isFromUnit = answer.serialNumber.has_value() ? *answer.serialNumber == _serialNumber
+                                                            : answer.sender == _target.address;
     if (_isSent && !hasEnded() && isFromUnit && !answer.bytes.empty()) {
         _answers.push_back(answer);
     }

@@ -27,8 +27,8 @@ int rankOf(UnitParameter parameter) {
 }
 
 std::optional<std::string> shownText(const HeardUnit& unit, UnitParameter parameter) {
-    const auto text = parameter == UnitParameter::unitID ? unitIDText(unit.record)
-                                                         : unit.record.value(parameter);
+    const auto text =
+        parameter == UnitParameter::unitID ? unitIDText(unit.record) : unit.record.value(parameter);
     return text.has_value() ? std::optional(std::string(*text)) : std::nullopt;
 }
 
@@ -43,22 +43,22 @@ std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<E
     std::vector<UnitChange> changes;
     for (const ExactEdit& edit : edits) {
         const ParameterEdit& plain = edit.edit;
-        changes.push_back(
-            {.edit = edit,
-             .from = shownText(unit, plain.parameter),
-             .to = plain.expectedText.value_or(plain.value),
-             .command = plain.command,
-             .state = edit.isShownBy(unit.record, unit.unitIDBytes) ? ChangeState::unchanged
-                                                                    : ChangeState::planned});
+        changes.push_back({.edit = edit,
+                           .from = shownText(unit, plain.parameter),
+                           .to = plain.expectedText.value_or(plain.value),
+                           .command = plain.command,
+                           .state = edit.isShownBy(unit.record, unit.unitIDBytes)
+                                        ? ChangeState::unchanged
+                                        : ChangeState::planned});
     }
     return changes;
 }
 
 UnitEdits::UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
-                     HeardUnit unit, std::vector<UnitChange> changes, UnitTarget everybody)
+                     const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody)
     : Listener(exchange)
     , _moveServices(moveServices)
-    , _unit(std::move(unit))
+    , _unit(unit)
     , _firstHardwareAddress(_unit.hardwareAddress())
     , _changes(std::move(changes))
     , _everybody(everybody) {}
@@ -80,8 +80,8 @@ UnitChange* UnitEdits::nextChange() {
     UnitChange* next = nullptr;
     for (UnitChange& change : _changes) {
         if (change.state == ChangeState::planned &&
-            (next == nullptr || rankOf(change.edit.edit.parameter) <
-                                    rankOf(next->edit.edit.parameter))) {
+            (next == nullptr ||
+             rankOf(change.edit.edit.parameter) < rankOf(next->edit.edit.parameter))) {
             next = &change;
         }
     }
@@ -129,8 +129,8 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
     plan.isFromUnit = [serials = plan.serialNumbers, parameter,
                        hardware = std::string(_unit.hardwareAddress()),
                        newHardware = change.to](const HeardUnit& unit) {
-        const bool isNewHardware = parameter == UnitParameter::internalMACAddress &&
-                                   unit.hardwareAddress() == newHardware;
+        const bool isNewHardware =
+            parameter == UnitParameter::internalMACAddress && unit.hardwareAddress() == newHardware;
         return std::ranges::find(serials, unit.serialNumber()) != serials.end() &&
                (isNewHardware || agree(unit.hardwareAddress(), hardware));
     };
@@ -159,8 +159,8 @@ void UnitEdits::noteShown(UnitChange& change, const HeardUnit& shown) {
 }
 
 void UnitEdits::didCommand(UnitChange& change, const VerifiedCommand& command) {
-    if (command.shown().has_value()) {
-        noteShown(change, *command.shown());
+    if (const auto& shown = command.shown()) {
+        noteShown(change, *shown);
     }
     switch (command.outcome()) {
     case CommandOutcome::shown:

@@ -48,8 +48,8 @@ std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<E
 class UnitEdits final : public Operation, private UnitExchange::Listener {
 public:
     // `everybody` is the place where all units of the unit's link are asked.
-    UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices, HeardUnit unit,
-              std::vector<UnitChange> changes, UnitTarget everybody);
+    UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
+              const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody);
     ~UnitEdits() override;
 
     const std::vector<UnitChange>& changes() const { return _changes; }

@@ -73,8 +73,7 @@ std::uint32_t UnitExchange::dropped() {
     if (_services.session.receiveBuffers == nullptr || !_session.isListening()) {
         return 0;
     }
-    return _services.session.receiveBuffers
-        ->droppedDatagrams(_session.listener()->nativeSocket())
+    return _services.session.receiveBuffers->droppedDatagrams(_session.listener()->nativeSocket())
         .value_or(0);
 }
 

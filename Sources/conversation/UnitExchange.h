@@ -103,7 +103,7 @@ private:
     void tellListeners(const Action& action);
 
     Services _services;
-    UnitRegistry _registry;
+    UnitRegistry _registry{2}; // nobody looks into it
     UnitSession _session;
     std::vector<Listener*> _listeners;
     std::vector<std::uint32_t> _ownAddresses;

@@ -23,8 +23,8 @@ bool isSameUnit(const HeardUnit& left, const HeardUnit& right) {
 } // namespace
 
 bool RestoredUnit::hasChanged() const {
-    return after.has_value() && (!(after->record == before.record) ||
-                                 after->unitIDBytes != before.unitIDBytes);
+    return after.has_value() &&
+           (!(after->record == before.record) || after->unitIDBytes != before.unitIDBytes);
 }
 
 UnitRestore::UnitRestore(UnitExchange& exchange, const std::vector<HeardUnit>& units,

@@ -72,6 +72,9 @@ void UnitWatch::unitDidTell(const HeardUnit& unit) {
         return;
     }
     const std::pair key(std::string(unit.serialNumber()), std::string(unit.hardwareAddress()));
+    if (_units.size() == HeardUnits::defaultLimit && !_units.contains(key)) {
+        return; // any host can invent units
+    }
     const auto [found, isNew] = _units.try_emplace(key, Watched{.unit = unit});
     Watched& watched = found->second;
     watched.unanswered = 0;

@@ -1,8 +1,8 @@
 // A watch over the units of a network: it asks everybody again and again, and tells who appears,
 // changes, falls silent and comes back.
 //
-// A unit is silent after three requests without an answer. From the second one on it is also asked at
-// the address that it told last, because a request to everybody gets lost more easily.
+// A unit is silent after three requests without an answer. From the second one on it is also asked
+// at the address that it told last, because a request to everybody gets lost more easily.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the watch.
 
@@ -26,13 +26,13 @@ namespace kx {
 enum class UnitEvent { appeared, changed, silent, back };
 
 struct WatchPlan {
-    std::vector<UnitTarget> everybody;
+    std::vector<UnitTarget> everybody = {};
     std::chrono::milliseconds every{2000};
     std::optional<std::chrono::milliseconds> duration = {}; // without one it goes on
     std::optional<std::size_t> until = {};                  // ends when so many units are there
 
     // Called for each event. It may interrupt the watch.
-    std::function<void(UnitEvent, const HeardUnit&)> tell;
+    std::function<void(UnitEvent, const HeardUnit&)> tell = {};
 };
 
 class UnitWatch final : public Operation, private UnitExchange::Listener {

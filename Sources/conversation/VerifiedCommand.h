@@ -3,8 +3,8 @@
 //
 // What was wanted is final as soon as it is shown. Anything else counts only at the end, because an
 // old answer may be under way. The unit is asked when it acknowledges the command, and at the times
-// of readBackTries() whatever it says. While it has not acknowledged the command, the first of these
-// tries also send the command again.
+// of readBackTries() whatever it says. While it has not acknowledged the command, the first of
+// these tries also send the command again.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the command.
 
@@ -23,8 +23,8 @@
 
 namespace kx {
 
-// The times of the tries, counted from the command. Each is a fifth of a second further from the one
-// before it than that was from its own. The last one is the deadline.
+// The times of the tries, counted from the command. Each is a fifth of a second further from the
+// one before it than that was from its own. The last one is the deadline.
 constexpr std::array<std::chrono::milliseconds, 5> readBackTries() {
     using std::chrono::milliseconds;
     return {milliseconds(200), milliseconds(600), milliseconds(1200), milliseconds(2000),
@@ -36,8 +36,8 @@ inline constexpr std::chrono::milliseconds timeOfOldAnswers{200};
 
 struct CommandPlan {
     std::string command;
-    UnitTarget target;             // the command goes there
-    std::vector<UnitTarget> asked; // the parameters are asked for there
+    UnitTarget target;                       // the command goes there
+    std::vector<UnitTarget> asked;           // the parameters are asked for there
     std::vector<UnitTarget> askedLater = {}; // and there too, from the second try on
     int sends = 3;                           // times that the command may be sent in all
 

@@ -24,8 +24,7 @@ std::string separatedAsConverted(ValueForm form, std::string_view typed) {
 }
 
 std::optional<UnitIDBytes> bytesOfArgument(const ParameterEdit& edit) {
-    const std::string_view digits =
-        std::string_view(edit.command).substr(commandPrefix.size() + 1);
+    const std::string_view digits = std::string_view(edit.command).substr(commandPrefix.size() + 1);
     UnitIDBytes bytes{};
     if (digits.size() > 2 * bytes.size() || !std::ranges::all_of(digits, isHexDigit)) {
         return std::nullopt;

@@ -43,7 +43,7 @@ struct Reply {
     std::optional<std::string> serialNumber;
 
     PayloadKind payloadKind = PayloadKind::none;
-    
+
     // parameterList: from "<M>" to the end; acknowledgement and other: from "$" to the end.
     ByteView payload;
 };
