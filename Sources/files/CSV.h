@@ -11,8 +11,8 @@
 
 namespace kx {
 
-// One record with its line break. A field with a comma, a quotation mark, a line break or a blank at
-// an end is quoted.
+// One record with its line break. A field with a comma, a quotation mark, a line break or a blank
+// at an end is quoted.
 std::string csvRecord(std::span<const std::string> fields);
 
 // The records of a text, without its line breaks; the way back of csvRecord(). Records may also end

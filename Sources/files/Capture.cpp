@@ -132,7 +132,8 @@ Bytes capturedDatagram(const CapturedDatagram& datagram, ByteView data) {
     append(body, static_cast<std::uint32_t>(packet.size()));
     append(body, static_cast<std::uint32_t>(packet.size()));
     append(body, ByteView(packet));
-    const auto flags = std::bit_cast<std::array<std::uint8_t, 4>>(datagram.isOwn ? outbound : inbound);
+    const auto flags =
+        std::bit_cast<std::array<std::uint8_t, 4>>(datagram.isOwn ? outbound : inbound);
     appendOption(body, packetFlagsOption, ByteView(flags));
     if (!datagram.remark.empty()) {
         appendOption(body, commentOption, datagram.remark);

@@ -1,9 +1,9 @@
-// Captures of datagrams in the format pcapng (draft-ietf-opsawg-pcapng), for tools that show network
-// traffic.
+// Captures of datagrams in the format pcapng (draft-ietf-opsawg-pcapng), for tools that show
+// network traffic.
 //
-// A capture holds IPv4 packets (link type 228) with the time, the direction and, for a packet of our
-// own, a remark. The headers of IPv4 and UDP are made up here, because the program only sees what is
-// in the datagrams.
+// A capture holds IPv4 packets (link type 228) with the time, the direction and, for a packet of
+// our own, a remark. The headers of IPv4 and UDP are made up here, because the program only sees
+// what is in the datagrams.
 //
 // Pure; any thread. Numbers of packets are in network byte order, those of blocks in that of this
 // host, as the format allows.
