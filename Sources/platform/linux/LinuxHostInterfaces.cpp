@@ -40,9 +40,10 @@ void takeLink(const NetworkLink& link, HostInterface& interface) {
     interface.kind = nameOfKind(link);
     interface.link = static_cast<std::uint32_t>(link.index);
     interface.hardwareAddress = link.hardwareAddress;
-    for (const auto& [address, prefixLength] : link.ipv4Addresses) {
-        interface.networks.push_back({address, maskOfPrefixLength(prefixLength)});
+    for (const IPv4InterfaceAddress& each : link.ipv4Addresses) {
+        interface.networks.push_back({each.address, maskOfPrefixLength(each.prefixLength)});
     }
+    interface.canBroadcast = link.canBroadcast;
     interface.canAsk =
         link.isRunning && link.canBroadcast && !link.isLoopback && !interface.networks.empty();
 }
