@@ -17,6 +17,7 @@
 #include "platform/posix/TerminalConsole.h"
 #include "platform/posix/TerminationSignals.h"
 #include "platform/posix/ThreadHostResolver.h"
+#include "platform/qtcore/EventLoopWaiting.h"
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
@@ -50,24 +51,43 @@ int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
 
     kx::LinuxNeighbourTable neighbours;
     kx::LinuxAddressProbes probes(runLoop);
-    const auto authorizationService = kx::makeAuthorizationService(runLoop);
+    kx::EventLoopWaiting waiting;
+    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
     kx::AuthorizedAddressBindings bindings(*authorizationService);
 
-    kx::CommandRun run(
-        line, {.session = {.runLoop = runLoop,
-                           .hostResolver = hostResolver,
-                           .systemCalls = systemCalls,
-                           .receiveBuffers = &receiveBuffers},
-               .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
-               .utc = timeOf<std::chrono::microseconds, std::chrono::system_clock>,
-               .wallClock = wallClock,
-               .console = console,
-               .interfaces = interfaces,
-               .neighbours = neighbours,
-               .probes = &probes,
-               .bindings = bindings});
-    const kx::TerminationSignals signals(runLoop, [&run](int signal) { run.interrupt(signal); });
+    kx::CommandRun run(line, {.session = {.runLoop = runLoop,
+                                          .hostResolver = hostResolver,
+                                          .systemCalls = systemCalls,
+                                          .receiveBuffers = &receiveBuffers},
+                              .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
+                              .utc = timeOf<std::chrono::microseconds, std::chrono::system_clock>,
+                              .wallClock = wallClock,
+                              .console = console,
+                              .interfaces = interfaces,
+                              .neighbours = neighbours,
+                              .probes = &probes,
+                              .bindings = bindings});
+    const kx::TerminationSignals termination(runLoop,
+                                             [&run](int signal) { run.interrupt(signal); });
     return run.run();
+}
+
+int runInLanguageOfUser(int argc, char* argv[], const std::vector<std::string>& arguments,
+                        kx::Console& console) {
+    QCoreApplication qtApplication(argc, argv);
+    const kx::QtTranslations translations;
+    const kx::QtLocalizedText localizedText;
+    kx::installLocalizedText(&localizedText);
+    kx::SyslogSystemLog systemLog("kxctl", "/dev/log", kx::SyslogSystemLog::Copies::last);
+    kx::installSystemLog(&systemLog);
+
+    const auto line = kx::readCommandLine(arguments, console);
+    const auto* const status = std::get_if<int>(&line);
+    const int result =
+        status != nullptr ? *status : runOnThisHost(std::get<kx::CommandLine>(line), console);
+    kx::installSystemLog(nullptr);
+    kx::installLocalizedText(nullptr);
+    return result;
 }
 
 } // namespace
@@ -75,21 +95,16 @@ int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
 int main(int argc, char* argv[]) {
     // A reader that has seen enough closes its pipe.
     std::signal(SIGPIPE, SIG_IGN);
-    kx::TerminalConsole console;
-    QCoreApplication qtApplication(argc, argv);
-    const kx::QtTranslations translations;
-    const kx::QtLocalizedText localizedText;
-    kx::installLocalizedText(&localizedText);
-    kx::SyslogSystemLog systemLog("kxctl", "/dev/log", kx::SyslogSystemLog::Copies::none);
-    kx::installSystemLog(&systemLog);
-
     const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
-    const auto line = kx::readCommandLine(arguments, console);
-    const auto* const status = std::get_if<int>(&line);
-    const int result = status != nullptr
-                           ? *status
-                           : runOnThisHost(std::get<kx::CommandLine>(line), console);
-    kx::installSystemLog(nullptr);
-    kx::installLocalizedText(nullptr);
-    return result;
+    kx::TerminalConsole console;
+    if (kx::asksForHelp(arguments)) {
+        // The help is English and needs nothing of the host. The word may also be an option's
+        // value.
+        const auto line = kx::commandLineOf(arguments);
+        const auto* const parsed = std::get_if<kx::CommandLine>(&line);
+        if (parsed != nullptr && (parsed->has("--help") || parsed->has("--version"))) {
+            return std::get<int>(kx::readCommandLine(arguments, console));
+        }
+    }
+    return runInLanguageOfUser(argc, argv, arguments, console);
 }

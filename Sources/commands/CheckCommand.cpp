@@ -116,8 +116,8 @@ void report(CommandRun& run, const std::vector<AddressHolders>& results) {
             table.addRow({address, state, "", ""});
         }
         for (const auto& holder : found.holders) {
-            table.addRow({address, state, holder.hardwareAddress,
-                          holder.serialNumber.value_or("")});
+            table.addRow(
+                {address, state, holder.hardwareAddress, holder.serialNumber.value_or("")});
         }
     }
     run.print(table.text(run.isBold()));
@@ -128,8 +128,8 @@ Refusal failureOfResults(const std::vector<AddressHolders>& results) {
         return std::ranges::find(results, state, &AddressHolders::state);
     };
     if (const auto held = first(HolderState::held); held != results.end()) {
-        return failureOf(ErrorCode::held, localizedText("Somebody holds %@.",
-                                                        {stringForIP(held->address)}));
+        return failureOf(ErrorCode::held,
+                         localizedText("Somebody holds %@.", {stringForIP(held->address)}));
     }
     if (const auto unknown = first(HolderState::unknown); unknown != results.end()) {
         return failureOf(ErrorCode::interface,
@@ -155,9 +155,9 @@ int runCheck(CommandRun& run) {
     const auto wanted = addresses;
     auto results = ownHolders(run, addresses);
     std::vector<AddressQuestion> questions;
+    questions.reserve(addresses.size());
     for (const std::uint32_t address : addresses) {
-        questions.push_back({.address = address,
-                             .link = interfaceOf(run.chosen(), address)->link});
+        questions.push_back({.address = address, .link = interfaceOf(run.chosen(), address)->link});
     }
     HolderSearch search(run.exchange(),
                         {.neighbours = run.services().neighbours, .probes = run.services().probes},

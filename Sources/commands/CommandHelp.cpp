@@ -10,8 +10,8 @@ namespace {
 constexpr std::size_t lineWidth = 79;
 constexpr std::size_t nameWidth = 18; // of the column with commands and options
 
-// The words of a text on lines of at most `lineWidth`, behind `indent` blanks. The first line begins
-// with `head`, which may be longer than the indent.
+// The words of a text on lines of at most `lineWidth`, behind `indent` blanks. The first line
+// begins with `head`, which may be longer than the indent.
 std::string wrapped(std::string_view head, std::size_t indent, std::string_view text) {
     std::string result(head);
     std::size_t column = head.size();

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <charconv>
 #include <memory>
+#include <numeric>
 #include <span>
 
 namespace kx {
@@ -37,6 +38,11 @@ public:
     }
 
     std::variant<CommandLine, Failure> parse(std::vector<std::string> arguments) {
+        // The library forgets behind a command that "--" makes everything a word.
+        const auto mark = std::ranges::find(arguments, "--");
+        const auto afterMark = mark != arguments.end() ? std::next(mark) : mark;
+        const std::vector<std::string> plainWords(afterMark, arguments.end());
+        arguments.erase(mark, arguments.end());
         std::ranges::reverse(arguments); // the library takes them from the end
         try {
             _app.parse(arguments);
@@ -51,7 +57,7 @@ public:
                 _line.options.emplace(name, value->text);
             }
         }
-        return takeExtras();
+        return takeRest(plainWords);
     }
 
 private:
@@ -67,9 +73,11 @@ private:
             if (row.kind == ValueKind::none) {
                 app.add_flag_callback(name, [&value] { value.isThere = true; });
             } else {
-                app.add_option_function<std::string>(name, [&value](const std::string& text) {
-                       value = {.isThere = true, .text = text};
-                   })->take_last();
+                app.add_option_function<std::string>(name,
+                                                     [&value](const std::string& text) {
+                                                         value = {.isThere = true, .text = text};
+                                                     })
+                    ->take_last();
             }
         }
     }
@@ -79,7 +87,8 @@ private:
                                                          "one. See kxctl --help."));
     }
 
-    std::variant<CommandLine, Failure> takeExtras();
+    std::optional<Failure> takeExtras();
+    std::variant<CommandLine, Failure> takeRest(const std::vector<std::string>& plainWords);
 
     CLI::App _app;
     CommandLine _line;
@@ -120,9 +129,8 @@ std::optional<Failure> objectionToNumberOfWords(const CommandLine& line) {
 
 std::optional<Failure> objectionToForms(const CommandLine& line) {
     return line.has("--json") && line.has("--csv")
-               ? std::optional(
-                     failureOf(ErrorCode::usage,
-                               localizedText("--json and --csv cannot stand together.")))
+               ? std::optional(failureOf(ErrorCode::usage,
+                                         localizedText("--json and --csv cannot stand together.")))
                : std::nullopt;
 }
 
@@ -144,13 +152,11 @@ std::optional<Failure> takePorts(CommandLine& line) {
 // How many letters two words differ by: put in, left out or exchanged.
 std::size_t distance(std::string_view left, std::string_view right) {
     std::vector<std::size_t> row(right.size() + 1);
-    for (std::size_t j = 0; j < row.size(); ++j) {
-        row[j] = j;
-    }
-    for (std::size_t i = 0; i < left.size(); ++i) {
+    std::iota(row.begin(), row.end(), std::size_t{0});
+    for (const char letter : left) {
         std::size_t diagonal = row[0]++;
         for (std::size_t j = 0; j < right.size(); ++j) {
-            const std::size_t exchanged = diagonal + (left[i] == right[j] ? 0 : 1);
+            const std::size_t exchanged = diagonal + (letter == right[j] ? 0 : 1);
             diagonal = row[j + 1];
             row[j + 1] = std::min({row[j] + 1, row[j + 1] + 1, exchanged});
         }
@@ -164,9 +170,9 @@ Failure unknownCommand(const std::string& word) {
         commands, {}, [&word](const CommandRow& row) { return distance(word, row.name); });
     const std::string shown = safeForSentence(word);
     if (distance(word, nearest->name) <= 2) {
-        return failureOf(ErrorCode::usage,
-                         localizedText("There is no command “%@”. Did you mean “%@”?",
-                                       {shown, nearest->name}));
+        return failureOf(
+            ErrorCode::usage,
+            localizedText("There is no command “%@”. Did you mean “%@”?", {shown, nearest->name}));
     }
     return failureOf(ErrorCode::usage,
                      localizedText("There is no command “%@”. See kxctl --help.", {shown}));
@@ -178,22 +184,34 @@ bool isOptionText(const CommandLine& line, const std::vector<std::string>& extra
            extras.size() == 1 && !extras.front().starts_with("--");
 }
 
-std::variant<CommandLine, Failure> Parser::takeExtras() {
+std::optional<Failure> Parser::takeExtras() {
     const std::vector<std::string> extras = _app.remaining(true);
+    if (extras.empty()) {
+        return std::nullopt;
+    }
     if (isOptionText(_line, extras)) {
         _line.words.push_back(extras.front());
-    } else if (!extras.empty()) {
-        return extras.front().starts_with('-') || _line.command != nullptr
-                   ? failureOf(ErrorCode::usage, localizedText("There is no option “%@” here. See "
-                                                               "kxctl --help.",
-                                                               {safeForSentence(extras.front())}))
-                   : unknownCommand(extras.front());
+        return std::nullopt;
     }
+    if (_line.command == nullptr && !extras.front().starts_with('-')) {
+        return unknownCommand(extras.front());
+    }
+    return failureOf(ErrorCode::usage,
+                     localizedText("There is no option “%@” here. See kxctl --help.",
+                                   {safeForSentence(extras.front())}));
+}
+
+std::variant<CommandLine, Failure> Parser::takeRest(const std::vector<std::string>& plainWords) {
+    if (auto failure = takeExtras()) {
+        return *failure;
+    }
+    _line.words.insert(_line.words.end(), plainWords.begin(), plainWords.end());
     if (_line.has("--help") || _line.has("--version")) {
         return _line;
     }
     if (_line.command == nullptr) {
-        return failureOf(ErrorCode::usage, localizedText("A command is missing. See kxctl --help."));
+        return failureOf(ErrorCode::usage,
+                         localizedText("A command is missing. See kxctl --help."));
     }
     for (const auto& objection : {objectionToSixWords(_line), objectionToNumberOfWords(_line),
                                   objectionToForms(_line), takePorts(_line)}) {
@@ -215,9 +233,21 @@ std::variant<CommandLine, Failure> commandLineOf(const std::vector<std::string>&
     return Parser().parse(arguments);
 }
 
-bool asksForDocument(const std::vector<std::string>& arguments) {
+namespace {
+
+bool hasBeforeMark(const std::vector<std::string>& arguments, std::string_view option) {
     const auto end = std::ranges::find(arguments, "--");
-    return std::find(arguments.begin(), end, "--json") != end;
+    return std::find(arguments.begin(), end, option) != end;
+}
+
+} // namespace
+
+bool asksForDocument(const std::vector<std::string>& arguments) {
+    return hasBeforeMark(arguments, "--json");
+}
+
+bool asksForHelp(const std::vector<std::string>& arguments) {
+    return hasBeforeMark(arguments, "--help") || hasBeforeMark(arguments, "--version");
 }
 
 std::optional<std::string> commandNameIn(const std::vector<std::string>& arguments) {
@@ -252,8 +282,9 @@ TimeOption secondsOf(const CommandLine& line, std::string_view option) {
     double seconds = 0;
     const char* const end = text->data() + text->size();
     const auto result = std::from_chars(text->data(), end, seconds, std::chars_format::fixed);
-    const auto time = std::chrono::milliseconds(
-        result.ec == std::errc() && seconds <= longest ? static_cast<long long>(seconds * 1000) : 0);
+    const auto time = std::chrono::milliseconds(result.ec == std::errc() && seconds <= longest
+                                                    ? static_cast<long long>(seconds * 1000)
+                                                    : 0);
     if (result.ec == std::errc() && result.ptr == end && time.count() > 0) {
         return {.time = time, .failure = {}};
     }

@@ -34,9 +34,10 @@ struct CommandLine {
 // The command line, without the program's name, or why it is wrong.
 std::variant<CommandLine, Failure> commandLineOf(const std::vector<std::string>& arguments);
 
-// Whether the document was asked for, and the name of the command, as far as they can be told from a
-// wrong command line.
+// Whether the document was asked for, and the name of the command, as far as they can be told from
+// a wrong command line.
 bool asksForDocument(const std::vector<std::string>& arguments);
+bool asksForHelp(const std::vector<std::string>& arguments); // or for the version
 std::optional<std::string> commandNameIn(const std::vector<std::string>& arguments);
 
 // The number that an option has, or why it has none. Absent when the option is not there.

@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <fstream>
 #include <utility>
 
 namespace kx {
@@ -14,6 +15,7 @@ namespace kx {
 namespace {
 
 constexpr std::chrono::milliseconds timeBetweenProgress{100};
+constexpr std::chrono::milliseconds timeForSignal{50};
 
 constexpr std::string_view beginningOfLine = "\r\x1b[K"; // and nothing on it
 
@@ -22,10 +24,10 @@ std::optional<Failure> outputFailure(const Console& console) {
     if (!error.has_value() || error->code == EPIPE) {
         return std::nullopt; // a reader that has seen enough is no failure
     }
-    return Failure{ErrorCode::file,
-                   localizedText("Standard output cannot be written: %@.",
-                                 {error->localizedDescription()}),
-                   exitCannotAsk};
+    return Failure{
+        ErrorCode::file,
+        localizedText("Standard output cannot be written: %@.", {error->localizedDescription()}),
+        exitCannotAsk};
 }
 
 } // namespace
@@ -81,7 +83,20 @@ std::optional<std::string> CommandRun::ask(const std::string& question) {
     }
     endProgress();
     _services.console.writeNote(question + " ");
-    return _services.console.readLine();
+    auto answer = _services.console.readLine();
+    if (!answer.has_value()) {
+        _services.console.writeNote("\n");
+        takeSignal();
+    }
+    return answer;
+}
+
+// A signal that ended the question waits for a turn of the loop.
+void CommandRun::takeSignal() {
+    bool isOver = false;
+    const auto moment =
+        _services.session.runLoop.callOnceAfter(timeForSignal, [&isOver] { isOver = true; });
+    _services.session.runLoop.runUntil([&] { return isOver || isInterrupted(); });
 }
 
 void CommandRun::tellFailure(const Failure& failure) {
@@ -93,6 +108,10 @@ int CommandRun::finish(std::optional<Failure> failure) {
     if (isInterrupted()) {
         failure = Failure{ErrorCode::interrupted, localizedText("Interrupted."),
                           exitInterrupted + _signal};
+    }
+    if (_captureFile != nullptr && !*_captureFile) {
+        warn("capture",
+             localizedText("The capture is not whole, because it could not be written."));
     }
     const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
     if (wantsDocument()) {

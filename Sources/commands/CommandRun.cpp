@@ -42,6 +42,15 @@ std::string textOf(const UnitName& name) {
     return serial != nullptr ? serial->text : "id:" + std::get<UnitIDOfUnit>(name).text;
 }
 
+std::string hardwareAddressesOf(const std::vector<const HeardUnit*>& units) {
+    std::string text;
+    for (const HeardUnit* const unit : units) {
+        text += text.empty() ? "" : ", ";
+        text += unit->hardwareAddress();
+    }
+    return text;
+}
+
 // Absent when exactly one unit has the name, and no other unit has its address.
 std::optional<Failure> objectionToUnits(const UnitName& name, const HeardUnits& heard) {
     const auto units = heard.named(name);
@@ -51,8 +60,8 @@ std::optional<Failure> objectionToUnits(const UnitName& name, const HeardUnits& 
                          localizedText("The unit %@ does not answer.", {shown}));
     }
     if (units.size() > 1) {
-        return failureOf(ErrorCode::ambiguous,
-                         localizedText("Several units answer as %@.", {shown}));
+        return failureOf(ErrorCode::ambiguous, localizedText("Several units answer as %@: %@.",
+                                                             {shown, hardwareAddressesOf(units)}));
     }
     if (heard.isDuplicated(*units.front())) {
         return failureOf(ErrorCode::ambiguous,
@@ -95,9 +104,10 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
     if (!name.has_value() || *name == "all") {
         _chosen = askable;
         if (_chosen.empty()) {
-            return failureOf(ErrorCode::interface,
-                             localizedText("No network interface can broadcast. It needs a link and "
-                                           "an IPv4 address."));
+            return failureOf(
+                ErrorCode::interface,
+                localizedText("No network interface can broadcast. It needs a link and "
+                              "an IPv4 address."));
         }
         if (!name.has_value() && _chosen.size() > 1) {
             return failureOf(ErrorCode::interface,
@@ -115,10 +125,10 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
                        exitWrong};
     }
     if (_chosen.size() > 1) {
-        return Failure{ErrorCode::ambiguous,
-                       localizedText("“%@” may mean: %@.",
-                                     {safeForSentence(*name), titlesOf(_chosen)}),
-                       exitWrong};
+        return Failure{
+            ErrorCode::ambiguous,
+            localizedText("“%@” may mean: %@.", {safeForSentence(*name), titlesOf(_chosen)}),
+            exitWrong};
     }
     if (!_chosen.front().canAsk) {
         return failureOf(ErrorCode::interface,
@@ -132,12 +142,11 @@ CommandRun::Refusal CommandRun::openExchange() {
     if (auto refusal = openCapture()) {
         return refusal;
     }
-    UnitSession::Services session{.runLoop = _services.session.runLoop,
-                                  .hostResolver = _services.session.hostResolver,
-                                  .systemCalls = _capture != nullptr
-                                                     ? *_capture
-                                                     : _services.session.systemCalls,
-                                  .receiveBuffers = _services.session.receiveBuffers};
+    UnitSession::Services session{
+        .runLoop = _services.session.runLoop,
+        .hostResolver = _services.session.hostResolver,
+        .systemCalls = _capture != nullptr ? *_capture : _services.session.systemCalls,
+        .receiveBuffers = _services.session.receiveBuffers};
     _exchange = std::make_unique<UnitExchange>(
         UnitExchange::Services{.session = session, .now = _services.now});
     std::vector<std::uint32_t> own;
@@ -171,8 +180,8 @@ CommandRun::Refusal CommandRun::openCapture() {
     if (auto refusal = objectionToFile(*path)) {
         return refusal;
     }
-    auto file = std::make_shared<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
-    const auto write = [file](ByteView bytes) {
+    _captureFile = std::make_shared<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
+    const auto write = [file = _captureFile](ByteView bytes) {
         file->write(reinterpret_cast<const char*>(bytes.data()),
                     static_cast<std::streamsize>(bytes.size()));
         file->flush();
@@ -186,18 +195,18 @@ CommandRun::Refusal CommandRun::openCapture() {
         return std::uint32_t{0};
     };
     _capture = std::make_unique<CapturingSystemCalls>(
-        _services.session.systemCalls,
-        CapturingSystemCalls::Services{
-            .write = write, .now = _services.utc, .ownAddress = ownAddress});
+        _services.session.systemCalls, CapturingSystemCalls::Services{.write = write,
+                                                                      .now = _services.utc,
+                                                                      .ownAddress = ownAddress});
     return std::nullopt;
 }
 
 CommandRun::Refusal CommandRun::objectionToFile(const std::string& path) {
     const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
     if (descriptor < 0) {
-        return failureOf(ErrorCode::file, localizedText("“%@” cannot be written: %@.",
-                                                        {safeForSentence(path),
-                                                         posixErrorText(errno)}));
+        return failureOf(ErrorCode::file,
+                         localizedText("“%@” cannot be written: %@.",
+                                       {safeForSentence(path), posixErrorText(errno)}));
     }
     ::close(descriptor);
     return std::nullopt;
@@ -205,10 +214,10 @@ CommandRun::Refusal CommandRun::objectionToFile(const std::string& path) {
 
 std::vector<UnitTarget> CommandRun::everybody() const {
     std::vector<UnitTarget> targets;
+    targets.reserve(_chosen.size());
     for (const HostInterface& interface : _chosen) {
-        targets.push_back({.address = interface.broadcast(),
-                           .port = defaultUnitPort,
-                           .link = interface.link});
+        targets.push_back(
+            {.address = interface.broadcast(), .port = defaultUnitPort, .link = interface.link});
     }
     return targets;
 }
@@ -253,12 +262,11 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     const bool areSerialNumbers = std::ranges::all_of(names, [](const UnitName& name) {
         return std::holds_alternative<SerialNumberOfUnit>(name);
     });
-    DiscoveryPlan plan{.everybody = everybody(),
-                       .tries = triesForUnits,
-                       .settling = timeForOthers,
-                       .heard = [this](const HeardUnits& units) {
-                           showProgress(std::to_string(units.count()));
-                       }};
+    DiscoveryPlan plan{
+        .everybody = everybody(),
+        .tries = triesForUnits,
+        .settling = timeForOthers,
+        .heard = [this](const HeardUnits& units) { showProgress(std::to_string(units.count())); }};
     if (areSerialNumbers) {
         plan.isEnough = [&names](const HeardUnits& units) {
             return std::ranges::none_of(
@@ -267,8 +275,8 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     }
     Discovery discovery(exchange(), std::move(plan));
     wait(discovery);
-    if (!discovery.hasAsked() && discovery.failure().has_value()) {
-        return failureOfSend(*discovery.failure());
+    if (!discovery.hasAsked()) {
+        return refusalOfSend(discovery.failure());
     }
     Refusal first;
     for (const UnitName& name : names) {
@@ -287,7 +295,7 @@ CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) 
     if (auto refusal = findUnits({name}, found)) {
         return refusal;
     }
-    unit = std::move(found.front());
+    unit = found.front();
     return std::nullopt;
 }
 
@@ -305,8 +313,9 @@ CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUni
     return findUnit(names.front(), unit);
 }
 
-Failure CommandRun::failureOfSend(const SendFailure& failure) {
-    return failureOf(ErrorCode::socket, noteOfSendFailure(failure));
+CommandRun::Refusal CommandRun::refusalOfSend(const std::optional<SendFailure>& failure) {
+    return failure.has_value() ? Refusal(failureOf(ErrorCode::socket, noteOfSendFailure(*failure)))
+                               : std::nullopt;
 }
 
 } // namespace kx

@@ -21,6 +21,7 @@
 #include "support/WallClock.h"
 
 #include <chrono>
+#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -117,8 +118,8 @@ public:
     // Asks a person. Absent when nobody can be asked or nobody answered.
     std::optional<std::string> ask(const std::string& question);
 
-    // Why a datagram was not sent, as the reason why a command cannot go on.
-    static Failure failureOfSend(const SendFailure& failure);
+    // Why a datagram was not sent, as the reason why a command cannot go on; absent without one.
+    static Refusal refusalOfSend(const std::optional<SendFailure>& failure);
 
     // Ends the command: tells the failure, prints the document, and returns the exit status.
     int finish(std::optional<Failure> failure = {});
@@ -126,12 +127,14 @@ public:
 private:
     Refusal openCapture();
     void tellFailure(const Failure& failure);
+    void takeSignal();
 
     const CommandLine& _line;
     CommandServices _services;
     Document _document;
     std::vector<HostInterface> _interfaces;
     std::vector<HostInterface> _chosen;
+    std::shared_ptr<std::ofstream> _captureFile; // null without a capture
     std::unique_ptr<CapturingSystemCalls> _capture;
     std::unique_ptr<UnitExchange> _exchange;
     Operation* _operation = nullptr; // under way

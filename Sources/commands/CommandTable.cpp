@@ -28,8 +28,7 @@ constexpr std::array general{
 
 constexpr std::array discoverOptions{
     OptionRow{"--wait", "S", ValueKind::text, "collect answers for S seconds (2.0)"},
-    OptionRow{"--tries", "N", ValueKind::text,
-              "send N requests in all, spread over that time (2)"},
+    OptionRow{"--tries", "N", ValueKind::text, "send N requests in all, spread over that time (2)"},
     OptionRow{"--expect", "N", ValueKind::text,
               "end as soon as N units have answered; with fewer the exit status is 1"},
     OptionRow{"--limited", "", ValueKind::none,
@@ -90,7 +89,8 @@ constexpr Text unitText =
     "dashes or nothing between them, or by id:TEXT, a unit ID that exactly one unit has.";
 
 constexpr Text setText =
-    "Changes parameters of one unit, and reads them back until the unit shows them. A unit is named "
+    "Changes parameters of one unit, and reads them back until the unit shows them. A unit is "
+    "named "
     "by its serial number or by id:TEXT. The parameters are unit-id, internal-ip, internal-mac, "
     "destination-ip, destination-mac, destination-port, device-port and serial; the names in the "
     "window are understood as well.\n\n"
@@ -100,11 +100,19 @@ constexpr Text setText =
     "administrator rights for a moment, to enter the unit's hardware address into the ARP cache.";
 
 constexpr std::array commands{
-    CommandRow{"interfaces", "", "list the network interfaces",
+    CommandRow{"interfaces",
+               "",
+               "list the network interfaces",
                "Lists the network interfaces of this host. Units can be asked where the column "
                "can-ask says yes: there the interface carries datagrams, can broadcast, and has an "
                "IPv4 address.",
-               {}, interfacesExamples, interfacesKeys, 0, 0, ValueKind::none, runInterfaces},
+               {},
+               interfacesExamples,
+               interfacesKeys,
+               0,
+               0,
+               ValueKind::none,
+               runInterfaces},
     CommandRow{"discover", "", "list the units that answer a broadcast",
                "Broadcasts a parameter request, collects the answers, and lists the units in the "
                "order of their serial numbers. A serial number under two hardware addresses and an "
@@ -114,27 +122,44 @@ constexpr std::array commands{
                showExamples, unitsKeys, 0, anyNumberOfWords, ValueKind::text, runShow},
     CommandRow{"set", "UNIT NAME=VALUE...", "change parameters of a unit", setText, setOptions,
                setExamples, changesKeys, 2, anyNumberOfWords, ValueKind::parameter, runSet},
-    CommandRow{"option", "UNIT TEXT", "send an option command to a unit",
-               "Sends a text as an option command and prints what the unit answers within a second. "
-               "The text is sent once, whether an answer comes or not. A text that looks like an "
-               "option of kxctl stands behind --.",
-               optionOptions, optionExamples, repliesKeys, 1, 2, ValueKind::text, runOption},
+    CommandRow{
+        "option", "UNIT TEXT", "send an option command to a unit",
+        "Sends a text as an option command and prints what the unit answers within a second. "
+        "The text is sent once, whether an answer comes or not. A text that looks like an "
+        "option of kxctl stands behind --.",
+        optionOptions, optionExamples, repliesKeys, 1, 2, ValueKind::text, runOption},
     CommandRow{"restore", "UNIT", "restore a unit's factory settings",
                "Restores the factory settings of a unit, and shows its parameters afterwards. It "
                "asks first. --everyone broadcasts the command; it first tells how many units "
                "answer.",
                restoreOptions, restoreExamples, unitsKeys, 0, 1, ValueKind::text, runRestore},
-    CommandRow{"watch", "", "tell which units come, change and go",
+    CommandRow{"watch",
+               "",
+               "tell which units come, change and go",
                "Asks everybody again and again, and prints a line for each unit that appears, "
                "changes, falls silent or comes back. A unit is silent after three requests without "
                "an answer. With --json each line is a document, and the last one tells the exit "
                "status.",
-               watchOptions, watchExamples, {}, 0, 0, ValueKind::none, runWatch},
-    CommandRow{"check", "ADDRESS...", "tell who holds IPv4 addresses",
+               watchOptions,
+               watchExamples,
+               {},
+               0,
+               0,
+               ValueKind::none,
+               runWatch},
+    CommandRow{"check",
+               "ADDRESS...",
+               "tell who holds IPv4 addresses",
                "Tells for each address whether somebody holds it, and who: a hardware address, and "
                "a serial number when it is a unit. For root it sends ARP probes, which find every "
                "holder; otherwise it watches the system's neighbour table, which finds one.",
-               {}, checkExamples, addressesKeys, 1, anyNumberOfWords, ValueKind::text, runCheck},
+               {},
+               checkExamples,
+               addressesKeys,
+               1,
+               anyNumberOfWords,
+               ValueKind::text,
+               runCheck},
 };
 
 } // namespace

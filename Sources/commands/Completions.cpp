@@ -46,8 +46,8 @@ std::string patternOf(ValueKind kind) {
     const auto add = [&](std::span<const OptionRow> options) {
         for (const OptionRow& row : options) {
             const std::string name(row.name);
-            if (row.kind == kind && ("|" + pattern + "|").find("|" + name + "|") ==
-                                        std::string::npos) {
+            if (row.kind == kind &&
+                ("|" + pattern + "|").find("|" + name + "|") == std::string::npos) {
                 pattern += (pattern.empty() ? "" : "|") + name;
             }
         }
@@ -130,29 +130,31 @@ std::string fishOptions(std::span<const OptionRow> options, std::string_view con
 } // namespace
 
 std::string bashCompletion() {
-    std::string script = "# Completion of kxctl for bash. Generated from the table of commands.\n\n"
-                         "_kxctl() {\n"
-                         "    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-                         "    local command='' candidate words i\n"
-                         "    COMPREPLY=()\n"
-                         "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
-                         "        for candidate in " +
-                         joinedCommands() +
-                         "; do\n"
-                         "            if [[ -z $command && ${COMP_WORDS[i]} == \"$candidate\" ]]; then\n"
-                         "                command=$candidate\n"
-                         "            fi\n"
-                         "        done\n"
-                         "    done\n"
-                         "    case $previous in\n";
+    std::string script =
+        "# Completion of kxctl for bash. Generated from the table of commands.\n\n"
+        "_kxctl() {\n"
+        "    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
+        "    local command='' candidate words i\n"
+        "    COMPREPLY=()\n"
+        "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
+        "        for candidate in " +
+        joinedCommands() +
+        "; do\n"
+        "            if [[ -z $command && ${COMP_WORDS[i]} == \"$candidate\" ]]; then\n"
+        "                command=$candidate\n"
+        "            fi\n"
+        "        done\n"
+        "    done\n"
+        "    case $previous in\n";
     script += "    " + patternOf(ValueKind::interface) + ") words=\"" +
               std::string(interfaceNames) + "\" ;;\n";
-    script += "    " + patternOf(ValueKind::port) + ") words=\"" + std::string(portNames) +
-              "\" ;;\n";
+    script +=
+        "    " + patternOf(ValueKind::port) + ") words=\"" + std::string(portNames) + "\" ;;\n";
     script += "    " + patternOf(ValueKind::file) +
               ") mapfile -t COMPREPLY < <(compgen -f -- \"$word\"); return ;;\n";
     script += "    " + patternOf(ValueKind::text) + ") return ;;\n";
-    script += "    *)\n        case $command in\n        '') words=\"" + joinedCommands() + "\" ;;\n";
+    script +=
+        "    *)\n        case $command in\n        '') words=\"" + joinedCommands() + "\" ;;\n";
     for (const CommandRow& row : commandTable()) {
         script += "        " + std::string(row.name) + ") words=\"" + joinedOptions(row.options);
         if (row.words == ValueKind::parameter) {

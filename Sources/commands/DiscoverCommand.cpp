@@ -77,7 +77,7 @@ void fillDocument(CommandRun& run, const HeardUnits& units) {
     document["duplicates"] = jsonOfDuplicates(units);
     document["dropped"] = dropped;
     document["rejected"] = run.exchange().rejected();
-    document["complete"] = dropped == 0 && !run.isInterrupted();
+    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted();
     if (dropped > 0) {
         run.warn("dropped", localizedText("The system had no room for %d datagrams. Units may be "
                                           "missing.",
@@ -92,9 +92,9 @@ Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& exp
         return failureOf(ErrorCode::fewer, localizedText("%d of %d units have answered.",
                                                          {count, static_cast<int>(*expected)}));
     }
-    return count == 0 ? Refusal(failureOf(ErrorCode::notFound,
-                                          localizedText("No unit has answered.")))
-                      : std::nullopt;
+    return count == 0
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
 }
 
 // The file was looked at before anything was sent.
@@ -140,8 +140,8 @@ int runDiscover(CommandRun& run) {
 
     Discovery discovery(run.exchange(), options.plan);
     run.wait(discovery);
-    if (!discovery.hasAsked() && discovery.failure().has_value()) {
-        return run.finish(CommandRun::failureOfSend(*discovery.failure()));
+    if (!discovery.hasAsked()) {
+        return run.finish(CommandRun::refusalOfSend(discovery.failure()));
     }
     const HeardUnits& units = discovery.units();
     fillDocument(run, units);

@@ -32,8 +32,8 @@ public:
 
     void warn(std::string_view code, std::string_view message);
 
-    // One line that ends with a line break. Characters beyond ASCII are escaped; what is no UTF-8 is
-    // replaced.
+    // One line that ends with a line break. Characters beyond ASCII are escaped; what is no UTF-8
+    // is replaced.
     std::string text(int exitStatus, const std::optional<Failure>& failure);
 
 private:

@@ -31,9 +31,9 @@ enum class ErrorCode {
 };
 
 inline constexpr int exitDone = 0;
-inline constexpr int exitNo = 1;           // asked properly, and the answer is no
-inline constexpr int exitWrong = 2;        // a wrong command line, value or file; nothing was sent
-inline constexpr int exitCannotAsk = 3;    // interface, port, rights, socket
+inline constexpr int exitNo = 1;        // asked properly, and the answer is no
+inline constexpr int exitWrong = 2;     // a wrong command line, value or file; nothing was sent
+inline constexpr int exitCannotAsk = 3; // interface, port, rights, socket
 inline constexpr int exitMustBeLookedAt = 4; // a unit was left half configured or silent
 
 // Added to the number of the signal that interrupted a command.

@@ -24,7 +24,9 @@ Json jsonOfInterface(const HostInterface& interface) {
         const NetworkOfInterface& network = interface.networks.front();
         json["address"] = stringForIP(network.address);
         json["prefix_length"] = std::popcount(network.mask);
-        json["broadcast"] = stringForIP(network.broadcast());
+        if (interface.canBroadcast) {
+            json["broadcast"] = stringForIP(network.broadcast());
+        }
     }
     json["can_ask"] = interface.canAsk;
     return json;
@@ -35,9 +37,8 @@ void addRow(TextTable& table, const HostInterface& interface) {
     std::string broadcast;
     if (!interface.networks.empty()) {
         const NetworkOfInterface& network = interface.networks.front();
-        address =
-            stringForIP(network.address) + "/" + std::to_string(std::popcount(network.mask));
-        broadcast = stringForIP(network.broadcast());
+        address = stringForIP(network.address) + "/" + std::to_string(std::popcount(network.mask));
+        broadcast = interface.canBroadcast ? stringForIP(network.broadcast()) : "";
     }
     table.addRow({interface.name, interface.title, interface.kind, address, broadcast,
                   interface.canAsk ? "yes" : "no"});

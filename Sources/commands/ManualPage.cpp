@@ -2,12 +2,13 @@
 
 #include "commands/CommandHelp.h"
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
 
-// A dash that is copied from the page must be an ASCII one, and a line that begins with a dot or an
-// apostrophe would be a request.
+// A dash that is copied from the page must be an ASCII one.
 std::string escaped(std::string_view text) {
     std::string result;
     for (const char character : text) {
@@ -19,7 +20,33 @@ std::string escaped(std::string_view text) {
             result += character;
         }
     }
-    return result.starts_with('.') || result.starts_with('\'') ? "\\&" + result : result;
+    return result;
+}
+
+// The text on lines that a person can read in the source too. A line that would begin with a dot or
+// an apostrophe gets a mark that takes no room.
+std::string lines(std::string_view text) {
+    constexpr std::size_t longestLine = 78;
+    std::string result;
+    std::string line;
+    const auto endLine = [&] {
+        const bool wouldBeRequest = line.starts_with('.') || line.starts_with('\'');
+        result += (wouldBeRequest ? "\\&" : "") + line + "\n";
+        line.clear();
+    };
+    const std::string all = escaped(text);
+    for (std::size_t begin = 0; begin < all.size();) {
+        const std::size_t end = std::min(all.find(' ', begin), all.size());
+        const std::string_view word = std::string_view(all).substr(begin, end - begin);
+        if (!line.empty() && line.size() + 1 + word.size() > longestLine) {
+            endLine();
+        }
+        line += line.empty() ? "" : " ";
+        line += word;
+        begin = end + 1;
+    }
+    endLine();
+    return result;
 }
 
 std::string paragraphs(std::string_view text) {
@@ -27,7 +54,7 @@ std::string paragraphs(std::string_view text) {
     while (!text.empty()) {
         const std::size_t end = text.find("\n\n");
         result += result.empty() ? "" : ".PP\n";
-        result += escaped(text.substr(0, end)) + "\n";
+        result += lines(text.substr(0, end));
         text = end == std::string_view::npos ? std::string_view() : text.substr(end + 2);
     }
     return result;
@@ -42,7 +69,7 @@ std::string optionEntries(std::span<const OptionRow> options) {
         if (!row.value.empty()) {
             result += " \" " + escaped(row.value) + "\"";
         }
-        result += "\n" + escaped(row.text) + "\n";
+        result += "\n" + lines(row.text);
     }
     return result;
 }
@@ -57,7 +84,7 @@ std::string commandSection(const CommandRow& row) {
     if (!row.keys.empty()) {
         result += ".PP\nKeys of the document:\n";
         for (const std::string_view key : row.keys) {
-            result += ".B " + escaped(key) + (key == row.keys.back() ? "" : " ,") + "\n";
+            result += ".BR " + escaped(key) + (key == row.keys.back() ? " ." : " ,") + "\n";
         }
     }
     result += ".PP\n.EX\n";
@@ -131,8 +158,8 @@ When set, nothing is bold.
 } // namespace
 
 std::string manualPage(std::string_view day) {
-    std::string page = ".TH KXCTL 1 \"" + std::string(day) + "\" \"KXConfig " KX_VERSION
-                       "\" \"User Commands\"\n";
+    std::string page =
+        ".TH KXCTL 1 \"" + std::string(day) + "\" \"KXConfig " KX_VERSION "\" \"User Commands\"\n";
     page += beginning;
     page += optionEntries(generalOptions());
     page += ".SH COMMANDS\n";

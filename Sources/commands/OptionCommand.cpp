@@ -1,10 +1,12 @@
 // option: sends an option command to a unit, once, and prints what it answers.
 
+#include "conversation/OptionCommand.h"
+
 #include "commands/CommandRun.h"
 #include "commands/Commands.h"
-#include "conversation/OptionCommand.h"
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
+#include "support/VisibleText.h"
 #include "units/IdentityText.h"
 #include "units/UnitCommand.h"
 #include "words/QuotedText.h"
@@ -29,9 +31,8 @@ Refusal readText(const CommandRun& run, std::string& text) {
                ? optionTextForTitle(clockTitle, run.services().wallClock.localTime())
                : line.words.back();
     if (!asciiBytes(text).has_value()) {
-        return failureOf(ErrorCode::value,
-                         localizedText("“%@” has other characters than ASCII.",
-                                       {safeForSentence(text)}));
+        return failureOf(ErrorCode::value, localizedText("“%@” has other characters than ASCII.",
+                                                         {safeForSentence(text)}));
     }
     return std::nullopt;
 }
@@ -70,8 +71,8 @@ int runOption(CommandRun& run) {
     }
     OptionCommand command(run.exchange(), unit, text);
     run.wait(command);
-    if (command.failure().has_value()) {
-        return run.finish(CommandRun::failureOfSend(*command.failure()));
+    if (auto refusal = CommandRun::refusalOfSend(command.failure())) {
+        return run.finish(std::move(refusal));
     }
     report(run, command.answers());
     if (command.answers().empty()) {

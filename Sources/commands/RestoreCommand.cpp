@@ -46,15 +46,17 @@ Refusal askForUnit(CommandRun& run, const HeardUnit& unit) {
 }
 
 Refusal askForEveryone(CommandRun& run, std::size_t count) {
-    const auto number = std::to_string(count);
-    run.say(localizedText("%d units answer. Others that hear the command are restored too.",
-                          {static_cast<long long>(count)}));
+    const auto sentence =
+        localizedText("%d units answer. Others that hear the command are restored too.",
+                      {static_cast<long long>(count)});
     if (run.line().has("--yes")) {
+        run.say(sentence);
         return std::nullopt;
     }
     const auto answer =
-        run.ask(localizedText("Type the number of units to restore the factory settings of all:"));
-    return answer == number ? std::nullopt : declined();
+        run.ask(sentence + "\n" +
+                localizedText("Type the number of units to restore the factory settings of all:"));
+    return answer == std::to_string(count) ? std::nullopt : declined();
 }
 
 void report(CommandRun& run, const UnitRestore& restore) {
@@ -72,9 +74,9 @@ Refusal failureOfRestore(const UnitRestore& restore) {
     for (const RestoredUnit& unit : restore.units()) {
         const std::string serial(unit.before.serialNumber());
         if (!unit.after.has_value()) {
-            return failureOf(ErrorCode::silent,
-                             localizedText("The unit %@ has not answered since the command.",
-                                           {serial}));
+            return failureOf(
+                ErrorCode::silent,
+                localizedText("The unit %@ has not answered since the command.", {serial}));
         }
     }
     for (const RestoredUnit& unit : restore.units()) {
@@ -91,23 +93,23 @@ Refusal failureOfRestore(const UnitRestore& restore) {
 Refusal findEveryone(CommandRun& run, std::vector<HeardUnit>& found) {
     Discovery discovery(run.exchange(), {.everybody = run.everybody()});
     run.wait(discovery);
-    if (!discovery.hasAsked() && discovery.failure().has_value()) {
-        return CommandRun::failureOfSend(*discovery.failure());
+    if (!discovery.hasAsked()) {
+        return CommandRun::refusalOfSend(discovery.failure());
     }
     for (const HeardUnit* const unit : discovery.units().all()) {
         found.push_back(*unit);
     }
-    return found.empty() ? Refusal(failureOf(ErrorCode::notFound,
-                                             localizedText("No unit has answered.")))
-                         : std::nullopt;
+    return found.empty()
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
 }
 
 int restore(CommandRun& run, const std::vector<HeardUnit>& units,
             const std::vector<UnitTarget>& targets) {
     UnitRestore restore(run.exchange(), units, targets, run.everybody());
     run.wait(restore);
-    if (restore.failure().has_value()) {
-        return run.finish(CommandRun::failureOfSend(*restore.failure()));
+    if (auto refusal = CommandRun::refusalOfSend(restore.failure())) {
+        return run.finish(std::move(refusal));
     }
     report(run, restore);
     return run.finish(failureOfRestore(restore));
@@ -118,7 +120,9 @@ int restoreEveryone(CommandRun& run) {
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); },
              [&] { return findEveryone(run, found); },
-             [&] { return run.isInterrupted() ? declined() : askForEveryone(run, found.size()); }}) {
+             [&] {
+                 return run.isInterrupted() ? declined() : askForEveryone(run, found.size());
+             }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }

@@ -6,6 +6,7 @@
 #include "commands/TextTable.h"
 #include "conversation/UnitEdits.h"
 #include "support/LocalizedText.h"
+#include "support/TextEncoding.h"
 #include "units/ExactEdit.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
@@ -32,12 +33,13 @@ Refusal objectionToValue(const ExactEdit& edit) {
     case ValueChange::notANumber:
     case ValueChange::notAnAddress:
     case ValueChange::outOfRange:
-        return failureOf(ErrorCode::value, localizedText("%@: “%@” would become %@.",
-                                                         {name, typed, value}));
-    case ValueChange::notHexadecimal:
         return failureOf(ErrorCode::value,
-                         localizedText("%@: “%@” is not hexadecimal and would be sent as it stands.",
-                                       {name, typed}));
+                         localizedText("%@: “%@” would become %@.", {name, typed, value}));
+    case ValueChange::notHexadecimal:
+        return failureOf(
+            ErrorCode::value,
+            localizedText("%@: “%@” is not hexadecimal and would be sent as it stands.",
+                          {name, typed}));
     case ValueChange::wrongLength:
         return failureOf(ErrorCode::value,
                          localizedText("%@: “%@” has another length than units take. It would be "
@@ -80,9 +82,8 @@ Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
         return failureOf(ErrorCode::value,
                          localizedText("The value of %@ does not fit into a command.", {name}));
     }
-    if (std::ranges::any_of(edits, [&](const ExactEdit& other) {
-            return other.edit.parameter == *parameter;
-        })) {
+    if (std::ranges::any_of(
+            edits, [&](const ExactEdit& other) { return other.edit.parameter == *parameter; })) {
         return failureOf(ErrorCode::usage, localizedText("%@ is there twice.", {name}));
     }
     edits.push_back(exact);
@@ -104,7 +105,8 @@ Refusal objectionToAddress(const std::vector<HostInterface>& interfaces, const s
     // In a network of two hosts every address is a host's (RFC 3021).
     const bool hasOnlyHosts = ~network->mask <= 1;
     if (address == network->address) {
-        return failureOf(ErrorCode::value, localizedText("%@ is this host's own address.", {typed}));
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ is this host's own address.", {typed}));
     }
     if (!hasOnlyHosts &&
         (address == (network->address & network->mask) || address == network->broadcast())) {
@@ -188,12 +190,12 @@ Refusal failureOfMove(const AddressMove& move) {
                                localizedText("The unit shows %@ but does not answer ARP requests "
                                              "for it.",
                                              {stringForIP(move.holders().address)}))
-                   : failureOf(ErrorCode::half,
-                               localizedText("The unit %@ shows %@, but %@ answers ARP requests for "
-                                             "it.",
-                                             {move.hardwareAddress(),
-                                              stringForIP(move.holders().address),
-                                              move.foreignHardwareAddress()}));
+                   : failureOf(
+                         ErrorCode::half,
+                         localizedText("The unit %@ shows %@, but %@ answers ARP requests for "
+                                       "it.",
+                                       {move.hardwareAddress(), stringForIP(move.holders().address),
+                                        move.foreignHardwareAddress()}));
     case MoveState::notBegun:
     case MoveState::commanded:
     case MoveState::moved:
@@ -214,9 +216,9 @@ Refusal failureOfChanges(const UnitEdits& edits) {
     const bool isDifferent = isIn(changes, ChangeState::different);
     const std::string unit(edits.unit().serialNumber());
     if (isDone && (isSilent || isDifferent || isIn(changes, ChangeState::refused))) {
-        return failureOf(ErrorCode::half,
-                         localizedText("The unit %@ has taken some of the values and not others.",
-                                       {unit}));
+        return failureOf(
+            ErrorCode::half,
+            localizedText("The unit %@ has taken some of the values and not others.", {unit}));
     }
     if (isSilent) {
         return failureOf(ErrorCode::silent,
@@ -238,7 +240,7 @@ Refusal failureOfEdits(const UnitEdits& edits) {
     if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
         return failureOfMove(*edits.move());
     }
-    const auto failure = failureOfChanges(edits);
+    auto failure = failureOfChanges(edits);
     if (failure.has_value() && failure->code != ErrorCode::unchanged) {
         return failure;
     }
@@ -246,11 +248,13 @@ Refusal failureOfEdits(const UnitEdits& edits) {
         return failureOf(ErrorCode::ambiguous,
                          localizedText("Another unit answers with the same serial number."));
     }
-    if (edits.failure().has_value()) {
-        return CommandRun::failureOfSend(*edits.failure());
+    if (auto refusal = CommandRun::refusalOfSend(edits.failure())) {
+        return refusal;
     }
-    if (edits.move() != nullptr && failureOfMove(*edits.move()).has_value()) {
-        return failureOfMove(*edits.move());
+    if (edits.move() != nullptr) {
+        if (auto refusal = failureOfMove(*edits.move())) {
+            return refusal;
+        }
     }
     return failure;
 }

@@ -15,26 +15,26 @@ Refusal objectionToWords(const CommandLine& line) {
     if (line.has("--all") == line.words.empty()) {
         return std::nullopt;
     }
-    return failureOf(ErrorCode::usage, line.words.empty()
-                                           ? localizedText("Name units, or write --all.")
-                                           : localizedText("Name units, or write --all, not both."));
+    return failureOf(ErrorCode::usage,
+                     line.words.empty() ? localizedText("Name units, or write --all.")
+                                        : localizedText("Name units, or write --all, not both."));
 }
 
 Refusal findAll(CommandRun& run, std::vector<HeardUnit>& found) {
-    Discovery discovery(run.exchange(), {.everybody = run.everybody(),
-                                         .heard = [&run](const HeardUnits& units) {
-                                             run.showProgress(std::to_string(units.count()));
-                                         }});
+    Discovery discovery(run.exchange(),
+                        {.everybody = run.everybody(), .heard = [&run](const HeardUnits& units) {
+                             run.showProgress(std::to_string(units.count()));
+                         }});
     run.wait(discovery);
-    if (!discovery.hasAsked() && discovery.failure().has_value()) {
-        return CommandRun::failureOfSend(*discovery.failure());
+    if (!discovery.hasAsked()) {
+        return CommandRun::refusalOfSend(discovery.failure());
     }
     for (const HeardUnit* const unit : discovery.units().all()) {
         found.push_back(*unit);
     }
-    return found.empty() ? Refusal(failureOf(ErrorCode::notFound,
-                                             localizedText("No unit has answered.")))
-                         : std::nullopt;
+    return found.empty()
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
 }
 
 void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {

@@ -1,7 +1,7 @@
 #include "commands/TextTable.h"
 
 #include "support/TextEncoding.h"
-#include "words/QuotedText.h"
+#include "support/VisibleText.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -23,7 +23,7 @@ TextTable::TextTable(std::vector<std::string> heads) {
 
 void TextTable::addRow(std::vector<std::string> texts) {
     for (std::string& text : texts) {
-        text = safeForSentence(text);
+        text = visibleText(text);
     }
     _rows.push_back(std::move(texts));
 }

@@ -3,9 +3,9 @@
 #include "addresses/IPv4Address.h"
 #include "commands/TextTable.h"
 #include "files/CSV.h"
+#include "support/VisibleText.h"
 #include "units/ExactEdit.h"
 #include "units/IdentityText.h"
-#include "words/QuotedText.h"
 
 #include <algorithm>
 #include <array>
@@ -41,11 +41,11 @@ std::string shownValue(const HeardUnit& unit, UnitParameter parameter) {
 }
 
 bool hasOnlyVisibleCharacters(std::string_view text) {
-    return safeForSentence(text) == text;
+    return visibleText(text) == text;
 }
 
 std::string csvValue(const HeardUnit& unit, UnitParameter parameter) {
-    const std::string text = shownValue(unit, parameter);
+    std::string text = shownValue(unit, parameter);
     if (parameter != UnitParameter::unitID) {
         return text;
     }
@@ -67,6 +67,7 @@ std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>
         UnitParameter::destinationIPAddress, UnitParameter::destinationPortNumber,
     };
     std::vector<std::string> heads;
+    heads.reserve(columns.size() + 1);
     for (const UnitParameter column : columns) {
         heads.emplace_back(descriptionOf(column).identifier);
     }
@@ -74,6 +75,7 @@ std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>
     TextTable table(std::move(heads));
     for (const HeardUnit* const unit : units) {
         std::vector<std::string> row;
+        row.reserve(columns.size() + 1);
         for (const UnitParameter column : columns) {
             row.push_back(shownValue(*unit, column));
         }
@@ -88,7 +90,7 @@ std::string parametersOfUnit(const HeardUnit& unit, const std::vector<HostInterf
         constexpr std::size_t width = 18;
         std::string text(name);
         text.append(width - std::min(name.size(), width - 1), ' ');
-        return text + safeForSentence(value) + "\n";
+        return text + visibleText(value) + "\n";
     };
     std::string text;
     for (const UnitParameter parameter : shownParameters) {
@@ -101,6 +103,7 @@ std::string parametersOfUnit(const HeardUnit& unit, const std::vector<HostInterf
 
 std::string csvOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces) {
     std::vector<std::string> fields;
+    fields.reserve(shownParameters.size() + 4);
     for (const UnitParameter parameter : shownParameters) {
         fields.emplace_back(descriptionOf(parameter).identifier);
     }

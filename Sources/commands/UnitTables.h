@@ -21,8 +21,8 @@ std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>
 // Every parameter of one unit, one on each line.
 std::string parametersOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
 
-// The table that can be read back: a header, and a record for each unit. The unit ID stands as a text
-// only where that text gives the same unit ID; `unit_id_bytes` has it in every case.
+// The table that can be read back: a header, and a record for each unit. The unit ID stands as a
+// text only where that text gives the same unit ID; `unit_id_bytes` has it in every case.
 std::string csvOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces);
 
 } // namespace kx

@@ -4,7 +4,7 @@
 #include "commands/Commands.h"
 #include "conversation/UnitWatch.h"
 #include "support/LocalizedText.h"
-#include "words/QuotedText.h"
+#include "support/VisibleText.h"
 
 #include <array>
 #include <cstdio>
@@ -56,7 +56,7 @@ void tell(CommandRun& run, UnitEvent event, const HeardUnit& unit) {
         run.services().console.writeOutput(lineOfJson(json));
     } else {
         const auto text = [](std::optional<std::string_view> value) {
-            return safeForSentence(value.value_or(std::string_view()));
+            return visibleText(value.value_or(std::string_view()));
         };
         std::string padded = name;
         padded.resize(9, ' '); // one more than the longest
@@ -91,8 +91,8 @@ Refusal readOptions(const CommandLine& line, WatchPlan& plan) {
 int runWatch(CommandRun& run) {
     WatchPlan plan;
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
-             [&] { return readOptions(run.line(), plan); },
-             [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); }}) {
+             [&] { return readOptions(run.line(), plan); }, [&] { return run.chooseInterfaces(); },
+             [&] { return run.openExchange(); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }
@@ -102,14 +102,14 @@ int runWatch(CommandRun& run) {
     const auto until = plan.until;
     UnitWatch watch(run.exchange(), std::move(plan));
     run.wait(watch);
-    if (watch.failure().has_value()) {
-        return run.finish(CommandRun::failureOfSend(*watch.failure()));
+    if (auto refusal = CommandRun::refusalOfSend(watch.failure())) {
+        return run.finish(std::move(refusal));
     }
     if (until.has_value() && watch.count() < *until) {
-        return run.finish(failureOf(ErrorCode::fewer,
-                                    localizedText("%d of %d units are there.",
-                                                  {static_cast<long long>(watch.count()),
-                                                   static_cast<long long>(*until)})));
+        return run.finish(
+            failureOf(ErrorCode::fewer, localizedText("%d of %d units are there.",
+                                                      {static_cast<long long>(watch.count()),
+                                                       static_cast<long long>(*until)})));
     }
     return run.finish();
 }
