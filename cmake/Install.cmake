@@ -1,13 +1,15 @@
 # The places of all installed files, relative to the prefix.
 #
-#   bin/                        both programs
+#   bin/                        the programs
 #   libexec/kxconfig/           the program that runs with administrator rights
 #   share/applications, share/metainfo, share/icons, share/man
 #                               files that a desktop reads
 #   share/polkit-1/actions      the actions that ask for administrator rights; they name the program
 #                               by its full path, and the daemon looks there, below a prefix of /usr
 #                               only
-#   share/kxconfig/             the help pages and the dissector
+#   share/bash-completion, share/zsh, share/fish
+#                               completions of kxctl
+#   share/kxconfig/             the help pages, the dissector, the JSON Schemas of kxctl's documents
 #
 # The version comes from project(), and the day comes from the clock or from SOURCE_DATE_EPOCH.
 
@@ -47,10 +49,22 @@ function(kx_set_screenshots VARIABLE)
     endif()
 endfunction()
 
-install(TARGETS kxconfig kxunits RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS kxconfig kxctl kxunits RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS kxarp RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/kxconfig")
 kx_install_manual(kxconfig.1)
 kx_install_manual(kxunits.1)
+
+# What the build has made of the table of commands.
+set(kxctl_dir "${PROJECT_BINARY_DIR}/share/kxctl")
+install(CODE "execute_process(COMMAND \"${KX_GZIP}\" -9nkf \"${kxctl_dir}/kxctl.1\"
+    COMMAND_ERROR_IS_FATAL ANY)")
+install(FILES "${kxctl_dir}/kxctl.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
+install(FILES "${kxctl_dir}/kxctl.bash" RENAME kxctl
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions")
+install(FILES "${kxctl_dir}/_kxctl" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions")
+install(FILES "${kxctl_dir}/kxctl.fish"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/json-schema" DESTINATION "${data_dir}")
 
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

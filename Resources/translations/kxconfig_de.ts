@@ -263,6 +263,388 @@
         <translation>HardwareAddress: ungültige Ethernet-Adresse</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>“%@” is no IPv4 address, such as 192.0.2.41.</source>
+        <translation>„%@“ ist keine IPv4-Adresse wie 192.0.2.41.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>Somebody holds %@.</source>
+        <translation>%@ ist vergeben.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether somebody holds %@ could not be found out.</source>
+        <translation>Ob %@ vergeben ist, war nicht festzustellen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>The command line cannot be read: %@.</source>
+        <translation>Die Befehlszeile ist nicht lesbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Einer Option fehlt der Wert, oder ein Schalter hat einen. Siehe kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>These are six words. Write the serial number without blanks, 4B5800000001, or in quotation marks.</source>
+        <translation>Das sind sechs Wörter. Schreiben Sie die Seriennummer ohne Leerzeichen, 4B5800000001, oder in Anführungszeichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ needs more words: %@.</source>
+        <translation>kxctl %@ braucht mehr Wörter: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ does not take the word “%@”.</source>
+        <translation>kxctl %@ nimmt das Wort „%@“ nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--json and --csv cannot stand together.</source>
+        <translation>--json und --csv gehen nicht zusammen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--port takes auto, 3520, 3521, 3522 or 3523, not “%@”.</source>
+        <translation>--port nimmt auto, 3520, 3521, 3522 oder 3523, nicht „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. Did you mean “%@”?</source>
+        <translation>Es gibt keinen Befehl „%@“. Meinten Sie „%@“?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. See kxctl --help.</source>
+        <translation>Es gibt keinen Befehl „%@“. Siehe kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no option “%@” here. See kxctl --help.</source>
+        <translation>Eine Option „%@“ gibt es hier nicht. Siehe kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>A command is missing. See kxctl --help.</source>
+        <translation>Ein Befehl fehlt. Siehe kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes a whole number from 1 on, not “%@”.</source>
+        <translation>%@ nimmt eine ganze Zahl ab 1, nicht „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes seconds, such as 2 or 0.5, not “%@”.</source>
+        <translation>%@ nimmt Sekunden wie 2 oder 0.5, nicht „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Standard output cannot be written: %@.</source>
+        <translation>Die Standardausgabe ist nicht beschreibbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Unterbrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>The capture is not whole, because it could not be written.</source>
+        <translation>Die Aufzeichnung ist nicht vollständig, weil sie nicht geschrieben werden konnte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>Das Gerät %@ antwortet nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Mehrere Geräte antworten als %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Keine Netzwerkschnittstelle kann Broadcasts senden. Dazu braucht sie eine Verbindung und eine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
+        <translation>Mehrere Netzwerkschnittstellen können Broadcasts senden. Wählen Sie eine mit -i: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>There is no network interface “%@”. There are: %@.</source>
+        <translation>Es gibt keine Netzwerkschnittstelle „%@“. Es gibt: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” may mean: %@.</source>
+        <translation>„%@“ kann bedeuten: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ kann keine Broadcasts senden. Dazu sind eine Verbindung und eine IPv4-Adresse nötig.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>Der UDP-Port lässt sich nicht öffnen: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>UDP port %d is taken by another program.</source>
+        <translation>UDP-Port %d ist von einem anderen Programm belegt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Alle UDP-Ports von 3520 bis 3523 sind von anderen Programmen belegt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the address %@: %@.</source>
+        <translation>Mehrere Geräte haben die Adresse %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the serial number %@: %@.</source>
+        <translation>Mehrere Geräte haben die Seriennummer %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>The system had no room for %d datagrams. Units may be missing.</source>
+        <translation>Das System hatte keinen Platz für %d Datagramme. Geräte können fehlen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d of %d units have answered.</source>
+        <translation>%d von %d Geräten haben geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
+        <source>The system tells no network interfaces.</source>
+        <translation>Das System nennt keine Netzwerkschnittstellen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write a text or --clock, not both.</source>
+        <translation>Schreiben Sie einen Text oder --clock, nicht beides.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write the text of the option command, or --clock.</source>
+        <translation>Schreiben Sie den Text des Optionsbefehls oder --clock.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>“%@” has other characters than ASCII.</source>
+        <translation>„%@“ enthält andere Zeichen als ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>The unit %@ has not answered the option command.</source>
+        <translation>Das Gerät %@ hat auf den Optionsbefehl nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit. --everyone restores all that hear the command.</source>
+        <translation>Nennen Sie ein Gerät. --everyone setzt alle zurück, die den Befehl hören.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit, or write --everyone, not both.</source>
+        <translation>Nennen Sie ein Gerät oder schreiben Sie --everyone, nicht beides.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nobody can be asked here. Write --yes if this is meant.</source>
+        <translation>Hier kann niemand gefragt werden. Schreiben Sie --yes, wenn das so gemeint ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nothing was restored.</source>
+        <translation>Es wurde nichts zurückgesetzt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Restore the factory settings of the unit %@? (y/n)</source>
+        <translation>Werkseinstellungen des Geräts %@ wiederherstellen? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>%d units answer. Others that hear the command are restored too.</source>
+        <translation>%d Geräte antworten. Andere, die den Befehl hören, werden auch zurückgesetzt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Type the number of units to restore the factory settings of all:</source>
+        <translation>Tippen Sie die Zahl der Geräte, um die Werkseinstellungen aller wiederherzustellen:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has not answered since the command.</source>
+        <translation>Das Gerät %@ hat seit dem Befehl nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>The unit %@ shows the old values and has not acknowledged the command.</source>
+        <translation>Das Gerät %@ zeigt die alten Werte und hat den Befehl nicht bestätigt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” would become %@.</source>
+        <translation>%@: Aus „%@“ würde %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
+        <translation>%@: „%@“ ist nicht hexadezimal und würde so gesendet, wie es da steht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
+        <translation>%@: „%@“ hat eine andere Länge, als Geräte sie nehmen. Es würde so gesendet, wie es da steht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
+        <translation>%@: Ein Gerät zeigt %@ nicht als Zahl. Die höchste ist 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>“%@” is not NAME=VALUE with the name of a parameter. See kxctl set --help.</source>
+        <translation>„%@“ ist kein NAME=WERT mit dem Namen eines Parameters. Siehe kxctl set --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ has no value.</source>
+        <translation>%@ hat keinen Wert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ is not a text in UTF-8.</source>
+        <translation>Der Wert von %@ ist kein Text in UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ does not fit into a command.</source>
+        <translation>Der Wert von %@ passt in keinen Befehl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is there twice.</source>
+        <translation>%@ steht zweimal da.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ gehört %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
+        <translation>Der Eintrag im ARP-Cache war nicht möglich, deshalb wurde nichts gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit shows %@ but does not answer ARP requests for it.</source>
+        <translation>Das Gerät zeigt %@, beantwortet aber keine ARP-Anfragen dafür.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has taken some of the values and not others.</source>
+        <translation>Das Gerät %@ hat einige der Werte übernommen und andere nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows the old value.</source>
+        <translation>Das Gerät %@ zeigt den alten Wert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows another value.</source>
+        <translation>Das Gerät %@ zeigt einen anderen Wert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Another unit answers with the same serial number.</source>
+        <translation>Ein anderes Gerät antwortet mit derselben Seriennummer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>Der Eintrag für %@ ließ sich nicht wieder aus dem ARP-Cache nehmen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all.</source>
+        <translation>Nennen Sie Geräte oder schreiben Sie --all.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all, not both.</source>
+        <translation>Nennen Sie Geräte oder schreiben Sie --all, nicht beides.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>%d of %d units are there.</source>
+        <translation>%d von %d Geräten sind da.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>Das ARP-Programm erhält keinen Text, der mit „-“ beginnt.</translation>

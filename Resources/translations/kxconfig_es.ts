@@ -263,6 +263,388 @@
         <translation>HardwareAddress: dirección Ethernet no válida</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>“%@” is no IPv4 address, such as 192.0.2.41.</source>
+        <translation>«%@» no es una dirección IPv4 como 192.0.2.41.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ no está en ninguna red de la interfaz.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ es la dirección de una red entera.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>Somebody holds %@.</source>
+        <translation>%@ está ocupada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether somebody holds %@ could not be found out.</source>
+        <translation>No se pudo averiguar si %@ está ocupada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>The command line cannot be read: %@.</source>
+        <translation>No se puede leer la línea de órdenes: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>A una opción le falta su valor, o un indicador tiene uno. Véase kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>These are six words. Write the serial number without blanks, 4B5800000001, or in quotation marks.</source>
+        <translation>Son seis palabras. Escriba el número de serie sin espacios, 4B5800000001, o entre comillas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ needs more words: %@.</source>
+        <translation>kxctl %@ necesita más palabras: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ does not take the word “%@”.</source>
+        <translation>kxctl %@ no admite la palabra «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--json and --csv cannot stand together.</source>
+        <translation>--json y --csv no pueden ir juntos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--port takes auto, 3520, 3521, 3522 or 3523, not “%@”.</source>
+        <translation>--port admite auto, 3520, 3521, 3522 o 3523, no «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. Did you mean “%@”?</source>
+        <translation>No existe la orden «%@». ¿Quería decir «%@»?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. See kxctl --help.</source>
+        <translation>No existe la orden «%@». Véase kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no option “%@” here. See kxctl --help.</source>
+        <translation>Aquí no existe la opción «%@». Véase kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>A command is missing. See kxctl --help.</source>
+        <translation>Falta una orden. Véase kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes a whole number from 1 on, not “%@”.</source>
+        <translation>%@ admite un número entero desde 1, no «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes seconds, such as 2 or 0.5, not “%@”.</source>
+        <translation>%@ admite segundos, como 2 o 0.5, no «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Standard output cannot be written: %@.</source>
+        <translation>No se puede escribir en la salida estándar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Interrumpido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>The capture is not whole, because it could not be written.</source>
+        <translation>La captura no está completa, porque no se pudo escribir.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>La unidad %@ no responde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Varias unidades responden como %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Ninguna interfaz de red puede difundir. Necesita un enlace y una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
+        <translation>Varias interfaces de red pueden difundir. Elija una con -i: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>There is no network interface “%@”. There are: %@.</source>
+        <translation>No existe la interfaz de red «%@». Existen: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” may mean: %@.</source>
+        <translation>«%@» puede significar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ no puede difundir. Necesita un enlace y una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>No se puede abrir el puerto UDP: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>UDP port %d is taken by another program.</source>
+        <translation>El puerto UDP %d está ocupado por otro programa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Todos los puertos UDP del 3520 al 3523 están ocupados por otros programas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>No se puede escribir en «%@»: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the address %@: %@.</source>
+        <translation>Varias unidades tienen la dirección %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the serial number %@: %@.</source>
+        <translation>Varias unidades tienen el número de serie %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>The system had no room for %d datagrams. Units may be missing.</source>
+        <translation>El sistema no tuvo sitio para %d datagramas. Pueden faltar unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d of %d units have answered.</source>
+        <translation>Han respondido %d de %d unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Ninguna unidad ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
+        <source>The system tells no network interfaces.</source>
+        <translation>El sistema no indica ninguna interfaz de red.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write a text or --clock, not both.</source>
+        <translation>Escriba un texto o --clock, no ambos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write the text of the option command, or --clock.</source>
+        <translation>Escriba el texto de la orden de opción, o --clock.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>“%@” has other characters than ASCII.</source>
+        <translation>«%@» contiene otros caracteres que ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>The unit %@ has not answered the option command.</source>
+        <translation>La unidad %@ no ha respondido a la orden de opción.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit. --everyone restores all that hear the command.</source>
+        <translation>Nombre una unidad. --everyone restaura todas las que oigan la orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit, or write --everyone, not both.</source>
+        <translation>Nombre una unidad o escriba --everyone, no ambos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nobody can be asked here. Write --yes if this is meant.</source>
+        <translation>Aquí no se puede preguntar a nadie. Escriba --yes si es lo que se quiere.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nothing was restored.</source>
+        <translation>No se ha restaurado nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Restore the factory settings of the unit %@? (y/n)</source>
+        <translation>¿Restaurar los ajustes de fábrica de la unidad %@? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>%d units answer. Others that hear the command are restored too.</source>
+        <translation>Responden %d unidades. Otras que oigan la orden se restaurarán también.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Type the number of units to restore the factory settings of all:</source>
+        <translation>Escriba el número de unidades para restaurar los ajustes de fábrica de todas:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has not answered since the command.</source>
+        <translation>La unidad %@ no ha respondido desde la orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>The unit %@ shows the old values and has not acknowledged the command.</source>
+        <translation>La unidad %@ muestra los valores antiguos y no ha confirmado la orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” would become %@.</source>
+        <translation>%@: «%@» se convertiría en %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
+        <translation>%@: «%@» no es hexadecimal y se enviaría tal cual.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
+        <translation>%@: «%@» no tiene la longitud que aceptan las unidades. Se enviaría tal cual.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
+        <translation>%@: una unidad no muestra %@ como número. El mayor es 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>“%@” is not NAME=VALUE with the name of a parameter. See kxctl set --help.</source>
+        <translation>«%@» no es NOMBRE=VALOR con el nombre de un parámetro. Véase kxctl set --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ has no value.</source>
+        <translation>%@ no tiene valor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ is not a text in UTF-8.</source>
+        <translation>El valor de %@ no es un texto en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ does not fit into a command.</source>
+        <translation>El valor de %@ no cabe en una orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is there twice.</source>
+        <translation>%@ está dos veces.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ es la dirección de este mismo equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ está ocupada por %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
+        <translation>No se pudo inscribir la entrada en la caché ARP, por eso no se envió nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit shows %@ but does not answer ARP requests for it.</source>
+        <translation>La unidad muestra %@, pero no responde a las peticiones ARP para ella.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has taken some of the values and not others.</source>
+        <translation>La unidad %@ ha aceptado algunos de los valores y otros no.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows the old value.</source>
+        <translation>La unidad %@ muestra el valor antiguo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows another value.</source>
+        <translation>La unidad %@ muestra otro valor.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Another unit answers with the same serial number.</source>
+        <translation>Otra unidad responde con el mismo número de serie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>No se pudo retirar de la caché ARP la entrada de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all.</source>
+        <translation>Nombre unidades o escriba --all.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all, not both.</source>
+        <translation>Nombre unidades o escriba --all, no ambos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>%d of %d units are there.</source>
+        <translation>Están %d de %d unidades.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>La herramienta ARP no recibe ningún texto que empiece por «-».</translation>

@@ -263,6 +263,388 @@
         <translation>HardwareAddress : adresse Ethernet non valide</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>“%@” is no IPv4 address, such as 192.0.2.41.</source>
+        <translation>« %@ » n’est pas une adresse IPv4 telle que 192.0.2.41.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ ne se trouve dans aucun réseau de l’interface.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ est l’adresse d’un réseau entier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>Somebody holds %@.</source>
+        <translation>%@ est occupée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether somebody holds %@ could not be found out.</source>
+        <translation>Impossible de savoir si %@ est occupée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>The command line cannot be read: %@.</source>
+        <translation>La ligne de commande est illisible : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Il manque la valeur d’une option, ou un drapeau en a une. Voir kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>These are six words. Write the serial number without blanks, 4B5800000001, or in quotation marks.</source>
+        <translation>Ce sont six mots. Écrivez le numéro de série sans espaces, 4B5800000001, ou entre guillemets.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ needs more words: %@.</source>
+        <translation>kxctl %@ demande plus de mots : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ does not take the word “%@”.</source>
+        <translation>kxctl %@ ne prend pas le mot « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--json and --csv cannot stand together.</source>
+        <translation>--json et --csv ne vont pas ensemble.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--port takes auto, 3520, 3521, 3522 or 3523, not “%@”.</source>
+        <translation>--port prend auto, 3520, 3521, 3522 ou 3523, pas « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. Did you mean “%@”?</source>
+        <translation>Il n’y a pas de commande « %@ ». Vouliez-vous dire « %@ » ?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. See kxctl --help.</source>
+        <translation>Il n’y a pas de commande « %@ ». Voir kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no option “%@” here. See kxctl --help.</source>
+        <translation>Il n’y a pas d’option « %@ » ici. Voir kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>A command is missing. See kxctl --help.</source>
+        <translation>Il manque une commande. Voir kxctl --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes a whole number from 1 on, not “%@”.</source>
+        <translation>%@ prend un nombre entier à partir de 1, pas « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes seconds, such as 2 or 0.5, not “%@”.</source>
+        <translation>%@ prend des secondes, comme 2 ou 0.5, pas « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Standard output cannot be written: %@.</source>
+        <translation>Impossible d’écrire sur la sortie standard : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Interrompu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>The capture is not whole, because it could not be written.</source>
+        <translation>La capture n’est pas complète, car elle n’a pas pu être écrite.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>L’unité %@ ne répond pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Une autre unité a l’adresse de l’unité %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Aucune interface réseau ne peut diffuser. Il lui faut une liaison et une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
+        <translation>Plusieurs interfaces réseau peuvent diffuser. Choisissez-en une avec -i : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>There is no network interface “%@”. There are: %@.</source>
+        <translation>Il n’y a pas d’interface réseau « %@ ». Il y a : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” may mean: %@.</source>
+        <translation>« %@ » peut désigner : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ ne peut pas diffuser. Il faut une liaison et une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>Le port UDP ne peut pas être ouvert : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>UDP port %d is taken by another program.</source>
+        <translation>Le port UDP %d est occupé par un autre programme.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Tous les ports UDP de 3520 à 3523 sont occupés par d’autres programmes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>Impossible d’écrire dans « %@ » : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the address %@: %@.</source>
+        <translation>Plusieurs unités ont l’adresse %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the serial number %@: %@.</source>
+        <translation>Plusieurs unités ont le numéro de série %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>The system had no room for %d datagrams. Units may be missing.</source>
+        <translation>Le système n’avait pas de place pour %d datagrammes. Des unités peuvent manquer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d of %d units have answered.</source>
+        <translation>%d unités sur %d ont répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Aucune unité n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
+        <source>The system tells no network interfaces.</source>
+        <translation>Le système n’indique aucune interface réseau.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write a text or --clock, not both.</source>
+        <translation>Écrivez un texte ou --clock, pas les deux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write the text of the option command, or --clock.</source>
+        <translation>Écrivez le texte de la commande d’option, ou --clock.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>“%@” has other characters than ASCII.</source>
+        <translation>« %@ » contient d’autres caractères que l’ASCII.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>The unit %@ has not answered the option command.</source>
+        <translation>L’unité %@ n’a pas répondu à la commande d’option.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit. --everyone restores all that hear the command.</source>
+        <translation>Nommez une unité. --everyone restaure toutes celles qui entendent la commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit, or write --everyone, not both.</source>
+        <translation>Nommez une unité ou écrivez --everyone, pas les deux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nobody can be asked here. Write --yes if this is meant.</source>
+        <translation>Personne ne peut être interrogé ici. Écrivez --yes si c’est bien ce qui est voulu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nothing was restored.</source>
+        <translation>Rien n’a été restauré.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Restore the factory settings of the unit %@? (y/n)</source>
+        <translation>Restaurer les réglages d’usine de l’unité %@ ? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>%d units answer. Others that hear the command are restored too.</source>
+        <translation>%d unités répondent. D’autres qui entendent la commande seront restaurées aussi.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Type the number of units to restore the factory settings of all:</source>
+        <translation>Tapez le nombre d’unités pour restaurer les réglages d’usine de toutes :</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has not answered since the command.</source>
+        <translation>L’unité %@ n’a pas répondu depuis la commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>The unit %@ shows the old values and has not acknowledged the command.</source>
+        <translation>L’unité %@ affiche les anciennes valeurs et n’a pas confirmé la commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” would become %@.</source>
+        <translation>%@ : « %@ » deviendrait %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
+        <translation>%@ : « %@ » n’est pas hexadécimal et serait envoyé tel quel.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
+        <translation>%@ : « %@ » n’a pas la longueur que les unités acceptent. Il serait envoyé tel quel.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
+        <translation>%@ : une unité n’affiche pas %@ comme nombre. Le plus grand est 255.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>“%@” is not NAME=VALUE with the name of a parameter. See kxctl set --help.</source>
+        <translation>« %@ » n’est pas NOM=VALEUR avec le nom d’un paramètre. Voir kxctl set --help.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ has no value.</source>
+        <translation>%@ n’a pas de valeur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ is not a text in UTF-8.</source>
+        <translation>La valeur de %@ n’est pas un texte en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ does not fit into a command.</source>
+        <translation>La valeur de %@ ne tient pas dans une commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is there twice.</source>
+        <translation>%@ est là deux fois.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ est l’adresse de cet hôte lui-même.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ est occupée par %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
+        <translation>L’entrée n’a pas pu être inscrite dans le cache ARP, donc rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit shows %@ but does not answer ARP requests for it.</source>
+        <translation>L’unité affiche %@ mais ne répond pas aux requêtes ARP pour cette adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has taken some of the values and not others.</source>
+        <translation>L’unité %@ a pris certaines des valeurs et pas d’autres.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows the old value.</source>
+        <translation>L’unité %@ affiche l’ancienne valeur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows another value.</source>
+        <translation>L’unité %@ affiche une autre valeur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Another unit answers with the same serial number.</source>
+        <translation>Une autre unité répond avec le même numéro de série.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>L’entrée pour %@ n’a pas pu être retirée du cache ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all.</source>
+        <translation>Nommez des unités ou écrivez --all.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all, not both.</source>
+        <translation>Nommez des unités ou écrivez --all, pas les deux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>%d of %d units are there.</source>
+        <translation>%d unités sur %d sont là.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>L’outil ARP ne reçoit aucun texte qui commence par « - ».</translation>

@@ -263,6 +263,388 @@
         <translation>HardwareAddress: イーサネットアドレスが無効です</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>“%@” is no IPv4 address, such as 192.0.2.41.</source>
+        <translation>「%@」は 192.0.2.41 のような IPv4 アドレスではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ はインターフェイスのどのネットワークにも属していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ はネットワーク全体のアドレスです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <source>Somebody holds %@.</source>
+        <translation>%@ は使用中です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CheckCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether somebody holds %@ could not be found out.</source>
+        <translation>%@ が使用中かどうかわかりませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>The command line cannot be read: %@.</source>
+        <translation>コマンドラインを読み取れません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>オプションに値がないか、値を取らないオプションに値があります。kxctl --help を参照してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>These are six words. Write the serial number without blanks, 4B5800000001, or in quotation marks.</source>
+        <translation>単語が 6 つあります。シリアル番号は空白なしの 4B5800000001 の形で、または引用符で囲んで書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ needs more words: %@.</source>
+        <translation>kxctl %@ には引数が足りません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>kxctl %@ does not take the word “%@”.</source>
+        <translation>kxctl %@ は引数「%@」を受け付けません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--json and --csv cannot stand together.</source>
+        <translation>--json と --csv は同時に指定できません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>--port takes auto, 3520, 3521, 3522 or 3523, not “%@”.</source>
+        <translation>--port の値は auto、3520、3521、3522、3523 のいずれかで、「%@」は使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. Did you mean “%@”?</source>
+        <translation>コマンド「%@」はありません。「%@」のことですか?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no command “%@”. See kxctl --help.</source>
+        <translation>コマンド「%@」はありません。kxctl --help を参照してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>There is no option “%@” here. See kxctl --help.</source>
+        <translation>ここではオプション「%@」は使えません。kxctl --help を参照してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>A command is missing. See kxctl --help.</source>
+        <translation>コマンドがありません。kxctl --help を参照してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes a whole number from 1 on, not “%@”.</source>
+        <translation>%@ の値は 1 以上の整数で、「%@」は使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandLine.cpp"/>
+        <source>%@ takes seconds, such as 2 or 0.5, not “%@”.</source>
+        <translation>%@ の値は 2 や 0.5 のような秒数で、「%@」は使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Standard output cannot be written: %@.</source>
+        <translation>標準出力に書き込めません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>Interrupted.</source>
+        <translation>中断しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>The capture is not whole, because it could not be written.</source>
+        <translation>書き込みに失敗したため、キャプチャは完全ではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>ユニット %@ は応答しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>複数のユニットが %@ として応答しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>ブロードキャストできるネットワークインターフェイスがありません。リンクと IPv4 アドレスが必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
+        <translation>ブロードキャストできるネットワークインターフェイスが複数あります。-i で選んでください: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>There is no network interface “%@”. There are: %@.</source>
+        <translation>ネットワークインターフェイス「%@」はありません。あるのは次のものです: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” may mean: %@.</source>
+        <translation>「%@」は次のいずれかを指します: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ はブロードキャストできません。リンクと IPv4 アドレスが必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>UDP ポートを開けません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>UDP port %d is taken by another program.</source>
+        <translation>UDP ポート %d は別のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>UDP ポート 3520 から 3523 はすべて別のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>「%@」に書き込めません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>「%@」はユニットの名前ではありません。4B5800000001 のような 6 組の数字のシリアル番号か、id:TEXT を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the address %@: %@.</source>
+        <translation>複数のユニットがアドレス %@ を使っています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>Several units have the serial number %@: %@.</source>
+        <translation>複数のユニットのシリアル番号が %@ です: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>The system had no room for %d datagrams. Units may be missing.</source>
+        <translation>システムに %d 個のデータグラムを保持する余地がありませんでした。ユニットが欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d of %d units have answered.</source>
+        <translation>応答したユニット: %d、期待した数: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>応答したユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
+        <source>The system tells no network interfaces.</source>
+        <translation>システムからネットワークインターフェイスの情報が得られません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write a text or --clock, not both.</source>
+        <translation>テキストと --clock はどちらか一方だけを書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>Write the text of the option command, or --clock.</source>
+        <translation>オプションコマンドのテキストか --clock を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>“%@” has other characters than ASCII.</source>
+        <translation>「%@」に ASCII 以外の文字が含まれています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/OptionCommand.cpp"/>
+        <source>The unit %@ has not answered the option command.</source>
+        <translation>ユニット %@ はオプションコマンドに応答しませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit. --everyone restores all that hear the command.</source>
+        <translation>ユニットを指定してください。--everyone は、コマンドを受け取るすべてのユニットを復元します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Name a unit, or write --everyone, not both.</source>
+        <translation>ユニットの指定と --everyone はどちらか一方だけを書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nobody can be asked here. Write --yes if this is meant.</source>
+        <translation>ここでは確認を求められません。本当に実行する場合は --yes を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Nothing was restored.</source>
+        <translation>何も復元していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Restore the factory settings of the unit %@? (y/n)</source>
+        <translation>ユニット %@ を工場出荷時の設定に戻しますか? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>%d units answer. Others that hear the command are restored too.</source>
+        <translation>%d 台のユニットが応答しています。コマンドを受け取るほかのユニットも復元されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>Type the number of units to restore the factory settings of all:</source>
+        <translation>すべてを工場出荷時の設定に戻すには、ユニットの数を入力してください:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has not answered since the command.</source>
+        <translation>ユニット %@ はコマンドの後に応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <source>The unit %@ shows the old values and has not acknowledged the command.</source>
+        <translation>ユニット %@ は以前の値のままで、コマンドの確認応答もありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” would become %@.</source>
+        <translation>%@: 「%@」は %@ になってしまいます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
+        <translation>%@: 「%@」は 16 進数ではなく、そのまま送信されてしまいます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
+        <translation>%@: 「%@」の長さはユニットが受け付ける長さと異なります。そのまま送信されてしまいます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
+        <translation>%@: ユニットは %@ を数値として表示しません。最大は 255 です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>“%@” is not NAME=VALUE with the name of a parameter. See kxctl set --help.</source>
+        <translation>「%@」はパラメーター名を使った NAME=VALUE の形ではありません。kxctl set --help を参照してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ has no value.</source>
+        <translation>%@ に値がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ is not a text in UTF-8.</source>
+        <translation>%@ の値は UTF-8 のテキストではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The value of %@ does not fit into a command.</source>
+        <translation>%@ の値はコマンドに入りません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is there twice.</source>
+        <translation>%@ が 2 回書かれています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ はこのホスト自身のアドレスです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ は %@ が使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
+        <translation>ARP キャッシュに登録できなかったため、何も送信していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit shows %@ but does not answer ARP requests for it.</source>
+        <translation>ユニットは %@ を示していますが、その ARP 要求に応答しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ has taken some of the values and not others.</source>
+        <translation>ユニット %@ は一部の値だけを受け入れました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows the old value.</source>
+        <translation>ユニット %@ は以前の値のままです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows another value.</source>
+        <translation>ユニット %@ は別の値を示しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Another unit answers with the same serial number.</source>
+        <translation>別のユニットが同じシリアル番号で応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>%@ の登録を ARP キャッシュから取り除けませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all.</source>
+        <translation>ユニットを指定するか、--all を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/ShowCommand.cpp"/>
+        <source>Name units, or write --all, not both.</source>
+        <translation>ユニットの指定と --all はどちらか一方だけを書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>%d of %d units are there.</source>
+        <translation>今あるユニット: %d、期待した数: %d。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>「-」で始まるテキストは ARP ツールに渡されません。</translation>

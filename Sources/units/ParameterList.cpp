@@ -1,8 +1,8 @@
 #include "units/ParameterList.h"
 
 #include "addresses/IPv4Address.h"
-#include "units/IdentityText.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <optional>
@@ -124,6 +124,9 @@ void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded
     decoded.items.emplace_back(item.parameter, hasText ? std::optional(text.view()) : std::nullopt);
     if (!item.parameter.has_value()) {
         return;
+    }
+    if (item.form == ValueForm::unitID) {
+        std::ranges::copy(value, decoded.unitIDBytes.emplace().begin());
     }
     if (hasText) {
         decoded.record.setValue(*item.parameter, text.view());

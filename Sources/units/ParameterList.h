@@ -10,6 +10,7 @@
 #pragma once
 
 #include "support/ByteRange.h"
+#include "units/IdentityText.h"
 #include "units/UnitRecord.h"
 
 #include <array>
@@ -45,9 +46,12 @@ private:
     std::array<char, UnitRecord::longestText> _text;
 };
 
+using UnitIDBytes = std::array<std::uint8_t, identityLength>;
+
 struct DecodedUnitParameters {
     UnitRecord record;
-    std::vector<ToldParameter> items; // in the order of the list
+    std::vector<ToldParameter> items;       // in the order of the list
+    std::optional<UnitIDBytes> unitIDBytes; // also of a unit ID that is not UTF-8
 };
 
 // Decodes a list. Decoding ends quietly at a tag that is not in the table or that is cut short, and

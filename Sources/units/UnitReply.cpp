@@ -42,6 +42,7 @@ void takePayload(ByteView datagram, Reply& reply) {
         reply.payload = datagram.subspan(payloadOffset);
     } else if (tag.has_value() && tag->starts_with(acknowledgementPrefix)) {
         reply.payloadKind = PayloadKind::acknowledgement;
+        reply.payload = datagram.subspan(payloadMarkerOffset);
     } else {
         reply.payloadKind = PayloadKind::other;
         reply.payload = datagram.subspan(payloadMarkerOffset);

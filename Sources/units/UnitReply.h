@@ -43,7 +43,9 @@ struct Reply {
     std::optional<std::string> serialNumber;
 
     PayloadKind payloadKind = PayloadKind::none;
-    ByteView payload; // parameterList: from "<M>" to the end; other: from "$" to the end
+
+    // parameterList: from "<M>" to the end; acknowledgement and other: from "$" to the end.
+    ByteView payload;
 };
 
 PacketKind packetKindOfDatagram(ByteView datagram);

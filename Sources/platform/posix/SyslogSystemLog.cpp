@@ -57,14 +57,26 @@ void copyToStandardError(std::string_view text) {
 
 } // namespace
 
-SyslogSystemLog::SyslogSystemLog(std::string programName, std::string socketPath)
+SyslogSystemLog::SyslogSystemLog(std::string programName, std::string socketPath, Copies copies)
     : _programName(std::move(programName))
     , _socketPath(std::move(socketPath))
+    , _copies(copies)
     , _socket(datagramSocket()) {}
 
+std::string SyslogSystemLog::textOf(std::string_view line) const {
+    return _programName + "[" + std::to_string(::getpid()) + "]: " + escapedLine(line);
+}
+
 void SyslogSystemLog::write(std::string_view line) {
-    const std::string text =
-        _programName + "[" + std::to_string(::getpid()) + "]: " + escapedLine(line);
+    const std::string text = textOf(line);
+    send(lineHead() + text);
+    if (_copies == Copies::all) {
+        copyToStandardError(text + "\n");
+    }
+}
+
+void SyslogSystemLog::writeLast(std::string_view line) {
+    const std::string text = textOf(line);
     send(lineHead() + text);
     copyToStandardError(text + "\n");
 }

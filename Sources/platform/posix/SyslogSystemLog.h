@@ -18,17 +18,27 @@ namespace kx {
 
 class SyslogSystemLog final : public SystemLog {
 public:
+    // The lines that standard error gets too.
+    enum class Copies {
+        all,
+        last, // only the last one, because standard error belongs to what a command has to say
+    };
+
     // Each line begins with `programName` and the number of the process: "kxconfig[123]: LINE".
     // `socketPath` names a datagram socket.
-    explicit SyslogSystemLog(std::string programName, std::string socketPath = "/dev/log");
+    explicit SyslogSystemLog(std::string programName, std::string socketPath = "/dev/log",
+                             Copies copies = Copies::all);
 
     void write(std::string_view line) override;
+    void writeLast(std::string_view line) override;
 
 private:
+    std::string textOf(std::string_view line) const;
     void send(std::string_view text);
 
     std::string _programName;
     std::string _socketPath;
+    Copies _copies;
     FileDescriptor _socket; // holds no descriptor when the system gave none
 };
 

@@ -1,0 +1,321 @@
+#include "commands/CommandRun.h"
+
+#include "addresses/IPv4Address.h"
+#include "conversation/UnitDestination.h"
+#include "support/LocalizedText.h"
+#include "units/UnitCommand.h"
+#include "words/QuotedText.h"
+#include "words/SendFailureText.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <fstream>
+#include <utility>
+
+namespace kx {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+// In this time everybody answers who claims to be the same unit, unless the network is at fault.
+constexpr auto timeForOthers = 10ms;
+
+// A unit that was named is asked for so often within the usual time.
+constexpr int triesForUnits = 4;
+
+// The name under which a person sees an interface.
+std::string titlesOf(const std::vector<HostInterface>& interfaces) {
+    std::string titles;
+    for (const HostInterface& interface : interfaces) {
+        titles += titles.empty() ? "" : ", ";
+        titles += safeForSentence(interface.title);
+    }
+    return titles;
+}
+
+std::string textOf(const UnitName& name) {
+    const auto* const serial = std::get_if<SerialNumberOfUnit>(&name);
+    return serial != nullptr ? serial->text : "id:" + std::get<UnitIDOfUnit>(name).text;
+}
+
+std::string hardwareAddressesOf(const std::vector<const HeardUnit*>& units) {
+    std::string text;
+    for (const HeardUnit* const unit : units) {
+        text += text.empty() ? "" : ", ";
+        text += unit->hardwareAddress();
+    }
+    return text;
+}
+
+// Absent when exactly one unit has the name, and no other unit has its address.
+std::optional<Failure> objectionToUnits(const UnitName& name, const HeardUnits& heard) {
+    const auto units = heard.named(name);
+    const std::string shown = safeForSentence(textOf(name));
+    if (units.empty()) {
+        return failureOf(ErrorCode::notFound,
+                         localizedText("The unit %@ does not answer.", {shown}));
+    }
+    if (units.size() > 1) {
+        return failureOf(ErrorCode::ambiguous, localizedText("Several units answer as %@: %@.",
+                                                             {shown, hardwareAddressesOf(units)}));
+    }
+    if (heard.isDuplicated(*units.front())) {
+        return failureOf(ErrorCode::ambiguous,
+                         localizedText("Another unit has the address of the unit %@.", {shown}));
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+CommandRun::CommandRun(const CommandLine& line, const CommandServices& services)
+    : _line(line)
+    , _services(services)
+    , _document(std::string(line.command->name))
+    , _begun(services.now()) {}
+
+CommandRun::~CommandRun() = default;
+
+int CommandRun::run() {
+    return _line.command->run(*this);
+}
+
+void CommandRun::interrupt(int signal) {
+    _signal = signal;
+    if (_operation != nullptr) {
+        _operation->interrupt();
+    }
+}
+
+void CommandRun::endEarly() {
+    if (_operation != nullptr) {
+        _operation->interrupt();
+    }
+}
+
+CommandRun::Refusal CommandRun::chooseInterfaces() {
+    _interfaces = _services.interfaces.list();
+    const auto askable = askableInterfaces(_interfaces);
+    const auto name = _line.valueOf("-i");
+    if (!name.has_value() || *name == "all") {
+        _chosen = askable;
+        if (_chosen.empty()) {
+            return failureOf(
+                ErrorCode::interface,
+                localizedText("No network interface can broadcast. It needs a link and "
+                              "an IPv4 address."));
+        }
+        if (!name.has_value() && _chosen.size() > 1) {
+            return failureOf(ErrorCode::interface,
+                             localizedText("Several network interfaces can broadcast. Choose one "
+                                           "with -i: %@.",
+                                           {titlesOf(_chosen)}));
+        }
+        return std::nullopt;
+    }
+    _chosen = interfacesNamed(_interfaces, *name);
+    if (_chosen.empty()) {
+        return Failure{ErrorCode::interface,
+                       localizedText("There is no network interface “%@”. There are: %@.",
+                                     {safeForSentence(*name), titlesOf(_interfaces)}),
+                       exitWrong};
+    }
+    if (_chosen.size() > 1) {
+        return Failure{
+            ErrorCode::ambiguous,
+            localizedText("“%@” may mean: %@.", {safeForSentence(*name), titlesOf(_chosen)}),
+            exitWrong};
+    }
+    if (!_chosen.front().canAsk) {
+        return failureOf(ErrorCode::interface,
+                         localizedText("%@ cannot broadcast. It needs a link and an IPv4 address.",
+                                       {safeForSentence(_chosen.front().title)}));
+    }
+    return std::nullopt;
+}
+
+CommandRun::Refusal CommandRun::openExchange() {
+    if (auto refusal = openCapture()) {
+        return refusal;
+    }
+    UnitSession::Services session{
+        .runLoop = _services.session.runLoop,
+        .hostResolver = _services.session.hostResolver,
+        .systemCalls = _capture != nullptr ? *_capture : _services.session.systemCalls,
+        .receiveBuffers = _services.session.receiveBuffers};
+    _exchange = std::make_unique<UnitExchange>(
+        UnitExchange::Services{.session = session, .now = _services.now});
+    std::vector<std::uint32_t> own;
+    for (const HostInterface& interface : _interfaces) {
+        for (const NetworkOfInterface& network : interface.networks) {
+            own.push_back(network.address);
+        }
+    }
+    _exchange->setOwnAddresses(std::move(own));
+    const auto failure = _exchange->open(_line.ports);
+    if (!failure.has_value()) {
+        return std::nullopt;
+    }
+    if (!failure->arePortsTaken) {
+        return failureOf(ErrorCode::socket, localizedText("The UDP port cannot be opened: %@.",
+                                                          {failure->error.localizedDescription()}));
+    }
+    return failureOf(ErrorCode::port,
+                     _line.ports.size() == 1
+                         ? localizedText("UDP port %d is taken by another program.",
+                                         {static_cast<int>(_line.ports.front())})
+                         : localizedText("All of the UDP ports 3520 to 3523 are taken by other "
+                                         "programs."));
+}
+
+CommandRun::Refusal CommandRun::openCapture() {
+    const auto path = _line.valueOf("--capture");
+    if (!path.has_value()) {
+        return std::nullopt;
+    }
+    if (auto refusal = objectionToFile(*path)) {
+        return refusal;
+    }
+    _captureFile = std::make_shared<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
+    const auto write = [file = _captureFile](ByteView bytes) {
+        file->write(reinterpret_cast<const char*>(bytes.data()),
+                    static_cast<std::streamsize>(bytes.size()));
+        file->flush();
+    };
+    const auto ownAddress = [this](std::uint32_t link) {
+        for (const HostInterface& interface : _interfaces) {
+            if (interface.link == link && !interface.networks.empty()) {
+                return interface.networks.front().address;
+            }
+        }
+        return std::uint32_t{0};
+    };
+    _capture = std::make_unique<CapturingSystemCalls>(
+        _services.session.systemCalls, CapturingSystemCalls::Services{.write = write,
+                                                                      .now = _services.utc,
+                                                                      .ownAddress = ownAddress});
+    return std::nullopt;
+}
+
+CommandRun::Refusal CommandRun::objectionToFile(const std::string& path) {
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
+    if (descriptor < 0) {
+        return failureOf(ErrorCode::file,
+                         localizedText("“%@” cannot be written: %@.",
+                                       {safeForSentence(path), posixErrorText(errno)}));
+    }
+    ::close(descriptor);
+    return std::nullopt;
+}
+
+std::vector<UnitTarget> CommandRun::everybody() const {
+    std::vector<UnitTarget> targets;
+    targets.reserve(_chosen.size());
+    for (const HostInterface& interface : _chosen) {
+        targets.push_back(
+            {.address = interface.broadcast(), .port = defaultUnitPort, .link = interface.link});
+    }
+    return targets;
+}
+
+// A unit may have answered by another link than the one on which it was asked.
+UnitTarget CommandRun::everybodyOf(std::uint32_t link) const {
+    const auto found = std::ranges::find(_interfaces, link, &HostInterface::link);
+    return {.address = found != _interfaces.end() ? found->broadcast() : limitedBroadcastAddress,
+            .port = defaultUnitPort,
+            .link = link};
+}
+
+void CommandRun::wait(Operation& operation) {
+    _operation = &operation;
+    operation.begin({});
+    if (isInterrupted()) {
+        operation.interrupt();
+    }
+    _services.session.runLoop.runUntil([&operation] { return operation.hasEnded(); });
+    _operation = nullptr;
+    endProgress();
+}
+
+CommandRun::Refusal CommandRun::readNames(const std::vector<std::string>& words,
+                                          std::vector<UnitName>& names) const {
+    for (const std::string& word : words) {
+        auto name = unitNameForText(word);
+        if (!name.has_value()) {
+            return failureOf(ErrorCode::value,
+                             localizedText("“%@” names no unit. Write a serial number of six pairs "
+                                           "of digits, such as 4B5800000001, or id:TEXT.",
+                                           {safeForSentence(word)}));
+        }
+        names.push_back(std::move(*name));
+    }
+    return std::nullopt;
+}
+
+CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
+                                          std::vector<HeardUnit>& found) {
+    // Whether only one unit has a unit ID is known when everybody has had time to answer.
+    const bool areSerialNumbers = std::ranges::all_of(names, [](const UnitName& name) {
+        return std::holds_alternative<SerialNumberOfUnit>(name);
+    });
+    DiscoveryPlan plan{
+        .everybody = everybody(),
+        .tries = triesForUnits,
+        .settling = timeForOthers,
+        .heard = [this](const HeardUnits& units) { showProgress(std::to_string(units.count())); }};
+    if (areSerialNumbers) {
+        plan.isEnough = [&names](const HeardUnits& units) {
+            return std::ranges::none_of(
+                names, [&units](const UnitName& name) { return units.named(name).empty(); });
+        };
+    }
+    Discovery discovery(exchange(), std::move(plan));
+    wait(discovery);
+    if (!discovery.hasAsked()) {
+        return refusalOfSend(discovery.failure());
+    }
+    Refusal first;
+    for (const UnitName& name : names) {
+        auto refusal = objectionToUnits(name, discovery.units());
+        if (!refusal.has_value()) {
+            found.push_back(*discovery.units().named(name).front());
+        } else if (!first.has_value()) {
+            first = std::move(refusal);
+        }
+    }
+    return first;
+}
+
+CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) {
+    std::vector<HeardUnit> found;
+    if (auto refusal = findUnits({name}, found)) {
+        return refusal;
+    }
+    unit = found.front();
+    return std::nullopt;
+}
+
+CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUnit& unit) {
+    std::vector<UnitName> names;
+    if (auto refusal = readNames({typedName}, names)) {
+        return refusal;
+    }
+    if (auto refusal = chooseInterfaces()) {
+        return refusal;
+    }
+    if (auto refusal = openExchange()) {
+        return refusal;
+    }
+    return findUnit(names.front(), unit);
+}
+
+CommandRun::Refusal CommandRun::refusalOfSend(const std::optional<SendFailure>& failure) {
+    return failure.has_value() ? Refusal(failureOf(ErrorCode::socket, noteOfSendFailure(*failure)))
+                               : std::nullopt;
+}
+
+} // namespace kx

@@ -1,0 +1,152 @@
+// One run of a command: what it was told, what it may use, and what it has to say.
+//
+// The functions of Commands.h work through an object of this class. Data goes to standard output,
+// sentences go to standard error, and with --json the document goes to standard output at the end.
+//
+// Threading: the main thread only. Ownership: the services must outlive the run.
+
+#pragma once
+
+#include "commands/CommandLine.h"
+#include "commands/Document.h"
+#include "commands/ExitStatus.h"
+#include "conversation/AddressBindings.h"
+#include "conversation/AddressHolders.h"
+#include "conversation/Discovery.h"
+#include "conversation/HostInterface.h"
+#include "conversation/Operation.h"
+#include "conversation/UnitExchange.h"
+#include "files/CapturingSystemCalls.h"
+#include "support/Console.h"
+#include "support/WallClock.h"
+
+#include <chrono>
+#include <fstream>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace kx {
+
+struct CommandServices {
+    UnitSession::Services session;
+    MonotonicClock now;
+    std::function<std::chrono::microseconds()> utc; // since the beginning of 1970
+    const WallClock& wallClock;
+    Console& console;
+    HostInterfaces& interfaces;
+    NeighbourTable& neighbours;
+    AddressProbes* probes = nullptr; // may be null
+    AddressBindings& bindings;
+};
+
+class CommandRun {
+public:
+    CommandRun(const CommandLine& line, const CommandServices& services);
+    ~CommandRun();
+    CommandRun(const CommandRun&) = delete;
+    CommandRun& operator=(const CommandRun&) = delete;
+
+    // Runs the command of the line to its end, and returns the exit status.
+    int run();
+
+    // A signal came. The operation under way is told.
+    void interrupt(int signal);
+
+    // --- For the functions of Commands.h ---
+
+    const CommandLine& line() const { return _line; }
+    const CommandServices& services() const { return _services; }
+    Document& document() { return _document; }
+    bool wantsDocument() const { return _line.has("--json"); }
+    bool isInterrupted() const { return _signal != 0; }
+
+    // Why the command cannot go on; absent when it can.
+    using Refusal = std::optional<Failure>;
+
+    // Chooses the interfaces on which units are asked. `interfaces()` has all of them then.
+    Refusal chooseInterfaces();
+    const std::vector<HostInterface>& interfaces() const { return _interfaces; }
+    const std::vector<HostInterface>& chosen() const { return _chosen; }
+
+    // Begins to listen, and to capture when that is wanted. Interfaces must be chosen.
+    Refusal openExchange();
+    UnitExchange& exchange() { return *_exchange; }
+
+    // The broadcast addresses of the chosen interfaces.
+    std::vector<UnitTarget> everybody() const;
+    UnitTarget everybodyOf(std::uint32_t link) const;
+
+    // Runs the loop until the operation has ended.
+    void wait(Operation& operation);
+
+    // Finds the units of these names. `found` gets the units that answer and that no other unit can
+    // be taken for; the refusal is about the first that does not.
+    Refusal findUnits(const std::vector<UnitName>& names, std::vector<HeardUnit>& found);
+
+    // The same for one unit.
+    Refusal findUnit(const UnitName& name, HeardUnit& unit);
+
+    // The steps of a command for one unit: interfaces, listening, and the unit itself.
+    Refusal reachUnit(const std::string& typedName, HeardUnit& unit);
+
+    // Reads the names of units, or says which word is none.
+    Refusal readNames(const std::vector<std::string>& words, std::vector<UnitName>& names) const;
+
+    // Whether a file can be written. It is made when it is not there.
+    static Refusal objectionToFile(const std::string& path);
+
+    // Writes data to standard output, unless the document is wanted.
+    void print(std::string_view text);
+    bool isBold() const;
+
+    // Writes one sentence to standard error, unless the person wants quiet.
+    void say(const std::string& sentence);
+    void warn(std::string_view code, const std::string& sentence);
+
+    // Ends the operation under way, because nobody reads what it tells.
+    void endEarly();
+
+    // Shows how far the command has come, on a terminal.
+    void showProgress(std::string_view text);
+    void endProgress();
+
+    // Asks a person. Absent when nobody can be asked or nobody answered.
+    std::optional<std::string> ask(const std::string& question);
+
+    // Why a datagram was not sent, as the reason why a command cannot go on; absent without one.
+    static Refusal refusalOfSend(const std::optional<SendFailure>& failure);
+
+    // Ends the command: tells the failure, prints the document, and returns the exit status.
+    int finish(std::optional<Failure> failure = {});
+
+private:
+    Refusal openCapture();
+    void tellFailure(const Failure& failure);
+    void takeSignal();
+
+    const CommandLine& _line;
+    CommandServices _services;
+    Document _document;
+    std::vector<HostInterface> _interfaces;
+    std::vector<HostInterface> _chosen;
+    std::shared_ptr<std::ofstream> _captureFile; // null without a capture
+    std::unique_ptr<CapturingSystemCalls> _capture;
+    std::unique_ptr<UnitExchange> _exchange;
+    Operation* _operation = nullptr; // under way
+    std::chrono::milliseconds _begun;
+    std::optional<std::chrono::milliseconds> _latestProgress;
+    int _signal = 0;
+    bool _showsProgress = false;
+};
+
+// The command line without the program's name. When there is nothing to run, because it is wrong or
+// asks for help or the version, that has been told, and the result is the exit status.
+std::variant<CommandLine, int> readCommandLine(const std::vector<std::string>& arguments,
+                                               Console& console);
+
+} // namespace kx

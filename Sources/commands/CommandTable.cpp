@@ -1,0 +1,180 @@
+#include "commands/CommandTable.h"
+
+#include "commands/Commands.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kx {
+
+namespace {
+
+using Text = std::string_view;
+
+constexpr std::array general{
+    OptionRow{"-i", "NAME", ValueKind::interface,
+              "the network interface: its name (kx0), its title (\"Office (kx0)\") or the name of "
+              "its profile; \"all\" asks each in turn. Not needed when only one can broadcast."},
+    OptionRow{"--port", "PORT", ValueKind::port,
+              "the UDP port to listen on: 3520, 3521, 3522, 3523, or auto for the first that is "
+              "free (auto)"},
+    OptionRow{"--json", "", ValueKind::none, "print one JSON document"},
+    OptionRow{"--quiet", "", ValueKind::none, "no sentences and no progress; errors stay"},
+    OptionRow{"--capture", "FILE", ValueKind::file,
+              "write every datagram to a file in the format pcapng"},
+    OptionRow{"--help", "", ValueKind::none, "print the help"},
+    OptionRow{"--version", "", ValueKind::none, "print the version"},
+};
+
+constexpr std::array discoverOptions{
+    OptionRow{"--wait", "S", ValueKind::text, "collect answers for S seconds (2.0)"},
+    OptionRow{"--tries", "N", ValueKind::text, "send N requests in all, spread over that time (2)"},
+    OptionRow{"--expect", "N", ValueKind::text,
+              "end as soon as N units have answered; with fewer the exit status is 1"},
+    OptionRow{"--limited", "", ValueKind::none,
+              "also ask 255.255.255.255, which reaches units of other subnets on the link"},
+    OptionRow{"--csv", "", ValueKind::none, "print comma-separated values"},
+    OptionRow{"--save", "FILE", ValueKind::file, "write the JSON document to a file too"},
+};
+constexpr std::array showOptions{
+    OptionRow{"--all", "", ValueKind::none, "show every unit that answers"},
+    OptionRow{"--csv", "", ValueKind::none, "print comma-separated values"},
+};
+constexpr std::array setOptions{
+    OptionRow{"--dry-run", "", ValueKind::none, "tell what would be changed, and change nothing"},
+    OptionRow{"--loose", "", ValueKind::none,
+              "take values as the window does, even when that changes them"},
+};
+constexpr std::array optionOptions{
+    OptionRow{"--clock", "", ValueKind::none, "set the unit's clock to this host's local time"},
+};
+constexpr std::array restoreOptions{
+    OptionRow{"--everyone", "", ValueKind::none, "restore every unit that hears the command"},
+    OptionRow{"--yes", "", ValueKind::none, "do not ask whether this is meant"},
+};
+constexpr std::array watchOptions{
+    OptionRow{"--every", "S", ValueKind::text, "ask every S seconds (2.0)"},
+    OptionRow{"--for", "S", ValueKind::text, "end after S seconds"},
+    OptionRow{"--until", "N", ValueKind::text,
+              "end as soon as N units are there; with fewer at the end the exit status is 1"},
+};
+
+constexpr std::array<Text, 2> interfacesExamples{"kxctl interfaces", "kxctl --json interfaces"};
+constexpr std::array<Text, 3> discoverExamples{"kxctl discover -i kx0",
+                                               "kxctl discover --expect 12 --wait 5",
+                                               "kxctl discover --csv > rack.csv"};
+constexpr std::array<Text, 3> showExamples{"kxctl show 4B5800000001", "kxctl show id:RACK7A",
+                                           "kxctl show --all --json"};
+constexpr std::array<Text, 2> setExamples{
+    "kxctl set 4B:58:00:00:00:01 unit-id=RACK7A destination-port=3521",
+    "kxctl set id:RACK7A internal-ip=192.0.2.41 --dry-run"};
+constexpr std::array<Text, 2> optionExamples{"kxctl option 4B5800000001 V",
+                                             "kxctl option 4B5800000001 --clock"};
+constexpr std::array<Text, 2> restoreExamples{"kxctl restore 4B5800000001",
+                                              "kxctl restore --everyone --yes -i kx0"};
+constexpr std::array<Text, 2> watchExamples{"kxctl watch --every 5",
+                                            "kxctl watch --until 12 --for 60 --json"};
+constexpr std::array<Text, 1> checkExamples{"kxctl check 192.0.2.41 192.0.2.42"};
+
+constexpr std::array<Text, 1> interfacesKeys{"interfaces"};
+constexpr std::array<Text, 7> discoverKeys{"interface", "port",     "units",   "duplicates",
+                                           "dropped",   "rejected", "complete"};
+constexpr std::array<Text, 1> unitsKeys{"units"};
+constexpr std::array<Text, 1> changesKeys{"changes"};
+constexpr std::array<Text, 1> repliesKeys{"replies"};
+constexpr std::array<Text, 1> addressesKeys{"addresses"};
+
+constexpr Text unitText =
+    "A unit is named by its serial number, six pairs of hexadecimal digits with blanks, colons, "
+    "dashes or nothing between them, or by id:TEXT, a unit ID that exactly one unit has.";
+
+constexpr Text setText =
+    "Changes parameters of one unit, and reads them back until the unit shows them. A unit is "
+    "named "
+    "by its serial number or by id:TEXT. The parameters are unit-id, internal-ip, internal-mac, "
+    "destination-ip, destination-mac, destination-port, device-port and serial; the names in the "
+    "window are understood as well.\n\n"
+    "A value that the unit would get in another form than it was typed is refused; --loose takes "
+    "it.\n\n"
+    "A new internal-ip must lie in the interface's network and must be held by nobody. It needs "
+    "administrator rights for a moment, to enter the unit's hardware address into the ARP cache.";
+
+constexpr std::array commands{
+    CommandRow{"interfaces",
+               "",
+               "list the network interfaces",
+               "Lists the network interfaces of this host. Units can be asked where the column "
+               "can-ask says yes: there the interface carries datagrams, can broadcast, and has an "
+               "IPv4 address.",
+               {},
+               interfacesExamples,
+               interfacesKeys,
+               0,
+               0,
+               ValueKind::none,
+               runInterfaces},
+    CommandRow{"discover", "", "list the units that answer a broadcast",
+               "Broadcasts a parameter request, collects the answers, and lists the units in the "
+               "order of their serial numbers. A serial number under two hardware addresses and an "
+               "address under two serial numbers are warnings.",
+               discoverOptions, discoverExamples, discoverKeys, 0, 0, ValueKind::none, runDiscover},
+    CommandRow{"show", "UNIT...", "show every parameter of units", unitText, showOptions,
+               showExamples, unitsKeys, 0, anyNumberOfWords, ValueKind::text, runShow},
+    CommandRow{"set", "UNIT NAME=VALUE...", "change parameters of a unit", setText, setOptions,
+               setExamples, changesKeys, 2, anyNumberOfWords, ValueKind::parameter, runSet},
+    CommandRow{
+        "option", "UNIT TEXT", "send an option command to a unit",
+        "Sends a text as an option command and prints what the unit answers within a second. "
+        "The text is sent once, whether an answer comes or not. A text that looks like an "
+        "option of kxctl stands behind --.",
+        optionOptions, optionExamples, repliesKeys, 1, 2, ValueKind::text, runOption},
+    CommandRow{"restore", "UNIT", "restore a unit's factory settings",
+               "Restores the factory settings of a unit, and shows its parameters afterwards. It "
+               "asks first. --everyone broadcasts the command; it first tells how many units "
+               "answer.",
+               restoreOptions, restoreExamples, unitsKeys, 0, 1, ValueKind::text, runRestore},
+    CommandRow{"watch",
+               "",
+               "tell which units come, change and go",
+               "Asks everybody again and again, and prints a line for each unit that appears, "
+               "changes, falls silent or comes back. A unit is silent after three requests without "
+               "an answer. With --json each line is a document, and the last one tells the exit "
+               "status.",
+               watchOptions,
+               watchExamples,
+               {},
+               0,
+               0,
+               ValueKind::none,
+               runWatch},
+    CommandRow{"check",
+               "ADDRESS...",
+               "tell who holds IPv4 addresses",
+               "Tells for each address whether somebody holds it, and who: a hardware address, and "
+               "a serial number when it is a unit. For root it sends ARP probes, which find every "
+               "holder; otherwise it watches the system's neighbour table, which finds one.",
+               {},
+               checkExamples,
+               addressesKeys,
+               1,
+               anyNumberOfWords,
+               ValueKind::text,
+               runCheck},
+};
+
+} // namespace
+
+std::span<const CommandRow> commandTable() {
+    return commands;
+}
+
+std::span<const OptionRow> generalOptions() {
+    return general;
+}
+
+const CommandRow* commandForName(std::string_view name) {
+    const auto* const found = std::ranges::find(commands, name, &CommandRow::name);
+    return found != commands.end() ? found : nullptr;
+}
+
+} // namespace kx

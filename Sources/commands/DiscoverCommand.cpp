@@ -1,0 +1,156 @@
+// discover: broadcasts, collects the answers, and lists them in the order of serial numbers.
+
+#include "commands/CommandRun.h"
+#include "commands/Commands.h"
+#include "commands/UnitTables.h"
+#include "conversation/UnitDestination.h"
+#include "support/LocalizedText.h"
+#include "units/UnitCommand.h"
+
+#include <cerrno>
+#include <fstream>
+
+namespace kx {
+
+namespace {
+
+using Refusal = CommandRun::Refusal;
+
+struct DiscoverOptions {
+    DiscoveryPlan plan;
+    std::optional<std::int32_t> expected;
+};
+
+Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
+    const TimeOption wait = secondsOf(line, "--wait");
+    const NumberOption tries = wholeNumberOf(line, "--tries");
+    const NumberOption expected = wholeNumberOf(line, "--expect");
+    for (const auto& failure : {wait.failure, tries.failure, expected.failure}) {
+        if (failure.has_value()) {
+            return failure;
+        }
+    }
+    options.plan.wait = wait.time.value_or(options.plan.wait);
+    options.plan.tries = tries.number.value_or(options.plan.tries);
+    options.expected = expected.number;
+    const auto file = line.valueOf("--save");
+    return file.has_value() ? CommandRun::objectionToFile(*file) : std::nullopt;
+}
+
+void addPlaces(const CommandRun& run, DiscoveryPlan& plan) {
+    plan.everybody = run.everybody();
+    if (run.line().has("--limited")) {
+        for (const HostInterface& interface : run.chosen()) {
+            plan.everybody.push_back({.address = limitedBroadcastAddress,
+                                      .port = defaultUnitPort,
+                                      .link = interface.link});
+        }
+    }
+}
+
+std::string joined(const std::vector<std::string>& texts) {
+    std::string result;
+    for (const std::string& text : texts) {
+        result += (result.empty() ? "" : ", ") + text;
+    }
+    return result;
+}
+
+void warnOfDuplicates(CommandRun& run, const HeardUnits& units) {
+    for (const DuplicateAddress& duplicate : units.duplicateAddresses()) {
+        run.warn("ambiguous", localizedText("Several units have the address %@: %@.",
+                                            {duplicate.address, joined(duplicate.serialNumbers)}));
+    }
+    for (const DuplicateSerialNumber& duplicate : units.duplicateSerialNumbers()) {
+        run.warn("ambiguous",
+                 localizedText("Several units have the serial number %@: %@.",
+                               {duplicate.serialNumber, joined(duplicate.hardwareAddresses)}));
+    }
+}
+
+void fillDocument(CommandRun& run, const HeardUnits& units) {
+    Document& document = run.document();
+    const std::uint32_t dropped = run.exchange().dropped();
+    for (const HeardUnit* const unit : units.all()) {
+        document["units"].push_back(jsonOfUnit(*unit, run.interfaces()));
+    }
+    document["duplicates"] = jsonOfDuplicates(units);
+    document["dropped"] = dropped;
+    document["rejected"] = run.exchange().rejected();
+    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted();
+    if (dropped > 0) {
+        run.warn("dropped", localizedText("The system had no room for %d datagrams. Units may be "
+                                          "missing.",
+                                          {static_cast<int>(dropped)}));
+    }
+    warnOfDuplicates(run, units);
+}
+
+Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& expected) {
+    const auto count = static_cast<long long>(units.count());
+    if (expected.has_value() && count < *expected) {
+        return failureOf(ErrorCode::fewer, localizedText("%d of %d units have answered.",
+                                                         {count, static_cast<int>(*expected)}));
+    }
+    return count == 0
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
+}
+
+// The file was looked at before anything was sent.
+Refusal save(CommandRun& run, const Refusal& failure) {
+    const auto path = run.line().valueOf("--save");
+    if (!path.has_value()) {
+        return failure;
+    }
+    const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
+    std::ofstream file(*path, std::ios::binary | std::ios::trunc);
+    file << run.document().text(exitStatus, failure) << std::flush;
+    if (!file) {
+        return Failure{ErrorCode::file,
+                       localizedText("“%@” cannot be written: %@.", {*path, posixErrorText(errno)}),
+                       exitCannotAsk};
+    }
+    return failure;
+}
+
+} // namespace
+
+int runDiscover(CommandRun& run) {
+    DiscoverOptions options;
+    for (const auto& step : std::initializer_list<std::function<Refusal()>>{
+             [&] { return readOptions(run.line(), options); },
+             [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); }}) {
+        if (auto refusal = step()) {
+            return run.finish(std::move(refusal));
+        }
+    }
+    addPlaces(run, options.plan);
+    if (options.expected.has_value()) {
+        options.plan.isEnough = [expected = *options.expected](const HeardUnits& units) {
+            return units.count() >= static_cast<std::size_t>(expected);
+        };
+    }
+    options.plan.heard = [&run](const HeardUnits& units) {
+        run.showProgress(std::to_string(units.count()));
+    };
+    run.document()["interface"] =
+        run.chosen().size() == 1 ? Json(run.chosen().front().name) : Json("all");
+    run.document()["port"] = run.exchange().port();
+
+    Discovery discovery(run.exchange(), options.plan);
+    run.wait(discovery);
+    if (!discovery.hasAsked()) {
+        return run.finish(CommandRun::refusalOfSend(discovery.failure()));
+    }
+    const HeardUnits& units = discovery.units();
+    fillDocument(run, units);
+    if (run.line().has("--csv")) {
+        run.print(csvOfUnits(units.all(), run.interfaces()));
+    } else if (units.count() > 0) {
+        run.print(tableOfUnits(units.all(), run.interfaces(), run.isBold()));
+    }
+    return run.finish(save(run, resultOf(units, options.expected)));
+}
+
+} // namespace kx

@@ -1,0 +1,54 @@
+// The JSON document of a command (RFC 8259). It is the same whatever happened: every key is there,
+// also when nothing was found or the command line was wrong.
+//
+// Main thread only. Texts are UTF-8; foreign texts may hold anything.
+
+#pragma once
+
+#include "commands/CommandTable.h"
+#include "commands/ExitStatus.h"
+#include "conversation/HeardUnits.h"
+#include "conversation/HostInterface.h"
+
+#include <nlohmann/json.hpp>
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace kx {
+
+// Keeps the order of its keys.
+using Json = nlohmann::ordered_json;
+
+class Document {
+public:
+    // With the keys of the command, each without a value yet. `command` is absent when the command
+    // line names none.
+    explicit Document(const std::optional<std::string>& command);
+
+    Json& operator[](std::string_view key) { return _json[std::string(key)]; }
+
+    void warn(std::string_view code, std::string_view message);
+
+    // One line that ends with a line break. Characters beyond ASCII are escaped; what is no UTF-8
+    // is replaced.
+    std::string text(int exitStatus, const std::optional<Failure>& failure);
+
+private:
+    Json _json;
+};
+
+// A document of any kind on one line, as Document::text() writes it.
+std::string lineOfJson(const Json& json);
+
+// The name of the interface with this index; null when it is none of these.
+Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link);
+
+Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
+
+// The two kinds of units that cannot be told apart, as one list.
+Json jsonOfDuplicates(const HeardUnits& units);
+
+} // namespace kx

@@ -1,0 +1,311 @@
+// set: changes parameters of one unit, and reads them back.
+
+#include "addresses/IPv4Address.h"
+#include "commands/CommandRun.h"
+#include "commands/Commands.h"
+#include "commands/TextTable.h"
+#include "conversation/UnitEdits.h"
+#include "support/LocalizedText.h"
+#include "support/TextEncoding.h"
+#include "units/ExactEdit.h"
+#include "words/QuotedText.h"
+#include "words/SendFailureText.h"
+
+#include <algorithm>
+
+namespace kx {
+
+namespace {
+
+using Refusal = CommandRun::Refusal;
+using Edits = std::vector<ExactEdit>;
+
+std::string_view identifierOf(const ExactEdit& edit) {
+    return descriptionOf(edit.edit.parameter).identifier;
+}
+
+Refusal objectionToValue(const ExactEdit& edit) {
+    const std::string typed = safeForSentence(edit.edit.typed);
+    const std::string value = safeForSentence(edit.edit.value);
+    const std::string_view name = identifierOf(edit);
+    switch (edit.edit.change) {
+    case ValueChange::readAs:
+    case ValueChange::notANumber:
+    case ValueChange::notAnAddress:
+    case ValueChange::outOfRange:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@: “%@” would become %@.", {name, typed, value}));
+    case ValueChange::notHexadecimal:
+        return failureOf(
+            ErrorCode::value,
+            localizedText("%@: “%@” is not hexadecimal and would be sent as it stands.",
+                          {name, typed}));
+    case ValueChange::wrongLength:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@: “%@” has another length than units take. It would be "
+                                       "sent as it stands.",
+                                       {name, typed}));
+    case ValueChange::notShown:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@: a unit does not show %@ as a number. The highest is "
+                                       "255.",
+                                       {name, typed}));
+    case ValueChange::none:
+        break;
+    }
+    return std::nullopt;
+}
+
+Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
+    const std::size_t equals = word.find('=');
+    const std::string name = word.substr(0, equals);
+    const auto parameter = unitParameterForTypedName(name);
+    if (equals == std::string::npos || !parameter.has_value()) {
+        return failureOf(ErrorCode::usage,
+                         localizedText("“%@” is not NAME=VALUE with the name of a parameter. See "
+                                       "kxctl set --help.",
+                                       {safeForSentence(word)}));
+    }
+    const auto edit = exactEdit(*parameter, word.substr(equals + 1));
+    if (const auto* const refusal = std::get_if<EditRefusal>(&edit)) {
+        return failureOf(ErrorCode::value, *refusal == EditRefusal::emptyValue
+                                               ? localizedText("%@ has no value.", {name})
+                                               : localizedText("The value of %@ is not a text in "
+                                                               "UTF-8.",
+                                                               {name}));
+    }
+    const auto& exact = std::get<ExactEdit>(edit);
+    if (exact.isChanged && !isLoose) {
+        return objectionToValue(exact);
+    }
+    if (!asciiBytes(exact.edit.command).has_value() || exact.edit.isTooLong()) {
+        return failureOf(ErrorCode::value,
+                         localizedText("The value of %@ does not fit into a command.", {name}));
+    }
+    if (std::ranges::any_of(
+            edits, [&](const ExactEdit& other) { return other.edit.parameter == *parameter; })) {
+        return failureOf(ErrorCode::usage, localizedText("%@ is there twice.", {name}));
+    }
+    edits.push_back(exact);
+    return std::nullopt;
+}
+
+// A new address must be one that another host on the interface may have.
+Refusal objectionToAddress(const std::vector<HostInterface>& interfaces, const std::string& typed) {
+    const std::uint32_t address = ipForString(typed);
+    const NetworkOfInterface* network = nullptr;
+    for (const HostInterface& interface : interfaces) {
+        const NetworkOfInterface* const found = interface.networkOf(address);
+        network = found != nullptr ? found : network;
+    }
+    if (network == nullptr) {
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ lies in no network of the interface.", {typed}));
+    }
+    // In a network of two hosts every address is a host's (RFC 3021).
+    const bool hasOnlyHosts = ~network->mask <= 1;
+    if (address == network->address) {
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ is this host's own address.", {typed}));
+    }
+    if (!hasOnlyHosts &&
+        (address == (network->address & network->mask) || address == network->broadcast())) {
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ is the address of a whole network.", {typed}));
+    }
+    return std::nullopt;
+}
+
+Refusal objectionToAddresses(const std::vector<HostInterface>& interfaces, const Edits& edits) {
+    for (const ExactEdit& edit : edits) {
+        if (edit.edit.parameter == UnitParameter::internalIPAddress) {
+            return objectionToAddress(interfaces, edit.edit.typed);
+        }
+    }
+    return std::nullopt;
+}
+
+std::string_view nameOf(ChangeState state) {
+    switch (state) {
+    case ChangeState::planned:
+        return "planned";
+    case ChangeState::done:
+        return "done";
+    case ChangeState::unchanged:
+        return "unchanged";
+    case ChangeState::refused:
+        return "refused";
+    case ChangeState::different:
+        return "different";
+    case ChangeState::silent:
+        break;
+    }
+    return "silent";
+}
+
+void report(CommandRun& run, const std::string& serial, const std::vector<UnitChange>& changes) {
+    TextTable table({"parameter", "from", "to", "command", "state"});
+    for (const UnitChange& change : changes) {
+        const auto name = std::string(identifierOf(change.edit));
+        const auto state = std::string(nameOf(change.state));
+        Json json;
+        json["serial"] = serial;
+        json["parameter"] = name;
+        json["from"] = change.from.has_value() ? Json(*change.from) : Json(nullptr);
+        json["to"] = change.to;
+        json["command"] = change.command;
+        json["state"] = state;
+        run.document()["changes"].push_back(std::move(json));
+        table.addRow({name, change.from.value_or(""), change.to, change.command, state});
+    }
+    run.print(table.text(run.isBold()));
+}
+
+std::string holdersOf(const AddressHolders& holders) {
+    std::string text;
+    for (const auto& holder : holders.holders) {
+        text += (text.empty() ? "" : ", ") + holder.hardwareAddress;
+    }
+    return text;
+}
+
+// Why the move to another address has not begun, or what is wrong after it.
+Refusal failureOfMove(const AddressMove& move) {
+    switch (move.state()) {
+    case MoveState::held:
+        return failureOf(ErrorCode::held,
+                         localizedText("%@ is held by %@.", {stringForIP(move.holders().address),
+                                                             holdersOf(move.holders())}));
+    case MoveState::unknownHolder:
+        return failureOf(ErrorCode::interface,
+                         localizedText("Whether somebody holds %@ could not be found out.",
+                                       {stringForIP(move.holders().address)}));
+    case MoveState::notBound:
+        return failureOf(ErrorCode::rights,
+                         localizedText("The entry in the ARP cache could not be made, so nothing "
+                                       "was sent."));
+    case MoveState::foreignAnswer:
+        return move.foreignHardwareAddress().empty()
+                   ? failureOf(ErrorCode::half,
+                               localizedText("The unit shows %@ but does not answer ARP requests "
+                                             "for it.",
+                                             {stringForIP(move.holders().address)}))
+                   : failureOf(
+                         ErrorCode::half,
+                         localizedText("The unit %@ shows %@, but %@ answers ARP requests for "
+                                       "it.",
+                                       {move.hardwareAddress(), stringForIP(move.holders().address),
+                                        move.foreignHardwareAddress()}));
+    case MoveState::notBegun:
+    case MoveState::commanded:
+    case MoveState::moved:
+        break;
+    }
+    return std::nullopt;
+}
+
+bool isIn(const std::vector<UnitChange>& changes, ChangeState state) {
+    return std::ranges::find(changes, state, &UnitChange::state) != changes.end();
+}
+
+// What the states of all changes mean together.
+Refusal failureOfChanges(const UnitEdits& edits) {
+    const auto& changes = edits.changes();
+    const bool isDone = isIn(changes, ChangeState::done);
+    const bool isSilent = isIn(changes, ChangeState::silent);
+    const bool isDifferent = isIn(changes, ChangeState::different);
+    const std::string unit(edits.unit().serialNumber());
+    if (isDone && (isSilent || isDifferent || isIn(changes, ChangeState::refused))) {
+        return failureOf(
+            ErrorCode::half,
+            localizedText("The unit %@ has taken some of the values and not others.", {unit}));
+    }
+    if (isSilent) {
+        return failureOf(ErrorCode::silent,
+                         localizedText("The unit %@ has not answered since the command.", {unit}));
+    }
+    if (!isDifferent) {
+        return std::nullopt;
+    }
+    const bool isOld = std::ranges::all_of(changes, [](const UnitChange& change) {
+        return change.state != ChangeState::different || change.shown == change.from;
+    });
+    return isOld ? failureOf(ErrorCode::unchanged,
+                             localizedText("The unit %@ shows the old value.", {unit}))
+                 : failureOf(ErrorCode::differs,
+                             localizedText("The unit %@ shows another value.", {unit}));
+}
+
+Refusal failureOfEdits(const UnitEdits& edits) {
+    if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
+        return failureOfMove(*edits.move());
+    }
+    auto failure = failureOfChanges(edits);
+    if (failure.has_value() && failure->code != ErrorCode::unchanged) {
+        return failure;
+    }
+    if (edits.isAmbiguous()) {
+        return failureOf(ErrorCode::ambiguous,
+                         localizedText("Another unit answers with the same serial number."));
+    }
+    if (auto refusal = CommandRun::refusalOfSend(edits.failure())) {
+        return refusal;
+    }
+    if (edits.move() != nullptr) {
+        if (auto refusal = failureOfMove(*edits.move())) {
+            return refusal;
+        }
+    }
+    return failure;
+}
+
+int edit(CommandRun& run, const HeardUnit& unit, std::vector<UnitChange> changes) {
+    const std::string serial(unit.serialNumber());
+    const AddressMove::Services moveServices{
+        .holders = {.neighbours = run.services().neighbours, .probes = run.services().probes},
+        .bindings = run.services().bindings};
+    UnitEdits edits(run.exchange(), &moveServices, unit, std::move(changes),
+                    run.everybodyOf(unit.link));
+    run.wait(edits);
+    report(run, serial, edits.changes());
+    if (edits.move() != nullptr && edits.move()->isStillBound()) {
+        run.warn("arp-entry", localizedText("The entry for %@ could not be taken out of the ARP "
+                                            "cache again.",
+                                            {stringForIP(edits.move()->holders().address)}));
+    }
+    return run.finish(failureOfEdits(edits));
+}
+
+} // namespace
+
+int runSet(CommandRun& run) {
+    const auto& words = run.line().words;
+    Edits edits;
+    HeardUnit unit;
+    std::vector<UnitName> names; // read before the values, so that the first fault is told
+    if (auto refusal = run.readNames({words.front()}, names)) {
+        return run.finish(std::move(refusal));
+    }
+    for (std::size_t i = 1; i < words.size(); ++i) {
+        if (auto refusal = readEdit(words[i], run.line().has("--loose"), edits)) {
+            return run.finish(std::move(refusal));
+        }
+    }
+    for (const auto& step : std::initializer_list<std::function<Refusal()>>{
+             [&] { return run.chooseInterfaces(); },
+             [&] { return objectionToAddresses(run.chosen(), edits); },
+             [&] { return run.openExchange(); },
+             [&] { return run.findUnit(names.front(), unit); }}) {
+        if (auto refusal = step()) {
+            return run.finish(std::move(refusal));
+        }
+    }
+    auto changes = changesOfUnit(unit, edits);
+    if (run.line().has("--dry-run")) {
+        report(run, std::string(unit.serialNumber()), changes);
+        return run.finish();
+    }
+    return edit(run, unit, std::move(changes));
+}
+
+} // namespace kx

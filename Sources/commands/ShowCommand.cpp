@@ -1,0 +1,69 @@
+// show: asks units and shows every parameter.
+
+#include "commands/CommandRun.h"
+#include "commands/Commands.h"
+#include "commands/UnitTables.h"
+#include "support/LocalizedText.h"
+
+namespace kx {
+
+namespace {
+
+using Refusal = CommandRun::Refusal;
+
+Refusal objectionToWords(const CommandLine& line) {
+    if (line.has("--all") == line.words.empty()) {
+        return std::nullopt;
+    }
+    return failureOf(ErrorCode::usage,
+                     line.words.empty() ? localizedText("Name units, or write --all.")
+                                        : localizedText("Name units, or write --all, not both."));
+}
+
+Refusal findAll(CommandRun& run, std::vector<HeardUnit>& found) {
+    Discovery discovery(run.exchange(),
+                        {.everybody = run.everybody(), .heard = [&run](const HeardUnits& units) {
+                             run.showProgress(std::to_string(units.count()));
+                         }});
+    run.wait(discovery);
+    if (!discovery.hasAsked()) {
+        return CommandRun::refusalOfSend(discovery.failure());
+    }
+    for (const HeardUnit* const unit : discovery.units().all()) {
+        found.push_back(*unit);
+    }
+    return found.empty()
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
+}
+
+void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {
+    UnitList units;
+    std::string text;
+    for (const HeardUnit& unit : found) {
+        units.push_back(&unit);
+        run.document()["units"].push_back(jsonOfUnit(unit, run.interfaces()));
+        text += (text.empty() ? "" : "\n") + parametersOfUnit(unit, run.interfaces());
+    }
+    run.print(run.line().has("--csv") ? csvOfUnits(units, run.interfaces()) : text);
+}
+
+} // namespace
+
+int runShow(CommandRun& run) {
+    std::vector<UnitName> names;
+    for (const auto& step : std::initializer_list<std::function<Refusal()>>{
+             [&] { return objectionToWords(run.line()); },
+             [&] { return run.readNames(run.line().words, names); },
+             [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); }}) {
+        if (auto refusal = step()) {
+            return run.finish(std::move(refusal));
+        }
+    }
+    std::vector<HeardUnit> found;
+    auto refusal = names.empty() ? findAll(run, found) : run.findUnits(names, found);
+    printUnits(run, found);
+    return run.finish(std::move(refusal));
+}
+
+} // namespace kx

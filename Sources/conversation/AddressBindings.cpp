@@ -1,0 +1,38 @@
+#include "conversation/AddressBindings.h"
+
+namespace kx {
+
+namespace {
+
+constexpr auto arpTool = "/usr/sbin/arp";
+
+} // namespace
+
+AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service)
+    : _authorization(std::make_shared<Authorization>(service, arpTool)) {}
+
+void AuthorizedAddressBindings::bind(const std::string& address, const std::string& hardwareAddress,
+                                     Done done) {
+    run({"-s", address, hardwareAddress}, done);
+}
+
+void AuthorizedAddressBindings::release(const std::string& address,
+                                        const std::string& hardwareAddress, Done done) {
+    run({"-d", address, hardwareAddress}, done);
+}
+
+void AuthorizedAddressBindings::run(const std::vector<std::string>& arguments, const Done& done) {
+    const auto authorization = _authorization; // a wait for a person may end this object
+    if (!authorization->authenticate(arguments)) {
+        done({.state = ARPEntryState::rightsNotGiven});
+        return;
+    }
+    const auto result = authorization->runToolWithArgs(arguments, [done](const ToolEnd& end) {
+        done(arpEntryForEndOfTool(end.status, end.sentence));
+    });
+    if (result != errAuthorizationSuccess) {
+        done(arpEntryForResult(result));
+    }
+}
+
+} // namespace kx

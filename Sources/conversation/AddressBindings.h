@@ -1,0 +1,50 @@
+// Fixed entries of the host's ARP cache, which bind an address to a hardware address so that a unit
+// is reached at an address that it does not hold yet.
+//
+// Main thread only. Texts are UTF-8.
+
+#pragma once
+
+#include "conversation/ARPEntry.h"
+#include "support/Authorization.h"
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class AddressBindings {
+public:
+    // Tells whether the entry is there, or gone: `started` means that the tool did what it was
+    // told.
+    using Done = std::function<void(const ARPEntry&)>;
+
+    virtual ~AddressBindings() = default;
+
+    // Enters an address, or takes it out again if its entry names this hardware address. A person
+    // may be asked for administrator rights. `done` is called once, maybe from inside the call.
+    virtual void bind(const std::string& address, const std::string& hardwareAddress,
+                      Done done) = 0;
+    virtual void release(const std::string& address, const std::string& hardwareAddress,
+                         Done done) = 0;
+};
+
+// Changes the entries by the ARP tool, with rights from the host's authority.
+class AuthorizedAddressBindings final : public AddressBindings {
+public:
+    // `service` must outlive the object.
+    explicit AuthorizedAddressBindings(AuthorizationService& service);
+
+    void bind(const std::string& address, const std::string& hardwareAddress, Done done) override;
+    void release(const std::string& address, const std::string& hardwareAddress,
+                 Done done) override;
+
+private:
+    void run(const std::vector<std::string>& arguments, const Done& done);
+
+    std::shared_ptr<Authorization> _authorization; // may have to outlive a call
+};
+
+} // namespace kx

@@ -1,0 +1,134 @@
+// Who holds an IPv4 address on a link, as far as this host can find out.
+//
+// Without rights: a request is sent to the address, which makes the system ask for the holder's
+// hardware address (RFC 826), and its neighbour table is watched. This finds one holder. Where the
+// process may send ARP frames itself, it sends probes (RFC 5227), which find every holder and are
+// not deceived by entries of the table.
+//
+// Threading and ownership: see Operation.h. Addresses are in host byte order; hardware addresses
+// are texts such as "02:4B:58:00:00:01".
+
+#pragma once
+
+#include "conversation/HeardUnits.h"
+#include "conversation/Operation.h"
+#include "conversation/UnitExchange.h"
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+// What the system's neighbour table says of an address (RFC 4861 names the states).
+enum class NeighbourState {
+    asking,    // the system is asking for the hardware address
+    reachable, // it has been confirmed lately
+    stale,     // it was known once, and nobody has confirmed it since
+    failed,    // nobody answered
+    permanent, // somebody entered it by hand
+};
+
+struct Neighbour {
+    NeighbourState state = NeighbourState::asking;
+    std::string hardwareAddress; // empty while it is not known
+};
+
+class NeighbourTable {
+public:
+    virtual ~NeighbourTable() = default;
+
+    // The entry of an address on a link; absent when there is none, and when the system does not
+    // tell. Returns at once.
+    virtual std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) = 0;
+};
+
+// Sends ARP probes by one link and hears the answers, until it is destroyed.
+class AddressProbe {
+public:
+    virtual ~AddressProbe() = default;
+    virtual void probe(std::uint32_t address) = 0;
+};
+
+class AddressProbes {
+public:
+    using Heard = std::function<void(std::uint32_t address, const std::string& hardwareAddress)>;
+
+    virtual ~AddressProbes() = default;
+
+    // Null when the process has no right to send ARP frames by this link. `heard` is called from
+    // the run loop for every ARP frame whose sender claims an address.
+    virtual std::unique_ptr<AddressProbe> open(std::uint32_t link, Heard heard) = 0;
+};
+
+enum class HolderState { free, held, unknown };
+
+struct AddressHolders {
+    struct Holder {
+        std::string hardwareAddress;
+        std::optional<std::string> serialNumber; // absent when it is no unit that answers
+    };
+
+    std::uint32_t address = 0;
+    HolderState state = HolderState::unknown;
+    std::vector<Holder> holders;
+};
+
+struct AddressQuestion {
+    std::uint32_t address = 0;
+    std::uint32_t link = 0;
+};
+
+// Asks for the holders of several addresses at once.
+class HolderSearch final : public Operation, private UnitExchange::Listener {
+public:
+    struct Services {
+        NeighbourTable& neighbours;
+        AddressProbes* probes = nullptr; // may be null
+    };
+
+    // A neighbour that nobody confirms counts as unknown after this time.
+    static constexpr std::chrono::milliseconds patience{4000};
+
+    HolderSearch(UnitExchange& exchange, const Services& services,
+                 const std::vector<AddressQuestion>& questions);
+
+    // In the order of the questions.
+    const std::vector<AddressHolders>& results() const { return _results; }
+
+    void interrupt() override { end(); }
+
+private:
+    struct Asked {
+        AddressQuestion question;
+        bool isProbed = false;
+        bool isDecided = false;
+    };
+
+    void start() override;
+    void unitDidTell(const HeardUnit& unit) override;
+    void openProbes();
+    void request();
+    void probe();
+    void look();
+    void lookAt(std::size_t index);
+    void finish();
+    void addHolder(AddressHolders& result, const std::string& hardwareAddress);
+
+    Services _services;
+    std::vector<Asked> _asked;
+    std::vector<AddressHolders> _results;
+    std::map<std::uint32_t, std::unique_ptr<AddressProbe>> _probes; // by link
+    std::map<std::string, std::string, std::less<>> _serialNumbers; // by hardware address
+    int _probesSent = 0;
+    std::chrono::milliseconds _begun{0};
+    RunLoop::Handle _nextLook;
+    RunLoop::Handle _nextProbe;
+};
+
+} // namespace kx

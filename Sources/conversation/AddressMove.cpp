@@ -1,0 +1,123 @@
+#include "conversation/AddressMove.h"
+
+#include "addresses/IPv4Address.h"
+#include "units/UnitCommand.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kx {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+constexpr auto timeBetweenLooks = 20ms;
+
+// The system asks three times, once a second.
+constexpr auto patienceForOwnAnswer = 3200ms;
+
+} // namespace
+
+AddressMove::AddressMove(UnitExchange& exchange, const Services& services, std::uint32_t newAddress,
+                         std::string hardwareAddress, CommandPlan command)
+    : _exchange(exchange)
+    , _services(services)
+    , _newAddress(newAddress)
+    , _hardwareAddress(std::move(hardwareAddress))
+    , _plan(std::move(command)) {
+    _plan.asked = {{.address = newAddress, .port = _plan.target.port, .link = _plan.target.link}};
+    _plan.target = _plan.asked.front();
+}
+
+AddressMove::~AddressMove() = default;
+
+void AddressMove::interrupt() {
+    _isInterrupted = true;
+    if (_search != nullptr && !_search->hasEnded()) {
+        endWith(MoveState::notBegun);
+    }
+}
+
+void AddressMove::start() {
+    _search = std::make_unique<HolderSearch>(
+        _exchange, _services.holders,
+        std::vector<AddressQuestion>{{.address = _newAddress, .link = _plan.target.link}});
+    _search->begin([this] { didSearch(); });
+}
+
+void AddressMove::didSearch() {
+    if (hasEnded()) {
+        return;
+    }
+    _holders = _search->results().front();
+    const bool isHeldByOthers = std::ranges::any_of(_holders.holders, [this](const auto& holder) {
+        return holder.hardwareAddress != _hardwareAddress;
+    });
+    if (isHeldByOthers) {
+        endWith(MoveState::held);
+    } else if (_holders.state == HolderState::unknown) {
+        endWith(MoveState::unknownHolder);
+    } else {
+        _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
+                                [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
+                                    if (!isAlive.expired()) {
+                                        didBind(entry);
+                                    }
+                                });
+    }
+}
+
+void AddressMove::didBind(const ARPEntry& entry) {
+    _binding = entry;
+    if (entry.state != ARPEntryState::started) {
+        endWith(MoveState::notBound);
+        return;
+    }
+    if (_isInterrupted) {
+        release();
+        return;
+    }
+    _state = MoveState::commanded;
+    _command = std::make_unique<VerifiedCommand>(_exchange, _plan);
+    _command->begin([this] { release(); });
+}
+
+void AddressMove::release() {
+    _services.bindings.release(
+        stringForIP(_newAddress), _hardwareAddress,
+        [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
+            if (isAlive.expired()) {
+                return;
+            }
+            _isStillBound = entry.state != ARPEntryState::started;
+            if (_command == nullptr || _command->outcome() != CommandOutcome::shown) {
+                end();
+                return;
+            }
+            _answerDeadline = _exchange.now() + patienceForOwnAnswer;
+            _exchange.send(parameterRequestCommand, _plan.target); // makes the system ask
+            awaitOwnAnswer();
+        });
+}
+
+void AddressMove::awaitOwnAnswer() {
+    const auto entry = _services.holders.neighbours.entry(_newAddress, _plan.target.link);
+    if (entry.has_value() && entry->state == NeighbourState::reachable) {
+        _foreignHardwareAddress = entry->hardwareAddress;
+        endWith(entry->hardwareAddress == _hardwareAddress ? MoveState::moved
+                                                           : MoveState::foreignAnswer);
+    } else if (_exchange.now() >= _answerDeadline) {
+        endWith(MoveState::foreignAnswer);
+    } else {
+        _nextStep =
+            _exchange.runLoop().callOnceAfter(timeBetweenLooks, [this] { awaitOwnAnswer(); });
+    }
+}
+
+void AddressMove::endWith(MoveState state) {
+    _state = state;
+    end();
+}
+
+} // namespace kx

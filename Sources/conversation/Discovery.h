@@ -1,0 +1,63 @@
+// A discovery: a request to everybody, sent again within the time of waiting because datagrams get
+// lost, and the units that answer.
+//
+// Threading and ownership: see Operation.h. The exchange must outlive the discovery.
+
+#pragma once
+
+#include "conversation/HeardUnits.h"
+#include "conversation/Operation.h"
+#include "conversation/UnitExchange.h"
+
+#include <chrono>
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace kx {
+
+struct DiscoveryPlan {
+    std::vector<UnitTarget> everybody = {}; // each request goes to all of these
+    std::chrono::milliseconds wait{2000};
+    int tries = 2; // requests in all, spread evenly over the wait
+
+    // Asked after each answer. Once it is true, the discovery ends after `settling`, in which
+    // others who claim to be the same unit have time to answer. May be empty.
+    std::function<bool(const HeardUnits&)> isEnough = {};
+    std::chrono::milliseconds settling{0};
+
+    // Called after each answer, for example to show progress. May be empty.
+    std::function<void(const HeardUnits&)> heard = {};
+};
+
+class Discovery final : public Operation, private UnitExchange::Listener {
+public:
+    Discovery(UnitExchange& exchange, DiscoveryPlan plan);
+
+    const HeardUnits& units() const { return _units; }
+
+    // Why a request was not sent; absent when all were sent. A first request that fails everywhere
+    // ends the discovery.
+    const std::optional<SendFailure>& failure() const { return _failure; }
+
+    // At least one request was sent.
+    bool hasAsked() const { return _sent > 0; }
+
+    void interrupt() override { end(); }
+
+private:
+    void start() override;
+    void unitDidTell(const HeardUnit& unit) override;
+    void request();
+
+    DiscoveryPlan _plan;
+    HeardUnits _units;
+    std::optional<SendFailure> _failure;
+    int _requests = 0;
+    int _sent = 0;
+    bool _isSettling = false;
+    RunLoop::Handle _nextRequest;
+    RunLoop::Handle _deadline;
+};
+
+} // namespace kx

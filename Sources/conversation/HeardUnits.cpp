@@ -1,0 +1,139 @@
+#include "conversation/HeardUnits.h"
+
+#include "conversation/UnitDestination.h"
+#include "units/ParameterEdit.h"
+
+#include <algorithm>
+#include <set>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+std::string_view textOf(const UnitRecord& record, UnitParameter parameter) {
+    return record.value(parameter).value_or(std::string_view());
+}
+
+bool isNamed(const HeardUnit& unit, const UnitName& name) {
+    if (const auto* const serial = std::get_if<SerialNumberOfUnit>(&name)) {
+        return unit.serialNumber() == serial->text;
+    }
+    const auto text = unitIDText(unit.record);
+    return text.has_value() && *text == std::get<UnitIDOfUnit>(name).text;
+}
+
+} // namespace
+
+std::string_view HeardUnit::serialNumber() const {
+    return textOf(record, UnitParameter::serialNumber);
+}
+
+std::string_view HeardUnit::hardwareAddress() const {
+    return textOf(record, UnitParameter::internalMACAddress);
+}
+
+UnitTarget HeardUnit::target() const {
+    const UnitDestination destination = destinationOfUnit(&record, sender);
+    return {.address = destination.address, .port = destination.port, .link = link};
+}
+
+void HeardUnits::add(const HeardUnit& unit) {
+    const auto known = _units.find(unit.serialNumber());
+    if (known != _units.end()) {
+        const auto same = std::ranges::find_if(known->second, [&unit](const HeardUnit& other) {
+            return other.hardwareAddress() == unit.hardwareAddress();
+        });
+        if (same != known->second.end()) {
+            *same = unit;
+            return;
+        }
+    }
+    if (_count == _limit) {
+        _isIncomplete = true;
+        return;
+    }
+    auto& sameNumber =
+        known != _units.end() ? known->second : _units[std::string(unit.serialNumber())];
+    sameNumber.push_back(unit);
+    ++_count;
+}
+
+std::vector<const HeardUnit*> HeardUnits::all() const {
+    std::vector<const HeardUnit*> units;
+    units.reserve(_count);
+    for (const auto& [number, sameNumber] : _units) {
+        for (const HeardUnit& unit : sameNumber) {
+            units.push_back(&unit);
+        }
+    }
+    return units;
+}
+
+std::vector<const HeardUnit*> HeardUnits::named(const UnitName& name) const {
+    std::vector<const HeardUnit*> found;
+    if (const auto* const serial = std::get_if<SerialNumberOfUnit>(&name)) {
+        const auto sameNumber = _units.find(serial->text);
+        if (sameNumber != _units.end()) {
+            for (const HeardUnit& unit : sameNumber->second) {
+                found.push_back(&unit);
+            }
+        }
+        return found;
+    }
+    for (const HeardUnit* const unit : all()) {
+        if (isNamed(*unit, name)) {
+            found.push_back(unit);
+        }
+    }
+    return found;
+}
+
+std::vector<DuplicateAddress> HeardUnits::duplicateAddresses() const {
+    std::map<std::string_view, std::set<std::string_view>> numbersByAddress;
+    for (const HeardUnit* const unit : all()) {
+        const auto address = unit->record.value(UnitParameter::internalIPAddress);
+        if (address.has_value()) {
+            numbersByAddress[*address].insert(unit->serialNumber());
+        }
+    }
+    std::vector<DuplicateAddress> duplicates;
+    for (const auto& [address, numbers] : numbersByAddress) {
+        if (numbers.size() > 1) {
+            duplicates.push_back({std::string(address), {numbers.begin(), numbers.end()}});
+        }
+    }
+    return duplicates;
+}
+
+std::vector<DuplicateSerialNumber> HeardUnits::duplicateSerialNumbers() const {
+    std::vector<DuplicateSerialNumber> duplicates;
+    for (const auto& [number, sameNumber] : _units) {
+        if (sameNumber.size() > 1) {
+            DuplicateSerialNumber duplicate{number, {}};
+            for (const HeardUnit& unit : sameNumber) {
+                duplicate.hardwareAddresses.emplace_back(unit.hardwareAddress());
+            }
+            duplicates.push_back(std::move(duplicate));
+        }
+    }
+    return duplicates;
+}
+
+bool HeardUnits::isDuplicated(const HeardUnit& unit) const {
+    const auto address = unit.record.value(UnitParameter::internalIPAddress);
+    return std::ranges::any_of(all(), [&](const HeardUnit* other) {
+        const bool isSame = other->serialNumber() == unit.serialNumber() &&
+                            other->hardwareAddress() == unit.hardwareAddress();
+        return !isSame && (other->serialNumber() == unit.serialNumber() ||
+                           (address.has_value() &&
+                            other->record.value(UnitParameter::internalIPAddress) == address));
+    });
+}
+
+std::optional<std::string_view> unitIDText(const UnitRecord& record) {
+    const auto text = record.value(UnitParameter::unitID);
+    return text.has_value() ? std::optional(withoutTrailingZeroBytes(*text)) : std::nullopt;
+}
+
+} // namespace kx

@@ -1,0 +1,211 @@
+#include "conversation/UnitEdits.h"
+
+#include "addresses/IPv4Address.h"
+#include "units/UnitCommand.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+// The place of a parameter in the order of the steps. 0 for those that may stand in any order.
+int rankOf(UnitParameter parameter) {
+    switch (parameter) {
+    case UnitParameter::devicePortNumber:
+        return 1;
+    case UnitParameter::internalMACAddress:
+        return 2;
+    case UnitParameter::internalIPAddress:
+        return 3;
+    case UnitParameter::serialNumber:
+        return 4;
+    default:
+        return 0;
+    }
+}
+
+std::optional<std::string> shownText(const HeardUnit& unit, UnitParameter parameter) {
+    const auto text =
+        parameter == UnitParameter::unitID ? unitIDText(unit.record) : unit.record.value(parameter);
+    return text.has_value() ? std::optional(std::string(*text)) : std::nullopt;
+}
+
+// The two may be one unit: the texts are equal, or one of them is not known.
+bool agree(std::string_view left, std::string_view right) {
+    return left.empty() || right.empty() || left == right;
+}
+
+} // namespace
+
+std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<ExactEdit>& edits) {
+    std::vector<UnitChange> changes;
+    for (const ExactEdit& edit : edits) {
+        const ParameterEdit& plain = edit.edit;
+        changes.push_back({.edit = edit,
+                           .from = shownText(unit, plain.parameter),
+                           .to = plain.expectedText.value_or(plain.value),
+                           .command = plain.command,
+                           .state = edit.isShownBy(unit.record, unit.unitIDBytes)
+                                        ? ChangeState::unchanged
+                                        : ChangeState::planned});
+    }
+    return changes;
+}
+
+UnitEdits::UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
+                     const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody)
+    : Listener(exchange)
+    , _moveServices(moveServices)
+    , _unit(unit)
+    , _firstHardwareAddress(_unit.hardwareAddress())
+    , _changes(std::move(changes))
+    , _everybody(everybody) {}
+
+UnitEdits::~UnitEdits() = default;
+
+void UnitEdits::interrupt() {
+    _isInterrupted = true;
+    if (_move != nullptr && !_move->hasEnded()) {
+        _move->interrupt();
+    }
+}
+
+void UnitEdits::start() {
+    beginNext();
+}
+
+UnitChange* UnitEdits::nextChange() {
+    UnitChange* next = nullptr;
+    for (UnitChange& change : _changes) {
+        if (change.state == ChangeState::planned &&
+            (next == nullptr ||
+             rankOf(change.edit.edit.parameter) < rankOf(next->edit.edit.parameter))) {
+            next = &change;
+        }
+    }
+    return next;
+}
+
+void UnitEdits::beginNext() {
+    UnitChange* const change = nextChange();
+    if (change == nullptr || _isInterrupted || _isAmbiguous) {
+        refuseRest();
+        end();
+    } else if (change->edit.edit.parameter == UnitParameter::internalIPAddress) {
+        beginMove(*change);
+    } else {
+        _command = std::make_unique<VerifiedCommand>(exchange(), planOf(*change));
+        _command->begin([this, change] { didCommand(*change, *_command); });
+    }
+}
+
+void UnitEdits::refuseRest() {
+    for (UnitChange& change : _changes) {
+        if (change.state == ChangeState::planned) {
+            change.state = ChangeState::refused;
+        }
+    }
+}
+
+CommandPlan UnitEdits::planOf(const UnitChange& change) const {
+    const UnitParameter parameter = change.edit.edit.parameter;
+    CommandPlan plan;
+    plan.command = change.command;
+    plan.target = _unit.target();
+    plan.asked = {plan.target};
+    plan.askedLater = {_everybody};
+    plan.serialNumbers = {std::string(_unit.serialNumber())};
+    if (parameter == UnitParameter::serialNumber) {
+        plan.serialNumbers.push_back(change.to);
+    }
+    // The unit takes commands on its new port as soon as it has taken it.
+    if (parameter == UnitParameter::devicePortNumber && change.edit.edit.expectedText) {
+        UnitTarget target = plan.target;
+        target.port = unitPortForText(change.edit.edit.expectedText);
+        plan.asked.push_back(target);
+    }
+    plan.isFromUnit = [serials = plan.serialNumbers, parameter,
+                       hardware = std::string(_unit.hardwareAddress()),
+                       newHardware = change.to](const HeardUnit& unit) {
+        const bool isNewHardware =
+            parameter == UnitParameter::internalMACAddress && unit.hardwareAddress() == newHardware;
+        return std::ranges::find(serials, unit.serialNumber()) != serials.end() &&
+               (isNewHardware || agree(unit.hardwareAddress(), hardware));
+    };
+    plan.isWanted = [edit = change.edit](const HeardUnit& unit, auto /*sinceCommand*/,
+                                         bool /*isAccepted*/) {
+        return edit.isShownBy(unit.record, unit.unitIDBytes);
+    };
+    return plan;
+}
+
+void UnitEdits::beginMove(UnitChange& change) {
+    if (_moveServices == nullptr) {
+        refuseRest();
+        end();
+        return;
+    }
+    _move = std::make_unique<AddressMove>(exchange(), *_moveServices,
+                                          ipForString(change.edit.edit.typed),
+                                          std::string(_unit.hardwareAddress()), planOf(change));
+    _move->begin([this, &change] { didMove(change); });
+}
+
+void UnitEdits::noteShown(UnitChange& change, const HeardUnit& shown) {
+    _unit = shown;
+    change.shown = shownText(shown, change.edit.edit.parameter);
+}
+
+void UnitEdits::didCommand(UnitChange& change, const VerifiedCommand& command) {
+    if (const auto& shown = command.shown()) {
+        noteShown(change, *shown);
+    }
+    switch (command.outcome()) {
+    case CommandOutcome::shown:
+        change.state = ChangeState::done;
+        break;
+    case CommandOutcome::other:
+        change.state = ChangeState::different;
+        if (rankOf(change.edit.edit.parameter) > 0) {
+            refuseRest();
+        }
+        break;
+    case CommandOutcome::silent:
+        change.state = ChangeState::silent;
+        refuseRest();
+        break;
+    case CommandOutcome::notSent:
+        _failure = command.failure();
+        refuseRest();
+        break;
+    }
+    // The next command replaces the one whose end this is.
+    const auto ended = std::move(_command);
+    beginNext();
+}
+
+void UnitEdits::didMove(UnitChange& change) {
+    if (_move->command() == nullptr) {
+        refuseRest();
+        end();
+        return;
+    }
+    didCommand(change, *_move->command());
+}
+
+void UnitEdits::unitDidTell(const HeardUnit& unit) {
+    const auto isNewHardware = [&unit](const UnitChange& change) {
+        return change.edit.edit.parameter == UnitParameter::internalMACAddress &&
+               change.to == unit.hardwareAddress();
+    };
+    if (unit.serialNumber() == _unit.serialNumber() &&
+        !agree(unit.hardwareAddress(), _unit.hardwareAddress()) &&
+        unit.hardwareAddress() != _firstHardwareAddress &&
+        std::ranges::none_of(_changes, isNewHardware)) {
+        _isAmbiguous = true;
+    }
+}
+
+} // namespace kx

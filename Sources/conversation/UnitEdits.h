@@ -1,0 +1,95 @@
+// Edits of several parameters of one unit, one after the other, each read back before the next.
+//
+// What changes nothing about how the unit is reached goes first: unit ID and destinations. Then
+// device port, hardware address, IP address and serial number follow. Nothing follows a step of
+// those four that failed, nor a unit that fell silent, because the unit may not be where it is
+// looked for.
+//
+// Threading and ownership: see Operation.h. The exchange and the services must outlive the edits.
+
+#pragma once
+
+#include "conversation/AddressMove.h"
+#include "conversation/HeardUnits.h"
+#include "conversation/Operation.h"
+#include "conversation/UnitExchange.h"
+#include "conversation/VerifiedCommand.h"
+#include "units/ExactEdit.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+enum class ChangeState {
+    planned,
+    done,      // an answer after the command shows it
+    unchanged, // it was so already, and nothing was sent
+    refused,   // nothing was sent, because of something else
+    different, // the unit shows something else
+    silent,    // the unit did not answer after the command
+};
+
+struct UnitChange {
+    ExactEdit edit;
+    std::optional<std::string> from; // the value before, as the unit shows it
+    std::string to;                  // the value that is wanted, as units show it
+    std::string command;
+    ChangeState state = ChangeState::planned;
+    std::optional<std::string> shown = {}; // the value afterwards, when the unit tells one
+};
+
+// The changes that the edits make of a unit, in the order of the edits. A value that the unit shows
+// already is `unchanged`.
+std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<ExactEdit>& edits);
+
+class UnitEdits final : public Operation, private UnitExchange::Listener {
+public:
+    // `everybody` is the place where all units of the unit's link are asked.
+    UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
+              const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody);
+    ~UnitEdits() override;
+
+    const std::vector<UnitChange>& changes() const { return _changes; }
+
+    // The unit as it showed itself last.
+    const HeardUnit& unit() const { return _unit; }
+
+    // Why a command was not sent; absent when the network took all of them.
+    const std::optional<SendFailure>& failure() const { return _failure; }
+
+    // The move to another address; null when there was none.
+    const AddressMove* move() const { return _move.get(); }
+
+    // Another unit with the same serial number has answered meanwhile.
+    bool isAmbiguous() const { return _isAmbiguous; }
+
+    void interrupt() override;
+
+private:
+    void start() override;
+    void unitDidTell(const HeardUnit& unit) override;
+    void beginNext();
+    void beginMove(UnitChange& change);
+    void didCommand(UnitChange& change, const VerifiedCommand& command);
+    void didMove(UnitChange& change);
+    void noteShown(UnitChange& change, const HeardUnit& shown);
+    void refuseRest();
+    CommandPlan planOf(const UnitChange& change) const;
+    UnitChange* nextChange();
+
+    const AddressMove::Services* _moveServices;
+    HeardUnit _unit;
+    std::string _firstHardwareAddress; // the one that it had before the edits
+    std::vector<UnitChange> _changes;
+    UnitTarget _everybody;
+    std::optional<SendFailure> _failure;
+    std::unique_ptr<VerifiedCommand> _command;
+    std::unique_ptr<AddressMove> _move;
+    bool _isInterrupted = false;
+    bool _isAmbiguous = false;
+};
+
+} // namespace kx

@@ -1,0 +1,100 @@
+#include "conversation/UnitWatch.h"
+
+#include "units/UnitCommand.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kx {
+
+namespace {
+
+bool isSame(const HeardUnit& left, const HeardUnit& right) {
+    return left.record == right.record && left.unitIDBytes == right.unitIDBytes &&
+           left.sender == right.sender && left.link == right.link;
+}
+
+} // namespace
+
+UnitWatch::UnitWatch(UnitExchange& exchange, WatchPlan plan)
+    : Listener(exchange)
+    , _plan(std::move(plan)) {}
+
+std::size_t UnitWatch::count() const {
+    return static_cast<std::size_t>(
+        std::ranges::count_if(_units, [](const auto& entry) { return !entry.second.isSilent; }));
+}
+
+void UnitWatch::start() {
+    _hasBegun = true;
+    if (_plan.duration.has_value()) {
+        _deadline = exchange().runLoop().callOnceAfter(*_plan.duration, [this] { end(); });
+    }
+    request();
+}
+
+void UnitWatch::request() {
+    noteSilence();
+    if (hasEnded()) {
+        return; // an event has ended the watch
+    }
+    const bool isFirst = _nextRequest == nullptr;
+    for (const UnitTarget& target : _plan.everybody) {
+        auto failure = exchange().send(parameterRequestCommand, target);
+        if (isFirst && failure.has_value()) {
+            _failure = std::move(failure);
+        }
+    }
+    if (_failure.has_value()) {
+        end();
+        return;
+    }
+    for (auto& [key, watched] : _units) {
+        if (watched.unanswered > 0) {
+            exchange().send(parameterRequestCommand, watched.unit.target());
+        }
+        ++watched.unanswered;
+    }
+    _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
+}
+
+void UnitWatch::noteSilence() {
+    for (auto& [key, watched] : _units) {
+        if (!watched.isSilent && watched.unanswered >= requestsUntilSilent) {
+            watched.isSilent = true;
+            _plan.tell(UnitEvent::silent, watched.unit);
+        }
+    }
+}
+
+void UnitWatch::unitDidTell(const HeardUnit& unit) {
+    if (!_hasBegun || hasEnded()) {
+        return;
+    }
+    const std::pair key(std::string(unit.serialNumber()), std::string(unit.hardwareAddress()));
+    if (_units.size() == HeardUnits::defaultLimit && !_units.contains(key)) {
+        return; // any host can invent units
+    }
+    const auto [found, isNew] = _units.try_emplace(key, Watched{.unit = unit});
+    Watched& watched = found->second;
+    watched.unanswered = 0;
+    const bool wasSilent = std::exchange(watched.isSilent, false);
+    const bool hasChanged = !isSame(watched.unit, unit);
+    watched.unit = unit;
+    if (isNew) {
+        _plan.tell(UnitEvent::appeared, unit);
+    } else if (wasSilent) {
+        _plan.tell(UnitEvent::back, unit);
+    } else if (hasChanged) {
+        _plan.tell(UnitEvent::changed, unit);
+    }
+    endWhenEnough();
+}
+
+void UnitWatch::endWhenEnough() {
+    if (_plan.until.has_value() && count() >= *_plan.until) {
+        end();
+    }
+}
+
+} // namespace kx

@@ -1,0 +1,110 @@
+// kxctl: wires the core and the commands to the platform and runs one command.
+
+#include "System Configuration/SystemConfiguration.h"
+#include "commands/CommandRun.h"
+#include "conversation/AddressBindings.h"
+#include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxAddressProbes.h"
+#include "platform/linux/LinuxAuthorization.h"
+#include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxHostInterfaces.h"
+#include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/LinuxNeighbourTable.h"
+#include "platform/linux/LinuxReceiveBufferControl.h"
+#include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/posix/SyslogSystemLog.h"
+#include "platform/posix/SystemWallClock.h"
+#include "platform/posix/TerminalConsole.h"
+#include "platform/posix/TerminationSignals.h"
+#include "platform/posix/ThreadHostResolver.h"
+#include "platform/qtcore/EventLoopWaiting.h"
+#include "platform/qtcore/QtLocalizedText.h"
+#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qtcore/QtTranslations.h"
+
+#include <QCoreApplication>
+#include <chrono>
+#include <csignal>
+#include <string>
+#include <vector>
+
+namespace {
+
+template<class Unit, class Clock>
+Unit timeOf() {
+    return std::chrono::duration_cast<Unit>(Clock::now().time_since_epoch());
+}
+
+int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
+    kx::QtRunLoop runLoop;
+    kx::ThreadHostResolver hostResolver(runLoop);
+    kx::DatagramSystemCalls systemCalls;
+    kx::LinuxReceiveBufferControl receiveBuffers;
+    const kx::SystemWallClock wallClock;
+
+    kx::KernelLinks kernelLinks(runLoop);
+    kx::LinuxKernelQuery kernelQuery(kernelLinks);
+    kx::NetworkManagerProfiles connectionProfiles;
+    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
+    kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
+    kx::LinuxHostInterfaces interfaces(kx::SystemConfiguration::sharedInstance(), kernelLinks);
+
+    kx::LinuxNeighbourTable neighbours;
+    kx::LinuxAddressProbes probes(runLoop);
+    kx::EventLoopWaiting waiting;
+    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
+    kx::AuthorizedAddressBindings bindings(*authorizationService);
+
+    kx::CommandRun run(line, {.session = {.runLoop = runLoop,
+                                          .hostResolver = hostResolver,
+                                          .systemCalls = systemCalls,
+                                          .receiveBuffers = &receiveBuffers},
+                              .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
+                              .utc = timeOf<std::chrono::microseconds, std::chrono::system_clock>,
+                              .wallClock = wallClock,
+                              .console = console,
+                              .interfaces = interfaces,
+                              .neighbours = neighbours,
+                              .probes = &probes,
+                              .bindings = bindings});
+    const kx::TerminationSignals termination(runLoop,
+                                             [&run](int signal) { run.interrupt(signal); });
+    return run.run();
+}
+
+int runInLanguageOfUser(int argc, char* argv[], const std::vector<std::string>& arguments,
+                        kx::Console& console) {
+    QCoreApplication qtApplication(argc, argv);
+    const kx::QtTranslations translations;
+    const kx::QtLocalizedText localizedText;
+    kx::installLocalizedText(&localizedText);
+    kx::SyslogSystemLog systemLog("kxctl", "/dev/log", kx::SyslogSystemLog::Copies::last);
+    kx::installSystemLog(&systemLog);
+
+    const auto line = kx::readCommandLine(arguments, console);
+    const auto* const status = std::get_if<int>(&line);
+    const int result =
+        status != nullptr ? *status : runOnThisHost(std::get<kx::CommandLine>(line), console);
+    kx::installSystemLog(nullptr);
+    kx::installLocalizedText(nullptr);
+    return result;
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // A reader that has seen enough closes its pipe.
+    std::signal(SIGPIPE, SIG_IGN);
+    const std::vector<std::string> arguments(argv + (argc > 0 ? 1 : 0), argv + argc);
+    kx::TerminalConsole console;
+    if (kx::asksForHelp(arguments)) {
+        // The help is English and needs nothing of the host. The word may also be an option's
+        // value.
+        const auto line = kx::commandLineOf(arguments);
+        const auto* const parsed = std::get_if<kx::CommandLine>(&line);
+        if (parsed != nullptr && (parsed->has("--help") || parsed->has("--version"))) {
+            return std::get<int>(kx::readCommandLine(arguments, console));
+        }
+    }
+    return runInLanguageOfUser(argc, argv, arguments, console);
+}

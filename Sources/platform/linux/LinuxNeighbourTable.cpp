@@ -1,0 +1,97 @@
+#include "platform/linux/LinuxNeighbourTable.h"
+
+#include "support/ByteRange.h"
+#include "units/IdentityText.h"
+
+#include <arpa/inet.h>
+#include <linux/neighbour.h>
+#include <netlink/msg.h>
+#include <netlink/netlink.h>
+#include <netlink/route/neighbour.h>
+#include <netlink/socket.h>
+#include <sys/socket.h>
+
+namespace kx {
+
+namespace {
+
+struct NeighbourRelease {
+    void operator()(rtnl_neigh* neighbour) const { rtnl_neigh_put(neighbour); }
+};
+struct MessageRelease {
+    void operator()(nl_msg* message) const { nlmsg_free(message); }
+};
+
+NeighbourState stateOf(int state) {
+    if ((state & NUD_PERMANENT) != 0 || (state & NUD_NOARP) != 0) {
+        return NeighbourState::permanent;
+    }
+    if ((state & NUD_REACHABLE) != 0) {
+        return NeighbourState::reachable;
+    }
+    if ((state & NUD_FAILED) != 0) {
+        return NeighbourState::failed;
+    }
+    return (state & NUD_INCOMPLETE) != 0 ? NeighbourState::asking : NeighbourState::stale;
+}
+
+std::string textOf(nl_addr* address) {
+    if (address == nullptr || nl_addr_get_len(address) == 0) {
+        return {};
+    }
+    const auto* const bytes = static_cast<const std::uint8_t*>(nl_addr_get_binary_addr(address));
+    return hexStringForData(ByteView(bytes, nl_addr_get_len(address)), ":");
+}
+
+int messageReceived(nl_msg* message, void* found) {
+    rtnl_neigh* parsed = nullptr;
+    if (rtnl_neigh_parse(nlmsg_hdr(message), &parsed) >= 0) {
+        const std::unique_ptr<rtnl_neigh, NeighbourRelease> neighbour(parsed);
+        *static_cast<std::optional<Neighbour>*>(found) = {
+            .state = stateOf(rtnl_neigh_get_state(parsed)),
+            .hardwareAddress = textOf(rtnl_neigh_get_lladdr(parsed))};
+    }
+    return NL_OK;
+}
+
+} // namespace
+
+void LinuxNeighbourTable::SocketRelease::operator()(nl_sock* socket) const {
+    nl_socket_free(socket);
+}
+
+LinuxNeighbourTable::LinuxNeighbourTable()
+    : _socket(nl_socket_alloc()) {
+    if (_socket != nullptr && nl_connect(_socket.get(), NETLINK_ROUTE) < 0) {
+        _socket.reset();
+    }
+}
+
+LinuxNeighbourTable::~LinuxNeighbourTable() = default;
+
+std::optional<Neighbour> LinuxNeighbourTable::entry(std::uint32_t address, std::uint32_t link) {
+    const std::unique_ptr<nl_msg, MessageRelease> message(
+        nlmsg_alloc_simple(RTM_GETNEIGH, NLM_F_REQUEST));
+    if (_socket == nullptr || message == nullptr) {
+        return std::nullopt;
+    }
+    ndmsg header{};
+    header.ndm_family = AF_INET;
+    header.ndm_ifindex = static_cast<int>(link);
+    const std::uint32_t destination = htonl(address);
+    if (nlmsg_append(message.get(), &header, sizeof header, NLMSG_ALIGNTO) < 0 ||
+        nla_put(message.get(), NDA_DST, sizeof destination, &destination) < 0 ||
+        nl_send_auto(_socket.get(), message.get()) < 0) {
+        return std::nullopt;
+    }
+    std::optional<Neighbour> found;
+    nl_socket_modify_cb(_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, messageReceived, &found);
+    nl_recvmsgs_default(_socket.get()); // an error means that there is no entry
+    // The acknowledgement that follows the entry.
+    if (found.has_value()) {
+        nl_wait_for_ack(_socket.get());
+    }
+    return found;
+}
+
+} // namespace kx

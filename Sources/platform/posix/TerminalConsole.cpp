@@ -1,0 +1,77 @@
+#include "platform/posix/TerminalConsole.h"
+
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+
+namespace kx {
+
+namespace {
+
+// 0, or the value of errno of the write that failed.
+int writeWhole(int descriptor, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t count = ::write(descriptor, text.data(), text.size());
+        if (count < 0 && errno != EINTR) {
+            return errno;
+        }
+        if (count > 0) {
+            text.remove_prefix(static_cast<std::size_t>(count));
+        }
+    }
+    return 0;
+}
+
+std::string_view environment(const char* name) {
+    const char* const value = std::getenv(name); // no other thread of ours sets one
+    return value != nullptr ? value : std::string_view();
+}
+
+} // namespace
+
+void TerminalConsole::writeOutput(std::string_view text) {
+    if (_outputError.has_value()) {
+        return;
+    }
+    const int error = writeWhole(STDOUT_FILENO, text);
+    if (error != 0) {
+        _outputError = posixError(error);
+    }
+}
+
+void TerminalConsole::writeNote(std::string_view text) {
+    writeWhole(STDERR_FILENO, text);
+}
+
+bool TerminalConsole::isOutputTerminal() const {
+    return ::isatty(STDOUT_FILENO) == 1;
+}
+
+bool TerminalConsole::isNoteTerminal() const {
+    return ::isatty(STDERR_FILENO) == 1;
+}
+
+bool TerminalConsole::isInputTerminal() const {
+    return ::isatty(STDIN_FILENO) == 1;
+}
+
+bool TerminalConsole::isPlain() const {
+    return !environment("NO_COLOR").empty() || environment("TERM").empty() ||
+           environment("TERM") == "dumb";
+}
+
+std::optional<std::string> TerminalConsole::readLine() {
+    std::string line;
+    char character = 0;
+    ssize_t count = 0;
+    while ((count = ::read(STDIN_FILENO, &character, 1)) == 1) {
+        if (character == '\n') {
+            return line;
+        }
+        line += character;
+    }
+    return count == 0 && !line.empty() ? std::optional(line) : std::nullopt;
+}
+
+} // namespace kx

@@ -1,0 +1,24 @@
+// The standard input, output and error of this process.
+
+#pragma once
+
+#include "support/Console.h"
+
+namespace kx {
+
+class TerminalConsole final : public Console {
+public:
+    void writeOutput(std::string_view text) override;
+    void writeNote(std::string_view text) override;
+    const std::optional<Error>& outputError() const override { return _outputError; }
+    bool isOutputTerminal() const override;
+    bool isNoteTerminal() const override;
+    bool isInputTerminal() const override;
+    bool isPlain() const override;
+    std::optional<std::string> readLine() override;
+
+private:
+    std::optional<Error> _outputError;
+};
+
+} // namespace kx

@@ -1,0 +1,40 @@
+// The terminal or the files that a program of the command line reads and writes.
+//
+// Main thread only. Texts are UTF-8.
+
+#pragma once
+
+#include "support/Error.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+class Console {
+public:
+    virtual ~Console() = default;
+
+    // Writes data to standard output, whole and at once. After a failure nothing more is written.
+    virtual void writeOutput(std::string_view text) = 0;
+
+    // Writes words to standard error. What cannot be written is lost.
+    virtual void writeNote(std::string_view text) = 0;
+
+    // Why standard output could not be written; absent while it could be.
+    virtual const std::optional<Error>& outputError() const = 0;
+
+    virtual bool isOutputTerminal() const = 0;
+    virtual bool isNoteTerminal() const = 0;
+    virtual bool isInputTerminal() const = 0;
+
+    // Whether the person wants no colours (no-color.org), or the terminal has none.
+    virtual bool isPlain() const = 0;
+
+    // One line from standard input, without its line break. Absent at its end, and when a signal
+    // came. Blocks.
+    virtual std::optional<std::string> readLine() = 0;
+};
+
+} // namespace kx

@@ -1,0 +1,105 @@
+#include "commands/Document.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+HeardUnit unitWithID(const UnitIDBytes& bytes) {
+    HeardUnit unit;
+    unit.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 01");
+    unit.record.setValue(UnitParameter::devicePortNumber, "10000");
+    unit.unitIDBytes = bytes;
+    unit.sender = 0xC000020BU;
+    unit.link = 3;
+    unit.answered = std::chrono::milliseconds(3);
+    return unit;
+}
+
+std::vector<HostInterface> oneInterface() {
+    HostInterface interface;
+    interface.name = "kx0";
+    interface.link = 3;
+    return {interface};
+}
+
+} // namespace
+
+TEST(Document, HasEveryKeyOfItsCommandFromTheBeginning) {
+    EXPECT_EQ(Document("discover").text(0, {}),
+              R"({"schema":1,"command":"discover","exit":0,"error":null,"warnings":[],)"
+              R"("interface":null,"port":null,"units":[],"duplicates":[],"dropped":0,)"
+              R"("rejected":0,"complete":false})"
+              "\n");
+    EXPECT_EQ(Document(std::nullopt).text(2, failureOf(ErrorCode::usage, "Why.")),
+              R"({"schema":1,"command":null,"exit":2,"error":{"code":"usage","message":"Why."},)"
+              R"("warnings":[]})"
+              "\n");
+}
+
+TEST(Document, ToldWarningsStandInTheirOrder) {
+    Document document("show");
+    document.warn("ambiguous", "One.");
+    document.warn("dropped", "Two.");
+    const Json json = Json::parse(document.text(0, {}));
+    EXPECT_EQ(json["warnings"][1]["code"], "dropped");
+    EXPECT_EQ(json["warnings"][0]["message"], "One.");
+}
+
+TEST(Document, AUnitHasNullForWhatItDidNotTell) {
+    const Json json = jsonOfUnit(unitWithID({0xFF, 1, 2, 3, 4, 5}), oneInterface());
+    EXPECT_EQ(json.dump(),
+              R"({"serial":"4B 58 00 00 00 01","unit_id":null,"unit_id_bytes":"FF0102030405",)"
+              R"("internal_ip":null,"internal_mac":null,"destination_ip":null,)"
+              R"("destination_mac":null,"destination_port":null,"device_port":10000,)"
+              R"("source_ip":"192.0.2.11","interface":"kx0","answered_ms":3})");
+    EXPECT_EQ(jsonOfUnit(unitWithID({}), {})["interface"], nullptr);
+    EXPECT_EQ(jsonOfUnit(HeardUnit(), {})["unit_id_bytes"], nullptr);
+}
+
+TEST(Document, ZeroBytesAtTheEndOfAUnitIDAreLeftOut) {
+    HeardUnit unit = unitWithID({'A', 'B', 0, 0, 0, 0});
+    unit.record.setValue(UnitParameter::unitID, std::string_view("AB\0\0\0\0", 6));
+    EXPECT_EQ(jsonOfUnit(unit, {})["unit_id"], "AB");
+}
+
+TEST(Document, ForeignTextsAreEscaped) {
+    Json json;
+    json["text"] = std::string("\x1b[2J\n\"\\\0\u202e\xff", 12);
+    const std::string line = lineOfJson(json);
+    EXPECT_EQ(line, "{\"text\":\"\\u001b[2J\\n\\\"\\\\\\u0000\\u202e\\ufffd\"}\n");
+    EXPECT_EQ(Json::parse(line)["text"].get<std::string>().substr(0, 5), "\x1b[2J\n");
+}
+
+TEST(Document, DuplicatesOfBothKindsAreOneList) {
+    HeardUnits units;
+    for (const char* hardware : {"00:00:00:00:00:01", "00:00:00:00:00:02"}) {
+        HeardUnit unit = unitWithID({});
+        unit.record.setValue(UnitParameter::internalMACAddress, hardware);
+        unit.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
+        units.add(unit);
+    }
+    EXPECT_EQ(jsonOfDuplicates(units).dump(),
+              R"([{"serial":"4B 58 00 00 00 01",)"
+              R"("internal_macs":["00:00:00:00:00:01","00:00:00:00:00:02"]}])");
+    HeardUnit other = unitWithID({});
+    other.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 02");
+    other.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
+    units.add(other);
+    EXPECT_EQ(jsonOfDuplicates(units)[0].dump(),
+              R"({"internal_ip":"192.0.2.11",)"
+              R"("serials":["4B 58 00 00 00 01","4B 58 00 00 00 02"]})");
+}
+
+TEST(ExitStatus, EveryCodeHasItsNameAndItsStatus) {
+    EXPECT_EQ(nameOf(ErrorCode::notFound), "not-found");
+    EXPECT_EQ(exitStatusOf(ErrorCode::notFound), 1);
+    EXPECT_EQ(exitStatusOf(ErrorCode::value), 2);
+    EXPECT_EQ(exitStatusOf(ErrorCode::rights), 3);
+    EXPECT_EQ(exitStatusOf(ErrorCode::busy), 3);
+    EXPECT_EQ(exitStatusOf(ErrorCode::silent), 4);
+    EXPECT_EQ(exitStatusOf(ErrorCode::interrupted), 130);
+}
+
+} // namespace kx

@@ -1,0 +1,87 @@
+// An exchange on doubles, with a neighbour table, ARP probes and a cache of fixed entries that the
+// test writes.
+
+#pragma once
+
+#include "ExchangeFixture.h"
+#include "conversation/AddressBindings.h"
+#include "conversation/AddressHolders.h"
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace kx {
+
+class ScriptedNeighbours final : public NeighbourTable {
+public:
+    std::map<std::uint32_t, Neighbour> entries;
+
+    std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t /*link*/) override {
+        const auto found = entries.find(address);
+        return found != entries.end() ? std::optional(found->second) : std::nullopt;
+    }
+};
+
+class ScriptedProbes final : public AddressProbes {
+public:
+    bool isPermitted = true;
+    std::vector<std::uint32_t> probed;
+    Heard heard;
+
+    std::unique_ptr<AddressProbe> open(std::uint32_t /*link*/, Heard toHear) override {
+        if (!isPermitted) {
+            return nullptr;
+        }
+        heard = std::move(toHear);
+        return std::make_unique<Probe>(*this);
+    }
+
+private:
+    class Probe final : public AddressProbe {
+    public:
+        explicit Probe(ScriptedProbes& probes)
+            : _probes(probes) {}
+        void probe(std::uint32_t address) override { _probes.probed.push_back(address); }
+
+    private:
+        ScriptedProbes& _probes;
+    };
+};
+
+// Answers at once, or when the test says so.
+class ScriptedBindings final : public AddressBindings {
+public:
+    std::vector<std::string> calls;
+    ARPEntry answerToBind{.state = ARPEntryState::started};
+    ARPEntry answerToRelease{.state = ARPEntryState::started};
+    std::function<void()> onRelease;
+
+    void bind(const std::string& address, const std::string& hardwareAddress, Done done) override {
+        calls.push_back("bind " + address + " " + hardwareAddress);
+        done(answerToBind);
+    }
+    void release(const std::string& address, const std::string& hardwareAddress,
+                 Done done) override {
+        calls.push_back("release " + address + " " + hardwareAddress);
+        if (onRelease) {
+            onRelease();
+        }
+        done(answerToRelease);
+    }
+};
+
+class AddressTest : public ExchangeTest {
+protected:
+    static constexpr auto unitHardware = "00:1A:2B:3C:4D:5E";
+    static constexpr auto otherHardware = "00:1A:2B:3C:4D:77";
+
+    ScriptedNeighbours neighbours;
+    ScriptedProbes probes;
+    ScriptedBindings bindings;
+};
+
+} // namespace kx

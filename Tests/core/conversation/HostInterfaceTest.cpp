@@ -1,0 +1,74 @@
+#include "conversation/HostInterface.h"
+
+#include <gtest/gtest.h>
+
+namespace kx {
+
+namespace {
+
+HostInterface interface(std::string name, std::string userName, bool hasProfile, bool canAsk) {
+    HostInterface made;
+    made.title = userName + " (" + name + ")";
+    made.name = std::move(name);
+    made.userName = std::move(userName);
+    made.hasProfile = hasProfile;
+    made.canAsk = canAsk;
+    return made;
+}
+
+const std::vector<HostInterface> all{
+    interface("kx0", "Office", true, true), interface("kx2", "Ethernet", false, true),
+    interface("lo", "Loopback", false, false), interface("kx4", "kx0", true, false)};
+
+std::vector<std::string> namesOf(const std::vector<HostInterface>& interfaces) {
+    std::vector<std::string> names;
+    for (const HostInterface& each : interfaces) {
+        names.push_back(each.name);
+    }
+    return names;
+}
+
+using Names = std::vector<std::string>;
+
+} // namespace
+
+TEST(HostInterface, IsNamedByItsNameItsTitleOrItsProfile) {
+    EXPECT_EQ(namesOf(interfacesNamed(all, "kx2")), Names{"kx2"});
+    EXPECT_EQ(namesOf(interfacesNamed(all, "Office (kx0)")), Names{"kx0"});
+    EXPECT_EQ(namesOf(interfacesNamed(all, "Office")), Names{"kx0"});
+    EXPECT_EQ(namesOf(interfacesNamed(all, "kx9")), Names{});
+    EXPECT_EQ(namesOf(interfacesNamed(all, "")), Names{});
+}
+
+TEST(HostInterface, TheKindInFrontOfATitleIsNoName) {
+    EXPECT_EQ(namesOf(interfacesNamed(all, "Ethernet")), Names{});
+}
+
+TEST(HostInterface, AProfileWithTheNameOfAnotherInterfaceIsAmbiguous) {
+    EXPECT_EQ(namesOf(interfacesNamed(all, "kx0")), (Names{"kx0", "kx4"}));
+}
+
+TEST(HostInterface, OneWithTwoProfilesIsOneInterface) {
+    const std::vector<HostInterface> twice{interface("kx0", "Office", true, true),
+                                           interface("kx0", "Lab", true, true)};
+    EXPECT_EQ(namesOf(interfacesNamed(twice, "kx0")), Names{"kx0"});
+    EXPECT_EQ(namesOf(askableInterfaces(twice)), Names{"kx0"});
+    EXPECT_EQ(interfacesNamed(twice, "Lab").at(0).title, "Lab (kx0)");
+}
+
+TEST(HostInterface, OnlySomeCanAsk) {
+    EXPECT_EQ(namesOf(askableInterfaces(all)), (Names{"kx0", "kx2"}));
+}
+
+TEST(HostInterface, KnowsItsNetworks) {
+    HostInterface made;
+    EXPECT_EQ(made.broadcast(), 0xFFFFFFFFU);
+    EXPECT_EQ(made.networkOf(0xC0000201U), nullptr);
+    made.networks = {{.address = 0xC0000201U, .mask = 0xFFFFFF00U},
+                     {.address = 0x0A000001U, .mask = 0xFF000000U}};
+    EXPECT_EQ(made.broadcast(), 0xC00002FFU);
+    EXPECT_EQ(made.networkOf(0x0A010203U), &made.networks[1]);
+    EXPECT_EQ(made.networkOf(0x0B000000U), nullptr);
+}
+
+} // namespace kx

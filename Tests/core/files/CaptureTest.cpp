@@ -1,0 +1,73 @@
+#include "files/Capture.h"
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+namespace kx {
+
+namespace {
+
+std::uint32_t wordAt(const Bytes& bytes, std::size_t offset) {
+    std::uint32_t word = 0;
+    std::memcpy(&word, bytes.data() + offset, sizeof word);
+    return word;
+}
+
+const CapturedDatagram sample{.time = std::chrono::microseconds(0x0001'0000'0002),
+                              .isOwn = true,
+                              .source = 0xC0000201U,
+                              .sourcePort = 3520,
+                              .destination = 0xC00002FFU,
+                              .destinationPort = 3521,
+                              .remark = "note"};
+const Bytes fiveBytes{'^', '^', 'I', 'd', 'X'};
+
+constexpr std::size_t packetOffset = 28; // in its block
+
+} // namespace
+
+TEST(Capture, BlocksTellTheirLengthAtBothEnds) {
+    const Bytes header = captureHeader("test");
+    const std::uint32_t first = wordAt(header, 4);
+    EXPECT_EQ(wordAt(header, 0), 0x0A0D0D0AU);
+    EXPECT_EQ(wordAt(header, first - 4), first);
+    EXPECT_EQ(wordAt(header, first), 1U);
+    EXPECT_EQ(wordAt(header, first + 8) & 0xFFFFU, 228U);
+    EXPECT_EQ(first + wordAt(header, first + 4), header.size());
+
+    const Bytes block = capturedDatagram(sample, fiveBytes);
+    EXPECT_EQ(block.size() % 4, 0U);
+    EXPECT_EQ(wordAt(block, 4), block.size());
+    EXPECT_EQ(wordAt(block, block.size() - 4), block.size());
+}
+
+TEST(Capture, APacketHasTheHeadersOfItsDatagram) {
+    const Bytes block = capturedDatagram(sample, fiveBytes);
+    EXPECT_EQ(wordAt(block, 12), 1U); // the high word of the time, then the low one
+    EXPECT_EQ(wordAt(block, 16), 2U);
+    EXPECT_EQ(wordAt(block, 20), 33U);
+    const Bytes packet(block.begin() + packetOffset, block.begin() + packetOffset + 33);
+    EXPECT_EQ(packet, (Bytes{0x45, 0,    0, 33, 0, 0,   0,   0,   64,  17,   0xF5,
+                             0xCB, 192,  0, 2,  1, 192, 0,   2,   255, 0x0D, 0xC0,
+                             0x0D, 0xC1, 0, 13, 0, 0,   '^', '^', 'I', 'd',  'X'}));
+}
+
+TEST(Capture, ADatagramTellsItsDirectionAndItsRemark) {
+    const Bytes own = capturedDatagram(sample, fiveBytes);
+    const std::string text(own.begin(), own.end());
+    EXPECT_NE(text.find("note"), std::string::npos);
+    const std::size_t options = packetOffset + 36; // the packet is filled up to whole words
+    EXPECT_EQ(wordAt(own, options + 4), 2U);
+    CapturedDatagram foreign = sample;
+    foreign.isOwn = false;
+    foreign.remark = {};
+    EXPECT_EQ(wordAt(capturedDatagram(foreign, fiveBytes), options + 4), 1U);
+}
+
+TEST(Capture, DataThatFitIntoNoPacketAreCut) {
+    const Bytes block = capturedDatagram(sample, Bytes(70'000, 7));
+    EXPECT_EQ(wordAt(block, 20), 65'535U);
+}
+
+} // namespace kx

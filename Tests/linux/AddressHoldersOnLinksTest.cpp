@@ -1,0 +1,93 @@
+// The neighbour table and the ARP probes on real links.
+
+#include "PrivateNetwork.h"
+#include "platform/linux/LinuxAddressProbes.h"
+#include "platform/linux/LinuxNeighbourTable.h"
+#include "platform/posix/PollRunLoop.h"
+
+#include <gtest/gtest.h>
+#include <net/if.h>
+
+namespace kx {
+
+namespace {
+
+constexpr std::uint32_t address = 0xC000020BU; // 192.0.2.11
+constexpr std::uint32_t farAddress = 0xC0000202U;
+
+class AddressHoldersOnLinks : public testing::Test {
+protected:
+    AddressHoldersOnLinks() {
+        network.addLink("kx0", "02:00:00:00:00:01");
+        network.addAddress("kx0", "192.0.2.1/24");
+        link = ::if_nametoindex("kx0");
+    }
+
+    std::optional<Neighbour> entry() { return table.entry(address, link); }
+
+    void setEntry(const std::string& words) {
+        network.ip("neigh replace 192.0.2.11 dev kx0 " + words);
+    }
+
+    PrivateNetwork network;
+    std::uint32_t link = 0;
+    LinuxNeighbourTable table;
+};
+
+} // namespace
+
+TEST_F(AddressHoldersOnLinks, AnAddressThatNobodyHasAskedForHasNoEntry) {
+    EXPECT_FALSE(entry().has_value());
+    setEntry("lladdr 02:4b:58:00:00:01 nud reachable");
+    EXPECT_TRUE(entry().has_value());
+    EXPECT_FALSE(table.entry(address + 1, link).has_value());
+    EXPECT_FALSE(table.entry(address, link + 1000).has_value());
+    EXPECT_TRUE(entry().has_value()) << "a question without an answer does not disturb the next";
+}
+
+TEST_F(AddressHoldersOnLinks, AnEntryTellsItsStateAndItsHardwareAddress) {
+    const std::string hardware = "lladdr 02:4b:58:00:00:01 nud ";
+    for (const auto& [word, state] :
+         {std::pair{"reachable", NeighbourState::reachable},
+          std::pair{"stale", NeighbourState::stale}, std::pair{"delay", NeighbourState::stale},
+          std::pair{"permanent", NeighbourState::permanent},
+          std::pair{"noarp", NeighbourState::permanent}}) {
+        setEntry(hardware + word);
+        ASSERT_TRUE(entry().has_value()) << word;
+        EXPECT_EQ(entry()->state, state) << word;
+        EXPECT_EQ(entry()->hardwareAddress, "02:4B:58:00:00:01");
+    }
+}
+
+TEST_F(AddressHoldersOnLinks, AProbeHearsWhoClaimsTheAddress) {
+    PollRunLoop runLoop;
+    LinuxAddressProbes probes(runLoop);
+    // This host answers for its own address at the other end of a pair within one network.
+    network.ip("link add kx2 type veth peer name kx3 address 02:00:00:00:00:04");
+    network.ip("link set kx2 up");
+    network.ip("link set kx3 up");
+    network.addAddress("kx3", "192.0.2.2/32");
+    std::vector<std::string> heard;
+    const auto probe =
+        probes.open(::if_nametoindex("kx2"), [&](std::uint32_t from, const std::string& hardware) {
+            if (from == farAddress) {
+                heard.push_back(hardware);
+            }
+        });
+    ASSERT_NE(probe, nullptr);
+    const auto isHeard = [&] {
+        probe->probe(farAddress);
+        runLoop.runOnce(std::chrono::milliseconds(50));
+        return !heard.empty();
+    };
+    EXPECT_TRUE(eventually(isHeard));
+    EXPECT_EQ(heard.at(0), "02:00:00:00:00:04");
+}
+
+TEST_F(AddressHoldersOnLinks, ALinkWithoutHardwareAddressesCannotBeProbed) {
+    PollRunLoop runLoop;
+    LinuxAddressProbes probes(runLoop);
+    EXPECT_EQ(probes.open(link + 1000, {}), nullptr);
+}
+
+} // namespace kx

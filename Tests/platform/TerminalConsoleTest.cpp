@@ -1,0 +1,119 @@
+#include "platform/posix/TerminalConsole.h"
+
+#include "support/Pipe.h"
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdlib>
+
+namespace kx {
+
+namespace {
+
+// While this object lives, one of the standard descriptors is another one.
+class Replaced {
+public:
+    Replaced(int standard, int other)
+        : _standard(standard)
+        , _before(::dup(standard)) {
+        ::dup2(other, standard);
+    }
+    ~Replaced() {
+        ::dup2(_before, _standard);
+        ::close(_before);
+    }
+    Replaced(const Replaced&) = delete;
+    Replaced& operator=(const Replaced&) = delete;
+
+private:
+    int _standard;
+    int _before;
+};
+
+std::string contentsOf(Pipe& pipe) {
+    pipe.writingEnd.close();
+    std::string text;
+    std::array<char, 256> buffer{};
+    ssize_t count = 0;
+    while ((count = ::read(pipe.readingEnd.number(), buffer.data(), buffer.size())) > 0) {
+        text.append(buffer.data(), static_cast<std::size_t>(count));
+    }
+    return text;
+}
+
+} // namespace
+
+TEST(TerminalConsole, DataAndWordsGoTheirOwnWays) {
+    Pipe output;
+    Pipe notes;
+    {
+        const Replaced out(STDOUT_FILENO, output.writingEnd.number());
+        const Replaced err(STDERR_FILENO, notes.writingEnd.number());
+        TerminalConsole console;
+        console.writeOutput("data\n");
+        console.writeNote("words\n");
+        EXPECT_FALSE(console.isOutputTerminal());
+        EXPECT_FALSE(console.isNoteTerminal());
+        EXPECT_FALSE(console.outputError().has_value());
+    }
+    EXPECT_EQ(contentsOf(output), "data\n");
+    EXPECT_EQ(contentsOf(notes), "words\n");
+}
+
+TEST(TerminalConsole, AnOutputThatCannotBeWrittenIsKeptInMind) {
+    TerminalConsole console;
+    {
+        const FileDescriptor full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+        const Replaced out(STDOUT_FILENO, full.number());
+        console.writeOutput("data");
+    }
+    ASSERT_TRUE(console.outputError().has_value());
+    EXPECT_EQ(console.outputError()->code, ENOSPC);
+}
+
+TEST(TerminalConsole, AReaderThatIsGoneIsAnErrorOfItsOwn) {
+    const auto before = std::signal(SIGPIPE, SIG_IGN);
+    TerminalConsole console;
+    {
+        Pipe pipe;
+        pipe.readingEnd.close();
+        const Replaced out(STDOUT_FILENO, pipe.writingEnd.number());
+        console.writeOutput("data");
+    }
+    std::signal(SIGPIPE, before);
+    EXPECT_EQ(console.outputError()->code, EPIPE);
+}
+
+TEST(TerminalConsole, LinesAreReadOneByOneUntilTheEnd) {
+    Pipe input;
+    ASSERT_EQ(::write(input.writingEnd.number(), "yes\n\nlast", 9), 9);
+    input.writingEnd.close();
+    const Replaced in(STDIN_FILENO, input.readingEnd.number());
+    TerminalConsole console;
+    EXPECT_FALSE(console.isInputTerminal());
+    EXPECT_EQ(console.readLine(), "yes");
+    EXPECT_EQ(console.readLine(), "");
+    EXPECT_EQ(console.readLine(), "last");
+    EXPECT_EQ(console.readLine(), std::nullopt);
+}
+
+TEST(TerminalConsole, ColoursAreForTerminalsThatHaveThemAndPeopleWhoWantThem) {
+    const TerminalConsole console;
+    ::setenv("TERM", "xterm", 1);
+    ::unsetenv("NO_COLOR");
+    EXPECT_FALSE(console.isPlain());
+    ::setenv("NO_COLOR", "1", 1);
+    EXPECT_TRUE(console.isPlain());
+    ::unsetenv("NO_COLOR");
+    ::setenv("TERM", "dumb", 1);
+    EXPECT_TRUE(console.isPlain());
+    ::unsetenv("TERM");
+    EXPECT_TRUE(console.isPlain());
+}
+
+} // namespace kx
