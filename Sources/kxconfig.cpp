@@ -21,12 +21,13 @@
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
-#include "platform/qtcore/TerminationSignals.h"
 #include "support/RateLimitedSystemLog.h"
+#include "support/SignalPipe.h"
 
 #include <unistd.h>
 
 #include <QApplication>
+#include <QSocketNotifier>
 #include <csignal>
 
 int main(int argc, char* argv[]) {
@@ -93,9 +94,13 @@ int main(int argc, char* argv[]) {
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, end);
     // A dialog may be open, below which an action is not done. The action has to find the end when
     // it goes on, so the end comes before its loop is left.
-    const kx::TerminationSignals terminationSignals([&] {
-        end();
-        QApplication::exit(0);
+    kx::SignalPipe signals({SIGTERM, SIGINT, SIGHUP});
+    const QSocketNotifier arrivals(signals.descriptor(), QSocketNotifier::Read);
+    QObject::connect(&arrivals, &QSocketNotifier::activated, &window, [&] {
+        if (signals.take().has_value()) {
+            end();
+            QApplication::exit(0);
+        }
     });
 
     window.show();

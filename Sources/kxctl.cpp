@@ -15,12 +15,12 @@
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/TerminalConsole.h"
-#include "platform/posix/TerminationSignals.h"
 #include "platform/posix/ThreadHostResolver.h"
 #include "platform/qtcore/EventLoopWaiting.h"
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "support/SignalPipe.h"
 
 #include <QCoreApplication>
 #include <chrono>
@@ -67,8 +67,12 @@ int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
                               .neighbours = neighbours,
                               .probes = &probes,
                               .bindings = bindings});
-    const kx::TerminationSignals termination(runLoop,
-                                             [&run](int signal) { run.interrupt(signal); });
+    kx::SignalPipe signals({SIGINT, SIGTERM});
+    const auto watch = runLoop.watchForReading(signals.descriptor(), [&] {
+        if (const auto signal = signals.take()) {
+            run.interrupt(*signal);
+        }
+    });
     return run.run();
 }
 

@@ -34,7 +34,7 @@ std::string_view HeardUnit::hardwareAddress() const {
 }
 
 UnitTarget HeardUnit::target() const {
-    const UnitDestination destination = destinationOfUnit(&record, sender);
+    const UnitDestination destination = destinationOfUnit(&record, {.address = sender});
     return {.address = destination.address, .port = destination.port, .link = link};
 }
 

@@ -81,7 +81,8 @@ void UnitExchange::sessionDidStop(const Error& error) {
     _stopError = error;
 }
 
-void UnitExchange::sessionDidReceiveDatagram(std::size_t /*length*/) {
+void UnitExchange::sessionDidReceiveDatagram(std::size_t /*length*/,
+                                             const DatagramOrigin& /*origin*/) {
     ++_received;
 }
 

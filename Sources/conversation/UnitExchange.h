@@ -91,7 +91,7 @@ public:
 
 private:
     void sessionDidStop(const Error& error) override;
-    void sessionDidReceiveDatagram(std::size_t length) override;
+    void sessionDidReceiveDatagram(std::size_t length, const DatagramOrigin& origin) override;
     void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
                                const DatagramOrigin& origin) override;
     void unitDidAccept(const Reply& reply, const DatagramOrigin& origin) override;
