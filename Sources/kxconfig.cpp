@@ -94,10 +94,10 @@ int main(int argc, char* argv[]) {
     QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, end);
     // A dialog may be open, below which an action is not done. The action has to find the end when
     // it goes on, so the end comes before its loop is left.
-    kx::SignalPipe signals({SIGTERM, SIGINT, SIGHUP});
-    const QSocketNotifier arrivals(signals.descriptor(), QSocketNotifier::Read);
+    kx::SignalPipe signalPipe({SIGTERM, SIGINT, SIGHUP});
+    const QSocketNotifier arrivals(signalPipe.descriptor(), QSocketNotifier::Read);
     QObject::connect(&arrivals, &QSocketNotifier::activated, &window, [&] {
-        if (signals.take().has_value()) {
+        if (signalPipe.take().has_value()) {
             end();
             QApplication::exit(0);
         }

@@ -67,9 +67,9 @@ int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
                               .neighbours = neighbours,
                               .probes = &probes,
                               .bindings = bindings});
-    kx::SignalPipe signals({SIGINT, SIGTERM});
-    const auto watch = runLoop.watchForReading(signals.descriptor(), [&] {
-        if (const auto signal = signals.take()) {
+    kx::SignalPipe signalPipe({SIGINT, SIGTERM});
+    const auto watch = runLoop.watchForReading(signalPipe.descriptor(), [&] {
+        if (const auto signal = signalPipe.take()) {
             run.interrupt(*signal);
         }
     });

@@ -33,8 +33,8 @@ void setHandler(int signal, void (*handler)(int)) {
 
 } // namespace
 
-SignalPipe::SignalPipe(std::initializer_list<int> signals)
-    : _signals(signals) {
+SignalPipe::SignalPipe(std::initializer_list<int> numbers)
+    : _signals(numbers) {
     writingEnd = _pipe.writingEnd.number();
     for (const int signal : _signals) {
         setHandler(signal, handleSignal);

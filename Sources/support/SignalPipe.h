@@ -20,7 +20,7 @@ namespace kx {
 
 class SignalPipe {
 public:
-    explicit SignalPipe(std::initializer_list<int> signals);
+    explicit SignalPipe(std::initializer_list<int> numbers);
 
     // From now on the signals do what the system does by itself.
     ~SignalPipe();
