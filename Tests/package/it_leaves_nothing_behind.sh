@@ -51,7 +51,8 @@ snapshot() {
 
 check_installed_files() {
     local file
-    for file in usr/bin/kxconfig usr/bin/kxunits usr/libexec/kxconfig/kxarp usr/sbin/arp \
+    for file in usr/bin/kxconfig usr/bin/kxctl usr/bin/kxunits usr/share/man/man1/kxctl.1.gz \
+        usr/share/bash-completion/completions/kxctl usr/libexec/kxconfig/kxarp usr/sbin/arp \
         usr/share/applications/org.kxconfig.KXConfig.desktop \
         usr/share/metainfo/org.kxconfig.KXConfig.metainfo.xml \
         usr/share/icons/hicolor/scalable/apps/org.kxconfig.KXConfig.svg \
