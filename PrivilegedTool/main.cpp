@@ -41,7 +41,7 @@ void leaveCallerBehind() {
     } while (nothing >= 0 && nothing <= STDERR_FILENO);
     if (nothing < 0 || ::dup2(nothing, STDIN_FILENO) < 0 || ::dup2(nothing, STDOUT_FILENO) < 0 ||
         ::close_range(STDERR_FILENO + 1, ~0U, 0) != 0) {
-        std::abort();
+        endWith(kxarp::Failure::noTool);
     }
 }
 

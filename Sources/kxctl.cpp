@@ -12,6 +12,7 @@
 #include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/posix/MemoryExhaustion.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/TerminalConsole.h"
@@ -20,6 +21,7 @@
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
 
 #include <QCoreApplication>
@@ -35,8 +37,7 @@ Unit timeOf() {
     return std::chrono::duration_cast<Unit>(Clock::now().time_since_epoch());
 }
 
-int runOnThisHost(const kx::CommandLine& line, kx::Console& console) {
-    kx::QtRunLoop runLoop;
+int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Console& console) {
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;
@@ -83,12 +84,16 @@ int runInLanguageOfUser(int argc, char* argv[], const std::vector<std::string>& 
     const kx::QtLocalizedText localizedText;
     kx::installLocalizedText(&localizedText);
     kx::SyslogSystemLog systemLog("kxctl", "/dev/log", kx::SyslogSystemLog::Copies::last);
-    kx::installSystemLog(&systemLog);
+    kx::QtRunLoop runLoop;
+    kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
+    kx::installSystemLog(&limitedLog);
+    kx::installMemoryExhaustionHandler();
 
     const auto line = kx::readCommandLine(arguments, console);
     const auto* const status = std::get_if<int>(&line);
-    const int result =
-        status != nullptr ? *status : runOnThisHost(std::get<kx::CommandLine>(line), console);
+    const int result = status != nullptr
+                           ? *status
+                           : runOnThisHost(std::get<kx::CommandLine>(line), runLoop, console);
     kx::installSystemLog(nullptr);
     kx::installLocalizedText(nullptr);
     return result;

@@ -95,9 +95,10 @@ std::optional<SendFailure> UnitSession::send(std::string_view command, std::uint
 
 std::optional<SendFailure> UnitSession::failToSend(const Error& error) {
     _sendFailure.reset();
-    if (_listener != nullptr) {
-        didFailToSend(isListening() ? SendFailure{error} : SendFailure());
+    if (_listener == nullptr) {
+        return SendFailure();
     }
+    didFailToSend(isListening() ? SendFailure{error} : SendFailure());
     return std::exchange(_sendFailure, std::nullopt);
 }
 

@@ -65,6 +65,15 @@ expect_equal 'the status of a command that a signal ends' 137 \
 expect_nothing_left 'after a signal to the command'
 expect_equal 'states in the record of the last run' 3 "$(grep -c '^state ' "$record")"
 
+# The record takes the place of a link and does not follow it.
+printf 'precious\n' >"$scratch/precious"
+rm -- "$record"
+ln -s -- "$scratch/precious" "$record"
+expect_equal 'the status with a link in the place of the record' 0 "$(status_of true)"
+expect_nothing_left 'after a link in the place of the record'
+expect_equal 'the file that the link names' precious "$(<"$scratch/precious")"
+[[ ! -L $record ]] || fail 'the link is still there'
+
 # A signal to the lab alone reaches the command, and the lab ends in order.
 for signal in TERM INT KILL; do
     env --default-signal=INT "$lab" --record "$record" -- \

@@ -194,7 +194,7 @@ TEST_F(LogSelectionTest, SelectingAndCopyingALongLogTakesNoMemoryUntilSomebodyPa
     }
     view.setText(text);
     QGuiApplication::clipboard()->clear();
-    const std::size_t before = bytesHeld();
+    [[maybe_unused]] const std::size_t before = bytesHeld();
     view.selectAll();
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->hasText());

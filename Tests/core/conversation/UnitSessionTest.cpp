@@ -193,6 +193,7 @@ TEST_F(UnitSessionLife, ASendThroughAStoppedListenerFailsWithoutASystemCall) {
 
 TEST_F(UnitSessionLife, WithoutAListenerASendFailsWithoutAnEvent) {
     EXPECT_EQ(resultOfSend("^^IdX"), "no listener");
+    EXPECT_TRUE(session.failToSend(posixError(ENETUNREACH)).has_value());
     start();
     session.stop();
     EXPECT_EQ(resultOfSend("^^IdX"), "no listener");
