@@ -49,7 +49,8 @@ void UnitWatch::request() {
         end();
         return;
     }
-    for (auto& [key, watched] : _units) {
+    for (auto& entry : _units) {
+        Watched& watched = entry.second;
         if (watched.unanswered > 0) {
             exchange().send(parameterRequestCommand, watched.unit.target());
         }
