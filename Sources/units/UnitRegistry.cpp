@@ -30,10 +30,8 @@ bool UnitRegistry::store(const UnitRecord& record) {
     return true;
 }
 
+// Never called for the newest unit, which stays where it is.
 void UnitRegistry::leaveRing(Unit& unit) {
-    if (_newest == &unit) {
-        _newest = unit.older == &unit ? nullptr : unit.older;
-    }
     unit.older->newer = unit.newer;
     unit.newer->older = unit.older;
 }

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <atomic>
 #include <csignal>
 #include <set>
 
@@ -17,7 +18,7 @@ namespace kx {
 
 namespace {
 
-volatile std::sig_atomic_t interruptions = 0;
+std::atomic<int> interruptions{0};
 
 void countInterruption(int /*signal*/) {
     interruptions = interruptions + 1;

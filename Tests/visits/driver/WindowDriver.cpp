@@ -19,7 +19,7 @@ namespace {
 
 using std::chrono::milliseconds;
 
-constexpr milliseconds longestPatience{20'000};
+constexpr milliseconds longestPatience{60'000};
 constexpr milliseconds betweenLooks{10};
 
 // The drawer takes no click while it moves.

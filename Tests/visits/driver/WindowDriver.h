@@ -2,8 +2,9 @@
 // keyboard, and reads the texts that a person would read.
 //
 // It knows the program as controls with object names, and reaches it through the window system's
-// own events. Main thread only. Operations that wait do so in a nested event loop, for twenty
-// seconds at most, and throw a VisitFailure when the wait was in vain.
+// own events. Main thread only. Operations that wait do so in a nested event loop, for a minute at
+// most, because sanitizers make everything slow, and throw a VisitFailure when the wait was in
+// vain.
 
 #pragma once
 
