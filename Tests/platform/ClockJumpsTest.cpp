@@ -14,7 +14,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::steady_clock;
 
-constexpr std::time_t hour = 60 * 60;
+constexpr std::time_t hour = 3600;
 
 } // namespace
 

@@ -8,7 +8,7 @@ namespace {
 
 class AddressHoldersTest : public AddressTest {
 protected:
-    void begin(bool withProbes, std::vector<std::uint32_t> addresses = {unitAddress}) {
+    void begin(bool withProbes, const std::vector<std::uint32_t>& addresses = {unitAddress}) {
         std::vector<AddressQuestion> questions;
         for (const std::uint32_t address : addresses) {
             questions.push_back({.address = address, .link = link});

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <utility>
 
 namespace kx {
 
@@ -32,7 +33,7 @@ std::string textAfterAcceptance(UnitParameter parameter, const std::string& type
 
 std::string textWithARPEntry(const std::string& typed, ARPEntry entry) {
     EditOutcome outcome = outcomeOf(internalIPAddress, typed, "192.168.1.10");
-    outcome.setARPEntry(entry);
+    outcome.setARPEntry(std::move(entry));
     return textOfEditOutcome(outcome);
 }
 

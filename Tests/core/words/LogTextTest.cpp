@@ -306,7 +306,7 @@ TEST(LogText, BeyondItsLimitTheOldestPiecesGoAndOneLineSaysSo) {
     appendLines(text, 20'000);
     const std::string kept = text.text();
     EXPECT_LE(kept.size(), limit);
-    EXPECT_GT(kept.size(), limit - 2 * 65'536) << "and no more than needed";
+    EXPECT_GT(kept.size(), limit - 2 * std::size_t{65'536}) << "and no more than needed";
     EXPECT_TRUE(kept.starts_with(std::string(notice) + "\n"));
     EXPECT_EQ(kept.find(notice, 1), std::string::npos) << "the line is there once";
     EXPECT_TRUE(kept.ends_with("\nline 19999 " + std::string(19'999 % 90, 'x')));
@@ -406,7 +406,7 @@ TEST(LogText, AnExcerptHasItsRangeAndNotTheWholeText) {
             const LogText::Excerpt excerpt = text.excerpt(from, to);
             EXPECT_EQ(excerpt.text.shownText(from - excerpt.position, to - excerpt.position),
                       text.shownText(from, to));
-            EXPECT_LE(excerpt.text.size(), to - from + 2 * 65'536);
+            EXPECT_LE(excerpt.text.size(), to - from + 2 * std::size_t{65'536});
             const bool isFull = text.pieceAt(from).position < text.pieceAt(text.size()).position;
             EXPECT_EQ(excerpt.text.pieceAt(0).text.data() == text.pieceAt(from).text.data(), isFull)
                 << "no full piece is copied";
