@@ -70,7 +70,7 @@ void receiveWithLink(int sock, Buffer& buffer) {
     message.msg_iovlen = 1;
     message.msg_control = control.data();
     message.msg_controllen = control.size();
-    ::recvmsg(sock, &message, 0);
+    benchmark::DoNotOptimize(::recvmsg(sock, &message, 0));
     benchmark::DoNotOptimize(control.data());
 }
 
