@@ -23,6 +23,16 @@ constexpr auto timeForSerialNumber = 200ms;
 
 } // namespace
 
+bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress) {
+    return std::ranges::any_of(holders.holders, [hardwareAddress](const auto& holder) {
+        return holder.hardwareAddress != hardwareAddress;
+    });
+}
+
+bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress) {
+    return holders.state != HolderState::unknown && !isHeldByAnother(holders, hardwareAddress);
+}
+
 HolderSearch::HolderSearch(UnitExchange& exchange, const Services& services,
                            const std::vector<AddressQuestion>& questions)
     : Listener(exchange)

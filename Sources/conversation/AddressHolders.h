@@ -21,6 +21,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -78,6 +79,11 @@ struct AddressHolders {
     HolderState state = HolderState::unknown;
     std::vector<Holder> holders;
 };
+
+bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress);
+
+// Whether a unit with this hardware address may take the address: nobody else holds it.
+bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress);
 
 struct AddressQuestion {
     std::uint32_t address = 0;
