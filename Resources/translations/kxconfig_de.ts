@@ -269,18 +269,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ lies in no network of the interface.</source>
-        <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is the address of a whole network.</source>
-        <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <source>Somebody holds %@.</source>
         <translation>%@ ist vergeben.</translation>
     </message>
@@ -362,11 +350,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <source>Interrupted.</source>
-        <translation>Unterbrochen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>Die Aufzeichnung ist nicht vollständig, weil sie nicht geschrieben werden konnte.</translation>
     </message>
@@ -435,6 +418,31 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
         <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Unterbrochen.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -578,11 +586,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is there twice.</source>
         <translation>%@ steht zweimal da.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is this host&apos;s own address.</source>
-        <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -269,18 +269,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ lies in no network of the interface.</source>
-        <translation>%@ no está en ninguna red de la interfaz.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is the address of a whole network.</source>
-        <translation>%@ es la dirección de una red entera.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <source>Somebody holds %@.</source>
         <translation>%@ está ocupada.</translation>
     </message>
@@ -362,11 +350,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <source>Interrupted.</source>
-        <translation>Interrumpido.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La captura no está completa, porque no se pudo escribir.</translation>
     </message>
@@ -435,6 +418,31 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
         <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ es la dirección de este mismo equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ es la dirección de una red entera.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ no está en ninguna red de la interfaz.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Interrumpido.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -578,11 +586,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is there twice.</source>
         <translation>%@ está dos veces.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is this host&apos;s own address.</source>
-        <translation>%@ es la dirección de este mismo equipo.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -269,18 +269,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ lies in no network of the interface.</source>
-        <translation>%@ ne se trouve dans aucun réseau de l’interface.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is the address of a whole network.</source>
-        <translation>%@ est l’adresse d’un réseau entier.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <source>Somebody holds %@.</source>
         <translation>%@ est occupée.</translation>
     </message>
@@ -362,11 +350,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <source>Interrupted.</source>
-        <translation>Interrompu.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La capture n’est pas complète, car elle n’a pas pu être écrite.</translation>
     </message>
@@ -435,6 +418,31 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
         <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ est l’adresse de cet hôte lui-même.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ est l’adresse d’un réseau entier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ ne se trouve dans aucun réseau de l’interface.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Interrompu.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -578,11 +586,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is there twice.</source>
         <translation>%@ est là deux fois.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is this host&apos;s own address.</source>
-        <translation>%@ est l’adresse de cet hôte lui-même.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -106,8 +106,7 @@ void CommandRun::tellFailure(const Failure& failure) {
 
 int CommandRun::finish(std::optional<Failure> failure) {
     if (isInterrupted()) {
-        failure = Failure{ErrorCode::interrupted, localizedText("Interrupted."),
-                          exitInterrupted + _signal};
+        failure = interruption();
     }
     if (_captureFile != nullptr && !*_captureFile) {
         warn("capture",

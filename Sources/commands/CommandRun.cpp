@@ -1,9 +1,12 @@
 #include "commands/CommandRun.h"
 
 #include "addresses/IPv4Address.h"
+#include "conversation/Finding.h"
+#include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
+#include "words/FindingText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
@@ -231,11 +234,11 @@ UnitTarget CommandRun::everybodyOf(std::uint32_t link) const {
 }
 
 void CommandRun::wait(Operation& operation) {
+    if (isInterrupted()) {
+        return;
+    }
     _operation = &operation;
     operation.begin({});
-    if (isInterrupted()) {
-        operation.interrupt();
-    }
     _services.session.runLoop.runUntil([&operation] { return operation.hasEnded(); });
     _operation = nullptr;
     endProgress();
@@ -275,6 +278,9 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     }
     Discovery discovery(exchange(), std::move(plan));
     wait(discovery);
+    if (isInterrupted()) {
+        return interruption();
+    }
     if (!discovery.hasAsked()) {
         return refusalOfSend(discovery.failure());
     }
@@ -296,7 +302,32 @@ CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) 
         return refusal;
     }
     unit = found.front();
+    if (auto refusal = objectionToReach(unit)) {
+        return refusal;
+    }
+    warnOfSender(unit);
     return std::nullopt;
+}
+
+// A command to an address of many would reach others too.
+CommandRun::Refusal CommandRun::objectionToReach(const HeardUnit& unit) const {
+    const RequestTarget target = targetOfRequest(&unit.record, addressesOfMany(_interfaces));
+    if (target.reach == RequestReach::oneUnit ||
+        target.reach == RequestReach::everybodyWithoutAddress) {
+        return std::nullopt;
+    }
+    return failureOf(
+        ErrorCode::ambiguous,
+        localizedText("The unit %@ tells an address of many as its own: %@.",
+                      {std::string(unit.serialNumber()), stringForIP(unit.target().address)}));
+}
+
+void CommandRun::warnOfSender(const HeardUnit& unit) {
+    const std::uint32_t claimed = unit.target().address;
+    if (claimed != unit.sender) {
+        warn("sender", textOfFinding(SenderOfAnotherAddress{std::string(unit.serialNumber()),
+                                                            claimed, unit.sender}));
+    }
 }
 
 CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUnit& unit) {
@@ -311,6 +342,29 @@ CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUni
         return refusal;
     }
     return findUnit(names.front(), unit);
+}
+
+CommandRun::Refusal CommandRun::refusalOfAddress(AddressObjection objection,
+                                                 std::uint32_t address) {
+    const std::string text = stringForIP(address);
+    switch (objection) {
+    case AddressObjection::isOwn:
+        return failureOf(ErrorCode::value, localizedText("%@ is this host's own address.", {text}));
+    case AddressObjection::isOfNetwork:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ is the address of a whole network.", {text}));
+    case AddressObjection::isOutside:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ lies in no network of the interface.", {text}));
+    case AddressObjection::none:
+        break;
+    }
+    return std::nullopt;
+}
+
+Failure CommandRun::interruption() const {
+    return Failure{ErrorCode::interrupted, localizedText("Interrupted."),
+                   exitInterrupted + _signal};
 }
 
 CommandRun::Refusal CommandRun::refusalOfSend(const std::optional<SendFailure>& failure) {

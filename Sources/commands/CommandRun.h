@@ -81,14 +81,15 @@ public:
     std::vector<UnitTarget> everybody() const;
     UnitTarget everybodyOf(std::uint32_t link) const;
 
-    // Runs the loop until the operation has ended.
+    // Runs the loop until the operation has ended. An interrupted run begins nothing.
     void wait(Operation& operation);
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
     // be taken for; the refusal is about the first that does not.
     Refusal findUnits(const std::vector<UnitName>& names, std::vector<HeardUnit>& found);
 
-    // The same for one unit.
+    // The same for one unit that will get a command. Warns when its answer came from another
+    // address than the one that it tells.
     Refusal findUnit(const UnitName& name, HeardUnit& unit);
 
     // The steps of a command for one unit: interfaces, listening, and the unit itself.
@@ -108,6 +109,9 @@ public:
     void say(const std::string& sentence);
     void warn(std::string_view code, const std::string& sentence);
 
+    // Warns when a unit's answer came from another address than the one that it tells.
+    void warnOfSender(const HeardUnit& unit);
+
     // Ends the operation under way, because nobody reads what it tells.
     void endEarly();
 
@@ -118,6 +122,9 @@ public:
     // Asks a person. Absent when nobody can be asked or nobody answered.
     std::optional<std::string> ask(const std::string& question);
 
+    // Why another host cannot be found at an address; absent without an objection.
+    static Refusal refusalOfAddress(AddressObjection objection, std::uint32_t address);
+
     // Why a datagram was not sent, as the reason why a command cannot go on; absent without one.
     static Refusal refusalOfSend(const std::optional<SendFailure>& failure);
 
@@ -126,6 +133,8 @@ public:
 
 private:
     Refusal openCapture();
+    Failure interruption() const;
+    Refusal objectionToReach(const HeardUnit& unit) const;
     void tellFailure(const Failure& failure);
     void takeSignal();
 

@@ -84,6 +84,9 @@ void fillDocument(CommandRun& run, const HeardUnits& units) {
                                           {static_cast<int>(dropped)}));
     }
     warnOfDuplicates(run, units);
+    for (const HeardUnit* const unit : units.all()) {
+        run.warnOfSender(*unit);
+    }
 }
 
 Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& expected) {

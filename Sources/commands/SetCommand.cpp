@@ -12,6 +12,7 @@
 #include "words/SendFailureText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kx {
 
@@ -90,39 +91,25 @@ Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
     return std::nullopt;
 }
 
-// A new address must be one that another host on the interface may have.
-Refusal objectionToAddress(const std::vector<HostInterface>& interfaces, const std::string& typed) {
-    const std::uint32_t address = ipForString(typed);
-    const NetworkOfInterface* network = nullptr;
-    for (const HostInterface& interface : interfaces) {
-        const NetworkOfInterface* const found = interface.networkOf(address);
-        network = found != nullptr ? found : network;
-    }
-    if (network == nullptr) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ lies in no network of the interface.", {typed}));
-    }
-    // In a network of two hosts every address is a host's (RFC 3021).
-    const bool hasOnlyHosts = ~network->mask <= 1;
-    if (address == network->address) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ is this host's own address.", {typed}));
-    }
-    if (!hasOnlyHosts &&
-        (address == (network->address & network->mask) || address == network->broadcast())) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ is the address of a whole network.", {typed}));
+// A new address must be one that another host on the interfaces may have.
+Refusal objectionToNewAddress(const CommandRun& run, const std::vector<HostInterface>& asked,
+                              const Edits& edits) {
+    for (const ExactEdit& edit : edits) {
+        if (edit.edit.parameter == UnitParameter::internalIPAddress) {
+            const std::uint32_t address = ipForString(edit.edit.typed);
+            return CommandRun::refusalOfAddress(
+                objectionToAddress(address, run.interfaces(), asked), address);
+        }
     }
     return std::nullopt;
 }
 
-Refusal objectionToAddresses(const std::vector<HostInterface>& interfaces, const Edits& edits) {
-    for (const ExactEdit& edit : edits) {
-        if (edit.edit.parameter == UnitParameter::internalIPAddress) {
-            return objectionToAddress(interfaces, edit.edit.typed);
-        }
-    }
-    return std::nullopt;
+// Where several interfaces are asked, only the answer tells on which one the unit is.
+Refusal objectionOnLink(const CommandRun& run, std::uint32_t link, const Edits& edits) {
+    std::vector<HostInterface> own;
+    std::ranges::copy_if(run.interfaces(), std::back_inserter(own),
+                         [link](const HostInterface& each) { return each.link == link; });
+    return own.empty() ? std::nullopt : objectionToNewAddress(run, own, edits);
 }
 
 std::string_view nameOf(ChangeState state) {
@@ -236,14 +223,8 @@ Refusal failureOfChanges(const UnitEdits& edits) {
                              localizedText("The unit %@ shows another value.", {unit}));
 }
 
-Refusal failureOfEdits(const UnitEdits& edits) {
-    if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
-        return failureOfMove(*edits.move());
-    }
-    auto failure = failureOfChanges(edits);
-    if (failure.has_value() && failure->code != ErrorCode::unchanged) {
-        return failure;
-    }
+// Why a command did not go out; absent when all did.
+Refusal reasonOfRefusal(const UnitEdits& edits) {
     if (edits.isAmbiguous()) {
         return failureOf(ErrorCode::ambiguous,
                          localizedText("Another unit answers with the same serial number."));
@@ -251,11 +232,22 @@ Refusal failureOfEdits(const UnitEdits& edits) {
     if (auto refusal = CommandRun::refusalOfSend(edits.failure())) {
         return refusal;
     }
-    if (edits.move() != nullptr) {
-        if (auto refusal = failureOfMove(*edits.move())) {
-            return refusal;
-        }
+    return edits.move() != nullptr ? failureOfMove(*edits.move()) : std::nullopt;
+}
+
+Refusal failureOfEdits(const UnitEdits& edits) {
+    if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
+        return failureOfMove(*edits.move());
     }
+    auto failure = failureOfChanges(edits);
+    const auto reason = reasonOfRefusal(edits);
+    if (!reason.has_value()) {
+        return failure;
+    }
+    if (!failure.has_value() || failure->code == ErrorCode::unchanged) {
+        return reason;
+    }
+    failure->message += ' ' + reason->message;
     return failure;
 }
 
@@ -293,9 +285,9 @@ int runSet(CommandRun& run) {
     }
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); },
-             [&] { return objectionToAddresses(run.chosen(), edits); },
-             [&] { return run.openExchange(); },
-             [&] { return run.findUnit(names.front(), unit); }}) {
+             [&] { return objectionToNewAddress(run, run.chosen(), edits); },
+             [&] { return run.openExchange(); }, [&] { return run.findUnit(names.front(), unit); },
+             [&] { return objectionOnLink(run, unit.link, edits); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }
