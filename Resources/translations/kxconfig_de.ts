@@ -421,6 +421,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
     </message>
@@ -446,6 +452,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>%d Anfragen folgen in dieser Zeit zu dicht aufeinander. Jede braucht 0,01 Sekunden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Mehrere Geräte haben die Adresse %@: %@.</translation>
     </message>
@@ -463,13 +474,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>%d von %d Geräten haben geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Kein Gerät hat geantwortet.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>

@@ -421,6 +421,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Ninguna unidad ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
     </message>
@@ -446,6 +452,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>%d consultas se siguen demasiado de cerca en ese tiempo. Cada una necesita 0,01 segundos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Varias unidades tienen la dirección %@: %@.</translation>
     </message>
@@ -463,13 +474,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>Han respondido %d de %d unidades.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Ninguna unidad ha respondido.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>

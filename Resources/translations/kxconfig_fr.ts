@@ -421,6 +421,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Aucune unité n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
     </message>
@@ -446,6 +452,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>%d requêtes se suivent de trop près pendant ce temps. Il faut 0,01 seconde pour chacune.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Plusieurs unités ont l’adresse %@ : %@.</translation>
     </message>
@@ -463,13 +474,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>%d unités sur %d ont répondu.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Aucune unité n’a répondu.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>

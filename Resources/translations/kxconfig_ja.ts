@@ -421,6 +421,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>応答したユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
     </message>
@@ -446,6 +452,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>その時間に %d 回の要求では間隔が短すぎます。1 回につき 0.01 秒が必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>複数のユニットがアドレス %@ を使っています: %@。</translation>
     </message>
@@ -463,13 +474,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>応答したユニット: %d、期待した数: %d。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>応答したユニットはありません。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>

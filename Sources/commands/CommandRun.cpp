@@ -24,11 +24,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// In this time everybody answers who claims to be the same unit, unless the network is at fault.
+// Others who claim to be the same unit have at least so long to answer after it. Most units answer
+// sooner; for slow ones the time is longer (Discovery.h).
 constexpr auto timeForOthers = 10ms;
 
 // A unit that was named is asked for so often within the usual time.
-constexpr int triesForUnits = 4;
+constexpr int triesForUnits = 10;
 
 // The name under which a person sees an interface.
 std::string titlesOf(const std::vector<HostInterface>& interfaces) {
@@ -278,12 +279,10 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     }
     Discovery discovery(exchange(), std::move(plan));
     wait(discovery);
-    if (isInterrupted()) {
-        return interruption();
-    }
-    if (!discovery.hasAsked()) {
+    if (!discovery.hasAsked() && !isInterrupted()) {
         return refusalOfSend(discovery.failure());
     }
+    warnOfSend(discovery.failure());
     Refusal first;
     for (const UnitName& name : names) {
         auto refusal = objectionToUnits(name, discovery.units());
@@ -293,7 +292,28 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
             first = std::move(refusal);
         }
     }
-    return first;
+    return isInterrupted() ? Refusal(interruption()) : first;
+}
+
+CommandRun::Refusal CommandRun::findEveryone(std::vector<HeardUnit>& found) {
+    Discovery discovery(exchange(),
+                        {.everybody = everybody(), .heard = [this](const HeardUnits& units) {
+                             showProgress(std::to_string(units.count()));
+                         }});
+    wait(discovery);
+    if (!discovery.hasAsked() && !isInterrupted()) {
+        return refusalOfSend(discovery.failure());
+    }
+    warnOfSend(discovery.failure());
+    for (const HeardUnit* const unit : discovery.units().all()) {
+        found.push_back(*unit);
+    }
+    if (isInterrupted()) {
+        return interruption();
+    }
+    return found.empty()
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
 }
 
 CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) {
@@ -320,6 +340,12 @@ CommandRun::Refusal CommandRun::objectionToReach(const HeardUnit& unit) const {
         ErrorCode::ambiguous,
         localizedText("The unit %@ tells an address of many as its own: %@.",
                       {std::string(unit.serialNumber()), stringForIP(unit.target().address)}));
+}
+
+void CommandRun::warnOfSend(const std::optional<SendFailure>& failure) {
+    if (failure.has_value()) {
+        warn("socket", noteOfSendFailure(*failure));
+    }
 }
 
 void CommandRun::warnOfSender(const HeardUnit& unit) {

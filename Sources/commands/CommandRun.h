@@ -109,6 +109,12 @@ public:
     void say(const std::string& sentence);
     void warn(std::string_view code, const std::string& sentence);
 
+    // Warns that a datagram was not sent to one of several places; nothing without a failure.
+    void warnOfSend(const std::optional<SendFailure>& failure);
+
+    // Asks everybody on the chosen interfaces, and gives the units that answer.
+    Refusal findEveryone(std::vector<HeardUnit>& found);
+
     // Warns when a unit's answer came from another address than the one that it tells.
     void warnOfSender(const HeardUnit& unit);
 

@@ -31,7 +31,15 @@ Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
         }
     }
     options.plan.wait = wait.time.value_or(options.plan.wait);
-    options.plan.tries = tries.number.value_or(options.plan.tries);
+    options.plan.tries = tries.number;
+    if (tries.number.has_value() &&
+        options.plan.wait / *tries.number < shortestTimeBetweenRequests) {
+        return failureOf(
+            ErrorCode::usage,
+            localizedText("%d requests in that time follow each other too closely. They "
+                          "need 0.01 seconds each.",
+                          {static_cast<int>(*tries.number)}));
+    }
     options.expected = expected.number;
     const auto file = line.valueOf("--save");
     return file.has_value() ? CommandRun::objectionToFile(*file) : std::nullopt;
@@ -68,7 +76,8 @@ void warnOfDuplicates(CommandRun& run, const HeardUnits& units) {
     }
 }
 
-void fillDocument(CommandRun& run, const HeardUnits& units) {
+void fillDocument(CommandRun& run, const Discovery& discovery) {
+    const HeardUnits& units = discovery.units();
     Document& document = run.document();
     const std::uint32_t dropped = run.exchange().dropped();
     for (const HeardUnit* const unit : units.all()) {
@@ -77,7 +86,9 @@ void fillDocument(CommandRun& run, const HeardUnits& units) {
     document["duplicates"] = jsonOfDuplicates(units);
     document["dropped"] = dropped;
     document["rejected"] = run.exchange().rejected();
-    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted();
+    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted() &&
+                           !discovery.failure().has_value();
+    run.warnOfSend(discovery.failure());
     if (dropped > 0) {
         run.warn("dropped", localizedText("The system had no room for %d datagrams. Units may be "
                                           "missing.",
@@ -147,7 +158,7 @@ int runDiscover(CommandRun& run) {
         return run.finish(CommandRun::refusalOfSend(discovery.failure()));
     }
     const HeardUnits& units = discovery.units();
-    fillDocument(run, units);
+    fillDocument(run, discovery);
     if (run.line().has("--csv")) {
         run.print(csvOfUnits(units.all(), run.interfaces()));
     } else if (units.count() > 0) {

@@ -90,27 +90,14 @@ Refusal failureOfRestore(const UnitRestore& restore) {
     return std::nullopt;
 }
 
-Refusal findEveryone(CommandRun& run, std::vector<HeardUnit>& found) {
-    Discovery discovery(run.exchange(), {.everybody = run.everybody()});
-    run.wait(discovery);
-    if (!discovery.hasAsked()) {
-        return CommandRun::refusalOfSend(discovery.failure());
-    }
-    for (const HeardUnit* const unit : discovery.units().all()) {
-        found.push_back(*unit);
-    }
-    return found.empty()
-               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
-               : std::nullopt;
-}
-
 int restore(CommandRun& run, const std::vector<HeardUnit>& units,
             const std::vector<UnitTarget>& targets) {
     UnitRestore restore(run.exchange(), units, targets, run.everybody());
     run.wait(restore);
-    if (auto refusal = CommandRun::refusalOfSend(restore.failure())) {
-        return run.finish(std::move(refusal));
+    if (!restore.isSent()) {
+        return run.finish(CommandRun::refusalOfSend(restore.failure()));
     }
+    run.warnOfSend(restore.failure());
     report(run, restore);
     return run.finish(failureOfRestore(restore));
 }
@@ -119,10 +106,8 @@ int restoreEveryone(CommandRun& run) {
     std::vector<HeardUnit> found;
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); },
-             [&] { return findEveryone(run, found); },
-             [&] {
-                 return run.isInterrupted() ? declined() : askForEveryone(run, found.size());
-             }}) {
+             [&] { return run.findEveryone(found); },
+             [&] { return askForEveryone(run, found.size()); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }

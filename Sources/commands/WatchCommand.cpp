@@ -102,9 +102,10 @@ int runWatch(CommandRun& run) {
     const auto until = plan.until;
     UnitWatch watch(run.exchange(), std::move(plan));
     run.wait(watch);
-    if (auto refusal = CommandRun::refusalOfSend(watch.failure())) {
-        return run.finish(std::move(refusal));
+    if (!watch.hasAsked()) {
+        return run.finish(CommandRun::refusalOfSend(watch.failure()));
     }
+    run.warnOfSend(watch.failure());
     if (until.has_value() && watch.count() < *until) {
         return run.finish(
             failureOf(ErrorCode::fewer, localizedText("%d of %d units are there.",

@@ -35,6 +35,8 @@ struct HeardUnit {
     std::uint32_t sender = 0; // address from which the answer came
     std::uint32_t link = 0;   // index of the interface by which it came; 0 when it is not known
     std::chrono::milliseconds answered{0}; // time from the latest request to the answer
+    int request =
+        0; // the number of the request of a discovery that was the latest; 0 outside of one
 
     std::string_view serialNumber() const;
 
@@ -67,7 +69,7 @@ public:
 
     // Adds an answer. It replaces an earlier one of the same serial number and hardware address. A
     // new unit beyond the limit is left out.
-    void add(const HeardUnit& unit);
+    void add(HeardUnit unit);
 
     // Units have been left out.
     bool isIncomplete() const { return _isIncomplete; }

@@ -124,7 +124,7 @@ class Cut(Test):
     def test_units_whose_answers_are_all_cut_are_not_found(self):
         result = kxctl("discover", "--wait", "0.5", "--json")
         self.assertEnds(result, 1, "not-found")
-        self.assertEqual(result.document["rejected"], 6)
+        self.assertEqual(result.document["rejected"], 12 * 3)
 
 
 class Flooding(Test):
