@@ -548,23 +548,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@: Aus „%@“ würde %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@: „%@“ ist nicht hexadezimal und würde so gesendet, wie es da steht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@: „%@“ hat eine andere Länge, als Geräte sie nehmen. Es würde so gesendet, wie es da steht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@: Ein Gerät zeigt %@ nicht als Zahl. Die höchste ist 255.</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ wird ohne --loose abgelehnt. Das Fenster sagt zu dem Wert: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -548,23 +548,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@: «%@» se convertiría en %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@: «%@» no es hexadecimal y se enviaría tal cual.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@: «%@» no tiene la longitud que aceptan las unidades. Se enviaría tal cual.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@: una unidad no muestra %@ como número. El mayor es 255.</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ se rechaza sin --loose. La ventana dice de su valor: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -548,23 +548,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@ : « %@ » deviendrait %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@ : « %@ » n’est pas hexadécimal et serait envoyé tel quel.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@ : « %@ » n’a pas la longueur que les unités acceptent. Il serait envoyé tel quel.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@ : une unité n’affiche pas %@ comme nombre. Le plus grand est 255.</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ est refusé sans --loose. La fenêtre dit de sa valeur : %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

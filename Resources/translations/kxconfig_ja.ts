@@ -548,23 +548,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@: 「%@」は %@ になってしまいます。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@: 「%@」は 16 進数ではなく、そのまま送信されてしまいます。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@: 「%@」の長さはユニットが受け付ける長さと異なります。そのまま送信されてしまいます。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@: ユニットは %@ を数値として表示しません。最大は 255 です。</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ は --loose がないため拒否されました。この値についてウィンドウは次のように示します: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -8,6 +8,7 @@
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
 #include "units/ExactEdit.h"
+#include "words/EditForecast.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
@@ -25,36 +26,12 @@ std::string_view identifierOf(const ExactEdit& edit) {
     return descriptionOf(edit.edit.parameter).identifier;
 }
 
+// In the words that the window has for the same value.
 Refusal objectionToValue(const ExactEdit& edit) {
-    const std::string typed = safeForSentence(edit.edit.typed);
-    const std::string value = safeForSentence(edit.edit.value);
-    const std::string_view name = identifierOf(edit);
-    switch (edit.edit.change) {
-    case ValueChange::readAs:
-    case ValueChange::notANumber:
-    case ValueChange::notAnAddress:
-    case ValueChange::outOfRange:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: “%@” would become %@.", {name, typed, value}));
-    case ValueChange::notHexadecimal:
-        return failureOf(
-            ErrorCode::value,
-            localizedText("%@: “%@” is not hexadecimal and would be sent as it stands.",
-                          {name, typed}));
-    case ValueChange::wrongLength:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: “%@” has another length than units take. It would be "
-                                       "sent as it stands.",
-                                       {name, typed}));
-    case ValueChange::notShown:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: a unit does not show %@ as a number. The highest is "
-                                       "255.",
-                                       {name, typed}));
-    case ValueChange::none:
-        break;
-    }
-    return std::nullopt;
+    return failureOf(
+        ErrorCode::value,
+        localizedText("%@ is refused without --loose. The window says of its value: %@",
+                      {identifierOf(edit), forecastOfValueAlone(edit.edit)}));
 }
 
 Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {

@@ -123,4 +123,26 @@ TEST_F(SetCommandTest, HalfSaysWhyTheRestWasRefused) {
     EXPECT_NE(console.notes.find("ARP"), std::string::npos) << console.notes;
 }
 
+TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent) {
+    const std::map<std::string, std::string> cases{
+        {"destination-port=3524", "destination port 3520, because 3524 is outside 3520 to 3523."},
+        {"device-port=70000", "more than the four digits of a port, because 70000 is outside 0 to "
+                              "65535."},
+        {"device-port=-1",
+         "more than the four digits of a port, because -1 is outside 0 to 65535."},
+        {"device-port=x", "device port 0, because “x” does not begin with a number."},
+        {"unit-id=300", "the number 300, which does not show as a number because it is above 255."},
+        {"unit-id=300x",
+         "the number 300, because that is how “300x” is read. Above 255 it does not "
+         "show as a number."},
+        {"unit-id=SEVENBY", "the text “SEVENBY”, though a unit ID has 6 bytes and this has 7."},
+        {"internal-ip=x", "internal IP address 0.0.0.0, because “x” is not an IPv4 address."}};
+    for (const auto& [word, reason] : cases) {
+        EXPECT_EQ(run({"set", serial, word, "--json"}), 2) << word;
+        EXPECT_EQ(errorCode(), "value");
+        EXPECT_TRUE(message().ends_with(reason)) << message();
+    }
+    EXPECT_TRUE(systemCalls.sentDatagrams().empty());
+}
+
 } // namespace kx
