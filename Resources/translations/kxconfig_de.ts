@@ -350,6 +350,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>Die Aufzeichnung ist nicht vollständig, weil sie nicht geschrieben werden konnte.</translation>
     </message>
@@ -407,12 +412,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
         <translation>Alle UDP-Ports von 3520 bis 3523 sind von anderen Programmen belegt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -580,11 +579,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ gehört %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>Der Eintrag im ARP-Cache war nicht möglich, deshalb wurde nichts gesendet.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -350,6 +350,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>No se puede escribir en «%@»: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La captura no está completa, porque no se pudo escribir.</translation>
     </message>
@@ -407,12 +412,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
         <translation>Todos los puertos UDP del 3520 al 3523 están ocupados por otros programas.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>No se puede escribir en «%@»: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -580,11 +579,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ está ocupada por %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>No se pudo inscribir la entrada en la caché ARP, por eso no se envió nada.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -350,6 +350,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>Impossible d’écrire dans « %@ » : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La capture n’est pas complète, car elle n’a pas pu être écrite.</translation>
     </message>
@@ -407,12 +412,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
         <translation>Tous les ports UDP de 3520 à 3523 sont occupés par d’autres programmes.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>Impossible d’écrire dans « %@ » : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -580,11 +579,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ est occupée par %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>L’entrée n’a pas pu être inscrite dans le cache ARP, donc rien n’a été envoyé.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

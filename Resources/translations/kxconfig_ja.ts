@@ -350,6 +350,11 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>「%@」に書き込めません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>書き込みに失敗したため、キャプチャは完全ではありません。</translation>
     </message>
@@ -407,12 +412,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
         <translation>UDP ポート 3520 から 3523 はすべて別のプログラムが使用しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>「%@」に書き込めません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -580,11 +579,6 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ は %@ が使用しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>ARP キャッシュに登録できなかったため、何も送信していません。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

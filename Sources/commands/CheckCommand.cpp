@@ -155,7 +155,9 @@ int runCheck(CommandRun& run) {
     HolderSearch search(run.exchange(),
                         {.neighbours = run.services().neighbours, .probes = run.services().probes},
                         questions);
-    run.wait(search);
+    run.wait(search, [&search] {
+        return std::to_string(search.decided()) + '/' + std::to_string(search.results().size());
+    });
     results.insert(results.end(), search.results().begin(), search.results().end());
     std::ranges::sort(results, {}, [&wanted](const AddressHolders& found) {
         return std::ranges::find(wanted, found.address);

@@ -10,12 +10,7 @@
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
 #include <utility>
 
 namespace kx {
@@ -85,6 +80,10 @@ CommandRun::CommandRun(const CommandLine& line, const CommandServices& services)
 CommandRun::~CommandRun() = default;
 
 int CommandRun::run() {
+    if (auto refusal = lookAtCapture()) {
+        _captureFile.reset();
+        return finish(std::move(refusal));
+    }
     return _line.command->run(*this);
 }
 
@@ -143,9 +142,7 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
 }
 
 CommandRun::Refusal CommandRun::openExchange() {
-    if (auto refusal = openCapture()) {
-        return refusal;
-    }
+    openCapture();
     UnitSession::Services session{
         .runLoop = _services.session.runLoop,
         .hostResolver = _services.session.hostResolver,
@@ -176,19 +173,21 @@ CommandRun::Refusal CommandRun::openExchange() {
                                          "programs."));
 }
 
-CommandRun::Refusal CommandRun::openCapture() {
+CommandRun::Refusal CommandRun::lookAtCapture() {
     const auto path = _line.valueOf("--capture");
     if (!path.has_value()) {
         return std::nullopt;
     }
-    if (auto refusal = objectionToFile(*path)) {
-        return refusal;
+    _captureFile = std::make_unique<OutputFile>(*path);
+    return objectionToFile(*_captureFile);
+}
+
+void CommandRun::openCapture() {
+    if (_captureFile == nullptr) {
+        return;
     }
-    _captureFile = std::make_shared<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
-    const auto write = [file = _captureFile](ByteView bytes) {
-        file->write(reinterpret_cast<const char*>(bytes.data()),
-                    static_cast<std::streamsize>(bytes.size()));
-        file->flush();
+    const auto write = [this](ByteView bytes) {
+        _captureFile->write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     };
     const auto ownAddress = [this](std::uint32_t link) {
         for (const HostInterface& interface : _interfaces) {
@@ -199,21 +198,17 @@ CommandRun::Refusal CommandRun::openCapture() {
         return std::uint32_t{0};
     };
     _capture = std::make_unique<CapturingSystemCalls>(
-        _services.session.systemCalls, CapturingSystemCalls::Services{.write = write,
+        _services.session.systemCalls, CapturingSystemCalls::Services{.application = "kxctl",
+                                                                      .write = write,
                                                                       .now = _services.utc,
                                                                       .ownAddress = ownAddress});
-    return std::nullopt;
 }
 
-CommandRun::Refusal CommandRun::objectionToFile(const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
-    if (descriptor < 0) {
-        return failureOf(ErrorCode::file,
-                         localizedText("“%@” cannot be written: %@.",
-                                       {safeForSentence(path), posixErrorText(errno)}));
-    }
-    ::close(descriptor);
-    return std::nullopt;
+CommandRun::Refusal CommandRun::objectionToFile(OutputFile& file) {
+    const auto error = file.look();
+    return error.has_value()
+               ? Refusal(failureOf(ErrorCode::file, sentenceOfFile(file.path(), *error)))
+               : std::nullopt;
 }
 
 std::vector<UnitTarget> CommandRun::everybody() const {
@@ -234,14 +229,18 @@ UnitTarget CommandRun::everybodyOf(std::uint32_t link) const {
             .link = link};
 }
 
-void CommandRun::wait(Operation& operation) {
+void CommandRun::wait(Operation& operation, std::function<std::string()> count) {
     if (isInterrupted()) {
         return;
     }
     _operation = &operation;
+    _count = std::move(count);
     operation.begin({});
+    awaitProgress();
     _services.session.runLoop.runUntil([&operation] { return operation.hasEnded(); });
     _operation = nullptr;
+    _nextProgress.reset();
+    _count = {};
     endProgress();
 }
 
@@ -266,11 +265,7 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     const bool areSerialNumbers = std::ranges::all_of(names, [](const UnitName& name) {
         return std::holds_alternative<SerialNumberOfUnit>(name);
     });
-    DiscoveryPlan plan{
-        .everybody = everybody(),
-        .tries = triesForUnits,
-        .settling = timeForOthers,
-        .heard = [this](const HeardUnits& units) { showProgress(std::to_string(units.count())); }};
+    DiscoveryPlan plan{.everybody = everybody(), .tries = triesForUnits, .settling = timeForOthers};
     if (areSerialNumbers) {
         plan.isEnough = [&names](const HeardUnits& units) {
             return std::ranges::none_of(
@@ -278,7 +273,7 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
         };
     }
     Discovery discovery(exchange(), std::move(plan));
-    wait(discovery);
+    wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
     if (!discovery.hasAsked() && !isInterrupted()) {
         return refusalOfSend(discovery.failure());
     }
@@ -296,11 +291,8 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
 }
 
 CommandRun::Refusal CommandRun::findEveryone(std::vector<HeardUnit>& found) {
-    Discovery discovery(exchange(),
-                        {.everybody = everybody(), .heard = [this](const HeardUnits& units) {
-                             showProgress(std::to_string(units.count()));
-                         }});
-    wait(discovery);
+    Discovery discovery(exchange(), {.everybody = everybody()});
+    wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
     if (!discovery.hasAsked() && !isInterrupted()) {
         return refusalOfSend(discovery.failure());
     }

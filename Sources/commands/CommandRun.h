@@ -10,6 +10,7 @@
 #include "commands/CommandLine.h"
 #include "commands/Document.h"
 #include "commands/ExitStatus.h"
+#include "commands/OutputFile.h"
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
 #include "conversation/Discovery.h"
@@ -21,7 +22,6 @@
 #include "support/WallClock.h"
 
 #include <chrono>
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -82,7 +82,9 @@ public:
     UnitTarget everybodyOf(std::uint32_t link) const;
 
     // Runs the loop until the operation has ended. An interrupted run begins nothing.
-    void wait(Operation& operation);
+    // Meanwhile a terminal shows how far it has come: what `count` says, and the time. Without
+    // `count` it shows nothing.
+    void wait(Operation& operation, std::function<std::string()> count = {});
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
     // be taken for; the refusal is about the first that does not.
@@ -98,8 +100,11 @@ public:
     // Reads the names of units, or says which word is none.
     Refusal readNames(const std::vector<std::string>& words, std::vector<UnitName>& names) const;
 
-    // Whether a file can be written. It is made when it is not there.
-    static Refusal objectionToFile(const std::string& path);
+    // Whether a file can be written, before anything is sent.
+    static Refusal objectionToFile(OutputFile& file);
+
+    // Writes the document to this file too, at the end.
+    void saveDocument(std::unique_ptr<OutputFile> file) { _savedDocument = std::move(file); }
 
     // Writes data to standard output, unless the document is wanted.
     void print(std::string_view text);
@@ -121,9 +126,8 @@ public:
     // Ends the operation under way, because nobody reads what it tells.
     void endEarly();
 
-    // Shows how far the command has come, on a terminal.
-    void showProgress(std::string_view text);
-    void endProgress();
+    // Whether a person can be asked.
+    bool canAsk() const;
 
     // Asks a person. Absent when nobody can be asked or nobody answered.
     std::optional<std::string> ask(const std::string& question);
@@ -138,7 +142,12 @@ public:
     int finish(std::optional<Failure> failure = {});
 
 private:
-    Refusal openCapture();
+    Refusal lookAtCapture();
+    void openCapture();
+    void awaitProgress();
+    void showProgress();
+    void endProgress();
+    std::string documentText(std::optional<Failure>& failure);
     Failure interruption() const;
     Refusal objectionToReach(const HeardUnit& unit) const;
     void tellFailure(const Failure& failure);
@@ -149,15 +158,20 @@ private:
     Document _document;
     std::vector<HostInterface> _interfaces;
     std::vector<HostInterface> _chosen;
-    std::shared_ptr<std::ofstream> _captureFile; // null without a capture
+    std::unique_ptr<OutputFile> _captureFile;   // null without a capture
+    std::unique_ptr<OutputFile> _savedDocument; // null when it is not saved
     std::unique_ptr<CapturingSystemCalls> _capture;
     std::unique_ptr<UnitExchange> _exchange;
     Operation* _operation = nullptr; // under way
     std::chrono::milliseconds _begun;
-    std::optional<std::chrono::milliseconds> _latestProgress;
+    std::function<std::string()> _count; // how far the operation has come; may be empty
+    RunLoop::Handle _nextProgress;
     int _signal = 0;
     bool _showsProgress = false;
 };
+
+// "“FILE” cannot be written: No space left on device."
+std::string sentenceOfFile(const std::string& path, const Error& error);
 
 // The command line without the program's name. When there is nothing to run, because it is wrong or
 // asks for help or the version, that has been told, and the result is the exit status.

@@ -7,8 +7,7 @@
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
 
-#include <cerrno>
-#include <fstream>
+#include <memory>
 
 namespace kx {
 
@@ -19,6 +18,7 @@ using Refusal = CommandRun::Refusal;
 struct DiscoverOptions {
     DiscoveryPlan plan;
     std::optional<std::int32_t> expected;
+    std::unique_ptr<OutputFile> file; // null when the document is not saved
 };
 
 Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
@@ -41,8 +41,12 @@ Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
                           {static_cast<int>(*tries.number)}));
     }
     options.expected = expected.number;
-    const auto file = line.valueOf("--save");
-    return file.has_value() ? CommandRun::objectionToFile(*file) : std::nullopt;
+    const auto path = line.valueOf("--save");
+    if (!path.has_value()) {
+        return std::nullopt;
+    }
+    options.file = std::make_unique<OutputFile>(*path);
+    return CommandRun::objectionToFile(*options.file);
 }
 
 void addPlaces(const CommandRun& run, DiscoveryPlan& plan) {
@@ -111,23 +115,6 @@ Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& exp
                : std::nullopt;
 }
 
-// The file was looked at before anything was sent.
-Refusal save(CommandRun& run, const Refusal& failure) {
-    const auto path = run.line().valueOf("--save");
-    if (!path.has_value()) {
-        return failure;
-    }
-    const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
-    std::ofstream file(*path, std::ios::binary | std::ios::trunc);
-    file << run.document().text(exitStatus, failure) << std::flush;
-    if (!file) {
-        return Failure{ErrorCode::file,
-                       localizedText("“%@” cannot be written: %@.", {*path, posixErrorText(errno)}),
-                       exitCannotAsk};
-    }
-    return failure;
-}
-
 } // namespace
 
 int runDiscover(CommandRun& run) {
@@ -145,15 +132,12 @@ int runDiscover(CommandRun& run) {
             return units.count() >= static_cast<std::size_t>(expected);
         };
     }
-    options.plan.heard = [&run](const HeardUnits& units) {
-        run.showProgress(std::to_string(units.count()));
-    };
     run.document()["interface"] =
         run.chosen().size() == 1 ? Json(run.chosen().front().name) : Json("all");
     run.document()["port"] = run.exchange().port();
 
     Discovery discovery(run.exchange(), options.plan);
-    run.wait(discovery);
+    run.wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
     if (!discovery.hasAsked()) {
         return run.finish(CommandRun::refusalOfSend(discovery.failure()));
     }
@@ -164,7 +148,8 @@ int runDiscover(CommandRun& run) {
     } else if (units.count() > 0) {
         run.print(tableOfUnits(units.all(), run.interfaces(), run.isBold()));
     }
-    return run.finish(save(run, resultOf(units, options.expected)));
+    run.saveDocument(std::move(options.file));
+    return run.finish(resultOf(units, options.expected));
 }
 
 } // namespace kx

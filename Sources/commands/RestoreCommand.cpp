@@ -6,6 +6,8 @@
 #include "conversation/UnitRestore.h"
 #include "support/LocalizedText.h"
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -25,7 +27,7 @@ Refusal objectionToWords(const CommandLine& line) {
 
 // A question that nobody can be asked is known before anything is sent.
 Refusal objectionToSilence(const CommandRun& run) {
-    if (run.line().has("--yes") || run.services().console.isInputTerminal()) {
+    if (run.line().has("--yes") || run.canAsk()) {
         return std::nullopt;
     }
     return failureOf(ErrorCode::usage,
@@ -93,7 +95,10 @@ Refusal failureOfRestore(const UnitRestore& restore) {
 int restore(CommandRun& run, const std::vector<HeardUnit>& units,
             const std::vector<UnitTarget>& targets) {
     UnitRestore restore(run.exchange(), units, targets, run.everybody());
-    run.wait(restore);
+    run.wait(restore, [&restore] {
+        return std::to_string(std::ranges::count_if(restore.units(), &RestoredUnit::isRestored)) +
+               '/' + std::to_string(restore.units().size());
+    });
     if (!restore.isSent()) {
         return run.finish(CommandRun::refusalOfSend(restore.failure()));
     }

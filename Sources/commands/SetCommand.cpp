@@ -9,6 +9,7 @@
 #include "support/TextEncoding.h"
 #include "units/ExactEdit.h"
 #include "words/EditForecast.h"
+#include "words/EditOutcomeText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
@@ -146,8 +147,7 @@ Refusal failureOfMove(const AddressMove& move) {
                                        {stringForIP(move.holders().address)}));
     case MoveState::notBound:
         return failureOf(ErrorCode::rights,
-                         localizedText("The entry in the ARP cache could not be made, so nothing "
-                                       "was sent."));
+                         textOfARPEntry(stringForIP(move.holders().address), move.binding()));
     case MoveState::foreignAnswer:
         return move.foreignHardwareAddress().empty()
                    ? failureOf(ErrorCode::half,
@@ -235,7 +235,13 @@ int edit(CommandRun& run, const HeardUnit& unit, std::vector<UnitChange> changes
         .bindings = run.services().bindings};
     UnitEdits edits(run.exchange(), &moveServices, unit, std::move(changes),
                     run.everybodyOf(unit.link));
-    run.wait(edits);
+    const std::string count = '/' + std::to_string(edits.changes().size());
+    run.wait(edits, [&edits, &count] {
+        return std::to_string(std::ranges::count_if(
+                   edits.changes(),
+                   [](const UnitChange& change) { return change.state != ChangeState::planned; })) +
+               count;
+    });
     report(run, serial, edits.changes());
     if (edits.move() != nullptr && edits.move()->isStillBound()) {
         run.warn("arp-entry", localizedText("The entry for %@ could not be taken out of the ARP "

@@ -137,6 +137,10 @@ void HolderSearch::lookAt(std::size_t index) {
     }
 }
 
+std::size_t HolderSearch::decided() const {
+    return static_cast<std::size_t>(std::ranges::count_if(_asked, &Asked::isDecided));
+}
+
 void HolderSearch::addHolder(AddressHolders& result, const std::string& hardwareAddress) {
     const bool isKnown = std::ranges::any_of(result.holders, [&](const auto& holder) {
         return holder.hardwareAddress == hardwareAddress;
@@ -171,6 +175,8 @@ void HolderSearch::finish() {
             }
         }
     }
+    _nextProbe.reset();
+    _nextLook.reset();
     end();
 }
 

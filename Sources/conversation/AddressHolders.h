@@ -107,7 +107,11 @@ public:
     // In the order of the questions.
     const std::vector<AddressHolders>& results() const { return _results; }
 
-    void interrupt() override { end(); }
+    // The number of addresses of which it is known whether somebody holds them.
+    std::size_t decided() const;
+
+    // Ends with what is known by now.
+    void interrupt() override { finish(); }
 
 private:
     struct Asked {

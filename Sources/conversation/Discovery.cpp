@@ -81,9 +81,6 @@ void Discovery::unitDidTell(const HeardUnit& unit) {
     HeardUnit heard = unit;
     heard.request = _requests;
     _units.add(std::move(heard));
-    if (_plan.heard) {
-        _plan.heard(_units);
-    }
     if (_isSettling || !_plan.isEnough || !_plan.isEnough(_units)) {
         return;
     }

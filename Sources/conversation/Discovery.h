@@ -31,9 +31,6 @@ struct DiscoveryPlan {
     // answer took where that is longer, unless `settling` is 0. May be empty.
     std::function<bool(const HeardUnits&)> isEnough = {};
     std::chrono::milliseconds settling{0};
-
-    // Called after each answer, for example to show progress. May be empty.
-    std::function<void(const HeardUnits&)> heard = {};
 };
 
 // Requests to everybody do not follow each other more closely.

@@ -112,10 +112,7 @@ void UnitRestore::unitDidTell(const HeardUnit& told) {
 }
 
 void UnitRestore::endWhenAllAreRestored() {
-    const bool areRestored = std::ranges::all_of(_units, [](const RestoredUnit& unit) {
-        return unit.after.has_value() && (unit.isAccepted || unit.hasChanged());
-    });
-    if (areRestored) {
+    if (std::ranges::all_of(_units, &RestoredUnit::isRestored)) {
         _nextTry.reset();
         end();
     }

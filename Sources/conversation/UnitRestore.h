@@ -26,6 +26,9 @@ struct RestoredUnit {
     bool isAccepted = false;
 
     bool hasChanged() const;
+
+    // It has shown itself after the command, and that it has taken it.
+    bool isRestored() const { return after.has_value() && (isAccepted || hasChanged()); }
 };
 
 class UnitRestore final : public Operation, private UnitExchange::Listener {

@@ -34,6 +34,8 @@ public:
     bool isNoteTerminal() const override { return isTerminal; }
     bool isInputTerminal() const override { return hasInputTerminal; }
     bool isPlain() const override { return false; }
+    bool canRewriteNotes() const override { return isTerminal; }
+    bool isReaderGone() override { return error.has_value(); }
     std::optional<std::string> readLine() override {
         if (answers.empty()) {
             return std::nullopt;

@@ -119,8 +119,10 @@ TEST_F(SetCommandTest, HalfSaysWhyTheRestWasRefused) {
     bindings.answerToBind = {.state = ARPEntryState::rightsNotGiven};
     EXPECT_EQ(run({"set", serial, "unit-id=AB", "internal-ip=192.168.1.50", "--json"}), 4);
     EXPECT_EQ(errorCode(), "half");
-    EXPECT_NE(message().find("ARP"), std::string::npos) << message();
-    EXPECT_NE(console.notes.find("ARP"), std::string::npos) << console.notes;
+    const std::string reason =
+        "No ARP entry was made for 192.168.1.50: administrator rights were not given.";
+    EXPECT_NE(message().find(reason), std::string::npos) << message();
+    EXPECT_NE(console.notes.find(reason), std::string::npos) << console.notes;
 }
 
 TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent) {

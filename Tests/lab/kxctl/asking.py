@@ -284,6 +284,16 @@ class Ends(Test):
         process.wait(5)
         self.assertEqual(process.stderr.read(), "")
 
+    def test_a_broken_pipe_is_seen_while_nothing_happens(self):
+        for words in ([], ["--until", "99"]):
+            process = start("watch", "--every", "60", *words)
+            for _ in range(3):
+                process.stdout.readline()
+            process.stdout.close()
+            process.stdout = None
+            self.assertEqual(process.wait(5), 0)
+            self.assertEqual(process.stderr.read(), "")
+
     def test_a_full_disk_is_told(self):
         with open("/dev/full", "w", encoding="utf-8") as full:
             result = kxctl("discover", "--expect", "3", stdout=full)

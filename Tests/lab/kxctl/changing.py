@@ -10,6 +10,17 @@ from program import (FIRST, Test, commands_heard, end_of, heard, kxctl, main, re
                      start)
 
 
+def seen_until(terminal, end):
+    """What a person sees at the terminal: up to a text, or until the program has closed it."""
+    seen = b""
+    while end is None or end.encode() not in seen:
+        try:
+            seen += os.read(terminal, 4096)
+        except OSError:  # nobody has the other side open
+            break
+    return seen.decode("utf-8", "replace")
+
+
 class Set(Test):
     def tearDown(self):
         restore_units()
@@ -240,12 +251,22 @@ class Restore(Test):
     def answered(self, answer, *arguments):
         """Runs the program at a terminal where a person types the answer."""
         person, terminal = pty.openpty()
-        process = start(*arguments, stdin=terminal)
+        process = start(*arguments, stdin=terminal, stderr=terminal)
         os.close(terminal)
         os.write(person, answer.encode() + b"\n")
         result = end_of(process)
+        result.err = seen_until(person, None)
         os.close(person)
         return result
+
+    def test_asks_nobody_who_does_not_see_the_question(self):
+        before = len(heard())
+        person, terminal = pty.openpty()
+        result = end_of(start("restore", "4B5800000001", stdin=terminal))
+        os.close(terminal)
+        os.close(person)
+        self.assertEqual(result.status, 2, result.err)
+        self.assertEqual(len(heard()), before)
 
     def test_does_what_a_person_says(self):
         for answer, status, commands in (("n", 1, []), ("", 1, []), ("y", 0, ["^^IdZ"]),
@@ -259,9 +280,9 @@ class Restore(Test):
     def test_a_signal_at_the_question_restores_nothing(self):
         before = len(heard())
         person, terminal = pty.openpty()
-        process = start("restore", "--everyone", "--quiet", stdin=terminal)
+        process = start("restore", "--everyone", "--quiet", stdin=terminal, stderr=terminal)
         os.close(terminal)
-        question = process.stderr.readline()
+        question = seen_until(person, "\n")
         process.send_signal(signal.SIGINT)
         result = end_of(process)
         os.close(person)

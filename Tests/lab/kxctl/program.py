@@ -81,7 +81,7 @@ def environment(**more):
 def start(*arguments, **options):
     return subprocess.Popen([PROGRAM, *arguments], stdin=options.pop("stdin", subprocess.DEVNULL),
                             stdout=options.pop("stdout", subprocess.PIPE),
-                            stderr=subprocess.PIPE, text=True, errors="surrogateescape",
+                            stderr=options.pop("stderr", subprocess.PIPE), text=True, errors="surrogateescape",
                             env=environment(**options))
 
 
