@@ -285,6 +285,8 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
             found.push_back(*discovery.units().named(name).front());
         } else if (!first.has_value()) {
             first = std::move(refusal);
+        } else {
+            first->message += ' ' + refusal->message;
         }
     }
     return isInterrupted() ? Refusal(interruption()) : first;

@@ -15,14 +15,6 @@ std::string_view textOf(const UnitRecord& record, UnitParameter parameter) {
     return record.value(parameter).value_or(std::string_view());
 }
 
-bool isNamed(const HeardUnit& unit, const UnitName& name) {
-    if (const auto* const serial = std::get_if<SerialNumberOfUnit>(&name)) {
-        return unit.serialNumber() == serial->text;
-    }
-    const auto text = unitIDText(unit.record);
-    return text.has_value() && *text == std::get<UnitIDOfUnit>(name).text;
-}
-
 } // namespace
 
 std::string_view HeardUnit::serialNumber() const {
@@ -81,8 +73,9 @@ std::vector<const HeardUnit*> HeardUnits::named(const UnitName& name) const {
         }
         return found;
     }
+    const std::string& unitID = std::get<UnitIDOfUnit>(name).text;
     for (const HeardUnit* const unit : all()) {
-        if (isNamed(*unit, name)) {
+        if (unitIDText(unit->record) == unitID) {
             found.push_back(unit);
         }
     }

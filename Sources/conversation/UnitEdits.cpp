@@ -169,8 +169,7 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
         return std::ranges::find(serials, unit.serialNumber()) != serials.end() &&
                (isNewHardware || agree(unit.hardwareAddress(), hardware));
     };
-    plan.isWanted = [edit = change.edit](const HeardUnit& unit, auto /*sinceCommand*/,
-                                         bool /*isAccepted*/) {
+    plan.isWanted = [edit = change.edit](const HeardUnit& unit) {
         return edit.isShownBy(unit.record, unit.unitIDBytes);
     };
     return plan;

@@ -19,7 +19,7 @@ protected:
                          .serialNumbers = {"01 02 03 04 05 06"},
                          .isFromUnit = [](const HeardUnit&) { return true; },
                          .isWanted =
-                             [](const HeardUnit& unit, auto, bool) {
+                             [](const HeardUnit& unit) {
                                  return unit.record.value(UnitParameter::internalIPAddress) ==
                                         "192.168.1.50";
                              }};
