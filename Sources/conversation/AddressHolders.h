@@ -40,6 +40,7 @@ struct Neighbour {
     std::string hardwareAddress; // empty while it is not known
 };
 
+// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them.
 class NeighbourTable {
 public:
     virtual ~NeighbourTable() = default;
@@ -56,6 +57,8 @@ public:
     virtual void probe(std::uint32_t address) = 0;
 };
 
+// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them
+// and every probe that it has opened.
 class AddressProbes {
 public:
     using Heard = std::function<void(std::uint32_t address, const std::string& hardwareAddress)>;

@@ -77,12 +77,13 @@ AddressObjection objectionToAddress(std::uint32_t address,
                                     const std::vector<HostInterface>& asked);
 
 // Lists the interfaces of this host.
+//
+// Threading: main thread only. Ownership: its users do not own it; it must outlive them.
 class HostInterfaces {
 public:
     virtual ~HostInterfaces() = default;
 
-    // The interfaces in the order of the window's pop-up. Main thread only. Empty when the system
-    // tells none.
+    // The interfaces in the order of the window's pop-up. Empty when the system tells none.
     virtual std::vector<HostInterface> list() = 0;
 };
 

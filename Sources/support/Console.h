@@ -1,6 +1,7 @@
 // The terminal or the files that a program of the command line reads and writes.
 //
-// Main thread only. Texts are UTF-8.
+// Threading: main thread only. Ownership: users of a console do not own it; it must outlive them.
+// Texts are UTF-8.
 
 #pragma once
 

@@ -50,15 +50,6 @@ TEST_F(DiscoverCommandTest, AnInterfaceThatRefusesToSendLeavesTheOthersAndIsTold
     EXPECT_EQ(document()["warnings"][0]["code"], "socket");
 }
 
-TEST_F(DiscoverCommandTest, AnInterfaceThatRefusesToSendLeavesARestoreOfTheOthers) {
-    addInterface("kx2", secondLink, 0x0A000001U);
-    play({.link = secondLink});
-    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
-    EXPECT_EQ(run({"restore", "--everyone", "--yes", "-i", "all", "--json"}), 0);
-    EXPECT_EQ(document()["warnings"][0]["code"], "socket");
-    EXPECT_EQ(commandsSent(), (Words{"192.168.1.255:3520 ^^IdZ", "10.0.0.255:3520 ^^IdZ"}));
-}
-
 TEST_F(DiscoverCommandTest, WhereNothingCanBeSentItCannotAsk) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     EXPECT_EQ(run({"discover", "--json"}), 3);
@@ -127,24 +118,6 @@ TEST_F(DiscoverCommandTest, ATerminalShowsTheCountAndTheTimeThoughNothingArrives
     console.isTerminal = false;
     EXPECT_EQ(run({"discover", "--wait", "1"}), 0);
     EXPECT_EQ(console.notes, "");
-}
-
-TEST_F(DiscoverCommandTest, AWatchEndsQuietlyWhenItsReaderIsGoneThoughNothingHappens) {
-    at(1000ms, [this] { console.error = posixError(EPIPE); });
-    EXPECT_EQ(run({"watch", "--until", "1", "--every", "60"}), 0);
-    EXPECT_EQ(console.notes, "");
-    EXPECT_LE(runLoop.now(), 1200ms);
-}
-
-TEST_F(DiscoverCommandTest, NobodyIsAskedUnlessTheQuestionIsSeen) {
-    play({});
-    console.hasInputTerminal = true;
-    EXPECT_EQ(run({"restore", serial, "--json"}), 2);
-    EXPECT_EQ(errorCode(), "usage");
-    EXPECT_TRUE(systemCalls.sentDatagrams().empty());
-    console.isTerminal = true;
-    console.answers = {"y"};
-    EXPECT_EQ(run({"restore", serial, "--json"}), 0);
 }
 
 } // namespace kx

@@ -7,18 +7,7 @@ import subprocess
 import time
 
 from program import (FIRST, Test, commands_heard, end_of, heard, kxctl, main, restore_units,
-                     start)
-
-
-def seen_until(terminal, end):
-    """What a person sees at the terminal: up to a text, or until the program has closed it."""
-    seen = b""
-    while end is None or end.encode() not in seen:
-        try:
-            seen += os.read(terminal, 4096)
-        except OSError:  # nobody has the other side open
-            break
-    return seen.decode("utf-8", "replace")
+                     seen_until, start)
 
 
 class Set(Test):
@@ -177,6 +166,14 @@ class Move(Test):
         self.assertIn("02:4B:58:00:00:02", result.err)
         self.assertNotIn("PERMANENT", self.neighbour("192.0.2.12"))
 
+    def test_an_address_that_somebody_holds_leaves_the_other_values_alone(self):
+        before = len(heard())
+        result = kxctl("set", "4B5800000001", "unit-id=MOVED", "internal-ip=192.0.2.12", "--json")
+        self.assertEnds(result, 1, "held")
+        self.assertEqual([change["state"] for change in result.document["changes"]],
+                         ["refused", "refused"])
+        self.assertEqual(commands_heard(before), [])
+
     def test_other_values_go_first_and_the_serial_number_last(self):
         before = len(heard())
         result = kxctl("set", "4B5800000001", "serial=4B58000000F1", "internal-ip=192.0.2.51",
@@ -218,6 +215,12 @@ class Option(Test):
         self.assertEnds(result, 1, "silent")
         self.assertEqual(result.document["replies"], [])
         self.assertEqual(commands_heard(before), [("4B5800000001", "^^Idnonsense\r")])
+
+    def test_a_text_is_sent_as_it_stands(self):
+        for text in ("[V]", "[a,b]", "{}", "a,b"):
+            before = len(heard())
+            kxctl("option", "4B5800000001", text)
+            self.assertEqual(commands_heard(before), [("4B5800000001", f"^^Id{text}\r")])
 
     def test_needs_a_text_of_ascii_or_the_clock(self):
         before = len(heard())

@@ -94,6 +94,17 @@ def kxctl(*arguments, **options):
     return end_of(start(*arguments, **options))
 
 
+def seen_until(terminal, end):
+    """What a person sees at the terminal: up to a text, or until the program has closed it."""
+    seen = b""
+    while end is None or end.encode() not in seen:
+        try:
+            seen += os.read(terminal, 4096)
+        except OSError:  # nobody has the other side open
+            break
+    return seen.decode("utf-8", "replace")
+
+
 def run(*words):
     subprocess.run(words, check=True)
 
