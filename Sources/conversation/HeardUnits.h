@@ -44,7 +44,8 @@ struct HeardUnit {
     std::string_view hardwareAddress() const;
 
     // Its internal IP address, or the sender's address when it does not tell one, at its device
-    // port, by the link on which it answered.
+    // port, by the link on which it answered. A unit may tell an address of many: whoever sends a
+    // command looks at that first (RequestTarget.h).
     UnitTarget target() const;
 };
 
