@@ -6,6 +6,7 @@
 #include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
+#include <array>
 #include <utility>
 
 namespace kx {
@@ -283,7 +284,8 @@ void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
 }
 
 void KXConfigAppDelegate::showTarget() {
-    const RequestTarget target = targetOfRequest(selectedRecord(), broadcastAddress());
+    const std::array addressesOfMany{broadcastAddress()};
+    const RequestTarget target = targetOfRequest(selectedRecord(), addressesOfMany);
     if (_shownTarget == target) {
         return;
     }

@@ -68,10 +68,11 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
                               .neighbours = neighbours,
                               .probes = &probes,
                               .bindings = bindings});
-    kx::SignalPipe signalPipe({SIGINT, SIGTERM});
+    kx::SignalPipe signalPipe({SIGINT, SIGTERM, SIGHUP});
     const auto watch = runLoop.watchForReading(signalPipe.descriptor(), [&] {
         if (const auto signal = signalPipe.take()) {
-            run.interrupt(*signal);
+            // A terminal that is closed ends the program as an order to end does.
+            run.interrupt(*signal == SIGHUP ? SIGTERM : *signal);
         }
     });
     return run.run();

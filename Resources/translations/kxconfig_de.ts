@@ -269,18 +269,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ lies in no network of the interface.</source>
-        <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is the address of a whole network.</source>
-        <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <source>Somebody holds %@.</source>
         <translation>%@ ist vergeben.</translation>
     </message>
@@ -362,8 +350,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <source>Interrupted.</source>
-        <translation>Unterbrochen.</translation>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
@@ -427,14 +415,44 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Unterbrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>%d Anfragen folgen in dieser Zeit zu dicht aufeinander. Jede braucht 0,01 Sekunden.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -455,13 +473,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>%d von %d Geräten haben geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Kein Gerät hat geantwortet.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
@@ -536,23 +547,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@: Aus „%@“ würde %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@: „%@“ ist nicht hexadezimal und würde so gesendet, wie es da steht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@: „%@“ hat eine andere Länge, als Geräte sie nehmen. Es würde so gesendet, wie es da steht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@: Ein Gerät zeigt %@ nicht als Zahl. Die höchste ist 255.</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ wird ohne --loose abgelehnt. Das Fenster sagt zu dem Wert: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -581,18 +577,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is this host&apos;s own address.</source>
-        <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ gehört %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>Der Eintrag im ARP-Cache war nicht möglich, deshalb wurde nichts gesendet.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

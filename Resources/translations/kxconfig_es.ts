@@ -269,18 +269,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ lies in no network of the interface.</source>
-        <translation>%@ no está en ninguna red de la interfaz.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is the address of a whole network.</source>
-        <translation>%@ es la dirección de una red entera.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <source>Somebody holds %@.</source>
         <translation>%@ está ocupada.</translation>
     </message>
@@ -362,8 +350,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <source>Interrupted.</source>
-        <translation>Interrumpido.</translation>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>No se puede escribir en «%@»: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
@@ -427,14 +415,44 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>No se puede escribir en «%@»: %@.</translation>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Ninguna unidad ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is this host&apos;s own address.</source>
+        <translation>%@ es la dirección de este mismo equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ is the address of a whole network.</source>
+        <translation>%@ es la dirección de una red entera.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>%@ lies in no network of the interface.</source>
+        <translation>%@ no está en ninguna red de la interfaz.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>Interrupted.</source>
+        <translation>Interrumpido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
+        <translation>%d consultas se siguen demasiado de cerca en ese tiempo. Cada una necesita 0,01 segundos.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -455,13 +473,6 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d of %d units have answered.</source>
         <translation>Han respondido %d de %d unidades.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/commands/RestoreCommand.cpp"/>
-        <location filename="../../Sources/commands/ShowCommand.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Ninguna unidad ha respondido.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/InterfacesCommand.cpp"/>
@@ -536,23 +547,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” would become %@.</source>
-        <translation>%@: «%@» se convertiría en %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” is not hexadecimal and would be sent as it stands.</source>
-        <translation>%@: «%@» no es hexadecimal y se enviaría tal cual.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: “%@” has another length than units take. It would be sent as it stands.</source>
-        <translation>%@: «%@» no tiene la longitud que aceptan las unidades. Se enviaría tal cual.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@: a unit does not show %@ as a number. The highest is 255.</source>
-        <translation>%@: una unidad no muestra %@ como número. El mayor es 255.</translation>
+        <source>%@ is refused without --loose. The window says of its value: %@</source>
+        <translation>%@ se rechaza sin --loose. La ventana dice de su valor: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -581,18 +577,8 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>%@ is this host&apos;s own address.</source>
-        <translation>%@ es la dirección de este mismo equipo.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ está ocupada por %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry in the ARP cache could not be made, so nothing was sent.</source>
-        <translation>No se pudo inscribir la entrada en la caché ARP, por eso no se envió nada.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>

@@ -41,18 +41,11 @@ const HostInterface* interfaceOf(const std::vector<HostInterface>& interfaces,
 // Addresses that no single host can hold, and those that cannot be asked for here.
 Refusal objectionToAddresses(const CommandRun& run, const std::vector<std::uint32_t>& addresses) {
     for (const std::uint32_t address : addresses) {
-        const HostInterface* const interface = interfaceOf(run.chosen(), address);
-        const std::string text = stringForIP(address);
-        if (interface == nullptr) {
-            return Failure{ErrorCode::value,
-                           localizedText("%@ lies in no network of the interface.", {text}),
-                           exitWrong};
-        }
-        const NetworkOfInterface& network = *interface->networkOf(address);
-        if (~network.mask > 1 &&
-            (address == (network.address & network.mask) || address == network.broadcast())) {
-            return failureOf(ErrorCode::value,
-                             localizedText("%@ is the address of a whole network.", {text}));
+        const auto objection = objectionToAddress(address, run.interfaces(), run.chosen());
+        if (objection != AddressObjection::isOwn) {
+            if (auto refusal = CommandRun::refusalOfAddress(objection, address)) {
+                return refusal;
+            }
         }
     }
     return std::nullopt;
@@ -162,7 +155,9 @@ int runCheck(CommandRun& run) {
     HolderSearch search(run.exchange(),
                         {.neighbours = run.services().neighbours, .probes = run.services().probes},
                         questions);
-    run.wait(search);
+    run.wait(search, [&search] {
+        return std::to_string(search.decided()) + '/' + std::to_string(search.results().size());
+    });
     results.insert(results.end(), search.results().begin(), search.results().end());
     std::ranges::sort(results, {}, [&wanted](const AddressHolders& found) {
         return std::ranges::find(wanted, found.address);

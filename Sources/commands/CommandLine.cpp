@@ -17,7 +17,9 @@ namespace kx {
 
 namespace {
 
-// The library's own help, messages and exit codes are not used: it only takes words apart.
+// The library's own help, messages and exit codes are not used: it only takes options apart. It has
+// no positional arguments, because it would read lists into them: "[a,b]". What it does not know it
+// leaves as it is.
 class Parser {
 public:
     Parser()
@@ -31,7 +33,6 @@ public:
             command->set_help_flag();
             command->fallthrough();
             command->allow_extras();
-            command->add_option("words", _line.words)->type_size(1)->expected(0, -1);
             addOptions(*command, row.options);
             command->callback([this, &row] { _line.command = &row; });
         }
@@ -87,7 +88,7 @@ private:
                                                          "one. See kxctl --help."));
     }
 
-    std::optional<Failure> takeExtras();
+    std::optional<Failure> takeExtras(const std::vector<std::string>& extras);
     std::variant<CommandLine, Failure> takeRest(const std::vector<std::string>& plainWords);
 
     CLI::App _app;
@@ -184,8 +185,10 @@ bool isOptionText(const CommandLine& line, const std::vector<std::string>& extra
            extras.size() == 1 && !extras.front().starts_with("--");
 }
 
-std::optional<Failure> Parser::takeExtras() {
-    const std::vector<std::string> extras = _app.remaining(true);
+std::optional<Failure> Parser::takeExtras(const std::vector<std::string>& extras) {
+    if (_line.command == nullptr && !_line.words.empty()) {
+        return unknownCommand(_line.words.front());
+    }
     if (extras.empty()) {
         return std::nullopt;
     }
@@ -193,22 +196,24 @@ std::optional<Failure> Parser::takeExtras() {
         _line.words.push_back(extras.front());
         return std::nullopt;
     }
-    if (_line.command == nullptr && !extras.front().starts_with('-')) {
-        return unknownCommand(extras.front());
-    }
     return failureOf(ErrorCode::usage,
                      localizedText("There is no option “%@” here. See kxctl --help.",
                                    {safeForSentence(extras.front())}));
 }
 
 std::variant<CommandLine, Failure> Parser::takeRest(const std::vector<std::string>& plainWords) {
-    if (auto failure = takeExtras()) {
-        return *failure;
-    }
-    _line.words.insert(_line.words.end(), plainWords.begin(), plainWords.end());
     if (_line.has("--help") || _line.has("--version")) {
         return _line;
     }
+    std::vector<std::string> extras; // options that there are not
+    for (const std::string& word : _app.remaining(true)) {
+        const bool isOption = word.size() > 1 && word.starts_with('-');
+        (isOption ? extras : _line.words).push_back(word);
+    }
+    if (auto failure = takeExtras(extras)) {
+        return *failure;
+    }
+    _line.words.insert(_line.words.end(), plainWords.begin(), plainWords.end());
     if (_line.command == nullptr) {
         return failureOf(ErrorCode::usage,
                          localizedText("A command is missing. See kxctl --help."));

@@ -3,11 +3,11 @@
 #include "commands/CommandHelp.h"
 #include "commands/CommandRun.h"
 #include "support/LocalizedText.h"
+#include "words/QuotedText.h"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
-#include <fstream>
 #include <utility>
 
 namespace kx {
@@ -54,20 +54,21 @@ void CommandRun::warn(std::string_view code, const std::string& sentence) {
     say(sentence);
 }
 
-void CommandRun::showProgress(std::string_view text) {
-    if (_line.has("--quiet") || !_services.console.isNoteTerminal()) {
-        return;
+void CommandRun::awaitProgress() {
+    if (_count && !_line.has("--quiet") && _services.console.canRewriteNotes()) {
+        _nextProgress = _services.session.runLoop.callOnceAfter(timeBetweenProgress, [this] {
+            showProgress();
+            awaitProgress();
+        });
     }
-    const auto now = _services.now();
-    if (_latestProgress.has_value() && now - *_latestProgress < timeBetweenProgress) {
-        return;
-    }
-    _latestProgress = now;
-    const auto tenths = (now - _begun).count() / 100;
+}
+
+void CommandRun::showProgress() {
+    const auto tenths = (_services.now() - _begun).count() / 100;
     std::array<char, 32> time{};
     std::snprintf(time.data(), time.size(), "  %lld.%lld s", static_cast<long long>(tenths / 10),
                   static_cast<long long>(tenths % 10));
-    _services.console.writeNote(std::string(beginningOfLine).append(text).append(time.data()));
+    _services.console.writeNote(std::string(beginningOfLine) + _count() + time.data());
     _showsProgress = true;
 }
 
@@ -77,8 +78,12 @@ void CommandRun::endProgress() {
     }
 }
 
+bool CommandRun::canAsk() const {
+    return _services.console.isInputTerminal() && _services.console.isNoteTerminal();
+}
+
 std::optional<std::string> CommandRun::ask(const std::string& question) {
-    if (!_services.console.isInputTerminal()) {
+    if (!canAsk()) {
         return std::nullopt;
     }
     endProgress();
@@ -104,18 +109,39 @@ void CommandRun::tellFailure(const Failure& failure) {
     _services.console.writeNote("kxctl: " + failure.message + "\n");
 }
 
+std::string sentenceOfFile(const std::string& path, const Error& error) {
+    return localizedText("“%@” cannot be written: %@.",
+                         {safeForSentence(path), error.localizedDescription()});
+}
+
+// The document is saved as it is printed. That it cannot be saved is a failure of its own.
+std::string CommandRun::documentText(std::optional<Failure>& failure) {
+    const auto text = [this, &failure] {
+        return _document.text(failure.has_value() ? failure->exitStatus : exitDone, failure);
+    };
+    if (_savedDocument == nullptr) {
+        return wantsDocument() ? text() : std::string();
+    }
+    const auto error = _savedDocument->write(text());
+    if (error.has_value() && !isInterrupted()) {
+        failure =
+            Failure{ErrorCode::file, sentenceOfFile(_savedDocument->path(), *error), exitCannotAsk};
+    }
+    return text();
+}
+
 int CommandRun::finish(std::optional<Failure> failure) {
     if (isInterrupted()) {
-        failure = Failure{ErrorCode::interrupted, localizedText("Interrupted."),
-                          exitInterrupted + _signal};
+        failure = interruption();
     }
-    if (_captureFile != nullptr && !*_captureFile) {
+    if (_captureFile != nullptr && _captureFile->error().has_value()) {
         warn("capture",
              localizedText("The capture is not whole, because it could not be written."));
     }
+    const std::string text = documentText(failure);
     const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
     if (wantsDocument()) {
-        _services.console.writeOutput(_document.text(exitStatus, failure));
+        _services.console.writeOutput(text);
     }
     if (failure.has_value()) {
         tellFailure(*failure);

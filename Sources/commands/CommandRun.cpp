@@ -1,18 +1,16 @@
 #include "commands/CommandRun.h"
 
 #include "addresses/IPv4Address.h"
+#include "conversation/Finding.h"
+#include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
+#include "words/FindingText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 #include <algorithm>
-#include <cerrno>
-#include <fstream>
 #include <utility>
 
 namespace kx {
@@ -21,11 +19,12 @@ using namespace std::chrono_literals;
 
 namespace {
 
-// In this time everybody answers who claims to be the same unit, unless the network is at fault.
+// Others who claim to be the same unit have at least so long to answer after it. Most units answer
+// sooner; for slow ones the time is longer (Discovery.h).
 constexpr auto timeForOthers = 10ms;
 
 // A unit that was named is asked for so often within the usual time.
-constexpr int triesForUnits = 4;
+constexpr int triesForUnits = 10;
 
 // The name under which a person sees an interface.
 std::string titlesOf(const std::vector<HostInterface>& interfaces) {
@@ -81,6 +80,10 @@ CommandRun::CommandRun(const CommandLine& line, const CommandServices& services)
 CommandRun::~CommandRun() = default;
 
 int CommandRun::run() {
+    if (auto refusal = lookAtCapture()) {
+        _captureFile.reset();
+        return finish(std::move(refusal));
+    }
     return _line.command->run(*this);
 }
 
@@ -139,9 +142,7 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
 }
 
 CommandRun::Refusal CommandRun::openExchange() {
-    if (auto refusal = openCapture()) {
-        return refusal;
-    }
+    openCapture();
     UnitSession::Services session{
         .runLoop = _services.session.runLoop,
         .hostResolver = _services.session.hostResolver,
@@ -172,19 +173,21 @@ CommandRun::Refusal CommandRun::openExchange() {
                                          "programs."));
 }
 
-CommandRun::Refusal CommandRun::openCapture() {
+CommandRun::Refusal CommandRun::lookAtCapture() {
     const auto path = _line.valueOf("--capture");
     if (!path.has_value()) {
         return std::nullopt;
     }
-    if (auto refusal = objectionToFile(*path)) {
-        return refusal;
+    _captureFile = std::make_unique<OutputFile>(*path);
+    return objectionToFile(*_captureFile);
+}
+
+void CommandRun::openCapture() {
+    if (_captureFile == nullptr) {
+        return;
     }
-    _captureFile = std::make_shared<std::ofstream>(*path, std::ios::binary | std::ios::trunc);
-    const auto write = [file = _captureFile](ByteView bytes) {
-        file->write(reinterpret_cast<const char*>(bytes.data()),
-                    static_cast<std::streamsize>(bytes.size()));
-        file->flush();
+    const auto write = [this](ByteView bytes) {
+        _captureFile->write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     };
     const auto ownAddress = [this](std::uint32_t link) {
         for (const HostInterface& interface : _interfaces) {
@@ -195,21 +198,17 @@ CommandRun::Refusal CommandRun::openCapture() {
         return std::uint32_t{0};
     };
     _capture = std::make_unique<CapturingSystemCalls>(
-        _services.session.systemCalls, CapturingSystemCalls::Services{.write = write,
+        _services.session.systemCalls, CapturingSystemCalls::Services{.application = "kxctl",
+                                                                      .write = write,
                                                                       .now = _services.utc,
                                                                       .ownAddress = ownAddress});
-    return std::nullopt;
 }
 
-CommandRun::Refusal CommandRun::objectionToFile(const std::string& path) {
-    const int descriptor = ::open(path.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
-    if (descriptor < 0) {
-        return failureOf(ErrorCode::file,
-                         localizedText("“%@” cannot be written: %@.",
-                                       {safeForSentence(path), posixErrorText(errno)}));
-    }
-    ::close(descriptor);
-    return std::nullopt;
+CommandRun::Refusal CommandRun::objectionToFile(OutputFile& file) {
+    const auto error = file.look();
+    return error.has_value()
+               ? Refusal(failureOf(ErrorCode::file, sentenceOfFile(file.path(), *error)))
+               : std::nullopt;
 }
 
 std::vector<UnitTarget> CommandRun::everybody() const {
@@ -230,14 +229,18 @@ UnitTarget CommandRun::everybodyOf(std::uint32_t link) const {
             .link = link};
 }
 
-void CommandRun::wait(Operation& operation) {
-    _operation = &operation;
-    operation.begin({});
+void CommandRun::wait(Operation& operation, std::function<std::string()> count) {
     if (isInterrupted()) {
-        operation.interrupt();
+        return;
     }
+    _operation = &operation;
+    _count = std::move(count);
+    operation.begin({});
+    awaitProgress();
     _services.session.runLoop.runUntil([&operation] { return operation.hasEnded(); });
     _operation = nullptr;
+    _nextProgress.reset();
+    _count = {};
     endProgress();
 }
 
@@ -262,11 +265,7 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     const bool areSerialNumbers = std::ranges::all_of(names, [](const UnitName& name) {
         return std::holds_alternative<SerialNumberOfUnit>(name);
     });
-    DiscoveryPlan plan{
-        .everybody = everybody(),
-        .tries = triesForUnits,
-        .settling = timeForOthers,
-        .heard = [this](const HeardUnits& units) { showProgress(std::to_string(units.count())); }};
+    DiscoveryPlan plan{.everybody = everybody(), .tries = triesForUnits, .settling = timeForOthers};
     if (areSerialNumbers) {
         plan.isEnough = [&names](const HeardUnits& units) {
             return std::ranges::none_of(
@@ -274,10 +273,11 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
         };
     }
     Discovery discovery(exchange(), std::move(plan));
-    wait(discovery);
-    if (!discovery.hasAsked()) {
+    wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
+    if (!discovery.hasAsked() && !isInterrupted()) {
         return refusalOfSend(discovery.failure());
     }
+    warnOfSend(discovery.failure());
     Refusal first;
     for (const UnitName& name : names) {
         auto refusal = objectionToUnits(name, discovery.units());
@@ -285,9 +285,29 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
             found.push_back(*discovery.units().named(name).front());
         } else if (!first.has_value()) {
             first = std::move(refusal);
+        } else {
+            first->message += ' ' + refusal->message;
         }
     }
-    return first;
+    return isInterrupted() ? Refusal(interruption()) : first;
+}
+
+CommandRun::Refusal CommandRun::findEveryone(std::vector<HeardUnit>& found) {
+    Discovery discovery(exchange(), {.everybody = everybody()});
+    wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
+    if (!discovery.hasAsked() && !isInterrupted()) {
+        return refusalOfSend(discovery.failure());
+    }
+    warnOfSend(discovery.failure());
+    for (const HeardUnit* const unit : discovery.units().all()) {
+        found.push_back(*unit);
+    }
+    if (isInterrupted()) {
+        return interruption();
+    }
+    return found.empty()
+               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
+               : std::nullopt;
 }
 
 CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) {
@@ -296,7 +316,38 @@ CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) 
         return refusal;
     }
     unit = found.front();
+    if (auto refusal = objectionToReach(unit)) {
+        return refusal;
+    }
+    warnOfSender(unit);
     return std::nullopt;
+}
+
+// A command to an address of many would reach others too.
+CommandRun::Refusal CommandRun::objectionToReach(const HeardUnit& unit) const {
+    const RequestTarget target = targetOfRequest(&unit.record, addressesOfMany(_interfaces));
+    if (target.reach == RequestReach::oneUnit ||
+        target.reach == RequestReach::everybodyWithoutAddress) {
+        return std::nullopt;
+    }
+    return failureOf(
+        ErrorCode::ambiguous,
+        localizedText("The unit %@ tells an address of many as its own: %@.",
+                      {std::string(unit.serialNumber()), stringForIP(unit.target().address)}));
+}
+
+void CommandRun::warnOfSend(const std::optional<SendFailure>& failure) {
+    if (failure.has_value()) {
+        warn("socket", noteOfSendFailure(*failure));
+    }
+}
+
+void CommandRun::warnOfSender(const HeardUnit& unit) {
+    const std::uint32_t claimed = unit.target().address;
+    if (claimed != unit.sender) {
+        warn("sender", textOfFinding(SenderOfAnotherAddress{std::string(unit.serialNumber()),
+                                                            claimed, unit.sender}));
+    }
 }
 
 CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUnit& unit) {
@@ -311,6 +362,29 @@ CommandRun::Refusal CommandRun::reachUnit(const std::string& typedName, HeardUni
         return refusal;
     }
     return findUnit(names.front(), unit);
+}
+
+CommandRun::Refusal CommandRun::refusalOfAddress(AddressObjection objection,
+                                                 std::uint32_t address) {
+    const std::string text = stringForIP(address);
+    switch (objection) {
+    case AddressObjection::isOwn:
+        return failureOf(ErrorCode::value, localizedText("%@ is this host's own address.", {text}));
+    case AddressObjection::isOfNetwork:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ is the address of a whole network.", {text}));
+    case AddressObjection::isOutside:
+        return failureOf(ErrorCode::value,
+                         localizedText("%@ lies in no network of the interface.", {text}));
+    case AddressObjection::none:
+        break;
+    }
+    return std::nullopt;
+}
+
+Failure CommandRun::interruption() const {
+    return Failure{ErrorCode::interrupted, localizedText("Interrupted."),
+                   exitInterrupted + _signal};
 }
 
 CommandRun::Refusal CommandRun::refusalOfSend(const std::optional<SendFailure>& failure) {

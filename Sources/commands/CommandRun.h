@@ -10,6 +10,7 @@
 #include "commands/CommandLine.h"
 #include "commands/Document.h"
 #include "commands/ExitStatus.h"
+#include "commands/OutputFile.h"
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
 #include "conversation/Discovery.h"
@@ -21,7 +22,6 @@
 #include "support/WallClock.h"
 
 #include <chrono>
-#include <fstream>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -81,14 +81,17 @@ public:
     std::vector<UnitTarget> everybody() const;
     UnitTarget everybodyOf(std::uint32_t link) const;
 
-    // Runs the loop until the operation has ended.
-    void wait(Operation& operation);
+    // Runs the loop until the operation has ended. An interrupted run begins nothing.
+    // Meanwhile a terminal shows how far it has come: what `count` says, and the time. Without
+    // `count` it shows nothing.
+    void wait(Operation& operation, std::function<std::string()> count = {});
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
-    // be taken for; the refusal is about the first that does not.
+    // be taken for; the refusal tells all the others, with the code of the first.
     Refusal findUnits(const std::vector<UnitName>& names, std::vector<HeardUnit>& found);
 
-    // The same for one unit.
+    // The same for one unit that will get a command. Warns when its answer came from another
+    // address than the one that it tells.
     Refusal findUnit(const UnitName& name, HeardUnit& unit);
 
     // The steps of a command for one unit: interfaces, listening, and the unit itself.
@@ -97,8 +100,11 @@ public:
     // Reads the names of units, or says which word is none.
     Refusal readNames(const std::vector<std::string>& words, std::vector<UnitName>& names) const;
 
-    // Whether a file can be written. It is made when it is not there.
-    static Refusal objectionToFile(const std::string& path);
+    // Whether a file can be written, before anything is sent.
+    static Refusal objectionToFile(OutputFile& file);
+
+    // Writes the document to this file too, at the end.
+    void saveDocument(std::unique_ptr<OutputFile> file) { _savedDocument = std::move(file); }
 
     // Writes data to standard output, unless the document is wanted.
     void print(std::string_view text);
@@ -108,15 +114,26 @@ public:
     void say(const std::string& sentence);
     void warn(std::string_view code, const std::string& sentence);
 
+    // Warns that a datagram was not sent to one of several places; nothing without a failure.
+    void warnOfSend(const std::optional<SendFailure>& failure);
+
+    // Asks everybody on the chosen interfaces, and gives the units that answer.
+    Refusal findEveryone(std::vector<HeardUnit>& found);
+
+    // Warns when a unit's answer came from another address than the one that it tells.
+    void warnOfSender(const HeardUnit& unit);
+
     // Ends the operation under way, because nobody reads what it tells.
     void endEarly();
 
-    // Shows how far the command has come, on a terminal.
-    void showProgress(std::string_view text);
-    void endProgress();
+    // Whether a person can be asked.
+    bool canAsk() const;
 
     // Asks a person. Absent when nobody can be asked or nobody answered.
     std::optional<std::string> ask(const std::string& question);
+
+    // Why another host cannot be found at an address; absent without an objection.
+    static Refusal refusalOfAddress(AddressObjection objection, std::uint32_t address);
 
     // Why a datagram was not sent, as the reason why a command cannot go on; absent without one.
     static Refusal refusalOfSend(const std::optional<SendFailure>& failure);
@@ -125,7 +142,14 @@ public:
     int finish(std::optional<Failure> failure = {});
 
 private:
-    Refusal openCapture();
+    Refusal lookAtCapture();
+    void openCapture();
+    void awaitProgress();
+    void showProgress();
+    void endProgress();
+    std::string documentText(std::optional<Failure>& failure);
+    Failure interruption() const;
+    Refusal objectionToReach(const HeardUnit& unit) const;
     void tellFailure(const Failure& failure);
     void takeSignal();
 
@@ -134,15 +158,20 @@ private:
     Document _document;
     std::vector<HostInterface> _interfaces;
     std::vector<HostInterface> _chosen;
-    std::shared_ptr<std::ofstream> _captureFile; // null without a capture
+    std::unique_ptr<OutputFile> _captureFile;   // null without a capture
+    std::unique_ptr<OutputFile> _savedDocument; // null when it is not saved
     std::unique_ptr<CapturingSystemCalls> _capture;
     std::unique_ptr<UnitExchange> _exchange;
     Operation* _operation = nullptr; // under way
     std::chrono::milliseconds _begun;
-    std::optional<std::chrono::milliseconds> _latestProgress;
+    std::function<std::string()> _count; // how far the operation has come; may be empty
+    RunLoop::Handle _nextProgress;
     int _signal = 0;
     bool _showsProgress = false;
 };
+
+// "“FILE” cannot be written: No space left on device."
+std::string sentenceOfFile(const std::string& path, const Error& error);
 
 // The command line without the program's name. When there is nothing to run, because it is wrong or
 // asks for help or the version, that has been told, and the result is the exit status.

@@ -28,7 +28,10 @@ constexpr std::array general{
 
 constexpr std::array discoverOptions{
     OptionRow{"--wait", "S", ValueKind::text, "collect answers for S seconds (2.0)"},
-    OptionRow{"--tries", "N", ValueKind::text, "send N requests in all, spread over that time (2)"},
+    OptionRow{
+        "--tries", "N", ValueKind::text,
+        "send N requests in all, spread over that time (2, and up to 10 more at the end as long as "
+        "a unit has not answered the latest one, or nobody has answered)"},
     OptionRow{"--expect", "N", ValueKind::text,
               "end as soon as N units have answered; with fewer the exit status is 1"},
     OptionRow{"--limited", "", ValueKind::none,

@@ -7,8 +7,7 @@
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
 
-#include <cerrno>
-#include <fstream>
+#include <memory>
 
 namespace kx {
 
@@ -19,6 +18,7 @@ using Refusal = CommandRun::Refusal;
 struct DiscoverOptions {
     DiscoveryPlan plan;
     std::optional<std::int32_t> expected;
+    std::unique_ptr<OutputFile> file; // null when the document is not saved
 };
 
 Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
@@ -31,10 +31,22 @@ Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
         }
     }
     options.plan.wait = wait.time.value_or(options.plan.wait);
-    options.plan.tries = tries.number.value_or(options.plan.tries);
+    options.plan.tries = tries.number;
+    if (tries.number.has_value() &&
+        options.plan.wait / *tries.number < shortestTimeBetweenRequests) {
+        return failureOf(
+            ErrorCode::usage,
+            localizedText("%d requests in that time follow each other too closely. They "
+                          "need 0.01 seconds each.",
+                          {static_cast<int>(*tries.number)}));
+    }
     options.expected = expected.number;
-    const auto file = line.valueOf("--save");
-    return file.has_value() ? CommandRun::objectionToFile(*file) : std::nullopt;
+    const auto path = line.valueOf("--save");
+    if (!path.has_value()) {
+        return std::nullopt;
+    }
+    options.file = std::make_unique<OutputFile>(*path);
+    return CommandRun::objectionToFile(*options.file);
 }
 
 void addPlaces(const CommandRun& run, DiscoveryPlan& plan) {
@@ -68,7 +80,8 @@ void warnOfDuplicates(CommandRun& run, const HeardUnits& units) {
     }
 }
 
-void fillDocument(CommandRun& run, const HeardUnits& units) {
+void fillDocument(CommandRun& run, const Discovery& discovery) {
+    const HeardUnits& units = discovery.units();
     Document& document = run.document();
     const std::uint32_t dropped = run.exchange().dropped();
     for (const HeardUnit* const unit : units.all()) {
@@ -77,13 +90,18 @@ void fillDocument(CommandRun& run, const HeardUnits& units) {
     document["duplicates"] = jsonOfDuplicates(units);
     document["dropped"] = dropped;
     document["rejected"] = run.exchange().rejected();
-    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted();
+    document["complete"] = dropped == 0 && !units.isIncomplete() && !run.isInterrupted() &&
+                           !discovery.failure().has_value();
+    run.warnOfSend(discovery.failure());
     if (dropped > 0) {
         run.warn("dropped", localizedText("The system had no room for %d datagrams. Units may be "
                                           "missing.",
                                           {static_cast<int>(dropped)}));
     }
     warnOfDuplicates(run, units);
+    for (const HeardUnit* const unit : units.all()) {
+        run.warnOfSender(*unit);
+    }
 }
 
 Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& expected) {
@@ -95,23 +113,6 @@ Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& exp
     return count == 0
                ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
                : std::nullopt;
-}
-
-// The file was looked at before anything was sent.
-Refusal save(CommandRun& run, const Refusal& failure) {
-    const auto path = run.line().valueOf("--save");
-    if (!path.has_value()) {
-        return failure;
-    }
-    const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
-    std::ofstream file(*path, std::ios::binary | std::ios::trunc);
-    file << run.document().text(exitStatus, failure) << std::flush;
-    if (!file) {
-        return Failure{ErrorCode::file,
-                       localizedText("“%@” cannot be written: %@.", {*path, posixErrorText(errno)}),
-                       exitCannotAsk};
-    }
-    return failure;
 }
 
 } // namespace
@@ -131,26 +132,24 @@ int runDiscover(CommandRun& run) {
             return units.count() >= static_cast<std::size_t>(expected);
         };
     }
-    options.plan.heard = [&run](const HeardUnits& units) {
-        run.showProgress(std::to_string(units.count()));
-    };
     run.document()["interface"] =
         run.chosen().size() == 1 ? Json(run.chosen().front().name) : Json("all");
     run.document()["port"] = run.exchange().port();
 
     Discovery discovery(run.exchange(), options.plan);
-    run.wait(discovery);
+    run.wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
     if (!discovery.hasAsked()) {
         return run.finish(CommandRun::refusalOfSend(discovery.failure()));
     }
     const HeardUnits& units = discovery.units();
-    fillDocument(run, units);
+    fillDocument(run, discovery);
     if (run.line().has("--csv")) {
         run.print(csvOfUnits(units.all(), run.interfaces()));
     } else if (units.count() > 0) {
         run.print(tableOfUnits(units.all(), run.interfaces(), run.isBold()));
     }
-    return run.finish(save(run, resultOf(units, options.expected)));
+    run.saveDocument(std::move(options.file));
+    return run.finish(resultOf(units, options.expected));
 }
 
 } // namespace kx

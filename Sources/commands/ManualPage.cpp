@@ -140,7 +140,7 @@ Could not ask: interface, port, rights or socket.
 A unit was left half configured or silent; a person must look.
 .TP
 .BR 130 ", " 143
-Interrupted by SIGINT or SIGTERM. What was under way has been read back and
+Interrupted by SIGINT, or by SIGTERM or SIGHUP. What was under way has been read back and
 reported. A second signal ends the program at once.
 .SH ENVIRONMENT
 .TP

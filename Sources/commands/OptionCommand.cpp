@@ -70,7 +70,7 @@ int runOption(CommandRun& run) {
         return run.finish(std::move(refusal));
     }
     OptionCommand command(run.exchange(), unit, text);
-    run.wait(command);
+    run.wait(command, [&command] { return std::to_string(command.answers().size()); });
     if (auto refusal = CommandRun::refusalOfSend(command.failure())) {
         return run.finish(std::move(refusal));
     }

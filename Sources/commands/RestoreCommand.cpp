@@ -6,6 +6,8 @@
 #include "conversation/UnitRestore.h"
 #include "support/LocalizedText.h"
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -25,7 +27,7 @@ Refusal objectionToWords(const CommandLine& line) {
 
 // A question that nobody can be asked is known before anything is sent.
 Refusal objectionToSilence(const CommandRun& run) {
-    if (run.line().has("--yes") || run.services().console.isInputTerminal()) {
+    if (run.line().has("--yes") || run.canAsk()) {
         return std::nullopt;
     }
     return failureOf(ErrorCode::usage,
@@ -90,27 +92,17 @@ Refusal failureOfRestore(const UnitRestore& restore) {
     return std::nullopt;
 }
 
-Refusal findEveryone(CommandRun& run, std::vector<HeardUnit>& found) {
-    Discovery discovery(run.exchange(), {.everybody = run.everybody()});
-    run.wait(discovery);
-    if (!discovery.hasAsked()) {
-        return CommandRun::refusalOfSend(discovery.failure());
-    }
-    for (const HeardUnit* const unit : discovery.units().all()) {
-        found.push_back(*unit);
-    }
-    return found.empty()
-               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
-               : std::nullopt;
-}
-
 int restore(CommandRun& run, const std::vector<HeardUnit>& units,
             const std::vector<UnitTarget>& targets) {
     UnitRestore restore(run.exchange(), units, targets, run.everybody());
-    run.wait(restore);
-    if (auto refusal = CommandRun::refusalOfSend(restore.failure())) {
-        return run.finish(std::move(refusal));
+    run.wait(restore, [&restore] {
+        return std::to_string(std::ranges::count_if(restore.units(), &RestoredUnit::isRestored)) +
+               '/' + std::to_string(restore.units().size());
+    });
+    if (!restore.isSent()) {
+        return run.finish(CommandRun::refusalOfSend(restore.failure()));
     }
+    run.warnOfSend(restore.failure());
     report(run, restore);
     return run.finish(failureOfRestore(restore));
 }
@@ -119,10 +111,8 @@ int restoreEveryone(CommandRun& run) {
     std::vector<HeardUnit> found;
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); },
-             [&] { return findEveryone(run, found); },
-             [&] {
-                 return run.isInterrupted() ? declined() : askForEveryone(run, found.size());
-             }}) {
+             [&] { return run.findEveryone(found); },
+             [&] { return askForEveryone(run, found.size()); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }

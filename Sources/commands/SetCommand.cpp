@@ -8,10 +8,13 @@
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
 #include "units/ExactEdit.h"
+#include "words/EditForecast.h"
+#include "words/EditOutcomeText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace kx {
 
@@ -24,36 +27,12 @@ std::string_view identifierOf(const ExactEdit& edit) {
     return descriptionOf(edit.edit.parameter).identifier;
 }
 
+// In the words that the window has for the same value.
 Refusal objectionToValue(const ExactEdit& edit) {
-    const std::string typed = safeForSentence(edit.edit.typed);
-    const std::string value = safeForSentence(edit.edit.value);
-    const std::string_view name = identifierOf(edit);
-    switch (edit.edit.change) {
-    case ValueChange::readAs:
-    case ValueChange::notANumber:
-    case ValueChange::notAnAddress:
-    case ValueChange::outOfRange:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: “%@” would become %@.", {name, typed, value}));
-    case ValueChange::notHexadecimal:
-        return failureOf(
-            ErrorCode::value,
-            localizedText("%@: “%@” is not hexadecimal and would be sent as it stands.",
-                          {name, typed}));
-    case ValueChange::wrongLength:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: “%@” has another length than units take. It would be "
-                                       "sent as it stands.",
-                                       {name, typed}));
-    case ValueChange::notShown:
-        return failureOf(ErrorCode::value,
-                         localizedText("%@: a unit does not show %@ as a number. The highest is "
-                                       "255.",
-                                       {name, typed}));
-    case ValueChange::none:
-        break;
-    }
-    return std::nullopt;
+    return failureOf(
+        ErrorCode::value,
+        localizedText("%@ is refused without --loose. The window says of its value: %@",
+                      {identifierOf(edit), forecastOfValueAlone(edit.edit)}));
 }
 
 Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
@@ -90,39 +69,25 @@ Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
     return std::nullopt;
 }
 
-// A new address must be one that another host on the interface may have.
-Refusal objectionToAddress(const std::vector<HostInterface>& interfaces, const std::string& typed) {
-    const std::uint32_t address = ipForString(typed);
-    const NetworkOfInterface* network = nullptr;
-    for (const HostInterface& interface : interfaces) {
-        const NetworkOfInterface* const found = interface.networkOf(address);
-        network = found != nullptr ? found : network;
-    }
-    if (network == nullptr) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ lies in no network of the interface.", {typed}));
-    }
-    // In a network of two hosts every address is a host's (RFC 3021).
-    const bool hasOnlyHosts = ~network->mask <= 1;
-    if (address == network->address) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ is this host's own address.", {typed}));
-    }
-    if (!hasOnlyHosts &&
-        (address == (network->address & network->mask) || address == network->broadcast())) {
-        return failureOf(ErrorCode::value,
-                         localizedText("%@ is the address of a whole network.", {typed}));
+// A new address must be one that another host on the interfaces may have.
+Refusal objectionToNewAddress(const CommandRun& run, const std::vector<HostInterface>& asked,
+                              const Edits& edits) {
+    for (const ExactEdit& edit : edits) {
+        if (edit.edit.parameter == UnitParameter::internalIPAddress) {
+            const std::uint32_t address = ipForString(edit.edit.typed);
+            return CommandRun::refusalOfAddress(
+                objectionToAddress(address, run.interfaces(), asked), address);
+        }
     }
     return std::nullopt;
 }
 
-Refusal objectionToAddresses(const std::vector<HostInterface>& interfaces, const Edits& edits) {
-    for (const ExactEdit& edit : edits) {
-        if (edit.edit.parameter == UnitParameter::internalIPAddress) {
-            return objectionToAddress(interfaces, edit.edit.typed);
-        }
-    }
-    return std::nullopt;
+// Where several interfaces are asked, only the answer tells on which one the unit is.
+Refusal objectionOnLink(const CommandRun& run, std::uint32_t link, const Edits& edits) {
+    std::vector<HostInterface> own;
+    std::ranges::copy_if(run.interfaces(), std::back_inserter(own),
+                         [link](const HostInterface& each) { return each.link == link; });
+    return own.empty() ? std::nullopt : objectionToNewAddress(run, own, edits);
 }
 
 std::string_view nameOf(ChangeState state) {
@@ -182,8 +147,7 @@ Refusal failureOfMove(const AddressMove& move) {
                                        {stringForIP(move.holders().address)}));
     case MoveState::notBound:
         return failureOf(ErrorCode::rights,
-                         localizedText("The entry in the ARP cache could not be made, so nothing "
-                                       "was sent."));
+                         textOfARPEntry(stringForIP(move.holders().address), move.binding()));
     case MoveState::foreignAnswer:
         return move.foreignHardwareAddress().empty()
                    ? failureOf(ErrorCode::half,
@@ -236,14 +200,8 @@ Refusal failureOfChanges(const UnitEdits& edits) {
                              localizedText("The unit %@ shows another value.", {unit}));
 }
 
-Refusal failureOfEdits(const UnitEdits& edits) {
-    if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
-        return failureOfMove(*edits.move());
-    }
-    auto failure = failureOfChanges(edits);
-    if (failure.has_value() && failure->code != ErrorCode::unchanged) {
-        return failure;
-    }
+// Why a command did not go out; absent when all did.
+Refusal reasonOfRefusal(const UnitEdits& edits) {
     if (edits.isAmbiguous()) {
         return failureOf(ErrorCode::ambiguous,
                          localizedText("Another unit answers with the same serial number."));
@@ -251,11 +209,22 @@ Refusal failureOfEdits(const UnitEdits& edits) {
     if (auto refusal = CommandRun::refusalOfSend(edits.failure())) {
         return refusal;
     }
-    if (edits.move() != nullptr) {
-        if (auto refusal = failureOfMove(*edits.move())) {
-            return refusal;
-        }
+    return edits.move() != nullptr ? failureOfMove(*edits.move()) : std::nullopt;
+}
+
+Refusal failureOfEdits(const UnitEdits& edits) {
+    if (edits.move() != nullptr && edits.move()->state() == MoveState::foreignAnswer) {
+        return failureOfMove(*edits.move());
     }
+    auto failure = failureOfChanges(edits);
+    const auto reason = reasonOfRefusal(edits);
+    if (!reason.has_value()) {
+        return failure;
+    }
+    if (!failure.has_value() || failure->code == ErrorCode::unchanged) {
+        return reason;
+    }
+    failure->message += ' ' + reason->message;
     return failure;
 }
 
@@ -266,7 +235,13 @@ int edit(CommandRun& run, const HeardUnit& unit, std::vector<UnitChange> changes
         .bindings = run.services().bindings};
     UnitEdits edits(run.exchange(), &moveServices, unit, std::move(changes),
                     run.everybodyOf(unit.link));
-    run.wait(edits);
+    const std::string count = '/' + std::to_string(edits.changes().size());
+    run.wait(edits, [&edits, &count] {
+        return std::to_string(std::ranges::count_if(
+                   edits.changes(),
+                   [](const UnitChange& change) { return change.state != ChangeState::planned; })) +
+               count;
+    });
     report(run, serial, edits.changes());
     if (edits.move() != nullptr && edits.move()->isStillBound()) {
         run.warn("arp-entry", localizedText("The entry for %@ could not be taken out of the ARP "
@@ -293,9 +268,9 @@ int runSet(CommandRun& run) {
     }
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); },
-             [&] { return objectionToAddresses(run.chosen(), edits); },
-             [&] { return run.openExchange(); },
-             [&] { return run.findUnit(names.front(), unit); }}) {
+             [&] { return objectionToNewAddress(run, run.chosen(), edits); },
+             [&] { return run.openExchange(); }, [&] { return run.findUnit(names.front(), unit); },
+             [&] { return objectionOnLink(run, unit.link, edits); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }

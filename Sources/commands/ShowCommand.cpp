@@ -20,23 +20,6 @@ Refusal objectionToWords(const CommandLine& line) {
                                         : localizedText("Name units, or write --all, not both."));
 }
 
-Refusal findAll(CommandRun& run, std::vector<HeardUnit>& found) {
-    Discovery discovery(run.exchange(),
-                        {.everybody = run.everybody(), .heard = [&run](const HeardUnits& units) {
-                             run.showProgress(std::to_string(units.count()));
-                         }});
-    run.wait(discovery);
-    if (!discovery.hasAsked()) {
-        return CommandRun::refusalOfSend(discovery.failure());
-    }
-    for (const HeardUnit* const unit : discovery.units().all()) {
-        found.push_back(*unit);
-    }
-    return found.empty()
-               ? Refusal(failureOf(ErrorCode::notFound, localizedText("No unit has answered.")))
-               : std::nullopt;
-}
-
 void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {
     UnitList units;
     std::string text;
@@ -61,7 +44,7 @@ int runShow(CommandRun& run) {
         }
     }
     std::vector<HeardUnit> found;
-    auto refusal = names.empty() ? findAll(run, found) : run.findUnits(names, found);
+    auto refusal = names.empty() ? run.findEveryone(found) : run.findUnits(names, found);
     printUnits(run, found);
     return run.finish(std::move(refusal));
 }

@@ -69,6 +69,19 @@ void tell(CommandRun& run, UnitEvent event, const HeardUnit& unit) {
     }
 }
 
+constexpr std::chrono::milliseconds timeBetweenLooks{200};
+
+// Without an event nothing is written, so that nothing would tell that nobody reads any more.
+void awaitEndOfReader(CommandRun& run, RunLoop::Handle& nextLook) {
+    nextLook = run.services().session.runLoop.callOnceAfter(timeBetweenLooks, [&run, &nextLook] {
+        if (run.services().console.isReaderGone()) {
+            run.endEarly();
+        } else {
+            awaitEndOfReader(run, nextLook);
+        }
+    });
+}
+
 Refusal readOptions(const CommandLine& line, WatchPlan& plan) {
     const TimeOption every = secondsOf(line, "--every");
     const TimeOption duration = secondsOf(line, "--for");
@@ -101,9 +114,16 @@ int runWatch(CommandRun& run) {
     plan.tell = [&run](UnitEvent event, const HeardUnit& unit) { tell(run, event, unit); };
     const auto until = plan.until;
     UnitWatch watch(run.exchange(), std::move(plan));
+    RunLoop::Handle nextLook;
+    awaitEndOfReader(run, nextLook);
     run.wait(watch);
-    if (auto refusal = CommandRun::refusalOfSend(watch.failure())) {
-        return run.finish(std::move(refusal));
+    nextLook.reset();
+    if (!watch.hasAsked()) {
+        return run.finish(CommandRun::refusalOfSend(watch.failure()));
+    }
+    run.warnOfSend(watch.failure());
+    if (run.services().console.outputError().has_value()) {
+        return run.finish();
     }
     if (until.has_value() && watch.count() < *until) {
         return run.finish(

@@ -1,7 +1,8 @@
 // Fixed entries of the host's ARP cache, which bind an address to a hardware address so that a unit
 // is reached at an address that it does not hold yet.
 //
-// Main thread only. Texts are UTF-8.
+// Threading: main thread only. Ownership: users do not own the bindings, which must outlive them.
+// `done` may be called after its user has gone, so it must not rely on it. Texts are UTF-8.
 
 #pragma once
 

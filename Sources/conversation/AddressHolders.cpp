@@ -23,6 +23,16 @@ constexpr auto timeForSerialNumber = 200ms;
 
 } // namespace
 
+bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress) {
+    return std::ranges::any_of(holders.holders, [hardwareAddress](const auto& holder) {
+        return holder.hardwareAddress != hardwareAddress;
+    });
+}
+
+bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress) {
+    return holders.state != HolderState::unknown && !isHeldByAnother(holders, hardwareAddress);
+}
+
 HolderSearch::HolderSearch(UnitExchange& exchange, const Services& services,
                            const std::vector<AddressQuestion>& questions)
     : Listener(exchange)
@@ -127,6 +137,10 @@ void HolderSearch::lookAt(std::size_t index) {
     }
 }
 
+std::size_t HolderSearch::decided() const {
+    return static_cast<std::size_t>(std::ranges::count_if(_asked, &Asked::isDecided));
+}
+
 void HolderSearch::addHolder(AddressHolders& result, const std::string& hardwareAddress) {
     const bool isKnown = std::ranges::any_of(result.holders, [&](const auto& holder) {
         return holder.hardwareAddress == hardwareAddress;
@@ -161,6 +175,8 @@ void HolderSearch::finish() {
             }
         }
     }
+    _nextProbe.reset();
+    _nextLook.reset();
     end();
 }
 

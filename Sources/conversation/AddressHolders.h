@@ -21,6 +21,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -39,6 +40,7 @@ struct Neighbour {
     std::string hardwareAddress; // empty while it is not known
 };
 
+// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them.
 class NeighbourTable {
 public:
     virtual ~NeighbourTable() = default;
@@ -55,6 +57,8 @@ public:
     virtual void probe(std::uint32_t address) = 0;
 };
 
+// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them
+// and every probe that it has opened.
 class AddressProbes {
 public:
     using Heard = std::function<void(std::uint32_t address, const std::string& hardwareAddress)>;
@@ -79,6 +83,11 @@ struct AddressHolders {
     std::vector<Holder> holders;
 };
 
+bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress);
+
+// Whether a unit with this hardware address may take the address: nobody else holds it.
+bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress);
+
 struct AddressQuestion {
     std::uint32_t address = 0;
     std::uint32_t link = 0;
@@ -101,7 +110,11 @@ public:
     // In the order of the questions.
     const std::vector<AddressHolders>& results() const { return _results; }
 
-    void interrupt() override { end(); }
+    // The number of addresses of which it is known whether somebody holds them.
+    std::size_t decided() const;
+
+    // Ends with what is known by now.
+    void interrupt() override { finish(); }
 
 private:
     struct Asked {

@@ -20,12 +20,14 @@ constexpr auto patienceForOwnAnswer = 3200ms;
 } // namespace
 
 AddressMove::AddressMove(UnitExchange& exchange, const Services& services, std::uint32_t newAddress,
-                         std::string hardwareAddress, CommandPlan command)
+                         std::string hardwareAddress, CommandPlan command,
+                         std::optional<AddressHolders> known)
     : _exchange(exchange)
     , _services(services)
     , _newAddress(newAddress)
     , _hardwareAddress(std::move(hardwareAddress))
-    , _plan(std::move(command)) {
+    , _plan(std::move(command))
+    , _known(std::move(known)) {
     _plan.asked = {{.address = newAddress, .port = _plan.target.port, .link = _plan.target.link}};
     _plan.target = _plan.asked.front();
 }
@@ -40,21 +42,24 @@ void AddressMove::interrupt() {
 }
 
 void AddressMove::start() {
+    if (_known.has_value()) {
+        _holders = *_known;
+        bindIfFree();
+        return;
+    }
     _search = std::make_unique<HolderSearch>(
         _exchange, _services.holders,
         std::vector<AddressQuestion>{{.address = _newAddress, .link = _plan.target.link}});
-    _search->begin([this] { didSearch(); });
+    _search->begin([this] {
+        if (!hasEnded()) {
+            _holders = _search->results().front();
+            bindIfFree();
+        }
+    });
 }
 
-void AddressMove::didSearch() {
-    if (hasEnded()) {
-        return;
-    }
-    _holders = _search->results().front();
-    const bool isHeldByOthers = std::ranges::any_of(_holders.holders, [this](const auto& holder) {
-        return holder.hardwareAddress != _hardwareAddress;
-    });
-    if (isHeldByOthers) {
+void AddressMove::bindIfFree() {
+    if (isHeldByAnother(_holders, _hardwareAddress)) {
         endWith(MoveState::held);
     } else if (_holders.state == HolderState::unknown) {
         endWith(MoveState::unknownHolder);

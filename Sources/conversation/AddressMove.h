@@ -42,9 +42,11 @@ public:
     };
 
     // `command` is the plan for the command. Its target and the places that are asked are replaced
-    // by the new address, at the target's port and link.
+    // by the new address, at the target's port and link. `known` tells who holds the new address;
+    // without it the move finds that out.
     AddressMove(UnitExchange& exchange, const Services& services, std::uint32_t newAddress,
-                std::string hardwareAddress, CommandPlan command);
+                std::string hardwareAddress, CommandPlan command,
+                std::optional<AddressHolders> known = {});
     ~AddressMove() override;
 
     MoveState state() const { return _state; }
@@ -71,7 +73,7 @@ public:
 
 private:
     void start() override;
-    void didSearch();
+    void bindIfFree();
     void didBind(const ARPEntry& entry);
     void release();
     void awaitOwnAnswer();
@@ -82,6 +84,7 @@ private:
     std::uint32_t _newAddress;
     std::string _hardwareAddress;
     CommandPlan _plan;
+    std::optional<AddressHolders> _known;
     MoveState _state = MoveState::notBegun;
     AddressHolders _holders;
     ARPEntry _binding;

@@ -2,16 +2,25 @@
 
 #include "units/UnitCommand.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// Without a fixed number of requests.
+constexpr int mostRequests = 12;
+constexpr int partsOfWait = 24;
+
+} // namespace
 
 Discovery::Discovery(UnitExchange& exchange, DiscoveryPlan plan)
     : Listener(exchange)
     , _plan(std::move(plan)) {}
 
 void Discovery::start() {
-    _deadline = exchange().runLoop().callOnceAfter(_plan.wait, [this] { end(); });
+    _deadline = exchange().runLoop().callOnceAfter(_plan.wait, [this] { finish(); });
     request();
 }
 
@@ -27,20 +36,51 @@ void Discovery::request() {
     }
     if (!hasAsked()) {
         end();
-    } else if (_requests < _plan.tries) {
-        _nextRequest =
-            exchange().runLoop().callOnceAfter(_plan.wait / _plan.tries, [this] { request(); });
+    } else {
+        scheduleRequest();
     }
+}
+
+void Discovery::scheduleRequest() {
+    const auto requestAfter = [this](std::chrono::milliseconds time) {
+        _nextRequest = exchange().runLoop().callOnceAfter(time, [this] { request(); });
+    };
+    if (_plan.tries.has_value()) {
+        if (_requests < *_plan.tries) {
+            requestAfter(_plan.wait / *_plan.tries);
+        }
+    } else if (_requests == 1) {
+        requestAfter(_plan.wait / 2);
+    } else if (_requests < mostRequests) {
+        _nextRequest = exchange().runLoop().callOnceAfter(
+            std::max(_plan.wait / partsOfWait, shortestTimeBetweenRequests), [this] {
+                if (!hasEveryoneAnswered()) {
+                    request();
+                }
+            });
+    }
+}
+
+// No request follows, however long the object is kept.
+void Discovery::finish() {
+    _nextRequest.reset();
+    end();
+}
+
+bool Discovery::hasEveryoneAnswered() const {
+    const auto units = _units.all();
+    return !units.empty() && std::ranges::all_of(units, [this](const HeardUnit* unit) {
+        return unit->request == _requests;
+    });
 }
 
 void Discovery::unitDidTell(const HeardUnit& unit) {
     if (hasEnded()) {
         return;
     }
-    _units.add(unit);
-    if (_plan.heard) {
-        _plan.heard(_units);
-    }
+    HeardUnit heard = unit;
+    heard.request = _requests;
+    _units.add(std::move(heard));
     if (_isSettling || !_plan.isEnough || !_plan.isEnough(_units)) {
         return;
     }
@@ -49,7 +89,8 @@ void Discovery::unitDidTell(const HeardUnit& unit) {
     if (_plan.settling.count() == 0) {
         end();
     } else {
-        _deadline = exchange().runLoop().callOnceAfter(_plan.settling, [this] { end(); });
+        _deadline = exchange().runLoop().callOnceAfter(std::max(_plan.settling, 2 * unit.answered),
+                                                       [this] { finish(); });
     }
 }
 

@@ -1,6 +1,11 @@
 // A discovery: a request to everybody, sent again within the time of waiting because datagrams get
 // lost, and the units that answer.
 //
+// Without a fixed number the request is sent at the beginning and at the half of the time. From
+// then on it goes out again every 24th part of the time, until every unit that was heard has
+// answered the latest request, and never more than twelve times. So a network without losses sees
+// two requests, and where a third of the answers gets lost a unit has twelve chances.
+//
 // Threading and ownership: see Operation.h. The exchange must outlive the discovery.
 
 #pragma once
@@ -19,16 +24,17 @@ namespace kx {
 struct DiscoveryPlan {
     std::vector<UnitTarget> everybody = {}; // each request goes to all of these
     std::chrono::milliseconds wait{2000};
-    int tries = 2; // requests in all, spread evenly over the wait
+    std::optional<int> tries = {}; // requests in all, spread evenly over the wait
 
     // Asked after each answer. Once it is true, the discovery ends after `settling`, in which
-    // others who claim to be the same unit have time to answer. May be empty.
+    // others who claim to be the same unit have time to answer. It lasts twice the time that this
+    // answer took where that is longer, unless `settling` is 0. May be empty.
     std::function<bool(const HeardUnits&)> isEnough = {};
     std::chrono::milliseconds settling{0};
-
-    // Called after each answer, for example to show progress. May be empty.
-    std::function<void(const HeardUnits&)> heard = {};
 };
+
+// Requests to everybody do not follow each other more closely.
+inline constexpr std::chrono::milliseconds shortestTimeBetweenRequests{10};
 
 class Discovery final : public Operation, private UnitExchange::Listener {
 public:
@@ -36,19 +42,22 @@ public:
 
     const HeardUnits& units() const { return _units; }
 
-    // Why a request was not sent; absent when all were sent. A first request that fails everywhere
-    // ends the discovery.
+    // Why a request was not sent the last time; absent when all were sent. A first request that
+    // fails everywhere ends the discovery.
     const std::optional<SendFailure>& failure() const { return _failure; }
 
     // At least one request was sent.
     bool hasAsked() const { return _sent > 0; }
 
-    void interrupt() override { end(); }
+    void interrupt() override { finish(); }
 
 private:
     void start() override;
     void unitDidTell(const HeardUnit& unit) override;
     void request();
+    void scheduleRequest();
+    void finish();
+    bool hasEveryoneAnswered() const;
 
     DiscoveryPlan _plan;
     HeardUnits _units;

@@ -15,14 +15,6 @@ std::string_view textOf(const UnitRecord& record, UnitParameter parameter) {
     return record.value(parameter).value_or(std::string_view());
 }
 
-bool isNamed(const HeardUnit& unit, const UnitName& name) {
-    if (const auto* const serial = std::get_if<SerialNumberOfUnit>(&name)) {
-        return unit.serialNumber() == serial->text;
-    }
-    const auto text = unitIDText(unit.record);
-    return text.has_value() && *text == std::get<UnitIDOfUnit>(name).text;
-}
-
 } // namespace
 
 std::string_view HeardUnit::serialNumber() const {
@@ -38,14 +30,14 @@ UnitTarget HeardUnit::target() const {
     return {.address = destination.address, .port = destination.port, .link = link};
 }
 
-void HeardUnits::add(const HeardUnit& unit) {
+void HeardUnits::add(HeardUnit unit) {
     const auto known = _units.find(unit.serialNumber());
     if (known != _units.end()) {
         const auto same = std::ranges::find_if(known->second, [&unit](const HeardUnit& other) {
             return other.hardwareAddress() == unit.hardwareAddress();
         });
         if (same != known->second.end()) {
-            *same = unit;
+            *same = std::move(unit);
             return;
         }
     }
@@ -55,7 +47,7 @@ void HeardUnits::add(const HeardUnit& unit) {
     }
     auto& sameNumber =
         known != _units.end() ? known->second : _units[std::string(unit.serialNumber())];
-    sameNumber.push_back(unit);
+    sameNumber.push_back(std::move(unit));
     ++_count;
 }
 
@@ -81,8 +73,9 @@ std::vector<const HeardUnit*> HeardUnits::named(const UnitName& name) const {
         }
         return found;
     }
+    const std::string& unitID = std::get<UnitIDOfUnit>(name).text;
     for (const HeardUnit* const unit : all()) {
-        if (isNamed(*unit, name)) {
+        if (unitIDText(unit->record) == unitID) {
             found.push_back(unit);
         }
     }

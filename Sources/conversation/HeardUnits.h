@@ -35,6 +35,8 @@ struct HeardUnit {
     std::uint32_t sender = 0; // address from which the answer came
     std::uint32_t link = 0;   // index of the interface by which it came; 0 when it is not known
     std::chrono::milliseconds answered{0}; // time from the latest request to the answer
+    int request =
+        0; // the number of the request of a discovery that was the latest; 0 outside of one
 
     std::string_view serialNumber() const;
 
@@ -42,7 +44,8 @@ struct HeardUnit {
     std::string_view hardwareAddress() const;
 
     // Its internal IP address, or the sender's address when it does not tell one, at its device
-    // port, by the link on which it answered.
+    // port, by the link on which it answered. A unit may tell an address of many: whoever sends a
+    // command looks at that first (RequestTarget.h).
     UnitTarget target() const;
 };
 
@@ -67,7 +70,7 @@ public:
 
     // Adds an answer. It replaces an earlier one of the same serial number and hardware address. A
     // new unit beyond the limit is left out.
-    void add(const HeardUnit& unit);
+    void add(HeardUnit unit);
 
     // Units have been left out.
     bool isIncomplete() const { return _isIncomplete; }

@@ -46,4 +46,39 @@ std::vector<HostInterface> askableInterfaces(const std::vector<HostInterface>& i
                          [](const HostInterface& interface) { return interface.canAsk; });
 }
 
+std::vector<std::uint32_t> addressesOfMany(const std::vector<HostInterface>& interfaces) {
+    std::vector<std::uint32_t> addresses{0};
+    for (const HostInterface& interface : interfaces) {
+        for (const NetworkOfInterface& network : interface.networks) {
+            for (const std::uint32_t address :
+                 {network.address & network.mask, network.broadcast()}) {
+                if (network.isOfNetwork(address)) {
+                    addresses.push_back(address);
+                }
+            }
+        }
+    }
+    return addresses;
+}
+
+AddressObjection objectionToAddress(std::uint32_t address,
+                                    const std::vector<HostInterface>& interfaces,
+                                    const std::vector<HostInterface>& asked) {
+    const auto isAny = [](const std::vector<HostInterface>& some, const auto& rule) {
+        return std::ranges::any_of(some, [&rule](const HostInterface& interface) {
+            return std::ranges::any_of(interface.networks, rule);
+        });
+    };
+    if (isAny(interfaces, [address](const auto& network) { return network.address == address; })) {
+        return AddressObjection::isOwn;
+    }
+    if (isAny(interfaces,
+              [address](const auto& network) { return network.isOfNetwork(address); })) {
+        return AddressObjection::isOfNetwork;
+    }
+    return isAny(asked, [address](const auto& network) { return network.contains(address); })
+               ? AddressObjection::none
+               : AddressObjection::isOutside;
+}
+
 } // namespace kx

@@ -20,6 +20,12 @@ struct NetworkOfInterface {
 
     std::uint32_t broadcast() const { return address | ~mask; }
     bool contains(std::uint32_t other) const { return ((address ^ other) & mask) == 0; }
+
+    // The address of the network itself, or its broadcast address. In a network of two addresses
+    // each is a host's (RFC 3021).
+    bool isOfNetwork(std::uint32_t other) const {
+        return ~mask > 1 && (other == (address & mask) || other == broadcast());
+    }
 };
 
 struct HostInterface {
@@ -53,13 +59,31 @@ std::vector<HostInterface> interfacesNamed(const std::vector<HostInterface>& int
 // The interfaces that can ask.
 std::vector<HostInterface> askableInterfaces(const std::vector<HostInterface>& interfaces);
 
+// The addresses that no single host has: 0, and of every network its own and its broadcast address.
+// What is sent to one of them reaches many, or nobody.
+std::vector<std::uint32_t> addressesOfMany(const std::vector<HostInterface>& interfaces);
+
+// Why another host cannot be found at an address.
+enum class AddressObjection {
+    none,
+    isOwn,       // an interface of this host has it
+    isOfNetwork, // it stands for a whole network
+    isOutside,   // it lies in no network of the interfaces on which units are asked
+};
+
+// `interfaces` are all of this host, `asked` those on which units are asked.
+AddressObjection objectionToAddress(std::uint32_t address,
+                                    const std::vector<HostInterface>& interfaces,
+                                    const std::vector<HostInterface>& asked);
+
 // Lists the interfaces of this host.
+//
+// Threading: main thread only. Ownership: its users do not own it; it must outlive them.
 class HostInterfaces {
 public:
     virtual ~HostInterfaces() = default;
 
-    // The interfaces in the order of the window's pop-up. Main thread only. Empty when the system
-    // tells none.
+    // The interfaces in the order of the window's pop-up. Empty when the system tells none.
     virtual std::vector<HostInterface> list() = 0;
 };
 

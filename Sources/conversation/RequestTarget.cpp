@@ -2,6 +2,8 @@
 
 #include "addresses/IPv4Address.h"
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -13,7 +15,8 @@ bool isMulticast(std::uint32_t address) {
 
 } // namespace
 
-RequestTarget targetOfRequest(const UnitRecord* record, std::uint32_t broadcastAddress) {
+RequestTarget targetOfRequest(const UnitRecord* record,
+                              std::span<const std::uint32_t> addressesOfMany) {
     if (record == nullptr) {
         return {.reach = RequestReach::everybodyWithoutUnit};
     }
@@ -22,7 +25,8 @@ RequestTarget targetOfRequest(const UnitRecord* record, std::uint32_t broadcastA
         return {.reach = RequestReach::everybodyWithoutAddress};
     }
     const std::uint32_t address = ipForString(*text);
-    if (address == limitedBroadcastAddress || address == broadcastAddress || isMulticast(address)) {
+    if (address == limitedBroadcastAddress || isMulticast(address) ||
+        std::ranges::find(addressesOfMany, address) != addressesOfMany.end()) {
         return {.reach = RequestReach::everybodyAtItsAddress};
     }
     return {.reach = RequestReach::oneUnit, .address = address};

@@ -9,6 +9,7 @@
 #include "units/UnitRecord.h"
 
 #include <cstdint>
+#include <span>
 
 namespace kx {
 
@@ -26,7 +27,9 @@ struct RequestTarget {
     friend bool operator==(const RequestTarget&, const RequestTarget&) = default;
 };
 
-// `record` is that of the selected unit, or null. `broadcastAddress` is that of everybody.
-RequestTarget targetOfRequest(const UnitRecord* record, std::uint32_t broadcastAddress);
+// `record` is that of the selected unit, or null. `addressesOfMany` are the addresses, as far as
+// they are known, that more than one host hears; 255.255.255.255 and multicast addresses always do.
+RequestTarget targetOfRequest(const UnitRecord* record,
+                              std::span<const std::uint32_t> addressesOfMany);
 
 } // namespace kx

@@ -61,19 +61,49 @@ UnitEdits::UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveSe
     , _unit(unit)
     , _firstHardwareAddress(_unit.hardwareAddress())
     , _changes(std::move(changes))
+    , _target(_unit.target())
     , _everybody(everybody) {}
 
 UnitEdits::~UnitEdits() = default;
 
 void UnitEdits::interrupt() {
     _isInterrupted = true;
-    if (_move != nullptr && !_move->hasEnded()) {
+    if (_search != nullptr && !_search->hasEnded()) {
+        _search->interrupt(); // the edits may be gone now
+    } else if (_move != nullptr && !_move->hasEnded()) {
         _move->interrupt();
     }
 }
 
 void UnitEdits::start() {
-    beginNext();
+    const auto move = std::ranges::find_if(_changes, [](const UnitChange& change) {
+        return change.state == ChangeState::planned &&
+               change.edit.edit.parameter == UnitParameter::internalIPAddress;
+    });
+    if (move != _changes.end() && _moveServices != nullptr) {
+        findHolders(*move);
+    } else {
+        beginNext();
+    }
+}
+
+// A move at an address that is not free ends before its command, so it goes first.
+void UnitEdits::findHolders(const UnitChange& change) {
+    const AddressQuestion question{.address = ipForString(change.edit.edit.typed),
+                                   .link = _target.link};
+    _search =
+        std::make_unique<HolderSearch>(exchange(), _moveServices->holders, std::vector{question});
+    _search->begin([this] {
+        _holders = _search->results().front();
+        const auto move =
+            std::ranges::find(_changes, UnitParameter::internalIPAddress,
+                              [](const UnitChange& each) { return each.edit.edit.parameter; });
+        if (!_isInterrupted && !isFreeFor(*_holders, _unit.hardwareAddress())) {
+            beginMove(*move);
+        } else {
+            beginNext();
+        }
+    });
 }
 
 UnitChange* UnitEdits::nextChange() {
@@ -97,7 +127,12 @@ void UnitEdits::beginNext() {
         beginMove(*change);
     } else {
         _command = std::make_unique<VerifiedCommand>(exchange(), planOf(*change));
-        _command->begin([this, change] { didCommand(*change, *_command); });
+        _command->begin([this, change] {
+            // The next command replaces the one whose end this is.
+            const auto ended = std::move(_command);
+            noteOutcome(*change, *ended);
+            beginNext();
+        });
     }
 }
 
@@ -113,7 +148,7 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
     const UnitParameter parameter = change.edit.edit.parameter;
     CommandPlan plan;
     plan.command = change.command;
-    plan.target = _unit.target();
+    plan.target = _target;
     plan.asked = {plan.target};
     plan.askedLater = {_everybody};
     plan.serialNumbers = {std::string(_unit.serialNumber())};
@@ -134,8 +169,7 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
         return std::ranges::find(serials, unit.serialNumber()) != serials.end() &&
                (isNewHardware || agree(unit.hardwareAddress(), hardware));
     };
-    plan.isWanted = [edit = change.edit](const HeardUnit& unit, auto /*sinceCommand*/,
-                                         bool /*isAccepted*/) {
+    plan.isWanted = [edit = change.edit](const HeardUnit& unit) {
         return edit.isShownBy(unit.record, unit.unitIDBytes);
     };
     return plan;
@@ -147,24 +181,30 @@ void UnitEdits::beginMove(UnitChange& change) {
         end();
         return;
     }
-    _move = std::make_unique<AddressMove>(exchange(), *_moveServices,
-                                          ipForString(change.edit.edit.typed),
-                                          std::string(_unit.hardwareAddress()), planOf(change));
+    _move = std::make_unique<AddressMove>(
+        exchange(), *_moveServices, ipForString(change.edit.edit.typed),
+        std::string(_unit.hardwareAddress()), planOf(change), _holders);
     _move->begin([this, &change] { didMove(change); });
 }
 
-void UnitEdits::noteShown(UnitChange& change, const HeardUnit& shown) {
-    _unit = shown;
-    change.shown = shownText(shown, change.edit.edit.parameter);
+void UnitEdits::noteTarget(const UnitChange& change, const HeardUnit& shown) {
+    _target.link = shown.link;
+    if (change.edit.edit.parameter == UnitParameter::devicePortNumber) {
+        _target.port = shown.target().port;
+    } else if (change.edit.edit.parameter == UnitParameter::internalIPAddress) {
+        _target.address = ipForString(change.edit.edit.typed);
+    }
 }
 
-void UnitEdits::didCommand(UnitChange& change, const VerifiedCommand& command) {
+void UnitEdits::noteOutcome(UnitChange& change, const VerifiedCommand& command) {
     if (const auto& shown = command.shown()) {
-        noteShown(change, *shown);
+        _unit = *shown;
+        change.shown = shownText(*shown, change.edit.edit.parameter);
     }
     switch (command.outcome()) {
     case CommandOutcome::shown:
         change.state = ChangeState::done;
+        noteTarget(change, _unit);
         break;
     case CommandOutcome::other:
         change.state = ChangeState::different;
@@ -181,18 +221,17 @@ void UnitEdits::didCommand(UnitChange& change, const VerifiedCommand& command) {
         refuseRest();
         break;
     }
-    // The next command replaces the one whose end this is.
-    const auto ended = std::move(_command);
-    beginNext();
 }
 
 void UnitEdits::didMove(UnitChange& change) {
-    if (_move->command() == nullptr) {
-        refuseRest();
-        end();
-        return;
+    if (_move->command() != nullptr) {
+        noteOutcome(change, *_move->command());
     }
-    didCommand(change, *_move->command());
+    // Whoever answers for the address would get the next command.
+    if (_move->command() == nullptr || _move->state() == MoveState::foreignAnswer) {
+        refuseRest();
+    }
+    beginNext();
 }
 
 void UnitEdits::unitDidTell(const HeardUnit& unit) {

@@ -3,7 +3,11 @@
 // What changes nothing about how the unit is reached goes first: unit ID and destinations. Then
 // device port, hardware address, IP address and serial number follow. Nothing follows a step of
 // those four that failed, nor a unit that fell silent, because the unit may not be where it is
-// looked for.
+// looked for. Before all of them it is found out who holds a new IP address: nothing is sent when
+// somebody does.
+//
+// Commands go to the address that the unit had before the edits, and after a move to its new one.
+// What it tells meanwhile leads them nowhere else.
 //
 // Threading and ownership: see Operation.h. The exchange and the services must outlive the edits.
 
@@ -71,11 +75,12 @@ public:
 private:
     void start() override;
     void unitDidTell(const HeardUnit& unit) override;
+    void findHolders(const UnitChange& change);
     void beginNext();
     void beginMove(UnitChange& change);
-    void didCommand(UnitChange& change, const VerifiedCommand& command);
+    void noteOutcome(UnitChange& change, const VerifiedCommand& command);
+    void noteTarget(const UnitChange& change, const HeardUnit& shown);
     void didMove(UnitChange& change);
-    void noteShown(UnitChange& change, const HeardUnit& shown);
     void refuseRest();
     CommandPlan planOf(const UnitChange& change) const;
     UnitChange* nextChange();
@@ -84,8 +89,11 @@ private:
     HeardUnit _unit;
     std::string _firstHardwareAddress; // the one that it had before the edits
     std::vector<UnitChange> _changes;
+    UnitTarget _target; // commands go there
     UnitTarget _everybody;
     std::optional<SendFailure> _failure;
+    std::unique_ptr<HolderSearch> _search;
+    std::optional<AddressHolders> _holders; // of the new address
     std::unique_ptr<VerifiedCommand> _command;
     std::unique_ptr<AddressMove> _move;
     bool _isInterrupted = false;

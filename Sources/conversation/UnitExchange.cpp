@@ -120,8 +120,7 @@ void UnitExchange::tellAnswer(const Reply& reply, bool isAcknowledgement,
     const UnitAnswer answer{.serialNumber = reply.serialNumber,
                             .isAcknowledgement = isAcknowledgement,
                             .bytes = {reply.payload.begin(), reply.payload.end()},
-                            .sender = senderOf(origin).address,
-                            .link = origin.link};
+                            .sender = senderOf(origin).address};
     tellListeners([&answer](Listener& listener) { listener.unitDidAnswer(answer); });
 }
 

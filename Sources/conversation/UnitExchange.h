@@ -29,9 +29,8 @@ using MonotonicClock = std::function<std::chrono::milliseconds()>;
 struct UnitAnswer {
     std::optional<std::string> serialNumber; // as the answer's header tells it
     bool isAcknowledgement = false;
-    Bytes bytes; // from the payload marker on
-    std::uint32_t sender = 0;
-    std::uint32_t link = 0;
+    Bytes bytes;              // from the payload marker on
+    std::uint32_t sender = 0; // address from which it came
 };
 
 // Why the session could not be opened.

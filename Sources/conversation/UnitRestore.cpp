@@ -40,7 +40,7 @@ UnitRestore::UnitRestore(UnitExchange& exchange, const std::vector<HeardUnit>& u
 void UnitRestore::start() {
     _begun = exchange().now();
     command();
-    if (_failure.has_value()) {
+    if (!_isSent) {
         end();
         return;
     }
@@ -51,7 +51,9 @@ void UnitRestore::command() {
     ++_sends;
     for (const UnitTarget& target : _targets) {
         auto failure = exchange().send(restoreCommand, target);
-        if (_sends == 1 && failure.has_value()) {
+        if (!failure.has_value()) {
+            _isSent = true;
+        } else if (_sends == 1) {
             _failure = std::move(failure);
         }
     }
@@ -110,10 +112,7 @@ void UnitRestore::unitDidTell(const HeardUnit& told) {
 }
 
 void UnitRestore::endWhenAllAreRestored() {
-    const bool areRestored = std::ranges::all_of(_units, [](const RestoredUnit& unit) {
-        return unit.after.has_value() && (unit.isAccepted || unit.hasChanged());
-    });
-    if (areRestored) {
+    if (std::ranges::all_of(_units, &RestoredUnit::isRestored)) {
         _nextTry.reset();
         end();
     }

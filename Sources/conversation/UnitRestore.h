@@ -26,6 +26,9 @@ struct RestoredUnit {
     bool isAccepted = false;
 
     bool hasChanged() const;
+
+    // It has shown itself after the command, and that it has taken it.
+    bool isRestored() const { return after.has_value() && (isAccepted || hasChanged()); }
 };
 
 class UnitRestore final : public Operation, private UnitExchange::Listener {
@@ -36,8 +39,12 @@ public:
 
     const std::vector<RestoredUnit>& units() const { return _units; }
 
-    // Why the command was not sent; absent when it was.
+    // Why the command did not go to a place the first time; absent when it went everywhere. A
+    // command that goes nowhere ends the restore.
     const std::optional<SendFailure>& failure() const { return _failure; }
+
+    // The command went to one place at least.
+    bool isSent() const { return _isSent; }
 
     // Has no effect: a restore that was sent is read back.
     void interrupt() override {}
@@ -58,6 +65,7 @@ private:
     std::vector<UnitTarget> _everybody;
     std::optional<SendFailure> _failure;
     int _sends = 0;
+    bool _isSent = false;
     std::size_t _tries = 0;
     std::chrono::milliseconds _begun{0};
     RunLoop::Handle _nextTry;

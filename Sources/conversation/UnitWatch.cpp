@@ -41,11 +41,13 @@ void UnitWatch::request() {
     const bool isFirst = _nextRequest == nullptr;
     for (const UnitTarget& target : _plan.everybody) {
         auto failure = exchange().send(parameterRequestCommand, target);
-        if (isFirst && failure.has_value()) {
+        if (!failure.has_value()) {
+            _hasAsked = true;
+        } else if (isFirst) {
             _failure = std::move(failure);
         }
     }
-    if (_failure.has_value()) {
+    if (!_hasAsked) {
         end();
         return;
     }

@@ -44,8 +44,12 @@ public:
     // The number of units that are there now.
     std::size_t count() const;
 
-    // Why the first request was not sent; absent when it was.
+    // Why the first request did not go to a place; absent when it went everywhere. A first request
+    // that goes nowhere ends the watch.
     const std::optional<SendFailure>& failure() const { return _failure; }
+
+    // A request went to one place at least.
+    bool hasAsked() const { return _hasAsked; }
 
     void interrupt() override { end(); }
 
@@ -65,6 +69,7 @@ private:
     WatchPlan _plan;
     std::map<std::pair<std::string, std::string>, Watched> _units; // by serial number, hardware
     bool _hasBegun = false;
+    bool _hasAsked = false;
     std::optional<SendFailure> _failure;
     RunLoop::Handle _nextRequest;
     RunLoop::Handle _deadline;

@@ -7,6 +7,12 @@
 
 namespace kx {
 
+namespace {
+
+constexpr int mostSends = 3;
+
+} // namespace
+
 VerifiedCommand::VerifiedCommand(UnitExchange& exchange, CommandPlan plan)
     : Listener(exchange)
     , _plan(std::move(plan)) {}
@@ -34,7 +40,7 @@ void VerifiedCommand::tryAgain() {
         finish(_shown.has_value() ? CommandOutcome::other : CommandOutcome::silent);
         return;
     }
-    if (!_isAccepted && _sends < _plan.sends) {
+    if (!_isAccepted && _sends < mostSends) {
         ++_sends;
         exchange().send(_plan.command, _plan.target); // the next try sends it again
     }
@@ -58,7 +64,7 @@ void VerifiedCommand::unitDidTell(const HeardUnit& unit) {
         return;
     }
     const auto sinceCommand = exchange().now() - _begun;
-    if (_plan.isWanted(unit, sinceCommand, _isAccepted)) {
+    if (_plan.isWanted(unit)) {
         _shown = unit;
         finish(CommandOutcome::shown);
     } else if (sinceCommand >= timeOfOldAnswers) {

@@ -4,7 +4,7 @@
 // What was wanted is final as soon as it is shown. Anything else counts only at the end, because an
 // old answer may be under way. The unit is asked when it acknowledges the command, and at the times
 // of readBackTries() whatever it says. While it has not acknowledged the command, the first of
-// these tries also send the command again.
+// these tries also send the command again, so that it goes out three times in all.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the command.
 
@@ -39,16 +39,13 @@ struct CommandPlan {
     UnitTarget target;                       // the command goes there
     std::vector<UnitTarget> asked;           // the parameters are asked for there
     std::vector<UnitTarget> askedLater = {}; // and there too, from the second try on
-    int sends = 3;                           // times that the command may be sent in all
 
     // Serial numbers under which the unit acknowledges.
     std::vector<std::string> serialNumbers;
 
-    // Whether an answer is the unit's, and whether it shows what was wanted. `sinceCommand` is the
-    // time since the command was first sent.
+    // Whether an answer is the unit's, and whether it shows what was wanted.
     std::function<bool(const HeardUnit&)> isFromUnit;
-    std::function<bool(const HeardUnit&, std::chrono::milliseconds sinceCommand, bool isAccepted)>
-        isWanted;
+    std::function<bool(const HeardUnit&)> isWanted;
 };
 
 enum class CommandOutcome {
@@ -69,8 +66,6 @@ public:
 
     // Why the command was not sent, for the outcome notSent.
     const std::optional<SendFailure>& failure() const { return _failure; }
-
-    bool isAccepted() const { return _isAccepted; }
 
     // Has no effect: the outcome of a command that was sent is always waited for.
     void interrupt() override {}

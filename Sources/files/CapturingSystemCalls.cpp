@@ -25,9 +25,7 @@ IPv4Endpoint endpointOf(ByteView record) {
 
 CapturingSystemCalls::CapturingSystemCalls(DatagramSystemCalls& inner, Services services)
     : _inner(inner)
-    , _services(std::move(services)) {
-    _services.write(captureHeader("KXConfig"));
-}
+    , _services(std::move(services)) {}
 
 ssize_t CapturingSystemCalls::sendTo(int descriptor, ByteView data,
                                      std::optional<ByteView> address) {
@@ -65,6 +63,9 @@ ssize_t CapturingSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t
 
 void CapturingSystemCalls::capture(int descriptor, bool isOwn, ByteView other, std::uint32_t link,
                                    ByteView data) {
+    if (!std::exchange(_hasHeader, true)) {
+        _services.write(captureHeader(_services.application));
+    }
     const auto local = _inner.localAddress(descriptor);
     IPv4Endpoint own = endpointOf(local.value_or(Bytes()));
     if (own.address == 0) {
@@ -73,14 +74,15 @@ void CapturingSystemCalls::capture(int descriptor, bool isOwn, ByteView other, s
     const IPv4Endpoint far = endpointOf(other);
     const IPv4Endpoint& source = isOwn ? own : far;
     const IPv4Endpoint& destination = isOwn ? far : own;
-    _services.write(capturedDatagram({.time = _services.now(),
-                                      .isOwn = isOwn,
-                                      .source = source.address,
-                                      .sourcePort = source.port,
-                                      .destination = destination.address,
-                                      .destinationPort = destination.port,
-                                      .remark = isOwn ? "sent by kxctl" : ""},
-                                     data));
+    _services.write(
+        capturedDatagram({.time = _services.now(),
+                          .isOwn = isOwn,
+                          .source = source.address,
+                          .sourcePort = source.port,
+                          .destination = destination.address,
+                          .destinationPort = destination.port,
+                          .remark = isOwn ? "sent by " + _services.application : std::string()},
+                         data));
 }
 
 } // namespace kx

@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <functional>
+#include <string>
 #include <utility>
 
 namespace kx {
@@ -16,7 +17,10 @@ namespace kx {
 class CapturingSystemCalls final : public DatagramSystemCalls {
 public:
     struct Services {
-        // Writes bytes of the capture; the first ones are its header.
+        // Who sends, as the capture names it.
+        std::string application;
+
+        // Writes bytes of the capture. Its header comes with the first datagram.
         std::function<void(ByteView)> write;
 
         // The time since the beginning of 1970, UTC.
@@ -59,6 +63,7 @@ private:
 
     DatagramSystemCalls& _inner;
     Services _services;
+    bool _hasHeader = false;
 };
 
 } // namespace kx

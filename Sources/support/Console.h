@@ -1,6 +1,7 @@
 // The terminal or the files that a program of the command line reads and writes.
 //
-// Main thread only. Texts are UTF-8.
+// Threading: main thread only. Ownership: users of a console do not own it; it must outlive them.
+// Texts are UTF-8.
 
 #pragma once
 
@@ -28,6 +29,12 @@ public:
     virtual bool isOutputTerminal() const = 0;
     virtual bool isNoteTerminal() const = 0;
     virtual bool isInputTerminal() const = 0;
+
+    // Standard error is a terminal on which a line can be written over.
+    virtual bool canRewriteNotes() const = 0;
+
+    // Whoever reads standard output has gone. It counts as a failure to write then.
+    virtual bool isReaderGone() = 0;
 
     // Whether the person wants no colours (no-color.org), or the terminal has none.
     virtual bool isPlain() const = 0;

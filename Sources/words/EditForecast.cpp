@@ -236,4 +236,8 @@ std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
                : localizedText("Apply sends nothing: the UDP listener is not running.");
 }
 
+std::string forecastOfValueAlone(const ParameterEdit& edit) {
+    return forecastOfForm(edit, {});
+}
+
 } // namespace kx

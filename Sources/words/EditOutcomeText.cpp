@@ -74,10 +74,10 @@ std::string textOfSentence(const std::string& address, const std::string& said) 
                : localizedText("No ARP entry was made for %@: %@.", {address, sentence});
 }
 
-// The reason why there is no entry for the new address; empty when there is one, or none is wanted.
-std::string textOfARPEntry(const EditOutcome& outcome) {
-    const std::string address = safeForSentence(outcome.edit().typed);
-    const ARPEntry& entry = outcome.arpEntry();
+} // namespace
+
+std::string textOfARPEntry(std::string_view typedAddress, const ARPEntry& entry) {
+    const std::string address = safeForSentence(typedAddress);
     if (!entry.sentence.empty()) {
         return textOfSentence(address, entry.sentence);
     }
@@ -111,10 +111,8 @@ std::string textOfARPEntry(const EditOutcome& outcome) {
     return {};
 }
 
-} // namespace
-
 std::string textOfEditOutcome(const EditOutcome& outcome) {
-    const std::string entry = textOfARPEntry(outcome);
+    const std::string entry = textOfARPEntry(outcome.edit().typed, outcome.arpEntry());
     const std::string state = textOfState(outcome);
     return entry.empty() ? state : state + ' ' + entry;
 }

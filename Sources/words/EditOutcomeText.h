@@ -8,10 +8,15 @@
 #include "conversation/EditOutcome.h"
 
 #include <string>
+#include <string_view>
 
 namespace kx {
 
 // One or two sentences, for example "The unit now shows 3523 as its destination Port number."
 std::string textOfEditOutcome(const EditOutcome& outcome);
+
+// The reason why there is no entry for a new address, as a sentence; empty when there is an entry,
+// or none is wanted.
+std::string textOfARPEntry(std::string_view typedAddress, const ARPEntry& entry);
 
 } // namespace kx

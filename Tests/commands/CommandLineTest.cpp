@@ -136,4 +136,22 @@ TEST(CommandLine, TheDocumentIsWantedBeforeTheMarkOnly) {
     EXPECT_EQ(commandNameIn({"--json", "shwo"}), std::nullopt);
 }
 
+TEST(CommandLine, WordsStayAsTheyAre) {
+    for (const char* word : {"[V]", "[a,b]", "[]", "{}", "%%", "", "-", "a b", "a,b", "\"V\"",
+                             "'V'", "V=", "show", "a\\n"}) {
+        EXPECT_EQ(lineOf({"option", "id:A", word}).words, (Words{"id:A", word}));
+        EXPECT_EQ(lineOf({"option", "id:A", word, "--json"}).words, (Words{"id:A", word}));
+        EXPECT_EQ(lineOf({"set", "id:A", "unit-id=B", word}).words,
+                  (Words{"id:A", "unit-id=B", word}));
+    }
+}
+
+TEST(CommandLine, HelpIsGivenWhateverElseIsWrong) {
+    for (const Words& arguments :
+         {Words{"--nonsense", "--help"}, Words{"set", "--nonsense", "--help"},
+          Words{"frobnicate", "--help"}, Words{"discover", "word", "--help"}}) {
+        EXPECT_TRUE(lineOf(arguments).has("--help"));
+    }
+}
+
 } // namespace kx

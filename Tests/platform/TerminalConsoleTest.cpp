@@ -116,4 +116,28 @@ TEST(TerminalConsole, ColoursAreForTerminalsThatHaveThemAndPeopleWhoWantThem) {
     EXPECT_TRUE(console.isPlain());
 }
 
+TEST(TerminalConsole, AReaderThatGoesIsSeenWithoutWriting) {
+    TerminalConsole console;
+    Pipe pipe;
+    const Replaced out(STDOUT_FILENO, pipe.writingEnd.number());
+    EXPECT_FALSE(console.isReaderGone());
+    EXPECT_FALSE(console.outputError().has_value());
+    pipe.readingEnd.close();
+    EXPECT_TRUE(console.isReaderGone());
+    EXPECT_EQ(console.outputError()->code, EPIPE);
+}
+
+TEST(TerminalConsole, AFileHasNoReaderWhoCouldGo) {
+    const FileDescriptor file(::open("/dev/null", O_WRONLY | O_CLOEXEC));
+    const Replaced out(STDOUT_FILENO, file.number());
+    TerminalConsole console;
+    EXPECT_FALSE(console.isReaderGone());
+}
+
+TEST(TerminalConsole, WordsInAPipeCannotBeWrittenOver) {
+    Pipe notes;
+    const Replaced err(STDERR_FILENO, notes.writingEnd.number());
+    EXPECT_FALSE(TerminalConsole().canRewriteNotes());
+}
+
 } // namespace kx

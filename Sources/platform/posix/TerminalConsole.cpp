@@ -1,5 +1,6 @@
 #include "platform/posix/TerminalConsole.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -26,6 +27,11 @@ int writeWhole(int descriptor, std::string_view text) {
 std::string_view environment(const char* name) {
     const char* const value = std::getenv(name); // no other thread of ours sets one
     return value != nullptr ? value : std::string_view();
+}
+
+// The terminal knows no escape sequences.
+bool isDumb() {
+    return environment("TERM").empty() || environment("TERM") == "dumb";
 }
 
 } // namespace
@@ -56,9 +62,21 @@ bool TerminalConsole::isInputTerminal() const {
     return ::isatty(STDIN_FILENO) == 1;
 }
 
+bool TerminalConsole::canRewriteNotes() const {
+    return isNoteTerminal() && !isDumb();
+}
+
+bool TerminalConsole::isReaderGone() {
+    pollfd output{.fd = STDOUT_FILENO, .events = 0, .revents = 0};
+    if (!_outputError.has_value() && ::poll(&output, 1, 0) == 1 &&
+        (output.revents & (POLLERR | POLLHUP)) != 0) {
+        _outputError = posixError(EPIPE);
+    }
+    return _outputError.has_value();
+}
+
 bool TerminalConsole::isPlain() const {
-    return !environment("NO_COLOR").empty() || environment("TERM").empty() ||
-           environment("TERM") == "dumb";
+    return !environment("NO_COLOR").empty() || isDumb();
 }
 
 std::optional<std::string> TerminalConsole::readLine() {

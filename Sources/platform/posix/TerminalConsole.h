@@ -14,6 +14,8 @@ public:
     bool isOutputTerminal() const override;
     bool isNoteTerminal() const override;
     bool isInputTerminal() const override;
+    bool canRewriteNotes() const override;
+    bool isReaderGone() override;
     bool isPlain() const override;
     std::optional<std::string> readLine() override;
 

@@ -156,4 +156,13 @@ TEST_F(AddressHoldersTest, AnInterruptionLeavesTheRestUnknown) {
     EXPECT_EQ(result().state, HolderState::unknown);
 }
 
+TEST_F(AddressHoldersTest, AnInterruptionKeepsTheSerialNumbersThatWereTold) {
+    begin(false, {unitAddress, unitAddress + 1});
+    receive(SampleUnit().reply());
+    search->interrupt();
+    EXPECT_EQ(result().state, HolderState::held);
+    EXPECT_EQ(result().holders.at(0).serialNumber, "01 02 03 04 05 06");
+    EXPECT_EQ(search->decided(), 1U);
+}
+
 } // namespace kx

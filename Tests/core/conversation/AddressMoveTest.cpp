@@ -12,21 +12,21 @@ class AddressMoveTest : public AddressTest {
 protected:
     static constexpr auto command = "192.168.1.50:10000 ^^IdIC0A80132";
 
-    void begin() {
+    void begin(std::optional<AddressHolders> known = {}) {
         CommandPlan plan{.command = "^^IdIC0A80132",
                          .target = unitTarget,
                          .asked = {},
                          .serialNumbers = {"01 02 03 04 05 06"},
                          .isFromUnit = [](const HeardUnit&) { return true; },
                          .isWanted =
-                             [](const HeardUnit& unit, auto, bool) {
+                             [](const HeardUnit& unit) {
                                  return unit.record.value(UnitParameter::internalIPAddress) ==
                                         "192.168.1.50";
                              }};
         move = std::make_unique<AddressMove>(
             exchange,
             AddressMove::Services{.holders = {.neighbours = neighbours}, .bindings = bindings},
-            newAddress, unitHardware, plan);
+            newAddress, unitHardware, plan, std::move(known));
         move->begin([this] { hasEnded = true; });
     }
 
@@ -163,6 +163,20 @@ TEST_F(AddressMoveTest, AnInterruptionAfterTheCommandFinishesTheMove) {
     runLoop.advanceBy(20ms);
     EXPECT_EQ(move->state(), MoveState::moved);
     EXPECT_EQ(bindings.calls.size(), 2U);
+}
+
+TEST_F(AddressMoveTest, AnAddressWhoseHoldersAreKnownIsNotLookedForAgain) {
+    begin(AddressHolders{.address = newAddress, .state = HolderState::free, .holders = {}});
+    EXPECT_EQ(sent(), Lines{command});
+}
+
+TEST_F(AddressMoveTest, AKnownHolderEndsItAtOnce) {
+    begin(AddressHolders{.address = newAddress,
+                         .state = HolderState::held,
+                         .holders = {{.hardwareAddress = otherHardware, .serialNumber = {}}}});
+    EXPECT_TRUE(hasEnded);
+    EXPECT_EQ(move->state(), MoveState::held);
+    EXPECT_EQ(sent(), Lines{});
 }
 
 } // namespace kx

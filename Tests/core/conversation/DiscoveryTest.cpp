@@ -107,4 +107,71 @@ TEST_F(DiscoveryTest, MayBeGivenUpWithoutAWord) {
     EXPECT_EQ(sent(), Lines{request});
 }
 
+TEST_F(DiscoveryTest, SendsTwoRequestsWhereNothingGetsLost) {
+    begin({.wait = 2400ms});
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(1200ms);
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(1200ms);
+    EXPECT_EQ(sent(), (Lines{request, request}));
+}
+
+TEST_F(DiscoveryTest, AsksAgainUntilEveryUnitHasAnsweredTheLatestRequest) {
+    begin({.wait = 2400ms});
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(1200ms);
+    receive(secondSampleUnit().reply(), unitAddress + 1);
+    runLoop.advanceBy(99ms);
+    EXPECT_EQ(sent().size(), 2U);
+    runLoop.advanceBy(1ms); // the first unit has not answered the second request
+    EXPECT_EQ(sent(), Lines{request});
+    receive(SampleUnit().reply());
+    receive(secondSampleUnit().reply(), unitAddress + 1);
+    runLoop.advanceBy(1100ms);
+    EXPECT_EQ(sent(), Lines{});
+}
+
+TEST_F(DiscoveryTest, AsksTwelveTimesWhereNobodyAnswers) {
+    begin({.wait = 2400ms});
+    runLoop.advanceBy(1199ms);
+    EXPECT_EQ(sent(), Lines{request});
+    runLoop.advanceBy(1001ms);
+    EXPECT_EQ(sent(), Lines(11, request));
+    runLoop.advanceBy(200ms);
+    EXPECT_EQ(sent(), Lines{});
+    EXPECT_EQ(endedAt, 2400ms);
+}
+
+TEST_F(DiscoveryTest, RequestsOfAShortTimeKeepTheirDistance) {
+    begin({.wait = 60ms});
+    runLoop.advanceBy(500ms);
+    EXPECT_EQ(sent().size(), 4U); // after 0, 30, 40 and 50 ms; then the time is over
+}
+
+TEST_F(DiscoveryTest, AFixedNumberOfRequestsIsKeptWhoeverAnswers) {
+    begin({.wait = 2400ms, .tries = 3});
+    runLoop.advanceBy(2400ms);
+    EXPECT_EQ(sent(), Lines(3, request));
+}
+
+TEST_F(DiscoveryTest, ASlowUnitGivesItsTwinsTwiceItsOwnTime) {
+    begin({.tries = 1, .isEnough = isOneEnough, .settling = 10ms});
+    runLoop.advanceBy(300ms);
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(599ms);
+    EXPECT_FALSE(discovery->hasEnded());
+    runLoop.advanceBy(1ms);
+    EXPECT_EQ(endedAt, 900ms);
+}
+
+TEST_F(DiscoveryTest, APlaceThatCannotBeAskedIsToldWhenAnotherCanBe) {
+    discovery = std::make_unique<Discovery>(
+        exchange, DiscoveryPlan{.everybody = {everybody, unitTarget}, .tries = 1});
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    discovery->begin({});
+    EXPECT_FALSE(discovery->hasEnded());
+    EXPECT_TRUE(discovery->hasAsked());
+    EXPECT_TRUE(discovery->failure().has_value());
+}
+
 } // namespace kx

@@ -71,4 +71,54 @@ TEST(HostInterface, KnowsItsNetworks) {
     EXPECT_EQ(made.networkOf(0x0B000000U), nullptr);
 }
 
+namespace {
+
+// kx0 has 192.0.2.1/24 and 10.0.0.1/8, kx2 has 198.51.100.2/31.
+std::vector<HostInterface> twoInterfaces() {
+    HostInterface first;
+    first.name = "kx0";
+    first.networks = {{.address = 0xC0000201U, .mask = 0xFFFFFF00U},
+                      {.address = 0x0A000001U, .mask = 0xFF000000U}};
+    HostInterface second;
+    second.name = "kx2";
+    second.networks = {{.address = 0xC6336402U, .mask = 0xFFFFFFFEU}};
+    return {first, second};
+}
+
+} // namespace
+
+TEST(HostInterface, EveryNetworkHasTwoAddressesOfMany) {
+    EXPECT_EQ(addressesOfMany(twoInterfaces()),
+              (std::vector<std::uint32_t>{0, 0xC0000200U, 0xC00002FFU, 0x0A000000U, 0x0AFFFFFFU}));
+    EXPECT_EQ(addressesOfMany({}), std::vector<std::uint32_t>{0});
+}
+
+TEST(HostInterface, AnAddressOfThisHostIsFoundOnEveryInterface) {
+    const auto all = twoInterfaces();
+    const std::vector asked{all.front()};
+    for (const std::uint32_t own : {0xC0000201U, 0x0A000001U, 0xC6336402U}) {
+        EXPECT_EQ(objectionToAddress(own, all, asked), AddressObjection::isOwn) << own;
+    }
+}
+
+TEST(HostInterface, AnAddressOfAWholeNetworkIsFoundInEveryNetwork) {
+    const auto all = twoInterfaces();
+    for (const std::uint32_t ofNetwork : {0xC0000200U, 0xC00002FFU, 0x0A000000U, 0x0AFFFFFFU}) {
+        EXPECT_EQ(objectionToAddress(ofNetwork, all, {all.back()}), AddressObjection::isOfNetwork)
+            << ofNetwork;
+    }
+}
+
+TEST(HostInterface, BothAddressesOfANetworkOfTwoAreHosts) {
+    const auto all = twoInterfaces();
+    EXPECT_EQ(objectionToAddress(0xC6336403U, all, all), AddressObjection::none);
+}
+
+TEST(HostInterface, AnAddressMustLieInANetworkThatIsAsked) {
+    const auto all = twoInterfaces();
+    EXPECT_EQ(objectionToAddress(0x0A010203U, all, {all.front()}), AddressObjection::none);
+    EXPECT_EQ(objectionToAddress(0x0A010203U, all, {all.back()}), AddressObjection::isOutside);
+    EXPECT_EQ(objectionToAddress(0x0B000000U, all, all), AddressObjection::isOutside);
+}
+
 } // namespace kx

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cstdint>
+
 namespace kx {
 
 namespace {
@@ -9,12 +12,13 @@ namespace {
 using enum UnitParameter;
 using enum RequestReach;
 
-constexpr std::uint32_t broadcastAddress = 0xC0A801FFU; // 192.168.1.255
+// 192.168.1.255 and 10.255.255.255.
+constexpr std::array<std::uint32_t, 2> addressesOfMany{0xC0A801FFU, 0x0AFFFFFFU};
 
 RequestReach reachOfUnitAt(std::string_view address) {
     UnitRecord record;
     record.setValue(internalIPAddress, address);
-    return targetOfRequest(&record, broadcastAddress).reach;
+    return targetOfRequest(&record, addressesOfMany).reach;
 }
 
 } // namespace
@@ -22,20 +26,21 @@ RequestReach reachOfUnitAt(std::string_view address) {
 TEST(RequestTarget, IsTheUnitAtTheAddressThatItTells) {
     UnitRecord record;
     record.setValue(internalIPAddress, "192.168.1.10");
-    EXPECT_EQ(targetOfRequest(&record, broadcastAddress),
+    EXPECT_EQ(targetOfRequest(&record, addressesOfMany),
               (RequestTarget{.reach = oneUnit, .address = 0xC0A8010AU}));
 }
 
 TEST(RequestTarget, IsEverybodyWithoutAUnitOrWithoutItsAddress) {
-    EXPECT_EQ(targetOfRequest(nullptr, broadcastAddress),
+    EXPECT_EQ(targetOfRequest(nullptr, addressesOfMany),
               (RequestTarget{.reach = everybodyWithoutUnit}));
     const UnitRecord record;
-    EXPECT_EQ(targetOfRequest(&record, broadcastAddress),
+    EXPECT_EQ(targetOfRequest(&record, addressesOfMany),
               (RequestTarget{.reach = everybodyWithoutAddress}));
 }
 
 TEST(RequestTarget, IsEverybodyAtAnAddressOfMany) {
     EXPECT_EQ(reachOfUnitAt("192.168.1.255"), everybodyAtItsAddress);
+    EXPECT_EQ(reachOfUnitAt("10.255.255.255"), everybodyAtItsAddress);
     EXPECT_EQ(reachOfUnitAt("255.255.255.255"), everybodyAtItsAddress);
     EXPECT_EQ(reachOfUnitAt("224.0.0.1"), everybodyAtItsAddress);
     EXPECT_EQ(reachOfUnitAt("239.255.255.255"), everybodyAtItsAddress);

@@ -181,4 +181,60 @@ TEST_F(UnitEditsTest, AMoveThatIsNotBegunLeavesTheRestAlone) {
     EXPECT_EQ(edits->move()->state(), MoveState::held);
 }
 
+TEST_F(UnitEditsTest, NothingIsSentWhenSomebodyHoldsTheNewAddress) {
+    neighbours.entries[0xC0A80132U] = {.state = NeighbourState::reachable,
+                                       .hardwareAddress = otherHardware};
+    begin({{UnitParameter::unitID, "AB"}, {UnitParameter::internalIPAddress, "192.168.1.50"}});
+    runLoop.advanceBy(300ms);
+    EXPECT_TRUE(hasEnded);
+    EXPECT_EQ(latest(), "(nothing)");
+    EXPECT_EQ(states(), States(2, ChangeState::refused));
+    EXPECT_EQ(edits->move()->state(), MoveState::held);
+    EXPECT_EQ(edits->move()->holders().holders.at(0).hardwareAddress, otherHardware);
+}
+
+TEST_F(UnitEditsTest, TheHolderIsLookedForOnceBeforeTheFirstCommand) {
+    neighbours.entries[0xC0A80132U] = {.state = NeighbourState::failed, .hardwareAddress = {}};
+    begin({{UnitParameter::unitID, "AB"}, {UnitParameter::internalIPAddress, "192.168.1.50"}});
+    EXPECT_EQ(latest(), "(nothing)");
+    runLoop.advanceBy(1300ms);
+    EXPECT_EQ(latest(), "192.168.1.10:10000 ^^IdU414200000000");
+    obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 0}; });
+    EXPECT_EQ(latest(), "192.168.1.50:10000 ^^IdIC0A80132");
+}
+
+TEST_F(UnitEditsTest, AnInterruptionOfTheSearchSendsNothing) {
+    begin({{UnitParameter::unitID, "AB"}, {UnitParameter::internalIPAddress, "192.168.1.50"}});
+    edits->interrupt();
+    EXPECT_TRUE(hasEnded);
+    runLoop.advanceBy(5000ms);
+    EXPECT_EQ(latest(), "(nothing)");
+    EXPECT_EQ(states(), States(2, ChangeState::refused));
+    EXPECT_EQ(edits->move(), nullptr);
+}
+
+TEST_F(UnitEditsTest, NothingFollowsAMoveAfterWhichAnotherAnswersForTheAddress) {
+    neighbours.entries[0xC0A80132U] = {.state = NeighbourState::failed, .hardwareAddress = {}};
+    begin({{UnitParameter::internalIPAddress, "192.168.1.50"},
+           {UnitParameter::serialNumber, "010203040509"}});
+    runLoop.advanceBy(1300ms);
+    neighbours.entries[0xC0A80132U] = {.state = NeighbourState::reachable,
+                                       .hardwareAddress = otherHardware};
+    obey([](SampleUnit& each) { each.internalIP.back() = 50; });
+    runLoop.advanceBy(20ms);
+    EXPECT_TRUE(hasEnded);
+    EXPECT_EQ(edits->move()->state(), MoveState::foreignAnswer);
+    EXPECT_EQ(states(), (States{ChangeState::done, ChangeState::refused}));
+    EXPECT_EQ(latest(), "192.168.1.50:10000 ^^IdIC0A80132");
+}
+
+TEST_F(UnitEditsTest, AUnitThatTellsAnotherAddressMeanwhileLeadsNoCommandThere) {
+    begin({{UnitParameter::unitID, "AB"}, {UnitParameter::destinationPortNumber, "3523"}});
+    obey([](SampleUnit& each) {
+        each.unitID = {'A', 'B', 0, 0, 0, 0};
+        each.internalIP.back() = 255;
+    });
+    EXPECT_EQ(latest(), "192.168.1.10:10000 ^^IdT0DC3");
+}
+
 } // namespace kx

@@ -110,6 +110,22 @@ TEST_F(UnitRestoreTest, ACommandThatIsNotSentEndsAtOnce) {
     begin({});
     EXPECT_TRUE(restore->hasEnded());
     EXPECT_TRUE(restore->failure().has_value());
+    EXPECT_FALSE(restore->isSent());
+}
+
+TEST_F(UnitRestoreTest, APlaceThatTheCommandDoesNotReachIsNoEnd) {
+    restore =
+        std::make_unique<UnitRestore>(exchange, std::vector{heardUnit(SampleUnit())},
+                                      std::vector{everybody, unitTarget}, std::vector{everybody});
+    systemCalls.failNext(Operation::sendTo, ENETDOWN);
+    restore->begin([this] { endedAt = runLoop.now(); });
+    EXPECT_FALSE(restore->hasEnded());
+    EXPECT_TRUE(restore->isSent());
+    EXPECT_TRUE(restore->failure().has_value());
+    receive(SampleUnit().acknowledgement());
+    runLoop.advanceBy(200ms);
+    receive(SampleUnit().reply());
+    EXPECT_EQ(endedAt, 200ms);
 }
 
 } // namespace kx

@@ -14,7 +14,9 @@ protected:
     static constexpr auto requestToUnit = "192.168.1.10:10000 ^^IdX";
 
     void begin(WatchPlan plan) {
-        plan.everybody = {everybody};
+        if (plan.everybody.empty()) {
+            plan.everybody = {everybody};
+        }
         plan.every = 1000ms;
         plan.tell = [this](UnitEvent event, const HeardUnit& unit) {
             constexpr std::array names{"appeared", "changed", "silent", "back"};
@@ -114,6 +116,15 @@ TEST_F(UnitWatchTest, AFirstRequestThatIsNotSentEndsIt) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     begin({});
     EXPECT_TRUE(watch->hasEnded());
+    EXPECT_TRUE(watch->failure().has_value());
+    EXPECT_FALSE(watch->hasAsked());
+}
+
+TEST_F(UnitWatchTest, APlaceThatCannotBeAskedIsNoEndWhenAnotherCanBe) {
+    systemCalls.failNext(Operation::sendTo, ENETUNREACH);
+    begin({.everybody = {everybody, unitTarget}});
+    EXPECT_FALSE(watch->hasEnded());
+    EXPECT_TRUE(watch->hasAsked());
     EXPECT_TRUE(watch->failure().has_value());
 }
 

@@ -8,6 +8,7 @@
 
 #include <array>
 #include <cerrno>
+#include <vector>
 
 namespace kx {
 
@@ -21,6 +22,8 @@ protected:
         inner.addLink("kx0", link);
         descriptor = calls.socket();
         calls.bind(descriptor, dataForAddress(0, 3520));
+        const Bytes address = dataForAddress(0xC00002FFU, 3520);
+        calls.sendTo(descriptor, data, ByteView(address)); // the header comes before this
         written.clear();
     }
 
@@ -31,7 +34,7 @@ protected:
                                  .sourcePort = isOwn ? std::uint16_t{3520} : otherPort,
                                  .destination = isOwn ? other : own,
                                  .destinationPort = isOwn ? otherPort : std::uint16_t{3520},
-                                 .remark = isOwn ? "sent by kxctl" : ""},
+                                 .remark = isOwn ? "sent by test" : ""},
                                 data);
     }
 
@@ -39,7 +42,8 @@ protected:
     Bytes written;
     CapturingSystemCalls calls{
         inner,
-        {.write =
+        {.application = "test",
+         .write =
              [this](ByteView bytes) { written.insert(written.end(), bytes.begin(), bytes.end()); },
          .now = [] { return std::chrono::microseconds(5); },
          .ownAddress = [](std::uint32_t by) { return by == link ? 0xC0000201U : 0U; }}};
@@ -49,13 +53,19 @@ protected:
 
 } // namespace
 
-TEST_F(CapturingSystemCallsTest, BeginsWithTheHeader) {
-    Bytes first;
-    const CapturingSystemCalls fresh(
-        inner, {.write = [&](ByteView bytes) { first.assign(bytes.begin(), bytes.end()); },
-                .now = {},
-                .ownAddress = {}});
-    EXPECT_EQ(first, captureHeader("KXConfig"));
+TEST_F(CapturingSystemCallsTest, TheHeaderComesOnceBeforeTheFirstDatagram) {
+    std::vector<Bytes> pieces;
+    CapturingSystemCalls fresh(
+        inner, {.application = "test",
+                .write = [&](ByteView bytes) { pieces.emplace_back(bytes.begin(), bytes.end()); },
+                .now = [] { return std::chrono::microseconds(5); },
+                .ownAddress = [](std::uint32_t) { return 0U; }});
+    EXPECT_TRUE(pieces.empty());
+    const Bytes address = dataForAddress(0xC00002FFU, 3520);
+    fresh.sendTo(descriptor, data, ByteView(address));
+    fresh.sendTo(descriptor, data, ByteView(address));
+    ASSERT_EQ(pieces.size(), 3U);
+    EXPECT_EQ(pieces[0], captureHeader("test"));
 }
 
 TEST_F(CapturingSystemCallsTest, WritesWhatIsSentWithTheAddressOfTheLink) {

@@ -249,4 +249,14 @@ TEST(EditForecast, EverySentenceIsLookedUpAsAWhole) {
               "administrator rights.> <Apply sends ^^IdI0A000007 to 10.0.0.7.>");
 }
 
+TEST(EditForecast, TheValueAloneNeedsNeitherAUnitNorAnARPEntry) {
+    const auto alone = [](UnitParameter parameter, std::string_view typed) {
+        return forecastOfValueAlone(std::get<ParameterEdit>(editOfParameter(parameter, typed)));
+    };
+    EXPECT_EQ(alone(devicePortNumber, "70000"), forecast(devicePortNumber, "70000", knownUnit()));
+    EXPECT_EQ(alone(internalIPAddress, "192.168.1.010"),
+              "Apply sends ^^IdIC0A8010A: internal IP address 192.168.1.10, because that is how "
+              "“192.168.1.010” is read.");
+}
+
 } // namespace kx

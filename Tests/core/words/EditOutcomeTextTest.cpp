@@ -158,4 +158,15 @@ TEST(EditOutcomeText, NamesTheParameterAsPeopleSeeIt) {
               "<The unit now shows 3523 as its <destination Port number>.>");
 }
 
+TEST(EditOutcomeText, AnEntryThatWasNotMadeHasASentenceForEveryReason) {
+    for (const auto state :
+         {ARPEntryState::rightsNotGiven, ARPEntryState::refused, ARPEntryState::dismissed,
+          ARPEntryState::cannotRun, ARPEntryState::notASCII, ARPEntryState::notStarted,
+          ARPEntryState::ended}) {
+        const std::string text = textOfARPEntry("192.0.2.41", {.state = state, .code = 7});
+        EXPECT_TRUE(text.starts_with("No ARP entry was made for 192.0.2.41: ")) << text;
+    }
+    EXPECT_EQ(textOfARPEntry("192.0.2.41", {.state = ARPEntryState::started}), "");
+}
+
 } // namespace kx

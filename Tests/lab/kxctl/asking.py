@@ -5,6 +5,7 @@ import io
 import json
 import os
 import pathlib
+import pty
 import signal
 import socket
 import subprocess
@@ -12,7 +13,7 @@ import tempfile
 import time
 
 from program import (FIRST, SECOND, Test, checked, end_of, eventually, heard, kxctl, main,
-                     restore_units, start)
+                     restore_units, seen_until, start)
 
 
 class Interfaces(Test):
@@ -120,10 +121,49 @@ class Discover(Test):
             self.assertEnds(kxctl("discover", option, "/nowhere/file", "--json"), 2, "file")
             self.assertEqual(len(heard()), before)
 
+    def test_a_pipe_that_nobody_reads_is_not_waited_for(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "pipe")
+            os.mkfifo(path)
+            for option in ("--save", "--capture"):
+                before = len(heard())
+                self.assertEnds(kxctl("discover", option, path, "--json"), 2, "file")
+                self.assertEqual(len(heard()), before)
+
+    def test_what_cannot_be_asked_leaves_no_file(self):
+        with tempfile.TemporaryDirectory() as folder:
+            for option in ("--save", "--capture"):
+                path = os.path.join(folder, "file")
+                self.assertEnds(kxctl("-i", "lo", "discover", option, path, "--json"), 3)
+                self.assertFalse(os.path.exists(path))
+
+    def test_an_interrupted_discovery_saves_what_it_prints(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "saved.json")
+            before = len(heard())
+            process = start("discover", "--wait", "10", "--json", "--save", path)
+            self.assertTrue(eventually(lambda: len(heard()) >= before + 3))
+            process.send_signal(signal.SIGINT)
+            result = end_of(process, 3)
+            self.assertEnds(result, 130, "interrupted")
+            self.assertEqual(pathlib.Path(path).read_text(encoding="utf-8"), result.out)
+
+    def test_progress_renews_itself_on_a_terminal_that_can_show_it(self):
+        for terminal, shown in (("xterm", True), ("dumb", False)):
+            person, other = pty.openpty()
+            process = start("discover", "--wait", "0.5", stderr=other, TERM=terminal)
+            os.close(other)
+            end_of(process)
+            seen = seen_until(person, None)
+            os.close(person)
+            self.assertEqual(seen.count("\r\x1b[K3  0.") >= 3, shown, seen)
+            self.assertEqual("\x1b" in seen, shown, seen)
+
     def test_numbers_that_are_none_are_a_wrong_command_line(self):
         for words in (["--wait", "x"], ["--wait", "0"], ["--wait", "-1"], ["--wait", "1e3"],
                       ["--tries", "0"], ["--tries", "2.5"], ["--expect", "many"], ["--wait"],
-                      ["--expect", "99999999999"], ["--json=x"]):
+                      ["--expect", "99999999999"], ["--json=x"],
+                      ["--wait", "0.5", "--tries", "51"]):
             before = len(heard())
             self.assertEnds(kxctl("--json", "discover", *words), 2, "usage")
             self.assertEqual(len(heard()), before, words)
@@ -266,7 +306,8 @@ class CommandLine(Test):
 
 class Ends(Test):
     def test_an_interrupted_discovery_tells_what_it_has_found(self):
-        for number, status in ((signal.SIGINT, 130), (signal.SIGTERM, 143)):
+        signal.signal(signal.SIGHUP, signal.SIG_DFL)  # a run in the background ignores it
+        for number, status in ((signal.SIGINT, 130), (signal.SIGTERM, 143), (signal.SIGHUP, 143)):
             before = len(heard())
             process = start("discover", "--wait", "10", "--json")
             self.assertTrue(eventually(lambda: len(heard()) >= before + 3))
@@ -283,6 +324,16 @@ class Ends(Test):
         process.stdout = None
         process.wait(5)
         self.assertEqual(process.stderr.read(), "")
+
+    def test_a_broken_pipe_is_seen_while_nothing_happens(self):
+        for words in ([], ["--until", "99"]):
+            process = start("watch", "--every", "60", *words)
+            for _ in range(3):
+                process.stdout.readline()
+            process.stdout.close()
+            process.stdout = None
+            self.assertEqual(process.wait(5), 0)
+            self.assertEqual(process.stderr.read(), "")
 
     def test_a_full_disk_is_told(self):
         with open("/dev/full", "w", encoding="utf-8") as full:

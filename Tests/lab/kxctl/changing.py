@@ -7,7 +7,7 @@ import subprocess
 import time
 
 from program import (FIRST, Test, commands_heard, end_of, heard, kxctl, main, restore_units,
-                     start)
+                     seen_until, start)
 
 
 class Set(Test):
@@ -166,6 +166,14 @@ class Move(Test):
         self.assertIn("02:4B:58:00:00:02", result.err)
         self.assertNotIn("PERMANENT", self.neighbour("192.0.2.12"))
 
+    def test_an_address_that_somebody_holds_leaves_the_other_values_alone(self):
+        before = len(heard())
+        result = kxctl("set", "4B5800000001", "unit-id=MOVED", "internal-ip=192.0.2.12", "--json")
+        self.assertEnds(result, 1, "held")
+        self.assertEqual([change["state"] for change in result.document["changes"]],
+                         ["refused", "refused"])
+        self.assertEqual(commands_heard(before), [])
+
     def test_other_values_go_first_and_the_serial_number_last(self):
         before = len(heard())
         result = kxctl("set", "4B5800000001", "serial=4B58000000F1", "internal-ip=192.0.2.51",
@@ -208,6 +216,12 @@ class Option(Test):
         self.assertEqual(result.document["replies"], [])
         self.assertEqual(commands_heard(before), [("4B5800000001", "^^Idnonsense\r")])
 
+    def test_a_text_is_sent_as_it_stands(self):
+        for text in ("[V]", "[a,b]", "{}", "a,b"):
+            before = len(heard())
+            kxctl("option", "4B5800000001", text)
+            self.assertEqual(commands_heard(before), [("4B5800000001", f"^^Id{text}\r")])
+
     def test_needs_a_text_of_ascii_or_the_clock(self):
         before = len(heard())
         self.assertEnds(kxctl("option", "4B5800000001", "--json"), 2, "usage")
@@ -240,12 +254,22 @@ class Restore(Test):
     def answered(self, answer, *arguments):
         """Runs the program at a terminal where a person types the answer."""
         person, terminal = pty.openpty()
-        process = start(*arguments, stdin=terminal)
+        process = start(*arguments, stdin=terminal, stderr=terminal)
         os.close(terminal)
         os.write(person, answer.encode() + b"\n")
         result = end_of(process)
+        result.err = seen_until(person, None)
         os.close(person)
         return result
+
+    def test_asks_nobody_who_does_not_see_the_question(self):
+        before = len(heard())
+        person, terminal = pty.openpty()
+        result = end_of(start("restore", "4B5800000001", stdin=terminal))
+        os.close(terminal)
+        os.close(person)
+        self.assertEqual(result.status, 2, result.err)
+        self.assertEqual(len(heard()), before)
 
     def test_does_what_a_person_says(self):
         for answer, status, commands in (("n", 1, []), ("", 1, []), ("y", 0, ["^^IdZ"]),
@@ -259,9 +283,9 @@ class Restore(Test):
     def test_a_signal_at_the_question_restores_nothing(self):
         before = len(heard())
         person, terminal = pty.openpty()
-        process = start("restore", "--everyone", "--quiet", stdin=terminal)
+        process = start("restore", "--everyone", "--quiet", stdin=terminal, stderr=terminal)
         os.close(terminal)
-        question = process.stderr.readline()
+        question = seen_until(person, "\n")
         process.send_signal(signal.SIGINT)
         result = end_of(process)
         os.close(person)

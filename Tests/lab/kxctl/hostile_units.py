@@ -115,6 +115,23 @@ class Replies(Test):
             self.assertEqual(set(unit.heard), {"^^IdX"})
 
 
+class AddressesOfMany(Test):
+    def test_a_unit_that_tells_one_as_its_own_gets_no_command(self):
+        for address in ("192.0.2.255", "192.0.2.0", "255.255.255.255", "224.0.0.1", "0.0.0.0",
+                        "127.255.255.255"):
+            with OwnUnit(tells(address=address)) as unit:
+                for words in (["set", "4B58000000AA", "unit-id=A"], ["option", "4B58000000AA", "V"],
+                              ["restore", "4B58000000AA", "--yes"]):
+                    self.assertEnds(kxctl(*words, "--json"), 1, "ambiguous")
+                self.assertEqual(set(unit.heard), {"^^IdX"}, address)
+
+    def test_an_answer_from_another_address_is_a_warning(self):
+        with OwnUnit(tells(address="192.0.2.77")):
+            document = kxctl("discover", "--expect", "1", "--json").document
+        self.assertEqual([warning["code"] for warning in document["warnings"]], ["sender"])
+        self.assertIn("192.0.2.77", document["warnings"][0]["message"])
+
+
 class Edits(Test):
     def test_a_value_that_comes_late_counts(self):
         with OwnUnit(obedient({}, {"destination_port": 3523}, acknowledges=False)):

@@ -81,7 +81,7 @@ def environment(**more):
 def start(*arguments, **options):
     return subprocess.Popen([PROGRAM, *arguments], stdin=options.pop("stdin", subprocess.DEVNULL),
                             stdout=options.pop("stdout", subprocess.PIPE),
-                            stderr=subprocess.PIPE, text=True, errors="surrogateescape",
+                            stderr=options.pop("stderr", subprocess.PIPE), text=True, errors="surrogateescape",
                             env=environment(**options))
 
 
@@ -92,6 +92,17 @@ def end_of(process, patience=20):
 
 def kxctl(*arguments, **options):
     return end_of(start(*arguments, **options))
+
+
+def seen_until(terminal, end):
+    """What a person sees at the terminal: up to a text, or until the program has closed it."""
+    seen = b""
+    while end is None or end.encode() not in seen:
+        try:
+            seen += os.read(terminal, 4096)
+        except OSError:  # nobody has the other side open
+            break
+    return seen.decode("utf-8", "replace")
 
 
 def run(*words):

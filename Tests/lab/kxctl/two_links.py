@@ -1,6 +1,6 @@
 """kxctl on a host with two links, two units on each."""
 
-from program import FIRST, Test, eventually, heard, kxctl, main, run
+from program import FIRST, Test, commands_heard, eventually, heard, kxctl, main, run
 
 
 def can_ask():
@@ -45,6 +45,35 @@ class TwoLinks(Test):
         finally:
             run("ip", "route", "del", "198.51.100.13/32", "dev", "kx0")
         self.assertEnds(result, 0)
+
+    def test_a_new_address_must_lie_in_a_network_of_the_units_own_link(self):
+        before = len(commands_heard())
+        result = kxctl("set", "-i", "all", "4B5800000001", "internal-ip=198.51.100.50", "--json")
+        self.assertEnds(result, 2, "value")
+        self.assertEqual(len(commands_heard()), before)
+
+    def test_an_address_of_this_host_is_refused_on_whichever_link_it_is(self):
+        before = len(heard())
+        result = kxctl("set", "-i", "kx0", "4B5800000001", "internal-ip=198.51.100.1", "--json")
+        self.assertEnds(result, 2, "value")
+        self.assertIn("own address", result.err)
+        self.assertEqual(len(heard()), before)
+
+    def test_a_link_that_refuses_to_send_leaves_the_others(self):
+        run("nft", "add table inet kx { chain out { type filter hook output priority 0; "
+                   "ip daddr 192.0.2.255 drop; }; }")
+        try:
+            found = kxctl("discover", "-i", "all", "--expect", "2", "--json")
+            watched = kxctl("watch", "-i", "all", "--until", "2", "--for", "5", "--json")
+            restored = kxctl("restore", "-i", "all", "--everyone", "--yes", "--json")
+        finally:
+            run("nft", "delete table inet kx")
+        for result in (found, watched, restored):
+            self.assertEnds(result, 0)
+            self.assertIn("socket",
+                          [warning["code"] for warning in result.documents[-1]["warnings"]])
+        self.assertFalse(found.document["complete"])
+        self.assertEqual({unit["interface"] for unit in restored.document["units"]}, {"kx2"})
 
     def test_an_address_is_checked_on_the_link_of_its_network(self):
         document = kxctl("check", "-i", "all", "192.0.2.11", "198.51.100.13", "--json").document

@@ -33,6 +33,7 @@ class WithoutRights(Test):
         before = len(heard())
         result = kxctl("set", "4B5800000001", "internal-ip=192.0.2.90", "--json")
         self.assertEnds(result, 3, "rights")
+        self.assertIn("No ARP entry was made for 192.0.2.90", result.document["error"]["message"])
         self.assertEqual(result.document["changes"][0]["state"], "refused")
         self.assertEqual(commands_heard(before), [])
 

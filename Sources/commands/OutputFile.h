@@ -1,0 +1,45 @@
+// A file that a command writes, looked at before anything is sent and made when there is something
+// to write.
+//
+// Main thread only.
+
+#pragma once
+
+#include "support/Error.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kx {
+
+class OutputFile {
+public:
+    explicit OutputFile(std::string path)
+        : _path(std::move(path)) {}
+    ~OutputFile();
+    OutputFile(const OutputFile&) = delete;
+    OutputFile& operator=(const OutputFile&) = delete;
+
+    const std::string& path() const { return _path; }
+
+    // Why the file cannot be written, as far as that can be told without changing a file; absent
+    // without a reason. A pipe is opened, and nobody is waited for who reads it.
+    std::optional<Error> look();
+
+    // Writes to the end of what was written before. The first call makes the file, or empties it.
+    // Absent when all was written. After a failure nothing more is written.
+    std::optional<Error> write(std::string_view text);
+
+    // Why writing failed; absent while it has not.
+    const std::optional<Error>& error() const { return _error; }
+
+private:
+    std::optional<Error> open();
+
+    std::string _path;
+    int _descriptor = -1;
+    std::optional<Error> _error;
+};
+
+} // namespace kx
