@@ -264,7 +264,9 @@ private:
     void limitLog();
 
     // Says whom Reload and Restore Defaults reach now. Called after every change of that.
+    // lookAtTarget() reads the host's broadcast addresses first.
     void showTarget();
+    void lookAtTarget();
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -298,7 +300,8 @@ private:
     ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
-    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
+    std::vector<std::uint32_t> _broadcastAddresses; // those of the host and that of the choice
+    std::optional<RequestTarget> _shownTarget;      // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

@@ -18,6 +18,7 @@ void KXConfigAppDelegate::discoverButton() {
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
     beginFindings();
+    lookAtTarget();
     _session.start(static_cast<std::size_t>(port));
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
@@ -49,10 +50,12 @@ void KXConfigAppDelegate::discoverComplete() {
         _outlets.unitSelectPopUp->selectItemAtIndex(0);
     }
     showSelectedUnit();
+    lookAtTarget();
 }
 
 void KXConfigAppDelegate::unitSelectPopUp() {
     showSelectedUnit();
+    lookAtTarget();
     _quietLine.endMessage(forecast());
 }
 
@@ -83,6 +86,7 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 }
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
+    lookAtTarget();
     if (const auto failure = requestParametersOfUnit()) {
         _quietLine.showMessage(noteOfSendFailure(*failure));
     } else {

@@ -258,6 +258,7 @@ void KXConfigAppDelegate::sendOptionButton() {
 }
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
+    lookAtTarget();
     if (_selectedUnit.has_value() && _shownTarget.has_value() &&
         _shownTarget->reach == RequestReach::oneUnit) {
         _findings.expectChange(*_selectedUnit);
@@ -282,8 +283,20 @@ void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
     }
 }
 
+// The host's addresses are read when a person does something and when a discovery is complete, not
+// with each reply: anybody can send replies, and reading takes time.
+void KXConfigAppDelegate::lookAtTarget() {
+    _broadcastAddresses.clear();
+    if (_services.networkInterfaces != nullptr) {
+        _broadcastAddresses = broadcastAddressesOfHost(*_services.networkInterfaces);
+    }
+    _broadcastAddresses.push_back(broadcastAddress());
+    showTarget();
+}
+
 void KXConfigAppDelegate::showTarget() {
-    const RequestTarget target = targetOfRequest(selectedRecord(), broadcastAddress());
+    const RequestTarget target =
+        targetOfRequest(_selectedUnit.has_value(), selectedRecord(), _broadcastAddresses);
     if (_shownTarget == target) {
         return;
     }

@@ -20,11 +20,15 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         return false;
     }
     appendString(entryOfCommand(*command, *address));
-    if (_selectedUnit.has_value()) {
+    lookAtTarget();
+    const std::uint32_t destination = ipForString(*address);
+    if (isAddressOfMany(destination, _broadcastAddresses)) {
+        _findings.expectChanges();
+    } else if (_selectedUnit.has_value()) {
         _findings.expectChange(*_selectedUnit);
     }
-    _sendFailure = _session.send(*command, ipForString(*address), unitDestination().port,
-                                 linkOfSelectedUnit());
+    _sendFailure =
+        _session.send(*command, destination, unitDestination().port, linkOfSelectedUnit());
     return true;
 }
 

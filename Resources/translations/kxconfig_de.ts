@@ -1380,8 +1380,8 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Dieses Gerät nennt eine Adresse vieler als seine eigene: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Dieses Gerät nennt eine Adresse vieler als seine eigene: „Werkseinstellungen laden“ erreicht wie „Neu laden“, „Anwenden“ und „Senden“ jedes Gerät, das es hört.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

@@ -1380,8 +1380,8 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Esta unidad da como suya una dirección colectiva: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Esta unidad da como suya una dirección colectiva: «Restablecer valores de fábrica», como «Recargar», «Aplicar» y «Enviar», llega a todas las unidades que lo oyen.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

@@ -1380,8 +1380,8 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Cette unité donne comme sienne une adresse collective : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Cette unité donne comme sienne une adresse collective : « Rétablir les réglages d’usine », comme « Recharger », « Appliquer » et « Envoyer », atteint toutes les unités qui l’entendent.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

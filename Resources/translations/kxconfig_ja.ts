@@ -1380,8 +1380,8 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>このユニットは多数宛てのアドレスを自分のものとしています: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>このユニットは多数宛てのアドレスを自分のものとしています: 「工場出荷時設定に戻す」は「再読み込み」「適用」「送信」と同じく、受信したすべてのユニットに届きます。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
