@@ -239,6 +239,7 @@ private:
     CommandTarget commandTarget() const;
 
     void didStartListenerWithAddress(const Bytes& address);
+    void compareReply(const Reply& reply, const DatagramOrigin& origin);
     std::string unitParameters(const DecodedUnitParameters& parameters);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);

@@ -39,7 +39,11 @@ void KXConfigAppDelegate::beginFindings() {
 
 void KXConfigAppDelegate::showFindings() {
     const auto finding = _findings.weightiest();
-    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding) : "");
+    const auto nameOfLink = [this](std::uint32_t link) {
+        return _services.systemCalls.nameForLink(link);
+    };
+    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding, nameOfLink)
+                                                               : "");
 }
 
 void KXConfigAppDelegate::discoverComplete() {

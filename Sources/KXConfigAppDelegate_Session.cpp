@@ -125,7 +125,14 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     if (_findings.setForgottenUnits(_devicesD.forgottenUnits()) || areNew) {
         showFindings();
     }
+    compareReply(reply, origin);
     appendString(entryOfReply(reply, unitParameters(parameters)));
+}
+
+void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
+    if (reply.serialNumber.has_value() && _findings.replyDidCome(*reply.serialNumber, origin)) {
+        showFindings();
+    }
 }
 
 // Shows what a unit told, and returns its text for the event log.
@@ -143,7 +150,8 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
 
 // The log has the request before the acknowledgement. When too many acknowledgements come at once,
 // one request follows them later.
-void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
+void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& origin) {
+    compareReply(reply, origin);
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
@@ -162,8 +170,8 @@ void KXConfigAppDelegate::requestParametersOwed() {
     }
 }
 
-void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
-                                                const DatagramOrigin& /*origin*/) {
+void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
+    compareReply(reply, origin);
     auto text = textFromUTF8(reply.payload);
     if (text.has_value()) {
         text = quotedLines(*text);

@@ -1360,6 +1360,11 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>Das Gerät %@ ist auf zwei Schnittstellen zu hören: %@ und %@. Befehle gehen über die, auf der es zuletzt zu hören war.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Zwei Geräte geben als ihre Adresse %@ an: %@ und %@. Ein Befehl kann jedes von beiden erreichen.</translation>
     </message>

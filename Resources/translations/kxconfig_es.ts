@@ -1360,6 +1360,11 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>La unidad %@ se oye en dos interfaces: %@ y %@. Las órdenes salen por aquella en la que se oyó por última vez.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Dos unidades dicen que su dirección es %@: %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
     </message>

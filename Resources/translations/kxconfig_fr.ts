@@ -1360,6 +1360,11 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>L’unité %@ est entendue sur deux interfaces : %@ et %@. Les commandes partent par celle où elle a été entendue en dernier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Deux unités indiquent comme adresse %@ : %@ et %@. Une commande peut atteindre l’une ou l’autre.</translation>
     </message>

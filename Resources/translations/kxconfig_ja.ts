@@ -1360,6 +1360,11 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>ユニット %@ は 2 つのインターフェースで受信されています: %@ と %@。コマンドは最後に受信したインターフェースから送信されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>2 台のユニットがアドレス %@ を名乗っています: %@ と %@。コマンドはどちらに届くかわかりません。</translation>
     </message>

@@ -177,17 +177,25 @@ void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin&
         return;
     }
     const Reply reply = replyFromDatagram(data);
+    // A payload that breaks its format is told nowhere, so it must not change anything either.
+    std::optional<DecodedUnitParameters> parameters;
+    if (reply.payloadKind == PayloadKind::parameterList) {
+        parameters = decodeUnitParameters(reply.payload);
+    }
     if (reply.serialNumber.has_value()) {
         _registry.setLink(*reply.serialNumber, origin.link);
     }
+    tell(reply, std::move(parameters), origin);
+}
+
+void UnitSession::tell(const Reply& reply, std::optional<DecodedUnitParameters> parameters,
+                       const DatagramOrigin& origin) {
     switch (reply.payloadKind) {
-    case PayloadKind::parameterList: {
-        auto parameters = decodeUnitParameters(reply.payload);
-        parameters.record.setLink(origin.link);
-        _registry.store(parameters.record);
-        _observer.unitDidTellParameters(reply, parameters, origin);
+    case PayloadKind::parameterList:
+        parameters->record.setLink(origin.link);
+        _registry.store(parameters->record);
+        _observer.unitDidTellParameters(reply, *parameters, origin);
         break;
-    }
     case PayloadKind::acknowledgement:
         _observer.unitDidAccept(reply, origin);
         break;
