@@ -48,6 +48,8 @@
 
 namespace kx {
 
+class NeighbourTable;
+
 class KXConfigAppDelegate final : public UDPEchoDelegate,
                                   public TableViewDataSource,
                                   public WindowDelegate,
@@ -77,6 +79,9 @@ public:
 
         // The most units that are kept. The sentence about them names the default.
         std::size_t mostUnits = UnitRegistry::defaultLimit;
+
+        // May be null. Nobody looks then on which link an ARP entry stands.
+        NeighbourTable* neighbours = nullptr;
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -259,6 +264,8 @@ private:
     EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
     bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
     std::shared_ptr<Authorization> authorizationForARP();
+    ARPEntry arpEntryAfter(const ToolEnd& end, const std::string& hardwareAddress,
+                           std::uint32_t address, std::uint32_t link) const;
     std::string objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
                                     const std::optional<std::string>& ip) const;
 

@@ -1,4 +1,5 @@
 #include "KXConfigAppDelegate.h"
+#include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
 #include "words/EditForecast.h"
@@ -211,15 +212,29 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
         return -1;
     }
     // Only the end of the latest attempt is shown.
-    const auto result =
-        authorization->runToolWithArgs(arguments, [this, attempt](const ToolEnd& end) {
-            if (attempt == _latestARPAttempt) {
-                _quietLine.arpToolDidEnd(end.status, end.sentence);
-            }
-        });
+    const auto ended = [this, attempt, hardware = hardwareAddress.value_or(""),
+                        address = ipForString(ip.value_or("")),
+                        link = linkOfSelectedUnit()](const ToolEnd& end) {
+        if (attempt == _latestARPAttempt) {
+            _quietLine.arpToolDidEnd(arpEntryAfter(end, hardware, address, link));
+        }
+    };
+    const auto result = authorization->runToolWithArgs(arguments, ended);
     _arpEntry = arpEntryForResult(result, objectionToARPEntry(hardwareAddress, ip));
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
+}
+
+// The tool puts the entry on the link to which the routes lead. The command leaves by `link`; while
+// that is 0, it leaves as the routes say, too.
+ARPEntry KXConfigAppDelegate::arpEntryAfter(const ToolEnd& end, const std::string& hardwareAddress,
+                                            std::uint32_t address, std::uint32_t link) const {
+    ARPEntry entry = arpEntryForEndOfTool(end.status, end.sentence);
+    if (entry.state == ARPEntryState::started && _services.neighbours != nullptr && link != 0 &&
+        !isBoundOnLink(*_services.neighbours, address, link, hardwareAddress)) {
+        entry.state = ARPEntryState::onAnotherLink;
+    }
+    return entry;
 }
 
 // Null when nobody gives rights.

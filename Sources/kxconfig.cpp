@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/MemoryExhaustion.h"
@@ -55,6 +56,7 @@ int main(int argc, char* argv[]) {
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;
+    kx::LinuxNeighbourTable neighbours;
     const kx::SystemWallClock wallClock;
     kx::QtApplication application;
     kx::QtHelpServices helpServices(kx::installedResourceFolder(),
@@ -70,22 +72,22 @@ int main(int argc, char* argv[]) {
     kx::WaitingPanel waiting(window);
     const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
     kx::KXConfigAppDelegate controller(
-        window.outlets(), {.runLoop = runLoop,
-                           .hostResolver = hostResolver,
-                           .systemCalls = systemCalls,
-                           .wallClock = wallClock,
-                           .application = application,
-                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-                           .openHelpAnchor =
-                               [&helpServices](std::string_view anchor) {
-                                   return kx::openHelpAnchor(anchor, helpServices);
-                               },
-                           .authorizationService = authorizationService.get(),
-                           .receiveBuffers = &receiveBuffers,
-                           .hasHelpPage =
-                               [&helpServices](std::string_view page) {
-                                   return kx::hasHelpPage(page, helpServices);
-                               }});
+        window.outlets(),
+        {.runLoop = runLoop,
+         .hostResolver = hostResolver,
+         .systemCalls = systemCalls,
+         .wallClock = wallClock,
+         .application = application,
+         .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+         .openHelpAnchor =
+             [&helpServices](std::string_view anchor) {
+                 return kx::openHelpAnchor(anchor, helpServices);
+             },
+         .authorizationService = authorizationService.get(),
+         .receiveBuffers = &receiveBuffers,
+         .hasHelpPage =
+             [&helpServices](std::string_view page) { return kx::hasHelpPage(page, helpServices); },
+         .neighbours = &neighbours});
     window.connectActions(controller);
     const auto end = [&] {
         window.disconnectActions();

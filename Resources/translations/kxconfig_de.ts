@@ -1192,6 +1192,11 @@
         <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm endete mit Status %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>Der ARP-Eintrag für %@ steht nicht auf der Schnittstelle, über die der Befehl hinausging. Deshalb hat das Gerät ihn vielleicht nicht gehört.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Beginn der Suche]</translation>

@@ -1192,6 +1192,11 @@
         <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP terminó con el estado %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>La entrada ARP para %@ no está en la interfaz por la que salió la orden, así que es posible que la unidad no la haya oído.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Inicio de la búsqueda]</translation>

@@ -1192,6 +1192,11 @@
         <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP s’est terminé avec l’état %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>L’entrée ARP pour %@ ne se trouve pas sur l’interface par laquelle la commande est partie, l’unité ne l’a donc peut-être pas entendue.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Début de la détection]</translation>

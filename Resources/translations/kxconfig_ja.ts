@@ -1192,6 +1192,11 @@
         <translation>%@ の ARP エントリは作成されませんでした: ARP ツールがステータス %d で終了しました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>%@ の ARP エントリはコマンドを送信したインターフェースにないため、ユニットが受信していない可能性があります。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[検出開始]</translation>
