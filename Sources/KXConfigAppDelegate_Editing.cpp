@@ -1,4 +1,5 @@
 #include "KXConfigAppDelegate.h"
+#include "addresses/ARPToolPath.h"
 #include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
@@ -176,8 +177,6 @@ bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) cons
 
 namespace {
 
-constexpr auto arpTool = "/usr/sbin/arp";
-
 std::vector<std::string> argumentsForARP(const std::optional<std::string>& hardwareAddress,
                                          const std::optional<std::string>& ip) {
     std::vector<std::string> arguments{"-s"};
@@ -240,7 +239,7 @@ ARPEntry KXConfigAppDelegate::arpEntryAfter(const ToolEnd& end, const std::strin
 // Null when nobody gives rights.
 std::shared_ptr<Authorization> KXConfigAppDelegate::authorizationForARP() {
     if (_auth == nullptr && _services.authorizationService != nullptr) {
-        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpTool);
+        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpToolPath);
     }
     return _auth;
 }
@@ -253,7 +252,7 @@ KXConfigAppDelegate::objectionToARPEntry(const std::optional<std::string>& hardw
         return {};
     }
     return _services.authorizationService
-        ->objectionTo(arpTool, argumentsForARP(hardwareAddress, ip))
+        ->objectionTo(arpToolPath, argumentsForARP(hardwareAddress, ip))
         .value_or("");
 }
 
