@@ -21,6 +21,9 @@
 
 namespace kxarp {
 
+// The program that does the work. Nobody can name another one.
+inline constexpr auto arpTool = "/usr/sbin/arp";
+
 enum class Verb { enter, takeOut };
 
 struct Request {

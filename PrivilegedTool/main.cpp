@@ -23,7 +23,6 @@
 
 namespace {
 
-constexpr auto arpTool = "/usr/sbin/arp";
 constexpr auto arpTable = "/proc/net/arp";
 
 [[noreturn]] void endWith(kxarp::Failure failure) {
@@ -46,12 +45,12 @@ void leaveCallerBehind() {
 }
 
 [[noreturn]] void becomeARPTool(const std::vector<std::string>& words) {
-    std::vector<char*> pointers{const_cast<char*>(arpTool)};
+    std::vector<char*> pointers{const_cast<char*>(kxarp::arpTool)};
     for (const std::string& word : words) {
         pointers.push_back(const_cast<char*>(word.c_str()));
     }
     pointers.push_back(nullptr);
-    ::execv(arpTool, pointers.data());
+    ::execv(kxarp::arpTool, pointers.data());
     endWith(kxarp::Failure::noTool);
 }
 

@@ -151,6 +151,11 @@ std::uint32_t DatagramSystemCalls::linkForName(const std::string& name) {
     return ::if_nametoindex(name.c_str());
 }
 
+std::string DatagramSystemCalls::nameForLink(std::uint32_t link) {
+    std::array<char, IF_NAMESIZE> name{};
+    return ::if_indextoname(link, name.data()) != nullptr ? name.data() : "";
+}
+
 ssize_t DatagramSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                          DatagramOrigin& origin) {
     sockaddr_in sender{};

@@ -76,6 +76,10 @@ public:
     // is none (ENODEV), or when the system cannot be asked.
     virtual std::uint32_t linkForName(const std::string& name);
 
+    // if_indextoname(3): the name that the interface with this index has now. Empty when there is
+    // none, or when the system cannot be asked.
+    virtual std::string nameForLink(std::uint32_t link);
+
     // recvmsg(2), flags 0, of one datagram into `buffer`; bytes that do not fit are lost. The bytes
     // received, or -1. On success `origin` holds the link and the sender's record, which is empty
     // for a sender of another family than IPv4. On failure `origin` does not change.

@@ -41,7 +41,6 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _textBeingTyped.reset();
     _quietLine.showForecast({});
     _shownTarget.reset();
-    showTarget();
     discoverButton();
     optionCommandPopUp();
 }
@@ -115,7 +114,7 @@ void KXConfigAppDelegate::interfaceSelect() {
             : InterfaceAddress();
     localAddress = chosen.address;
     localMask = chosen.mask;
-    showTarget();
+    lookAtTarget();
 }
 
 std::optional<ChosenInterface> KXConfigAppDelegate::chosenInterface() const {

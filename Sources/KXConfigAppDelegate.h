@@ -48,6 +48,8 @@
 
 namespace kx {
 
+class NeighbourTable;
+
 class KXConfigAppDelegate final : public UDPEchoDelegate,
                                   public TableViewDataSource,
                                   public WindowDelegate,
@@ -77,6 +79,9 @@ public:
 
         // The most units that are kept. The sentence about them names the default.
         std::size_t mostUnits = UnitRegistry::defaultLimit;
+
+        // May be null. Nobody looks then on which link an ARP entry stands.
+        NeighbourTable* neighbours = nullptr;
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -239,6 +244,7 @@ private:
     CommandTarget commandTarget() const;
 
     void didStartListenerWithAddress(const Bytes& address);
+    void compareReply(const Reply& reply, const DatagramOrigin& origin);
     std::string unitParameters(const DecodedUnitParameters& parameters);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
@@ -258,13 +264,17 @@ private:
     EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
     bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
     std::shared_ptr<Authorization> authorizationForARP();
+    ARPEntry arpEntryAfter(const ToolEnd& end, const std::string& hardwareAddress,
+                           std::uint32_t address, std::uint32_t link) const;
     std::string objectionToARPEntry(const std::optional<std::string>& hardwareAddress,
                                     const std::optional<std::string>& ip) const;
 
     void limitLog();
 
     // Says whom Reload and Restore Defaults reach now. Called after every change of that.
+    // lookAtTarget() reads the host's broadcast addresses first.
     void showTarget();
+    void lookAtTarget();
     std::string forecast() const;
     void showForecast();
     void refreshForecast();
@@ -298,7 +308,8 @@ private:
     ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
-    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
+    std::vector<std::uint32_t> _broadcastAddresses; // those of the host and that of the choice
+    std::optional<RequestTarget> _shownTarget;      // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

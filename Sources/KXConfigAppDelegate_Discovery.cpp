@@ -18,6 +18,7 @@ void KXConfigAppDelegate::discoverButton() {
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
     beginFindings();
+    lookAtTarget();
     _session.start(static_cast<std::size_t>(port));
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
@@ -38,7 +39,11 @@ void KXConfigAppDelegate::beginFindings() {
 
 void KXConfigAppDelegate::showFindings() {
     const auto finding = _findings.weightiest();
-    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding) : "");
+    const auto nameOfLink = [this](std::uint32_t link) {
+        return _services.systemCalls.nameForLink(link);
+    };
+    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding, nameOfLink)
+                                                               : "");
 }
 
 void KXConfigAppDelegate::discoverComplete() {
@@ -49,10 +54,12 @@ void KXConfigAppDelegate::discoverComplete() {
         _outlets.unitSelectPopUp->selectItemAtIndex(0);
     }
     showSelectedUnit();
+    lookAtTarget();
 }
 
 void KXConfigAppDelegate::unitSelectPopUp() {
     showSelectedUnit();
+    lookAtTarget();
     _quietLine.endMessage(forecast());
 }
 
@@ -83,6 +90,7 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 }
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
+    lookAtTarget();
     if (const auto failure = requestParametersOfUnit()) {
         _quietLine.showMessage(noteOfSendFailure(*failure));
     } else {

@@ -1,4 +1,6 @@
 #include "KXConfigAppDelegate.h"
+#include "addresses/ARPToolPath.h"
+#include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
 #include "words/EditForecast.h"
@@ -176,8 +178,6 @@ bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) cons
 
 namespace {
 
-constexpr auto arpTool = "/usr/sbin/arp";
-
 std::vector<std::string> argumentsForARP(const std::optional<std::string>& hardwareAddress,
                                          const std::optional<std::string>& ip) {
     std::vector<std::string> arguments{"-s"};
@@ -212,21 +212,35 @@ std::int32_t KXConfigAppDelegate::arpSetEAForIP(const std::optional<std::string>
         return -1;
     }
     // Only the end of the latest attempt is shown.
-    const auto result =
-        authorization->runToolWithArgs(arguments, [this, attempt](const ToolEnd& end) {
-            if (attempt == _latestARPAttempt) {
-                _quietLine.arpToolDidEnd(end.status, end.sentence);
-            }
-        });
+    const auto ended = [this, attempt, hardware = hardwareAddress.value_or(""),
+                        address = ipForString(ip.value_or("")),
+                        link = linkOfSelectedUnit()](const ToolEnd& end) {
+        if (attempt == _latestARPAttempt) {
+            _quietLine.arpToolDidEnd(arpEntryAfter(end, hardware, address, link));
+        }
+    };
+    const auto result = authorization->runToolWithArgs(arguments, ended);
     _arpEntry = arpEntryForResult(result, objectionToARPEntry(hardwareAddress, ip));
     appendString(result == 0 ? entryOfARPEntry(hardwareAddress, ip) : entryOfARPFailure(result));
     return result;
 }
 
+// The tool puts the entry on the link to which the routes lead. The command leaves by `link`; while
+// that is 0, it leaves as the routes say, too.
+ARPEntry KXConfigAppDelegate::arpEntryAfter(const ToolEnd& end, const std::string& hardwareAddress,
+                                            std::uint32_t address, std::uint32_t link) const {
+    ARPEntry entry = arpEntryForEndOfTool(end.status, end.sentence);
+    if (entry.state == ARPEntryState::started && _services.neighbours != nullptr && link != 0 &&
+        !isBoundOnLink(*_services.neighbours, address, link, hardwareAddress)) {
+        entry.state = ARPEntryState::onAnotherLink;
+    }
+    return entry;
+}
+
 // Null when nobody gives rights.
 std::shared_ptr<Authorization> KXConfigAppDelegate::authorizationForARP() {
     if (_auth == nullptr && _services.authorizationService != nullptr) {
-        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpTool);
+        _auth = std::make_shared<Authorization>(*_services.authorizationService, arpToolPath);
     }
     return _auth;
 }
@@ -239,7 +253,7 @@ KXConfigAppDelegate::objectionToARPEntry(const std::optional<std::string>& hardw
         return {};
     }
     return _services.authorizationService
-        ->objectionTo(arpTool, argumentsForARP(hardwareAddress, ip))
+        ->objectionTo(arpToolPath, argumentsForARP(hardwareAddress, ip))
         .value_or("");
 }
 
@@ -259,6 +273,7 @@ void KXConfigAppDelegate::sendOptionButton() {
 }
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
+    lookAtTarget();
     if (_selectedUnit.has_value() && _shownTarget.has_value() &&
         _shownTarget->reach == RequestReach::oneUnit) {
         _findings.expectChange(*_selectedUnit);
@@ -283,9 +298,20 @@ void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
     }
 }
 
+// The host's addresses are read when a person does something and when a discovery is complete, not
+// with each reply: anybody can send replies, and reading takes time.
+void KXConfigAppDelegate::lookAtTarget() {
+    _broadcastAddresses.clear();
+    if (_services.networkInterfaces != nullptr) {
+        _broadcastAddresses = broadcastAddressesOfHost(*_services.networkInterfaces);
+    }
+    _broadcastAddresses.push_back(broadcastAddress());
+    showTarget();
+}
+
 void KXConfigAppDelegate::showTarget() {
-    const std::array addressesOfMany{broadcastAddress()};
-    const RequestTarget target = targetOfRequest(selectedRecord(), addressesOfMany);
+    const RequestTarget target =
+        targetOfRequest(_selectedUnit.has_value(), selectedRecord(), _broadcastAddresses);
     if (_shownTarget == target) {
         return;
     }

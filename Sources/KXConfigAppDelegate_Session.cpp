@@ -20,11 +20,15 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         return false;
     }
     appendString(entryOfCommand(*command, *address));
-    if (_selectedUnit.has_value()) {
+    lookAtTarget();
+    const std::uint32_t destination = ipForString(*address);
+    if (isAddressOfMany(destination, _broadcastAddresses)) {
+        _findings.expectChanges();
+    } else if (_selectedUnit.has_value()) {
         _findings.expectChange(*_selectedUnit);
     }
-    _sendFailure = _session.send(*command, ipForString(*address), unitDestination().port,
-                                 linkOfSelectedUnit());
+    _sendFailure =
+        _session.send(*command, destination, unitDestination().port, linkOfSelectedUnit());
     return true;
 }
 
@@ -121,7 +125,14 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     if (_findings.setForgottenUnits(_devicesD.forgottenUnits()) || areNew) {
         showFindings();
     }
+    compareReply(reply, origin);
     appendString(entryOfReply(reply, unitParameters(parameters)));
+}
+
+void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
+    if (reply.serialNumber.has_value() && _findings.replyDidCome(*reply.serialNumber, origin)) {
+        showFindings();
+    }
 }
 
 // Shows what a unit told, and returns its text for the event log.
@@ -139,7 +150,8 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
 
 // The log has the request before the acknowledgement. When too many acknowledgements come at once,
 // one request follows them later.
-void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& /*origin*/) {
+void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& origin) {
+    compareReply(reply, origin);
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
@@ -158,8 +170,8 @@ void KXConfigAppDelegate::requestParametersOwed() {
     }
 }
 
-void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply,
-                                                const DatagramOrigin& /*origin*/) {
+void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
+    compareReply(reply, origin);
     auto text = textFromUTF8(reply.payload);
     if (text.has_value()) {
         text = quotedLines(*text);

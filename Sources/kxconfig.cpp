@@ -6,6 +6,7 @@
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
+#include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/MemoryExhaustion.h"
@@ -30,17 +31,96 @@
 #include <QSocketNotifier>
 #include <csignal>
 
-int main(int argc, char* argv[]) {
-    // The reader of standard error may end before the window does.
-    std::signal(SIGPIPE, SIG_IGN);
+namespace {
 
-    QApplication qtApplication(argc, argv);
+void describeApplication() {
     QApplication::setApplicationName("KXConfig");
     QApplication::setApplicationVersion(KX_VERSION);
     // The name of the desktop entry. A desktop finds the icon of the window by this name, if it
     // looks for one.
     QApplication::setDesktopFileName("org.kxconfig.KXConfig");
     QApplication::setWindowIcon(kx::applicationIcon());
+}
+
+// What this host gives to the controller, each after what it needs itself.
+struct Host {
+    kx::QtRunLoop& runLoop;
+    kx::ThreadHostResolver hostResolver{runLoop};
+    kx::DatagramSystemCalls systemCalls = {};
+    kx::LinuxReceiveBufferControl receiveBuffers = {};
+    kx::LinuxNeighbourTable neighbours = {};
+    kx::SystemWallClock wallClock = {};
+    kx::QtApplication application = {};
+    kx::QtHelpServices helpServices{kx::installedResourceFolder(),
+                                    kx::QtHelpServices::browserForUser(::geteuid())};
+    kx::KernelLinks kernelLinks{runLoop};
+    kx::LinuxKernelQuery kernelQuery{kernelLinks};
+    kx::NetworkManagerProfiles connectionProfiles = {};
+    kx::LinuxConfigurationStore configurationStore{runLoop, kernelLinks, &connectionProfiles};
+};
+
+// The host must outlive the services.
+kx::KXConfigAppDelegate::Services servicesOf(Host& host,
+                                             kx::AuthorizationService* authorizationService) {
+    return {.runLoop = host.runLoop,
+            .hostResolver = host.hostResolver,
+            .systemCalls = host.systemCalls,
+            .wallClock = host.wallClock,
+            .application = host.application,
+            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+            .openHelpAnchor =
+                [&help = host.helpServices](std::string_view anchor) {
+                    return kx::openHelpAnchor(anchor, help);
+                },
+            .authorizationService = authorizationService,
+            .receiveBuffers = &host.receiveBuffers,
+            .hasHelpPage = [&help = host.helpServices](
+                               std::string_view page) { return kx::hasHelpPage(page, help); },
+            .neighbours = &host.neighbours};
+}
+
+// Runs the program until its end, which a person or a signal brings about.
+int runWindow(kx::MainWindow& window, kx::KXConfigAppDelegate& controller) {
+    window.connectActions(controller);
+    const auto end = [&] {
+        window.disconnectActions();
+        controller.applicationWillTerminate();
+    };
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, end);
+    // A dialog may be open, below which an action is not done. The action has to find the end when
+    // it goes on, so the end comes before its loop is left.
+    kx::SignalPipe signalPipe({SIGTERM, SIGINT, SIGHUP});
+    const QSocketNotifier arrivals(signalPipe.descriptor(), QSocketNotifier::Read);
+    QObject::connect(&arrivals, &QSocketNotifier::activated, &window, [&] {
+        if (signalPipe.take().has_value()) {
+            end();
+            QApplication::exit(0);
+        }
+    });
+    window.show();
+    controller.applicationDidFinishLaunching();
+    return QApplication::exec();
+}
+
+int runOnThisHost(kx::QtRunLoop& runLoop) {
+    Host host{runLoop};
+    kx::SystemConfiguration::installSources(host.configurationStore, host.kernelQuery);
+    kx::MainWindow window;
+    kx::WaitingPanel waiting(window);
+    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
+    kx::KXConfigAppDelegate controller(window.outlets(),
+                                       servicesOf(host, authorizationService.get()));
+    return runWindow(window, controller);
+}
+
+} // namespace
+
+int main(int argc, char* argv[]) {
+    // The reader of standard error may end before the window does.
+    std::signal(SIGPIPE, SIG_IGN);
+
+    const QApplication qtApplication(argc, argv);
+    describeApplication();
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);
@@ -52,60 +132,7 @@ int main(int argc, char* argv[]) {
     kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
     kx::installSystemLog(&limitedLog);
     kx::installMemoryExhaustionHandler();
-    kx::ThreadHostResolver hostResolver(runLoop);
-    kx::DatagramSystemCalls systemCalls;
-    kx::LinuxReceiveBufferControl receiveBuffers;
-    const kx::SystemWallClock wallClock;
-    kx::QtApplication application;
-    kx::QtHelpServices helpServices(kx::installedResourceFolder(),
-                                    kx::QtHelpServices::browserForUser(::geteuid()));
-
-    kx::KernelLinks kernelLinks(runLoop);
-    kx::LinuxKernelQuery kernelQuery(kernelLinks);
-    kx::NetworkManagerProfiles connectionProfiles;
-    kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
-    kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
-
-    kx::MainWindow window;
-    kx::WaitingPanel waiting(window);
-    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
-    kx::KXConfigAppDelegate controller(
-        window.outlets(), {.runLoop = runLoop,
-                           .hostResolver = hostResolver,
-                           .systemCalls = systemCalls,
-                           .wallClock = wallClock,
-                           .application = application,
-                           .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-                           .openHelpAnchor =
-                               [&helpServices](std::string_view anchor) {
-                                   return kx::openHelpAnchor(anchor, helpServices);
-                               },
-                           .authorizationService = authorizationService.get(),
-                           .receiveBuffers = &receiveBuffers,
-                           .hasHelpPage =
-                               [&helpServices](std::string_view page) {
-                                   return kx::hasHelpPage(page, helpServices);
-                               }});
-    window.connectActions(controller);
-    const auto end = [&] {
-        window.disconnectActions();
-        controller.applicationWillTerminate();
-    };
-    QObject::connect(&qtApplication, &QCoreApplication::aboutToQuit, &window, end);
-    // A dialog may be open, below which an action is not done. The action has to find the end when
-    // it goes on, so the end comes before its loop is left.
-    kx::SignalPipe signalPipe({SIGTERM, SIGINT, SIGHUP});
-    const QSocketNotifier arrivals(signalPipe.descriptor(), QSocketNotifier::Read);
-    QObject::connect(&arrivals, &QSocketNotifier::activated, &window, [&] {
-        if (signalPipe.take().has_value()) {
-            end();
-            QApplication::exit(0);
-        }
-    });
-
-    window.show();
-    controller.applicationDidFinishLaunching();
-    const int result = QApplication::exec();
+    const int result = runOnThisHost(runLoop);
 
     kx::installLocalizedText(nullptr);
     kx::installSystemLog(nullptr);

@@ -1178,6 +1178,11 @@
         <translation>Für %@ wurde kein ARP-Eintrag angelegt: Das ARP-Programm endete mit Status %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>Der ARP-Eintrag für %@ steht nicht auf der Schnittstelle, über die der Befehl hinausging. Deshalb hat das Gerät ihn vielleicht nicht gehört.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Beginn der Suche]</translation>
@@ -1355,6 +1360,11 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <translation>Das Gerät %@ gibt als seine Adresse %@ an, aber seine Antwort kam von %@.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>Das Gerät %@ ist auf zwei Schnittstellen zu hören: %@ und %@. Befehle gehen über die, auf der es zuletzt zu hören war.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
         <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
         <translation>Kein Gerät ist ausgewählt: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
@@ -1366,8 +1376,8 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Dieses Gerät nennt eine Adresse vieler als seine eigene: „Werkseinstellungen laden“ erreicht wie „Neu laden“ jedes Gerät, das es hört.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Dieses Gerät nennt eine Adresse vieler als seine eigene: „Werkseinstellungen laden“ erreicht wie „Neu laden“, „Anwenden“ und „Senden“ jedes Gerät, das es hört.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

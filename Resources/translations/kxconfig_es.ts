@@ -1178,6 +1178,11 @@
         <translation>No se creó ninguna entrada ARP para %@: la herramienta ARP terminó con el estado %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>La entrada ARP para %@ no está en la interfaz por la que salió la orden, así que es posible que la unidad no la haya oído.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Inicio de la búsqueda]</translation>
@@ -1355,6 +1360,11 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <translation>La unidad %@ dice que su dirección es %@, pero su respuesta llegó de %@.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>La unidad %@ se oye en dos interfaces: %@ y %@. Las órdenes salen por aquella en la que se oyó por última vez.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
         <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
         <translation>No hay ninguna unidad seleccionada: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
@@ -1366,8 +1376,8 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Esta unidad da como suya una dirección colectiva: «Restablecer valores de fábrica», como «Recargar», llega a todas las unidades que lo oyen.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Esta unidad da como suya una dirección colectiva: «Restablecer valores de fábrica», como «Recargar», «Aplicar» y «Enviar», llega a todas las unidades que lo oyen.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

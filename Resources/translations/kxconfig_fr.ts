@@ -1178,6 +1178,11 @@
         <translation>Aucune entrée ARP n’a été créée pour %@ : l’outil ARP s’est terminé avec l’état %d.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>L’entrée ARP pour %@ ne se trouve pas sur l’interface par laquelle la commande est partie, l’unité ne l’a donc peut-être pas entendue.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[Début de la détection]</translation>
@@ -1355,6 +1360,11 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <translation>L’unité %@ indique comme adresse %@, mais sa réponse est venue de %@.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>L’unité %@ est entendue sur deux interfaces : %@ et %@. Les commandes partent par celle où elle a été entendue en dernier.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
         <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
         <translation>Aucune unité n’est sélectionnée : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
@@ -1366,8 +1376,8 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>Cette unité donne comme sienne une adresse collective : « Rétablir les réglages d’usine », comme « Recharger », atteint toutes les unités qui l’entendent.</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>Cette unité donne comme sienne une adresse collective : « Rétablir les réglages d’usine », comme « Recharger », « Appliquer » et « Envoyer », atteint toutes les unités qui l’entendent.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

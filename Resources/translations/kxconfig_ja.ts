@@ -1178,6 +1178,11 @@
         <translation>%@ の ARP エントリは作成されませんでした: ARP ツールがステータス %d で終了しました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The ARP entry for %@ is not on the interface by which the command left, so the unit may not have heard it.</source>
+        <translation>%@ の ARP エントリはコマンドを送信したインターフェースにないため、ユニットが受信していない可能性があります。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
         <source>[Begin Discover]</source>
         <translation>[検出開始]</translation>
@@ -1355,6 +1360,11 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>ユニット %@ は自分のアドレスを %@ としていますが、応答は %@ から届きました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
+        <translation>ユニット %@ は 2 つのインターフェースで受信されています: %@ と %@。コマンドは最後に受信したインターフェースから送信されます。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
         <source>No unit is selected: Restore Defaults, like Reload, reaches every unit that hears it.</source>
         <translation>ユニットが選択されていません: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
@@ -1366,8 +1376,8 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>
-        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, reaches every unit that hears it.</source>
-        <translation>このユニットは多数宛てのアドレスを自分のものとしています: 「工場出荷時設定に戻す」は「再読み込み」と同じく、受信したすべてのユニットに届きます。</translation>
+        <source>This unit tells an address of many as its own: Restore Defaults, like Reload, Apply and Send, reaches every unit that hears it.</source>
+        <translation>このユニットは多数宛てのアドレスを自分のものとしています: 「工場出荷時設定に戻す」は「再読み込み」「適用」「送信」と同じく、受信したすべてのユニットに届きます。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

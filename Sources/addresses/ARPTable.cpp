@@ -1,6 +1,7 @@
 #include "addresses/ARPTable.h"
 
 #include "System Configuration/SystemConfiguration.h"
+#include "addresses/ARPToolPath.h"
 #include "addresses/HardwareAddress.h"
 #include "addresses/IPv4Address.h"
 #include "support/PlatformException.h"
@@ -12,13 +13,12 @@ namespace kx {
 
 namespace {
 
-constexpr auto toolPath = "/usr/sbin/arp";
 constexpr std::string_view mark = "at "; // an address follows this mark
 
 std::optional<std::string> toolOutput(const std::string& argument) {
     std::optional<std::string> output;
     try {
-        TaskSupport::doShortTaskArgumentsInputShortOutput(toolPath, {argument}, std::nullopt,
+        TaskSupport::doShortTaskArgumentsInputShortOutput(arpToolPath, {argument}, std::nullopt,
                                                           &output, longestLookup);
     } catch (const PlatformException&) { // a system without the tool knows no address
     }

@@ -6,8 +6,11 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace kx {
+
+class NeighbourTable;
 
 enum class ARPEntryState {
     notWanted,      // the edit needs none
@@ -19,6 +22,7 @@ enum class ARPEntryState {
     notASCII,       // the address has other characters than ASCII
     notStarted,     // the tool did not start; `code` is the authority's status
     ended,          // the tool ran and failed; `code` is how it ended
+    onAnotherLink,  // the tool did its work, and the link of the command has no such entry
 };
 
 struct ARPEntry {
@@ -36,5 +40,11 @@ ARPEntry arpEntryForResult(std::int32_t result, std::string objection = {});
 // The entry for a tool that ended. `status` is its exit status, or the number of the signal that
 // ended it plus 128. `sentence` is what it said on standard error, which may be nothing.
 ARPEntry arpEntryForEndOfTool(std::int32_t status, std::string sentence = {});
+
+// Whether the link has a fixed entry that binds the address to the hardware address, which is
+// compared without regard to case. The ARP tool puts an entry on the link to which the routes lead,
+// and a command leaves by the link on which its unit was heard.
+bool isBoundOnLink(NeighbourTable& neighbours, std::uint32_t address, std::uint32_t link,
+                   std::string_view hardwareAddress);
 
 } // namespace kx

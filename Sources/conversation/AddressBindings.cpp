@@ -1,15 +1,11 @@
 #include "conversation/AddressBindings.h"
 
+#include "addresses/ARPToolPath.h"
+
 namespace kx {
 
-namespace {
-
-constexpr auto arpTool = "/usr/sbin/arp";
-
-} // namespace
-
 AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service)
-    : _authorization(std::make_shared<Authorization>(service, arpTool)) {}
+    : _authorization(std::make_shared<Authorization>(service, arpToolPath)) {}
 
 void AuthorizedAddressBindings::bind(const std::string& address, const std::string& hardwareAddress,
                                      Done done) {

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "conversation/HeardUnits.h"
+#include "conversation/NeighbourTable.h"
 #include "conversation/Operation.h"
 #include "conversation/UnitExchange.h"
 
@@ -25,30 +26,6 @@
 #include <vector>
 
 namespace kx {
-
-// What the system's neighbour table says of an address (RFC 4861 names the states).
-enum class NeighbourState {
-    asking,    // the system is asking for the hardware address
-    reachable, // it has been confirmed lately
-    stale,     // it was known once, and nobody has confirmed it since
-    failed,    // nobody answered
-    permanent, // somebody entered it by hand
-};
-
-struct Neighbour {
-    NeighbourState state = NeighbourState::asking;
-    std::string hardwareAddress; // empty while it is not known
-};
-
-// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them.
-class NeighbourTable {
-public:
-    virtual ~NeighbourTable() = default;
-
-    // The entry of an address on a link; absent when there is none, and when the system does not
-    // tell. Returns at once.
-    virtual std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) = 0;
-};
 
 // Sends ARP probes by one link and hears the answers, until it is destroyed.
 class AddressProbe {

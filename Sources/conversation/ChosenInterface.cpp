@@ -6,17 +6,6 @@
 
 namespace kx {
 
-namespace {
-
-// In a subnet of one or two addresses, the broadcast address is that of a host.
-constexpr std::uint32_t longestMaskWithBroadcast = 0xFFFFFFFCU;
-
-bool hasBroadcastAddress(const InterfaceAddress& address) {
-    return address.address == 0 || address.mask <= longestMaskWithBroadcast;
-}
-
-} // namespace
-
 std::optional<InterfaceFinding> faultOfInterface(NetworkInterfaces& interfaces,
                                                  const ChosenInterface& chosen, bool exists) {
     const auto found = [&chosen](InterfaceFault fault) {
@@ -33,7 +22,8 @@ std::optional<InterfaceFinding> faultOfInterface(NetworkInterfaces& interfaces,
         return found(InterfaceFault::withoutLink);
     }
     const InterfaceAddress now = addressOfInterface(interfaces, chosen.name);
-    if (!state->canBroadcast || !hasBroadcastAddress(now)) {
+    const bool isSmallSubnet = now.address != 0 && !broadcastAddressOf(now).has_value();
+    if (!state->canBroadcast || isSmallSubnet) {
         return found(InterfaceFault::withoutBroadcast);
     }
     if (now == chosen.address) {

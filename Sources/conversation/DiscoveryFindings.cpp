@@ -29,6 +29,15 @@ bool DiscoveryFindings::unitDidTell(const UnitRecord& record, const DatagramOrig
     return _contradictions.size() != before;
 }
 
+bool DiscoveryFindings::replyDidCome(std::string_view serial, const DatagramOrigin& origin) {
+    const std::size_t before = _contradictions.size();
+    if (before >= mostContradictions) {
+        return false;
+    }
+    _witness.replyDidCome(serial, origin, _contradictions);
+    return _contradictions.size() != before;
+}
+
 std::vector<Finding> DiscoveryFindings::all() const {
     std::vector<Finding> findings = _contradictions;
     if (_dropped != 0) {

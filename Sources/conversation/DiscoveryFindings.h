@@ -33,6 +33,10 @@ public:
     // A unit told its parameters. Returns whether anything new was found.
     bool unitDidTell(const UnitRecord& record, const DatagramOrigin& origin);
 
+    // A reply of any kind came in the name of this serial number. Returns whether anything new was
+    // found.
+    bool replyDidCome(std::string_view serial, const DatagramOrigin& origin);
+
     // A command went to the unit of this serial number, or to everybody.
     void expectChange(std::string_view serial) { _witness.expectChange(serial); }
     void expectChanges() { _witness.expectChanges(); }

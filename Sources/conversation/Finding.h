@@ -49,6 +49,15 @@ struct TwoHostsOfOneSerial {
     friend bool operator==(const TwoHostsOfOneSerial&, const TwoHostsOfOneSerial&) = default;
 };
 
+// One serial number is heard on two interfaces. The links are indexes of interfaces.
+struct UnitOnTwoInterfaces {
+    std::string serial;
+    std::uint32_t firstLink = 0;
+    std::uint32_t secondLink = 0;
+
+    friend bool operator==(const UnitOnTwoInterfaces&, const UnitOnTwoInterfaces&) = default;
+};
+
 // Two serial numbers claim one address.
 struct TwoSerialsOfOneAddress {
     std::uint32_t address = 0;
@@ -68,7 +77,8 @@ struct SenderOfAnotherAddress {
 };
 
 // The weightiest kind comes first.
-using Finding = std::variant<InterfaceFinding, DroppedDatagrams, ForgottenUnits,
-                             TwoHostsOfOneSerial, TwoSerialsOfOneAddress, SenderOfAnotherAddress>;
+using Finding =
+    std::variant<InterfaceFinding, DroppedDatagrams, ForgottenUnits, TwoHostsOfOneSerial,
+                 UnitOnTwoInterfaces, TwoSerialsOfOneAddress, SenderOfAnotherAddress>;
 
 } // namespace kx

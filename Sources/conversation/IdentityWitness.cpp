@@ -62,13 +62,34 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin
     const Host now{.hardwareAddress =
                        numberOfSixBytes(record.value(UnitParameter::internalMACAddress)),
                    .sender = addressOfSender(origin),
-                   .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress))};
-    if (_hosts.size() >= mostSerials && !_hosts.contains(key)) {
+                   .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress)),
+                   .link = origin.link,
+                   .hasToldParameters = true};
+    Host* const first = hostOf(key, now);
+    if (first == nullptr) {
         return;
     }
-    Host& first = _hosts.try_emplace(key, now).first->second;
-    compareHosts(*serial, now, first, findings);
+    if (!first->hasToldParameters) {
+        *first = now;
+    }
+    compareHosts(*serial, now, *first, findings);
     compareClaims(*serial, key, now.claimedAddress, findings);
+}
+
+void IdentityWitness::replyDidCome(std::string_view serial, const DatagramOrigin& origin,
+                                   std::vector<Finding>& findings) {
+    const Host now{.sender = addressOfSender(origin), .link = origin.link};
+    if (Host* const first = hostOf(numberOfSixBytes(serial), now)) {
+        compareHosts(serial, now, *first, findings);
+    }
+}
+
+// Null for one serial number too many.
+IdentityWitness::Host* IdentityWitness::hostOf(std::uint64_t serial, const Host& now) {
+    if (_hosts.size() >= mostSerials && !_hosts.contains(serial)) {
+        return nullptr;
+    }
+    return &_hosts.try_emplace(serial, now).first->second;
 }
 
 void IdentityWitness::compareHosts(std::string_view serial, const Host& now, Host& first,
@@ -82,6 +103,10 @@ void IdentityWitness::compareHosts(std::string_view serial, const Host& now, Hos
                                  : textOfSixBytes(host.hardwareAddress, ":");
         };
         findings.push_back(TwoHostsOfOneSerial{std::string(serial), nameOf(first), nameOf(now)});
+    }
+    if (!first.isToldOnTwoLinks && differ(first.link, now.link)) {
+        first.isToldOnTwoLinks = true;
+        findings.push_back(UnitOnTwoInterfaces{std::string(serial), first.link, now.link});
     }
     if (!first.isToldAsOtherSender && differ(now.claimedAddress, now.sender)) {
         first.isToldAsOtherSender = true;

@@ -32,6 +32,13 @@ public:
     void unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
                      std::vector<Finding>& findings);
 
+    // A reply of any kind came in the name of this serial number: parameters, "ok" or another text.
+    // Appends what it contradicts to `findings`. Until the unit tells its parameters, a reply
+    // without them stands for it; then it no longer counts, because a unit may accept a command at
+    // its old address.
+    void replyDidCome(std::string_view serial, const DatagramOrigin& origin,
+                      std::vector<Finding>& findings);
+
     // The unit of this serial number, or any unit, may answer differently from now on.
     void expectChange(std::string_view serial);
     void expectChanges() { *this = {}; }
@@ -42,7 +49,10 @@ private:
         std::uint64_t hardwareAddress = 0;
         std::uint32_t sender = 0;
         std::uint32_t claimedAddress = 0;
+        std::uint32_t link = 0;
+        bool hasToldParameters = false;
         bool isToldAsTwo = false;         // as two hosts of this serial number
+        bool isToldOnTwoLinks = false;    // as heard on two interfaces
         bool isToldAsOtherSender = false; // as an answer from another address
     };
     struct Claim {
@@ -50,6 +60,7 @@ private:
         bool isTold = false; // as the address of two serial numbers
     };
 
+    Host* hostOf(std::uint64_t serial, const Host& now);
     void compareHosts(std::string_view serial, const Host& now, Host& first,
                       std::vector<Finding>& findings);
     void compareClaims(std::string_view serial, std::uint64_t key, std::uint32_t address,

@@ -1,6 +1,7 @@
 #include "conversation/InterfaceAddress.h"
 
 #include "addresses/IPv4Address.h"
+#include "conversation/UnitDestination.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -10,16 +11,30 @@ namespace kx {
 
 namespace {
 
-PropertyList addressesOfService(NetworkInterfaces& interfaces, std::string_view serviceID,
-                                std::string_view key) {
+PropertyList listOfService(NetworkInterfaces& interfaces, std::string_view serviceID,
+                           std::string_view key) {
     const auto value = interfaces.serviceDataForDictionaryNameKey(serviceID, "IPv4", key);
     const PropertyList* const addresses = value.has_value() ? value->list() : nullptr;
     return addresses != nullptr ? *addresses : PropertyList();
 }
 
+// In a subnet of one or two addresses, the broadcast address is that of a host.
+constexpr std::uint32_t longestMaskWithBroadcast = 0xFFFFFFFCU;
+
 std::uint32_t addressAt(const PropertyList& addresses, std::size_t index) {
     const std::string* const text = index < addresses.size() ? addresses[index].text() : nullptr;
     return text != nullptr ? ipForString(*text) : 0;
+}
+
+std::vector<InterfaceAddress> addressesOfService(NetworkInterfaces& interfaces,
+                                                 std::string_view serviceID) {
+    const PropertyList addresses = listOfService(interfaces, serviceID, "Addresses");
+    const PropertyList masks = listOfService(interfaces, serviceID, "SubnetMasks");
+    std::vector<InterfaceAddress> all(std::max(addresses.size(), masks.size()));
+    for (std::size_t i = 0; i < all.size(); ++i) {
+        all[i] = {.address = addressAt(addresses, i), .mask = addressAt(masks, i)};
+    }
+    return all;
 }
 
 } // namespace
@@ -32,16 +47,28 @@ InterfaceAddress addressOfInterface(NetworkInterfaces& interfaces, std::string_v
 std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces,
                                                    std::string_view bsdName) {
     const auto serviceID = interfaces.serviceIDForInterface(bsdName);
-    if (!serviceID.has_value()) {
-        return {};
+    return serviceID.has_value() ? addressesOfService(interfaces, *serviceID)
+                                 : std::vector<InterfaceAddress>();
+}
+
+std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address) {
+    return address.address != 0 && address.mask <= longestMaskWithBroadcast
+               ? std::optional(directedBroadcastAddress(address.address, address.mask))
+               : std::nullopt;
+}
+
+std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces) {
+    std::vector<std::string> serviceIDs;
+    interfaces.bsdTitlesAndServiceIDs(&serviceIDs);
+    std::vector<std::uint32_t> broadcasts;
+    for (const std::string& serviceID : serviceIDs) {
+        for (const InterfaceAddress& each : addressesOfService(interfaces, serviceID)) {
+            if (const auto broadcast = broadcastAddressOf(each)) {
+                broadcasts.push_back(*broadcast);
+            }
+        }
     }
-    const PropertyList addresses = addressesOfService(interfaces, *serviceID, "Addresses");
-    const PropertyList masks = addressesOfService(interfaces, *serviceID, "SubnetMasks");
-    std::vector<InterfaceAddress> all(std::max(addresses.size(), masks.size()));
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        all[i] = {.address = addressAt(addresses, i), .mask = addressAt(masks, i)};
-    }
-    return all;
+    return broadcasts;
 }
 
 } // namespace kx

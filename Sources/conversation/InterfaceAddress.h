@@ -1,4 +1,4 @@
-// The IPv4 address and the mask of this host on an interface.
+// The IPv4 addresses and the masks of this host on its interfaces, and their broadcast addresses.
 //
 // Main thread only. Numbers are in host byte order.
 
@@ -7,6 +7,7 @@
 #include "System Configuration/NetworkInterfaces.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -26,5 +27,13 @@ InterfaceAddress addressOfInterface(NetworkInterfaces& interfaces, std::string_v
 // All of them, in the order of the service; an address that is missing or does not parse is 0.
 std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces,
                                                    std::string_view bsdName);
+
+// All hosts of the address's subnet; absent when there is no address, and in a subnet of one or two
+// addresses, which has no broadcast address. An address whose mask is missing has 255.255.255.255.
+std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address);
+
+// The broadcast addresses of all addresses of all interfaces of the host, in the order of the
+// pop-up; one may be there several times. Empty when the system tells nothing.
+std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces);
 
 } // namespace kx

@@ -1,6 +1,7 @@
 #include "conversation/RequestTarget.h"
 
 #include "addresses/IPv4Address.h"
+#include "conversation/UnitDestination.h"
 
 #include <algorithm>
 
@@ -15,18 +16,23 @@ bool isMulticast(std::uint32_t address) {
 
 } // namespace
 
-RequestTarget targetOfRequest(const UnitRecord* record,
-                              std::span<const std::uint32_t> addressesOfMany) {
-    if (record == nullptr) {
+bool isAddressOfMany(std::uint32_t address, std::span<const std::uint32_t> broadcastAddresses) {
+    return address == 0 || address == limitedBroadcastAddress || isMulticast(address) ||
+           std::ranges::find(broadcastAddresses, address) != broadcastAddresses.end();
+}
+
+RequestTarget targetOfRequest(bool unitIsSelected, const UnitRecord* record,
+                              std::span<const std::uint32_t> broadcastAddresses) {
+    if (!unitIsSelected) {
         return {.reach = RequestReach::everybodyWithoutUnit};
     }
-    const auto text = record->value(UnitParameter::internalIPAddress);
+    const auto text =
+        record != nullptr ? record->value(UnitParameter::internalIPAddress) : std::nullopt;
     if (!text.has_value()) {
         return {.reach = RequestReach::everybodyWithoutAddress};
     }
     const std::uint32_t address = ipForString(*text);
-    if (address == limitedBroadcastAddress || isMulticast(address) ||
-        std::ranges::find(addressesOfMany, address) != addressesOfMany.end()) {
+    if (isAddressOfMany(address, broadcastAddresses)) {
         return {.reach = RequestReach::everybodyAtItsAddress};
     }
     return {.reach = RequestReach::oneUnit, .address = address};

@@ -5,7 +5,6 @@
 
 #pragma once
 
-#include "conversation/UnitDestination.h"
 #include "units/UnitRecord.h"
 
 #include <cstdint>
@@ -17,7 +16,7 @@ enum class RequestReach {
     oneUnit,
     everybodyWithoutUnit,    // no unit is selected
     everybodyWithoutAddress, // the address of the selected unit is not known
-    everybodyAtItsAddress,   // the selected unit tells a broadcast or multicast address as its own
+    everybodyAtItsAddress,   // the selected unit tells an address of many as its own
 };
 
 struct RequestTarget {
@@ -27,9 +26,14 @@ struct RequestTarget {
     friend bool operator==(const RequestTarget&, const RequestTarget&) = default;
 };
 
-// `record` is that of the selected unit, or null. `addressesOfMany` are the addresses, as far as
-// they are known, that more than one host hears; 255.255.255.255 and multicast addresses always do.
-RequestTarget targetOfRequest(const UnitRecord* record,
-                              std::span<const std::uint32_t> addressesOfMany);
+// Whether a datagram to this address reaches every unit that hears it: 255.255.255.255, a multicast
+// address, one of `broadcastAddresses`, which are those of this host (broadcastAddressesOfHost()),
+// and 0.0.0.0, which also stands for a text that is no address.
+bool isAddressOfMany(std::uint32_t address, std::span<const std::uint32_t> broadcastAddresses);
+
+// `record` is that of the selected unit; null when no unit is selected, and when nothing is known
+// of the selected one any more.
+RequestTarget targetOfRequest(bool unitIsSelected, const UnitRecord* record,
+                              std::span<const std::uint32_t> broadcastAddresses);
 
 } // namespace kx

@@ -177,24 +177,30 @@ void UnitSession::didReceiveDataFromAddress(ByteView data, const DatagramOrigin&
         return;
     }
     const Reply reply = replyFromDatagram(data);
+    if (reply.payloadKind == PayloadKind::parameterList) {
+        tellParameters(reply, decodeUnitParameters(reply.payload), origin);
+        return;
+    }
+    rememberLink(reply, origin);
+    if (reply.payloadKind == PayloadKind::acknowledgement) {
+        _observer.unitDidAccept(reply, origin);
+    } else {
+        _observer.unitDidSendOtherReply(reply, origin);
+    }
+}
+
+void UnitSession::tellParameters(const Reply& reply, DecodedUnitParameters parameters,
+                                 const DatagramOrigin& origin) {
+    rememberLink(reply, origin);
+    parameters.record.setLink(origin.link);
+    _registry.store(parameters.record);
+    _observer.unitDidTellParameters(reply, parameters, origin);
+}
+
+// Called for a reply that is told. One that breaks its own format moves no unit to another link.
+void UnitSession::rememberLink(const Reply& reply, const DatagramOrigin& origin) {
     if (reply.serialNumber.has_value()) {
         _registry.setLink(*reply.serialNumber, origin.link);
-    }
-    switch (reply.payloadKind) {
-    case PayloadKind::parameterList: {
-        auto parameters = decodeUnitParameters(reply.payload);
-        parameters.record.setLink(origin.link);
-        _registry.store(parameters.record);
-        _observer.unitDidTellParameters(reply, parameters, origin);
-        break;
-    }
-    case PayloadKind::acknowledgement:
-        _observer.unitDidAccept(reply, origin);
-        break;
-    case PayloadKind::none:
-    case PayloadKind::other:
-        _observer.unitDidSendOtherReply(reply, origin);
-        break;
     }
 }
 

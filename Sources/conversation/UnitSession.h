@@ -146,6 +146,9 @@ public:
 
 private:
     void didReceiveDataFromAddress(ByteView data, const DatagramOrigin& origin);
+    void tellParameters(const Reply& reply, DecodedUnitParameters parameters,
+                        const DatagramOrigin& origin);
+    void rememberLink(const Reply& reply, const DatagramOrigin& origin);
     void didFailToSend(SendFailure failure);
     void countDropsSoon();
     void countDrops();

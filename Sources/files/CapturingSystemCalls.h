@@ -47,6 +47,7 @@ public:
     ssize_t sendToByLink(int descriptor, ByteView data, ByteView address,
                          std::uint32_t link) override;
     std::uint32_t linkForName(const std::string& name) override { return _inner.linkForName(name); }
+    std::string nameForLink(std::uint32_t link) override { return _inner.nameForLink(link); }
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                         DatagramOrigin& origin) override;
     std::optional<Bytes> localAddress(int descriptor) override {

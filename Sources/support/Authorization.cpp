@@ -4,9 +4,21 @@
 #include "support/TextEncoding.h"
 #include "support/TextFormat.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// The first one that is not ASCII; null when all are.
+const std::string* argumentThatIsNotASCII(const std::vector<std::string>& arguments) {
+    const auto found = std::ranges::find_if(
+        arguments, [](const std::string& argument) { return !asciiBytes(argument).has_value(); });
+    return found != arguments.end() ? &*found : nullptr;
+}
+
+} // namespace
 
 Authorization::Authorization(AuthorizationService& service, std::string toolPath)
     : _service(service)
@@ -32,6 +44,10 @@ bool Authorization::copyRights(std::uint32_t flags,
     if (mAuthorizationRef == nullptr) {
         mAuthorizationRef = _service.create();
     }
+    // The run refuses them, so nobody is asked about them, and no tool begins with them.
+    if (argumentThatIsNotASCII(plannedArguments) != nullptr) {
+        return mAuthorizationRef != nullptr;
+    }
     const AuthorizationItem right{.name = std::string(kAuthorizationRightExecute),
                                   .value = _privilegedToolPath,
                                   .flags = 0,
@@ -45,11 +61,9 @@ std::int32_t Authorization::runToolWithArgs(const std::vector<std::string>& argu
     if (arguments.size() > mostToolArguments) {
         return -1;
     }
-    for (const auto& argument : arguments) {
-        if (!asciiBytes(argument).has_value()) {
-            logToSystem(filledText("Character conversion exception: %@", {argument}));
-            return -1;
-        }
+    if (const auto* const argument = argumentThatIsNotASCII(arguments)) {
+        logToSystem(filledText("Character conversion exception: %@", {*argument}));
+        return -1;
     }
     if (mAuthorizationRef == nullptr) {
         return errAuthorizationInvalidRef;

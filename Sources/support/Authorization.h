@@ -32,7 +32,9 @@ public:
 
     // Obtains the right to run the tool, and asks a person where that is needed. False when the
     // request was refused, when the person dismissed the question, and when there is no authority.
-    // The person is shown the arguments that the tool will get, where they are given.
+    // The person is shown the arguments that the tool will get. An authority may ask nobody, and
+    // refuse, when they are not given. When one of them is not ASCII, nobody is asked and the
+    // result is true: such a run is refused without rights.
     bool authenticate(const std::vector<std::string>& plannedArguments = {});
 
     // Whether the right is held already. Never asks anybody.

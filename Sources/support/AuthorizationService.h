@@ -29,7 +29,7 @@ struct AuthorizationItem {
     std::uint32_t flags = 0;
 
     // The arguments with which the tool will be run, so that the authority can show them to the
-    // person whom it asks. Empty when they are not known yet.
+    // person whom it asks. When they are empty, it may refuse to ask anybody.
     std::vector<std::string> arguments = {};
 
     friend bool operator==(const AuthorizationItem&, const AuthorizationItem&) = default;

@@ -107,6 +107,10 @@ std::string textOfARPEntry(std::string_view typedAddress, const ARPEntry& entry)
     case ARPEntryState::ended:
         return localizedText("No ARP entry was made for %@: the ARP tool ended with status %d.",
                              {address, entry.code});
+    case ARPEntryState::onAnotherLink:
+        return localizedText("The ARP entry for %@ is not on the interface by which the command "
+                             "left, so the unit may not have heard it.",
+                             {address});
     }
     return {};
 }

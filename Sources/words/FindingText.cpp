@@ -4,6 +4,8 @@
 #include "support/LocalizedText.h"
 #include "units/UnitRegistry.h"
 
+#include <type_traits>
+
 namespace kx {
 
 namespace {
@@ -66,10 +68,31 @@ std::string text(const SenderOfAnotherAddress& answer) {
                          {answer.serial, stringForIP(answer.claimed), stringForIP(answer.sender)});
 }
 
+using NameOfLink = std::function<std::string(std::uint32_t link)>;
+
+std::string nameIn(const NameOfLink& nameOfLink, std::uint32_t link) {
+    const std::string name = nameOfLink ? nameOfLink(link) : std::string();
+    return name.empty() ? std::to_string(link) : name;
+}
+
+std::string text(const UnitOnTwoInterfaces& unit, const NameOfLink& nameOfLink) {
+    return localizedText(
+        "The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the "
+        "one on which it was heard last.",
+        {unit.serial, nameIn(nameOfLink, unit.firstLink), nameIn(nameOfLink, unit.secondLink)});
+}
+
 } // namespace
 
-std::string textOfFinding(const Finding& finding) {
-    return std::visit([](const auto& each) { return text(each); }, finding);
+std::string textOfFinding(const Finding& finding, const NameOfLink& nameOfLink) {
+    const auto textOf = [&nameOfLink](const auto& each) {
+        if constexpr (std::is_same_v<decltype(each), const UnitOnTwoInterfaces&>) {
+            return text(each, nameOfLink);
+        } else {
+            return text(each);
+        }
+    };
+    return std::visit(textOf, finding);
 }
 
 } // namespace kx

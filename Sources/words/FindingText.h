@@ -7,10 +7,15 @@
 
 #include "conversation/Finding.h"
 
+#include <cstdint>
+#include <functional>
 #include <string>
 
 namespace kx {
 
-std::string textOfFinding(const Finding& finding);
+// `nameOfLink` gives the name of the interface with an index, or nothing where the host knows none;
+// the number stands in the sentence then. It may be empty.
+std::string textOfFinding(const Finding& finding,
+                          const std::function<std::string(std::uint32_t link)>& nameOfLink = {});
 
 } // namespace kx

@@ -78,10 +78,10 @@ void QuietLine::unitDidTell(std::string_view serialNumber, const UnitRecord& rec
     }
 }
 
-void QuietLine::arpToolDidEnd(std::int32_t status, std::string sentence) {
+void QuietLine::arpToolDidEnd(ARPEntry entry) {
     auto* const outcome = std::get_if<EditOutcome>(&_state);
     if (outcome != nullptr && outcome->arpEntry().state != ARPEntryState::notWanted) {
-        outcome->setARPEntry(arpEntryForEndOfTool(status, std::move(sentence)));
+        outcome->setARPEntry(std::move(entry));
         refreshOutcome();
     }
 }

@@ -65,7 +65,7 @@ public:
     void unitDidAccept(std::string_view serialNumber,
                        const std::optional<SendFailure>& requestFailure);
     void unitDidTell(std::string_view serialNumber, const UnitRecord& record);
-    void arpToolDidEnd(std::int32_t status, std::string sentence = {});
+    void arpToolDidEnd(ARPEntry entry);
 
 private:
     void show(std::string_view text);

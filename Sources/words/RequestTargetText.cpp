@@ -15,7 +15,7 @@ std::string warningOfTarget(const RequestTarget& target) {
                              "Reload, reaches every unit that hears it.");
     case RequestReach::everybodyAtItsAddress:
         return localizedText("This unit tells an address of many as its own: Restore Defaults, "
-                             "like Reload, reaches every unit that hears it.");
+                             "like Reload, Apply and Send, reaches every unit that hears it.");
     case RequestReach::oneUnit:
         break;
     }

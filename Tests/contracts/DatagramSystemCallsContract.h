@@ -227,6 +227,12 @@ TYPED_TEST_P(DatagramSystemCallsContract, ALinkIsFoundByItsName) {
     }
 }
 
+TYPED_TEST_P(DatagramSystemCallsContract, ALinkHasItsName) {
+    EXPECT_EQ(this->calls().nameForLink(this->trait.link()), this->trait.linkName());
+    EXPECT_EQ(this->calls().nameForLink(0), "");
+    EXPECT_EQ(this->calls().nameForLink(noSuchLink), "");
+}
+
 TYPED_TEST_P(DatagramSystemCallsContract, OnlyAConnectedSocketSendsWithoutAnAddress) {
     const int descriptor = this->newBoundSocket();
     EXPECT_FAILURE(this->calls().sendTo(descriptor, this->data, std::nullopt), EDESTADDRREQ);
@@ -301,19 +307,17 @@ TYPED_TEST_P(DatagramSystemCallsContract, ASocketWrapperClosesItsDescriptorAtFir
 
 #undef EXPECT_FAILURE
 
-REGISTER_TYPED_TEST_SUITE_P(DatagramSystemCallsContract, StatusFlagsAreKept,
-                            ANewSocketHasNeitherAddressNorPeer, ABoundSocketHasItsAddress,
-                            APortIsRefusedToASecondSocketUntilTheFirstIsClosed,
-                            AConnectedSocketHasItsPeer,
-                            WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
-                            ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,
-                            ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
-                            TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor,
-                            OneSocketTellsTheLinkAndAnotherDoesNot, ASendTellsHowManyBytesItSent,
-                            ASendByALinkTellsHowManyBytesItSent, ASendByALinkThatDoesNotExistFails,
-                            ALinkIsFoundByItsName, OnlyAConnectedSocketSendsWithoutAnAddress,
-                            ARecordOfAnotherFamilyIsRefused, ARecordThatIsTooShortIsRefused,
-                            AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
-                            BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);
+REGISTER_TYPED_TEST_SUITE_P(
+    DatagramSystemCallsContract, StatusFlagsAreKept, ANewSocketHasNeitherAddressNorPeer,
+    ABoundSocketHasItsAddress, APortIsRefusedToASecondSocketUntilTheFirstIsClosed,
+    AConnectedSocketHasItsPeer, WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
+    ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,
+    ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
+    TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor, OneSocketTellsTheLinkAndAnotherDoesNot,
+    ASendTellsHowManyBytesItSent, ASendByALinkTellsHowManyBytesItSent,
+    ASendByALinkThatDoesNotExistFails, ALinkIsFoundByItsName, ALinkHasItsName,
+    OnlyAConnectedSocketSendsWithoutAnAddress, ARecordOfAnotherFamilyIsRefused,
+    ARecordThatIsTooShortIsRefused, AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
+    BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);
 
 } // namespace kx

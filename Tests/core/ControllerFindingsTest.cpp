@@ -30,8 +30,8 @@ protected:
         controller.interfaceSelect();
     }
 
-    void receiveFrom(const std::string& sender, const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(ipForString(sender), 3520));
+    void receiveFrom(const std::string& sender, const Bytes& datagram, std::uint32_t link = 0) {
+        systemCalls.queueDatagram(datagram, dataForAddress(ipForString(sender), 3520), link);
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
@@ -101,6 +101,33 @@ TEST_F(ControllerFindings, TwoHostsThatAnswerAsOneUnitAreSaidUntilTheNextDiscove
     EXPECT_EQ(discoveryLine(), twoHosts);
     EXPECT_EQ(logSince(length), usual) << "nothing new is in the log";
     EXPECT_EQ(lineAfterDiscover(), "");
+}
+
+TEST_F(ControllerFindings, AnAcknowledgementOrATextOfAnotherHostIsSaidToo) {
+    for (const Bytes& reply :
+         {SampleUnit().acknowledgement(), joined({SampleUnit().header(), textBytes("hello")})}) {
+        controller.discoverButton();
+        receiveFrom("192.168.1.10", SampleUnit().reply());
+        receiveFrom("192.168.1.10", reply);
+        EXPECT_EQ(discoveryLine(), "");
+        receiveFrom("192.168.1.99", reply);
+        EXPECT_EQ(discoveryLine(), twoHosts);
+    }
+}
+
+TEST_F(ControllerFindings, AUnitThatIsHeardOnTwoInterfacesIsSaid) {
+    for (const Bytes& reply :
+         {SampleUnit().reply(), SampleUnit().acknowledgement(),
+          joined({SampleUnit().header(), secondSampleUnit().parameterList()})}) {
+        controller.discoverButton();
+        receiveFrom("192.168.1.10", SampleUnit().reply(), 2);
+        receiveFrom("192.168.1.10", SampleUnit().reply(), 2);
+        EXPECT_EQ(discoveryLine(), "");
+        receiveFrom("192.168.1.10", reply, 3);
+        EXPECT_EQ(discoveryLine(),
+                  "The unit 01 02 03 04 05 06 is heard on two interfaces: eth0 and "
+                  "link 3. Commands leave by the one on which it was heard last.");
+    }
 }
 
 TEST_F(ControllerFindings, OneAddressOfTwoUnitsIsSaid) {

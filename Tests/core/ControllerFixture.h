@@ -14,6 +14,7 @@
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedNeighbours.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
@@ -167,6 +168,7 @@ protected:
     ScriptedNetworkInterfaces interfaces;
     ScriptedAuthorizationService authority;
     ScriptedReceiveBufferControl receiveBuffers;
+    ScriptedNeighbours neighbours;
     RecordedMainWindow window;
     std::vector<std::string> helpAnchors;
     bool helpOpens = true;
@@ -178,7 +180,8 @@ protected:
              helpAnchors.emplace_back(anchor);
              return helpOpens;
          },
-         &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; }}};
+         &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; },
+         UnitRegistry::defaultLimit, &neighbours}};
 };
 
 } // namespace kx

@@ -151,6 +151,35 @@ TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
     EXPECT_EQ(quietLine(), "The unit now shows 10.0.0.7 as its internal IP address.");
 }
 
+TEST_F(ControllerQuietLine, SaysWhenTheARPEntryIsNotOnTheLinkOfTheCommand) {
+    constexpr std::uint32_t newAddress = 0x0A000007U;
+    constexpr std::uint32_t link = 7;
+    const std::string sentence = "Sent ^^IdI0A000007. The unit has not answered yet.";
+    const std::string elsewhere = sentence + " The ARP entry for 10.0.0.7 is not on the interface "
+                                             "by which the command left, so the unit may not have "
+                                             "heard it.";
+    const auto lineAfterMove = [&] {
+        controller.discoverButton();
+        systemCalls.queueDatagram(SampleUnit().reply(), dataForAddress(0xC0A8010AU, 3520), link);
+        runLoop.makeReadable(systemCalls.lastDescriptor());
+        runLoop.advanceBy(2000ms);
+        apply(UnitParameter::internalIPAddress, "10.0.0.7");
+        EXPECT_EQ(quietLine(), sentence) << "the tool is still at work";
+        authority.endTools(0);
+        return quietLine();
+    };
+    using enum NeighbourState;
+    EXPECT_EQ(lineAfterMove(), elsewhere);
+    neighbours.entriesOnLinks[{newAddress, 2}] = {permanent, "00:1a:2b:3c:4d:5e"};
+    EXPECT_EQ(lineAfterMove(), elsewhere);
+    neighbours.entriesOnLinks[{newAddress, link}] = {reachable, "00:1a:2b:3c:4d:5e"};
+    EXPECT_EQ(lineAfterMove(), elsewhere) << "the entry is not fixed";
+    neighbours.entriesOnLinks[{newAddress, link}] = {permanent, "00:1a:2b:3c:4d:5f"};
+    EXPECT_EQ(lineAfterMove(), elsewhere) << "it is that of another host";
+    neighbours.entriesOnLinks[{newAddress, link}] = {permanent, "00:1a:2b:3c:4d:5e"};
+    EXPECT_EQ(lineAfterMove(), sentence);
+}
+
 TEST_F(ControllerQuietLine, SaysWhyThereIsNoARPEntry) {
     const std::string none =
         "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7: ";
@@ -168,16 +197,17 @@ TEST_F(ControllerQuietLine, SaysWhyThereIsNoARPEntry) {
 
 TEST_F(ControllerQuietLine, TellsRefusedRightsFromAnAddressThatTheToolCannotTake) {
     const std::string none =
-        "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7ü: ";
+        "Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was made for 10.0.0.7";
     discover({SampleUnit()});
     authority.answerDialogsWith(errAuthorizationDenied);
-    apply(UnitParameter::internalIPAddress, "10.0.0.7ü");
-    EXPECT_EQ(quietLine(), none + "administrator rights were not given.");
+    apply(UnitParameter::internalIPAddress, "10.0.0.7");
+    EXPECT_EQ(quietLine(), none + ": administrator rights were not given.");
 
     receive(SampleUnit().reply());
-    authority.answerDialogsWith(errAuthorizationSuccess);
-    controller.applyEditParameterButton();
-    EXPECT_EQ(quietLine(), none + "it can hold ASCII characters only.");
+    const auto dialogs = authority.dialogs();
+    apply(UnitParameter::internalIPAddress, "10.0.0.7ü");
+    EXPECT_EQ(quietLine(), none + "ü: it can hold ASCII characters only.");
+    EXPECT_EQ(authority.dialogs(), dialogs) << "nobody is asked in vain";
 }
 
 TEST_F(ControllerQuietLine, AToolThatFailsForAnEditOfThePastIsNotMentioned) {

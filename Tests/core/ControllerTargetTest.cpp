@@ -11,7 +11,8 @@ const std::string noUnit =
 const std::string noAddress = "The address of this unit is not known: Restore Defaults, like "
                               "Reload, reaches every unit that hears it.";
 const std::string addressOfMany = "This unit tells an address of many as its own: Restore "
-                                  "Defaults, like Reload, reaches every unit that hears it.";
+                                  "Defaults, like Reload, Apply and Send, reaches every unit that "
+                                  "hears it.";
 
 class ControllerTarget : public ControllerTest {
 protected:
@@ -91,13 +92,65 @@ TEST_F(ControllerTarget, IsEverybodyWhenTheUnitTellsAnAddressOfMany) {
     SampleUnit broadcaster;
     broadcaster.internalIP = {192, 168, 1, 255};
     discover({broadcaster});
-    expectUnitAt(
-        "192.168.1.255"); // no interface is chosen, so which subnets there are is not known
+    expectEverybody(addressOfMany); // though no interface is chosen
     chooseInterface();
     expectEverybody(addressOfMany);
     broadcaster.internalIP = {255, 255, 255, 255};
     receive(broadcaster.reply());
     expectEverybody(addressOfMany);
+}
+
+TEST_F(ControllerTarget, IsEverybodyAtTheBroadcastAddressOfAnotherInterface) {
+    interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
+    chooseInterface();
+    SampleUnit broadcaster;
+    broadcaster.internalIP = {10, 1, 255, 255};
+    discover({SampleUnit()});
+    expectUnitAt("192.168.1.10");
+    receive(broadcaster.reply());
+    expectEverybody(addressOfMany);
+}
+
+TEST_F(ControllerTarget, IsLookedAtAgainWhenAButtonIsPressed) {
+    SampleUnit broadcaster;
+    broadcaster.internalIP = {10, 1, 255, 255};
+    discover({broadcaster});
+    expectUnitAt("10.1.255.255");
+    const auto press = [&](const auto& button) {
+        interfaces.clear();
+        selectUnit("01 02 03 04 05 06");
+        expectUnitAt("10.1.255.255");
+        interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
+        button();
+        expectEverybody(addressOfMany);
+    };
+    press([&] { controller.restoreDefaultSettings(); });
+    press([&] { controller.reloadUnitParameterButton(); });
+    press([&] { apply(UnitParameter::destinationPortNumber, "3521"); });
+    press([&] { controller.sendOptionButton(); });
+}
+
+TEST_F(ControllerTarget, IsEverybodyWhoMayThenAnswerDifferently) {
+    SampleUnit broadcaster;
+    broadcaster.internalIP = {192, 168, 1, 255};
+    const auto changesAreExpectedAfter = [&](const auto& button) {
+        discover({broadcaster, secondSampleUnit()});
+        button();
+        SampleUnit moved = secondSampleUnit();
+        moved.internalIP = {192, 168, 1, 99};
+        receive(moved.reply());
+        EXPECT_EQ(discoveryLine(), "");
+    };
+    changesAreExpectedAfter([&] { controller.restoreDefaultSettings(); });
+    changesAreExpectedAfter([&] { controller.sendOptionButton(); });
+    changesAreExpectedAfter([&] { apply(UnitParameter::destinationPortNumber, "3521"); });
+}
+
+TEST_F(ControllerTarget, IsEverybodyWhenNothingIsKnownOfTheSelectedUnitAnyMore) {
+    discover({SampleUnit()});
+    window.unitSelectPopUp.addItemsWithTitles({"0A 0B 0C 0D 0E 0F"});
+    selectUnit("0A 0B 0C 0D 0E 0F");
+    expectEverybody(noAddress);
 }
 
 TEST_F(ControllerTarget, StandsWhateverElseIsSaid) {

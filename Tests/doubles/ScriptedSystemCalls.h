@@ -76,7 +76,7 @@ public:
     void addLink(const std::string& name, std::uint32_t index) { _links[name] = index; }
     void removeLink(const std::string& name) { _links.erase(name); }
 
-    // Sets the value of errno with which linkForName() fails; 0 ends the failure.
+    // Sets the value of errno with which linkForName() and nameForLink() fail; 0 ends it.
     void failLinks(int errorNumber) { _linkFailure = errorNumber; }
 
     // Queues a datagram for receiveFrom(), which fails with EAGAIN when there is none.
@@ -252,6 +252,11 @@ public:
             return 0;
         }
         return found->second;
+    }
+    std::string nameForLink(std::uint32_t link) override {
+        const auto found = std::ranges::find_if(
+            _links, [link](const auto& entry) { return entry.second == link; });
+        return _linkFailure == 0 && found != _links.end() ? found->first : "";
     }
 
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,

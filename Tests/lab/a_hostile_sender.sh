@@ -4,16 +4,23 @@
 # COMPUTING is the number of them that the program may compute; a machine with other work causes the
 # rest. MEMORY is the number of MiB that the program may hold.
 #
-# usage, in the lab: a_hostile_sender.sh KXCONFIG SENDER SECONDS WAIT COMPUTING MEMORY [SEED]
+# With "full" the sender invents units only, and has to fill the program's list within the SECONDS.
+#
+# usage, in the lab: a_hostile_sender.sh KXCONFIG SENDER SECONDS WAIT COMPUTING MEMORY [SEED [full]]
 set -euo pipefail
 # shellcheck source=Tests/lab/expectations.sh
 source "${BASH_SOURCE[0]%/*}/expectations.sh"
 kxconfig=$1 sender=$2 seconds=$3 wait=$4 computing=$5 memory=$6 seed=${7:-$RANDOM}
+kinds=()
+if [ "${8:-}" = full ]; then
+    kinds=(invented)
+    export KX_SIEGE_FULL=yes
+fi
 readonly claimed=4B5800000001
 
 printf 'Seed: %s\n' "$seed"
 # Longer than any visit lasts.
-"$sender" 192.0.2.1 3520 "$((seconds + 120))" "$claimed" "$seed" >/dev/null &
+"$sender" 192.0.2.1 3520 "$((seconds + 120))" "$claimed" "$seed" ${kinds[@]+"${kinds[@]}"} >/dev/null &
 sender_pid=$!
 trap 'kill "$sender_pid" 2>/dev/null || true' EXIT
 

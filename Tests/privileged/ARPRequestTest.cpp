@@ -287,7 +287,9 @@ TEST(ARPRequest, TheHostsPolicyNamesTheToolAndItsVerbs) {
     EXPECT_EQ(count("exec.argv1\">-s</annotate>"), 1U);
     EXPECT_EQ(count("exec.argv1\">-d</annotate>"), 1U);
     EXPECT_EQ(count("/usr/sbin/arp"), 0U);
-    // Every language of the dialogs of these two shows the addresses.
+    // There is no other action, and every language of the dialogs of these two shows the addresses.
+    EXPECT_EQ(count("<action id="), 2U);
+    EXPECT_EQ(count("</message>"), 10U);
     EXPECT_EQ(count("$(command_line)</message>"), 10U);
 }
 

@@ -13,6 +13,8 @@
 
 namespace kx {
 
+static_assert(std::string_view(kxarp::arpTool) == arpToolPath);
+
 std::string privilegedToolOfAdministrator() {
     std::error_code error;
     const auto beside =

@@ -11,13 +11,13 @@
 
 #pragma once
 
+#include "addresses/ARPToolPath.h"
+
 #include <optional>
 #include <string>
 #include <vector>
 
 namespace kx {
-
-inline constexpr auto arpToolPath = "/usr/sbin/arp";
 
 // The place where kxarp is installed, which is the only place that the host's policy knows.
 inline constexpr auto privilegedToolPath = "/usr/libexec/kxconfig/kxarp";

@@ -5,7 +5,7 @@
 
 #pragma once
 
-#include "conversation/AddressHolders.h"
+#include "conversation/NeighbourTable.h"
 
 #include <memory>
 

@@ -14,10 +14,9 @@ constexpr auto launcherName = "pkexec";
 // pkexec(1): the dialog was dismissed. For every other reason not to run the tool it returns 127.
 constexpr int launcherDismissed = 126;
 
-// The actions of kxarp. The last one has a dialog without addresses, and includes the others.
+// The actions of kxarp, and that of every other program.
 constexpr auto enterAction = "org.kxconfig.KXConfig.set-arp-entry";
 constexpr auto takeOutAction = "org.kxconfig.KXConfig.remove-arp-entry";
-constexpr auto anyEntryAction = "org.kxconfig.KXConfig.change-arp-entries";
 constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
 
 // The action under which pkexec runs the tool of a right.
@@ -35,8 +34,6 @@ std::int32_t statusOf(PolkitAnswer answer) {
     switch (answer) {
     case PolkitAnswer::authorized:
         return errAuthorizationSuccess;
-    case PolkitAnswer::dismissed:
-        return errAuthorizationCanceled;
     case PolkitAnswer::nobodyAsked:
         return errAuthorizationInteractionNotAllowed;
     case PolkitAnswer::refused:
@@ -56,15 +53,11 @@ private:
         if (right.name != kAuthorizationRightExecute) {
             return errAuthorizationDenied;
         }
-        const auto answer = askPolkit(actionOfRun(right), false, waiting());
-        if (answer != PolkitAnswer::nobodyAsked || !mayAskPerson) {
-            return statusOf(answer);
-        }
-        if (!right.arguments.empty()) {
-            return begin(right.value, right.arguments);
-        }
-        return statusOf(askPolkit(right.value == arpToolPath ? anyEntryAction : anyToolAction, true,
-                                  waiting()));
+        const auto answer = askPolkit(actionOfRun(right), waiting());
+        // Nobody is asked about a run that is not known: the dialog could not say what it is for.
+        const bool isToBeAsked =
+            answer == PolkitAnswer::nobodyAsked && mayAskPerson && !right.arguments.empty();
+        return isToBeAsked ? begin(right.value, right.arguments) : statusOf(answer);
     }
 
     std::string programFor(const std::string& toolPath,

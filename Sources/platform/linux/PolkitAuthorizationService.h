@@ -9,9 +9,9 @@
 //
 // polkit takes words for its dialog only from the administrator, so that no program deceives a
 // person about its wishes. pkexec is the administrator's, and hands over the command line that it
-// is about to run. So a request that names the arguments is made through pkexec: the dialog shows
-// the addresses, and once the person has allowed it, the tool begins. A request without arguments
-// is made to polkit itself, and its dialog says that addresses will be entered.
+// is about to run. So every question is asked through pkexec: the dialog shows the addresses, and
+// once the person has allowed it, the tool begins. About a request without arguments nobody is
+// asked, because its dialog could not say what will be run.
 //
 // An application cannot take its own grant back from polkit. A right that was granted under a
 // destroyed reference is not held under the next one. But while polkit still keeps the grant, a
@@ -19,9 +19,9 @@
 //
 // Status codes of a request: errAuthorizationCanceled when the dialog was dismissed or the person
 // gave up waiting, errAuthorizationToolExecuteFailure when arguments are named and there is no
-// kxarp or no pkexec, errAuthorizationInteractionNotAllowed when nobody was to be asked or there is
-// no dialog to ask with, otherwise errAuthorizationDenied. Status codes of a run:
-// errAuthorizationCanceled and errAuthorizationDenied in the same cases,
+// kxarp or no pkexec, errAuthorizationInteractionNotAllowed when a person would have to be asked
+// but was not to be, or no arguments are named, otherwise errAuthorizationDenied. Status codes of a
+// run: errAuthorizationCanceled and errAuthorizationDenied in the same cases,
 // errAuthorizationToolExecuteFailure without the tool or pkexec. create() returns null without a
 // system bus or polkit on it.
 

@@ -31,9 +31,6 @@ const QString authorityPath = QStringLiteral("/org/freedesktop/PolicyKit1/Author
 const QString authorityInterface = QStringLiteral("org.freedesktop.PolicyKit1.Authority");
 const QString resultSignature = QStringLiteral("(bba{ss})");
 
-// Bit of CheckAuthorization's flags.
-constexpr quint32 allowUserInteraction = 1;
-
 // The time that the bus may take to answer, and the longer time that it may take to start polkit.
 constexpr std::chrono::milliseconds patienceWithBus{1000};
 constexpr std::chrono::milliseconds patienceWithStart{2000};
@@ -98,11 +95,7 @@ PolkitAnswer answerOf(const QDBusMessage& reply) {
     if (isAuthorized) {
         return PolkitAnswer::authorized;
     }
-    if (isChallenge) {
-        return PolkitAnswer::nobodyAsked;
-    }
-    return details.contains(QStringLiteral("polkit.dismissed")) ? PolkitAnswer::dismissed
-                                                                : PolkitAnswer::refused;
+    return isChallenge ? PolkitAnswer::nobodyAsked : PolkitAnswer::refused;
 }
 
 // The answer; an error when there is none in time, and when the person gives up.
@@ -140,20 +133,12 @@ QDBusMessage questionToPolkit(const QString& method) {
     return QDBusMessage::createMethodCall(authorityName, authorityPath, authorityInterface, method);
 }
 
-// A name for a question, by which it can be taken back. It is unique on its connection.
-const QString nameOfQuestion = QStringLiteral("question");
-
-QDBusMessage questionAbout(const std::string& action, quint32 flags) {
+QDBusMessage questionAbout(const std::string& action) {
+    constexpr quint32 askNobody = 0;
     auto question = questionToPolkit(QStringLiteral("CheckAuthorization"));
     question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
-             << QVariant::fromValue(noDetails()) << flags << nameOfQuestion;
+             << QVariant::fromValue(noDetails()) << askNobody << QString();
     return question;
-}
-
-void takeBack(SystemBus& bus) {
-    auto word = questionToPolkit(QStringLiteral("CancelCheckAuthorization"));
-    word << nameOfQuestion;
-    bus.call(word, patienceWithBus).waitForFinished(); // the connection ends afterwards
 }
 
 // Looks from time to time whether polkit answers a question that needs nobody.
@@ -199,29 +184,11 @@ std::function<bool()> watchPolkitForSilence() {
     return [watch = std::make_shared<SilenceWatch>()] { return watch->isSilent(); };
 }
 
-PolkitAnswer askPolkit(const std::string& action, bool mayAskPerson, Waiting& waiting) {
+PolkitAnswer askPolkit(const std::string& action, Waiting& waiting) {
     SystemBus bus(hearNothing, patienceWithBus);
-    if (!isPolkitOn(bus, waiting)) {
-        return PolkitAnswer::unreachable;
-    }
-    if (!mayAskPerson) {
-        return answerOf(answerTo(bus, questionAbout(action, 0), patienceWithPolkit, waiting));
-    }
-    const QDBusPendingCall call =
-        bus.call(questionAbout(action, allowUserInteraction), SystemBus::endlessPatience);
-    const auto hasFallenSilent = watchPolkitForSilence();
-    bool isSilent = false;
-    waiting.until(
-        [&] {
-            isSilent = hasFallenSilent();
-            return isSilent || call.isFinished();
-        },
-        localizedText("Waiting for administrator rights."));
-    if (call.isFinished()) {
-        return answerOf(call.reply());
-    }
-    takeBack(bus);
-    return isSilent ? PolkitAnswer::unreachable : PolkitAnswer::dismissed;
+    return isPolkitOn(bus, waiting)
+               ? answerOf(answerTo(bus, questionAbout(action), patienceWithPolkit, waiting))
+               : PolkitAnswer::unreachable;
 }
 
 } // namespace kx

@@ -6,6 +6,7 @@
 #include "ExchangeFixture.h"
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
+#include "doubles/ScriptedNeighbours.h"
 
 #include <functional>
 #include <map>
@@ -15,16 +16,6 @@
 #include <vector>
 
 namespace kx {
-
-class ScriptedNeighbours final : public NeighbourTable {
-public:
-    std::map<std::uint32_t, Neighbour> entries;
-
-    std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t /*link*/) override {
-        const auto found = entries.find(address);
-        return found != entries.end() ? std::optional(found->second) : std::nullopt;
-    }
-};
 
 class ScriptedProbes final : public AddressProbes {
 public:

@@ -23,6 +23,7 @@ struct Told {
     std::string address = "192.168.1.10";
     std::string sender = "192.168.1.10";
     std::string hardwareAddress = firstMAC;
+    std::uint32_t link = 1;
 };
 
 class DiscoveryFindingsTest : public testing::Test {
@@ -38,7 +39,13 @@ protected:
         set(internalIPAddress, told.address);
         set(internalMACAddress, told.hardwareAddress);
         return findings.unitDidTell(
-            record, {.sender = dataForAddress(ipForString(told.sender), 3520), .link = 1});
+            record, {.sender = dataForAddress(ipForString(told.sender), 3520), .link = told.link});
+    }
+
+    // The same without parameters.
+    bool reply(const std::string& serial, const std::string& sender, std::uint32_t link = 1) {
+        return findings.replyDidCome(
+            serial, {.sender = dataForAddress(ipForString(sender), 3520), .link = link});
     }
 
     const Finding twoHosts = TwoHostsOfOneSerial{firstUnit, "192.168.1.10", "192.168.1.99"};
@@ -88,6 +95,46 @@ TEST_F(DiscoveryFindingsTest, AHardwareAddressThatIsNotToldIsNoOther) {
     tell({});
     EXPECT_FALSE(tell({.hardwareAddress = ""}));
     EXPECT_EQ(findings.all(), Findings());
+}
+
+TEST_F(DiscoveryFindingsTest, AReplyWithoutParametersFromAnotherSenderIsAnotherHost) {
+    tell({});
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10"));
+    EXPECT_TRUE(reply(firstUnit, "192.168.1.99"));
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.99"));
+    EXPECT_EQ(findings.all(), Findings{twoHosts});
+}
+
+TEST_F(DiscoveryFindingsTest, TwoHostsThatTellNoParametersAreTwoHostsToo) {
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10"));
+    EXPECT_FALSE(reply(secondUnit, "192.168.1.99"));
+    EXPECT_TRUE(reply(firstUnit, "192.168.1.99"));
+    EXPECT_EQ(findings.all(), Findings{twoHosts});
+}
+
+TEST_F(DiscoveryFindingsTest, AUnitMayAcceptItsMoveAtItsOldAddress) {
+    tell({});
+    findings.expectChange(firstUnit);
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10"));
+    EXPECT_FALSE(tell({.address = "10.0.0.7", .sender = "10.0.0.7"}));
+    EXPECT_TRUE(reply(firstUnit, "192.168.1.10")) << "but not after it has told the new one";
+}
+
+TEST_F(DiscoveryFindingsTest, AUnitMayBeHeardOnOneInterfaceOnly) {
+    const Finding twoInterfaces = UnitOnTwoInterfaces{firstUnit, 1, 7};
+    tell({});
+    EXPECT_FALSE(tell({.link = 0})) << "the system does not tell it";
+    EXPECT_FALSE(tell({secondUnit, "192.168.1.11", "192.168.1.11", secondMAC, 7}));
+    EXPECT_TRUE(tell({.link = 7}));
+    EXPECT_FALSE(tell({.link = 8})) << "it is told once";
+    EXPECT_EQ(findings.all(), Findings{twoInterfaces});
+    findings.begin({});
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10"));
+    EXPECT_TRUE(reply(firstUnit, "192.168.1.10", 7));
+    EXPECT_EQ(findings.weightiest(), twoInterfaces);
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10", 7));
+    findings.expectChange(firstUnit);
+    EXPECT_FALSE(reply(firstUnit, "192.168.1.10", 7));
 }
 
 TEST_F(DiscoveryFindingsTest, TwoSerialNumbersMayNotHaveOneAddress) {

@@ -71,4 +71,24 @@ TEST_F(InterfaceAddressOfHost, ConfigurationOfAnUnexpectedShapeIsNoAddress) {
     }
 }
 
+TEST_F(InterfaceAddressOfHost, HasABroadcastAddressWhereItsSubnetHasOne) {
+    EXPECT_EQ(broadcastAddressOf({.address = 0xC0A80114U, .mask = 0xFFFFFF00U}), 0xC0A801FFU);
+    EXPECT_EQ(broadcastAddressOf({.address = 0xC0A80111U, .mask = 0xFFFFFFFCU}), 0xC0A80113U);
+    EXPECT_EQ(broadcastAddressOf({.address = 0xC0A80114U}), 0xFFFFFFFFU) << "without a mask";
+    EXPECT_EQ(broadcastAddressOf({.address = 0xC0A80114U, .mask = 0xFFFFFFFEU}), std::nullopt);
+    EXPECT_EQ(broadcastAddressOf({.address = 0xC0A80114U, .mask = 0xFFFFFFFFU}), std::nullopt);
+    EXPECT_EQ(broadcastAddressOf({.mask = 0xFFFFFF00U}), std::nullopt);
+}
+
+TEST_F(InterfaceAddressOfHost, HasTheBroadcastAddressesOfAllAddressesOfAllInterfaces) {
+    set("Addresses", PropertyList{"192.168.1.20", "10.9.9.9", "10.0.0.1", "not an address"});
+    set("SubnetMasks", PropertyList{"255.255.255.0", "255.0.0.0", "255.255.255.255", "255.0.0.0"});
+    interfaces.addTitle("Tunnel (tun0)", "=tun0");
+    interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
+    EXPECT_EQ(broadcastAddressesOfHost(interfaces),
+              (std::vector<std::uint32_t>{0xC0A801FFU, 0x0AFFFFFFU, 0x0A01FFFFU}));
+    interfaces.clear();
+    EXPECT_TRUE(broadcastAddressesOfHost(interfaces).empty());
+}
+
 } // namespace kx

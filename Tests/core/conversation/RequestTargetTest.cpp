@@ -13,12 +13,12 @@ using enum UnitParameter;
 using enum RequestReach;
 
 // 192.168.1.255 and 10.255.255.255.
-constexpr std::array<std::uint32_t, 2> addressesOfMany{0xC0A801FFU, 0x0AFFFFFFU};
+constexpr std::array<std::uint32_t, 2> broadcastAddresses{0xC0A801FFU, 0x0AFFFFFFU};
 
 RequestReach reachOfUnitAt(std::string_view address) {
     UnitRecord record;
     record.setValue(internalIPAddress, address);
-    return targetOfRequest(&record, addressesOfMany).reach;
+    return targetOfRequest(true, &record, broadcastAddresses).reach;
 }
 
 } // namespace
@@ -26,27 +26,32 @@ RequestReach reachOfUnitAt(std::string_view address) {
 TEST(RequestTarget, IsTheUnitAtTheAddressThatItTells) {
     UnitRecord record;
     record.setValue(internalIPAddress, "192.168.1.10");
-    EXPECT_EQ(targetOfRequest(&record, addressesOfMany),
+    EXPECT_EQ(targetOfRequest(true, &record, broadcastAddresses),
               (RequestTarget{.reach = oneUnit, .address = 0xC0A8010AU}));
 }
 
 TEST(RequestTarget, IsEverybodyWithoutAUnitOrWithoutItsAddress) {
-    EXPECT_EQ(targetOfRequest(nullptr, addressesOfMany),
+    EXPECT_EQ(targetOfRequest(false, nullptr, broadcastAddresses),
               (RequestTarget{.reach = everybodyWithoutUnit}));
     const UnitRecord record;
-    EXPECT_EQ(targetOfRequest(&record, addressesOfMany),
+    EXPECT_EQ(targetOfRequest(true, &record, broadcastAddresses),
+              (RequestTarget{.reach = everybodyWithoutAddress}));
+}
+
+TEST(RequestTarget, IsEverybodyWhenNothingIsKnownOfTheSelectedUnitAnyMore) {
+    EXPECT_EQ(targetOfRequest(true, nullptr, broadcastAddresses),
               (RequestTarget{.reach = everybodyWithoutAddress}));
 }
 
 TEST(RequestTarget, IsEverybodyAtAnAddressOfMany) {
-    EXPECT_EQ(reachOfUnitAt("192.168.1.255"), everybodyAtItsAddress);
-    EXPECT_EQ(reachOfUnitAt("10.255.255.255"), everybodyAtItsAddress);
-    EXPECT_EQ(reachOfUnitAt("255.255.255.255"), everybodyAtItsAddress);
-    EXPECT_EQ(reachOfUnitAt("224.0.0.1"), everybodyAtItsAddress);
-    EXPECT_EQ(reachOfUnitAt("239.255.255.255"), everybodyAtItsAddress);
-    EXPECT_EQ(reachOfUnitAt("223.255.255.255"), oneUnit);
-    EXPECT_EQ(reachOfUnitAt("240.0.0.0"), oneUnit);
-    EXPECT_EQ(reachOfUnitAt("192.168.2.255"), oneUnit) << "which subnets there are is not known";
+    for (const auto* const address : {"192.168.1.255", "10.255.255.255", "255.255.255.255",
+                                      "224.0.0.1", "239.255.255.255", "0.0.0.0", "no address"}) {
+        EXPECT_EQ(reachOfUnitAt(address), everybodyAtItsAddress) << address;
+    }
+    for (const auto* const address :
+         {"223.255.255.255", "240.0.0.0", "192.168.2.255", "192.168.1.254", "0.0.0.1"}) {
+        EXPECT_EQ(reachOfUnitAt(address), oneUnit) << address;
+    }
 }
 
 } // namespace kx

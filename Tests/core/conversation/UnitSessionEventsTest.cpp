@@ -90,6 +90,27 @@ TEST_F(UnitSessionEvents, ADatagramThatBreaksItsFormatIsCountedAndLeftToTheSyste
     EXPECT_TRUE(registry.records().empty());
 }
 
+TEST_F(UnitSessionEvents, ADatagramThatIsNotToldMovesNoUnitToItsLink) {
+    const auto linkInRegistry = [&] { return registry.find("01 02 03 04 05 06")->link(); };
+    const auto receiveBySeven = [&](const Bytes& datagram) {
+        systemCalls.queueDatagram(datagram, dataForAddress(unitAddress, 3520), 7);
+        runLoop.makeReadable(systemCalls.lastDescriptor());
+    };
+    receive(SampleUnit().reply());
+    Bytes cutShort = SampleUnit().reply();
+    cutShort.pop_back();
+    receiveBySeven(cutShort);
+    EXPECT_EQ(linkInRegistry(), 3U);
+    for (const Bytes& told :
+         {SampleUnit().acknowledgement(), joined({SampleUnit().header(), textBytes("hello")}),
+          joined({SampleUnit().header(), secondSampleUnit().parameterList()})}) {
+        receive(SampleUnit().reply());
+        EXPECT_EQ(linkInRegistry(), 3U);
+        receiveBySeven(told);
+        EXPECT_EQ(linkInRegistry(), 7U);
+    }
+}
+
 TEST_F(UnitSessionEvents, AnExceptionOfThePlatformInsideAnEventGoesToTheSystemLog) {
     for (const std::string& event :
          {"parameters of " + unitItself, "acceptance of " + unitItself}) {

@@ -189,6 +189,20 @@ TEST_F(AuthorizationTest, AnArgumentThatIsNotASCIIIsLoggedAndNothingRuns) {
     EXPECT_EQ(log.lines(), Words{"Character conversion exception: d\xC3\xA9j\xC3\xA0"});
 }
 
+TEST_F(AuthorizationTest, NobodyIsAskedAboutAnArgumentThatIsNotASCII) {
+    service.answerDialogsWith(errAuthorizationDenied);
+    EXPECT_TRUE(authorization.authenticate({"-s", "d\xC3\xA9j\xC3\xA0"}));
+    EXPECT_TRUE(service.requests().empty());
+    EXPECT_EQ(authorization.runToolWithArgs({"-s", "d\xC3\xA9j\xC3\xA0"}), -1);
+    EXPECT_TRUE(service.runs().empty());
+    EXPECT_FALSE(authorization.isAuthenticated()) << "it is no right";
+}
+
+TEST_F(AuthorizationTest, WithoutAnAuthorityThereAreNoRightsForThemEither) {
+    service.beAbsent();
+    EXPECT_FALSE(authorization.authenticate({"d\xC3\xA9j\xC3\xA0"}));
+}
+
 TEST_F(AuthorizationTest, ArgumentsAreLookedAtBeforeTheReference) {
     EXPECT_EQ(authorization.runToolWithArgs({"\xC3\xA9"}), -1);
     EXPECT_EQ(authorization.runToolWithArgs(Words(32, "x")), -1);

@@ -116,6 +116,10 @@ TEST(EditOutcomeText, SaysWhyThereIsNoARPEntry) {
     EXPECT_EQ(text(ARPEntryState::notStarted, -60002),
               none + "the ARP tool was not started (-60002).");
     EXPECT_EQ(text(ARPEntryState::ended, 255), none + "the ARP tool ended with status 255.");
+    EXPECT_EQ(text(ARPEntryState::onAnotherLink),
+              sent +
+                  " The ARP entry for 10.0.0.7 is not on the interface by which the command left, "
+                  "so the unit may not have heard it.");
     EXPECT_EQ(textWithARPEntry("10.0.0.7ü", {ARPEntryState::notASCII}),
               sent + " No ARP entry was made for 10.0.0.7ü: it can hold ASCII characters only.");
 }

@@ -61,6 +61,19 @@ TEST(FindingText, NamesTheHostsAndUnitsThatContradictEachOther) {
               "from 10.0.0.9.");
 }
 
+TEST(FindingText, NamesTheInterfacesWhereTheHostKnowsThem) {
+    const UnitOnTwoInterfaces unit{"01 02 03 04 05 06", 2, 7};
+    const auto nameOfLink = [](std::uint32_t link) -> std::string {
+        return link == 2 ? "eth0" : "";
+    };
+    EXPECT_EQ(
+        textOfFinding(unit, nameOfLink),
+        "The unit 01 02 03 04 05 06 is heard on two interfaces: eth0 and 7. Commands leave by "
+        "the one on which it was heard last.");
+    EXPECT_TRUE(textOfFinding(unit).ends_with("interfaces: 2 and 7. Commands leave by the one on "
+                                              "which it was heard last."));
+}
+
 TEST(FindingText, IsLookedUpAsAWhole) {
     const MarkedLocalizedText marked;
     EXPECT_TRUE(textOfFinding(DroppedDatagrams{1}).starts_with("<The system dropped 1 datagram "));

@@ -39,7 +39,7 @@ protected:
             line.unitDidAccept(unit, {});
             line.unitDidTell(unit, recordWith(destinationPortNumber, "3523"));
         }
-        line.arpToolDidEnd(1);
+        line.arpToolDidEnd(arpEntryForEndOfTool(1));
     }
 
     template<class State>
@@ -207,17 +207,17 @@ TEST_F(QuietLineTest, AnOutcomeIsForgottenWhenAnotherUnitIsShown) {
 TEST_F(QuietLineTest, TheEndOfAToolBelongsToTheOutcomeOfAMove) {
     line.showOutcome(moveOutcome());
     taken();
-    line.arpToolDidEnd(255);
+    line.arpToolDidEnd(arpEntryForEndOfTool(255));
     EXPECT_EQ(taken(), Said{"Sent ^^IdI0A000007. The unit has not answered yet. No ARP entry was "
                             "made for 10.0.0.7: the ARP tool ended with status 255."});
-    line.arpToolDidEnd(0);
+    line.arpToolDidEnd(arpEntryForEndOfTool(0));
     EXPECT_EQ(taken(), Said{"Sent ^^IdI0A000007. The unit has not answered yet."});
 }
 
 TEST_F(QuietLineTest, TheEndOfAToolDoesNotTouchTheOutcomeOfAnotherParameter) {
     line.showOutcome(portOutcome());
     taken();
-    line.arpToolDidEnd(255);
+    line.arpToolDidEnd(arpEntryForEndOfTool(255));
     EXPECT_EQ(taken(), Said{});
     EXPECT_EQ(std::get<EditOutcome>(line.state()).arpEntry(), ARPEntry());
 }

@@ -28,7 +28,8 @@ TEST(RequestTargetText, SaysThatEveryUnitIsReachedAndWhy) {
     EXPECT_EQ(warningOfTarget({.reach = everybodyWithoutAddress}),
               "The address of this unit is not known" + everybody);
     EXPECT_EQ(warningOfTarget({.reach = everybodyAtItsAddress}),
-              "This unit tells an address of many as its own" + everybody);
+              "This unit tells an address of many as its own: Restore Defaults, like Reload, Apply "
+              "and Send, reaches every unit that hears it.");
     for (const auto reach :
          {everybodyWithoutUnit, everybodyWithoutAddress, everybodyAtItsAddress}) {
         EXPECT_EQ(descriptionOfReload({.reach = reach}),

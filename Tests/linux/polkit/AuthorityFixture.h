@@ -42,7 +42,6 @@ class AuthorityFixture : public testing::Test {
 protected:
     static constexpr auto arpTool = "/usr/sbin/arp";
     static constexpr auto arpAction = "org.kxconfig.KXConfig.set-arp-entry";
-    static constexpr auto anyEntryAction = "org.kxconfig.KXConfig.change-arp-entries";
     static constexpr auto anyToolAction = "org.freedesktop.policykit.exec";
     static constexpr auto shell = "/bin/sh";
     static constexpr std::uint32_t asking = kAuthorizationFlagInteractionAllowed;

@@ -23,11 +23,11 @@ using Actions = std::vector<std::string>;
 class AnAllowingPerson : public AuthorityFixture {};
 
 TEST_F(AnAllowingPerson, IsAskedOnce) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationSuccess);
     EXPECT_EQ(neighbourInTime(), unitAddress);
-    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
+    EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
 TEST_F(AnAllowingPerson, IsShownTheAddressesAndAskedOnceForTheQuestionAndTheRun) {
@@ -64,10 +64,24 @@ TEST_F(AnAllowingPerson, WhoAllowsToEnterAnAddressAllowsToTakeItOut) {
     EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
-TEST_F(AnAllowingPerson, IsAskedWithoutAddressesWhenNoneAreNamed) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
-    EXPECT_EQ(messages().at(0).find("$("), std::string::npos) << messages()[0];
+TEST_F(AnAllowingPerson, IsNotAskedAboutARunThatIsNotKnown) {
+    for (const auto* const tool : {arpTool, shell}) {
+        EXPECT_EQ(reference->copyRights(rightOf(tool), asking | keeping),
+                  errAuthorizationInteractionNotAllowed);
+    }
+    EXPECT_FALSE(Authorization(*service, arpTool).authenticate());
+    EXPECT_EQ(dialogs(), Actions{});
+    EXPECT_FALSE(hasChildren());
+}
+
+TEST_F(AnAllowingPerson, IsNotAskedAboutTextsThatTheToolNeverGets) {
+    const std::vector<std::string> words{"-s", "192.0.2.77\u00fc", unitAddress};
+    Authorization authorization(*service, arpTool);
+    EXPECT_TRUE(authorization.authenticate(words));
+    EXPECT_FALSE(hasChildren()) << "no launcher has begun";
+    EXPECT_EQ(authorization.runToolWithArgs(words), -1);
+    EXPECT_EQ(dialogs(), Actions{});
+    EXPECT_FALSE(hasChildren());
 }
 
 // A boundary that stands before the tool and not in the window.
@@ -104,34 +118,36 @@ TEST_F(AnAllowingPerson, IsNotAskedWhetherTheRightIsHeld) {
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
     EXPECT_EQ(dialogs(), Actions{});
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), Actions{anyEntryAction});
+    EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
 TEST_F(AnAllowingPerson, GrantsNothingForLaterWhenTheRightIsNotToBeKept) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking), errAuthorizationSuccess);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
 }
 
 TEST_F(AnAllowingPerson, GrantsTheRightToOneToolOnly) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(reference->copyRights(rightOf(shell), keeping),
               errAuthorizationInteractionNotAllowed);
-    EXPECT_EQ(reference->copyRights(rightOf(shell), asking | keeping), errAuthorizationSuccess);
-    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, anyToolAction}));
+    AuthorizationItem right = rightOf(shell);
+    right.arguments = {"-c", "exit 0"};
+    EXPECT_EQ(reference->copyRights(right, asking | keeping), errAuthorizationSuccess);
+    EXPECT_EQ(dialogs(), (Actions{arpAction, anyToolAction}));
 }
 
 TEST_F(AnAllowingPerson, GrantsNothingUnderTheNextReference) {
     Authorization authorization(*service, arpTool);
     EXPECT_FALSE(authorization.isAuthenticated());
     EXPECT_EQ(dialogs(), Actions{});
-    EXPECT_TRUE(authorization.authenticate());
+    EXPECT_TRUE(authorization.authenticate(enteringArguments()));
     EXPECT_TRUE(authorization.isAuthenticated());
     authorization.deauthenticate();
     EXPECT_FALSE(authorization.isAuthenticated());
-    EXPECT_TRUE(authorization.authenticate());
+    EXPECT_TRUE(authorization.authenticate(enteringArguments()));
     EXPECT_TRUE(authorization.isAuthenticated());
 }
 
@@ -163,11 +179,10 @@ TEST_F(AnAllowingPerson, IsAskedForNothingButRunningATool) {
 class ARefusingPerson : public AuthorityFixture {};
 
 TEST_F(ARefusingPerson, LeavesTheRightUnheld) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationDenied);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationDenied);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
-    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationDenied);
-    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, arpAction}));
+    EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
 TEST_F(ARefusingPerson, KeepsTheToolFromBeingStarted) {
@@ -181,11 +196,10 @@ TEST_F(ARefusingPerson, KeepsTheToolFromBeingStarted) {
 class ADismissingPerson : public AuthorityFixture {};
 
 TEST_F(ADismissingPerson, CancelsTheRequest) {
-    EXPECT_EQ(reference->copyRights(rightOf(arpTool), asking | keeping), errAuthorizationCanceled);
+    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationCanceled);
     EXPECT_EQ(reference->copyRights(rightOf(arpTool), keeping),
               errAuthorizationInteractionNotAllowed);
-    EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationCanceled);
-    EXPECT_EQ(dialogs(), (Actions{anyEntryAction, arpAction}));
+    EXPECT_EQ(dialogs(), Actions{arpAction});
 }
 
 TEST_F(ADismissingPerson, CancelsTheRun) {
@@ -204,7 +218,7 @@ TEST_F(NobodyAtTheDialogs, CanAllowAnything) {
     EXPECT_NE(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(runArp(), errAuthorizationDenied);
     EXPECT_EQ(neighbour(), "");
-    EXPECT_FALSE(Authorization(*service, arpTool).authenticate());
+    EXPECT_FALSE(Authorization(*service, arpTool).authenticate(enteringArguments()));
 }
 
 class ARuleThatAllows : public AuthorityFixture {};
@@ -254,8 +268,7 @@ TEST(ASilentBus, IsAsGoodAsNone) {
     const auto before = std::chrono::steady_clock::now();
     EventLoopWaiting waiting;
     EXPECT_FALSE(isPolkitThere(waiting));
-    EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", true, waiting),
-              PolkitAnswer::unreachable);
+    EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", waiting), PolkitAnswer::unreachable);
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(15));
 }
 

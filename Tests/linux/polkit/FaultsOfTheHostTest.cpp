@@ -15,12 +15,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// The parameter says whether the addresses are named, so that pkexec asks, or polkit is asked by
-// the application.
-class AThinkingPerson : public AuthorityFixture, public testing::WithParamInterface<bool> {
+class AThinkingPerson : public AuthorityFixture {
 protected:
-    static AuthorizationItem right() { return GetParam() ? rightToEnter() : rightOf(arpTool); }
-
     static void tellHost(const char* word) {
         std::ofstream(std::getenv("KX_HOST")) << word << std::endl;
     }
@@ -38,7 +34,7 @@ protected:
         });
         look.start(10);
         const auto begin = Clock::now();
-        const auto status = reference->copyRights(right(), asking | keeping);
+        const auto status = reference->copyRights(rightToEnter(), asking | keeping);
         lasted = Clock::now() - begin;
         return status;
     }
@@ -49,7 +45,8 @@ protected:
     void expectNothingCameOfIt() {
         EXPECT_EQ(neighbour(), "");
         EXPECT_TRUE(runLoopUntil(loop, [] { return !hasChildren(); }));
-        EXPECT_EQ(reference->copyRights(right(), keeping), errAuthorizationInteractionNotAllowed);
+        EXPECT_EQ(reference->copyRights(rightToEnter(), keeping),
+                  errAuthorizationInteractionNotAllowed);
     }
 
     using Clock = std::chrono::steady_clock;
@@ -57,7 +54,7 @@ protected:
     int turns = 0; // of the event loop, while a question was open
 };
 
-TEST_P(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationsPersonGivesUp) {
+TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationsPersonGivesUp) {
     waiting.giveUpAfter(1s);
     EXPECT_EQ(ask([] {}), errAuthorizationCanceled);
     EXPECT_LT(lasted, 5s);
@@ -66,14 +63,14 @@ TEST_P(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationsPersonGivesUp) {
     expectNothingCameOfIt();
 }
 
-TEST_P(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationIsToEnd) {
+TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationIsToEnd) {
     EXPECT_EQ(ask([] { QCoreApplication::exit(0); }), errAuthorizationCanceled);
     EXPECT_LT(lasted, 5s);
     EXPECT_TRUE(runLoopUntil(loop, isTakenBack));
     EXPECT_EQ(neighbour(), "");
 }
 
-TEST_P(AThinkingPerson, MayHaveTheirAgentEnd) {
+TEST_F(AThinkingPerson, MayHaveTheirAgentEnd) {
     const auto status = ask([] { tellHost("leave"); });
     EXPECT_TRUE(status == errAuthorizationDenied || status == errAuthorizationCanceled ||
                 status == errAuthorizationInteractionNotAllowed)
@@ -82,13 +79,13 @@ TEST_P(AThinkingPerson, MayHaveTheirAgentEnd) {
     expectNothingCameOfIt();
 }
 
-TEST_P(AThinkingPerson, MayHaveTheBusEnd) {
+TEST_F(AThinkingPerson, MayHaveTheBusEnd) {
     EXPECT_EQ(ask([] { tellHost("end"); }), errAuthorizationDenied);
     EXPECT_LT(lasted, 5s);
     expectNothingCameOfIt();
 }
 
-TEST_P(AThinkingPerson, MayHavePolkitHang) {
+TEST_F(AThinkingPerson, MayHavePolkitHang) {
     EXPECT_EQ(ask([] { tellHost("stop"); }), errAuthorizationDenied);
     EXPECT_GE(lasted, patienceWithPolkit);
     EXPECT_LT(lasted, patienceWithPolkit + 5s);
@@ -98,7 +95,7 @@ TEST_P(AThinkingPerson, MayHavePolkitHang) {
     expectNothingCameOfIt();
 }
 
-TEST_P(AThinkingPerson, MayGiveUpAPolkitThatHangs) {
+TEST_F(AThinkingPerson, MayGiveUpAPolkitThatHangs) {
     waiting.giveUpAfter(2s);
     EXPECT_EQ(ask([] { tellHost("stop"); }), errAuthorizationCanceled);
     EXPECT_LT(lasted, 5s);
@@ -107,7 +104,7 @@ TEST_P(AThinkingPerson, MayGiveUpAPolkitThatHangs) {
     expectNothingCameOfIt();
 }
 
-TEST_P(AThinkingPerson, IsNeverAskedByAPolkitThatHangsAlready) {
+TEST_F(AThinkingPerson, IsNeverAskedByAPolkitThatHangsAlready) {
     tellHost("stop");
     runLoopFor(loop, 300ms);
     EXPECT_EQ(ask([] {}), errAuthorizationDenied);
@@ -117,10 +114,6 @@ TEST_P(AThinkingPerson, IsNeverAskedByAPolkitThatHangsAlready) {
     tellHost("continue");
     expectNothingCameOfIt();
 }
-
-INSTANTIATE_TEST_SUITE_P(Asked, AThinkingPerson, testing::Bool(), [](const auto& parameter) {
-    return std::string(parameter.param ? "ByTheLauncher" : "ByTheApplication");
-});
 
 } // namespace
 

@@ -5,13 +5,15 @@
 //
 // Main thread only; run() waits in nested event loops. Environment: KX_SIEGE_SECONDS, the length of
 // the visit; KX_SIEGE_UNITS, the serial numbers of the real units, with commas in between;
-// KX_SIEGE_WAIT, the milliseconds that a person may have to wait; KX_SIEGE_COMPUTING, how many of
-// them the program may compute; KX_SIEGE_MEMORY, the most MiB that the program may ever hold.
+// KX_SIEGE_FULL, when it is set, that the flood has to fill the list first; KX_SIEGE_WAIT, the
+// milliseconds that a person may have to wait; KX_SIEGE_COMPUTING, how many of them the program may
+// compute; KX_SIEGE_MEMORY, the most MiB that the program may ever hold.
 
 #pragma once
 
 #include "driver/WindowDriver.h"
 
+#include <QDeadlineTimer>
 #include <QStringList>
 
 namespace kx {
@@ -20,20 +22,22 @@ class Siege final {
 public:
     explicit Siege(WindowDriver& driver);
 
-    // Stays the whole time, and prints its results. Throws a VisitFailure when a unit was not
-    // found in the end, when a person had to wait too long, when the list or the program grew
-    // beyond its limit, and when there was no flood.
+    // Stays the whole time, and prints its results. Throws a VisitFailure when a Discover did not
+    // find each unit, nor a second one where the system dropped datagrams, when a person had to
+    // wait too long, when the program grew beyond its limit, when there was no flood, and when the
+    // list was to be full and was not, or grew beyond its limit.
     void run();
 
 private:
     void discover();
-    void lookForUnits();
+    void fillList(const QDeadlineTimer& end);
+    void findUnits();
+    QStringList missedUnits();
 
     WindowDriver& _driver;
     const QStringList _serials;
-    QStringList _missed; // units that the last Discover did not find
-    int _found = 0;
     int _discoveries = 0;
+    int _repeated = 0;
     int _listed = 0;
 };
 

@@ -1,0 +1,38 @@
+// What the system knows of the hosts on its links: its neighbour table, the ARP cache.
+//
+// Threading: the thread of the run loop. Ownership: its users do not own it; it must outlive them.
+// Addresses are in host byte order, hardware addresses are hexadecimal
+// texts with colons, links are indexes of interfaces.
+
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace kx {
+
+// What the system's neighbour table says of an address (RFC 4861 names the states).
+enum class NeighbourState {
+    asking,    // the system is asking for the hardware address
+    reachable, // it has been confirmed lately
+    stale,     // it was known once, and nobody has confirmed it since
+    failed,    // nobody answered
+    permanent, // somebody entered it by hand
+};
+
+struct Neighbour {
+    NeighbourState state = NeighbourState::asking;
+    std::string hardwareAddress; // empty while it is not known
+};
+
+class NeighbourTable {
+public:
+    virtual ~NeighbourTable() = default;
+
+    // The entry of an address on a link; absent when there is none, and when the system does not
+    // tell. Returns at once.
+    virtual std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) = 0;
+};
+
+} // namespace kx

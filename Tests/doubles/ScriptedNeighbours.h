@@ -1,0 +1,31 @@
+// The entries of a neighbour table, written by the test.
+
+#pragma once
+
+#include "conversation/NeighbourTable.h"
+
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace kx {
+
+class ScriptedNeighbours final : public NeighbourTable {
+public:
+    std::map<std::uint32_t, Neighbour> entries; // by address, on every link
+
+    // The entries that stand on one link only, by address and link.
+    std::map<std::pair<std::uint32_t, std::uint32_t>, Neighbour> entriesOnLinks;
+
+    std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) override {
+        const auto onLink = entriesOnLinks.find({address, link});
+        if (onLink != entriesOnLinks.end()) {
+            return onLink->second;
+        }
+        const auto found = entries.find(address);
+        return found != entries.end() ? std::optional(found->second) : std::nullopt;
+    }
+};
+
+} // namespace kx
