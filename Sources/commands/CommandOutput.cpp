@@ -15,7 +15,6 @@ namespace kx {
 namespace {
 
 constexpr std::chrono::milliseconds timeBetweenProgress{100};
-constexpr std::chrono::milliseconds timeForSignal{50};
 
 constexpr std::string_view beginningOfLine = "\r\x1b[K"; // and nothing on it
 
@@ -88,20 +87,20 @@ std::optional<std::string> CommandRun::ask(const std::string& question) {
     }
     endProgress();
     _services.console.writeNote(question + " ");
-    auto answer = _services.console.readLine();
+    std::optional<std::string> answer;
+    bool isOver = false;
+    const auto reading =
+        _services.console.readLine(_services.session.runLoop, [&](std::optional<std::string> line) {
+            answer = std::move(line);
+            isOver = true;
+        });
+    if (reading != nullptr) {
+        _services.session.runLoop.runUntil([&] { return isOver || isInterrupted(); });
+    }
     if (!answer.has_value()) {
         _services.console.writeNote("\n");
-        takeSignal();
     }
     return answer;
-}
-
-// A signal that ended the question waits for a turn of the loop.
-void CommandRun::takeSignal() {
-    bool isOver = false;
-    const auto moment =
-        _services.session.runLoop.callOnceAfter(timeForSignal, [&isOver] { isOver = true; });
-    _services.session.runLoop.runUntil([&] { return isOver || isInterrupted(); });
 }
 
 void CommandRun::tellFailure(const Failure& failure) {

@@ -325,7 +325,7 @@ CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) 
 
 // A command to an address of many would reach others too.
 CommandRun::Refusal CommandRun::objectionToReach(const HeardUnit& unit) const {
-    const RequestTarget target = targetOfRequest(&unit.record, addressesOfMany(_interfaces));
+    const RequestTarget target = targetOfRequest(true, &unit.record, addressesOfMany(_interfaces));
     if (target.reach == RequestReach::oneUnit ||
         target.reach == RequestReach::everybodyWithoutAddress) {
         return std::nullopt;

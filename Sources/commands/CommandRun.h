@@ -151,7 +151,6 @@ private:
     Failure interruption() const;
     Refusal objectionToReach(const HeardUnit& unit) const;
     void tellFailure(const Failure& failure);
-    void takeSignal();
 
     const CommandLine& _line;
     CommandServices _services;

@@ -6,7 +6,9 @@
 #pragma once
 
 #include "support/Error.h"
+#include "support/RunLoop.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -39,9 +41,11 @@ public:
     // Whether the person wants no colours (no-color.org), or the terminal has none.
     virtual bool isPlain() const = 0;
 
-    // One line from standard input, without its line break. Absent at its end, and when a signal
-    // came. Blocks.
-    virtual std::optional<std::string> readLine() = 0;
+    // Reads one line from standard input while the loop runs, and calls `done` once with it,
+    // without its line break; absent at the end of the input. Destroying the handle ends the
+    // reading. Null when standard input cannot be watched. One reading at a time.
+    virtual RunLoop::Handle readLine(RunLoop& runLoop,
+                                     std::function<void(std::optional<std::string> line)> done) = 0;
 };
 
 } // namespace kx

@@ -3,7 +3,7 @@
 // A signal that the process ignores from the beginning, as under nohup, stays ignored. Each of the
 // others is taken once. The second of its kind does what the system does by itself, so it ends a
 // program that does not come back to its event loop. System calls that a signal interrupts are not
-// restarted, so a question on a terminal ends.
+// restarted.
 //
 // Threading: the main thread. One object at a time, because a handler reaches nothing but what has
 // static storage.

@@ -26,6 +26,7 @@ public:
     std::optional<Error> error;
     bool isTerminal = false;
     bool hasInputTerminal = false;
+    std::chrono::milliseconds timeToAnswer{0};
 
     void writeOutput(std::string_view text) override { output += text; }
     void writeNote(std::string_view text) override { notes += text; }
@@ -36,13 +37,16 @@ public:
     bool isPlain() const override { return false; }
     bool canRewriteNotes() const override { return isTerminal; }
     bool isReaderGone() override { return error.has_value(); }
-    std::optional<std::string> readLine() override {
+    RunLoop::Handle readLine(RunLoop& loop,
+                             std::function<void(std::optional<std::string>)> done) override {
         if (answers.empty()) {
-            return std::nullopt;
+            return loop.callOnceAfter(timeToAnswer, [done] { done(std::nullopt); });
         }
-        auto answer = std::move(answers.front());
-        answers.erase(answers.begin());
-        return answer;
+        return loop.callOnceAfter(timeToAnswer, [this, done] {
+            auto answer = std::move(answers.front());
+            answers.erase(answers.begin());
+            done(std::move(answer));
+        });
     }
 };
 

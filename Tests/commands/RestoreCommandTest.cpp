@@ -26,4 +26,15 @@ TEST_F(RestoreCommandTest, NobodyIsAskedUnlessTheQuestionIsSeen) {
     EXPECT_EQ(run({"restore", serial, "--json"}), 0);
 }
 
+TEST_F(RestoreCommandTest, ASignalEndsAQuestionThatNobodyAnswers) {
+    play({});
+    console.hasInputTerminal = true;
+    console.isTerminal = true;
+    console.answers = {"y"};
+    console.timeToAnswer = std::chrono::hours(1);
+    interruptAfter(std::chrono::seconds(30));
+    EXPECT_EQ(run({"restore", serial}), 130);
+    EXPECT_TRUE(commandsSent().empty());
+}
+
 } // namespace kx

@@ -1,5 +1,6 @@
 #include "platform/posix/TerminalConsole.h"
 
+#include "platform/posix/PollRunLoop.h"
 #include "support/Pipe.h"
 
 #include <fcntl.h>
@@ -8,8 +9,12 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace kx {
 
@@ -44,6 +49,18 @@ std::string contentsOf(Pipe& pipe) {
         text.append(buffer.data(), static_cast<std::size_t>(count));
     }
     return text;
+}
+
+std::optional<std::string> lineOf(TerminalConsole& console) {
+    PollRunLoop loop;
+    std::optional<std::string> result;
+    bool isRead = false;
+    const auto reading = console.readLine(loop, [&](std::optional<std::string> line) {
+        result = std::move(line);
+        isRead = true;
+    });
+    loop.runUntil([&] { return isRead; });
+    return result;
 }
 
 } // namespace
@@ -96,10 +113,23 @@ TEST(TerminalConsole, LinesAreReadOneByOneUntilTheEnd) {
     const Replaced in(STDIN_FILENO, input.readingEnd.number());
     TerminalConsole console;
     EXPECT_FALSE(console.isInputTerminal());
-    EXPECT_EQ(console.readLine(), "yes");
-    EXPECT_EQ(console.readLine(), "");
-    EXPECT_EQ(console.readLine(), "last");
-    EXPECT_EQ(console.readLine(), std::nullopt);
+    EXPECT_EQ(lineOf(console), "yes");
+    EXPECT_EQ(lineOf(console), "");
+    EXPECT_EQ(lineOf(console), "last");
+    EXPECT_EQ(lineOf(console), std::nullopt);
+}
+
+TEST(TerminalConsole, ALineThatNobodyTypesKeepsNothingElseWaiting) {
+    const Pipe input;
+    const Replaced in(STDIN_FILENO, input.readingEnd.number());
+    TerminalConsole console;
+    PollRunLoop loop;
+    bool isRead = false;
+    bool isOver = false;
+    const auto reading = console.readLine(loop, [&](const auto&) { isRead = true; });
+    const auto moment = loop.callOnceAfter(std::chrono::milliseconds(20), [&] { isOver = true; });
+    loop.runUntil([&] { return isOver; });
+    EXPECT_FALSE(isRead);
 }
 
 TEST(TerminalConsole, ColoursAreForTerminalsThatHaveThemAndPeopleWhoWantThem) {

@@ -5,6 +5,7 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <utility>
 
 namespace kx {
 
@@ -79,17 +80,21 @@ bool TerminalConsole::isPlain() const {
     return !environment("NO_COLOR").empty() || isDumb();
 }
 
-std::optional<std::string> TerminalConsole::readLine() {
-    std::string line;
-    char character = 0;
-    ssize_t count = 0;
-    while ((count = ::read(STDIN_FILENO, &character, 1)) == 1) {
-        if (character == '\n') {
-            return line;
+// Reads one character in a turn, so what comes after the line stays with the system.
+RunLoop::Handle TerminalConsole::readLine(RunLoop& runLoop,
+                                          std::function<void(std::optional<std::string>)> done) {
+    return runLoop.watchForReading(STDIN_FILENO, [line = std::string(), done]() mutable {
+        char character = 0;
+        const ssize_t count = ::read(STDIN_FILENO, &character, 1);
+        if (count < 0 && errno == EINTR) {
+            return;
         }
-        line += character;
-    }
-    return count == 0 && !line.empty() ? std::optional(line) : std::nullopt;
+        if (count == 1 && character != '\n') {
+            line += character;
+            return;
+        }
+        done(count == 1 || !line.empty() ? std::optional(std::move(line)) : std::nullopt);
+    });
 }
 
 } // namespace kx

@@ -17,7 +17,8 @@ public:
     bool canRewriteNotes() const override;
     bool isReaderGone() override;
     bool isPlain() const override;
-    std::optional<std::string> readLine() override;
+    RunLoop::Handle readLine(RunLoop& runLoop,
+                             std::function<void(std::optional<std::string>)> done) override;
 
 private:
     std::optional<Error> _outputError;
