@@ -31,7 +31,7 @@ TEST_F(SetCommandTest, ChangesAValueAndReadsItBack) {
     EXPECT_EQ(run({"set", serial, "unit-id=AB", "--json"}), 0);
     EXPECT_EQ(document()["changes"][0]["state"], "done");
     EXPECT_TRUE(document()["warnings"].empty());
-    EXPECT_EQ(commandsSent(), Words{"192.168.1.10:10000 ^^IdU414200000000"});
+    EXPECT_EQ(commandsSent(), Words{"192.168.1.10:10000 ^^IdU4142"});
 }
 
 TEST_F(SetCommandTest, AUnitThatTellsAnAddressOfManyGetsNoCommand) {
@@ -59,7 +59,7 @@ TEST_F(SetCommandTest, AUnitThatTellsNoAddressIsReachedWhereItsAnswerCameFrom) {
         runLoop.makeReadable(systemCalls.lastDescriptor());
     });
     EXPECT_EQ(run({"set", serial, "unit-id=AB", "--json"}), 4);
-    EXPECT_EQ(commandsSent().front(), "192.168.1.99:3520 ^^IdU414200000000");
+    EXPECT_EQ(commandsSent().front(), "192.168.1.99:3520 ^^IdU4142");
 }
 
 TEST_F(SetCommandTest, AnAnswerFromAnotherAddressThanTheToldOneIsAWarning) {

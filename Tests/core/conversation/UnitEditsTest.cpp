@@ -198,7 +198,7 @@ TEST_F(UnitEditsTest, TheHolderIsLookedForOnceBeforeTheFirstCommand) {
     begin({{UnitParameter::unitID, "AB"}, {UnitParameter::internalIPAddress, "192.168.1.50"}});
     EXPECT_EQ(latest(), "(nothing)");
     runLoop.advanceBy(1300ms);
-    EXPECT_EQ(latest(), "192.168.1.10:10000 ^^IdU414200000000");
+    EXPECT_EQ(latest(), "192.168.1.10:10000 ^^IdU4142");
     obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 0}; });
     EXPECT_EQ(latest(), "192.168.1.50:10000 ^^IdIC0A80132");
 }
