@@ -126,7 +126,8 @@ void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded
         return;
     }
     if (item.form == ValueForm::unitID) {
-        std::ranges::copy(value, decoded.unitIDBytes.emplace().begin());
+        auto& bytes = decoded.unitIDBytes.emplace();
+        std::copy_n(value.begin(), bytes.size(), bytes.begin());
     }
     if (hasText) {
         decoded.record.setValue(*item.parameter, text.view());

@@ -1,0 +1,5 @@
+// Links what kxctl links, and does nothing.
+
+int main() {
+    return 0;
+}
