@@ -217,7 +217,7 @@ Refusal failureOfEdits(const UnitEdits& edits) {
         return failureOfMove(*edits.move());
     }
     auto failure = failureOfChanges(edits);
-    const auto reason = reasonOfRefusal(edits);
+    auto reason = reasonOfRefusal(edits);
     if (!reason.has_value()) {
         return failure;
     }

@@ -80,7 +80,7 @@ void Discovery::unitDidTell(const HeardUnit& unit) {
     }
     HeardUnit heard = unit;
     heard.request = _requests;
-    _units.add(std::move(heard));
+    _units.add(heard);
     if (_isSettling || !_plan.isEnough || !_plan.isEnough(_units)) {
         return;
     }

@@ -30,14 +30,14 @@ UnitTarget HeardUnit::target() const {
     return {.address = destination.address, .port = destination.port, .link = link};
 }
 
-void HeardUnits::add(HeardUnit unit) {
+void HeardUnits::add(const HeardUnit& unit) {
     const auto known = _units.find(unit.serialNumber());
     if (known != _units.end()) {
         const auto same = std::ranges::find_if(known->second, [&unit](const HeardUnit& other) {
             return other.hardwareAddress() == unit.hardwareAddress();
         });
         if (same != known->second.end()) {
-            *same = std::move(unit);
+            *same = unit;
             return;
         }
     }
@@ -47,7 +47,7 @@ void HeardUnits::add(HeardUnit unit) {
     }
     auto& sameNumber =
         known != _units.end() ? known->second : _units[std::string(unit.serialNumber())];
-    sameNumber.push_back(std::move(unit));
+    sameNumber.push_back(unit);
     ++_count;
 }
 

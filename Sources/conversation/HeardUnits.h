@@ -70,7 +70,7 @@ public:
 
     // Adds an answer. It replaces an earlier one of the same serial number and hardware address. A
     // new unit beyond the limit is left out.
-    void add(HeardUnit unit);
+    void add(const HeardUnit& unit);
 
     // Units have been left out.
     bool isIncomplete() const { return _isIncomplete; }

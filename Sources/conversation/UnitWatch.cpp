@@ -38,14 +38,8 @@ void UnitWatch::request() {
     if (hasEnded()) {
         return; // an event has ended the watch
     }
-    const bool isFirst = _nextRequest == nullptr;
     for (const UnitTarget& target : _plan.everybody) {
-        auto failure = exchange().send(parameterRequestCommand, target);
-        if (!failure.has_value()) {
-            _hasAsked = true;
-        } else if (isFirst) {
-            _failure = std::move(failure);
-        }
+        askAt(target);
     }
     if (!_hasAsked) {
         end();
@@ -59,6 +53,15 @@ void UnitWatch::request() {
         ++watched.unanswered;
     }
     _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
+}
+
+void UnitWatch::askAt(const UnitTarget& everybody) {
+    auto failure = exchange().send(parameterRequestCommand, everybody);
+    if (!failure.has_value()) {
+        _hasAsked = true;
+    } else if (_nextRequest == nullptr) {
+        _failure = std::move(failure); // of the first request
+    }
 }
 
 void UnitWatch::noteSilence() {

@@ -63,6 +63,7 @@ private:
     void start() override;
     void unitDidTell(const HeardUnit& unit) override;
     void request();
+    void askAt(const UnitTarget& everybody);
     void noteSilence();
     void endWhenEnough();
 
