@@ -74,11 +74,13 @@ class Discover(Test):
         began = time.monotonic()
         kxctl("discover", "--wait", "0.6")
         self.assertAlmostEqual(time.monotonic() - began, 0.65, delta=0.3)
+        self.assertTrue(eventually(lambda: len(heard()) - before >= 2 * 3))
         self.assertEqual(len(heard()) - before, 2 * 3)
 
     def test_asks_as_often_as_told(self):
         before = len(heard())
         kxctl("discover", "--wait", "0.4", "--tries", "5")
+        self.assertTrue(eventually(lambda: len(heard()) - before >= 5 * 3))
         self.assertEqual(len(heard()) - before, 5 * 3)
 
     def test_ends_as_soon_as_enough_have_answered(self):

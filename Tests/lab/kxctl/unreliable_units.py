@@ -138,9 +138,9 @@ class Cut(Test):
     """--truncate 40"""
 
     def test_units_whose_answers_are_all_cut_are_not_found(self):
-        result = kxctl("discover", "--wait", "0.5", "--json")
+        result = kxctl("discover", "--tries", "2", "--wait", "2", "--json")
         self.assertEnds(result, 1, "not-found")
-        self.assertEqual(result.document["rejected"], 12 * 3)
+        self.assertEqual(result.document["rejected"], 2 * 3)
 
 
 class Flooding(Test):
