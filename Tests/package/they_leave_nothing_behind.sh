@@ -57,7 +57,7 @@ make_root() {
     rm -rf --one-file-system -- "$root"
     "$here/../../.ci/package-source" "$suite" "$scratch"
     mmdebstrap --quiet --variant=apt --include="$(dependencies "$@")" \
-        --aptopt="$scratch/apt.conf" "$suite" "$root" "$scratch/sources" ||
+        --aptopt="$scratch/apt.conf" --dpkgopt=force-unsafe-io "$suite" "$root" "$scratch/sources" ||
         fail 'the root file system was not made'
     # Sets the environment that a login gives a person.
     install -d -m 700 -o nobody -g nogroup "$root/home/person" "$root/run/person"
@@ -144,6 +144,12 @@ make_old_package() {
     rm -r -- "$scratch/unpacked/DEBIAN"
 }
 
+# Installs packages as a person does.
+install_with_apt() {
+    local files=("${@/#//packages/}")
+    inside apt-get install -qq --yes --option Dpkg::Use-Pty=0 "${files[@]/%/.deb}"
+}
+
 kxctl_alone() {
     inside dpkg --install /packages/kxctl.deb
     check_installed kxctl
@@ -162,11 +168,11 @@ kxunits_alone() {
 # The window comes in the place of the single package, first without the units, then beside them.
 all_of_them() {
     inside dpkg --install /packages/old.deb
-    inside apt-get install --yes /packages/kxconfig.deb /packages/kxctl.deb
+    install_with_apt kxconfig kxctl
     check_installed kxctl kxconfig
     use_window
     follow_the_book
-    inside apt-get install --yes /packages/kxunits.deb
+    install_with_apt kxunits
     check_installed "${names[@]}"
     inside /tests/kxctl
     inside /tests/kxunits
@@ -175,7 +181,6 @@ all_of_them() {
     # The window cannot go on without the program for administrator rights.
     ! inside dpkg --remove kxctl 2>/dev/null || fail 'kxctl can be removed below kxconfig'
     inside dpkg --remove "${names[@]}"
-    inside dpkg --purge "${names[@]}"
 }
 
 # usage: leaves_nothing_behind USE
