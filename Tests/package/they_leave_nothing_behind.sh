@@ -18,19 +18,30 @@ trap 'rm -rf --one-file-system -- "$scratch"' EXIT
 
 readonly names=(kxctl kxconfig kxunits)
 
-# Some of the files of each package.
-kxctl_files=(usr/bin/kxctl usr/libexec/kxconfig/kxarp usr/share/man/man1/kxctl.1.gz
-    usr/share/polkit-1/actions/org.kxconfig.KXConfig.policy
-    usr/share/bash-completion/completions/kxctl usr/share/fish/vendor_completions.d/kxctl.fish
-    usr/share/zsh/vendor-completions/_kxctl usr/share/kxconfig/json-schema/discover.json
-    usr/share/kxconfig/wireshark/kxconfig.lua usr/share/doc/kxctl/copyright)
-kxconfig_files=(usr/bin/kxconfig usr/share/man/man1/kxconfig.1.gz
-    usr/share/applications/org.kxconfig.KXConfig.desktop
-    usr/share/metainfo/org.kxconfig.KXConfig.metainfo.xml
-    usr/share/icons/hicolor/scalable/apps/org.kxconfig.KXConfig.svg
-    usr/share/kxconfig/homepage/index.html usr/share/doc/kxconfig/copyright)
-kxunits_files=(usr/bin/kxunits usr/bin/kxunits-lab usr/share/man/man1/kxunits.1.gz
-    usr/share/man/man1/kxunits-lab.1.gz usr/share/doc/kxunits/copyright)
+# Some of the files of the package NAME.
+files_of() {
+    case $1 in
+    kxctl)
+        printf '%s\n' usr/bin/kxctl usr/libexec/kxconfig/kxarp usr/share/man/man1/kxctl.1.gz \
+            usr/share/polkit-1/actions/org.kxconfig.KXConfig.policy \
+            usr/share/bash-completion/completions/kxctl \
+            usr/share/fish/vendor_completions.d/kxctl.fish usr/share/zsh/vendor-completions/_kxctl \
+            usr/share/kxconfig/json-schema/discover.json usr/share/kxconfig/wireshark/kxconfig.lua
+        ;;
+    kxconfig)
+        printf '%s\n' usr/bin/kxconfig usr/share/man/man1/kxconfig.1.gz \
+            usr/share/applications/org.kxconfig.KXConfig.desktop \
+            usr/share/metainfo/org.kxconfig.KXConfig.metainfo.xml \
+            usr/share/icons/hicolor/scalable/apps/org.kxconfig.KXConfig.svg \
+            usr/share/kxconfig/homepage/index.html
+        ;;
+    kxunits)
+        printf '%s\n' usr/bin/kxunits usr/bin/kxunits-lab usr/share/man/man1/kxunits.1.gz \
+            usr/share/man/man1/kxunits-lab.1.gz
+        ;;
+    esac
+    printf 'usr/share/doc/%s/copyright\n' "$1"
+}
 
 # The file of the package NAME.
 package_file() {
@@ -109,8 +120,7 @@ check_version() {
 check_installed() {
     local name file
     for name in "$@"; do
-        local -n files=${name}_files
-        for file in "${files[@]}"; do
+        for file in $(files_of "$name"); do
             [[ -s $root/$file ]] || fail "/$file is missing"
         done
         expect_equal "files that differ from the package $name" '' "$(inside dpkg --verify "$name")"
