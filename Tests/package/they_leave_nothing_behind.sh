@@ -98,7 +98,8 @@ snapshot() {
         find . -xdev \( -path ./proc -o -path ./sys -o -path ./dev -o -path './var/log/dpkg.log' \
             -o -path './var/lib/dpkg/status*' -o -path './var/lib/dpkg/lock*' \
             -o -path './var/lib/dpkg/triggers/Lock' -o -path './var/log/apt' \
-            -o -path './var/lib/apt' -o -path './var/cache/apt' \) -prune \
+            -o -path './var/lib/apt' -o -path './var/cache/apt' \
+            -o -path './var/cache/debconf/tmp.ci' \) -prune \
             -o -printf '%p %y %m %U %G %l\n' -type f -exec sha256sum {} +
     ) | sort
 }
