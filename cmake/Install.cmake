@@ -1,6 +1,6 @@
 # The places of all installed files, relative to the prefix.
 #
-#   bin/                        the programs
+#   bin/                        the programs, and scripts/lab as kxunits-lab
 #   libexec/kxconfig/           the program that runs with administrator rights
 #   share/applications, share/metainfo, share/icons, share/man
 #                               files that a desktop reads
@@ -50,9 +50,12 @@ function(kx_set_screenshots VARIABLE)
 endfunction()
 
 install(TARGETS kxconfig kxctl kxunits RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(PROGRAMS "${PROJECT_SOURCE_DIR}/scripts/lab" RENAME kxunits-lab
+    DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS kxarp RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/kxconfig")
 kx_install_manual(kxconfig.1)
 kx_install_manual(kxunits.1)
+kx_install_manual(kxunits-lab.1)
 
 # What the build has made of the table of commands.
 set(kxctl_dir "${PROJECT_BINARY_DIR}/share/kxctl")

@@ -105,3 +105,12 @@ expect_equal 'temporary files after a failed start' '' "$(ls -A -- "$TMPDIR")"
 ln -s -- "${KX_BUILD_DIR:-$here/../../build/dev}" "$scratch/a name with blanks/build"
 KX_BUILD_DIR="$scratch/a name with blanks/build" "$lab" -- true ||
     fail 'a build folder with blanks in its name is not found'
+
+# An installed lab has another name. It takes the units beside it, and calls itself by its name.
+mkdir -- "$scratch/bin"
+cp -- "$lab" "$scratch/bin/kxunits-lab"
+ln -s -- "${KX_BUILD_DIR:-$here/../../build/dev}/bin/kxunits" "$scratch/bin/kxunits"
+env --unset=KX_BUILD_DIR "$scratch/bin/kxunits-lab" -- true || fail 'an installed lab finds no units'
+help=$("$scratch/bin/kxunits-lab" --help)
+grep -qF '  kxunits-lab --units 5' <<<"$help" || fail 'the help names another program'
+! grep -qF 'scripts/lab' <<<"$help" || fail 'the help names a file that is not installed'
