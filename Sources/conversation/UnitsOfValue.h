@@ -1,5 +1,5 @@
-// For each value that units tell, such as an address, the units that tell it, the one that was heard
-// last first. Units stand for themselves by their numbers (AllUnits).
+// For each value that units tell, such as an address, the units that tell it, the one that was
+// heard last first. Units stand for themselves by their numbers (AllUnits).
 //
 // A value type; any thread, one at a time. Every operation but a walk takes the same short time,
 // however many units tell one value.

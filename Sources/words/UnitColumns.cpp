@@ -57,9 +57,8 @@ std::string shownUnitID(const UnitRow& row) {
     if (text.has_value()) {
         return visibleText(withoutTrailingZeroBytes(*text));
     }
-    return row.tells(UnitParameter::unitID)
-               ? textOfSixBytes(row.number(UnitParameter::unitID), "")
-               : std::string();
+    return row.tells(UnitParameter::unitID) ? textOfSixBytes(row.number(UnitParameter::unitID), "")
+                                            : std::string();
 }
 
 // --- Searched texts ---
@@ -204,8 +203,8 @@ std::string UnitTexts::note(std::uint32_t unit, UnitColumn column) const {
         return noteOfSerialNumber(unit);
     }
     const bool sharesAddress =
-        state == UnitState::sharesAddress ||
-        (state == UnitState::sharesSerialNumber && _units.sharerOfAddress(unit) != AllUnits::nobody);
+        state == UnitState::sharesAddress || (state == UnitState::sharesSerialNumber &&
+                                              _units.sharerOfAddress(unit) != AllUnits::nobody);
     if (sharesAddress && (isOfState || column == UnitColumn::internalIPAddress)) {
         return noteOfAddress(unit);
     }
@@ -221,9 +220,9 @@ std::string UnitTexts::noteOfSerialNumber(std::uint32_t unit) const {
 
 std::string UnitTexts::noteOfAddress(std::uint32_t unit) const {
     const UnitRow& other = _units.row(_units.sharerOfAddress(unit));
-    return localizedText("The unit %@ has the address %@, too.",
-                         {other.text(UnitParameter::serialNumber),
-                          other.text(UnitParameter::internalIPAddress)});
+    return localizedText(
+        "The unit %@ has the address %@, too.",
+        {other.text(UnitParameter::serialNumber), other.text(UnitParameter::internalIPAddress)});
 }
 
 void UnitTexts::appendSearched(std::uint32_t unit, const UnitColumns& columns,
