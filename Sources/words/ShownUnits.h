@@ -42,6 +42,9 @@ public:
 
     bool hasWork() const;
 
+    // Whether the work is a way through all units, after a new filter or order.
+    bool isSearching() const { return _search.has_value() || mustSearch(); }
+
     // Works until the list is up to date or `mustStop` says true; it is asked every fraction of a
     // millisecond. Returns whether list() was made anew.
     bool work(const std::function<bool()>& mustStop);
