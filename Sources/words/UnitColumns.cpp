@@ -48,7 +48,8 @@ constexpr bool everyColumnIsInPlace() {
 }
 static_assert(everyColumnIsInPlace());
 
-constexpr std::array signOfState{"⚠ ", "⚠ ", "○ ", "● "}; // by UnitState
+// By UnitState. An answer is the usual state, and draws no eye.
+constexpr std::array signOfState{"⚠ ", "⚠ ", "○ ", ""};
 
 // The text of a unit ID without the zero bytes that fill it up. One that is no text is shown by its
 // bytes.

@@ -57,8 +57,8 @@ public:
     // The head of the column: the localized name, as parameters have it.
     static std::string title(UnitColumn column);
 
-    // The text of a cell; empty where the unit does not tell the value. The text of a state is a
-    // sign and words.
+    // The text of a cell; empty where the unit does not tell the value. The text of a state is
+    // words, with a sign in front of all but the usual one.
     std::string text(std::uint32_t unit, UnitColumn column) const;
 
     // The words of a state, without the sign.

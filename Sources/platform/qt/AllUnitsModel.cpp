@@ -2,9 +2,7 @@
 
 #include "platform/qtcore/QtText.h"
 
-#include <QApplication>
 #include <QDateTime>
-#include <QPalette>
 #include <QTimerEvent>
 #include <algorithm>
 #include <cstdlib>
@@ -214,17 +212,11 @@ QVariant AllUnitsModel::data(const QModelIndex& index, int role) const {
     case Qt::ToolTipRole:
     case Qt::AccessibleDescriptionRole:
         return qtText(_texts.note(unit, column));
-    case Qt::ForegroundRole:
-        if (_units.stateOf(unit) == UnitState::silent) {
-            QColor dimmed = QApplication::palette().color(QPalette::Text);
-            dimmed.setAlphaF(0.65F);
-            return dimmed;
-        }
-        break;
+    case isSilentRole:
+        return _units.stateOf(unit) == UnitState::silent;
     default:
-        break;
+        return {};
     }
-    return {};
 }
 
 QVariant AllUnitsModel::headerData(int section, Qt::Orientation orientation, int role) const {

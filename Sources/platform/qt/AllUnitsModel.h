@@ -26,6 +26,9 @@ class AllUnitsModel final : public QAbstractTableModel {
     Q_OBJECT
 
 public:
+    // The role that says whether the unit of a row is silent.
+    static constexpr int isSilentRole = Qt::UserRole;
+
     explicit AllUnitsModel(AllUnits& units, QObject* parent = nullptr);
     ~AllUnitsModel() override;
 

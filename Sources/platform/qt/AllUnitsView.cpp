@@ -7,6 +7,7 @@
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 namespace kx {
@@ -45,6 +46,22 @@ QString widestTextOf(UnitColumn column, const QFontMetrics& metrics) {
     }
 }
 
+// Dims the rows of silent units, whose state says so in words. The colour follows the palette.
+class DimmingDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (index.data(AllUnitsModel::isSilentRole).toBool()) {
+            QColor dimmed = option->palette.color(QPalette::Text);
+            dimmed.setAlphaF(0.65F);
+            option->palette.setColor(QPalette::Text, dimmed);
+        }
+    }
+};
+
 } // namespace
 
 AllUnitsView::AllUnitsView(AllUnitsModel& model, QWidget* parent)
@@ -52,6 +69,7 @@ AllUnitsView::AllUnitsView(AllUnitsModel& model, QWidget* parent)
     , _model(model)
     , _columnMenu(this) {
     setModel(&model);
+    setItemDelegate(new DimmingDelegate(this));
     setShowGrid(false);
     setWordWrap(false);
     setAlternatingRowColors(true);
