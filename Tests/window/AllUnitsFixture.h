@@ -93,14 +93,14 @@ protected:
     }
 
     std::int64_t now = QDateTime(QDate(2026, 11, 22), QTime(14, 3, 22)).toMSecsSinceEpoch();
-    AllUnits units{
-        [](std::uint32_t link) { return "eth" + std::to_string(link); },
-        AllUnits::defaultLimit,
-        {.steady = [this] { return std::chrono::milliseconds(now); },
-         .calendar =
-             [this] {
-                 return std::chrono::system_clock::time_point(std::chrono::milliseconds(now));
-             }}};
+    AllUnits units{[](std::uint32_t link) { return "eth" + std::to_string(link); },
+                   AllUnits::defaultLimit,
+                   {.steady = [this] { return std::chrono::milliseconds(now); },
+                    .calendar =
+                        [this] {
+                            return std::chrono::system_clock::time_point(
+                                std::chrono::milliseconds(now));
+                        }}};
     std::vector<std::string> picked;
     std::vector<std::string> helpPages;
     AllUnitsWindow window{units,

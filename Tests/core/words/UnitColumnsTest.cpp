@@ -59,10 +59,10 @@ TEST_F(UnitColumnsTest, EachCellHasTheTextThatRecordsHave) {
     for (std::size_t i = 0; i < unitColumnCount; ++i) {
         cells.push_back(texts.text(unit, static_cast<UnitColumn>(i)));
     }
-    EXPECT_EQ(cells, (std::vector<std::string>{"4B 58 00 00 00 07", "7", "Answered", "192.0.2.7",
-                                               "02:4B:58:00:00:07", "10000", "192.0.2.254",
-                                               "02:00:00:00:00:01", "3520", "192.0.2.7", "eth2",
-                                               "noon"}));
+    EXPECT_EQ(cells,
+              (std::vector<std::string>{"4B 58 00 00 00 07", "7", "Answered", "192.0.2.7",
+                                        "02:4B:58:00:00:07", "10000", "192.0.2.254",
+                                        "02:00:00:00:00:01", "3520", "192.0.2.7", "eth2", "noon"}));
 }
 
 TEST_F(UnitColumnsTest, WhatAUnitDoesNotTellIsEmpty) {
@@ -125,9 +125,8 @@ TEST_F(UnitColumnsTest, UnitIDsAreInOrderAsNumbersThenNamesThenBytes) {
         hearUnitID({'a', 0, 0, 0, 0, 0}), hearUnitID({'A', 'B', 0, 0, 0, 0}),
         hearUnitID({'b', 0, 0, 0, 0, 0}), hearUnitID({0xFF, 0, 0, 0, 0, 0}),
     };
-    EXPECT_TRUE(std::ranges::is_sorted(inOrder, {}, [this](std::uint32_t unit) {
-        return key(unit, idColumn);
-    }));
+    EXPECT_TRUE(std::ranges::is_sorted(inOrder, {},
+                                       [this](std::uint32_t unit) { return key(unit, idColumn); }));
     HeardUnit without = heardUnit(50);
     without.unitIDBytes.reset();
     without.record.removeValue(UnitParameter::unitID);
