@@ -162,8 +162,12 @@ std::string loweredASCII(std::string_view text) {
 UnitTexts::UnitTexts(const AllUnits& units, TextOfTime textOfTime)
     : _units(units)
     , _textOfTime(std::move(textOfTime))
-    , _wordsOfState{localizedText("Serial number used twice"), localizedText("Address used twice"),
-                    localizedText("No answer"), localizedText("Answered")} {}
+    , _wordsOfState(wordsOfStates()) {}
+
+std::array<std::string, 4> UnitTexts::wordsOfStates() {
+    return {localizedText("Serial number used twice"), localizedText("Address used twice"),
+            localizedText("No answer"), localizedText("Answered")};
+}
 
 std::string UnitTexts::title(UnitColumn column) {
     const ColumnRow& row = columnTable[indexOf(column)];

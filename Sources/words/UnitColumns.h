@@ -61,6 +61,9 @@ public:
     // words, with a sign in front of all but the usual one.
     std::string text(std::uint32_t unit, UnitColumn column) const;
 
+    // The words of each state, in the order of UnitState.
+    static std::array<std::string, 4> wordsOfStates();
+
     // The words of a state, without the sign.
     const std::string& words(UnitState state) const;
 

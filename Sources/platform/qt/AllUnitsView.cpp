@@ -32,9 +32,8 @@ QString widestTextOf(UnitColumn column, const QFontMetrics& metrics) {
         return "enp0s31f6";
     case UnitColumn::state: {
         QString widest;
-        for (const char* words :
-             {"Serial number used twice", "Address used twice", "No answer", "Answered"}) {
-            const QString text = "⚠ " + qtText(localizedText(words));
+        for (const std::string& words : UnitTexts::wordsOfStates()) {
+            const QString text = "⚠ " + qtText(words);
             const bool isWider =
                 metrics.horizontalAdvance(text) > metrics.horizontalAdvance(widest);
             widest = isWider ? text : widest;
