@@ -61,8 +61,11 @@ Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfa
 std::string documentOfUnits(const std::vector<const HeardUnit*>& units,
                             const std::vector<HostInterface>& interfaces) {
     std::string text = "{\"schema\":" + std::to_string(schemaOfDocuments) + ",\"units\":[";
+    std::string_view separator = "\n";
     for (const HeardUnit* const unit : units) {
-        text += (unit == units.front() ? "\n" : ",\n") + written(jsonOfUnit(*unit, interfaces));
+        text += separator;
+        text += written(jsonOfUnit(*unit, interfaces));
+        separator = ",\n";
     }
     return text + "\n]}\n";
 }

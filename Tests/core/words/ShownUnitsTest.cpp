@@ -173,14 +173,17 @@ TEST_F(ShownUnitsTest, ANewFilterTakesThePlaceOfTheOneUnderWay) {
 }
 
 TEST_F(ShownUnitsTest, WhatIsPutInOneByOneIsWhatASearchFinds) {
-    std::mt19937 random(1); // NOLINT(cert-msc51-cpp): the same units each time
+    std::mt19937 source(1); // NOLINT(cert-msc51-cpp): the same units each time
+    const auto upTo = [&source](unsigned long end) {
+        return static_cast<std::uint32_t>(source() % end);
+    };
     shown.setOrder({UnitColumn::internalIPAddress, true});
     filter("2.1");
     for (int round = 0; round < 200; ++round) {
         for (int i = 0; i < 20; ++i) {
-            HeardUnit unit = heardUnit(random() % 300);
+            HeardUnit unit = heardUnit(upTo(300));
             unit.record.setValue(UnitParameter::internalIPAddress,
-                                 stringForIP(0xC0000200U + random() % 200));
+                                 stringForIP(0xC0000200U + upTo(200)));
             units.unitDidTell(unit);
         }
         const auto grown = numbers();
