@@ -87,6 +87,11 @@ protected:
             QTest::keyClick(window.windowHandle(), *letter);
         }
     }
+    // Whatever modifier keys the test pressed last.
+    void select(int row) {
+        table().selectionModel()->setCurrentIndex(
+            model().index(row, 0), QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
     void typeFilter(const QString& text) {
         filter().setText(text);
         settle();

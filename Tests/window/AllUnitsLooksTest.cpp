@@ -58,7 +58,6 @@ class AllUnitsMarkedTest : private WithMarks, public AllUnitsWindowTest {};
 TEST_P(AllUnitsColours, EveryTextStandsOut) {
     hearFour();
     open();
-    table().selectRow(0);
     QTest::qWait(50);
     takePicture(window, nameOf(GetParam()));
     for (const char* name : {"allUnitsCount", "allUnitsFilter", "allUnitsColumnsButton",

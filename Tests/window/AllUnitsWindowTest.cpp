@@ -118,7 +118,7 @@ TEST_F(AllUnitsWindowTest, SelectedRowsStaySelectedWhileOthersComeAndGo) {
         hear(heardUnit(static_cast<std::uint32_t>(number)));
     }
     open();
-    table().selectRow(1);
+    select(1);
     for (const int number : {1, 3, 5}) {
         hear(heardUnit(static_cast<std::uint32_t>(number)));
     }
@@ -226,7 +226,8 @@ TEST_F(AllUnitsWindowTest, AScreenReaderHearsHeadsValuesAndWhatIsWrong) {
     QAccessibleInterface* const accessible = QAccessible::queryAccessibleInterface(&table());
     QAccessibleTableInterface* const cells = accessible->tableInterface();
     ASSERT_NE(cells, nullptr);
-    EXPECT_EQ(cells->columnDescription(static_cast<int>(UnitColumn::destinationMACAddress)),
+    const auto destination = static_cast<int>(UnitColumn::destinationMACAddress);
+    EXPECT_EQ(utf8Text(cells->columnDescription(destination).replace('\n', ' ')),
               "Destination MAC address");
     const auto of = [&](int row, UnitColumn column, QAccessible::Text kind) {
         return utf8Text(cells->cellAt(row, static_cast<int>(column))->text(kind));
@@ -258,7 +259,7 @@ TEST_F(AllUnitsWindowTest, SeveralRowsAreCopiedAsATable) {
         table().setColumnShown(column, isWanted);
     }
     table().setFocus();
-    table().selectRow(0);
+    select(0);
     press(Qt::Key_Down, Qt::ShiftModifier);
     press(Qt::Key_C, Qt::ControlModifier);
     EXPECT_EQ(clipboard(), "Serial number\tState\n"
@@ -273,7 +274,7 @@ TEST_F(AllUnitsWindowTest, AForeignUnitIDCannotForgeACopiedCell) {
     setUnitID(unit, {'a', '\n', 'b', '\t', 'c', 0});
     hear(unit);
     open();
-    table().selectRow(0);
+    select(0);
     control<QAction>("copyRowsAction").trigger();
     EXPECT_EQ(std::ranges::count(clipboard(), '\n'), 2);
     EXPECT_EQ(std::ranges::count(clipboard(), '\t'), 2 * (static_cast<int>(unitColumnCount) - 1));

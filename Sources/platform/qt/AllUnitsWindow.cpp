@@ -84,6 +84,7 @@ AllUnitsWindow::AllUnitsWindow(AllUnits& units, Actions actions, QWidget* parent
     layout->addWidget(&_table, 1);
     layout->addWidget(&_note);
     layout->addWidget(makeButtonRow());
+    keepPlaceholderReadable();
     connectTable();
     connectKeys();
     const QSize wanted(_table.wholeWidth() + layout->contentsMargins().left() +
@@ -107,6 +108,8 @@ QWidget* AllUnitsWindow::makeFilterRow() {
     layout->addWidget(label);
     layout->addWidget(&_filter, 1);
     layout->addWidget(columns);
+    setTabOrder(&_filter, columns);
+    setTabOrder(columns, &_table);
     return row;
 }
 
@@ -118,8 +121,11 @@ QWidget* AllUnitsWindow::makeButtonRow() {
     _exportButton = makeButton("allUnitsExportButton", localizedQtText("&Export…"), row);
     auto* const help = makeButton("allUnitsHelpButton", localizedQtText("&Help"), row);
     auto* const close = makeButton("allUnitsCloseButton", localizedQtText("Close"), row);
+    QWidget* before = &_table;
     for (QPushButton* button : {_exportButton, help, close}) {
         layout->addWidget(button);
+        setTabOrder(before, button);
+        before = button;
     }
     connect(_exportButton, &QPushButton::clicked, this, &AllUnitsWindow::chooseFile);
     connect(help, &QPushButton::clicked, this, [this] { _actions.openHelp("all-units"); });
@@ -178,6 +184,22 @@ void AllUnitsWindow::present() {
     activateWindow();
     _filter.setFocus(Qt::OtherFocusReason);
     _filter.selectAll();
+}
+
+// The placeholder says how to use the field, so it is a text to be read.
+void AllUnitsWindow::keepPlaceholderReadable() {
+    QColor dimmed = palette().color(QPalette::Active, QPalette::Text);
+    dimmed.setAlphaF(0.65F);
+    QPalette readable;
+    readable.setColor(QPalette::PlaceholderText, dimmed);
+    _filter.setPalette(readable);
+}
+
+void AllUnitsWindow::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        keepPlaceholderReadable();
+    }
 }
 
 void AllUnitsWindow::showEvent(QShowEvent* event) {

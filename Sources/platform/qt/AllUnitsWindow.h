@@ -18,7 +18,6 @@
 
 class QLineEdit;
 class QPushButton;
-class QVBoxLayout;
 
 namespace kx {
 
@@ -47,12 +46,14 @@ public:
     void exportTo(const QString& path, FileFormat format);
 
 protected:
+    void changeEvent(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     QWidget* makeFilterRow();
     QWidget* makeButtonRow();
+    void keepPlaceholderReadable();
     void connectTable();
     void connectKeys();
     void addTableAction(const char* objectName, const QString& text, const QKeySequence& key,
