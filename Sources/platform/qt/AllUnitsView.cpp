@@ -82,6 +82,7 @@ AllUnitsView::AllUnitsView(AllUnitsModel& model, QWidget* parent)
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsMovable(true);
     horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
     setSortingEnabled(true);
     fitToFont();
