@@ -1,7 +1,8 @@
-// The window of all units with a hundred thousand of them: the time until a person sees it open,
-// sorted and filtered, and the longest wait of a key while ten thousand units arrive.
+// The window of all units with a hundred thousand of them: the processor time until it is open,
+// sorted and filtered, and the longest that a key waits for it while ten thousand units arrive.
 
 #include "Comparison.h"
+#include "ProcessorTime.h"
 #include "core/conversation/HeardUnitSamples.h"
 #include "platform/qt/AllUnitsModel.h"
 #include "platform/qt/AllUnitsView.h"
@@ -19,7 +20,6 @@ namespace kx {
 
 namespace {
 
-using SteadyClock = std::chrono::steady_clock;
 using Milliseconds = std::chrono::duration<double, std::milli>;
 
 constexpr std::uint32_t many = 100'000;
@@ -74,11 +74,12 @@ public:
     QLineEdit* filter = nullptr;
 };
 
+// Processor time. Nothing waits here, so on an idle machine a person waits as long.
 template<class Act>
 Milliseconds timeOf(const Act& act) {
-    const auto begin = SteadyClock::now();
+    const auto before = processorTime();
     act();
-    return SteadyClock::now() - begin;
+    return processorTime() - before;
 }
 
 void openAllUnits(benchmark::State& state) {
