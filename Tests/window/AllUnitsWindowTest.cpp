@@ -79,6 +79,7 @@ TEST_F(AllUnitsWindowTest, UnitsThatAnswerWhileItIsClosedAreThereWhenItOpensAgai
     press(Qt::Key_Escape);
     EXPECT_FALSE(window.isVisible());
     hear(heardUnit(2));
+    table().sortByColumn(0, Qt::DescendingOrder);
     QTest::qWait(200);
     EXPECT_EQ(model().rowCount(), 1) << "a hidden window does no work";
     open();

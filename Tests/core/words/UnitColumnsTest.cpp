@@ -120,10 +120,11 @@ TEST_F(UnitColumnsTest, AFilterSearchesTheShownTextsAndTheirDigits) {
 
 TEST_F(UnitColumnsTest, UnitIDsAreInOrderAsNumbersThenNamesThenBytes) {
     const std::vector<std::uint32_t> inOrder{
-        hearUnitID({0, 0, 0, 0, 0, 9}),   hearUnitID({'1', '0', 0, 0, 0, 0}),
-        hearUnitID({0, 0, 0, 0, 0, 200}), hearUnitID({'1', '0', '0', '0', 0, 0}),
-        hearUnitID({'a', 0, 0, 0, 0, 0}), hearUnitID({'A', 'B', 0, 0, 0, 0}),
-        hearUnitID({'b', 0, 0, 0, 0, 0}), hearUnitID({0xFF, 0, 0, 0, 0, 0}),
+        hearUnitID({0, 0, 0, 0, 0, 9}),     hearUnitID({'1', '0', 0, 0, 0, 0}),
+        hearUnitID({0, 0, 0, 0, 0, 200}),   hearUnitID({'9', '9', '9', '9', '9', '9'}),
+        hearUnitID({0, 0, 0, 0, 'A', 0}),   hearUnitID({'a', 0, 0, 0, 0, 0}),
+        hearUnitID({'A', 'B', 0, 0, 0, 0}), hearUnitID({'b', 0, 0, 0, 0, 0}),
+        hearUnitID({0, 0, 0, 0, 0xFF, 0}),  hearUnitID({0xFF, 0, 0, 0, 0, 0}),
     };
     EXPECT_TRUE(std::ranges::is_sorted(inOrder, {},
                                        [this](std::uint32_t unit) { return key(unit, idColumn); }));
