@@ -5,6 +5,7 @@
 #include "files/CSV.h"
 
 #include <nlohmann/json.hpp>
+#include <sys/resource.h>
 
 #include <QAccessible>
 #include <QClipboard>
@@ -14,6 +15,7 @@
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QTemporaryDir>
+#include <csignal>
 
 namespace kx {
 
@@ -31,6 +33,28 @@ protected:
     }
 
     QTemporaryDir folder;
+};
+
+// No file can grow beyond some bytes meanwhile, as if the disk were full.
+class NoRoomForFiles {
+public:
+    NoRoomForFiles()
+        : _signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        ::getrlimit(RLIMIT_FSIZE, &_before);
+        rlimit little = _before;
+        little.rlim_cur = 100;
+        ::setrlimit(RLIMIT_FSIZE, &little);
+    }
+    ~NoRoomForFiles() {
+        ::setrlimit(RLIMIT_FSIZE, &_before);
+        std::signal(SIGXFSZ, _signal);
+    }
+    NoRoomForFiles(const NoRoomForFiles&) = delete;
+    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
+
+private:
+    rlimit _before{};
+    void (*_signal)(int);
 };
 
 std::string clipboard() {
@@ -344,6 +368,27 @@ TEST_F(AllUnitsWindowExport, AFileThatCannotBeWrittenIsToldAndTheOldOneStays) {
     EXPECT_EQ(note(), "(hidden)");
     window.exportTo("/nowhere/units.csv", AllUnitsWindow::FileFormat::csv);
     EXPECT_EQ(note(), "“/nowhere/units.csv” cannot be written: No such file or directory.");
+}
+
+TEST_F(AllUnitsWindowExport, AFileThatDoesNotFitOnTheDiskLeavesTheOldOneAndNoOther) {
+    hearFour();
+    open();
+    QFile old(path("units.csv"));
+    ASSERT_TRUE(old.open(QIODevice::WriteOnly));
+    old.write("old");
+    old.close();
+    const NoRoomForFiles noRoom;
+    window.exportTo(path("units.csv"), AllUnitsWindow::FileFormat::csv);
+    EXPECT_TRUE(note().ends_with("cannot be written: File too large.")) << note();
+    EXPECT_EQ(contents(path("units.csv")), "old");
+    EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+TEST_F(AllUnitsWindowExport, ADeviceIsNotReplaced) {
+    hearFour();
+    open();
+    window.exportTo("/dev/full", AllUnitsWindow::FileFormat::csv);
+    EXPECT_TRUE(note().starts_with("“/dev/full” cannot be written: ")) << note();
 }
 
 TEST_F(AllUnitsWindowExport, TheDialogOffersBothFormatsAndDoesNotStopTheWindow) {

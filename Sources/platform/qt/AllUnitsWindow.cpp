@@ -319,8 +319,11 @@ void AllUnitsWindow::chooseFile() {
 }
 
 void AllUnitsWindow::exportTo(const QString& path, FileFormat format) {
-    const auto error = replaceFile(QFile::encodeName(path).toStdString(),
-                                   textOfFile(_units, _model.rows(), format));
+    const std::string file = QFile::encodeName(path).toStdString();
+    auto error = objectionToReplacing(file);
+    if (!error.has_value()) {
+        error = replaceFile(file, textOfFile(_units, _model.rows(), format));
+    }
     const std::string name = safeForSentence(utf8Text(path));
     const auto count = static_cast<long long>(_model.rows().size());
     if (error.has_value()) {
