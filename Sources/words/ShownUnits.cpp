@@ -66,29 +66,26 @@ bool ShownUnits::work(const std::function<bool()>& mustStop) {
     if (_search.has_value() && _clearings != _units.clearings()) {
         _search.reset();
     }
-    if (!_search.has_value()) {
-        if (!mustSearch()) {
-            const auto heard = _units.heardSince(_hearings);
-            if (heard.size() <= mostPutInAtOnce) {
-                return putIn(heard);
-            }
+    if (!_search.has_value() && !mustSearch()) {
+        const auto heard = _units.heardSince(_hearings);
+        if (heard.size() <= mostPutInAtOnce) {
+            return putIn(heard);
         }
-        beginSearch();
     }
-    return goOn(mustStop);
+    return goOn(_search.has_value() ? *_search : beginSearch(), mustStop);
 }
 
-void ShownUnits::beginSearch() {
+ShownUnits::Search& ShownUnits::beginSearch() {
     _rankOfLink = ranksOfLinks(_units);
     _isOutdated = false;
     _changesOfOthers = _units.changesOfOthers();
     _clearings = _units.clearings();
-    _search = Search{.next = 0, .hearings = _units.hearings(), .found = {}};
-    _search->found.reserve(_units.size());
+    Search& search = _search.emplace(Search{.hearings = _units.hearings()});
+    search.found.reserve(_units.size());
+    return search;
 }
 
-bool ShownUnits::goOn(const std::function<bool()>& mustStop) {
-    Search& search = *_search;
+bool ShownUnits::goOn(Search& search, const std::function<bool()>& mustStop) {
     while (search.next < _units.size()) {
         const auto end = std::min<std::size_t>(_units.size(), search.next + unitsAtOnce);
         for (; search.next < end; ++search.next) {

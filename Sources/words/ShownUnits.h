@@ -67,12 +67,12 @@ private:
     struct Search {
         std::uint32_t next = 0;
         std::uint64_t hearings = 0; // at its beginning
-        std::vector<Place> found;
+        std::vector<Place> found = {};
     };
 
     bool mustSearch() const;
-    void beginSearch();
-    bool goOn(const std::function<bool()>& mustStop);
+    Search& beginSearch();
+    bool goOn(Search& search, const std::function<bool()>& mustStop);
     bool putIn(const std::vector<std::uint32_t>& heard);
     void show(std::vector<Place> places);
     bool passes(std::uint32_t unit);

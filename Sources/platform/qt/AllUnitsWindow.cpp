@@ -12,6 +12,7 @@
 
 #include <QClipboard>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -324,7 +325,7 @@ void AllUnitsWindow::exportTo(const QString& path, FileFormat format) {
     if (!error.has_value()) {
         error = replaceFile(file, textOfFile(_units, _model.rows(), format));
     }
-    const std::string name = safeForSentence(utf8Text(path));
+    const std::string name = safeForSentence(utf8Text(QFileInfo(path).fileName()));
     const auto count = static_cast<long long>(_model.rows().size());
     if (error.has_value()) {
         tell(qtText(

@@ -42,7 +42,7 @@ public:
     enum class FileFormat { csv, json };
 
     // Writes the units that the table shows, in its order and with the columns of kxctl, to a file
-    // as a whole, and says whether that went well.
+    // as a whole, and says under its name whether that went well.
     void exportTo(const QString& path, FileFormat format);
 
 protected:
