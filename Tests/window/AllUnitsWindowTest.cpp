@@ -214,6 +214,7 @@ TEST_F(AllUnitsWindowTest, TheKeyboardLeadsFromTheFilterToAUnit) {
     EXPECT_TRUE(filter().hasFocus());
     press(Qt::Key_Return);
     EXPECT_TRUE(table().hasFocus());
+    EXPECT_EQ(table().selectionModel()->selectedRows().value(0).row(), 0);
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_EQ(picked, (Texts{sampleSerial(2)}));

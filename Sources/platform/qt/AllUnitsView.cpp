@@ -262,9 +262,16 @@ QString AllUnitsView::currentText() const {
 
 void AllUnitsView::enterRows() {
     setFocus();
-    if (!currentIndex().isValid() && _model.rowCount() > 0) {
-        setCurrentIndex(_model.index(0, static_cast<int>(shownColumns().front())));
+    if (_model.rowCount() == 0) {
+        return;
     }
+    const QModelIndex cell = currentIndex().isValid()
+                                 ? currentIndex()
+                                 : _model.index(0, static_cast<int>(shownColumns().front()));
+    // A screen reader hears of a cell that becomes the current one.
+    selectionModel()->clearCurrentIndex();
+    selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect |
+                                                QItemSelectionModel::Rows);
 }
 
 void AllUnitsView::chooseRow(int row) {

@@ -50,7 +50,7 @@ public:
     // The text of the cell with the keyboard.
     QString currentText() const;
 
-    // Gives the keyboard to the first row, if no row has it yet.
+    // Gives the keyboard to the row that had it last, or to the first one, and selects the row.
     void enterRows();
 
     // The width at which every shown column is seen whole.
