@@ -12,6 +12,8 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
     : _outlets(outlets)
     , _services(services)
     , _devicesD(services.mostUnits)
+    , _allUnits([this](std::uint32_t link) { return _services.systemCalls.nameForLink(link); },
+                std::min(services.mostUnits, AllUnits::defaultLimit))
     , _session({.runLoop = services.runLoop,
                 .hostResolver = services.hostResolver,
                 .systemCalls = services.systemCalls,
@@ -35,6 +37,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _session.stop();
     _devicesD.clear();
     _devicesD.keep(std::nullopt);
+    _allUnits.clear();
     _selectedUnit.reset();
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
@@ -52,6 +55,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     _session.stop();
     _devicesD.clear();
     _devicesD.keep(std::nullopt);
+    _allUnits.clear();
     _selectedUnit.reset();
     _editTableEntry.reset();
     _auth.reset();
@@ -140,12 +144,16 @@ void KXConfigAppDelegate::udpPortSelect() {
 }
 
 void KXConfigAppDelegate::myHelp() {
+    openHelp("index");
+}
+
+void KXConfigAppDelegate::openHelp(std::string_view page) {
     if (!_services.openHelpAnchor) {
         return;
     }
-    if (_services.openHelpAnchor("index")) {
+    if (_services.openHelpAnchor(page)) {
         _quietLine.endMessage(forecast());
-    } else if (_services.hasHelpPage && !_services.hasHelpPage("index")) {
+    } else if (_services.hasHelpPage && !_services.hasHelpPage(page)) {
         _quietLine.showMessage(localizedText("The pages of the help are not installed."));
     } else {
         _quietLine.showMessage(

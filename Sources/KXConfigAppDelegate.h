@@ -17,6 +17,7 @@
 #include "KXParameterEntry.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
+#include "conversation/AllUnits.h"
 #include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
 #include "conversation/DiscoveryFindings.h"
@@ -117,6 +118,13 @@ public:
     void logDrawerButton();           // opens or closes the event log drawer
     void myHelp();                    // opens the help at its index
 
+    // Opens the help at this page. When it does not open, the quiet line says why.
+    void openHelp(std::string_view page);
+
+    // Shows the unit of this serial number, as if it had been chosen in the unit pop-up, which
+    // lists it then. Does nothing for a unit that is not in devices().
+    void pickUnit(std::string_view serial);
+
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
 
@@ -207,6 +215,7 @@ public:
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null when there is none
     const QuietLine& quietLine() const { return _quietLine; }
+    AllUnits& allUnits() { return _allUnits; }
 
 private:
     // --- The session's events (KXConfigAppDelegate_Session.cpp) ---
@@ -245,6 +254,8 @@ private:
 
     void didStartListenerWithAddress(const Bytes& address);
     void compareReply(const Reply& reply, const DatagramOrigin& origin);
+    void rememberUnit(const DecodedUnitParameters& parameters, const DatagramOrigin& origin);
+    void rememberAnswer(const Reply& reply, const DatagramOrigin& origin);
     std::string unitParameters(const DecodedUnitParameters& parameters);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
@@ -294,6 +305,7 @@ private:
     std::uint32_t localAddress = 0;
     std::uint32_t localMask = 0;
     UnitRegistry _devicesD;
+    AllUnits _allUnits;
     UnitSession _session;
     const std::shared_ptr<UDPEcho>& _udpListener = _session.listener(); // null when there is none
     std::optional<SendFailure> _sendFailure; // failure of the latest command; absent when it left

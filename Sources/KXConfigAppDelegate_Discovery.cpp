@@ -19,6 +19,7 @@ void KXConfigAppDelegate::discoverButton() {
     _outlets.unitSelectPopUp->removeAllItems();
     beginFindings();
     lookAtTarget();
+    _allUnits.discoveryDidBegin();
     _session.start(static_cast<std::size_t>(port));
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
@@ -47,6 +48,7 @@ void KXConfigAppDelegate::showFindings() {
 }
 
 void KXConfigAppDelegate::discoverComplete() {
+    _allUnits.discoveryDidEnd();
     _outlets.unitSelectPopUp->addItemsWithTitles(_devicesD.serialNumbers());
     if (_selectedUnit.has_value()) {
         _outlets.unitSelectPopUp->selectItemWithTitle(*_selectedUnit);

@@ -24,8 +24,10 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
         _findings.expectChanges();
+        _allUnits.expectChanges();
     } else if (_selectedUnit.has_value()) {
         _findings.expectChange(*_selectedUnit);
+        _allUnits.expectChange(*_selectedUnit);
     }
     _sendFailure =
         _session.send(*command, destination, unitDestination().port, linkOfSelectedUnit());
@@ -39,6 +41,7 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
+    _allUnits.requestDidLeave();
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
     }
@@ -95,8 +98,12 @@ void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
     const Everybody all = everybody();
-    sendRequest(parameterRequestCommand,
-                {.address = all.address, .port = defaultUnitPort, .link = all.link});
+    const auto failure =
+        sendRequest(parameterRequestCommand,
+                    {.address = all.address, .port = defaultUnitPort, .link = all.link});
+    if (!failure.has_value()) {
+        _allUnits.everybodyWasAsked(all.link);
+    }
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
@@ -126,6 +133,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
         showFindings();
     }
     compareReply(reply, origin);
+    rememberUnit(parameters, origin);
     appendString(entryOfReply(reply, unitParameters(parameters)));
 }
 
@@ -152,6 +160,7 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
 // one request follows them later.
 void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin& origin) {
     compareReply(reply, origin);
+    rememberAnswer(reply, origin);
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
@@ -172,6 +181,7 @@ void KXConfigAppDelegate::requestParametersOwed() {
 
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
     compareReply(reply, origin);
+    rememberAnswer(reply, origin);
     auto text = textFromUTF8(reply.payload);
     if (text.has_value()) {
         text = quotedLines(*text);

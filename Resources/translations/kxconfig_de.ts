@@ -135,6 +135,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
     </message>
@@ -145,6 +146,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
@@ -199,6 +201,11 @@
         <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Event Log</source>
         <translation>&amp;Ereignisprotokoll</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>All &amp;Units</source>
+        <translation>Alle &amp;Geräte</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -350,6 +357,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>“%@” cannot be written: %@.</source>
         <translation>„%@“ ist nicht beschreibbar: %@.</translation>
     </message>
@@ -702,6 +710,128 @@
         <translation>Qt %@</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Ascending</source>
+        <translation>&amp;Aufsteigend sortieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Descending</source>
+        <translation>A&amp;bsteigend sortieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Left</source>
+        <translation>Spalte nach &amp;links</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Right</source>
+        <translation>Spalte nach &amp;rechts</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>All Units</source>
+        <translation>Alle Geräte</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filter:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Any part of a shown value</source>
+        <translation>Irgendein Teil eines gezeigten Werts</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportieren…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Show in Main Window</source>
+        <translation>Im Hauptfenster &amp;zeigen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit has answered yet. Press Discover in the main window.</source>
+        <translation>Noch kein Gerät hat geantwortet. Drücken Sie im Hauptfenster „Geräte suchen“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit contains the text of the filter.</source>
+        <translation>Kein Gerät enthält den Text des Filters.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit, %d shown</source>
+        <translation>1 Gerät, %d gezeigt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units, %d shown</source>
+        <translation>%d Geräte, %d gezeigt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit</source>
+        <translation>1 Gerät</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units</source>
+        <translation>%d Geräte</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>More have answered; those that were heard last are listed.</source>
+        <translation>Mehr haben geantwortet; aufgeführt sind die zuletzt gehörten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Kommagetrennte Werte (*.csv)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Export Units</source>
+        <translation>Geräte exportieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit is written to “%@”.</source>
+        <translation>1 Gerät steht in „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units are written to “%@”.</source>
+        <translation>%d Geräte stehen in „%@“.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find:</source>
         <translation>Suchen:</translation>
@@ -715,12 +845,6 @@
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find Next</source>
         <translation>Weitersuchen</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
-        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
-        <source>Close</source>
-        <translation>Schließen</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1443,6 +1567,61 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Sender</source>
+        <translation>Absender</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Interface</source>
+        <translation>Schnittstelle</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Last heard</source>
+        <translation>Zuletzt gehört</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Serial number used twice</source>
+        <translation>Seriennummer doppelt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Address used twice</source>
+        <translation>Adresse doppelt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Answered</source>
+        <translation>Hat geantwortet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>It did not answer the latest Discover.</source>
+        <translation>Es hat auf das letzte „Geräte suchen“ nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Another unit, %@, has this serial number, too.</source>
+        <translation>Ein anderes Gerät, %@, hat auch diese Seriennummer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>The unit %@ has the address %@, too.</source>
+        <translation>Das Gerät %@ hat auch die Adresse %@.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -135,6 +135,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>A&amp;yuda</translation>
     </message>
@@ -145,6 +146,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Copiar</translation>
@@ -199,6 +201,11 @@
         <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Event Log</source>
         <translation>&amp;Registro de eventos</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>All &amp;Units</source>
+        <translation>Todas las &amp;unidades</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -350,6 +357,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>“%@” cannot be written: %@.</source>
         <translation>No se puede escribir en «%@»: %@.</translation>
     </message>
@@ -702,6 +710,128 @@
         <translation>Qt %@</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Ascending</source>
+        <translation>Orden &amp;ascendente</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Descending</source>
+        <translation>Orden &amp;descendente</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Left</source>
+        <translation>Columna a la &amp;izquierda</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Right</source>
+        <translation>Columna a la de&amp;recha</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>All Units</source>
+        <translation>Todas las unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filtro:</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Any part of a shown value</source>
+        <translation>Cualquier parte de un valor mostrado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Export…</source>
+        <translation>&amp;Exportar…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Close</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Show in Main Window</source>
+        <translation>&amp;Mostrar en la ventana principal</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>Copiar &amp;valor</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit has answered yet. Press Discover in the main window.</source>
+        <translation>Aún no ha respondido ninguna unidad. Pulse «Buscar unidades» en la ventana principal.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit contains the text of the filter.</source>
+        <translation>Ninguna unidad contiene el texto del filtro.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit, %d shown</source>
+        <translation>1 unidad, %d mostrada</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units, %d shown</source>
+        <translation>%d unidades, %d mostradas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit</source>
+        <translation>1 unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units</source>
+        <translation>%d unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>More have answered; those that were heard last are listed.</source>
+        <translation>Han respondido más; en la lista están las últimas que se oyeron.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Valores separados por comas (*.csv)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Export Units</source>
+        <translation>Exportar unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit is written to “%@”.</source>
+        <translation>Se ha escrito 1 unidad en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units are written to “%@”.</source>
+        <translation>Se han escrito %d unidades en «%@».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find:</source>
         <translation>Buscar:</translation>
@@ -715,12 +845,6 @@
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find Next</source>
         <translation>Buscar siguiente</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
-        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
-        <source>Close</source>
-        <translation>Cerrar</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1443,6 +1567,61 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>No se envió: no se conoce la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Sender</source>
+        <translation>Remitente</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Interface</source>
+        <translation>Interfaz</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Last heard</source>
+        <translation>Último contacto</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Serial number used twice</source>
+        <translation>Número de serie duplicado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Address used twice</source>
+        <translation>Dirección duplicada</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Answered</source>
+        <translation>Ha respondido</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>It did not answer the latest Discover.</source>
+        <translation>No ha respondido a la última búsqueda.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Another unit, %@, has this serial number, too.</source>
+        <translation>Otra unidad, %@, tiene también este número de serie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>The unit %@ has the address %@, too.</source>
+        <translation>La unidad %@ tiene también la dirección %@.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -135,6 +135,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>Aid&amp;e</translation>
     </message>
@@ -145,6 +146,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Copier</translation>
@@ -199,6 +201,11 @@
         <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Event Log</source>
         <translation>&amp;Journal des événements</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>All &amp;Units</source>
+        <translation>Toutes les &amp;unités</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -350,6 +357,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>“%@” cannot be written: %@.</source>
         <translation>Impossible d’écrire dans « %@ » : %@.</translation>
     </message>
@@ -702,6 +710,128 @@
         <translation>Qt %@</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Ascending</source>
+        <translation>Tri cr&amp;oissant</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Descending</source>
+        <translation>Tri &amp;décroissant</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Left</source>
+        <translation>Colonne vers la &amp;gauche</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Right</source>
+        <translation>Colonne vers la d&amp;roite</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>All Units</source>
+        <translation>Toutes les unités</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Filter:</source>
+        <translation>&amp;Filtre :</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Any part of a shown value</source>
+        <translation>Une partie quelconque d’une valeur affichée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Export…</source>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Show in Main Window</source>
+        <translation>&amp;Afficher dans la fenêtre principale</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>Copier la &amp;valeur</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit has answered yet. Press Discover in the main window.</source>
+        <translation>Aucune unité n’a encore répondu. Appuyez sur « Détecter » dans la fenêtre principale.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit contains the text of the filter.</source>
+        <translation>Aucune unité ne contient le texte du filtre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit, %d shown</source>
+        <translation>1 unité, %d affichée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units, %d shown</source>
+        <translation>%d unités, %d affichées</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit</source>
+        <translation>1 unité</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units</source>
+        <translation>%d unités</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>More have answered; those that were heard last are listed.</source>
+        <translation>D’autres ont répondu ; celles entendues en dernier figurent dans la liste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>Valeurs séparées par des virgules (*.csv)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Export Units</source>
+        <translation>Exporter les unités</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit is written to “%@”.</source>
+        <translation>1 unité est écrite dans « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units are written to “%@”.</source>
+        <translation>%d unités sont écrites dans « %@ ».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find:</source>
         <translation>Rechercher :</translation>
@@ -715,12 +845,6 @@
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find Next</source>
         <translation>Rechercher le suivant</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
-        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
-        <source>Close</source>
-        <translation>Fermer</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1443,6 +1567,61 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Sender</source>
+        <translation>Émetteur</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Interface</source>
+        <translation>Interface</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Last heard</source>
+        <translation>Dernier contact</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Serial number used twice</source>
+        <translation>Numéro de série en double</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Address used twice</source>
+        <translation>Adresse en double</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Answered</source>
+        <translation>A répondu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>It did not answer the latest Discover.</source>
+        <translation>Elle n’a pas répondu à la dernière détection.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Another unit, %@, has this serial number, too.</source>
+        <translation>Une autre unité, %@, a aussi ce numéro de série.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>The unit %@ has the address %@, too.</source>
+        <translation>L’unité %@ a aussi l’adresse %@.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

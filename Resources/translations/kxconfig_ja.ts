@@ -135,6 +135,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
     </message>
@@ -145,6 +146,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>
@@ -199,6 +201,11 @@
         <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Event Log</source>
         <translation>イベントログ(&amp;E)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>All &amp;Units</source>
+        <translation>すべてのユニット(&amp;U)</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -350,6 +357,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>“%@” cannot be written: %@.</source>
         <translation>「%@」に書き込めません: %@。</translation>
     </message>
@@ -702,6 +710,128 @@
         <translation>Qt %@</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Ascending</source>
+        <translation>昇順で並べ替え(&amp;A)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Sort &amp;Descending</source>
+        <translation>降順で並べ替え(&amp;D)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Left</source>
+        <translation>列を左へ移動(&amp;L)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsView.cpp"/>
+        <source>Move Column &amp;Right</source>
+        <translation>列を右へ移動(&amp;R)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>All Units</source>
+        <translation>すべてのユニット</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Filter:</source>
+        <translation>フィルター(&amp;F):</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Any part of a shown value</source>
+        <translation>表示されている値の一部</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Columns</source>
+        <translation>列(&amp;C)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Export…</source>
+        <translation>書き出す(&amp;E)…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>&amp;Show in Main Window</source>
+        <translation>メインウィンドウに表示(&amp;S)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit has answered yet. Press Discover in the main window.</source>
+        <translation>まだどのユニットも応答していません。メインウィンドウで「検出」を押してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>No unit contains the text of the filter.</source>
+        <translation>フィルターの文字を含むユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit, %d shown</source>
+        <translation>1 台のユニット、%d 台を表示</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units, %d shown</source>
+        <translation>%d 台のユニット、%d 台を表示</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit</source>
+        <translation>1 台のユニット</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units</source>
+        <translation>%d 台のユニット</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>More have answered; those that were heard last are listed.</source>
+        <translation>ほかにも応答がありましたが、最後に受信したものだけを表示しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Comma-separated values (*.csv)</source>
+        <translation>カンマ区切りの値 (*.csv)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>JSON (*.json)</source>
+        <translation>JSON (*.json)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Export Units</source>
+        <translation>ユニットの書き出し</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>1 unit is written to “%@”.</source>
+        <translation>1 台のユニットを「%@」に書き込みました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>%d units are written to “%@”.</source>
+        <translation>%d 台のユニットを「%@」に書き込みました。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find:</source>
         <translation>検索:</translation>
@@ -715,12 +845,6 @@
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <source>Find Next</source>
         <translation>次を検索</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
-        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
-        <source>Close</source>
-        <translation>閉じる</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1443,6 +1567,61 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Sender</source>
+        <translation>送信元</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Interface</source>
+        <translation>インターフェース</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Last heard</source>
+        <translation>最終受信</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Serial number used twice</source>
+        <translation>シリアル番号が重複</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Address used twice</source>
+        <translation>アドレスが重複</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Answered</source>
+        <translation>応答あり</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>It did not answer the latest Discover.</source>
+        <translation>最後の検出に応答しませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>Another unit, %@, has this serial number, too.</source>
+        <translation>別のユニット %@ もこのシリアル番号を使っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>The unit %@ has the address %@, too.</source>
+        <translation>ユニット %@ もアドレス %@ を使っています。</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

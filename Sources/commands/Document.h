@@ -8,19 +8,13 @@
 #include "commands/CommandTable.h"
 #include "commands/ExitStatus.h"
 #include "conversation/HeardUnits.h"
-#include "conversation/HostInterface.h"
-
-#include <nlohmann/json.hpp>
+#include "files/UnitJSON.h"
 
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace kx {
-
-// Keeps the order of its keys.
-using Json = nlohmann::ordered_json;
 
 class Document {
 public:
@@ -39,14 +33,6 @@ public:
 private:
     Json _json;
 };
-
-// A document of any kind on one line, as Document::text() writes it.
-std::string lineOfJson(const Json& json);
-
-// The name of the interface with this index; null when it is none of these.
-Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link);
-
-Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
 
 // The two kinds of units that cannot be told apart, as one list.
 Json jsonOfDuplicates(const HeardUnits& units);

@@ -2,62 +2,11 @@
 
 #include "addresses/IPv4Address.h"
 #include "commands/TextTable.h"
-#include "files/CSV.h"
 #include "support/VisibleText.h"
-#include "units/ExactEdit.h"
-#include "units/IdentityText.h"
 
-#include <algorithm>
 #include <array>
 
 namespace kx {
-
-namespace {
-
-constexpr std::array shownParameters{
-    UnitParameter::serialNumber,          UnitParameter::unitID,
-    UnitParameter::internalIPAddress,     UnitParameter::internalMACAddress,
-    UnitParameter::destinationIPAddress,  UnitParameter::destinationMACAddress,
-    UnitParameter::destinationPortNumber, UnitParameter::devicePortNumber,
-};
-static_assert(shownParameters.size() == unitParameterCount);
-
-std::string nameOfInterface(const std::vector<HostInterface>& interfaces, std::uint32_t link) {
-    const auto found = std::ranges::find(interfaces, link, &HostInterface::link);
-    return link != 0 && found != interfaces.end() ? found->name : std::string();
-}
-
-std::string bytesOfUnitID(const HeardUnit& unit) {
-    return unit.unitIDBytes.has_value() ? hexStringForData(*unit.unitIDBytes, "") : std::string();
-}
-
-// A unit ID that is no text is shown by its bytes.
-std::string shownValue(const HeardUnit& unit, UnitParameter parameter) {
-    if (parameter != UnitParameter::unitID) {
-        return std::string(unit.record.value(parameter).value_or(std::string_view()));
-    }
-    const auto text = unitIDText(unit.record);
-    return text.has_value() ? std::string(*text) : bytesOfUnitID(unit);
-}
-
-bool hasOnlyVisibleCharacters(std::string_view text) {
-    return visibleText(text) == text;
-}
-
-std::string csvValue(const HeardUnit& unit, UnitParameter parameter) {
-    std::string text = shownValue(unit, parameter);
-    if (parameter != UnitParameter::unitID) {
-        return text;
-    }
-    const auto edit = exactEdit(parameter, text);
-    const auto* const exact = std::get_if<ExactEdit>(&edit);
-    const bool isReadBack = exact != nullptr && !exact->isChanged &&
-                            exact->unitIDBytes == unit.unitIDBytes &&
-                            hasOnlyVisibleCharacters(text);
-    return isReadBack ? text : std::string();
-}
-
-} // namespace
 
 std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces,
                          bool isBold) {
@@ -93,33 +42,11 @@ std::string parametersOfUnit(const HeardUnit& unit, const std::vector<HostInterf
         return text + visibleText(value) + "\n";
     };
     std::string text;
-    for (const UnitParameter parameter : shownParameters) {
+    for (const UnitParameter parameter : exportedParameters) {
         text += line(descriptionOf(parameter).identifier, shownValue(unit, parameter));
     }
     text += line("source-ip", stringForIP(unit.sender));
     text += line("interface", nameOfInterface(interfaces, unit.link));
-    return text;
-}
-
-std::string csvOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces) {
-    std::vector<std::string> fields;
-    fields.reserve(shownParameters.size() + 4);
-    for (const UnitParameter parameter : shownParameters) {
-        fields.emplace_back(descriptionOf(parameter).identifier);
-    }
-    fields.insert(fields.end(), {"unit_id_bytes", "source_ip", "interface", "answered_ms"});
-    std::string text = csvRecord(fields);
-    for (const HeardUnit* const unit : units) {
-        fields.clear();
-        for (const UnitParameter parameter : shownParameters) {
-            fields.push_back(csvValue(*unit, parameter));
-        }
-        fields.push_back(bytesOfUnitID(*unit));
-        fields.push_back(stringForIP(unit->sender));
-        fields.push_back(nameOfInterface(interfaces, unit->link));
-        fields.push_back(std::to_string(unit->answered.count()));
-        text += csvRecord(fields);
-    }
     return text;
 }
 

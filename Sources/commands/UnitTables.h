@@ -1,4 +1,4 @@
-// Units as tables: for a person, and as comma-separated values.
+// Units as tables for a person. files/UnitCSV.h writes them as comma-separated values.
 //
 // Pure; any thread. Texts are UTF-8.
 
@@ -6,13 +6,12 @@
 
 #include "conversation/HeardUnits.h"
 #include "conversation/HostInterface.h"
+#include "files/UnitCSV.h"
 
 #include <string>
 #include <vector>
 
 namespace kx {
-
-using UnitList = std::vector<const HeardUnit*>;
 
 // One line for each unit.
 std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces,
@@ -20,9 +19,5 @@ std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>
 
 // Every parameter of one unit, one on each line.
 std::string parametersOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
-
-// The table that can be read back: a header, and a record for each unit. The unit ID stands as a
-// text only where that text gives the same unit ID; `unit_id_bytes` has it in every case.
-std::string csvOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces);
 
 } // namespace kx

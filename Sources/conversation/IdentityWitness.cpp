@@ -2,36 +2,13 @@
 
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
-#include "units/IdentityText.h"
+#include "units/ParameterNumber.h"
 
-#include <array>
-#include <charconv>
 #include <string>
 
 namespace kx {
 
 namespace {
-
-// The number of six bytes in the text form of a record, two digits and one separator each; 0 for a
-// text that is absent.
-std::uint64_t numberOfSixBytes(std::optional<std::string_view> text) {
-    std::uint64_t number = 0;
-    for (std::size_t i = 0; text.has_value() && i + 1 < text->size(); i += 3) {
-        std::uint8_t byte = 0;
-        std::from_chars(text->data() + i, text->data() + i + 2, byte, 16);
-        number = number << 8U | byte;
-    }
-    return number;
-}
-
-std::string textOfSixBytes(std::uint64_t number, std::string_view separator) {
-    std::array<std::uint8_t, identityLength> bytes{};
-    for (std::uint8_t& byte : bytes) {
-        byte = static_cast<std::uint8_t>(number >> 40U);
-        number <<= 8U;
-    }
-    return hexStringForData(bytes, separator);
-}
 
 std::uint32_t addressOfSender(const DatagramOrigin& origin) {
     std::uint32_t address = 0;

@@ -17,13 +17,6 @@ HeardUnit unitWithID(const UnitIDBytes& bytes) {
     return unit;
 }
 
-std::vector<HostInterface> oneInterface() {
-    HostInterface interface;
-    interface.name = "kx0";
-    interface.link = 3;
-    return {interface};
-}
-
 } // namespace
 
 TEST(Document, HasEveryKeyOfItsCommandFromTheBeginning) {
@@ -45,31 +38,6 @@ TEST(Document, ToldWarningsStandInTheirOrder) {
     const Json json = Json::parse(document.text(0, {}));
     EXPECT_EQ(json["warnings"][1]["code"], "dropped");
     EXPECT_EQ(json["warnings"][0]["message"], "One.");
-}
-
-TEST(Document, AUnitHasNullForWhatItDidNotTell) {
-    const Json json = jsonOfUnit(unitWithID({0xFF, 1, 2, 3, 4, 5}), oneInterface());
-    EXPECT_EQ(json.dump(),
-              R"({"serial":"4B 58 00 00 00 01","unit_id":null,"unit_id_bytes":"FF0102030405",)"
-              R"("internal_ip":null,"internal_mac":null,"destination_ip":null,)"
-              R"("destination_mac":null,"destination_port":null,"device_port":10000,)"
-              R"("source_ip":"192.0.2.11","interface":"kx0","answered_ms":3})");
-    EXPECT_EQ(jsonOfUnit(unitWithID({}), {})["interface"], nullptr);
-    EXPECT_EQ(jsonOfUnit(HeardUnit(), {})["unit_id_bytes"], nullptr);
-}
-
-TEST(Document, ZeroBytesAtTheEndOfAUnitIDAreLeftOut) {
-    HeardUnit unit = unitWithID({'A', 'B', 0, 0, 0, 0});
-    unit.record.setValue(UnitParameter::unitID, std::string_view("AB\0\0\0\0", 6));
-    EXPECT_EQ(jsonOfUnit(unit, {})["unit_id"], "AB");
-}
-
-TEST(Document, ForeignTextsAreEscaped) {
-    Json json;
-    json["text"] = std::string("\x1b[2J\n\"\\\0\u202e\xff", 12);
-    const std::string line = lineOfJson(json);
-    EXPECT_EQ(line, "{\"text\":\"\\u001b[2J\\n\\\"\\\\\\u0000\\u202e\\ufffd\"}\n");
-    EXPECT_EQ(Json::parse(line)["text"].get<std::string>().substr(0, 5), "\x1b[2J\n");
 }
 
 TEST(Document, DuplicatesOfBothKindsAreOneList) {

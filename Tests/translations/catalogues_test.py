@@ -23,6 +23,7 @@ KNOWN_LOOKUPS = {
     ("EditForecast.cpp", "descriptionOf(edit.parameter).phrase,"),
     ("EditForecast.cpp", "target.objectionToARPEntry)"),
     ("EditOutcomeText.cpp", "nameOfUnitParameter("),
+    ("UnitColumns.cpp", "key)"),
     ("EditOutcomeText.cpp", "said)"),
 }
 

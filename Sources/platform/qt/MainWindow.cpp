@@ -3,6 +3,7 @@
 #include "KXConfigAppDelegate.h"
 #include "KXParameterEntry.h"
 #include "platform/qt/AboutBox.h"
+#include "platform/qt/AllUnitsWindow.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
 #include "platform/qt/PixelAlignedFrame.h"
@@ -137,6 +138,7 @@ void MainWindow::connectActions(KXConfigAppDelegate& controller) {
 
 void MainWindow::disconnectActions() {
     _controller = nullptr;
+    _allUnitsWindow.reset(); // it reads the controller's units
     _controls->editParameterTableView.setDataSource(nullptr);
 }
 
@@ -239,6 +241,7 @@ void MainWindow::connectMenus() {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
     });
+    connect(_ui->allUnitsAction, &QAction::triggered, this, &MainWindow::showAllUnits);
     connect(_ui->aboutAction, &QAction::triggered, this, [this] { showAboutBox(*this); });
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
@@ -319,13 +322,13 @@ void MainWindow::keepEmptyStatesReadable() {
 
 // An action that is requested while another one runs, for example under its alert, runs after it.
 void MainWindow::perform(Action action) {
-    _actions.push_back(action);
+    _actions.push_back(std::move(action));
     if (_actions.size() > 1) {
         return;
     }
     while (!_actions.empty()) {
         if (_controller != nullptr) {
-            (_controller->*_actions.front())();
+            _actions.front()(*_controller);
         }
         _actions.pop_front();
     }

@@ -14,10 +14,13 @@
 
 #include <QMainWindow>
 #include <deque>
+#include <functional>
 #include <memory>
+#include <string_view>
 
 namespace kx {
 
+class AllUnitsWindow;
 class FindBar;
 class KXConfigAppDelegate;
 
@@ -54,7 +57,7 @@ protected:
 
 private:
     struct Controls;
-    using Action = void (KXConfigAppDelegate::*)();
+    using Action = std::function<void(KXConfigAppDelegate&)>;
 
     void connectButtons();
     void connectPopUps();
@@ -65,6 +68,8 @@ private:
     void keepEmptyStatesReadable();
 
     void perform(Action action);
+    void showAllUnits();
+    void showUnit(std::string_view serial);
     void findInLog(void (FindBar::*step)());
     void drawerDidChange(DrawerState state);
 
@@ -72,6 +77,7 @@ private:
     std::unique_ptr<Controls> _controls;
     KXConfigAppDelegate* _controller = nullptr;
     std::deque<Action> _actions; // the running action, and the ones asked for since
+    std::unique_ptr<AllUnitsWindow> _allUnitsWindow; // null until it is first opened
 };
 
 } // namespace kx

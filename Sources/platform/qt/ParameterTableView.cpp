@@ -1,10 +1,11 @@
 #include "platform/qt/ParameterTableView.h"
 
+#include "platform/qt/Placeholder.h"
+
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QPainter>
 #include <QStyledItemDelegate>
 
 namespace kx {
@@ -154,16 +155,9 @@ void ParameterTableView::keyPressEvent(QKeyEvent* event) {
 
 void ParameterTableView::paintEvent(QPaintEvent* event) {
     QTableView::paintEvent(event);
-    if (!showsPlaceholder()) {
-        return;
+    if (showsPlaceholder()) {
+        paintPlaceholder(*viewport(), _placeholderText);
     }
-    QColor dimmed = palette().color(QPalette::Text);
-    dimmed.setAlphaF(0.6F);
-    QPainter painter(viewport());
-    painter.setPen(dimmed);
-    const int margin = fontMetrics().averageCharWidth();
-    painter.drawText(viewport()->rect().adjusted(margin, 0, -margin, 0),
-                     static_cast<int>(Qt::AlignCenter) | Qt::TextWordWrap, _placeholderText);
 }
 
 void ParameterTableView::describe() {

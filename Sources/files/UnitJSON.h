@@ -1,0 +1,36 @@
+// Units as JSON (RFC 8259), with the keys of kxctl's documents.
+//
+// Pure; any thread. Texts are UTF-8; foreign texts may hold anything. What is written has no
+// characters beyond ASCII, and a mark in the place of bytes that are no UTF-8.
+
+#pragma once
+
+#include "conversation/HeardUnits.h"
+#include "conversation/HostInterface.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <vector>
+
+namespace kx {
+
+// Keeps the order of its keys.
+using Json = nlohmann::ordered_json;
+
+// The version of all documents, their key "schema".
+inline constexpr int schemaOfDocuments = 1;
+
+// A document of any kind on one line, which ends with a line break.
+std::string lineOfJson(const Json& json);
+
+// The name of the interface with this index; null when it is none of these.
+Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link);
+
+Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
+
+// A document with the keys "schema" and "units", each unit on a line of its own.
+std::string documentOfUnits(const std::vector<const HeardUnit*>& units,
+                            const std::vector<HostInterface>& interfaces);
+
+} // namespace kx

@@ -1,0 +1,93 @@
+// The table of the window *All Units*: rows of units, with columns that a person sorts, moves and
+// hides.
+//
+// Everything goes without a mouse, too: the column with the keyboard is sorted by, moved and hidden
+// by the actions of columnActions(), which have keys. Return and a double click choose a unit.
+// Letters and digits that are typed here belong to the filter. While there are no rows, the table
+// shows a text in their place; the text is also its description for a screen reader.
+//
+// Main thread only.
+
+#pragma once
+
+#include "words/UnitColumns.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QTableView>
+
+namespace kx {
+
+class AllUnitsModel;
+
+class AllUnitsView final : public QTableView {
+    Q_OBJECT
+
+public:
+    // The model must outlive it.
+    explicit AllUnitsView(AllUnitsModel& model, QWidget* parent = nullptr);
+
+    void setPlaceholderText(const QString& text);
+    const QString& placeholderText() const { return _placeholderText; }
+
+    // The columns from left to right, without the hidden ones.
+    std::vector<UnitColumn> shownColumns() const;
+
+    // Shows or hides a column. The last column that is shown stays.
+    void setColumnShown(UnitColumn column, bool isShown);
+
+    // Puts an action for rows into the context menu of the table, above those for columns.
+    void addRowAction(QAction& action);
+
+    // The menu of the columns: one item for each, and what can be done with the one that has the
+    // keyboard. It belongs to the view.
+    QMenu& columnMenu() { return _columnMenu; }
+
+    // The selected rows as a table: the heads of the shown columns, then a line for each row, with
+    // tabs between the cells. Empty when nothing is selected.
+    QString selectedRowsText() const;
+
+    // The text of the cell with the keyboard.
+    QString currentText() const;
+
+    // Gives the keyboard to the row that had it last, or to the first one, and selects the row.
+    void enterRows();
+
+    // The width at which every shown column is seen whole.
+    int wholeWidth() const;
+
+signals:
+    void unitChosen(std::uint32_t unit);
+    void textTyped(const QString& text);
+    void shownColumnsDidChange();
+
+protected:
+    void changeEvent(QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void fitToFont();
+    int widthOf(UnitColumn column) const;
+    void addColumnAction(const QString& text, const QKeySequence& key, void (AllUnitsView::*act)());
+    void fillColumnMenu();
+    void chooseRow(int row);
+
+    void sortAscending() { sortByCurrentColumn(Qt::AscendingOrder); }
+    void sortDescending() { sortByCurrentColumn(Qt::DescendingOrder); }
+    void sortByCurrentColumn(Qt::SortOrder order);
+    void moveColumnLeft() { moveCurrentColumn(-1); }
+    void moveColumnRight() { moveCurrentColumn(1); }
+    void moveCurrentColumn(int step);
+
+    // The place in the header of the next shown column in this direction; -1 without one.
+    int shownPlaceFrom(int place, int step) const;
+    int currentColumn() const;
+
+    AllUnitsModel& _model;
+    QMenu _columnMenu;
+    QList<QAction*> _columnActions; // of the column with the keyboard, a separator first
+    QString _placeholderText;
+};
+
+} // namespace kx
