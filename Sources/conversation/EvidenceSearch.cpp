@@ -56,7 +56,6 @@ void EvidenceSearch::start() {
     lookUp();
     openSockets();
     requestFromHosts();
-    count(false);
     _nextRequest = _services.runLoop.callOnceAfter(firstRequest, [this] { request(); });
     _deadline = _services.runLoop.callOnceAfter(usualTime, [this] { finishOrWait(); });
 }
@@ -316,14 +315,14 @@ void EvidenceSearch::compareEntries() {
     }
 }
 
-// As long as nobody answers: perhaps answers to single requests come in.
+// As long as nobody answers: perhaps answers to single requests come in. They are asked with the
+// next request to everybody, so that the time between stays quiet.
 void EvidenceSearch::chooseNeighbours() {
     std::size_t chosen = 0;
     for (const std::uint32_t address : _services.neighbours.knownAddresses(link())) {
         if (chosen < mostNeighbours && _question.interface->networkOf(address) != nullptr &&
             _hosts.try_emplace(address, Host{.port = defaultUnitPort}).second) {
             ++chosen;
-            askHost(address);
         }
     }
 }
