@@ -216,7 +216,7 @@ std::vector<const HeardUnit*> unitsOfOtherSubnets(const DiagnosisEvidence& evide
     if (!evidence.interface.has_value()) {
         return found;
     }
-    const bool nobodyTakesBroadcast = evidence.listener.hasAskedNow &&
+    const bool nobodyTakesBroadcast = evidence.listener.hasAskedNow && evidence.listener.isWhole &&
                                       evidence.listener.ownBroadcast == OwnBroadcast::heard &&
                                       !isAnswered(evidence);
     std::ranges::copy_if(evidence.linkUnits.all(), std::back_inserter(found),

@@ -35,6 +35,7 @@ struct ListenerEvidence {
     OwnBroadcast ownBroadcast = OwnBroadcast::untested;
 
     HeardUnits units{4096};
+    bool isWhole = true;             // false when more came than was looked at
     std::uint32_t notUnderstood = 0; // datagrams that look like answers and cannot be decoded
     std::uint32_t foreign = 0;       // datagrams that look like nothing that is known
     std::uint32_t dropped = 0;       // by the system, before they were read

@@ -86,7 +86,7 @@ int ListenerWitness::bind(int descriptor, ByteView address) {
     const int error = errno;
     _evidence = {};
     _evidence.port = senderOf(address).port;
-    _datagrams = 0;
+    _decoded = 0;
     _requests.clear();
     _hasHeardProbe = false;
     _descriptor = result == 0 ? descriptor : -1;
@@ -150,27 +150,25 @@ bool ListenerWitness::isProbe(ByteView datagram, const Sender& sender) const {
 }
 
 void ListenerWitness::noteDatagram(ByteView datagram, const DatagramOrigin& origin) {
-    if (_datagrams >= mostDecoded) {
-        return;
-    }
-    ++_datagrams;
     const Sender sender = senderOf(origin.sender);
     if (textOf(datagram) == parameterRequestCommand) {
         if (_requests.size() < mostRequests) {
             _requests.insert(sender);
         }
-    } else if (!decode(datagram, sender, origin.link)) {
+    } else if (!looksLikeAnswer(datagram)) {
         ++_evidence.foreign;
+    } else if (_decoded < mostDecoded) {
+        ++_decoded;
+        decode(datagram, sender, origin.link);
+    } else {
+        _evidence.isWhole = false;
     }
 }
 
-bool ListenerWitness::decode(ByteView datagram, const Sender& sender, std::uint32_t link) {
+void ListenerWitness::decode(ByteView datagram, const Sender& sender, std::uint32_t link) {
     if (auto unit = unitInDatagram(datagram, sender.address, link)) {
         _evidence.units.add(std::move(*unit));
-        return true;
-    }
-    if (!looksLikeAnswer(datagram)) {
-        return false;
+        return;
     }
     try {
         const Reply reply = replyFromDatagram(datagram);
@@ -182,7 +180,6 @@ bool ListenerWitness::decode(ByteView datagram, const Sender& sender, std::uint3
     } catch (const RangeFailure&) {
         ++_evidence.notUnderstood;
     }
-    return true;
 }
 
 } // namespace kx

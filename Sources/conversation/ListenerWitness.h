@@ -1,8 +1,8 @@
 // Sees what the listener of a program does and hears, for the diagnosis, without being part of it:
 // it stands between the endpoint and the system calls.
 //
-// It forgets everything when a listener is bound. It decodes the first few thousand datagrams only,
-// so that a flood costs nothing.
+// It forgets everything when a listener is bound. Of the datagrams that look like answers it
+// decodes the first few thousand only, so that a flood costs nothing.
 //
 // The diagnosis sends broadcasts from sockets of its own to see whether one comes back to the
 // listener. The witness takes such a datagram out: the listener's owner never sees it.
@@ -26,7 +26,7 @@ namespace kx {
 
 class ListenerWitness final : public ForwardingSystemCalls {
 public:
-    // The datagrams that are decoded after a listener was bound.
+    // So many datagrams are decoded after a listener was bound.
     static constexpr std::uint32_t mostDecoded = 4096;
 
     // `buffers` tells the datagrams that the system dropped; it may be null.
@@ -62,12 +62,12 @@ private:
     bool isProbe(ByteView datagram, const Sender& sender) const;
     void noteSend(ByteView data, ByteView address, ssize_t sent);
     void noteDatagram(ByteView datagram, const DatagramOrigin& origin);
-    bool decode(ByteView datagram, const Sender& sender, std::uint32_t link);
+    void decode(ByteView datagram, const Sender& sender, std::uint32_t link);
 
     ReceiveBufferControl* _buffers;
     ListenerEvidence _evidence;
     int _descriptor = -1; // the listener's
-    std::uint32_t _datagrams = 0;
+    std::uint32_t _decoded = 0;
     std::set<Sender> _requests; // who sent a parameter request to the listener
     std::vector<std::uint16_t> _probePorts;
     std::vector<std::uint32_t> _probeAddresses;
