@@ -60,6 +60,16 @@ void EvidenceSearch::start() {
     _deadline = _services.runLoop.callOnceAfter(usualTime, [this] { finishOrWait(); });
 }
 
+void EvidenceSearch::look() {
+    _evidence.interfaceName = _question.interfaceName;
+    _evidence.interface = _question.interface;
+    _listenerWasTold = true;
+    if (canAsk(_evidence)) {
+        lookUp();
+    }
+    conclude();
+}
+
 // The first and the last host of the network stand for its halves; another link may lead to one.
 void EvidenceSearch::lookUp() {
     const NetworkOfInterface& network = _question.interface->networks.front();

@@ -75,6 +75,10 @@ public:
 
     const DiagnosisEvidence& evidence() const { return _evidence; }
 
+    // Instead of begin(): gathers what the listener has heard and the host knows, and sends
+    // nothing. The listener's latest request counts as one of now.
+    void look();
+
     // Ends with what is known by now.
     void interrupt() override { finish(); }
 
@@ -121,7 +125,7 @@ private:
     std::vector<std::unique_ptr<DiagnosticSocket>> _otherPorts;
     std::map<std::uint32_t, Host> _hosts; // by address
     std::optional<HostCounters> _lastCounters;
-    bool _probeLeft = false;         // a request that the listener must hear
+    bool _probeLeft = false;       // a request that the listener must hear
     bool _listenerWasTold = false; // to ask
     int _requests = 0;
     RunLoop::Handle _nextRequest;

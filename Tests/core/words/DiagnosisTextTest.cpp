@@ -92,7 +92,7 @@ TEST(DiagnosisText, WhoHasThePortIsNamedAsFarAsItIsKnown) {
     auto evidence = evidenceOf(Cause::portTaken);
     EXPECT_EQ(sentenceOfCause(Cause::portTaken, evidence),
               "UDP port 3520 is taken by another program.");
-    evidence.portOwner = PortOwner{.user = "anna"};
+    evidence.portOwner = PortOwner{.program = {}, .process = 0, .user = "anna"};
     EXPECT_EQ(sentenceOfCause(Cause::portTaken, evidence),
               "UDP port 3520 is taken by a program of the user anna.");
     evidence.portOwner = PortOwner{.program = "kxconfig", .process = 42, .user = "anna"};
@@ -102,7 +102,7 @@ TEST(DiagnosisText, WhoHasThePortIsNamedAsFarAsItIsKnown) {
 
 TEST(DiagnosisText, ForeignTextsAreShownAsMarks) {
     auto evidence = evidenceOf(Cause::portTaken);
-    evidence.portOwner = PortOwner{.program = "a\x1b[31m", .process = 1};
+    evidence.portOwner = PortOwner{.program = "a\x1b[31m", .process = 1, .user = {}};
     EXPECT_EQ(sentenceOfCause(Cause::portTaken, evidence).find('\x1b'), std::string::npos);
 }
 
