@@ -14,7 +14,8 @@ protected:
 
     Words causes() const {
         Words ids;
-        for (const Json& cause : document()["causes"]) {
+        const Json whole = document();
+        for (const Json& cause : whole["causes"]) {
             ids.push_back(cause["id"].get<std::string>());
         }
         return ids;
@@ -69,11 +70,14 @@ TEST_F(DiagnoseCommandTest, OfSeveralInterfacesOneMustBeNamed) {
 
 TEST_F(DiagnoseCommandTest, WhereUnitsAnswerOnOneInterfaceTheOthersMayBeSilent) {
     addInterface("kx2", secondLink, 0x0A000001U);
-    play({});
-    systemCalls.setObserver({});
     diagnosticSockets.isRefused = true;
     EXPECT_EQ(run({"diagnose", "-i", "all", "--port", "3521", "--json"}), 1);
     EXPECT_EQ(causes(), (Words{"nothing-arrived", "nothing-arrived"}));
+    play({});
+    EXPECT_EQ(run({"diagnose", "-i", "kx2", "--port", "3521", "--json"}), 1);
+    EXPECT_EQ(causes(), Words{"nothing-arrived"});
+    EXPECT_EQ(run({"diagnose", "-i", "all", "--port", "3521", "--json"}), 0);
+    EXPECT_EQ(causes(), Words());
 }
 
 TEST_F(DiagnoseCommandTest, ATakenPortIsACauseWithItsOwner) {
