@@ -114,6 +114,7 @@ constexpr Text diagnoseText =
     "serial number or by id:TEXT.\n\n"
     "It sends three requests to everybody, three to 255.255.255.255, three to the interface's "
     "broadcast address on its own port, and a few to single hosts, parameter requests all of them. "
+    "Meanwhile it listens on all of the four ports that are free. "
     "The exit status is 0 when units answer and no check fails, 1 when a cause was found, and 3 "
     "when none can be named.";
 
