@@ -8,6 +8,7 @@
 #pragma once
 
 #include "DatagramSystemCalls.h"
+#include "conversation/HeardUnits.h"
 #include "support/Error.h"
 
 #include <cstdint>
@@ -34,15 +35,16 @@ public:
     // The port from which it sends.
     virtual std::uint16_t port() const = 0;
 
-    // Sends one datagram. The result is absent when it left.
-    virtual std::optional<Error> send(std::string_view text, std::uint32_t address,
-                                      std::uint16_t port) = 0;
+    // Sends one datagram. The result is absent when it left. A socket that is bound to an interface
+    // needs no link.
+    virtual std::optional<Error> send(std::string_view text, const UnitTarget& target) = 0;
 };
 
 class DiagnosticSockets {
 public:
     struct Wish {
-        // The only interface by which it sends and hears; empty for all of them, by the routes.
+        // The only interface by which it sends and hears; empty for all of them. Such a socket is
+        // not told when this host itself gives up a datagram.
         std::string interface;
         std::uint16_t port = 0; // to listen on; 0 for any
     };

@@ -121,10 +121,8 @@ void EvidenceSearch::openSockets() {
         {.received = [this](ByteView data, std::uint32_t sender,
                             std::uint16_t port) { linkDidReceive(data, sender, port); },
          .failed = {}});
-    _onLink = _services.sockets.open(_services.systemCalls, {.interface = name, .port = 0},
+    _single = _services.sockets.open(_services.systemCalls, {.interface = {}, .port = 0},
                                      {.received = answered, .failed = failed});
-    _byRoutes = _services.sockets.open(_services.systemCalls, {.interface = {}, .port = 0},
-                                       {.received = answered, .failed = failed});
     openOtherPorts();
     if (_everybody != nullptr) {
         _services.witness.expectProbes({_everybody->port()}, _question.ownAddresses);
@@ -154,11 +152,6 @@ void EvidenceSearch::openOtherPorts() {
     }
 }
 
-// Hosts in the interface's networks are asked by it, as commands are; others where the routes lead.
-DiagnosticSocket* EvidenceSearch::socketFor(std::uint32_t address) {
-    return _question.interface->networkOf(address) != nullptr ? _onLink.get() : _byRoutes.get();
-}
-
 // --- Requests ---
 
 void EvidenceSearch::request() {
@@ -170,7 +163,9 @@ void EvidenceSearch::request() {
     }
     if (_everybody != nullptr) {
         const bool isSent =
-            !_everybody->send(parameterRequestCommand, limitedBroadcastAddress, defaultUnitPort)
+            !_everybody
+                 ->send(parameterRequestCommand,
+                        {.address = limitedBroadcastAddress, .port = defaultUnitPort})
                  .has_value();
         _evidence.hasAskedLink = _evidence.hasAskedLink || isSent;
         const std::uint16_t port = _evidence.listener.port;
@@ -186,9 +181,10 @@ void EvidenceSearch::request() {
 
 // Whether a request left that no unit takes, because it goes to the listener's port.
 bool EvidenceSearch::askListener(std::uint16_t port) {
-    return port != 0 &&
-           !_everybody->send(parameterRequestCommand, _question.interface->broadcast(), port)
-                .has_value();
+    return port != 0 && !_everybody
+                             ->send(parameterRequestCommand,
+                                    {.address = _question.interface->broadcast(), .port = port})
+                             .has_value();
 }
 
 void EvidenceSearch::requestFromHosts() {
@@ -199,13 +195,16 @@ void EvidenceSearch::requestFromHosts() {
     }
 }
 
+// Hosts in the interface's networks are asked by it, as commands are; others where the routes lead.
 void EvidenceSearch::askHost(std::uint32_t address) {
-    DiagnosticSocket* const socket = socketFor(address);
-    if (socket == nullptr) {
+    if (_single == nullptr) {
         return;
     }
     _evidence.hasAskedHosts = true;
-    const auto error = socket->send(parameterRequestCommand, address, _hosts[address].port);
+    const bool isNear = _question.interface->networkOf(address) != nullptr;
+    const auto error = _single->send(
+        parameterRequestCommand,
+        {.address = address, .port = _hosts[address].port, .link = isNear ? link() : 0});
     if (error.has_value() && _evidence.target.has_value() && _evidence.target->address == address) {
         _evidence.target->sendError = error;
     }

@@ -113,15 +113,13 @@ private:
     void hostDidAnswer(ByteView data, std::uint32_t sender);
     void deliveryDidFail(const DeliveryFailure& failure);
     std::uint32_t link() const;
-    DiagnosticSocket* socketFor(std::uint32_t address);
 
     Services _services;
     DiagnosisQuestion _question;
     DiagnosisEvidence _evidence;
     std::chrono::milliseconds _begun{0};
     std::unique_ptr<DiagnosticSocket> _everybody; // asks 255.255.255.255 by the interface
-    std::unique_ptr<DiagnosticSocket> _onLink;    // asks hosts by the interface
-    std::unique_ptr<DiagnosticSocket> _byRoutes;  // asks hosts where the routes lead
+    std::unique_ptr<DiagnosticSocket> _single;    // asks hosts one by one
     std::vector<std::unique_ptr<DiagnosticSocket>> _otherPorts;
     std::map<std::uint32_t, Host> _hosts; // by address
     std::optional<HostCounters> _lastCounters;

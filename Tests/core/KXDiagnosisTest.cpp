@@ -29,6 +29,7 @@ public:
 class KXDiagnosisTest : public testing::Test {
 protected:
     KXDiagnosisTest() {
+        calls.addLink("kx0", sampleLink);
         host.routeTo = [this](std::uint32_t) {
             return HostRoute{.exists = hasRoute, .link = sampleLink};
         };

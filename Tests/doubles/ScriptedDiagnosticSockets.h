@@ -32,12 +32,12 @@ public:
         Socket& operator=(const Socket&) = delete;
 
         std::uint16_t port() const override { return _port; }
-        std::optional<Error> send(std::string_view text, std::uint32_t address,
-                                  std::uint16_t port) override {
+        std::optional<Error> send(std::string_view text, const UnitTarget& target) override {
             const Sent datagram{.interface = wish.interface,
                                 .text = std::string(text),
-                                .address = address,
-                                .port = port};
+                                .address = target.address,
+                                .port = target.port,
+                                .link = target.link};
             _network.sent.push_back(datagram);
             return _network.onSend ? _network.onSend(*this, datagram) : std::nullopt;
         }
@@ -55,6 +55,7 @@ public:
         std::string text;
         std::uint32_t address = 0;
         std::uint16_t port = 0;
+        std::uint32_t link = 0;
     };
 
     std::vector<Socket*> sockets; // those that are open

@@ -77,15 +77,15 @@ TEST_F(DiagnosticSocketsTest, TheLimitedBroadcastLeavesByTheInterfaceWithoutAnyR
     const auto bound = open("kx0");
     ASSERT_NE(bound, nullptr);
     EXPECT_NE(bound->port(), 0);
-    EXPECT_EQ(unbound->send("x", everybody, 3520), posixError(ENETUNREACH));
-    EXPECT_EQ(bound->send("x", everybody, 3520), std::nullopt);
+    EXPECT_EQ(unbound->send("x", {.address = everybody, .port = 3520}), posixError(ENETUNREACH));
+    EXPECT_EQ(bound->send("x", {.address = everybody, .port = 3520}), std::nullopt);
 }
 
 TEST_F(DiagnosticSocketsTest, TheSendersOwnBroadcastComesBackToAListener) {
     const auto listener = open("", 3520);
     const auto sender = open("kx0");
     EXPECT_TRUE(runUntil([&] {
-        sender->send("^^IdX", everybody, 3520);
+        sender->send("^^IdX", {.address = everybody, .port = 3520});
         return !heard.empty();
     }));
     EXPECT_EQ(heard.front().text, "^^IdX");
@@ -95,20 +95,22 @@ TEST_F(DiagnosticSocketsTest, TheSendersOwnBroadcastComesBackToAListener) {
 
 TEST_F(DiagnosticSocketsTest, APortThatNobodyReadsIsReportedAndTheNextRequestLeaves) {
     const auto socket = open("");
-    ASSERT_EQ(socket->send("x", ownAddress, 9), std::nullopt);
+    ASSERT_EQ(socket->send("x", {.address = ownAddress, .port = 9}), std::nullopt);
     ASSERT_TRUE(runUntil([&] { return !failures.empty(); }));
     EXPECT_EQ(failures.front().error, ECONNREFUSED);
     EXPECT_EQ(failures.front().destination, ownAddress);
     EXPECT_EQ(failures.front().reporter, ownAddress);
-    ASSERT_EQ(socket->send("x", ownAddress, 9), std::nullopt);
-    EXPECT_EQ(socket->send("x", ownAddress, 9), std::nullopt)
+    ASSERT_EQ(socket->send("x", {.address = ownAddress, .port = 9}), std::nullopt);
+    EXPECT_EQ(socket->send("x", {.address = ownAddress, .port = 9}), std::nullopt)
         << "an error that waits does not fail the send";
 }
 
 TEST_F(DiagnosticSocketsTest, AnAddressThatNobodyHoldsIsReported) {
-    const auto socket = open("kx0");
+    const auto socket = open("");
     network.ip("link set p-kx0 arp off");
-    ASSERT_EQ(socket->send("x", unitAddress, 3520), std::nullopt);
+    ASSERT_EQ(
+        socket->send("x", {.address = unitAddress, .port = 3520, .link = ::if_nametoindex("kx0")}),
+        std::nullopt);
     ASSERT_TRUE(runUntil([&] { return !failures.empty(); }));
     EXPECT_EQ(failures.front().error, EHOSTUNREACH);
     EXPECT_EQ(failures.front().destination, unitAddress);
@@ -125,8 +127,8 @@ TEST_F(DiagnosticSocketsTest, ASocketMayBeDestroyedInsideItsEvent) {
                                },
                            .failed = {}});
     const auto sender = open("");
-    sender->send("x", ownAddress, 3520);
-    sender->send("y", ownAddress, 3520);
+    sender->send("x", {.address = ownAddress, .port = 3520});
+    sender->send("y", {.address = ownAddress, .port = 3520});
     EXPECT_TRUE(runUntil([&] { return socket == nullptr; }));
     EXPECT_EQ(events, 1);
 }
@@ -150,7 +152,7 @@ TEST_F(DiagnosticSocketsTest, TheHostTellsItsCounters) {
     const auto socket = open("");
     const auto before = host.counters();
     ASSERT_TRUE(before.has_value());
-    socket->send("x", ownAddress, 9);
+    socket->send("x", {.address = ownAddress, .port = 9});
     ASSERT_TRUE(runUntil([&] { return !failures.empty(); }));
     const auto after = host.counters();
     EXPECT_GT(after->received, before->received);

@@ -40,8 +40,7 @@ public:
     bool prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop);
 
     std::uint16_t port() const override { return _port; }
-    std::optional<Error> send(std::string_view text, std::uint32_t address,
-                              std::uint16_t port) override;
+    std::optional<Error> send(std::string_view text, const UnitTarget& target) override;
 
 private:
     bool bindToInterface(const std::string& name) const;
@@ -78,14 +77,17 @@ bool Socket::prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop) {
 }
 
 // An error that came back for an earlier datagram fails the next send, which then has not left.
-std::optional<Error> Socket::send(std::string_view text, std::uint32_t address,
-                                  std::uint16_t port) {
+std::optional<Error> Socket::send(std::string_view text, const UnitTarget& target) {
     const ByteView bytes(reinterpret_cast<const std::uint8_t*>(text.data()), text.size());
-    const Bytes record = dataForAddress(address, port);
-    ssize_t sent = _calls.sendTo(_descriptor, bytes, record);
+    const Bytes record = dataForAddress(target.address, target.port);
+    const auto sendOnce = [&] {
+        return target.link != 0 ? _calls.sendToByLink(_descriptor, bytes, record, target.link)
+                                : _calls.sendTo(_descriptor, bytes, record);
+    };
+    ssize_t sent = sendOnce();
     int error = errno;
     if (sent < 0 && receiveFailure()) {
-        sent = _calls.sendTo(_descriptor, bytes, record);
+        sent = sendOnce();
         error = errno;
     }
     return sent < 0 ? std::optional(posixError(error)) : std::nullopt;

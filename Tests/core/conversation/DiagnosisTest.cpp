@@ -94,7 +94,7 @@ TEST(Diagnosis, NamesBothOfEachPairThatCanStandTogether) {
             }
         }
     }
-    EXPECT_EQ(pairs, 75);
+    EXPECT_EQ(pairs, 77);
 }
 
 TEST(Diagnosis, StrayTrafficAccusesNobodyWhereUnitsAnswer) {

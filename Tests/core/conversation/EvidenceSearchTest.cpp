@@ -35,6 +35,7 @@ protected:
     using Sent = ScriptedDiagnosticSockets::Sent;
 
     EvidenceSearchTest() {
+        calls.addLink("kx0", sampleLink);
         listen(3520);
         host.routeTo = [](std::uint32_t) { return HostRoute{.exists = true, .link = sampleLink}; };
         sockets.onSend = [this](Socket& socket, const Sent& sent) { return deliver(socket, sent); };
@@ -203,7 +204,7 @@ TEST_F(EvidenceSearchTest, ANamedAddressIsAskedAtOnceAndByTheInterface) {
     hosts[nearAddress] = SampleUnit().reply();
     begin();
     ASSERT_EQ(sockets.sent.size(), 1U);
-    EXPECT_EQ(sockets.sent.front().interface, "kx0");
+    EXPECT_EQ(sockets.sent.front().link, sampleLink);
     runLoop.advanceBy(800ms);
     EXPECT_TRUE(search->evidence().target->answersItsAddress);
 }
@@ -215,7 +216,7 @@ TEST_F(EvidenceSearchTest, AnAddressOutsideIsAskedWhereTheRoutesLead) {
     };
     EXPECT_EQ(causes(), std::vector<Cause>{Cause::noRoute});
     const auto asked = std::ranges::find(sockets.sent, farAddress, &Sent::address);
-    EXPECT_EQ(asked->interface, "");
+    EXPECT_EQ(asked->link, 0U);
 }
 
 TEST_F(EvidenceSearchTest, AnAddressThatTheSystemAsksForIsWaitedFor) {

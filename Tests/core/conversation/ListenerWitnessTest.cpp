@@ -24,7 +24,10 @@ class ListenerWitnessTest : public testing::Test {
 protected:
     using Operation = ScriptedSystemCalls::Operation;
 
-    ListenerWitnessTest() { listenOn(3520); }
+    ListenerWitnessTest() {
+        calls.addLink("kx0", 3);
+        listenOn(3520);
+    }
 
     int listenOn(std::uint16_t port) {
         descriptor = witness.socket();
