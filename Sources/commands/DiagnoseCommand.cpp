@@ -154,8 +154,9 @@ void reportCauses(CommandRun& run, const std::vector<Finding>& findings) {
         json["id"] = id;
         json["sentence"] = sentence;
         run.document()["causes"].push_back(std::move(json));
-        run.print("\n" + id + ": " + sentence + "\n    " + adviceOfCause(cause, finding->evidence) +
-                  "\n");
+        std::string text = "\n" + id;
+        text.append(": ").append(sentence).append("\n    ");
+        run.print(text.append(adviceOfCause(cause, finding->evidence)).append("\n"));
     }
 }
 

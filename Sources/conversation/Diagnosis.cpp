@@ -39,9 +39,11 @@ bool isMissing(const Evidence& evidence) {
            (evidence.listener.hasAskedNow || evidence.linkUnits.count() == 0);
 }
 
-bool isSilentAtItsAddress(const Evidence& evidence) {
-    return evidence.target.has_value() && evidence.target->address != 0 &&
-           !evidence.target->answersItsAddress;
+// What is known of the named address when nobody answers there; null otherwise.
+const TargetEvidence* silentTarget(const Evidence& evidence) {
+    const auto& target = evidence.target;
+    return target.has_value() && target->address != 0 && !target->answersItsAddress ? &*target
+                                                                                    : nullptr;
 }
 
 bool hasAnsweredListener(const Evidence& evidence, const HeardUnit& unit) {
@@ -62,9 +64,9 @@ bool subnetRouteLeadsElsewhere(const Evidence& evidence) {
 }
 
 bool hasNoTargetRoute(const Evidence& evidence) {
-    return isSilentAtItsAddress(evidence) &&
-           ((evidence.target->route.has_value() && !evidence.target->route->exists) ||
-            isRouteError(evidence.target->sendError));
+    const TargetEvidence* const target = silentTarget(evidence);
+    return target != nullptr && ((target->route.has_value() && !target->route->exists) ||
+                                 isRouteError(target->sendError));
 }
 
 // --- A cause each ---
@@ -140,17 +142,17 @@ bool datagramsAreDropped(const Evidence& evidence) {
 }
 
 bool nobodyReadsPort(const Evidence& evidence) {
-    return canAsk(evidence) && isSilentAtItsAddress(evidence) &&
-           evidence.target->failure == ECONNREFUSED;
+    const TargetEvidence* const target = silentTarget(evidence);
+    return canAsk(evidence) && target != nullptr && target->failure == ECONNREFUSED;
 }
 
 bool hostIsNotThere(const Evidence& evidence) {
-    if (!canAsk(evidence) || !isSilentAtItsAddress(evidence)) {
+    const TargetEvidence* const target = silentTarget(evidence);
+    if (!canAsk(evidence) || target == nullptr) {
         return false;
     }
-    const auto& neighbour = evidence.target->neighbour;
-    return evidence.target->failure == EHOSTUNREACH ||
-           (neighbour.has_value() && neighbour->state == NeighbourState::failed);
+    return target->failure == EHOSTUNREACH ||
+           (target->neighbour.has_value() && target->neighbour->state == NeighbourState::failed);
 }
 
 // Strangers send to the listener's port; to a port that was opened a moment ago they do not. So
@@ -262,13 +264,11 @@ std::vector<SharedAddress> sharedAddresses(const DiagnosisEvidence& evidence) {
 }
 
 bool targetHasAnotherHolder(const DiagnosisEvidence& evidence) {
-    if (!isSilentAtItsAddress(evidence)) {
-        return false;
-    }
-    const TargetEvidence& target = *evidence.target;
-    return target.neighbour.has_value() && target.neighbour->state == NeighbourState::reachable &&
-           !target.hardwareAddress.empty() &&
-           target.neighbour->hardwareAddress != target.hardwareAddress;
+    const TargetEvidence* const target = silentTarget(evidence);
+    return target != nullptr && target->neighbour.has_value() &&
+           target->neighbour->state == NeighbourState::reachable &&
+           !target->hardwareAddress.empty() &&
+           target->neighbour->hardwareAddress != target->hardwareAddress;
 }
 
 bool reversePathFilterTakesAnswers(const DiagnosisEvidence& evidence) {

@@ -33,14 +33,11 @@ std::uint32_t addressToldBy(const UnitRecord& record) {
 
 EvidenceSearch::EvidenceSearch(const Services& services, DiagnosisQuestion question)
     : _services(services)
-    , _question(std::move(question)) {}
+    , _question(std::move(question))
+    , _interface(_question.interface.value_or(HostInterface())) {}
 
 EvidenceSearch::~EvidenceSearch() {
     _services.witness.expectProbes({}, {});
-}
-
-std::uint32_t EvidenceSearch::link() const {
-    return _question.interface->link;
 }
 
 void EvidenceSearch::start() {
@@ -72,7 +69,7 @@ void EvidenceSearch::look() {
 
 // The first and the last host of the network stand for its halves; another link may lead to one.
 void EvidenceSearch::lookUp() {
-    const NetworkOfInterface& network = _question.interface->networks.front();
+    const NetworkOfInterface& network = _interface.networks.front();
     const std::uint32_t first = (network.address & network.mask) + 1;
     const std::uint32_t last = network.broadcast() - 1;
     for (const std::uint32_t host : {network.address == first ? first + 1 : first,
@@ -84,7 +81,7 @@ void EvidenceSearch::lookUp() {
             _evidence.subnetRoutes.push_back(*route);
         }
     }
-    _evidence.reversePathFilter = _services.host.reversePathFilter(_question.interface->name);
+    _evidence.reversePathFilter = _services.host.reversePathFilter(_interface.name);
 }
 
 void EvidenceSearch::beginTarget() {
@@ -111,7 +108,7 @@ void EvidenceSearch::beginTarget() {
 // --- Sockets ---
 
 void EvidenceSearch::openSockets() {
-    const std::string& name = _question.interface->name;
+    const std::string& name = _interface.name;
     const auto failed = [this](const DeliveryFailure& failure) { deliveryDidFail(failure); };
     const auto answered = [this](ByteView data, std::uint32_t sender, std::uint16_t /*port*/) {
         hostDidAnswer(data, sender);
@@ -142,7 +139,7 @@ void EvidenceSearch::openOtherPorts() {
                      auto unit = unitInDatagram(data, sender, link());
                      auto& answers = _evidence.answersOnOtherPorts;
                      if (unit.has_value() && answers.size() < mostAnswersOnOtherPorts) {
-                         answers.push_back({.port = port, .unit = std::move(*unit)});
+                         answers.push_back({.port = port, .unit = *unit});
                      }
                  },
              .failed = {}});
@@ -181,10 +178,10 @@ void EvidenceSearch::request() {
 
 // Whether a request left that no unit takes, because it goes to the listener's port.
 bool EvidenceSearch::askListener(std::uint16_t port) {
-    return port != 0 && !_everybody
-                             ->send(parameterRequestCommand,
-                                    {.address = _question.interface->broadcast(), .port = port})
-                             .has_value();
+    return port != 0 &&
+           !_everybody
+                ->send(parameterRequestCommand, {.address = _interface.broadcast(), .port = port})
+                .has_value();
 }
 
 void EvidenceSearch::requestFromHosts() {
@@ -201,7 +198,7 @@ void EvidenceSearch::askHost(std::uint32_t address) {
         return;
     }
     _evidence.hasAskedHosts = true;
-    const bool isNear = _question.interface->networkOf(address) != nullptr;
+    const bool isNear = _interface.networkOf(address) != nullptr;
     const auto error = _single->send(
         parameterRequestCommand,
         {.address = address, .port = _hosts[address].port, .link = isNear ? link() : 0});
@@ -244,7 +241,7 @@ void EvidenceSearch::count(bool isBehindRequest) {
 
 void EvidenceSearch::linkDidReceive(ByteView data, std::uint32_t sender, std::uint16_t /*port*/) {
     if (auto unit = unitInDatagram(data, sender, link())) {
-        _evidence.linkUnits.add(std::move(*unit));
+        _evidence.linkUnits.add(*unit);
     } else if (sender != 0) {
         ++_evidence.linkNotUnderstood;
     }
@@ -268,6 +265,9 @@ void EvidenceSearch::deliveryDidFail(const DeliveryFailure& failure) {
 
 // The units that were heard and that a person means.
 std::vector<const HeardUnit*> EvidenceSearch::meantAmong(const HeardUnits& units) const {
+    if (!_question.target.has_value()) {
+        return {};
+    }
     if (const auto* const name = std::get_if<UnitName>(&*_question.target)) {
         return units.named(*name);
     }
@@ -329,7 +329,7 @@ void EvidenceSearch::compareEntries() {
 void EvidenceSearch::chooseNeighbours() {
     std::size_t chosen = 0;
     for (const std::uint32_t address : _services.neighbours.knownAddresses(link())) {
-        if (chosen < mostNeighbours && _question.interface->networkOf(address) != nullptr &&
+        if (chosen < mostNeighbours && _interface.networkOf(address) != nullptr &&
             _hosts.try_emplace(address, Host{.port = defaultUnitPort}).second) {
             ++chosen;
         }

@@ -112,10 +112,11 @@ private:
     void linkDidReceive(ByteView data, std::uint32_t sender, std::uint16_t port);
     void hostDidAnswer(ByteView data, std::uint32_t sender);
     void deliveryDidFail(const DeliveryFailure& failure);
-    std::uint32_t link() const;
+    std::uint32_t link() const { return _interface.link; }
 
     Services _services;
     DiagnosisQuestion _question;
+    HostInterface _interface; // of the question; empty without one
     DiagnosisEvidence _evidence;
     std::chrono::milliseconds _begun{0};
     std::unique_ptr<DiagnosticSocket> _everybody; // asks 255.255.255.255 by the interface

@@ -166,8 +166,8 @@ void ListenerWitness::noteDatagram(ByteView datagram, const DatagramOrigin& orig
 }
 
 void ListenerWitness::decode(ByteView datagram, const Sender& sender, std::uint32_t link) {
-    if (auto unit = unitInDatagram(datagram, sender.address, link)) {
-        _evidence.units.add(std::move(*unit));
+    if (const auto unit = unitInDatagram(datagram, sender.address, link)) {
+        _evidence.units.add(*unit);
         return;
     }
     try {

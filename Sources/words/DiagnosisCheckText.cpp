@@ -99,7 +99,7 @@ std::string textOfTarget(const Check& check, const Evidence& evidence) {
     if (check.cause.has_value()) {
         return sentenceOfCause(*check.cause, evidence);
     }
-    const std::string name = safeForSentence(evidence.target->name);
+    const std::string name = safeForSentence(evidence.target.value_or(TargetEvidence()).name);
     return check.state == CheckState::ok ? localizedText("%@ answers.", {name})
                                          : localizedText("%@ does not answer.", {name});
 }

@@ -16,8 +16,21 @@ std::string interfaceIn(const Evidence& evidence) {
     return safeForSentence(evidence.interfaceName);
 }
 
+HostInterface interfaceOf(const Evidence& evidence) {
+    return evidence.interface.value_or(HostInterface());
+}
+
+// Empty where nothing is named.
+TargetEvidence targetOf(const Evidence& evidence) {
+    return evidence.target.value_or(TargetEvidence());
+}
+
+Neighbour neighbourOf(const Evidence& evidence) {
+    return targetOf(evidence).neighbour.value_or(Neighbour());
+}
+
 std::string targetIn(const Evidence& evidence) {
-    const TargetEvidence& target = *evidence.target;
+    const TargetEvidence target = targetOf(evidence);
     return target.name.empty() ? stringForIP(target.address) : safeForSentence(target.name);
 }
 
@@ -75,9 +88,9 @@ std::string sentenceOfOtherSubnet(const Evidence& evidence) {
     }
     const HeardUnit& unit = *units.front();
     const std::string serial(unit.serialNumber());
-    if (evidence.interface->networkOf(unit.sender) != nullptr) {
+    if (interfaceOf(evidence).networkOf(unit.sender) != nullptr) {
         return localizedText("The unit %@ takes no request to %@, so its network is another one.",
-                             {serial, stringForIP(evidence.interface->broadcast())});
+                             {serial, stringForIP(interfaceOf(evidence).broadcast())});
     }
     return localizedText("The unit %@ is at %@, which is not in the network of the interface %@.",
                          {serial, stringForIP(unit.sender), interfaceIn(evidence)});
@@ -88,7 +101,7 @@ std::string sentenceOfSharedAddress(const Evidence& evidence) {
     if (shared.empty()) {
         return localizedText(
             "Another host than the unit answers for %@: %@.",
-            {stringForIP(evidence.target->address), evidence.target->neighbour->hardwareAddress});
+            {stringForIP(targetOf(evidence).address), neighbourOf(evidence).hardwareAddress});
     }
     std::string units;
     for (const std::string& unit : shared.front().units) {
@@ -107,12 +120,12 @@ std::string sentenceOfStaleEntry(const Evidence& evidence) {
     }
     return localizedText(
         "A fixed ARP entry says that %@ is %@, and nobody answers there.",
-        {stringForIP(evidence.target->address), evidence.target->neighbour->hardwareAddress});
+        {stringForIP(targetOf(evidence).address), neighbourOf(evidence).hardwareAddress});
 }
 
 std::string sentenceOfNoHost(const Evidence& evidence) {
-    const TargetEvidence& target = *evidence.target;
-    const auto& networks = evidence.interface->networks;
+    const TargetEvidence target = targetOf(evidence);
+    const auto networks = interfaceOf(evidence).networks;
     const bool isReportedByAnother =
         target.reporter != 0 && std::ranges::find(networks, target.reporter,
                                                   &NetworkOfInterface::address) == networks.end();
@@ -141,7 +154,7 @@ std::string adviceOfFirewall(const Evidence& evidence) {
 std::string adviceOfStaleEntry(const Evidence& evidence) {
     const auto wrong = std::ranges::find_if(evidence.wrongEntries, &WrongEntry::isDeaf);
     const std::uint32_t address =
-        wrong != evidence.wrongEntries.end() ? wrong->address : evidence.target->address;
+        wrong != evidence.wrongEntries.end() ? wrong->address : targetOf(evidence).address;
     return localizedText("Take the entry out: sudo arp -d %@", {stringForIP(address)});
 }
 
@@ -183,7 +196,7 @@ std::string sentenceOfCause(Cause cause, const DiagnosisEvidence& evidence) {
                              {static_cast<long long>(evidence.listener.dropped)});
     case Cause::nobodyOnPort:
         return localizedText("The host %@ is there, but nothing reads its UDP port %d.",
-                             {stringForIP(evidence.target->address), evidence.target->port});
+                             {stringForIP(targetOf(evidence).address), targetOf(evidence).port});
     case Cause::noHost:
         return sentenceOfNoHost(evidence);
     case Cause::notUnderstood:

@@ -200,7 +200,8 @@ std::optional<HostRoute> LinuxHostDiagnostics::route(std::uint32_t address) {
     }
     const ssize_t received = ::recv(socket.number(), buffer.data(), buffer.size(), 0);
     const auto* const header = reinterpret_cast<const nlmsghdr*>(buffer.data());
-    if (received < 0 || !NLMSG_OK(header, static_cast<std::size_t>(received))) {
+    const bool isWhole = received >= 0 && NLMSG_OK(header, static_cast<std::size_t>(received));
+    if (!isWhole) {
         return std::nullopt;
     }
     if (header->nlmsg_type == RTM_NEWROUTE && header->nlmsg_len >= NLMSG_SPACE(sizeof(rtmsg))) {
