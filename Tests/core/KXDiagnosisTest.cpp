@@ -40,6 +40,7 @@ protected:
     }
 
     void discover() {
+        witness.close(listener);
         listener = witness.socket();
         witness.bind(listener, dataForAddress(0, 3520));
         witness.sendToByLink(listener, textBytes("^^IdX"), dataForAddress(0xC0A801FFU, 3520),

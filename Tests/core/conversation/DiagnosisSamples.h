@@ -148,7 +148,7 @@ inline std::vector<PlantedCause> plantedCauses() {
 }
 
 // What is silent comes first, so that one cause does not take away what another one shows.
-inline DiagnosisEvidence evidenceWith(std::vector<const PlantedCause*> planted) {
+inline DiagnosisEvidence evidenceWith(const std::vector<const PlantedCause*>& planted) {
     DiagnosisEvidence evidence = healthyEvidence();
     for (const PlantedCause* const each : planted) {
         if (each->isSilent) {

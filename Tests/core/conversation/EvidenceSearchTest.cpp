@@ -46,6 +46,7 @@ protected:
     }
 
     void listen(std::uint16_t port) {
+        witness.close(listener);
         listener = witness.socket();
         witness.bind(listener, dataForAddress(0, port));
         listenerPort = port;
@@ -297,6 +298,7 @@ TEST_F(EvidenceSearchTest, WithoutSocketsOfItsOwnTheListenerIsStillHeard) {
     EXPECT_EQ(causes(), std::vector<Cause>());
     EXPECT_FALSE(search->evidence().hasAskedLink);
     units.clear();
+    listen(3520);
     EXPECT_EQ(causes(), std::vector<Cause>{Cause::firewall})
         << "the own request was sent, and did not come back";
 }
