@@ -129,6 +129,11 @@ std::optional<ChosenInterface> KXConfigAppDelegate::chosenInterface() const {
                            .address = {.address = localAddress, .mask = localMask}};
 }
 
+std::optional<std::string> KXConfigAppDelegate::nameOfChosenInterface() const {
+    const auto chosen = chosenInterface();
+    return chosen.has_value() ? std::optional(chosen->name) : std::nullopt;
+}
+
 std::uint32_t KXConfigAppDelegate::broadcastAddress() const {
     return directedBroadcastAddress(localAddress, localMask);
 }

@@ -83,6 +83,11 @@ public:
 
         // May be null. Nobody looks then on which link an ARP entry stands.
         NeighbourTable* neighbours = nullptr;
+
+        // The likeliest reason why no unit has answered, as a sentence; absent when it is not
+        // known. Asked at the end of a discovery that nobody answered. It must send nothing. May be
+        // empty.
+        std::function<std::optional<std::string>()> likeliestCause = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -213,6 +218,7 @@ public:
     std::string shownLog() const { return logText.shownText(0, logText.size()); } // as it is shown
     const UnitRegistry::Records& devices() const { return _devicesD.records(); }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
+    std::optional<std::string> nameOfChosenInterface() const; // in the system; absent before
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null when there is none
     const QuietLine& quietLine() const { return _quietLine; }
     AllUnits& allUnits() { return _allUnits; }

@@ -1,10 +1,14 @@
 // KXConfig: wires the core to the platform and runs it.
 
 #include "KXConfigAppDelegate.h"
+#include "KXDiagnosis.h"
 #include "System Configuration/SystemConfiguration.h"
 #include "platform/linux/KernelLinks.h"
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxDiagnosticSockets.h"
+#include "platform/linux/LinuxHostDiagnostics.h"
+#include "platform/linux/LinuxHostInterfaces.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
@@ -29,7 +33,10 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <chrono>
 #include <csignal>
+#include <optional>
+#include <string>
 
 namespace {
 
@@ -57,14 +64,34 @@ struct Host {
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
     kx::NetworkManagerProfiles connectionProfiles = {};
     kx::LinuxConfigurationStore configurationStore{runLoop, kernelLinks, &connectionProfiles};
+
+    // For the diagnosis. Its own sockets go past the witness of the listener.
+    kx::ListenerWitness witness{systemCalls, &receiveBuffers};
+    kx::LinuxDiagnosticSockets diagnosticSockets{runLoop};
+    kx::LinuxHostDiagnostics diagnostics = kx::LinuxHostDiagnostics();
 };
 
+kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& interfaces) {
+    return {.runLoop = host.runLoop,
+            .now =
+                [] {
+                    return std::chrono::duration_cast<std::chrono::milliseconds>(
+                        std::chrono::steady_clock::now().time_since_epoch());
+                },
+            .witness = host.witness,
+            .systemCalls = host.systemCalls,
+            .sockets = host.diagnosticSockets,
+            .host = host.diagnostics,
+            .neighbours = host.neighbours,
+            .interfaces = interfaces};
+}
+
 // The host must outlive the services.
-kx::KXConfigAppDelegate::Services servicesOf(Host& host,
+kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagnosis,
                                              kx::AuthorizationService* authorizationService) {
     return {.runLoop = host.runLoop,
             .hostResolver = host.hostResolver,
-            .systemCalls = host.systemCalls,
+            .systemCalls = host.witness,
             .wallClock = host.wallClock,
             .application = host.application,
             .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
@@ -76,7 +103,8 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host,
             .receiveBuffers = &host.receiveBuffers,
             .hasHelpPage = [&help = host.helpServices](
                                std::string_view page) { return kx::hasHelpPage(page, help); },
-            .neighbours = &host.neighbours};
+            .neighbours = &host.neighbours,
+            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); }};
 }
 
 // Runs the program until its end, which a person or a signal brings about.
@@ -108,9 +136,24 @@ int runOnThisHost(kx::QtRunLoop& runLoop) {
     kx::MainWindow window;
     kx::WaitingPanel waiting(window);
     const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
+    kx::LinuxHostInterfaces interfaces(kx::SystemConfiguration::sharedInstance(), host.kernelLinks);
+    kx::KXDiagnosis diagnosis(diagnosisServicesOf(host, interfaces));
     kx::KXConfigAppDelegate controller(window.outlets(),
-                                       servicesOf(host, authorizationService.get()));
-    return runWindow(window, controller);
+                                       servicesOf(host, diagnosis, authorizationService.get()));
+    diagnosis.setSelection({.chosenInterface = [&] { return controller.nameOfChosenInterface(); },
+                            .selectedUnit = [&] { return controller.selectedUnit(); },
+                            .record =
+                                [&](const std::string& serial) {
+                                    const auto unit = controller.devices().find(serial);
+                                    return unit != controller.devices().end()
+                                               ? std::optional<kx::UnitRecord>(unit->second)
+                                               : std::nullopt;
+                                }});
+    window.setDiagnosis(&diagnosis,
+                        [&host] { kx::openHelpAnchor("no-answer", host.helpServices); });
+    const int result = runWindow(window, controller);
+    window.setDiagnosis(nullptr, {});
+    return result;
 }
 
 } // namespace

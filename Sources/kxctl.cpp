@@ -7,6 +7,8 @@
 #include "platform/linux/LinuxAddressProbes.h"
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
+#include "platform/linux/LinuxDiagnosticSockets.h"
+#include "platform/linux/LinuxHostDiagnostics.h"
 #include "platform/linux/LinuxHostInterfaces.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/LinuxNeighbourTable.h"
@@ -52,6 +54,8 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
 
     kx::LinuxNeighbourTable neighbours;
     kx::LinuxAddressProbes probes(runLoop);
+    kx::LinuxHostDiagnostics diagnostics;
+    kx::LinuxDiagnosticSockets diagnosticSockets(runLoop);
     kx::EventLoopWaiting waiting;
     const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
     kx::AuthorizedAddressBindings bindings(*authorizationService);
@@ -67,7 +71,9 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
                               .interfaces = interfaces,
                               .neighbours = neighbours,
                               .probes = &probes,
-                              .bindings = bindings});
+                              .bindings = bindings,
+                              .diagnostics = diagnostics,
+                              .diagnosticSockets = diagnosticSockets});
     kx::SignalPipe signalPipe({SIGINT, SIGTERM, SIGHUP});
     const auto watch = runLoop.watchForReading(signalPipe.descriptor(), [&] {
         if (const auto signal = signalPipe.take()) {

@@ -25,6 +25,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Details…</source>
+        <translation>Einzelheiten…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Shows every check on the way to the units and back</source>
+        <translation>Zeigt jede Prüfung auf dem Weg zu den Geräten und zurück</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>U&amp;nit:</source>
         <translation>G&amp;erät:</translation>
     </message>
@@ -105,6 +115,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <source>Help</source>
         <translation>Hilfe</translation>
     </message>
@@ -393,6 +404,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ kann keine Broadcasts senden. Dazu sind eine Verbindung und eine IPv4-Adresse nötig.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>There is no network interface “%@”. There are: %@.</source>
         <translation>Es gibt keine Netzwerkschnittstelle „%@“. Es gibt: %@.</translation>
     </message>
@@ -403,16 +420,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
-        <translation>%@ kann keine Broadcasts senden. Dazu sind eine Verbindung und eine IPv4-Adresse nötig.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>Der UDP-Port lässt sich nicht öffnen: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>UDP-Port %d ist von einem anderen Programm belegt.</translation>
     </message>
@@ -458,12 +471,18 @@
         <translation>Unterbrochen.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>“%@” names no unit and is no IPv4 address. Write a serial number such as 4B5800000001, id:TEXT, or 192.0.2.41.</source>
+        <translation>„%@“ benennt kein Gerät und ist keine IPv4-Adresse. Schreiben Sie eine Seriennummer wie 4B5800000001, id:TEXT oder 192.0.2.41.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d Anfragen folgen in dieser Zeit zu dicht aufeinander. Jede braucht 0,01 Sekunden.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Mehrere Geräte haben die Adresse %@: %@.</translation>
     </message>
@@ -474,6 +493,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>Das System hatte keinen Platz für %d Datagramme. Geräte können fehlen.</translation>
     </message>
@@ -756,6 +776,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
@@ -830,6 +851,62 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d Geräte stehen in „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Ask Again</source>
+        <translation>Erneut fragen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Why no unit answers</source>
+        <translation>Warum kein Gerät antwortet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Checks</source>
+        <translation>Prüfungen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Check</source>
+        <translation>Prüfung</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>Zustand</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What was seen</source>
+        <translation>Was zu sehen war</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What to do</source>
+        <translation>Was zu tun ist</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Asking. This takes a second, or three where nobody answers for an address.</source>
+        <translation>Es wird gefragt. Das dauert eine Sekunde, oder drei, wenn niemand für eine Adresse antwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Units answer, and no check fails.</source>
+        <translation>Geräte antworten, und keine Prüfung schlägt fehl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>No cause was found.</source>
+        <translation>Es wurde keine Ursache gefunden.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1045,6 +1122,427 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>Geräte-ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ carries datagrams.</source>
+        <translation>Die Schnittstelle %@ überträgt Datagramme.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ cannot broadcast.</source>
+        <translation>Die Schnittstelle %@ kann keine Broadcasts senden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There is none.</source>
+        <translation>Es gibt keine.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers are expected on UDP port %d.</source>
+        <translation>Antworten werden am UDP-Port %d erwartet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>Der UDP-Empfang ist nicht gestartet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The request left.</source>
+        <translation>Die Anfrage ist abgegangen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes lead to the units by this interface.</source>
+        <translation>Die Routen führen über diese Schnittstelle zu den Geräten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes to a part of the network lead elsewhere.</source>
+        <translation>Die Routen zu einem Teil des Netzwerks führen woandershin.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer hears its own broadcast on UDP port %d.</source>
+        <translation>Der Rechner hört seinen eigenen Broadcast am UDP-Port %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer does not hear its own broadcast on UDP port %d. Datagrams that were taken away meanwhile: %d.</source>
+        <translation>Der Rechner hört seinen eigenen Broadcast am UDP-Port %d nicht. Inzwischen weggenommene Datagramme: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is off.</source>
+        <translation>Der Filter ist aus.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is on. Datagrams that it took away meanwhile: %d.</source>
+        <translation>Der Filter ist an. Inzwischen von ihm weggenommene Datagramme: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered: %d.</source>
+        <translation>Geräte, die geantwortet haben: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answer now: %d.</source>
+        <translation>Geräte, die jetzt antworten: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers that are not understood: %d. Other datagrams: %d.</source>
+        <translation>Nicht verstandene Antworten: %d. Andere Datagramme: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ answers.</source>
+        <translation>%@ antwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ does not answer.</source>
+        <translation>%@ antwortet nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Link</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>IPv4 address</source>
+        <translation>IPv4-Adresse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>UDP port</source>
+        <translation>UDP-Port</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Request</source>
+        <translation>Anfrage</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Routes</source>
+        <translation>Routen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Own broadcast</source>
+        <translation>Eigener Broadcast</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers</source>
+        <translation>Antworten</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Strange answers</source>
+        <translation>Fremdartige Antworten</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped datagrams</source>
+        <translation>Verworfene Datagramme</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers on other ports</source>
+        <translation>Antworten an anderen Ports</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units of other networks</source>
+        <translation>Geräte anderer Netzwerke</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Reverse path filter</source>
+        <translation>Rückwegfilter</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Doubled addresses</source>
+        <translation>Doppelte Adressen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fixed ARP entries</source>
+        <translation>Feste ARP-Einträge</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The unit itself</source>
+        <translation>Das Gerät selbst</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fine</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Odd</source>
+        <translation>Auffällig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fails</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Not known</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>It was not asked.</source>
+        <translation>Danach wurde nicht gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped before they were read: %d.</source>
+        <translation>Vor dem Lesen verworfen: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered there: %d.</source>
+        <translation>Geräte, die dort geantwortet haben: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>None answered.</source>
+        <translation>Keines hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There are none.</source>
+        <translation>Es gibt keine.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Entries that name another hardware address: %d.</source>
+        <translation>Einträge mit einer anderen Hardwareadresse: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>This computer has no network interface that reaches units.</source>
+        <translation>Dieser Rechner hat keine Netzwerkschnittstelle, die Geräte erreicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no link.</source>
+        <translation>Die Schnittstelle %@ hat keine Verbindung.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by %@ (process %d).</source>
+        <translation>UDP-Port %d ist von %@ belegt (Prozess %d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by a program of the user %@.</source>
+        <translation>UDP-Port %d ist von einem Programm des Benutzers %@ belegt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to %@.</source>
+        <translation>Keine Route dieses Rechners führt zu %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to the units behind the interface %@.</source>
+        <translation>Keine Route dieses Rechners führt zu den Geräten hinter der Schnittstelle %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ answers to UDP port %d, and not to the one that asks.</source>
+        <translation>Das Gerät %@ antwortet an den UDP-Port %d und nicht an den, der fragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Units answer from another network than that of the interface %@.</source>
+        <translation>Geräte antworten aus einem anderen Netzwerk als dem der Schnittstelle %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ takes no request to %@, so its network is another one.</source>
+        <translation>Das Gerät %@ nimmt keine Anfrage an %@ an, also ist sein Netzwerk ein anderes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ is at %@, which is not in the network of the interface %@.</source>
+        <translation>Das Gerät %@ hat die Adresse %@, die nicht im Netzwerk der Schnittstelle %@ liegt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Another host than the unit answers for %@: %@.</source>
+        <translation>Ein anderer Rechner als das Gerät antwortet für %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, but the unit there is %@.</source>
+        <translation>Ein fester ARP-Eintrag sagt, %@ sei %@, aber das Gerät dort ist %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, and nobody answers there.</source>
+        <translation>Ein fester ARP-Eintrag sagt, %@ sei %@, und dort antwortet niemand.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>%@ says that %@ cannot be reached.</source>
+        <translation>%@ meldet, dass %@ nicht erreichbar ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No host answers for the address %@.</source>
+        <translation>Kein Gerät antwortet für die Adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo firewall-cmd --add-port=%d/udp</source>
+        <translation>Lassen Sie die Antworten herein: sudo firewall-cmd --add-port=%d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo ufw allow %d/udp</source>
+        <translation>Lassen Sie die Antworten herein: sudo ufw allow %d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let UDP to port %d in, in the rules of the firewall.</source>
+        <translation>Lassen Sie in den Regeln der Firewall UDP an Port %d herein.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Take the entry out: sudo arp -d %@</source>
+        <translation>Nehmen Sie den Eintrag heraus: sudo arp -d %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no IPv4 address.</source>
+        <translation>Die Schnittstelle %@ hat keine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The system refuses to send the request: %@.</source>
+        <translation>Das System weigert sich, die Anfrage zu senden: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers in to UDP port %d.</source>
+        <translation>Eine Firewall auf diesem Rechner lässt keine Antworten an UDP-Port %d herein.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers to a broadcast in to UDP port %d, only those to single requests.</source>
+        <translation>Eine Firewall auf diesem Rechner lässt keine Antworten auf einen Broadcast an UDP-Port %d herein, nur die auf einzelne Anfragen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The reverse path filter of the interface %@ takes the answers away.</source>
+        <translation>Der Rückwegfilter der Schnittstelle %@ nimmt die Antworten weg.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The host %@ is there, but nothing reads its UDP port %d.</source>
+        <translation>Der Rechner %@ ist da, aber nichts liest seinen UDP-Port %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Something answers, but not as a unit does.</source>
+        <translation>Etwas antwortet, aber nicht wie ein Gerät.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back from %@.</source>
+        <translation>Die Anfrage ist abgegangen, und von %@ kam nichts zurück.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back.</source>
+        <translation>Die Anfrage ist abgegangen, und nichts kam zurück.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Plug in the cable, switch the interface on, and look whether something is switched on at the other end.</source>
+        <translation>Stecken Sie das Kabel ein, schalten Sie die Schnittstelle ein, und sehen Sie nach, ob am anderen Ende etwas eingeschaltet ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units.</source>
+        <translation>Geben Sie der Schnittstelle eine Adresse im Netzwerk der Geräte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Quit that program, or choose another UDP port.</source>
+        <translation>Beenden Sie das Programm, oder wählen Sie einen anderen UDP-Port.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look for a firewall rule on this computer that stops datagrams to UDP port 3520.</source>
+        <translation>Suchen Sie auf diesem Rechner eine Firewall-Regel, die Datagramme an UDP-Port 3520 aufhält.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit, or add a route.</source>
+        <translation>Geben Sie der Schnittstelle eine Adresse im Netzwerk des Geräts, oder fügen Sie eine Route hinzu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units, or take out the route that leads elsewhere. The filter is the setting net.ipv4.conf.%@.rp_filter.</source>
+        <translation>Geben Sie der Schnittstelle eine Adresse im Netzwerk der Geräte, oder nehmen Sie die Route heraus, die woandershin führt. Der Filter ist die Einstellung net.ipv4.conf.%@.rp_filter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Choose that UDP port, or change the unit’s destination port.</source>
+        <translation>Wählen Sie diesen UDP-Port, oder ändern Sie den Zielport des Geräts.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit as its first one, or change the unit’s address.</source>
+        <translation>Geben Sie der Schnittstelle als erste eine Adresse im Netzwerk des Geräts, oder ändern Sie die Adresse des Geräts.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Disconnect one of them, and give the other one another address.</source>
+        <translation>Trennen Sie eines davon, und geben Sie dem anderen eine andere Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Allow a larger receive buffer. Help says how.</source>
+        <translation>Erlauben Sie einen größeren Empfangspuffer. Die Hilfe sagt, wie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether this is a unit, and which device port it has.</source>
+        <translation>Sehen Sie nach, ob das ein Gerät ist und welchen Geräteport es hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether the address is right.</source>
+        <translation>Sehen Sie nach, ob das Gerät Strom und sein Kabel hat und ob die Adresse stimmt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Find out what it is. The event log shows what came.</source>
+        <translation>Finden Sie heraus, was es ist. Das Ereignisprotokoll zeigt, was kam.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether a router or a switch with separated ports stands in between.</source>
+        <translation>Sehen Sie nach, ob das Gerät Strom und sein Kabel hat und ob ein Router oder ein Switch mit getrennten Ports dazwischen steht.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -1525,11 +2023,6 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>Der UDP-Empfang ist nicht gestartet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: %@</source>
         <translation>Nicht gesendet: %@</translation>
     </message>
@@ -1567,11 +2060,6 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>State</source>
-        <translation>Zustand</translation>
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>

@@ -25,6 +25,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Details…</source>
+        <translation>Detalles…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Shows every check on the way to the units and back</source>
+        <translation>Muestra cada comprobación en el camino a las unidades y de vuelta</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>U&amp;nit:</source>
         <translation>U&amp;nidad:</translation>
     </message>
@@ -105,6 +115,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <source>Help</source>
         <translation>Ayuda</translation>
     </message>
@@ -393,6 +404,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ no puede difundir. Necesita un enlace y una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>There is no network interface “%@”. There are: %@.</source>
         <translation>No existe la interfaz de red «%@». Existen: %@.</translation>
     </message>
@@ -403,16 +420,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
-        <translation>%@ no puede difundir. Necesita un enlace y una dirección IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>No se puede abrir el puerto UDP: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>El puerto UDP %d está ocupado por otro programa.</translation>
     </message>
@@ -458,12 +471,18 @@
         <translation>Interrumpido.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>“%@” names no unit and is no IPv4 address. Write a serial number such as 4B5800000001, id:TEXT, or 192.0.2.41.</source>
+        <translation>«%@» no designa ninguna unidad ni es una dirección IPv4. Escriba un número de serie como 4B5800000001, id:TEXT o 192.0.2.41.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d consultas se siguen demasiado de cerca en ese tiempo. Cada una necesita 0,01 segundos.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Varias unidades tienen la dirección %@: %@.</translation>
     </message>
@@ -474,6 +493,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>El sistema no tuvo sitio para %d datagramas. Pueden faltar unidades.</translation>
     </message>
@@ -756,6 +776,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
@@ -830,6 +851,62 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>Se han escrito %d unidades en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Ask Again</source>
+        <translation>Preguntar de nuevo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Why no unit answers</source>
+        <translation>Por qué no responde ninguna unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Checks</source>
+        <translation>Comprobaciones</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Check</source>
+        <translation>Comprobación</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What was seen</source>
+        <translation>Qué se vio</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What to do</source>
+        <translation>Qué hacer</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Asking. This takes a second, or three where nobody answers for an address.</source>
+        <translation>Preguntando. Tarda un segundo, o tres si nadie responde por una dirección.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Units answer, and no check fails.</source>
+        <translation>Las unidades responden y ninguna comprobación falla.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>No cause was found.</source>
+        <translation>No se encontró ninguna causa.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1045,6 +1122,427 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>identificador de unidad %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ carries datagrams.</source>
+        <translation>La interfaz %@ transmite datagramas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ cannot broadcast.</source>
+        <translation>La interfaz %@ no puede difundir.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There is none.</source>
+        <translation>No hay ninguna.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers are expected on UDP port %d.</source>
+        <translation>Se esperan respuestas en el puerto UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>La escucha UDP no está activa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The request left.</source>
+        <translation>La solicitud salió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes lead to the units by this interface.</source>
+        <translation>Las rutas llevan a las unidades por esta interfaz.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes to a part of the network lead elsewhere.</source>
+        <translation>Las rutas a una parte de la red llevan a otro sitio.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer hears its own broadcast on UDP port %d.</source>
+        <translation>El equipo oye su propia difusión en el puerto UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer does not hear its own broadcast on UDP port %d. Datagrams that were taken away meanwhile: %d.</source>
+        <translation>El equipo no oye su propia difusión en el puerto UDP %d. Datagramas retirados entretanto: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is off.</source>
+        <translation>El filtro está desactivado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is on. Datagrams that it took away meanwhile: %d.</source>
+        <translation>El filtro está activado. Datagramas que retiró entretanto: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered: %d.</source>
+        <translation>Unidades que respondieron: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answer now: %d.</source>
+        <translation>Unidades que responden ahora: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers that are not understood: %d. Other datagrams: %d.</source>
+        <translation>Respuestas no entendidas: %d. Otros datagramas: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ answers.</source>
+        <translation>%@ responde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ does not answer.</source>
+        <translation>%@ no responde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Link</source>
+        <translation>Enlace</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>IPv4 address</source>
+        <translation>Dirección IPv4</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>UDP port</source>
+        <translation>Puerto UDP</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Request</source>
+        <translation>Solicitud</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Routes</source>
+        <translation>Rutas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Own broadcast</source>
+        <translation>Difusión propia</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers</source>
+        <translation>Respuestas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Strange answers</source>
+        <translation>Respuestas extrañas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped datagrams</source>
+        <translation>Datagramas descartados</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers on other ports</source>
+        <translation>Respuestas en otros puertos</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units of other networks</source>
+        <translation>Unidades de otras redes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Reverse path filter</source>
+        <translation>Filtro de camino inverso</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Doubled addresses</source>
+        <translation>Direcciones duplicadas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fixed ARP entries</source>
+        <translation>Entradas ARP fijas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The unit itself</source>
+        <translation>La propia unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fine</source>
+        <translation>Bien</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Odd</source>
+        <translation>Llamativo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fails</source>
+        <translation>Falla</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Not known</source>
+        <translation>No se sabe</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>It was not asked.</source>
+        <translation>No se ha preguntado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped before they were read: %d.</source>
+        <translation>Descartados antes de leerse: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered there: %d.</source>
+        <translation>Unidades que respondieron allí: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>None answered.</source>
+        <translation>Ninguna respondió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There are none.</source>
+        <translation>No las hay.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Entries that name another hardware address: %d.</source>
+        <translation>Entradas con otra dirección de hardware: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>This computer has no network interface that reaches units.</source>
+        <translation>Este equipo no tiene ninguna interfaz de red que alcance unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no link.</source>
+        <translation>La interfaz %@ no tiene enlace.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by %@ (process %d).</source>
+        <translation>El puerto UDP %d está ocupado por %@ (proceso %d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by a program of the user %@.</source>
+        <translation>El puerto UDP %d está ocupado por un programa del usuario %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to %@.</source>
+        <translation>Ninguna ruta de este equipo lleva a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to the units behind the interface %@.</source>
+        <translation>Ninguna ruta de este equipo lleva a las unidades detrás de la interfaz %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ answers to UDP port %d, and not to the one that asks.</source>
+        <translation>La unidad %@ responde al puerto UDP %d y no al que pregunta.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Units answer from another network than that of the interface %@.</source>
+        <translation>Responden unidades de otra red que la de la interfaz %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ takes no request to %@, so its network is another one.</source>
+        <translation>La unidad %@ no acepta solicitudes a %@, así que su red es otra.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ is at %@, which is not in the network of the interface %@.</source>
+        <translation>La unidad %@ está en %@, que no pertenece a la red de la interfaz %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Another host than the unit answers for %@: %@.</source>
+        <translation>Otro equipo que la unidad responde por %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, but the unit there is %@.</source>
+        <translation>Una entrada ARP fija dice que %@ es %@, pero la unidad allí es %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, and nobody answers there.</source>
+        <translation>Una entrada ARP fija dice que %@ es %@, y allí no responde nadie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>%@ says that %@ cannot be reached.</source>
+        <translation>%@ dice que no se puede llegar a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No host answers for the address %@.</source>
+        <translation>Ningún equipo responde por la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo firewall-cmd --add-port=%d/udp</source>
+        <translation>Deje entrar las respuestas: sudo firewall-cmd --add-port=%d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo ufw allow %d/udp</source>
+        <translation>Deje entrar las respuestas: sudo ufw allow %d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let UDP to port %d in, in the rules of the firewall.</source>
+        <translation>Deje entrar UDP al puerto %d en las reglas del cortafuegos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Take the entry out: sudo arp -d %@</source>
+        <translation>Quite la entrada: sudo arp -d %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no IPv4 address.</source>
+        <translation>La interfaz %@ no tiene dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The system refuses to send the request: %@.</source>
+        <translation>El sistema se niega a enviar la solicitud: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers in to UDP port %d.</source>
+        <translation>Un cortafuegos de este equipo no deja entrar respuestas al puerto UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers to a broadcast in to UDP port %d, only those to single requests.</source>
+        <translation>Un cortafuegos de este equipo no deja entrar al puerto UDP %d las respuestas a una difusión, solo las de solicitudes individuales.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The reverse path filter of the interface %@ takes the answers away.</source>
+        <translation>El filtro de camino inverso de la interfaz %@ retira las respuestas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The host %@ is there, but nothing reads its UDP port %d.</source>
+        <translation>El equipo %@ está ahí, pero nada lee su puerto UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Something answers, but not as a unit does.</source>
+        <translation>Algo responde, pero no como una unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back from %@.</source>
+        <translation>La solicitud salió y nada volvió de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back.</source>
+        <translation>La solicitud salió y nada volvió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Plug in the cable, switch the interface on, and look whether something is switched on at the other end.</source>
+        <translation>Conecte el cable, active la interfaz y mire si hay algo encendido en el otro extremo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units.</source>
+        <translation>Dé a la interfaz una dirección en la red de las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Quit that program, or choose another UDP port.</source>
+        <translation>Cierre ese programa o elija otro puerto UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look for a firewall rule on this computer that stops datagrams to UDP port 3520.</source>
+        <translation>Busque en este equipo una regla del cortafuegos que detenga los datagramas al puerto UDP 3520.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit, or add a route.</source>
+        <translation>Dé a la interfaz una dirección en la red de la unidad o añada una ruta.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units, or take out the route that leads elsewhere. The filter is the setting net.ipv4.conf.%@.rp_filter.</source>
+        <translation>Dé a la interfaz una dirección en la red de las unidades o quite la ruta que lleva a otro sitio. El filtro es el ajuste net.ipv4.conf.%@.rp_filter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Choose that UDP port, or change the unit’s destination port.</source>
+        <translation>Elija ese puerto UDP o cambie el puerto de destino de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit as its first one, or change the unit’s address.</source>
+        <translation>Dé a la interfaz como primera una dirección en la red de la unidad o cambie la dirección de la unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Disconnect one of them, and give the other one another address.</source>
+        <translation>Desconecte una de ellas y dé otra dirección a la otra.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Allow a larger receive buffer. Help says how.</source>
+        <translation>Permita un búfer de recepción mayor. La ayuda explica cómo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether this is a unit, and which device port it has.</source>
+        <translation>Mire si es una unidad y qué puerto de unidad tiene.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether the address is right.</source>
+        <translation>Mire si la unidad tiene corriente y su cable, y si la dirección es correcta.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Find out what it is. The event log shows what came.</source>
+        <translation>Averigüe qué es. El registro de eventos muestra lo que llegó.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether a router or a switch with separated ports stands in between.</source>
+        <translation>Mire si la unidad tiene corriente y su cable, y si hay en medio un enrutador o un conmutador con puertos separados.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -1525,11 +2023,6 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>La escucha UDP no está activa.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: %@</source>
         <translation>No se envió: %@</translation>
     </message>
@@ -1567,11 +2060,6 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>No se envió: no se conoce la dirección de la unidad.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>State</source>
-        <translation>Estado</translation>
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>

@@ -25,6 +25,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Details…</source>
+        <translation>Détails…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Shows every check on the way to the units and back</source>
+        <translation>Montre chaque contrôle sur le chemin des unités et retour</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>U&amp;nit:</source>
         <translation>U&amp;nité :</translation>
     </message>
@@ -105,6 +115,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <source>Help</source>
         <translation>Aide</translation>
     </message>
@@ -393,6 +404,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ ne peut pas diffuser. Il faut une liaison et une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>There is no network interface “%@”. There are: %@.</source>
         <translation>Il n’y a pas d’interface réseau « %@ ». Il y a : %@.</translation>
     </message>
@@ -403,16 +420,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
-        <translation>%@ ne peut pas diffuser. Il faut une liaison et une adresse IPv4.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>Le port UDP ne peut pas être ouvert : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>Le port UDP %d est occupé par un autre programme.</translation>
     </message>
@@ -458,12 +471,18 @@
         <translation>Interrompu.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>“%@” names no unit and is no IPv4 address. Write a serial number such as 4B5800000001, id:TEXT, or 192.0.2.41.</source>
+        <translation>« %@ » ne désigne aucune unité et n’est pas une adresse IPv4. Écrivez un numéro de série comme 4B5800000001, id:TEXT ou 192.0.2.41.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d requêtes se suivent de trop près pendant ce temps. Il faut 0,01 seconde pour chacune.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Plusieurs unités ont l’adresse %@ : %@.</translation>
     </message>
@@ -474,6 +493,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>Le système n’avait pas de place pour %d datagrammes. Des unités peuvent manquer.</translation>
     </message>
@@ -756,6 +776,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
@@ -830,6 +851,62 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d unités sont écrites dans « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Ask Again</source>
+        <translation>Redemander</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Why no unit answers</source>
+        <translation>Pourquoi aucune unité ne répond</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Checks</source>
+        <translation>Contrôles</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Check</source>
+        <translation>Contrôle</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What was seen</source>
+        <translation>Ce qui a été vu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What to do</source>
+        <translation>Que faire</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Asking. This takes a second, or three where nobody answers for an address.</source>
+        <translation>Demande en cours. Cela prend une seconde, ou trois si personne ne répond pour une adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Units answer, and no check fails.</source>
+        <translation>Des unités répondent, et aucun contrôle n’échoue.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>No cause was found.</source>
+        <translation>Aucune cause n’a été trouvée.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1045,6 +1122,427 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>identifiant d’unité %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ carries datagrams.</source>
+        <translation>L’interface %@ transporte des datagrammes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ cannot broadcast.</source>
+        <translation>L’interface %@ ne peut pas diffuser.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There is none.</source>
+        <translation>Il n’y en a pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers are expected on UDP port %d.</source>
+        <translation>Les réponses sont attendues sur le port UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>L’écoute UDP n’est pas active.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The request left.</source>
+        <translation>La demande est partie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes lead to the units by this interface.</source>
+        <translation>Les routes mènent aux unités par cette interface.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes to a part of the network lead elsewhere.</source>
+        <translation>Les routes vers une partie du réseau mènent ailleurs.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer hears its own broadcast on UDP port %d.</source>
+        <translation>L’ordinateur entend sa propre diffusion sur le port UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer does not hear its own broadcast on UDP port %d. Datagrams that were taken away meanwhile: %d.</source>
+        <translation>L’ordinateur n’entend pas sa propre diffusion sur le port UDP %d. Datagrammes retirés entre-temps : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is off.</source>
+        <translation>Le filtre est désactivé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is on. Datagrams that it took away meanwhile: %d.</source>
+        <translation>Le filtre est activé. Datagrammes qu’il a retirés entre-temps : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered: %d.</source>
+        <translation>Unités qui ont répondu : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answer now: %d.</source>
+        <translation>Unités qui répondent maintenant : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers that are not understood: %d. Other datagrams: %d.</source>
+        <translation>Réponses non comprises : %d. Autres datagrammes : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ answers.</source>
+        <translation>%@ répond.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ does not answer.</source>
+        <translation>%@ ne répond pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Link</source>
+        <translation>Liaison</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>IPv4 address</source>
+        <translation>Adresse IPv4</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>UDP port</source>
+        <translation>Port UDP</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Request</source>
+        <translation>Demande</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Routes</source>
+        <translation>Routes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Own broadcast</source>
+        <translation>Diffusion propre</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers</source>
+        <translation>Réponses</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Strange answers</source>
+        <translation>Réponses étranges</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped datagrams</source>
+        <translation>Datagrammes rejetés</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers on other ports</source>
+        <translation>Réponses sur d’autres ports</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units of other networks</source>
+        <translation>Unités d’autres réseaux</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Reverse path filter</source>
+        <translation>Filtre de chemin inverse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Doubled addresses</source>
+        <translation>Adresses en double</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fixed ARP entries</source>
+        <translation>Entrées ARP fixes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The unit itself</source>
+        <translation>L’unité elle-même</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fine</source>
+        <translation>Correct</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Odd</source>
+        <translation>Inhabituel</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fails</source>
+        <translation>Échec</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Not known</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>It was not asked.</source>
+        <translation>Cela n’a pas été demandé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped before they were read: %d.</source>
+        <translation>Rejetés avant leur lecture : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered there: %d.</source>
+        <translation>Unités qui y ont répondu : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>None answered.</source>
+        <translation>Aucune n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There are none.</source>
+        <translation>Il n’y en a pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Entries that name another hardware address: %d.</source>
+        <translation>Entrées avec une autre adresse matérielle : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>This computer has no network interface that reaches units.</source>
+        <translation>Cet ordinateur n’a aucune interface réseau qui atteigne des unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no link.</source>
+        <translation>L’interface %@ n’a pas de liaison.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by %@ (process %d).</source>
+        <translation>Le port UDP %d est occupé par %@ (processus %d).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by a program of the user %@.</source>
+        <translation>Le port UDP %d est occupé par un programme de l’utilisateur %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to %@.</source>
+        <translation>Aucune route de cet ordinateur ne mène à %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to the units behind the interface %@.</source>
+        <translation>Aucune route de cet ordinateur ne mène aux unités derrière l’interface %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ answers to UDP port %d, and not to the one that asks.</source>
+        <translation>L’unité %@ répond au port UDP %d, et non à celui qui demande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Units answer from another network than that of the interface %@.</source>
+        <translation>Des unités répondent depuis un autre réseau que celui de l’interface %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ takes no request to %@, so its network is another one.</source>
+        <translation>L’unité %@ n’accepte aucune demande à %@ : son réseau est donc un autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ is at %@, which is not in the network of the interface %@.</source>
+        <translation>L’unité %@ est à %@, qui n’est pas dans le réseau de l’interface %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Another host than the unit answers for %@: %@.</source>
+        <translation>Un autre hôte que l’unité répond pour %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, but the unit there is %@.</source>
+        <translation>Une entrée ARP fixe dit que %@ est %@, mais l’unité s’y nomme %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, and nobody answers there.</source>
+        <translation>Une entrée ARP fixe dit que %@ est %@, et personne n’y répond.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>%@ says that %@ cannot be reached.</source>
+        <translation>%@ signale que %@ est inaccessible.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No host answers for the address %@.</source>
+        <translation>Aucun hôte ne répond pour l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo firewall-cmd --add-port=%d/udp</source>
+        <translation>Laissez entrer les réponses : sudo firewall-cmd --add-port=%d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo ufw allow %d/udp</source>
+        <translation>Laissez entrer les réponses : sudo ufw allow %d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let UDP to port %d in, in the rules of the firewall.</source>
+        <translation>Laissez entrer UDP vers le port %d dans les règles du pare-feu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Take the entry out: sudo arp -d %@</source>
+        <translation>Retirez l’entrée : sudo arp -d %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no IPv4 address.</source>
+        <translation>L’interface %@ n’a pas d’adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The system refuses to send the request: %@.</source>
+        <translation>Le système refuse d’envoyer la demande : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers in to UDP port %d.</source>
+        <translation>Un pare-feu de cet ordinateur ne laisse entrer aucune réponse au port UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers to a broadcast in to UDP port %d, only those to single requests.</source>
+        <translation>Un pare-feu de cet ordinateur ne laisse entrer au port UDP %d aucune réponse à une diffusion, seulement celles à des demandes isolées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The reverse path filter of the interface %@ takes the answers away.</source>
+        <translation>Le filtre de chemin inverse de l’interface %@ retire les réponses.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The host %@ is there, but nothing reads its UDP port %d.</source>
+        <translation>L’hôte %@ est là, mais rien ne lit son port UDP %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Something answers, but not as a unit does.</source>
+        <translation>Quelque chose répond, mais pas comme une unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back from %@.</source>
+        <translation>La demande est partie, et rien n’est revenu de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back.</source>
+        <translation>La demande est partie, et rien n’est revenu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Plug in the cable, switch the interface on, and look whether something is switched on at the other end.</source>
+        <translation>Branchez le câble, activez l’interface, et regardez si un appareil est allumé à l’autre bout.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units.</source>
+        <translation>Donnez à l’interface une adresse dans le réseau des unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Quit that program, or choose another UDP port.</source>
+        <translation>Quittez ce programme, ou choisissez un autre port UDP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look for a firewall rule on this computer that stops datagrams to UDP port 3520.</source>
+        <translation>Cherchez sur cet ordinateur une règle de pare-feu qui arrête les datagrammes vers le port UDP 3520.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit, or add a route.</source>
+        <translation>Donnez à l’interface une adresse dans le réseau de l’unité, ou ajoutez une route.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units, or take out the route that leads elsewhere. The filter is the setting net.ipv4.conf.%@.rp_filter.</source>
+        <translation>Donnez à l’interface une adresse dans le réseau des unités, ou retirez la route qui mène ailleurs. Le filtre est le réglage net.ipv4.conf.%@.rp_filter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Choose that UDP port, or change the unit’s destination port.</source>
+        <translation>Choisissez ce port UDP, ou changez le port de destination de l’unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit as its first one, or change the unit’s address.</source>
+        <translation>Donnez à l’interface comme première une adresse dans le réseau de l’unité, ou changez l’adresse de l’unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Disconnect one of them, and give the other one another address.</source>
+        <translation>Débranchez l’une d’elles, et donnez une autre adresse à l’autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Allow a larger receive buffer. Help says how.</source>
+        <translation>Autorisez un tampon de réception plus grand. L’aide explique comment.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether this is a unit, and which device port it has.</source>
+        <translation>Regardez si c’est une unité, et quel port elle a.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether the address is right.</source>
+        <translation>Regardez si l’unité est alimentée et câblée, et si l’adresse est juste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Find out what it is. The event log shows what came.</source>
+        <translation>Trouvez ce que c’est. Le journal d’événements montre ce qui est arrivé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether a router or a switch with separated ports stands in between.</source>
+        <translation>Regardez si l’unité est alimentée et câblée, et si un routeur ou un commutateur à ports séparés se trouve entre les deux.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -1525,11 +2023,6 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>L’écoute UDP n’est pas active.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: %@</source>
         <translation>Non envoyé : %@</translation>
     </message>
@@ -1567,11 +2060,6 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>State</source>
-        <translation>État</translation>
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>

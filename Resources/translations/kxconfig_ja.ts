@@ -25,6 +25,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Details…</source>
+        <translation>詳細…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Shows every check on the way to the units and back</source>
+        <translation>ユニットまでの往復の経路で行った各チェックを表示します</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>U&amp;nit:</source>
         <translation>ユニット(&amp;N):</translation>
     </message>
@@ -105,6 +115,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <source>Help</source>
         <translation>ヘルプ</translation>
     </message>
@@ -393,6 +404,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
+        <translation>%@ はブロードキャストできません。リンクと IPv4 アドレスが必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>There is no network interface “%@”. There are: %@.</source>
         <translation>ネットワークインターフェイス「%@」はありません。あるのは次のものです: %@。</translation>
     </message>
@@ -403,16 +420,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>%@ cannot broadcast. It needs a link and an IPv4 address.</source>
-        <translation>%@ はブロードキャストできません。リンクと IPv4 アドレスが必要です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>UDP ポートを開けません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>UDP ポート %d は別のプログラムが使用しています。</translation>
     </message>
@@ -458,12 +471,18 @@
         <translation>中断しました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/DiagnoseCommand.cpp"/>
+        <source>“%@” names no unit and is no IPv4 address. Write a serial number such as 4B5800000001, id:TEXT, or 192.0.2.41.</source>
+        <translation>「%@」はユニットの名前でも IPv4 アドレスでもありません。4B5800000001 のようなシリアル番号、id:TEXT、または 192.0.2.41 のように書いてください。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>その時間に %d 回の要求では間隔が短すぎます。1 回につき 0.01 秒が必要です。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>複数のユニットがアドレス %@ を使っています: %@。</translation>
     </message>
@@ -474,6 +493,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>システムに %d 個のデータグラムを保持する余地がありませんでした。ユニットが欠けている可能性があります。</translation>
     </message>
@@ -756,6 +776,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
@@ -830,6 +851,62 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d 台のユニットを「%@」に書き込みました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Ask Again</source>
+        <translation>もう一度問い合わせる</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Why no unit answers</source>
+        <translation>ユニットが応答しない理由</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Checks</source>
+        <translation>チェック</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Check</source>
+        <translation>チェック項目</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>State</source>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What was seen</source>
+        <translation>確認されたこと</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>What to do</source>
+        <translation>対処方法</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Asking. This takes a second, or three where nobody answers for an address.</source>
+        <translation>問い合わせ中です。1 秒、アドレスに誰も応答しない場合は 3 秒かかります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>Units answer, and no check fails.</source>
+        <translation>ユニットが応答し、失敗したチェックはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <source>No cause was found.</source>
+        <translation>原因は見つかりませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
@@ -1045,6 +1122,427 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>ユニット ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ carries datagrams.</source>
+        <translation>インターフェース %@ はデータグラムを運んでいます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The interface %@ cannot broadcast.</source>
+        <translation>インターフェース %@ はブロードキャストできません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There is none.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers are expected on UDP port %d.</source>
+        <translation>応答は UDP ポート %d で待っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <location filename="../../Sources/words/SendFailureText.cpp"/>
+        <source>The UDP listener is not running.</source>
+        <translation>UDP リスナーが動作していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The request left.</source>
+        <translation>要求は送信されました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes lead to the units by this interface.</source>
+        <translation>経路はこのインターフェースを通ってユニットに至ります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The routes to a part of the network lead elsewhere.</source>
+        <translation>ネットワークの一部への経路が別の場所に向いています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer hears its own broadcast on UDP port %d.</source>
+        <translation>コンピューターは UDP ポート %d で自分のブロードキャストを受信しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The computer does not hear its own broadcast on UDP port %d. Datagrams that were taken away meanwhile: %d.</source>
+        <translation>コンピューターは UDP ポート %d で自分のブロードキャストを受信していません。その間に取り除かれたデータグラム: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is off.</source>
+        <translation>フィルターはオフです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The filter is on. Datagrams that it took away meanwhile: %d.</source>
+        <translation>フィルターはオンです。その間に取り除いたデータグラム: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered: %d.</source>
+        <translation>応答したユニット: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answer now: %d.</source>
+        <translation>現在応答しているユニット: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers that are not understood: %d. Other datagrams: %d.</source>
+        <translation>理解できない応答: %d。その他のデータグラム: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ answers.</source>
+        <translation>%@ は応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>%@ does not answer.</source>
+        <translation>%@ は応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Link</source>
+        <translation>リンク</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>IPv4 address</source>
+        <translation>IPv4 アドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>UDP port</source>
+        <translation>UDP ポート</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Request</source>
+        <translation>要求</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Routes</source>
+        <translation>経路</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Own broadcast</source>
+        <translation>自分のブロードキャスト</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers</source>
+        <translation>応答</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Strange answers</source>
+        <translation>不明な応答</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped datagrams</source>
+        <translation>破棄されたデータグラム</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Answers on other ports</source>
+        <translation>他のポートへの応答</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units of other networks</source>
+        <translation>他のネットワークのユニット</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Reverse path filter</source>
+        <translation>逆方向パスフィルター</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Doubled addresses</source>
+        <translation>重複したアドレス</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fixed ARP entries</source>
+        <translation>固定 ARP エントリ</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>The unit itself</source>
+        <translation>ユニット自体</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fine</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Odd</source>
+        <translation>要確認</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Fails</source>
+        <translation>失敗</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Not known</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>It was not asked.</source>
+        <translation>問い合わせていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Dropped before they were read: %d.</source>
+        <translation>読み取り前に破棄: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Units that answered there: %d.</source>
+        <translation>そこに応答したユニット: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>None answered.</source>
+        <translation>応答したものはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>There are none.</source>
+        <translation>ありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisCheckText.cpp"/>
+        <source>Entries that name another hardware address: %d.</source>
+        <translation>別のハードウェアアドレスを示すエントリ: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>This computer has no network interface that reaches units.</source>
+        <translation>このコンピューターにはユニットに届くネットワークインターフェースがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no link.</source>
+        <translation>インターフェース %@ にリンクがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by %@ (process %d).</source>
+        <translation>UDP ポート %d は %@ (プロセス %d) が使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>UDP port %d is taken by a program of the user %@.</source>
+        <translation>UDP ポート %d はユーザー %@ のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to %@.</source>
+        <translation>このコンピューターには %@ への経路がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No route of this computer leads to the units behind the interface %@.</source>
+        <translation>このコンピューターにはインターフェース %@ の先にあるユニットへの経路がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ answers to UDP port %d, and not to the one that asks.</source>
+        <translation>ユニット %@ は問い合わせ元ではなく UDP ポート %d に応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Units answer from another network than that of the interface %@.</source>
+        <translation>インターフェース %@ とは別のネットワークからユニットが応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ takes no request to %@, so its network is another one.</source>
+        <translation>ユニット %@ は %@ への要求を受け付けないため、別のネットワークに属しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The unit %@ is at %@, which is not in the network of the interface %@.</source>
+        <translation>ユニット %@ のアドレスは %@ で、インターフェース %@ のネットワークにありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Another host than the unit answers for %@: %@.</source>
+        <translation>ユニット以外のホストが %@ に応答しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, but the unit there is %@.</source>
+        <translation>固定 ARP エントリでは %@ は %@ ですが、そこにあるユニットは %@ です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A fixed ARP entry says that %@ is %@, and nobody answers there.</source>
+        <translation>固定 ARP エントリでは %@ は %@ ですが、そこでは何も応答しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>%@ says that %@ cannot be reached.</source>
+        <translation>%@ によると、%@ には到達できません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>No host answers for the address %@.</source>
+        <translation>アドレス %@ に応答するホストがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo firewall-cmd --add-port=%d/udp</source>
+        <translation>応答を許可してください: sudo firewall-cmd --add-port=%d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let the answers in: sudo ufw allow %d/udp</source>
+        <translation>応答を許可してください: sudo ufw allow %d/udp</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Let UDP to port %d in, in the rules of the firewall.</source>
+        <translation>ファイアウォールの規則で、ポート %d への UDP を許可してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Take the entry out: sudo arp -d %@</source>
+        <translation>エントリを削除してください: sudo arp -d %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The interface %@ has no IPv4 address.</source>
+        <translation>インターフェース %@ に IPv4 アドレスがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The system refuses to send the request: %@.</source>
+        <translation>システムが要求の送信を拒否しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers in to UDP port %d.</source>
+        <translation>このコンピューターのファイアウォールが UDP ポート %d への応答を通していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>A firewall on this computer lets no answers to a broadcast in to UDP port %d, only those to single requests.</source>
+        <translation>このコンピューターのファイアウォールはブロードキャストへの応答を UDP ポート %d に通さず、個別の要求への応答だけを通しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The reverse path filter of the interface %@ takes the answers away.</source>
+        <translation>インターフェース %@ の逆方向パスフィルターが応答を取り除いています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The host %@ is there, but nothing reads its UDP port %d.</source>
+        <translation>ホスト %@ は存在しますが、UDP ポート %d を受け付けていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Something answers, but not as a unit does.</source>
+        <translation>何かが応答していますが、ユニットの応答ではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back from %@.</source>
+        <translation>要求は送信されましたが、%@ から何も返ってきませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>The request left, and nothing came back.</source>
+        <translation>要求は送信されましたが、何も返ってきませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Plug in the cable, switch the interface on, and look whether something is switched on at the other end.</source>
+        <translation>ケーブルを差し込み、インターフェースを有効にし、相手側の機器の電源を確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units.</source>
+        <translation>インターフェースにユニットのネットワークのアドレスを設定してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Quit that program, or choose another UDP port.</source>
+        <translation>そのプログラムを終了するか、別の UDP ポートを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look for a firewall rule on this computer that stops datagrams to UDP port 3520.</source>
+        <translation>UDP ポート 3520 宛てのデータグラムを止めるファイアウォールの規則がこのコンピューターにないか調べてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit, or add a route.</source>
+        <translation>インターフェースにユニットのネットワークのアドレスを設定するか、経路を追加してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the units, or take out the route that leads elsewhere. The filter is the setting net.ipv4.conf.%@.rp_filter.</source>
+        <translation>インターフェースにユニットのネットワークのアドレスを設定するか、別の場所に向かう経路を削除してください。フィルターの設定は net.ipv4.conf.%@.rp_filter です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Choose that UDP port, or change the unit’s destination port.</source>
+        <translation>その UDP ポートを選ぶか、ユニットの宛先ポート番号を変更してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Give the interface an address in the network of the unit as its first one, or change the unit’s address.</source>
+        <translation>インターフェースの最初のアドレスとしてユニットのネットワークのアドレスを設定するか、ユニットのアドレスを変更してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Disconnect one of them, and give the other one another address.</source>
+        <translation>一方を切り離し、もう一方に別のアドレスを設定してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Allow a larger receive buffer. Help says how.</source>
+        <translation>より大きな受信バッファーを許可してください。方法はヘルプにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether this is a unit, and which device port it has.</source>
+        <translation>それがユニットかどうか、またユニットのポート番号を確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether the address is right.</source>
+        <translation>ユニットの電源とケーブル、およびアドレスが正しいかを確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Find out what it is. The event log shows what came.</source>
+        <translation>それが何かを調べてください。届いた内容はイベントログにあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <source>Look whether the unit has power and its cable, and whether a router or a switch with separated ports stands in between.</source>
+        <translation>ユニットの電源とケーブル、および間にルーターやポートを分離したスイッチがないかを確認してください。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -1525,11 +2023,6 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
-        <source>The UDP listener is not running.</source>
-        <translation>UDP リスナーが動作していません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: %@</source>
         <translation>送信しませんでした: %@</translation>
     </message>
@@ -1567,11 +2060,6 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/SendFailureText.cpp"/>
         <source>Not sent: The address of the unit is not known.</source>
         <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>State</source>
-        <translation>状態</translation>
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>

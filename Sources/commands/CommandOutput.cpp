@@ -114,9 +114,9 @@ std::string sentenceOfFile(const std::string& path, const Error& error) {
 }
 
 // The document is saved as it is printed. That it cannot be saved is a failure of its own.
-std::string CommandRun::documentText(std::optional<Failure>& failure) {
-    const auto text = [this, &failure] {
-        return _document.text(failure.has_value() ? failure->exitStatus : exitDone, failure);
+std::string CommandRun::documentText(std::optional<Failure>& failure, int exitStatus) {
+    const auto text = [this, &failure, exitStatus] {
+        return _document.text(failure.has_value() ? failure->exitStatus : exitStatus, failure);
     };
     if (_savedDocument == nullptr) {
         return wantsDocument() ? text() : std::string();
@@ -129,7 +129,7 @@ std::string CommandRun::documentText(std::optional<Failure>& failure) {
     return text();
 }
 
-int CommandRun::finish(std::optional<Failure> failure) {
+int CommandRun::finish(std::optional<Failure> failure, int statusWithoutFailure) {
     if (isInterrupted()) {
         failure = interruption();
     }
@@ -137,8 +137,8 @@ int CommandRun::finish(std::optional<Failure> failure) {
         warn("capture",
              localizedText("The capture is not whole, because it could not be written."));
     }
-    const std::string text = documentText(failure);
-    const int exitStatus = failure.has_value() ? failure->exitStatus : exitDone;
+    const std::string text = documentText(failure, statusWithoutFailure);
+    const int exitStatus = failure.has_value() ? failure->exitStatus : statusWithoutFailure;
     if (wantsDocument()) {
         _services.console.writeOutput(text);
     }

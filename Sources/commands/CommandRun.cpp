@@ -120,18 +120,8 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
         }
         return std::nullopt;
     }
-    _chosen = interfacesNamed(_interfaces, *name);
-    if (_chosen.empty()) {
-        return Failure{ErrorCode::interface,
-                       localizedText("There is no network interface “%@”. There are: %@.",
-                                     {safeForSentence(*name), titlesOf(_interfaces)}),
-                       exitWrong};
-    }
-    if (_chosen.size() > 1) {
-        return Failure{
-            ErrorCode::ambiguous,
-            localizedText("“%@” may mean: %@.", {safeForSentence(*name), titlesOf(_chosen)}),
-            exitWrong};
+    if (auto refusal = chooseNamedInterface(*name)) {
+        return refusal;
     }
     if (!_chosen.front().canAsk) {
         return failureOf(ErrorCode::interface,
@@ -141,13 +131,53 @@ CommandRun::Refusal CommandRun::chooseInterfaces() {
     return std::nullopt;
 }
 
-CommandRun::Refusal CommandRun::openExchange() {
+CommandRun::Refusal CommandRun::chooseNamedInterface(const std::string& name) {
+    _chosen = interfacesNamed(_interfaces, name);
+    if (_chosen.empty()) {
+        return Failure{ErrorCode::interface,
+                       localizedText("There is no network interface “%@”. There are: %@.",
+                                     {safeForSentence(name), titlesOf(_interfaces)}),
+                       exitWrong};
+    }
+    if (_chosen.size() > 1) {
+        return Failure{
+            ErrorCode::ambiguous,
+            localizedText("“%@” may mean: %@.", {safeForSentence(name), titlesOf(_chosen)}),
+            exitWrong};
+    }
+    return std::nullopt;
+}
+
+CommandRun::Refusal CommandRun::chooseInterfacesToLookAt() {
+    const auto name = _line.valueOf("-i");
+    if (name.has_value() && *name != "all") {
+        _interfaces = _services.interfaces.list();
+        return chooseNamedInterface(*name);
+    }
+    auto refusal = chooseInterfaces();
+    if (!_chosen.empty()) {
+        return refusal; // several, and none named
+    }
+    for (const HostInterface& interface : _interfaces) {
+        const bool isNew =
+            std::ranges::find(_chosen, interface.name, &HostInterface::name) == _chosen.end();
+        if (interface.canBroadcast && interface.kind != "loopback" && isNew) {
+            _chosen.push_back(interface);
+        }
+    }
+    return std::nullopt;
+}
+
+DatagramSystemCalls& CommandRun::systemCalls() {
+    return _capture != nullptr ? *_capture : _services.session.systemCalls;
+}
+
+CommandRun::Refusal CommandRun::openExchange(const SystemCallLayer& wrapped) {
     openCapture();
-    UnitSession::Services session{
-        .runLoop = _services.session.runLoop,
-        .hostResolver = _services.session.hostResolver,
-        .systemCalls = _capture != nullptr ? *_capture : _services.session.systemCalls,
-        .receiveBuffers = _services.session.receiveBuffers};
+    UnitSession::Services session{.runLoop = _services.session.runLoop,
+                                  .hostResolver = _services.session.hostResolver,
+                                  .systemCalls = wrapped ? wrapped(systemCalls()) : systemCalls(),
+                                  .receiveBuffers = _services.session.receiveBuffers};
     _exchange = std::make_unique<UnitExchange>(
         UnitExchange::Services{.session = session, .now = _services.now});
     std::vector<std::uint32_t> own;

@@ -13,7 +13,9 @@
 #include "commands/OutputFile.h"
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
+#include "conversation/DiagnosticSockets.h"
 #include "conversation/Discovery.h"
+#include "conversation/HostDiagnostics.h"
 #include "conversation/HostInterface.h"
 #include "conversation/Operation.h"
 #include "conversation/UnitExchange.h"
@@ -42,6 +44,8 @@ struct CommandServices {
     NeighbourTable& neighbours;
     AddressProbes* probes = nullptr; // may be null
     AddressBindings& bindings;
+    HostDiagnostics& diagnostics;
+    DiagnosticSockets& diagnosticSockets;
 };
 
 class CommandRun {
@@ -70,11 +74,25 @@ public:
 
     // Chooses the interfaces on which units are asked. `interfaces()` has all of them then.
     Refusal chooseInterfaces();
+
+    // The same for a question about the interfaces themselves: one that cannot ask may be chosen.
+    // Without a name, and where none can ask, all are chosen that could broadcast. `chosen()` may
+    // be empty then.
+    Refusal chooseInterfacesToLookAt();
     const std::vector<HostInterface>& interfaces() const { return _interfaces; }
     const std::vector<HostInterface>& chosen() const { return _chosen; }
 
-    // Begins to listen, and to capture when that is wanted. Interfaces must be chosen.
-    Refusal openExchange();
+    // Begins to listen, and to capture when that is wanted. Interfaces must be chosen. `wrapped`
+    // may put a layer over the system calls of the listener; it must outlive the listener.
+    using SystemCallLayer = std::function<DatagramSystemCalls&(DatagramSystemCalls&)>;
+    Refusal openExchange(const SystemCallLayer& wrapped = {});
+
+    // Ends what openExchange() began, for a layer that ends before the run.
+    void closeExchange() { _exchange.reset(); }
+
+    // The system calls below the listener, which write the capture when one is wanted.
+    DatagramSystemCalls& systemCalls();
+    bool isListening() const { return _exchange != nullptr && _exchange->port() != 0; }
     UnitExchange& exchange() { return *_exchange; }
 
     // The broadcast addresses of the chosen interfaces.
@@ -139,15 +157,17 @@ public:
     static Refusal refusalOfSend(const std::optional<SendFailure>& failure);
 
     // Ends the command: tells the failure, prints the document, and returns the exit status.
-    int finish(std::optional<Failure> failure = {});
+    // Without a failure it ends with another status where that is given.
+    int finish(std::optional<Failure> failure = {}, int statusWithoutFailure = exitDone);
 
 private:
     Refusal lookAtCapture();
+    Refusal chooseNamedInterface(const std::string& name);
     void openCapture();
     void awaitProgress();
     void showProgress();
     void endProgress();
-    std::string documentText(std::optional<Failure>& failure);
+    std::string documentText(std::optional<Failure>& failure, int exitStatus);
     Failure interruption() const;
     Refusal objectionToReach(const HeardUnit& unit) const;
     void tellFailure(const Failure& failure);

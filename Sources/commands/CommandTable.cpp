@@ -77,6 +77,8 @@ constexpr std::array<Text, 2> restoreExamples{"kxctl restore 4B5800000001",
                                               "kxctl restore --everyone --yes -i kx0"};
 constexpr std::array<Text, 2> watchExamples{"kxctl watch --every 5",
                                             "kxctl watch --until 12 --for 60 --json"};
+constexpr std::array<Text, 3> diagnoseExamples{"kxctl diagnose", "kxctl diagnose 192.0.2.41",
+                                               "kxctl diagnose 4B5800000001 --json"};
 constexpr std::array<Text, 1> checkExamples{"kxctl check 192.0.2.41 192.0.2.42"};
 
 constexpr std::array<Text, 1> interfacesKeys{"interfaces"};
@@ -86,6 +88,7 @@ constexpr std::array<Text, 1> unitsKeys{"units"};
 constexpr std::array<Text, 1> changesKeys{"changes"};
 constexpr std::array<Text, 1> repliesKeys{"replies"};
 constexpr std::array<Text, 1> addressesKeys{"addresses"};
+constexpr std::array<Text, 2> diagnoseKeys{"checks", "causes"};
 
 constexpr Text unitText =
     "A unit is named by its serial number, six pairs of hexadecimal digits with blanks, colons, "
@@ -101,6 +104,19 @@ constexpr Text setText =
     "it.\n\n"
     "A new internal-ip must lie in the interface's network and must be held by nobody. It needs "
     "administrator rights for a moment, to enter the unit's hardware address into the ARP cache.";
+
+constexpr Text diagnoseText =
+    "Checks the way from this host to the units and back: the link, the address, the port, the "
+    "routes, a firewall, and what answers. It prints each check with its evidence, and then the "
+    "causes that the evidence shows, the likeliest first, each with what to do. It needs no "
+    "rights, and takes a second; where nobody answers for an address, up to four.\n\n"
+    "With a unit or an address it tells why that one does not answer. A unit is named by its "
+    "serial number or by id:TEXT.\n\n"
+    "It sends three requests to everybody, three to 255.255.255.255, three to the interface's "
+    "broadcast address on its own port, and a few to single hosts, parameter requests all of them. "
+    "Meanwhile it listens on all of the four ports that are free. "
+    "The exit status is 0 when units answer and no check fails, 1 when a cause was found, and 3 "
+    "when none can be named.";
 
 constexpr std::array commands{
     CommandRow{"interfaces",
@@ -163,6 +179,17 @@ constexpr std::array commands{
                anyNumberOfWords,
                ValueKind::text,
                runCheck},
+    CommandRow{"diagnose",
+               "[UNIT|ADDRESS]",
+               "tell why no unit answers",
+               diagnoseText,
+               {},
+               diagnoseExamples,
+               diagnoseKeys,
+               0,
+               1,
+               ValueKind::text,
+               runDiagnose},
 };
 
 } // namespace

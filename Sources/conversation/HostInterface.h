@@ -40,6 +40,7 @@ struct HostInterface {
     Bytes hardwareAddress;                    // empty when it has none
 
     bool canBroadcast = false;
+    bool isRunning = false; // it is up and has a carrier
 
     // It carries datagrams, can broadcast, and has an IPv4 address.
     bool canAsk = false;

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace kx {
 
@@ -33,6 +34,10 @@ public:
     // The entry of an address on a link; absent when there is none, and when the system does not
     // tell. Returns at once.
     virtual std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) = 0;
+
+    // The addresses of the hosts on a link whose hardware addresses are known, in ascending order.
+    // Empty when there are none, and when the system does not tell. Returns at once.
+    virtual std::vector<std::uint32_t> knownAddresses(std::uint32_t link) = 0;
 };
 
 } // namespace kx

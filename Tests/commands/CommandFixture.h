@@ -6,6 +6,8 @@
 #include "commands/CommandRun.h"
 #include "core/conversation/AddressFixture.h"
 #include "doubles/FixedWallClock.h"
+#include "doubles/ScriptedDiagnosticSockets.h"
+#include "doubles/ScriptedHostDiagnostics.h"
 
 #include <csignal>
 #include <functional>
@@ -97,6 +99,7 @@ protected:
         interface.link = index;
         interface.networks = {{.address = address, .mask = 0xFFFFFF00U}};
         interface.canBroadcast = true;
+        interface.isRunning = true;
         interface.canAsk = true;
         interfaces.interfaces.push_back(interface);
         systemCalls.addLink(name, index);
@@ -151,6 +154,8 @@ protected:
     ScriptedHostInterfaces interfaces;
     ScriptedNeighbours neighbours;
     ScriptedBindings bindings;
+    ScriptedHostDiagnostics diagnostics;
+    ScriptedDiagnosticSockets diagnosticSockets;
     std::vector<std::unique_ptr<PlayedUnit>> units;
     CommandLine line;
     std::unique_ptr<CommandRun> command;
@@ -169,7 +174,9 @@ private:
                 .console = console,
                 .interfaces = interfaces,
                 .neighbours = neighbours,
-                .bindings = bindings};
+                .bindings = bindings,
+                .diagnostics = diagnostics,
+                .diagnosticSockets = diagnosticSockets};
     }
 
     void deliver(const ScriptedSystemCalls::Call& call) {

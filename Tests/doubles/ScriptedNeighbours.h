@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <utility>
+#include <vector>
 
 namespace kx {
 
@@ -25,6 +26,17 @@ public:
         }
         const auto found = entries.find(address);
         return found != entries.end() ? std::optional(found->second) : std::nullopt;
+    }
+
+    // Those on every link.
+    std::vector<std::uint32_t> knownAddresses(std::uint32_t /*link*/) override {
+        std::vector<std::uint32_t> addresses;
+        for (const auto& [address, neighbour] : entries) {
+            if (!neighbour.hardwareAddress.empty()) {
+                addresses.push_back(address);
+            }
+        }
+        return addresses;
     }
 };
 

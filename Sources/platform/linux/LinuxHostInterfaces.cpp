@@ -44,6 +44,7 @@ void takeLink(const NetworkLink& link, HostInterface& interface) {
         interface.networks.push_back({each.address, maskOfPrefixLength(each.prefixLength)});
     }
     interface.canBroadcast = link.canBroadcast;
+    interface.isRunning = link.isRunning;
     interface.canAsk =
         link.isRunning && link.canBroadcast && !link.isLoopback && !interface.networks.empty();
 }

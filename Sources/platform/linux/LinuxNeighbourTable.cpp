@@ -11,6 +11,9 @@
 #include <netlink/socket.h>
 #include <sys/socket.h>
 
+#include <algorithm>
+#include <cstring>
+
 namespace kx {
 
 namespace {
@@ -54,6 +57,31 @@ int messageReceived(nl_msg* message, void* found) {
     return NL_OK;
 }
 
+struct KnownAddresses {
+    std::uint32_t link = 0;
+    std::vector<std::uint32_t> found;
+};
+
+// An entry of a dump of the whole table.
+int entryReceived(nl_msg* message, void* collected) {
+    auto& known = *static_cast<KnownAddresses*>(collected);
+    rtnl_neigh* parsed = nullptr;
+    if (rtnl_neigh_parse(nlmsg_hdr(message), &parsed) < 0) {
+        return NL_OK;
+    }
+    const std::unique_ptr<rtnl_neigh, NeighbourRelease> neighbour(parsed);
+    nl_addr* const address = rtnl_neigh_get_dst(parsed);
+    if (rtnl_neigh_get_ifindex(parsed) == static_cast<int>(known.link) && address != nullptr &&
+        nl_addr_get_len(address) == sizeof(std::uint32_t) &&
+        (rtnl_neigh_get_state(parsed) & NUD_NOARP) == 0 &&
+        !textOf(rtnl_neigh_get_lladdr(parsed)).empty()) {
+        std::uint32_t inNetworkOrder = 0;
+        std::memcpy(&inNetworkOrder, nl_addr_get_binary_addr(address), sizeof inNetworkOrder);
+        known.found.push_back(ntohl(inNetworkOrder));
+    }
+    return NL_OK;
+}
+
 } // namespace
 
 void LinuxNeighbourTable::SocketRelease::operator()(nl_sock* socket) const {
@@ -92,6 +120,22 @@ std::optional<Neighbour> LinuxNeighbourTable::entry(std::uint32_t address, std::
         nl_wait_for_ack(_socket.get());
     }
     return found;
+}
+
+std::vector<std::uint32_t> LinuxNeighbourTable::knownAddresses(std::uint32_t link) {
+    KnownAddresses known{.link = link, .found = {}};
+    ndmsg header{};
+    header.ndm_family = AF_INET;
+    header.ndm_ifindex = static_cast<int>(link);
+    if (_socket == nullptr ||
+        nl_send_simple(_socket.get(), RTM_GETNEIGH, NLM_F_REQUEST | NLM_F_DUMP, &header,
+                       sizeof header) < 0) {
+        return {};
+    }
+    nl_socket_modify_cb(_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, entryReceived, &known);
+    nl_recvmsgs_default(_socket.get());
+    std::ranges::sort(known.found);
+    return std::move(known.found);
 }
 
 } // namespace kx

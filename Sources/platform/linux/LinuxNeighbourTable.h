@@ -21,6 +21,7 @@ public:
     LinuxNeighbourTable& operator=(const LinuxNeighbourTable&) = delete;
 
     std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) override;
+    std::vector<std::uint32_t> knownAddresses(std::uint32_t link) override;
 
 private:
     struct SocketRelease {

@@ -4,6 +4,7 @@
 #include "KXParameterEntry.h"
 #include "platform/qt/AboutBox.h"
 #include "platform/qt/AllUnitsWindow.h"
+#include "platform/qt/DiagnosisWindow.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
 #include "platform/qt/PixelAlignedFrame.h"
@@ -142,6 +143,23 @@ void MainWindow::disconnectActions() {
     _controls->editParameterTableView.setDataSource(nullptr);
 }
 
+void MainWindow::setDiagnosis(KXDiagnosis* diagnosis, std::function<void()> openHelp) {
+    _details.reset();
+    _diagnosis = diagnosis;
+    _openHelpOfDetails = std::move(openHelp);
+    _ui->detailsButton->setVisible(_diagnosis != nullptr && !_ui->discoveryLine->isHidden());
+}
+
+void MainWindow::showDetails() {
+    if (_diagnosis == nullptr) {
+        return;
+    }
+    if (_details == nullptr) {
+        _details = std::make_unique<DiagnosisWindow>(*_diagnosis, _openHelpOfDetails);
+    }
+    _details->showAndAsk();
+}
+
 const WindowDelegate* MainWindow::windowDelegate() const {
     return _controller;
 }
@@ -152,6 +170,12 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (popUp != nullptr && event->type() == QEvent::Wheel && !popUp->hasFocus()) {
         event->ignore();
         return true;
+    }
+    // The link belongs to the line beside it.
+    if (watched == _ui->discoveryLine &&
+        (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
+        _ui->detailsButton->setVisible(_diagnosis != nullptr &&
+                                       event->type() == QEvent::ShowToParent);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -200,6 +224,8 @@ void MainWindow::connectButtons() {
     connectButton(_ui->restoreButton, &KXConfigAppDelegate::restoreDefaultSettings);
     connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
     connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
+    connect(_ui->detailsButton, &QPushButton::clicked, this, &MainWindow::showDetails);
+    _ui->discoveryLine->installEventFilter(this);
 }
 
 void MainWindow::connectPopUps() {

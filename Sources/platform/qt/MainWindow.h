@@ -22,7 +22,9 @@ namespace kx {
 
 class AllUnitsWindow;
 class FindBar;
+class DiagnosisWindow;
 class KXConfigAppDelegate;
+class KXDiagnosis;
 
 namespace Ui {
 class MainWindow;
@@ -44,6 +46,11 @@ public:
 
     // After this, nothing reaches the controller.
     void disconnectActions();
+
+    // The link Details… stands beside the line below Discover after this. It opens the window with
+    // the checks, whose Help calls `openHelp`. The diagnosis must outlive this window, or be taken
+    // away with null.
+    void setDiagnosis(KXDiagnosis* diagnosis, std::function<void()> openHelp);
 
     // The controller, while it is connected.
     const WindowDelegate* windowDelegate() const override;
@@ -70,11 +77,15 @@ private:
     void perform(Action action);
     void showAllUnits();
     void showUnit(std::string_view serial);
+    void showDetails();
     void findInLog(void (FindBar::*step)());
     void drawerDidChange(DrawerState state);
 
     std::unique_ptr<Ui::MainWindow> _ui;
     std::unique_ptr<Controls> _controls;
+    KXDiagnosis* _diagnosis = nullptr;
+    std::function<void()> _openHelpOfDetails;
+    std::unique_ptr<DiagnosisWindow> _details; // null until it is first opened
     KXConfigAppDelegate* _controller = nullptr;
     std::deque<Action> _actions; // the running action, and the ones asked for since
     std::unique_ptr<AllUnitsWindow> _allUnitsWindow; // null until it is first opened

@@ -279,7 +279,7 @@ class Check(Test):
 class CommandLine(Test):
     def test_every_command_has_help_with_an_example(self):
         for words in ([], ["interfaces"], ["discover"], ["show"], ["set"], ["option"], ["restore"],
-                      ["watch"], ["check"]):
+                      ["watch"], ["check"], ["diagnose"]):
             result = kxctl(*words, "--help")
             self.assertEnds(result, 0)
             self.assertRegex(result.out, r"Examples?:")

@@ -1,0 +1,170 @@
+// The link beside the line below Discover, and the window with the checks that it opens.
+
+#include "platform/qt/DiagnosisWindow.h"
+
+#include "MainWindowFixture.h"
+#include "core/conversation/DiagnosisSamples.h"
+#include "doubles/ScriptedDiagnosticSockets.h"
+#include "doubles/ScriptedHostDiagnostics.h"
+#include "doubles/ScriptedNeighbours.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTableWidget>
+
+namespace kx {
+
+namespace {
+
+class OneInterface final : public HostInterfaces {
+public:
+    std::vector<HostInterface> list() override { return {sampleInterface()}; }
+};
+
+class DiagnosisWindowTest : public MainWindowTest {
+protected:
+    DiagnosisWindowTest() {
+        window.setDiagnosis(&diagnosis, [this] { ++helps; });
+    }
+    ~DiagnosisWindowTest() override { window.setDiagnosis(nullptr, {}); }
+
+    void say(const char* text) { window.outlets().discoveryLine->setStringValue(text); }
+
+    // The window with the checks; null while there is none to see.
+    static QWidget* details() {
+        for (QWidget* const each : QApplication::topLevelWidgets()) {
+            if (each->objectName() == "diagnosisWindow" && each->isVisible()) {
+                return each;
+            }
+        }
+        return nullptr;
+    }
+
+    template<class Part>
+    static Part& part(const char* name) {
+        return *details()->findChild<Part*>(name);
+    }
+
+    void openDetails() {
+        say("No unit answered.");
+        click("detailsButton");
+    }
+
+    int helps = 0;
+    ScriptedDiagnosticSockets sockets;
+    ScriptedHostDiagnostics host;
+    ScriptedNeighbours neighbours;
+    OneInterface hostInterfaces;
+    ListenerWitness witness{systemCalls};
+    KXDiagnosis diagnosis{{.runLoop = runLoop,
+                           .now = [this] { return runLoop.now(); },
+                           .witness = witness,
+                           .systemCalls = systemCalls,
+                           .sockets = sockets,
+                           .host = host,
+                           .neighbours = neighbours,
+                           .interfaces = hostInterfaces}};
+};
+
+} // namespace
+
+TEST_F(DiagnosisWindowTest, TheLinkComesAndGoesWithTheLine) {
+    launchWithTwoUnits();
+    auto& link = control<QPushButton>("detailsButton");
+    EXPECT_FALSE(link.isVisible());
+    say("No unit answered.");
+    EXPECT_TRUE(link.isVisible());
+    say("");
+    EXPECT_FALSE(link.isVisible());
+}
+
+TEST_F(DiagnosisWindowTest, WithoutADiagnosisThereIsNoLink) {
+    window.setDiagnosis(nullptr, {});
+    launchWithTwoUnits();
+    say("No unit answered.");
+    EXPECT_FALSE(control<QPushButton>("detailsButton").isVisible());
+}
+
+TEST_F(DiagnosisWindowTest, NothingIsAskedBeforeItIsOpened) {
+    launchWithTwoUnits();
+    say("No unit answered.");
+    EXPECT_TRUE(sockets.sent.empty());
+}
+
+TEST_F(DiagnosisWindowTest, ItAsksWhenItOpensAndAgainByItsButton) {
+    launchWithTwoUnits();
+    const std::string logBefore = controller.eventLog();
+    openDetails();
+    ASSERT_NE(details(), nullptr);
+    EXPECT_FALSE(part<QPushButton>("askAgainButton").isEnabled());
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_TRUE(part<QPushButton>("askAgainButton").isEnabled());
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    ASSERT_EQ(table.rowCount(), 14);
+    EXPECT_EQ(table.item(0, 0)->text(), "Link");
+    EXPECT_EQ(table.item(0, 1)->text(), "✓ Fine");
+    const auto sent = sockets.sent.size();
+    EXPECT_GT(sent, 0U);
+    QTest::mouseClick(&part<QPushButton>("askAgainButton"), Qt::LeftButton);
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_EQ(sockets.sent.size(), 2 * sent);
+    EXPECT_EQ(controller.eventLog(), logBefore);
+}
+
+TEST_F(DiagnosisWindowTest, AFailedCheckHasASignAWordAndAdvice) {
+    launch();
+    openDetails();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    int fails = 0;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        fails += table.item(row, 1)->text() == "✗ Fails" ? 1 : 0;
+    }
+    EXPECT_EQ(fails == 0, diagnosis.report().causes.empty());
+    EXPECT_FALSE(part<QLabel>("diagnosisHeading").text().isEmpty());
+}
+
+TEST_F(DiagnosisWindowTest, ItIsCopiedAsText) {
+    launchWithTwoUnits();
+    openDetails();
+    EXPECT_FALSE(part<QPushButton>("copyChecksButton").isEnabled()) << "there is nothing yet";
+    runLoop.advanceBy(std::chrono::seconds(1));
+    QTest::mouseClick(&part<QPushButton>("copyChecksButton"), Qt::LeftButton);
+    EXPECT_EQ(QApplication::clipboard()->text().toStdString(), diagnosis.text());
+    EXPECT_TRUE(QApplication::clipboard()->text().contains("Link\tFine\t"));
+}
+
+TEST_F(DiagnosisWindowTest, HelpOpensAndEscapeClosesAndNothingGoesOn) {
+    launchWithTwoUnits();
+    openDetails();
+    QTest::mouseClick(&part<QPushButton>("detailsHelpButton"), Qt::LeftButton);
+    EXPECT_EQ(helps, 1);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(details()));
+    QTest::keyClick(details(), Qt::Key_Escape);
+    EXPECT_EQ(details(), nullptr);
+    EXPECT_FALSE(diagnosis.isAsking());
+    const auto sent = sockets.sent.size();
+    runLoop.advanceBy(std::chrono::seconds(2));
+    EXPECT_EQ(sockets.sent.size(), sent);
+}
+
+TEST_F(DiagnosisWindowTest, TheMainWindowStaysUsable) {
+    launchWithTwoUnits();
+    openDetails();
+    EXPECT_FALSE(details()->isModal());
+    click("reloadButton");
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_NE(details(), nullptr);
+}
+
+TEST_F(DiagnosisWindowTest, ItIsReachedByTheKeyboard) {
+    launchWithTwoUnits();
+    say("No unit answered.");
+    control<QPushButton>("discoverButton").setFocus();
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(control<QPushButton>("detailsButton").hasFocus());
+    press(Qt::Key_Return);
+    EXPECT_NE(details(), nullptr);
+}
+
+} // namespace kx
