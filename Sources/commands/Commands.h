@@ -16,5 +16,6 @@ int runOption(CommandRun& run);
 int runRestore(CommandRun& run);
 int runWatch(CommandRun& run);
 int runCheck(CommandRun& run);
+int runCompare(CommandRun& run);
 
 } // namespace kx

@@ -31,15 +31,6 @@ std::string bytesOfUnitID(const HeardUnit& unit) {
     return unit.unitIDBytes.has_value() ? hexStringForData(*unit.unitIDBytes, "") : std::string();
 }
 
-// A unit ID that is no text is shown by its bytes.
-std::string shownValue(const HeardUnit& unit, UnitParameter parameter) {
-    if (parameter != UnitParameter::unitID) {
-        return std::string(unit.record.value(parameter).value_or(std::string_view()));
-    }
-    const auto text = unitIDText(unit.record);
-    return text.has_value() ? std::string(*text) : bytesOfUnitID(unit);
-}
-
 bool hasOnlyVisibleCharacters(std::string_view text) {
     return visibleText(text) == text;
 }
@@ -58,6 +49,14 @@ std::string csvValue(const HeardUnit& unit, UnitParameter parameter) {
 }
 
 } // namespace
+
+std::string shownValue(const HeardUnit& unit, UnitParameter parameter) {
+    if (parameter != UnitParameter::unitID) {
+        return std::string(unit.record.value(parameter).value_or(std::string_view()));
+    }
+    const auto text = unitIDText(unit.record);
+    return text.has_value() ? std::string(*text) : bytesOfUnitID(unit);
+}
 
 std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces,
                          bool isBold) {

@@ -14,6 +14,10 @@ namespace kx {
 
 using UnitList = std::vector<const HeardUnit*>;
 
+// What a unit tells, as a text; empty when it does not tell it. A unit ID that is no text is shown
+// by its bytes.
+std::string shownValue(const HeardUnit& unit, UnitParameter parameter);
+
 // One line for each unit.
 std::string tableOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces,
                          bool isBold);
