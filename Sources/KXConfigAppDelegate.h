@@ -19,6 +19,7 @@
 #include "System Configuration/NetworkInterfaces.h"
 #include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
+#include "conversation/DiscoveryFacts.h"
 #include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
 #include "conversation/InterfaceAddress.h"
@@ -82,6 +83,10 @@ public:
 
         // May be null. Nobody looks then on which link an ARP entry stands.
         NeighbourTable* neighbours = nullptr;
+
+        // The likeliest reason why no unit has answered, as a sentence; absent when it is not known.
+        // Asked at the end of a discovery that nobody answered. It must send nothing. May be empty.
+        std::function<std::optional<std::string>()> likeliestCause = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -252,9 +257,19 @@ private:
     void requestParametersAfterRestore();
     void requestParametersOwed();
 
-    void beginFindings();
-    void showFindings();
     void discoverComplete();
+
+    // --- The line below Discover (KXConfigAppDelegate_DiscoveryLine.cpp) ---
+
+    void beginDiscovery(std::uint16_t port);
+    void discoveryDidAsk(const Everybody& asked, const std::optional<SendFailure>& failure);
+    void endDiscovery();
+    DiscoveryFacts discoveryFacts() const;
+    void showDiscoveryLine();
+    void showDiscoveryLineSoon(); // once for all calls of a tenth of a second
+    void showDueDiscoveryLine();
+    void dimSilentUnits();
+
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
@@ -301,6 +316,11 @@ private:
     RequestPace _requestPace;
     std::optional<std::string> _acceptedSince; // selected unit whose request is owed
     DiscoveryFindings _findings;
+    DiscoveryFacts _discovery;             // facts that discoveryFacts() does not look up
+    std::optional<Everybody> _askedBefore; // absent when nothing can be compared with that discovery
+    int _discoveriesUnderWay = 0;          // two when Discover was pressed twice
+    std::size_t _answeredBefore = 0;       // the number of units that have answered, as told last
+    bool _isDiscoveryLineDue = false;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::shared_ptr<Authorization> _auth;              // null until an ARP entry is written

@@ -95,15 +95,18 @@ void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
     const Everybody all = everybody();
-    sendRequest(parameterRequestCommand,
-                {.address = all.address, .port = defaultUnitPort, .link = all.link});
+    discoveryDidAsk(all, sendRequest(parameterRequestCommand, {.address = all.address,
+                                                               .port = defaultUnitPort,
+                                                               .link = all.link}));
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
+    _discovery.requestFailure = reason;
     appendString(entryOfRefusedBroadcast(reason));
 }
 
 void KXConfigAppDelegate::sessionDidStop(const Error& error) {
+    _discovery.listenerError = error;
     appendString(entryOfStop());
     appendString(reasonInEntry(error));
 }
@@ -123,7 +126,11 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DatagramOrigin& origin) {
     const bool areNew = _findings.unitDidTell(parameters.record, origin);
     if (_findings.setForgottenUnits(_devicesD.forgottenUnits()) || areNew) {
-        showFindings();
+        showDiscoveryLine();
+    }
+    const std::size_t answered = _devicesD.round().answered;
+    if (answered != std::exchange(_answeredBefore, answered)) {
+        showDiscoveryLineSoon();
     }
     compareReply(reply, origin);
     appendString(entryOfReply(reply, unitParameters(parameters)));
@@ -131,7 +138,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
 
 void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
     if (reply.serialNumber.has_value() && _findings.replyDidCome(*reply.serialNumber, origin)) {
-        showFindings();
+        showDiscoveryLine();
     }
 }
 
@@ -195,7 +202,7 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
     _findings.setDropped(datagrams);
-    showFindings();
+    showDiscoveryLine();
 }
 
 // --- The endpoint's events ---

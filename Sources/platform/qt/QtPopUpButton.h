@@ -12,7 +12,9 @@
 
 #include <QComboBox>
 #include <QProxyStyle>
+#include <functional>
 #include <memory>
+#include <string_view>
 #include <unordered_map>
 
 namespace kx {
@@ -30,15 +32,22 @@ public:
     void selectItemWithTitle(std::string_view title) override;
     std::optional<std::string> titleOfSelectedItem() const override;
     void setEnabled(bool enabled) override;
+    void setDimming(std::function<bool(std::string_view title)> isDimmed,
+                    std::string_view description) override;
+    void refreshDimming() override;
 
 private:
     int indexOf(std::string_view title) const;
     void showTitles(TitleList titles, bool areAscending, std::string_view selected);
     void prepareForLongList();
+    void useOwnStyle();
+    void describeSelectedTitle();
 
     QComboBox& _comboBox;
     TitleListModel _model;
-    std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
+    QMetaObject::Connection _selection;
+    std::unique_ptr<QProxyStyle> _ownStyle; // absent until it is needed
+    bool _hasLongList = false;              // a long list was shown
 
     bool _isAscending = true;
     std::unordered_map<std::string_view, int> _indexOfTitle; // empty while titles are ascending
