@@ -104,15 +104,14 @@ std::string textOfSilentUnits(const DiscoveryFacts& facts) {
     }
 }
 
-std::string textOfAdded(const RoundTally::Units& units) {
-    switch (units.count) {
-    case 0:
+// Where all are new, that goes without saying.
+std::string textOfAdded(const RoundTally& units) {
+    if (units.added.count == 0 || units.added.count == units.answered) {
         return {};
-    case 1:
-        return localizedText("%@ is new.", {units.latest});
-    default:
-        return localizedText("%d are new.", {number(units.count)});
     }
+    return units.added.count == 1
+               ? localizedText("%@ is new.", {units.added.latest})
+               : localizedText("%d are new.", {number(units.added.count)});
 }
 
 std::string textOfChanged(const RoundTally::Units& units) {
@@ -143,7 +142,7 @@ std::string textOfDifferences(const DiscoveryFacts& facts) {
         return textOfChanged(facts.units.changed);
     }
     return joined({textOfSilentUnits(facts), textOfChanged(facts.units.changed),
-                   textOfAdded(facts.units.added), textOfBack(facts.units.back)});
+                   textOfAdded(facts.units), textOfBack(facts.units.back)});
 }
 
 } // namespace

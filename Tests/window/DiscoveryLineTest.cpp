@@ -35,6 +35,8 @@ private:
 } // namespace
 
 TEST_F(DiscoveryLineTest, TakesNoPlaceWhileThereIsNothingToSay) {
+    EXPECT_EQ(line().text(), "2 units answered. No interface is chosen: asked 255.255.255.255.");
+    say("");
     EXPECT_FALSE(line().isVisible());
     const QRect unitsBefore = placeOf("unitSelectPopUp");
     say(text);
