@@ -22,7 +22,9 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
     , _requestPace(services.runLoop, [this] { requestParametersOwed(); })
     , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); }) {}
 
-KXConfigAppDelegate::~KXConfigAppDelegate() = default;
+KXConfigAppDelegate::~KXConfigAppDelegate() {
+    _outlets.unitSelectPopUp->setDimming({}, {});
+}
 
 void KXConfigAppDelegate::applicationDidFinishLaunching() {
     localAddress = 0;
@@ -44,13 +46,18 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _textBeingTyped.reset();
     _quietLine.showForecast({});
     _shownTarget.reset();
+    _discovery = {};
+    _discoveriesUnderWay = 0;
+    dimSilentUnits();
     discoverButton();
     optionCommandPopUp();
 }
 
 void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
+    _isDiscoveryLineDue = false;
     _requestPace.reset();
+    _outlets.unitSelectPopUp->setDimming({}, {});
     logText.clear();
     _session.stop();
     _devicesD.clear();

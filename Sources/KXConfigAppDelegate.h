@@ -20,6 +20,7 @@
 #include "conversation/AllUnits.h"
 #include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
+#include "conversation/DiscoveryFacts.h"
 #include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
 #include "conversation/InterfaceAddress.h"
@@ -269,9 +270,19 @@ private:
     void requestParametersAfterRestore();
     void requestParametersOwed();
 
-    void beginFindings();
-    void showFindings();
     void discoverComplete();
+
+    // --- The line below Discover (KXConfigAppDelegate_DiscoveryLine.cpp) ---
+
+    void beginDiscovery(std::uint16_t port);
+    void discoveryDidAsk(const Everybody& asked, const std::optional<SendFailure>& failure);
+    void endDiscovery();
+    DiscoveryFacts discoveryFacts() const;
+    void showDiscoveryLine();
+    void showDiscoveryLineSoon(); // once for all calls of a tenth of a second
+    void showDueDiscoveryLine();
+    void dimSilentUnits();
+
     void showSelectedUnit();
     void setSelectedUnit(const std::optional<std::string>& key);
 
@@ -319,6 +330,12 @@ private:
     RequestPace _requestPace;
     std::optional<std::string> _acceptedSince; // selected unit whose request is owed
     DiscoveryFindings _findings;
+    DiscoveryFacts _discovery; // facts that discoveryFacts() does not look up
+    std::optional<Everybody>
+        _askedBefore;                // absent when nothing can be compared with that discovery
+    int _discoveriesUnderWay = 0;    // two when Discover was pressed twice
+    std::size_t _answeredBefore = 0; // the number of units that have answered, as told last
+    bool _isDiscoveryLineDue = false;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end
     std::shared_ptr<Authorization> _auth;              // null until an ARP entry is written

@@ -2,7 +2,6 @@
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
 #include "words/EventLogEntries.h"
-#include "words/FindingText.h"
 #include "words/SendFailureText.h"
 
 #include <utility>
@@ -17,34 +16,13 @@ void KXConfigAppDelegate::discoverButton() {
     _outlets.logTextView->setString(logText);
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
-    beginFindings();
+    beginDiscovery(static_cast<std::uint16_t>(port));
     lookAtTarget();
     _allUnits.discoveryDidBegin();
     _session.start(static_cast<std::size_t>(port));
+    showDiscoveryLine();
     _quietLine.endMessage(forecast());
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
-}
-
-// Address and mask of the chosen interface stay as they were at the choice, and nothing tells when
-// they change. So each discovery looks.
-void KXConfigAppDelegate::beginFindings() {
-    const auto chosen = chosenInterface();
-    std::optional<InterfaceFinding> fault;
-    if (chosen.has_value() && _services.networkInterfaces != nullptr) {
-        const bool exists = _session.linkForName(chosen->name) != noSuchLink;
-        fault = faultOfInterface(*_services.networkInterfaces, *chosen, exists);
-    }
-    _findings.begin(std::move(fault), _devicesD.forgottenUnits());
-    showFindings();
-}
-
-void KXConfigAppDelegate::showFindings() {
-    const auto finding = _findings.weightiest();
-    const auto nameOfLink = [this](std::uint32_t link) {
-        return _services.systemCalls.nameForLink(link);
-    };
-    _outlets.discoveryLine->setStringValue(finding.has_value() ? textOfFinding(*finding, nameOfLink)
-                                                               : "");
 }
 
 void KXConfigAppDelegate::discoverComplete() {
@@ -57,6 +35,7 @@ void KXConfigAppDelegate::discoverComplete() {
     }
     showSelectedUnit();
     lookAtTarget();
+    endDiscovery();
 }
 
 void KXConfigAppDelegate::unitSelectPopUp() {

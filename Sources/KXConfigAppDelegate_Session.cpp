@@ -104,13 +104,16 @@ void KXConfigAppDelegate::sessionCanBroadcast() {
     if (!failure.has_value()) {
         _allUnits.everybodyWasAsked(all.link);
     }
+    discoveryDidAsk(all, failure);
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {
+    _discovery.requestFailure = reason;
     appendString(entryOfRefusedBroadcast(reason));
 }
 
 void KXConfigAppDelegate::sessionDidStop(const Error& error) {
+    _discovery.listenerError = error;
     appendString(entryOfStop());
     appendString(reasonInEntry(error));
 }
@@ -130,7 +133,11 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
                                                 const DatagramOrigin& origin) {
     const bool areNew = _findings.unitDidTell(parameters.record, origin);
     if (_findings.setForgottenUnits(_devicesD.forgottenUnits()) || areNew) {
-        showFindings();
+        showDiscoveryLine();
+    }
+    const std::size_t answered = _devicesD.round().answered;
+    if (answered != std::exchange(_answeredBefore, answered)) {
+        showDiscoveryLineSoon();
     }
     compareReply(reply, origin);
     rememberUnit(parameters, origin);
@@ -139,7 +146,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
 
 void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
     if (reply.serialNumber.has_value() && _findings.replyDidCome(*reply.serialNumber, origin)) {
-        showFindings();
+        showDiscoveryLine();
     }
 }
 
@@ -205,7 +212,7 @@ void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
 
 void KXConfigAppDelegate::sessionDidDrop(std::uint32_t datagrams) {
     _findings.setDropped(datagrams);
-    showFindings();
+    showDiscoveryLine();
 }
 
 // --- The endpoint's events ---

@@ -14,6 +14,7 @@
 #include "support/TitleList.h"
 #include "words/LogText.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -44,6 +45,15 @@ public:
     virtual std::optional<std::string> titleOfSelectedItem() const = 0;
 
     virtual void setEnabled(bool enabled) = 0;
+
+    // Titles for which `isDimmed` is true are drawn fainter, and a screen reader reads the
+    // description with them. The function is asked whenever a title is drawn or read, until another
+    // one is set; it must be quick and change nothing. An empty one dims nothing.
+    virtual void setDimming(std::function<bool(std::string_view title)> isDimmed,
+                            std::string_view description) = 0;
+
+    // The results of that function may have changed.
+    virtual void refreshDimming() = 0;
 };
 
 class Button {
@@ -152,7 +162,7 @@ struct MainWindowOutlets {
     Window* window = nullptr;
     PopUpButton* interfacePopUp = nullptr;
     PopUpButton* udpPortPopUp = nullptr;
-    TextLabel* discoveryLine = nullptr; // says the weightiest finding of the latest discovery
+    TextLabel* discoveryLine = nullptr; // says the weightiest thing about the latest discovery
     PopUpButton* unitSelectPopUp = nullptr;
     TextField* unitIDField = nullptr;
     Button* reloadButton = nullptr;

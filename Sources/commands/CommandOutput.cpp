@@ -121,7 +121,7 @@ std::string CommandRun::documentText(std::optional<Failure>& failure, int exitSt
     if (_savedDocument == nullptr) {
         return wantsDocument() ? text() : std::string();
     }
-    const auto error = _savedDocument->write(text());
+    const auto error = _savedDocument->replaceBy(text());
     if (error.has_value() && !isInterrupted()) {
         failure =
             Failure{ErrorCode::file, sentenceOfFile(_savedDocument->path(), *error), exitCannotAsk};

@@ -209,7 +209,7 @@ CommandRun::Refusal CommandRun::lookAtCapture() {
         return std::nullopt;
     }
     _captureFile = std::make_unique<OutputFile>(*path);
-    return objectionToFile(*_captureFile);
+    return refusalOfFile(*_captureFile, _captureFile->look());
 }
 
 void CommandRun::openCapture() {
@@ -234,8 +234,8 @@ void CommandRun::openCapture() {
                                                                       .ownAddress = ownAddress});
 }
 
-CommandRun::Refusal CommandRun::objectionToFile(OutputFile& file) {
-    const auto error = file.look();
+CommandRun::Refusal CommandRun::refusalOfFile(const OutputFile& file,
+                                              const std::optional<Error>& error) {
     return error.has_value()
                ? Refusal(failureOf(ErrorCode::file, sentenceOfFile(file.path(), *error)))
                : std::nullopt;

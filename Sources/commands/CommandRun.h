@@ -118,10 +118,10 @@ public:
     // Reads the names of units, or says which word is none.
     Refusal readNames(const std::vector<std::string>& words, std::vector<UnitName>& names) const;
 
-    // Whether a file can be written, before anything is sent.
-    static Refusal objectionToFile(OutputFile& file);
+    // Why a file cannot be written, for a refusal before anything is sent.
+    static Refusal refusalOfFile(const OutputFile& file, const std::optional<Error>& error);
 
-    // Writes the document to this file too, at the end.
+    // The document becomes the contents of this file too, at the end.
     void saveDocument(std::unique_ptr<OutputFile> file) { _savedDocument = std::move(file); }
 
     // Writes data to standard output, unless the document is wanted.

@@ -37,7 +37,12 @@ constexpr std::array discoverOptions{
     OptionRow{"--limited", "", ValueKind::none,
               "also ask 255.255.255.255, which reaches units of other subnets on the link"},
     OptionRow{"--csv", "", ValueKind::none, "print comma-separated values"},
-    OptionRow{"--save", "FILE", ValueKind::file, "write the JSON document to a file too"},
+    OptionRow{"--save", "FILE", ValueKind::file,
+              "save the JSON document in a file too; where no unit has answered, a file that is "
+              "there stays as it is"},
+    OptionRow{"--compare", "FILE", ValueKind::file,
+              "also tell what is new, missing and changed since a saved discovery; where they "
+              "differ the exit status is 1"},
 };
 constexpr std::array showOptions{
     OptionRow{"--all", "", ValueKind::none, "show every unit that answers"},
@@ -63,9 +68,10 @@ constexpr std::array watchOptions{
 };
 
 constexpr std::array<Text, 2> interfacesExamples{"kxctl interfaces", "kxctl --json interfaces"};
-constexpr std::array<Text, 3> discoverExamples{"kxctl discover -i kx0",
-                                               "kxctl discover --expect 12 --wait 5",
-                                               "kxctl discover --csv > rack.csv"};
+constexpr std::array<Text, 5> discoverExamples{
+    "kxctl discover -i kx0", "kxctl discover --expect 12 --wait 5",
+    "kxctl discover --csv > rack.csv", "kxctl discover --save rack.json",
+    "kxctl discover --compare rack.json --save rack.json"};
 constexpr std::array<Text, 3> showExamples{"kxctl show 4B5800000001", "kxctl show id:RACK7A",
                                            "kxctl show --all --json"};
 constexpr std::array<Text, 2> setExamples{
@@ -80,6 +86,8 @@ constexpr std::array<Text, 2> watchExamples{"kxctl watch --every 5",
 constexpr std::array<Text, 3> diagnoseExamples{"kxctl diagnose", "kxctl diagnose 192.0.2.41",
                                                "kxctl diagnose 4B5800000001 --json"};
 constexpr std::array<Text, 1> checkExamples{"kxctl check 192.0.2.41 192.0.2.42"};
+constexpr std::array<Text, 2> compareExamples{"kxctl compare rack.json",
+                                              "kxctl compare monday.json friday.json"};
 
 constexpr std::array<Text, 1> interfacesKeys{"interfaces"};
 constexpr std::array<Text, 7> discoverKeys{"interface", "port",     "units",   "duplicates",
@@ -89,6 +97,7 @@ constexpr std::array<Text, 1> changesKeys{"changes"};
 constexpr std::array<Text, 1> repliesKeys{"replies"};
 constexpr std::array<Text, 1> addressesKeys{"addresses"};
 constexpr std::array<Text, 2> diagnoseKeys{"checks", "causes"};
+constexpr std::array<Text, 4> compareKeys{"new", "missing", "changed", "same"};
 
 constexpr Text unitText =
     "A unit is named by its serial number, six pairs of hexadecimal digits with blanks, colons, "
@@ -117,6 +126,14 @@ constexpr Text diagnoseText =
     "Meanwhile it listens on all of the four ports that are free. "
     "The exit status is 0 when units answer and no check fails, 1 when a cause was found, and 3 "
     "when none can be named.";
+constexpr Text compareText =
+    "Compares the units that answer now with those of a discovery that \"kxctl discover --save\" "
+    "has written: which are new, which are missing, and which parameters have changed. With two "
+    "files it compares the second one with the first one, and nobody is asked.\n\n"
+    "A unit is called missing only when it was also asked at its last address and did not answer. "
+    "While datagrams are dropped no unit is called missing. Where nothing differs the exit status "
+    "is 0; where something differs, or a unit has not answered and cannot be called missing, it "
+    "is 1.";
 
 constexpr std::array commands{
     CommandRow{"interfaces",
@@ -135,7 +152,10 @@ constexpr std::array commands{
     CommandRow{"discover", "", "list the units that answer a broadcast",
                "Broadcasts a parameter request, collects the answers, and lists the units in the "
                "order of their serial numbers. A serial number under two hardware addresses and an "
-               "address under two serial numbers are warnings.",
+               "address under two serial numbers are warnings.\n\n"
+               "With --compare the units of the file that have not answered are asked at their "
+               "last addresses too. The document then has the key compare. The same file may be "
+               "compared and saved.",
                discoverOptions, discoverExamples, discoverKeys, 0, 0, ValueKind::none, runDiscover},
     CommandRow{"show", "UNIT...", "show every parameter of units", unitText, showOptions,
                showExamples, unitsKeys, 0, anyNumberOfWords, ValueKind::text, runShow},
@@ -190,6 +210,17 @@ constexpr std::array commands{
                1,
                ValueKind::text,
                runDiagnose},
+    CommandRow{"compare",
+               "FILE [FILE]",
+               "tell what is new, missing and changed since a saved discovery",
+               compareText,
+               {},
+               compareExamples,
+               compareKeys,
+               1,
+               2,
+               ValueKind::file,
+               runCompare},
 };
 
 } // namespace

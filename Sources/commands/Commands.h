@@ -17,5 +17,6 @@ int runRestore(CommandRun& run);
 int runWatch(CommandRun& run);
 int runCheck(CommandRun& run);
 int runDiagnose(CommandRun& run);
+int runCompare(CommandRun& run);
 
 } // namespace kx

@@ -134,7 +134,7 @@ std::string bashCompletion() {
         "# Completion of kxctl for bash. Generated from the table of commands.\n\n"
         "_kxctl() {\n"
         "    local word=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD-1]}\n"
-        "    local command='' candidate words i\n"
+        "    local command='' candidate words files='' i\n"
         "    COMPREPLY=()\n"
         "    for ((i = 1; i < COMP_CWORD; i++)); do\n"
         "        for candidate in " +
@@ -160,11 +160,12 @@ std::string bashCompletion() {
         if (row.words == ValueKind::parameter) {
             script += " " + joinedParameters();
         }
-        script += "\" ;;\n";
+        script += row.words == ValueKind::file ? "\"; files=yes ;;\n" : "\" ;;\n";
     }
     script += "        esac\n        words+=\" " + joinedOptions(generalOptions()) +
               "\"\n        ;;\n    esac\n"
-              "    mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$word\")\n"
+              "    mapfile -t COMPREPLY < <(compgen -W \"$words\" -- \"$word\"\n"
+              "        [[ -z $files ]] || compgen -f -- \"$word\")\n"
               "    if [[ ${#COMPREPLY[@]} -eq 1 && ${COMPREPLY[0]} == *= ]]; then\n"
               "        compopt -o nospace\n"
               "    fi\n"
@@ -189,6 +190,8 @@ std::string zshCompletion() {
                   zshOptions(row.options) + zshOptions(generalOptions());
         if (row.words == ValueKind::parameter) {
             script += " \\\n                '*:parameter:(" + joinedParameters() + ")'";
+        } else if (row.words == ValueKind::file) {
+            script += " \\\n                '*:file:_files'";
         }
         script += "\n            ;;\n";
     }
@@ -210,6 +213,8 @@ std::string fishCompletion() {
         if (row.words == ValueKind::parameter) {
             script += "complete -c kxctl -n " + quoted(condition) + " -a " +
                       quoted(joinedParameters()) + "\n";
+        } else if (row.words == ValueKind::file) {
+            script += "complete -c kxctl -n " + quoted(condition) + " -F\n";
         }
     }
     return script;

@@ -2,10 +2,12 @@
 
 #include "commands/CommandRun.h"
 #include "commands/Commands.h"
+#include "commands/SavedComparison.h"
 #include "commands/UnitTables.h"
 #include "conversation/UnitDestination.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
+#include "words/QuotedText.h"
 
 #include <memory>
 
@@ -18,8 +20,25 @@ using Refusal = CommandRun::Refusal;
 struct DiscoverOptions {
     DiscoveryPlan plan;
     std::optional<std::int32_t> expected;
-    std::unique_ptr<OutputFile> file; // null when the document is not saved
+    std::unique_ptr<OutputFile> file;      // null when the document is not saved
+    std::optional<DiscoveryFile> baseline; // absent when nothing is compared
 };
+
+// The file with which the units are compared may be the one that is replaced afterwards.
+Refusal readFiles(CommandRun& run, DiscoverOptions& options) {
+    if (const auto path = run.line().valueOf("--compare")) {
+        run.document()["compare"] = nullptr;
+        options.baseline.emplace();
+        if (auto refusal = readDiscovery(*path, *options.baseline)) {
+            return refusal;
+        }
+    }
+    if (const auto path = run.line().valueOf("--save")) {
+        options.file = std::make_unique<OutputFile>(*path);
+        return CommandRun::refusalOfFile(*options.file, options.file->lookForReplacement());
+    }
+    return std::nullopt;
+}
 
 Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
     const TimeOption wait = secondsOf(line, "--wait");
@@ -41,12 +60,7 @@ Refusal readOptions(const CommandLine& line, DiscoverOptions& options) {
                           {static_cast<int>(*tries.number)}));
     }
     options.expected = expected.number;
-    const auto path = line.valueOf("--save");
-    if (!path.has_value()) {
-        return std::nullopt;
-    }
-    options.file = std::make_unique<OutputFile>(*path);
-    return CommandRun::objectionToFile(*options.file);
+    return std::nullopt;
 }
 
 void addPlaces(const CommandRun& run, DiscoveryPlan& plan) {
@@ -80,8 +94,7 @@ void warnOfDuplicates(CommandRun& run, const HeardUnits& units) {
     }
 }
 
-void fillDocument(CommandRun& run, const Discovery& discovery) {
-    const HeardUnits& units = discovery.units();
+void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits& units) {
     Document& document = run.document();
     const std::uint32_t dropped = run.exchange().dropped();
     for (const HeardUnit* const unit : units.all()) {
@@ -104,6 +117,34 @@ void fillDocument(CommandRun& run, const Discovery& discovery) {
     }
 }
 
+void printUnits(CommandRun& run, const HeardUnits& units) {
+    if (run.line().has("--csv")) {
+        run.print(csvOfUnits(units.all(), run.interfaces()));
+    } else if (units.count() > 0) {
+        run.print(tableOfUnits(units.all(), run.interfaces(), run.isBold()));
+    }
+}
+
+// The table of differences stands below that of the units, and never within comma-separated values.
+Refusal tellComparison(CommandRun& run, SavedComparison& comparison) {
+    run.document()["compare"] = comparison.json();
+    const std::string table = comparison.table(run.isBold());
+    if (!run.line().has("--csv") && !table.empty()) {
+        run.print((comparison.units().count() > 0 ? "\n" : "") + table);
+    }
+    return comparison.result();
+}
+
+// What was known of units is not given up for the knowledge that none has answered.
+void save(CommandRun& run, std::unique_ptr<OutputFile> file, const HeardUnits& units) {
+    if (file != nullptr && units.count() == 0 && file->isFilled()) {
+        run.warn("kept", localizedText("“%@” stays as it is, because no unit has answered.",
+                                       {safeForSentence(file->path())}));
+    } else {
+        run.saveDocument(std::move(file));
+    }
+}
+
 Refusal resultOf(const HeardUnits& units, const std::optional<std::int32_t>& expected) {
     const auto count = static_cast<long long>(units.count());
     if (expected.has_value() && count < *expected) {
@@ -121,7 +162,8 @@ int runDiscover(CommandRun& run) {
     DiscoverOptions options;
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return readOptions(run.line(), options); },
-             [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); }}) {
+             [&] { return readFiles(run, options); }, [&] { return run.chooseInterfaces(); },
+             [&] { return run.openExchange(); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));
         }
@@ -141,15 +183,21 @@ int runDiscover(CommandRun& run) {
     if (!discovery.hasAsked()) {
         return run.finish(CommandRun::refusalOfSend(discovery.failure()));
     }
-    const HeardUnits& units = discovery.units();
-    fillDocument(run, discovery);
-    if (run.line().has("--csv")) {
-        run.print(csvOfUnits(units.all(), run.interfaces()));
-    } else if (units.count() > 0) {
-        run.print(tableOfUnits(units.all(), run.interfaces(), run.isBold()));
+    std::optional<SavedComparison> comparison;
+    if (options.baseline.has_value()) {
+        comparison.emplace(run, *options.baseline);
+        comparison->compareWithAnswers(discovery.units());
     }
-    run.saveDocument(std::move(options.file));
-    return run.finish(resultOf(units, options.expected));
+    const HeardUnits& units = comparison.has_value() ? comparison->units() : discovery.units();
+    fillDocument(run, discovery, units);
+    printUnits(run, units);
+    Refusal result = resultOf(units, options.expected);
+    if (comparison.has_value()) {
+        auto refusal = tellComparison(run, *comparison);
+        result = result.has_value() ? std::move(result) : std::move(refusal);
+    }
+    save(run, std::move(options.file), units);
+    return run.finish(std::move(result));
 }
 
 } // namespace kx

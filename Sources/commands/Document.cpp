@@ -9,7 +9,7 @@ Json emptyValue(std::string_view key) {
     if (key == "interface" || key == "port") {
         return nullptr;
     }
-    if (key == "dropped" || key == "rejected") {
+    if (key == "dropped" || key == "rejected" || key == "same") {
         return 0;
     }
     if (key == "complete") {

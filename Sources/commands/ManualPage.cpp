@@ -127,8 +127,8 @@ those of the command. JSON Schemas are installed in /usr/share/kxconfig/json\-sc
 Done as asked, and verified by what the unit shows.
 .TP
 .B 1
-Asked properly, and the answer is no: no unit, fewer than expected, an address is
-held, a unit did not take a value.
+Asked properly, and the answer is no: no unit, fewer than expected, the units differ
+from a saved discovery, an address is held, a unit did not take a value.
 .TP
 .B 2
 A wrong command line, value or file; nothing was sent.

@@ -1,5 +1,7 @@
 #include "commands/OutputFile.h"
 
+#include "files/WholeFile.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -39,6 +41,29 @@ std::optional<Error> OutputFile::look() {
     }
     // A pipe that is opened twice ends for its reader in between.
     return S_ISREG(status.st_mode) ? objectionToWriting(_path) : open();
+}
+
+std::optional<Error> OutputFile::lookForReplacement() {
+    return isReplaceable() ? objectionToReplacing(_path) : look();
+}
+
+std::optional<Error> OutputFile::replaceBy(std::string_view text) {
+    if (!isReplaceable()) {
+        return write(text);
+    }
+    _error = replaceFile(_path, text);
+    return _error;
+}
+
+bool OutputFile::isFilled() const {
+    struct stat status {};
+    return ::stat(_path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
+}
+
+// A folder is told by look(), as is a path through something that is none.
+bool OutputFile::isReplaceable() const {
+    struct stat status {};
+    return ::stat(_path.c_str(), &status) == 0 ? S_ISREG(status.st_mode) : errno == ENOENT;
 }
 
 std::optional<Error> OutputFile::open() {

@@ -31,11 +31,23 @@ public:
     // Absent when all was written. After a failure nothing more is written.
     std::optional<Error> write(std::string_view text);
 
+    // The same for replaceBy(), which also needs a folder that takes a new file.
+    std::optional<Error> lookForReplacement();
+
+    // The file holds this text and nothing else afterwards. A regular file, or one that is not
+    // there yet, is written beside it and then gets its name (files/WholeFile.h); a pipe or a
+    // device is written to. Absent when all was written.
+    std::optional<Error> replaceBy(std::string_view text);
+
+    // Whether there is a file with contents that replaceBy() would replace.
+    bool isFilled() const;
+
     // Why writing failed; absent while it has not.
     const std::optional<Error>& error() const { return _error; }
 
 private:
     std::optional<Error> open();
+    bool isReplaceable() const;
 
     std::string _path;
     int _descriptor = -1;

@@ -26,6 +26,8 @@ public:
     // The number of datagrams that the system has dropped since the beginning.
     void setDropped(std::uint32_t datagrams) { _dropped = datagrams; }
 
+    bool hasDropped() const { return _dropped != 0; }
+
     // The present UnitRegistry::forgottenUnits(). Returns whether the first unit since the
     // beginning was forgotten.
     bool setForgottenUnits(std::uint64_t forgottenUnits);

@@ -7,6 +7,7 @@ void UnitRegistry::clear() {
     _newest = nullptr;
     _serialNumbers.clear();
     _withdrawnAddresses.clear();
+    _tally = {};
 }
 
 bool UnitRegistry::store(const UnitRecord& record) {
@@ -15,11 +16,12 @@ bool UnitRegistry::store(const UnitRecord& record) {
         return false;
     }
     const auto [unit, isNew] = _records.try_emplace(std::string(*serial));
-    static_cast<UnitRecord&>(unit->second) = record;
     if (isNew) {
         unit->second.serial = &unit->first;
         _serialNumbers.add(unit->first);
     }
+    countAnswer(unit->second, isNew, record);
+    static_cast<UnitRecord&>(unit->second) = record;
     hear(unit->second);
     if (!_withdrawnAddresses.empty()) {
         _withdrawnAddresses.erase(unit->first);
@@ -28,6 +30,65 @@ bool UnitRegistry::store(const UnitRecord& record) {
         forgetOldest();
     }
     return true;
+}
+
+void UnitRegistry::beginRound() {
+    ++_round;
+    const std::size_t answered = _tally.answered;
+    _tally = {};
+    _tally.silent = answered;
+}
+
+void UnitRegistry::countAnswer(Unit& unit, bool isNew, const UnitRecord& record) {
+    const std::uint32_t before = std::exchange(unit.round, _round);
+    if (before == _round) {
+        return;
+    }
+    const auto count = [&unit](RoundTally::Units& units) {
+        ++units.count;
+        units.latest = *unit.serial;
+    };
+    ++_tally.answered;
+    if (isNew) {
+        count(_tally.added);
+        return;
+    }
+    if (before + 1 == _round) {
+        --_tally.silent;
+    } else {
+        count(_tally.back);
+    }
+    if (!tellsTheSame(unit, record)) {
+        count(_tally.changed);
+    }
+}
+
+// A unit that has not moved to its new address tells the one that was withdrawn.
+bool UnitRegistry::tellsTheSame(const Unit& unit, const UnitRecord& record) const {
+    const auto withdrawn = _withdrawnAddresses.find(*unit.serial);
+    if (withdrawn == _withdrawnAddresses.end()) {
+        return unit == record;
+    }
+    UnitRecord told = unit;
+    told.setValue(UnitParameter::internalIPAddress, withdrawn->second);
+    return told == record;
+}
+
+bool UnitRegistry::hasAnswered(std::string_view serial) const {
+    const auto found = _records.find(serial);
+    return found != _records.end() && found->second.round == _round;
+}
+
+// The ring is in the order in which units were heard, so those of this round are its newest part.
+std::optional<std::string> UnitRegistry::silentUnit() const {
+    if (_tally.silent == 0) {
+        return std::nullopt;
+    }
+    const Unit* unit = _newest->newer;
+    while (unit->round + 1 != _round && unit != _newest) {
+        unit = unit->newer;
+    }
+    return *unit->serial;
 }
 
 // Never called for the newest unit, which stays where it is.
@@ -61,6 +122,11 @@ void UnitRegistry::forgetOldest() {
         oldest = oldest->newer;
     }
     leaveRing(*oldest);
+    if (oldest->round == _round) {
+        --_tally.answered;
+    } else if (oldest->round + 1 == _round) {
+        --_tally.silent;
+    }
     const auto forgotten = _records.find(*oldest->serial);
     _serialNumbers.remove(forgotten->first);
     _withdrawnAddresses.erase(forgotten->first);

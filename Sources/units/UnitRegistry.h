@@ -22,6 +22,23 @@
 
 namespace kx {
 
+// The units that have answered in a round of asking, compared with what is known from before. Each
+// unit counts once, with its first answer.
+struct RoundTally {
+    struct Units {
+        std::size_t count = 0;
+        std::string latest; // serial number of the latest of them
+    };
+
+    std::size_t answered = 0;
+    Units added;   // of these: nobody knew them
+    Units changed; // known ones, with another value than they told last
+    Units back;    // known ones that did not answer in the round before
+
+    // Those that answered in the round before, and not yet in this one.
+    std::size_t silent = 0;
+};
+
 class UnitRegistry {
 private:
     struct Unit;
@@ -50,6 +67,20 @@ public:
 
     // How many units made room for others since the start; clear() does not change it.
     std::uint64_t forgottenUnits() const { return _forgotten; }
+
+    // A round of asking begins. It lasts until the next one, so late answers count too.
+    void beginRound();
+
+    // The round since the latest beginRound(), or since the beginning.
+    const RoundTally& round() const { return _tally; }
+
+    // Whether the unit has answered in this round.
+    bool hasAnswered(std::string_view serial) const;
+
+    // The serial number of a unit that answered in the round before and not in this one, the one
+    // that was silent for longest; absent without any. Passes over the units that have been silent
+    // for longer.
+    std::optional<std::string> silentUnit() const;
 
     // Null for a serial number that no unit has told. Valid until the next store() or clear().
     const UnitRecord* find(std::string_view serial) const;
@@ -80,8 +111,11 @@ private:
         Unit* older = nullptr;
         Unit* newer = nullptr;
         const std::string* serial = nullptr; // the key of this unit
+        std::uint32_t round = 0;             // the latest one in which it answered
     };
 
+    void countAnswer(Unit& unit, bool isNew, const UnitRecord& record);
+    bool tellsTheSame(const Unit& unit, const UnitRecord& record) const;
     void hear(Unit& unit);
     void leaveRing(Unit& unit);
     void forgetOldest();
@@ -91,6 +125,8 @@ private:
     Unit* _newest = nullptr; // null while there is no unit; its `newer` is the oldest
     std::optional<std::string> _kept;
     std::uint64_t _forgotten = 0;
+    std::uint32_t _round = 1;
+    RoundTally _tally;
     OrderedSerialNumbers _serialNumbers;
     std::map<std::string, std::string, std::less<>> _withdrawnAddresses; // by serial number
 };

@@ -64,6 +64,7 @@ struct PlayedUnit {
     std::uint32_t link = 3;
     std::chrono::milliseconds late{3};
     std::optional<std::uint32_t> sender = {};
+    bool hearsBroadcasts = true;
     // What it does when it gets a command; it acknowledges it in any case.
     std::function<void(SampleUnit&, std::string_view command)> obey = {};
 
@@ -187,7 +188,8 @@ private:
         const std::string text(call.data.begin(), call.data.end());
         for (const auto& unit : units) {
             const bool isForAll = (address & 0xFFU) == 0xFFU;
-            if (unit->link == call.link && (isForAll || address == unit->address())) {
+            if (unit->link == call.link &&
+                (isForAll ? unit->hearsBroadcasts : address == unit->address())) {
                 replies.push_back(runLoop.callOnceAfter(
                     unit->late, [this, &each = *unit, text] { answer(each, text); }));
             }

@@ -106,6 +106,41 @@ TEST_F(DiscoverCommandTest, ADocumentThatCannotBeSavedIsAFailure) {
     EXPECT_EQ(errorCode(), "file");
 }
 
+TEST_F(DiscoverCommandTest, AnEmptyResultReplacesNoFile) {
+    play({});
+    ASSERT_EQ(run({"discover", "--json", "--save", file}), 0);
+    const std::string before = savedText();
+    units.clear();
+    EXPECT_EQ(run({"discover", "--json", "--save", file}), 1);
+    EXPECT_EQ(errorCode(), "not-found");
+    EXPECT_EQ(document()["warnings"][0]["code"], "kept");
+    EXPECT_EQ(savedText(), before);
+    interruptAfter(100ms);
+    EXPECT_EQ(run({"discover", "--json", "--save", file}), 130);
+    EXPECT_EQ(savedText(), before);
+    for (const bool isThere : {false, true}) {
+        std::filesystem::remove(file);
+        if (isThere) {
+            std::ofstream{file};
+        }
+        EXPECT_EQ(run({"discover", "--json", "--save", file}), 1);
+        EXPECT_EQ(savedText(), console.output) << "there is nothing to keep";
+    }
+}
+
+TEST_F(DiscoverCommandTest, ASavedFileIsReplacedAtOnce) {
+    play({});
+    std::ofstream(file) << "old contents";
+    std::ifstream reader(file);
+    std::string word;
+    reader >> word;
+    ASSERT_EQ(run({"discover", "--json", "--save", file}), 0);
+    std::string rest;
+    std::getline(reader, rest);
+    EXPECT_EQ(word + rest, "old contents") << "who reads it meanwhile reads the old one";
+    EXPECT_EQ(savedText(), console.output);
+}
+
 TEST_F(DiscoverCommandTest, ATerminalShowsTheCountAndTheTimeThoughNothingArrives) {
     console.isTerminal = true;
     play({});

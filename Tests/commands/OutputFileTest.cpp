@@ -56,6 +56,32 @@ TEST_F(OutputFileTest, WritesWholeAndInTheirOrder) {
     EXPECT_EQ(contentsOf(path("file")), "one two");
 }
 
+TEST_F(OutputFileTest, AReplacementIsTheWholeContents) {
+    OutputFile file(path("file"));
+    EXPECT_FALSE(file.isFilled());
+    EXPECT_EQ(file.lookForReplacement(), std::nullopt);
+    EXPECT_EQ(file.replaceBy("one"), std::nullopt);
+    EXPECT_TRUE(file.isFilled());
+    EXPECT_EQ(file.replaceBy("two"), std::nullopt);
+    EXPECT_EQ(contentsOf(path("file")), "two");
+}
+
+TEST_F(OutputFileTest, ADeviceIsWrittenToAndNotReplaced) {
+    OutputFile full("/dev/full");
+    EXPECT_EQ(full.lookForReplacement(), std::nullopt);
+    EXPECT_FALSE(full.isFilled());
+    EXPECT_EQ(full.replaceBy("text"), posixError(ENOSPC));
+    EXPECT_EQ(OutputFile("/dev/null").replaceBy("text"), std::nullopt);
+    EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+TEST_F(OutputFileTest, APlaceThatCannotBeReplacedIsSeenByLooking) {
+    EXPECT_EQ(OutputFile("/nowhere/file").lookForReplacement(), posixError(ENOENT));
+    EXPECT_EQ(OutputFile("").lookForReplacement(), posixError(ENOENT));
+    EXPECT_EQ(OutputFile(folder).lookForReplacement(), posixError(EISDIR));
+    EXPECT_EQ(OutputFile("/dev/null/file").lookForReplacement(), posixError(ENOTDIR));
+}
+
 TEST_F(OutputFileTest, APlaceThatCannotBeWrittenIsSeenByLooking) {
     EXPECT_EQ(OutputFile("/nowhere/file").look(), posixError(ENOENT));
     EXPECT_EQ(OutputFile("").look(), posixError(ENOENT));

@@ -34,6 +34,10 @@ expect_equal 'bash: ports' 'auto ' "$(offered_by_bash kxctl --port a)"
 expect_equal 'bash: interfaces' 'lo ' "$(offered_by_bash kxctl -i l)"
 expect_equal 'bash: nothing for a number' ' ' "$(offered_by_bash kxctl discover --wait '')"
 
+cd "$folder"
+expect_equal 'bash: files' 'kxctl.bash ' "$(offered_by_bash kxctl compare kxctl.b)"
+expect_equal 'bash: no files for a unit' ' ' "$(offered_by_bash kxctl show kxctl.b)"
+
 zsh -n "$folder/_kxctl" || fail 'zsh cannot read its completion'
 expect_equal 'zsh: what it completes' '#compdef kxctl' "$(head -n 1 "$folder/_kxctl")"
 # The functions of the shell tell what they are given.
@@ -55,4 +59,5 @@ trap 'rm -rf "$scratch"' EXIT
 expect_equal 'fish: commands' 'set show ' "$(offered_by_fish 'kxctl s')"
 expect_equal 'fish: options of a command' '--expect ' "$(offered_by_fish 'kxctl discover --ex')"
 expect_equal 'fish: parameters' 'destination-port= ' "$(offered_by_fish 'kxctl set id:1 destination-p')"
+expect_equal 'fish: files' 'kxctl.bash ' "$(offered_by_fish 'kxctl compare kxctl.b')"
 expect_equal 'fish: ports' 'auto ' "$(offered_by_fish 'kxctl --port a')"

@@ -24,6 +24,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -155,6 +156,13 @@ protected:
     std::string warning() const { return warningIn(window.quietLine.text()); }
     std::string quietLine() const { return withoutWarning(window.quietLine.text()); }
     std::string discoveryLine() const { return window.discoveryLine.text(); }
+
+    // Whether that line speaks of answers alone, and of nothing that is wrong.
+    bool isNothingFound() const {
+        static const std::regex answers("(Asking |No unit answered\\.|[0-9]+ units? answered|"
+                                        "[0-9]+ of the [0-9]+ listed answered\\.).*");
+        return std::regex_match(discoveryLine(), answers);
+    }
 
     Lines parameterRows() const { return linesOf(window.unitParameterTableView.rows()); }
     Lines editRows() const { return linesOf(window.editParameterTableView.rows()); }

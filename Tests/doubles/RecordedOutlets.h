@@ -56,6 +56,27 @@ public:
 
     void setEnabled(bool enabled) override { _isEnabled = enabled; }
 
+    void setDimming(std::function<bool(std::string_view title)> isDimmed,
+                    std::string_view description) override {
+        _isDimmed = std::move(isDimmed);
+        _dimmedDescription = description;
+    }
+
+    void refreshDimming() override { ++_refreshCount; }
+
+    // The titles that a person sees dimmed, and how they are described.
+    std::vector<std::string> dimmedTitles() const {
+        std::vector<std::string> dimmed;
+        for (const std::string& title : _titles) {
+            if (_isDimmed && _isDimmed(title)) {
+                dimmed.push_back(title);
+            }
+        }
+        return dimmed;
+    }
+    const std::string& dimmedDescription() const { return _dimmedDescription; }
+    int refreshCount() const { return _refreshCount; }
+
     // Sets the action that runs when a person chooses an item.
     void setAction(std::function<void()> action) { _action = std::move(action); }
 
@@ -74,6 +95,9 @@ private:
     std::vector<std::string> _titles;
     std::optional<std::string> _selected;
     bool _isEnabled = true;
+    std::function<bool(std::string_view title)> _isDimmed;
+    std::string _dimmedDescription;
+    int _refreshCount = 0;
     std::function<void()> _action;
 };
 

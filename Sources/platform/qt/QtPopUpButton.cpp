@@ -19,9 +19,13 @@ namespace {
 constexpr int longList = 80;
 
 // The list of a combo box that opens like a menu measures every title first, so long lists do not
-// open in this way.
-class ScrollingListStyle final : public QProxyStyle {
+// open in this way. A selected title that is dimmed in the list is dimmed in the closed combo box
+// too.
+class PopUpStyle final : public QProxyStyle {
 public:
+    explicit PopUpStyle(const TitleListModel& model)
+        : _model(model) {}
+
     int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                   QStyleHintReturn* returned) const override {
         const auto* const comboBox = qobject_cast<const QComboBox*>(widget);
@@ -30,6 +34,27 @@ public:
                    ? 0
                    : QProxyStyle::styleHint(hint, option, widget, returned);
     }
+
+    void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+        const auto* const comboBox = qobject_cast<const QComboBox*>(widget);
+        const auto* const label = qstyleoption_cast<const QStyleOptionComboBox*>(option);
+        if (element != CE_ComboBoxLabel || comboBox == nullptr || label == nullptr ||
+            !_model.isDimmed(comboBox->currentIndex())) {
+            QProxyStyle::drawControl(element, option, painter, widget);
+            return;
+        }
+        QStyleOptionComboBox dimmed = *label;
+        for (const QPalette::ColorRole role :
+             {QPalette::ButtonText, QPalette::Text, QPalette::WindowText}) {
+            dimmed.palette.setColor(role, dimmedColour(dimmed.palette.color(role),
+                                                       dimmed.palette.color(QPalette::Button)));
+        }
+        QProxyStyle::drawControl(element, &dimmed, painter, widget);
+    }
+
+private:
+    const TitleListModel& _model;
 };
 
 // Whether each title comes after the one before it. No two titles are then equal.
@@ -75,12 +100,16 @@ QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
         titles.push_back(utf8Text(comboBox.itemText(index)));
     }
     comboBox.setModel(&_model);
+    _selection = QObject::connect(&comboBox, &QComboBox::currentIndexChanged, &comboBox,
+                                  [this] { describeSelectedTitle(); });
     addItemsWithTitles(std::move(titles));
     selectItemWithTitle(utf8Text(selected));
+    describeSelectedTitle();
 }
 
 QtPopUpButton::~QtPopUpButton() {
-    if (_styleOfLongList != nullptr) {
+    QObject::disconnect(_selection);
+    if (_ownStyle != nullptr) {
         _comboBox.setStyle(nullptr);
     }
 }
@@ -127,11 +156,17 @@ void QtPopUpButton::showTitles(TitleList titles, bool areAscending, std::string_
 }
 
 void QtPopUpButton::prepareForLongList() {
-    if (_styleOfLongList == nullptr) {
+    if (!std::exchange(_hasLongList, true)) {
         _comboBox.hidePopup(); // an open list would show the old titles
-        _styleOfLongList = std::make_unique<ScrollingListStyle>();
-        _comboBox.setStyle(_styleOfLongList.get());
+        useOwnStyle();
         _comboBox.setView(new UniformListView);
+    }
+}
+
+void QtPopUpButton::useOwnStyle() {
+    if (_ownStyle == nullptr) {
+        _ownStyle = std::make_unique<PopUpStyle>(_model);
+        _comboBox.setStyle(_ownStyle.get());
     }
 }
 
@@ -154,6 +189,34 @@ std::optional<std::string> QtPopUpButton::titleOfSelectedItem() const {
 
 void QtPopUpButton::setEnabled(bool enabled) {
     _comboBox.setEnabled(enabled);
+}
+
+void QtPopUpButton::setDimming(std::function<bool(std::string_view title)> isDimmed,
+                               std::string_view description) {
+    if (isDimmed) {
+        useOwnStyle();
+    }
+    _model.setDimming(std::move(isDimmed), qtText(description));
+    describeSelectedTitle();
+}
+
+void QtPopUpButton::refreshDimming() {
+    _model.refreshDimming();
+    describeSelectedTitle();
+    _comboBox.update();
+}
+
+// A screen reader reads the closed combo box without asking its list. Where nothing is selected it
+// reads what stands there instead.
+void QtPopUpButton::describeSelectedTitle() {
+    const int selected = _comboBox.currentIndex();
+    QString description = selected < 0 ? _comboBox.placeholderText() : QString();
+    if (_model.isDimmed(selected)) {
+        description = _model.dimmedDescription();
+    }
+    if (_comboBox.accessibleDescription() != description) {
+        _comboBox.setAccessibleDescription(description);
+    }
 }
 
 } // namespace kx

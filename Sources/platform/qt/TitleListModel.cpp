@@ -3,6 +3,8 @@
 #include "platform/qtcore/QtText.h"
 #include "support/VisibleText.h"
 
+#include <QBrush>
+#include <QGuiApplication>
 #include <algorithm>
 #include <utility>
 
@@ -18,7 +20,16 @@ bool startsWith(std::string_view title, const QString& text) {
                    : qtText(visibleText(title)).startsWith(text, Qt::CaseInsensitive);
 }
 
+int between(int text, int background) {
+    return (2 * text + background) / 3;
+}
+
 } // namespace
+
+QColor dimmedColour(const QColor& text, const QColor& background) {
+    return {between(text.red(), background.red()), between(text.green(), background.green()),
+            between(text.blue(), background.blue())};
+}
 
 void TitleListModel::setTitles(TitleList titles) {
     beginResetModel();
@@ -30,7 +41,33 @@ int TitleListModel::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : static_cast<int>(_titles.size());
 }
 
+void TitleListModel::setDimming(std::function<bool(std::string_view title)> isDimmed,
+                                QString description) {
+    _isDimmed = std::move(isDimmed);
+    _dimmedDescription = std::move(description);
+    refreshDimming();
+}
+
+bool TitleListModel::isDimmed(int row) const {
+    return _isDimmed && row >= 0 && row < rowCount() &&
+           _isDimmed(_titles[static_cast<std::size_t>(row)]);
+}
+
+void TitleListModel::refreshDimming() {
+    if (rowCount() > 0) {
+        emit dataChanged(index(0), index(rowCount() - 1),
+                         {Qt::ForegroundRole, Qt::AccessibleDescriptionRole});
+    }
+}
+
 QVariant TitleListModel::data(const QModelIndex& index, int role) const {
+    if (role == Qt::ForegroundRole && isDimmed(index.row())) {
+        const QPalette palette = QGuiApplication::palette();
+        return QBrush(dimmedColour(palette.color(QPalette::Text), palette.color(QPalette::Base)));
+    }
+    if (role == Qt::AccessibleDescriptionRole && isDimmed(index.row())) {
+        return _dimmedDescription;
+    }
     const bool asksForText = role == Qt::DisplayRole || role == Qt::EditRole;
     if (!asksForText || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};

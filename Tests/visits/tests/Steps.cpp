@@ -175,14 +175,18 @@ QString Steps::discoveryLine() const {
 }
 
 int Steps::droppedDatagrams() const {
-    static const QRegularExpression number("[0-9]+");
-    return number.match(discoveryLine()).captured().toInt();
+    static const QRegularExpression sentence("^The system dropped ([0-9]+)");
+    return sentence.match(discoveryLine()).captured(1).toInt();
 }
 
 void Steps::expectFinding(const QString& text) {
     if (!text.isEmpty()) {
         expectText("line below Discover", text, [this] { return discoveryLine(); });
-    } else if (!discoveryLine().isEmpty()) {
+        return;
+    }
+    static const QRegularExpression answers("^(Asking |No unit answered\\.|[0-9]+ units? "
+                                            "answered|[0-9]+ of the [0-9]+ listed answered)");
+    if (!answers.match(discoveryLine()).hasMatch()) {
         throw VisitFailure{discoveryLine()};
     }
 }

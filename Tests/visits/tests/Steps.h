@@ -20,7 +20,7 @@
 //                            of this many units, less those that the line below Discover counts
 //   line TEXT                waits until the quiet line contains the text
 //   finding TEXT             waits until the line below Discover contains the text
-//   finding                  expects that there is no such line
+//   finding                  expects that this line tells of answers only
 //   watch                    begins to watch how long a user's event has to wait
 //   waited MILLISECONDS      prints the longest wait of an event, and expects no longer one
 //   worked MILLISECONDS      does the same for the time that the program worked for an event
