@@ -240,6 +240,9 @@ private:
 
     const UnitRecord* selectedRecord() const;
     std::optional<std::string> selectedText(UnitParameter parameter) const;
+
+    // The same without the zero bytes with which a unit fills up a short unit ID.
+    std::optional<std::string> shownValue(UnitParameter parameter) const;
     UnitDestination unitDestination();
     CommandTarget commandTarget() const;
 

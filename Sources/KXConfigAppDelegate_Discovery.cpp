@@ -73,10 +73,10 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
     if (key.has_value()) {
         _quietLine.unitIsShown(*key);
     }
-    _outlets.unitIDField->setStringValue(selectedText(UnitParameter::unitID).value_or(""));
+    _outlets.unitIDField->setStringValue(shownValue(UnitParameter::unitID).value_or(""));
     _outlets.unitParameterTable->removeAllObjects();
     for (const UnitParameter parameter : allUnitParameters) {
-        const auto value = selectedText(parameter);
+        const auto value = shownValue(parameter);
         if (value.has_value()) {
             auto entry = std::make_shared<KXParameterEntry>();
             entry->setParameterName(std::string(nameOfUnitParameter(parameter)));

@@ -68,6 +68,12 @@ std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter param
     return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
 }
 
+std::optional<std::string> KXConfigAppDelegate::shownValue(UnitParameter parameter) const {
+    const auto text = selectedText(parameter);
+    return text.has_value() ? std::optional(std::string(withoutTrailingZeroBytes(*text)))
+                            : std::nullopt;
+}
+
 UnitDestination KXConfigAppDelegate::unitDestination() {
     return destinationOfUnit(selectedRecord(), everybody());
 }

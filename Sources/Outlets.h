@@ -68,6 +68,10 @@ class TextLabel {
 public:
     virtual ~TextLabel() = default;
 
+    // Whether the next text means trouble. Then it has a sign as well as its words, which a screen
+    // reader says, too.
+    virtual void setMeansTrouble(bool meansTrouble) = 0;
+
     virtual void setStringValue(std::string_view text) = 0;
 };
 

@@ -110,17 +110,20 @@ private:
 
 class RecordedTextLabel final : public TextLabel {
 public:
+    void setMeansTrouble(bool meansTrouble) override { _meansTrouble = meansTrouble; }
     void setStringValue(std::string_view text) override {
         _text = text;
         ++_setCount;
     }
 
     const std::string& text() const { return _text; }
+    bool meansTrouble() const { return _meansTrouble; }
 
     // How often a text was set, also the same one again: a screen reader says each.
     int setCount() const { return _setCount; }
 
 private:
+    bool _meansTrouble = false;
     std::string _text;
     int _setCount = 0;
 };

@@ -1,5 +1,6 @@
 // Help over the real desktop seam: the adapters, the viewer, and the window's ways to open it.
 
+#include "Looks.h"
 #include "MainWindowFixture.h"
 #include "RecordedBrowser.h"
 #include "contracts/HelpServicesContract.h"
@@ -332,6 +333,17 @@ TEST_F(HelpViewerTest, FollowsTheColoursOfTheApplication) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return corner() < 100; }));
     EXPECT_EQ(pageInViewer(), "index");
     QApplication::setPalette(before);
+}
+
+TEST_F(HelpViewerTest, LinksAreReadableWhereADarkPaletteHasNoColourForThem) {
+    const UsedPalette dark{QPalette(QColor(53, 53, 53), QColor(30, 30, 30))};
+    QTest::qWait(10);
+    QTextCursor cursor(pages().document());
+    cursor.movePosition(QTextCursor::End);
+    const QColor link = cursor.charFormat().foreground().color();
+    EXPECT_TRUE(cursor.charFormat().isAnchor());
+    EXPECT_GE(contrastOf(link, pages().palette().color(QPalette::Base)), 4.5)
+        << link.name().toStdString();
 }
 
 TEST_F(MainWindowTest, TheHelpButtonAndItsKeyOpenTheHelp) {

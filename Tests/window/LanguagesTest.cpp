@@ -276,6 +276,23 @@ TEST_P(LanguagesTest, AtTheSmallestWidthNothingIsCutOff) {
     takePicture(window, "small");
 }
 
+TEST_P(LanguagesTest, NothingMovesWhileAnAddressIsTyped) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", static_cast<int>(UnitParameter::internalIPAddress), 1);
+    const auto placeOf = [this](const char* name) { return control<QWidget>(name).geometry(); };
+    const QRect applyBefore = placeOf("applyButton");
+    const QRect sendBefore = placeOf("sendOptionButton");
+    std::string typed;
+    for (const char each : std::string_view("192.168.1.211x")) {
+        typed += each;
+        controller.editTextDidChange(typed);
+        QTest::qWait(1);
+        EXPECT_EQ(placeOf("applyButton"), applyBefore) << quietLine();
+        EXPECT_EQ(placeOf("sendOptionButton"), sendBefore) << quietLine();
+    }
+    takePicture(window, "address");
+}
+
 TEST_P(LanguagesTest, TheMenusFitTheScreen) {
     launch();
     EXPECT_GE(window.width(), window.menuBar()->sizeHint().width());

@@ -1,12 +1,13 @@
 #include "platform/qt/HelpViewer.h"
 
+#include "platform/qt/Contrast.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 
 #include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -17,6 +18,7 @@ HelpPageView::HelpPageView(const QString& folder, QWidget* parent)
     , _folder(QUrl::fromLocalFile(QDir(folder).absolutePath() + '/')) {
     setObjectName("helpPages");
     setAccessibleName(localizedQtText("Help text"));
+    colourLinks();
 }
 
 bool HelpPageView::isInFolder(const QUrl& name) const {
@@ -34,9 +36,17 @@ void HelpPageView::doSetSource(const QUrl& name, QTextDocument::ResourceType typ
     }
 }
 
+// A palette for a dark screen may have no colour for links; the toolkit's own is a dark blue.
+void HelpPageView::colourLinks() {
+    const QColor link =
+        readableOn(palette().color(QPalette::Base), palette().color(QPalette::Link));
+    document()->setDefaultStyleSheet(QString("a { color: %1 }").arg(link.name()));
+}
+
 void HelpPageView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
+        colourLinks();
         reload(); // link colours are set while a page is read
     }
 }
@@ -77,7 +87,7 @@ HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
     connect(closeKey, &QShortcut::activated, this, &QWidget::close);
 
     drawFrameOnPixels(*_pages);
-    resize(QSize(760, 680).boundedTo(screen()->availableGeometry().size()));
+    (new ScreenFit(*this))->resize(QSize(760, 680));
 }
 
 QPushButton* HelpViewer::addButton(const char* objectName, const QString& text,

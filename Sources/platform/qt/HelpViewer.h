@@ -31,6 +31,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void colourLinks();
     bool isInFolder(const QUrl& name) const;
 
     QUrl _folder;

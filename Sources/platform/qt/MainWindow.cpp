@@ -15,6 +15,7 @@
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
@@ -22,7 +23,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <algorithm>
 
 namespace kx {
@@ -295,12 +295,14 @@ void MainWindow::giveTextsOfButtonsRoom() {
     }
 }
 
-// Without this, the scroll area around the content would ask for only a small part of its size.
+// Without this, the scroll area around the content would ask for only a small part of its size. On
+// a small screen the content scrolls.
 void MainWindow::fitToContent() {
+    auto* const screenFit = new ScreenFit(*this);
     _ui->content->layout()->activate(); // inner rows would otherwise answer for the old texts
-    _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
-    const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
-    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+    const int least = _ui->content->minimumSizeHint().width();
+    _ui->contentArea->setMinimumWidth(std::min(least, screenFit->room().width()));
+    screenFit->resize(_ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height()));
 }
 
 // The text of an empty or disabled pop-up is a message, not a faded choice.

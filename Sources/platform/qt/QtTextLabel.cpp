@@ -10,6 +10,10 @@ QtTextLabel::QtTextLabel(AnnouncedLabel& label, EmptyLabel empty)
     QtTextLabel::setStringValue({});
 }
 
+void QtTextLabel::setMeansTrouble(bool meansTrouble) {
+    _label.setMeansTrouble(meansTrouble);
+}
+
 void QtTextLabel::setStringValue(std::string_view text) {
     _label.say(qtText(text));
     if (_empty == EmptyLabel::isHidden) {

@@ -17,6 +17,7 @@ class QtTextLabel final : public TextLabel {
 public:
     explicit QtTextLabel(AnnouncedLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
 
+    void setMeansTrouble(bool meansTrouble) override;
     void setStringValue(std::string_view text) override;
 
 private:
