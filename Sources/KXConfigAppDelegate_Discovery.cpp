@@ -1,9 +1,9 @@
 #include "KXConfigAppDelegate.h"
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
+#include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
 #include "words/FindingText.h"
-#include "words/SendFailureText.h"
 
 #include <utility>
 
@@ -18,9 +18,10 @@ void KXConfigAppDelegate::discoverButton() {
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
     beginFindings();
+    describeInterface();
     lookAtTarget();
     _session.start(static_cast<std::size_t>(port));
-    _quietLine.endMessage(forecast());
+    endMessage();
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
 }
 
@@ -60,11 +61,23 @@ void KXConfigAppDelegate::discoverComplete() {
 void KXConfigAppDelegate::unitSelectPopUp() {
     showSelectedUnit();
     lookAtTarget();
-    _quietLine.endMessage(forecast());
+    endMessage();
 }
 
 void KXConfigAppDelegate::showSelectedUnit() {
     setSelectedUnit(_outlets.unitSelectPopUp->titleOfSelectedItem());
+}
+
+std::vector<std::string> KXConfigAppDelegate::detailsOfUnit(std::string_view serialNumber) const {
+    std::vector<std::string> details;
+    if (const UnitRecord* const record = _devicesD.find(serialNumber)) {
+        for (const auto parameter : {UnitParameter::unitID, UnitParameter::internalIPAddress}) {
+            if (const auto value = record->value(parameter)) {
+                details.emplace_back(withoutTrailingZeroBytes(*value));
+            }
+        }
+    }
+    return details;
 }
 
 void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
@@ -91,11 +104,7 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
     lookAtTarget();
-    if (const auto failure = requestParametersOfUnit()) {
-        _quietLine.showMessage(noteOfSendFailure(*failure));
-    } else {
-        _quietLine.endMessage(forecast());
-    }
+    showRequest(RequestKind::reload, parameterRequestCommand, requestParametersOfUnit());
 }
 
 void KXConfigAppDelegate::tableViewSelectionDidChange() {
@@ -110,6 +119,8 @@ void KXConfigAppDelegate::tableViewSelectionDidChange() {
                                         key);
     }
     _textBeingTyped.reset();
+    _returnWasPressed = false;
+    _unitOfRow = _selectedUnit;
     _outlets.editParameterTableView->reloadData();
     showForecast();
 }

@@ -5,11 +5,23 @@
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
+#include "words/RequestOutcomeText.h"
 
 #include <cerrno>
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// 0 when the system did not tell the sender.
+std::uint32_t addressOf(const DatagramOrigin& origin) {
+    std::uint32_t host = 0;
+    IPv6Octets unused{};
+    return addressForData(origin.sender, host, unused, nullptr) == addressFamilyIPv4 ? host : 0;
+}
+
+} // namespace
 
 // --- Sending ---
 
@@ -132,7 +144,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
         showFindings();
     }
     compareReply(reply, origin);
-    appendString(entryOfReply(reply, unitParameters(parameters)));
+    appendString(entryOfReply(reply, unitParameters(parameters, origin)));
 }
 
 void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
@@ -142,14 +154,16 @@ void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin&
 }
 
 // Shows what a unit told, and returns its text for the event log.
-std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters) {
+std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters,
+                                                const DatagramOrigin& origin) {
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
+        _listedHolder.unitDidTell(parameters.record);
         if (serial == _selectedUnit) {
             showSelectedUnit();
         } else {
             refreshForecast(); // another unit may have the serial number that is typed
         }
-        _quietLine.unitDidTell(*serial, parameters.record);
+        _quietLine.unitDidTell(*serial, parameters.record, addressOf(origin));
     }
     return linesOfParameters(parameters.items, _shownNames);
 }
@@ -161,8 +175,10 @@ void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
-            _quietLine.unitDidAccept(*reply.serialNumber, failure);
+            _quietLine.unitDidAccept(*reply.serialNumber, failure, addressOf(origin));
         }
+    } else if (reply.serialNumber.has_value() && reply.serialNumber != _selectedUnit) {
+        _quietLine.unitDidAccept(*reply.serialNumber, std::nullopt, addressOf(origin));
     } else if (reply.serialNumber == _selectedUnit) {
         _acceptedSince = reply.serialNumber;
     }
@@ -179,6 +195,9 @@ void KXConfigAppDelegate::requestParametersOwed() {
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
     compareReply(reply, origin);
     auto text = textFromUTF8(reply.payload);
+    if (reply.serialNumber.has_value() && text.has_value()) {
+        _quietLine.unitDidAnswer(*reply.serialNumber, addressOf(origin), textOfAnswer(*text));
+    }
     if (text.has_value()) {
         text = quotedLines(*text);
     }

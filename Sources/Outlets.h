@@ -44,6 +44,10 @@ public:
     virtual std::optional<std::string> titleOfSelectedItem() const = 0;
 
     virtual void setEnabled(bool enabled) = 0;
+
+    // A sentence about the choice: the tool tip, and the description for a screen reader. While the
+    // pop-up says in its own place why nothing is selected, that is the description.
+    virtual void setDescription(std::string_view text) = 0;
 };
 
 class Button {

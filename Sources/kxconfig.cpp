@@ -76,7 +76,12 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host,
             .receiveBuffers = &host.receiveBuffers,
             .hasHelpPage = [&help = host.helpServices](
                                std::string_view page) { return kx::hasHelpPage(page, help); },
-            .neighbours = &host.neighbours};
+            .neighbours = &host.neighbours,
+            .openHelpInViewer =
+                [&help = host.helpServices](std::string_view anchor) {
+                    const auto book = help.helpBookName();
+                    return book.has_value() && help.openAnchorInBook(anchor, *book);
+                }};
 }
 
 // Runs the program until its end, which a person or a signal brings about.

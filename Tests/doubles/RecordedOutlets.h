@@ -55,6 +55,7 @@ public:
     std::optional<std::string> titleOfSelectedItem() const override { return _selected; }
 
     void setEnabled(bool enabled) override { _isEnabled = enabled; }
+    void setDescription(std::string_view text) override { _description = text; }
 
     // Sets the action that runs when a person chooses an item.
     void setAction(std::function<void()> action) { _action = std::move(action); }
@@ -69,8 +70,10 @@ public:
 
     const std::vector<std::string>& titles() const { return _titles; }
     bool isEnabled() const { return _isEnabled; }
+    const std::string& description() const { return _description; }
 
 private:
+    std::string _description;
     std::vector<std::string> _titles;
     std::optional<std::string> _selected;
     bool _isEnabled = true;

@@ -96,6 +96,11 @@ MainWindow::MainWindow(QWidget* parent)
     connectPopUps();
     connectMenus();
     connectTables();
+    _controls->reloadButton.setKey(_ui->reloadAction->shortcut());
+    _controls->restoreButton.setKey(_ui->restoreAction->shortcut());
+    connectPointing();
+    connectEditMenu();
+    describeButtons();
     _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
     for (QFrame* frame : std::initializer_list<QFrame*>{
              _ui->unitParameterTableView, _ui->editParameterTableView, _ui->logTextView}) {
@@ -133,11 +138,14 @@ MainWindowOutlets MainWindow::outlets() {
 void MainWindow::connectActions(KXConfigAppDelegate& controller) {
     _controller = &controller;
     _controls->editParameterTableView.setDataSource(&controller);
+    _controls->unitSelectPopUp.setDetails(
+        [&controller](std::string_view title) { return controller.detailsOfUnit(title); });
 }
 
 void MainWindow::disconnectActions() {
     _controller = nullptr;
     _controls->editParameterTableView.setDataSource(nullptr);
+    _controls->unitSelectPopUp.setDetails({});
 }
 
 const WindowDelegate* MainWindow::windowDelegate() const {
@@ -150,6 +158,9 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (popUp != nullptr && event->type() == QEvent::Wheel && !popUp->hasFocus()) {
         event->ignore();
         return true;
+    }
+    if (watched == _ui->reloadButton || watched == _ui->restoreButton) {
+        lookWhereAPersonPoints(watched, event);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -206,10 +217,7 @@ void MainWindow::connectPopUps() {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
         popUp->installEventFilter(this);
-        const auto describe = [popUp] {
-            const bool isEmpty = popUp->currentIndex() < 0;
-            popUp->setAccessibleDescription(isEmpty ? popUp->placeholderText() : QString());
-        };
+        const auto describe = [popUp] { describePopUp(*popUp); };
         connect(popUp, &QComboBox::currentIndexChanged, popUp, describe);
         describe();
     };
@@ -269,6 +277,8 @@ void MainWindow::connectTables() {
             _controller->editTextDidChange(utf8Text(text));
         }
     });
+    connect(editRow, &ParameterTableView::textKept, this,
+            [this] { perform(&KXConfigAppDelegate::editTextWasKept); });
 
     // The two tables look like one, so their columns stay in line.
     connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
@@ -317,6 +327,10 @@ void MainWindow::keepEmptyStatesReadable() {
         readable.setColor(QPalette::PlaceholderText, dimmed);
         popUp->setPalette(readable);
     }
+    // A field that cannot be edited has the colour of the window and not that of a field.
+    QPalette readOnly;
+    readOnly.setColor(QPalette::Base, palette().color(QPalette::Window));
+    _ui->unitIDField->setPalette(readOnly);
 }
 
 // An action that is requested while another one runs, for example under its alert, runs after it.

@@ -10,11 +10,14 @@
 #pragma once
 
 #include "Outlets.h"
+#include "conversation/RequestOutcome.h"
 #include "platform/qt/DelegatingWindow.h"
 
+#include <QEvent>
 #include <QMainWindow>
 #include <deque>
 #include <memory>
+#include <optional>
 
 namespace kx {
 
@@ -61,6 +64,13 @@ private:
     void connectMenus();
     void connectTables();
     void giveTextsOfButtonsRoom();
+
+    // What the window says of its controls (MainWindow_Speech.cpp).
+    void connectPointing();
+    void lookWhereAPersonPoints(const QObject* button, QEvent* event);
+    void pointAtRequest(std::optional<RequestKind> button);
+    void describeButtons();
+    void connectEditMenu();
     void fitToContent();
     void keepEmptyStatesReadable();
 

@@ -1,5 +1,6 @@
 #include "platform/qt/QtPopUpButton.h"
 
+#include "platform/qt/DetailDelegate.h"
 #include "platform/qt/UniformListView.h"
 #include "platform/qtcore/QtText.h"
 
@@ -14,6 +15,9 @@
 namespace kx {
 
 namespace {
+
+// As many titles as a person takes in at once.
+constexpr int rowsInSight = 20;
 
 // More titles than fit on a screen.
 constexpr int longList = 80;
@@ -69,6 +73,7 @@ TitleList joined(const TitleList& titles, const TitleList& added, bool areAscend
 
 QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
     : _comboBox(comboBox) {
+    comboBox.setMaxVisibleItems(rowsInSight);
     const QString selected = comboBox.currentText();
     TitleList titles;
     for (int index = 0; index < comboBox.count(); ++index) {
@@ -132,6 +137,9 @@ void QtPopUpButton::prepareForLongList() {
         _styleOfLongList = std::make_unique<ScrollingListStyle>();
         _comboBox.setStyle(_styleOfLongList.get());
         _comboBox.setView(new UniformListView);
+        if (_detailDelegate != nullptr) {
+            _comboBox.setItemDelegate(_detailDelegate);
+        }
     }
 }
 
@@ -154,6 +162,24 @@ std::optional<std::string> QtPopUpButton::titleOfSelectedItem() const {
 
 void QtPopUpButton::setEnabled(bool enabled) {
     _comboBox.setEnabled(enabled);
+}
+
+void QtPopUpButton::setDescription(std::string_view text) {
+    _comboBox.setToolTip(qtText(text));
+    describePopUp(_comboBox);
+}
+
+void QtPopUpButton::setDetails(TitleListModel::Details details) {
+    _model.setDetails(std::move(details));
+    if (_detailDelegate == nullptr) {
+        _detailDelegate = new DetailDelegate(&_comboBox);
+        _comboBox.setItemDelegate(_detailDelegate);
+    }
+}
+
+void describePopUp(QComboBox& popUp) {
+    popUp.setAccessibleDescription(popUp.currentIndex() < 0 ? popUp.placeholderText()
+                                                            : popUp.toolTip());
 }
 
 } // namespace kx

@@ -30,6 +30,11 @@ public:
     void selectItemWithTitle(std::string_view title) override;
     std::optional<std::string> titleOfSelectedItem() const override;
     void setEnabled(bool enabled) override;
+    void setDescription(std::string_view text) override;
+
+    // Gives the texts that stand in grey beside a title in the list. They are asked for when the
+    // list is painted, and typing in the list finds them too.
+    void setDetails(TitleListModel::Details details);
 
 private:
     int indexOf(std::string_view title) const;
@@ -38,10 +43,14 @@ private:
 
     QComboBox& _comboBox;
     TitleListModel _model;
+    QAbstractItemDelegate* _detailDelegate = nullptr; // the combo box owns it; null without details
     std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
 
     bool _isAscending = true;
     std::unordered_map<std::string_view, int> _indexOfTitle; // empty while titles are ascending
 };
+
+// Sets the description of a pop-up for a screen reader: why nothing is selected, or the tool tip.
+void describePopUp(QComboBox& popUp);
 
 } // namespace kx
