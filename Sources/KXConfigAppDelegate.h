@@ -125,8 +125,8 @@ public:
     // A person points at Reload or Restore Defaults, by the keyboard, the mouse or a menu, or at
     // neither any more. The quiet line says whom the button reaches.
     void pointAtRequest(std::optional<RequestKind> button);
-    void logDrawerButton();           // opens or closes the event log drawer
-    void myHelp();                    // opens the help at its index
+    void logDrawerButton(); // opens or closes the event log drawer
+    void myHelp();          // opens the help at its index
 
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
@@ -343,8 +343,8 @@ private:
     std::optional<std::string> _unitOfRow;          // unit selected when the row was chosen
     bool _returnWasPressed = false;                 // in the edit row, since it last changed
     std::optional<RequestKind> _pointedAt;
-    RunLoop::Handle _patience; // runs while units have time to answer
-    std::optional<RequestTarget> _shownTarget;      // absent before the first one is shown
+    RunLoop::Handle _patience;                 // runs while units have time to answer
+    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

@@ -155,12 +155,12 @@ void KXConfigAppDelegate::edit_internalIP() {
 }
 
 EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) const {
-    EditOutcome::Unit unit{.serialNumber = _selectedUnit,
-                           .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
-                           .valueBefore = selectedText(edit.parameter),
-                           .newSerialNumberIsTaken = newSerialNumberIsTaken(edit),
-                           .address = ipForString(
-                               selectedText(UnitParameter::internalIPAddress).value_or(""))};
+    EditOutcome::Unit unit{
+        .serialNumber = _selectedUnit,
+        .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
+        .valueBefore = selectedText(edit.parameter),
+        .newSerialNumberIsTaken = newSerialNumberIsTaken(edit),
+        .address = ipForString(selectedText(UnitParameter::internalIPAddress).value_or(""))};
     // When an earlier edit has taken the address out of the record, the unit still had that value.
     if (edit.parameter == UnitParameter::internalIPAddress) {
         unit.address = ipForString(edit.typed);

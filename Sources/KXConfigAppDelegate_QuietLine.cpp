@@ -149,8 +149,8 @@ void KXConfigAppDelegate::showRequest(RequestKind kind, std::string_view command
         _quietLine.showMessage(noteOfSendFailure(*failure));
         return;
     }
-    const bool followsEdit = kind == RequestKind::reload &&
-                             std::holds_alternative<EditOutcome>(_quietLine.state());
+    const bool followsEdit =
+        kind == RequestKind::reload && std::holds_alternative<EditOutcome>(_quietLine.state());
     if (!followsEdit) {
         _quietLine.showOutcome(RequestOutcome(
             kind, std::string(command), _shownTarget.value_or(RequestTarget()), _selectedUnit));

@@ -18,12 +18,12 @@ namespace kx {
 
 enum class EditTrouble {
     none,
-    ownAddress,               // this host has the address
-    addressOfAnotherUnit,     // a unit that has answered has it
-    addressOfMany,            // a broadcast or a multicast address
-    addressOfSubnet,          // the first address of a subnet, which stands for the subnet
-    outsideSubnet,            // no subnet in which units are reached has it
-    hardwareAddressOfMany,    // a broadcast or a multicast hardware address
+    ownAddress,            // this host has the address
+    addressOfAnotherUnit,  // a unit that has answered has it
+    addressOfMany,         // a broadcast or a multicast address
+    addressOfSubnet,       // the first address of a subnet, which stands for the subnet
+    outsideSubnet,         // no subnet in which units are reached has it
+    hardwareAddressOfMany, // a broadcast or a multicast hardware address
 };
 
 // What is known of the network.

@@ -33,8 +33,8 @@ std::string textOfNewValue(const EditOutcome& outcome, const std::string& shown,
                            const std::string& name) {
     const bool hasNewNumber = outcome.edit().parameter == UnitParameter::serialNumber &&
                               outcome.shownValue() != outcome.unit();
-    const std::string before = safeForSentence(
-        withoutTrailingZeroBytes(outcome.valueBefore().value_or("")));
+    const std::string before =
+        safeForSentence(withoutTrailingZeroBytes(outcome.valueBefore().value_or("")));
     if (before.empty() || before == shown) {
         return hasNewNumber ? localizedText("The unit now shows %@ as its serial number. Discover "
                                             "lists it under that.",

@@ -29,8 +29,9 @@ std::string descriptionOfInterface(const std::optional<ChosenInterface>& chosen,
     if (!state.has_value()) {
         return address;
     }
-    return address + ' ' + (state->isRunning ? localizedText("The link is up.")
-                                             : localizedText("The link is down."));
+    return address + ' ' +
+           (state->isRunning ? localizedText("The link is up.")
+                             : localizedText("The link is down."));
 }
 
 } // namespace kx

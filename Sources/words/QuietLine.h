@@ -32,8 +32,8 @@ namespace kx {
 class QuietLine {
 public:
     struct Forecast {
-        std::string text = {}; // empty while no parameter is chosen
-        bool meansTrouble = false;
+        std::string text; // empty while no parameter is chosen
+        bool meansTrouble;
     };
     struct Message {
         std::string text; // not empty

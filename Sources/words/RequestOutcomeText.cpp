@@ -90,8 +90,7 @@ std::string textOfAnswer(std::string_view payload) {
 }
 
 bool meansTrouble(const RequestOutcome& outcome) {
-    return outcome.otherUnit().has_value() ||
-           (outcome.isPatienceOver() && outcome.answers() == 0);
+    return outcome.otherUnit().has_value() || (outcome.isPatienceOver() && outcome.answers() == 0);
 }
 
 } // namespace kx

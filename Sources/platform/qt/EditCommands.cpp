@@ -98,8 +98,7 @@ EditCommandsNow editCommandsNow(const QWidget* control) {
 void copyValue(const QTableView& table) {
     const int row = rowToCopy(table);
     if (row >= 0) {
-        toClipboard(
-            table.model()->index(row, table.model()->columnCount() - 1).data().toString());
+        toClipboard(table.model()->index(row, table.model()->columnCount() - 1).data().toString());
     }
 }
 

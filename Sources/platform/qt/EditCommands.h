@@ -27,8 +27,8 @@ struct EditCommandsNow {
 };
 EditCommandsNow editCommandsNow(const QWidget* control);
 
-// Put on the clipboard the last cell of the selected row, and every row with a tab between its cells
-// and a line feed at its end. When there is nothing to copy, the clipboard does not change.
+// Put on the clipboard the last cell of the selected row, and every row with a tab between its
+// cells and a line feed at its end. When there is nothing to copy, the clipboard does not change.
 void copyValue(const QTableView& table);
 void copyRows(const QTableView& table);
 

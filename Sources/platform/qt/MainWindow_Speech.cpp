@@ -1,4 +1,5 @@
-// What the window says of its controls before a person uses them, and the commands of the edit menu.
+// What the window says of its controls before a person uses them, and the commands of the edit
+// menu.
 
 #include "KXConfigAppDelegate.h"
 #include "platform/qt/EditCommands.h"

@@ -8,7 +8,8 @@ namespace kx {
 
 // Qt takes a tool tip that looks like markup for markup, and breaks the lines of no other.
 void describeButton(QAbstractButton& button, const QString& sentence, const QKeySequence& key) {
-    const QString keys = key.isEmpty() ? QString() : " (" + key.toString(QKeySequence::NativeText) + ')';
+    const QString keys =
+        key.isEmpty() ? QString() : " (" + key.toString(QKeySequence::NativeText) + ')';
     button.setToolTip("<span>" + (sentence + keys).toHtmlEscaped() + "</span>");
     button.setAccessibleDescription(sentence);
 }

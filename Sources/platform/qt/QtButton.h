@@ -11,8 +11,9 @@ class QAbstractButton;
 
 namespace kx {
 
-// Sets the tool tip of a button, a sentence and the key that presses the button, and its description
-// for a screen reader, the sentence alone. Every character of the sentence is shown unchanged.
+// Sets the tool tip of a button, a sentence and the key that presses the button, and its
+// description for a screen reader, the sentence alone. Every character of the sentence is shown
+// unchanged.
 void describeButton(QAbstractButton& button, const QString& sentence, const QKeySequence& key);
 
 class QtButton final : public Button {

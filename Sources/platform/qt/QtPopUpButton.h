@@ -44,7 +44,7 @@ private:
     QComboBox& _comboBox;
     TitleListModel _model;
     QAbstractItemDelegate* _detailDelegate = nullptr; // the combo box owns it; null without details
-    std::unique_ptr<QProxyStyle> _styleOfLongList; // absent until a long list was shown
+    std::unique_ptr<QProxyStyle> _styleOfLongList;    // absent until a long list was shown
 
     bool _isAscending = true;
     std::unordered_map<std::string_view, int> _indexOfTitle; // empty while titles are ascending

@@ -95,9 +95,7 @@ QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const 
     };
     auto found = firstRow([&](std::string_view title) { return startsWith(title, text); });
     if (found.isEmpty()) {
-        found = firstRow([&](std::string_view title) {
-            return startsWithoutBlanks(title, text);
-        });
+        found = firstRow([&](std::string_view title) { return startsWithoutBlanks(title, text); });
     }
     if (found.isEmpty() && _details) {
         found = firstRow([&](std::string_view title) {
