@@ -194,4 +194,28 @@ TEST_F(ControllerSpeech, AListedUnitIsKnownByItsUnitIDAndItsAddress) {
     EXPECT_EQ(controller.detailsOfUnit("no such unit"), Lines{});
 }
 
+TEST_F(ControllerSpeech, WhereNoBrowserOpensTheHelpTheViewerDoesSoAtOnce) {
+    Lines opened;
+    bool hasViewer = true;
+    KXConfigAppDelegate other(window.outlets(),
+                              {.runLoop = runLoop,
+                               .hostResolver = hostResolver,
+                               .systemCalls = systemCalls,
+                               .wallClock = wallClock,
+                               .application = application,
+                               .openHelpAnchor = [](std::string_view) { return false; },
+                               .openHelpInViewer =
+                                   [&](std::string_view anchor) {
+                                       opened.emplace_back(anchor);
+                                       return hasViewer;
+                                   }});
+    other.applicationDidFinishLaunching();
+    other.myHelp();
+    EXPECT_EQ(opened, Lines{"index"});
+    EXPECT_EQ(quietLine(), "");
+    hasViewer = false;
+    other.myHelp();
+    EXPECT_TRUE(quietLine().starts_with("Help could not be opened in a web browser."));
+}
+
 } // namespace kx

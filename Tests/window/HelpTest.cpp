@@ -11,6 +11,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -344,6 +346,28 @@ TEST_F(HelpViewerTest, LinksAreReadableWhereADarkPaletteHasNoColourForThem) {
     EXPECT_TRUE(cursor.charFormat().isAnchor());
     EXPECT_GE(contrastOf(link, pages().palette().color(QPalette::Base)), 4.5)
         << link.name().toStdString();
+}
+
+TEST_F(HelpViewerTest, FindsATextInThePageAndGoesOnAtItsOtherEnd) {
+    folder.addPage("words", "<p>one two</p><p>three Two</p>");
+    viewer->showPage("words", "Help");
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto& field = *viewer->findChild<QLineEdit*>("helpFindField");
+    auto& result = *viewer->findChild<QLabel*>("helpFindResult");
+    ASSERT_TRUE(field.hasFocus());
+    QTest::keyClicks(&field, "two");
+    press(Qt::Key_Return);
+    EXPECT_EQ(pages().textCursor().selectedText(), "two");
+    press(Qt::Key_F3);
+    EXPECT_EQ(pages().textCursor().selectedText(), "Two");
+    press(Qt::Key_F3);
+    EXPECT_EQ(pages().textCursor().selectedText(), "two");
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(pages().textCursor().selectedText(), "Two");
+    EXPECT_EQ(result.text(), "");
+    QTest::keyClicks(&field, "x");
+    press(Qt::Key_Return);
+    EXPECT_EQ(result.text(), "Not found");
 }
 
 TEST_F(MainWindowTest, TheHelpButtonAndItsKeyOpenTheHelp) {
