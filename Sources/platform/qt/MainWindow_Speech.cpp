@@ -68,7 +68,7 @@ void MainWindow::describeButtons() {
     describe(_ui->helpButton, localizedQtText("Opens the help."), _ui->helpAction);
     const QString apply = _ui->applyAction->shortcut().toString(QKeySequence::NativeText);
     _ui->editParameterTableView->setToolTip(
-        localizedQtText("Return ends the typing. To apply it, press %1.").arg(apply));
+        qtText(localizedText("Return ends the typing. To apply it, press %@.", {utf8Text(apply)})));
 }
 
 void MainWindow::connectEditMenu() {
