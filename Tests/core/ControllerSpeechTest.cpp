@@ -203,6 +203,7 @@ TEST_F(ControllerSpeech, WhereNoBrowserOpensTheHelpTheViewerDoesSoAtOnce) {
                                .systemCalls = systemCalls,
                                .wallClock = wallClock,
                                .application = application,
+                               .networkInterfaces = nullptr,
                                .openHelpAnchor = [](std::string_view) { return false; },
                                .openHelpInViewer =
                                    [&](std::string_view anchor) {
