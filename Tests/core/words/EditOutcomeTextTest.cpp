@@ -76,7 +76,7 @@ TEST(EditOutcomeText, SaysWhatTheUnitShows) {
               "The unit now shows 3523 as its destination Port number (was 3520).");
     EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3523", "3523"),
               "The unit now shows 3523 as its destination Port number.");
-    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", std::nullopt, "3523"),
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "", "3523"),
               "The unit now shows 3523 as its destination Port number.");
     EXPECT_EQ(textAfterReply(devicePortNumber, "10001", "10000", "10000"),
               "The unit still shows 10000 as its device Port number.");
