@@ -44,6 +44,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _auth.reset();
     _textBeingTyped.reset();
     _unitOfRow.reset();
+    _returnWasPressed = false;
     _listedHolder.reset();
     _quietLine.showForecast({});
     _shownTarget.reset();

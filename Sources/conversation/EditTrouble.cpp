@@ -94,7 +94,13 @@ void ListedHolder::unitDidTell(const UnitRecord& record) {
     if (!serial.has_value() || _address.empty()) {
         return;
     }
-    if (tellsIt(record, *serial)) {
+    if (*serial == _except) {
+        // The holder may be the same unit, known by another hardware address until now.
+        if (!_exceptRecord.has_value() || !record.hasHardwareAddressOf(*_exceptRecord)) {
+            _holder.reset();
+        }
+        _exceptRecord = record;
+    } else if (tellsIt(record, *serial)) {
         _holder = *serial;
     } else if (_holder == *serial) {
         _holder.reset();

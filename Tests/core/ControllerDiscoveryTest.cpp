@@ -365,7 +365,7 @@ TEST_F(ControllerDiscovery, ZeroBytesThatFillUpAUnitIDAreNotShownAndNotSentAgain
     selectRow(UnitParameter::unitID);
     EXPECT_EQ(editRows(), Lines{"unit ID = R7"});
     controller.applyEditParameterButton();
-    EXPECT_EQ(lastSent(), "^^IdU5237 to 192.168.1.10:10000");
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^IdU5237");
 }
 
 } // namespace kx

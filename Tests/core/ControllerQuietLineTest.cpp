@@ -121,7 +121,9 @@ TEST_F(ControllerQuietLine, TheReportOfOneUnitDoesNotStandBesideAnother) {
 TEST_F(ControllerQuietLine, RepliesOfOtherUnitsAreNoAnswer) {
     discoverTwo();
     apply(UnitParameter::destinationPortNumber, "3523");
-    receive(secondSampleUnit().acknowledgement());
+    systemCalls.queueDatagram(secondSampleUnit().acknowledgement(),
+                              dataForAddress(ipForString("192.168.1.11"), 3520));
+    runLoop.makeReadable(systemCalls.lastDescriptor());
     receive(secondSampleUnit().reply());
     receive(joined({textBytes("^^<X>"), Bytes(15), textBytes("$ok\r")})); // tells no serial number
     EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");

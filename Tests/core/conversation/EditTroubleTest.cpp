@@ -112,6 +112,19 @@ TEST(ListedHolder, ARecordFromBeforeTheSerialNumberWasChangedIsTheUnitsOwn) {
     EXPECT_EQ(holder.serialNumber(), std::nullopt);
 }
 
+TEST(ListedHolder, AUnitThatTellsItsHardwareAddressLaterIsNotTakenForAnother) {
+    UnitRegistry units;
+    UnitRecord withoutHardwareAddress = recordOf("new", "00:00:00:00:00:01", "192.168.1.10");
+    withoutHardwareAddress.removeValue(internalMACAddress);
+    units.store(withoutHardwareAddress);
+    units.store(recordOf("old", "00:00:00:00:00:01", "192.168.1.10"));
+    ListedHolder holder;
+    holder.seek(units, ipForString("192.168.1.10"), "new");
+    EXPECT_EQ(holder.serialNumber(), "old");
+    holder.unitDidTell(recordOf("new", "00:00:00:00:00:01", "192.168.1.10"));
+    EXPECT_EQ(holder.serialNumber(), std::nullopt);
+}
+
 TEST(ListedHolder, FollowsWhatUnitsTellAfterwards) {
     UnitRegistry units;
     ListedHolder holder;
