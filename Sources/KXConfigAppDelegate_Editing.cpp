@@ -161,12 +161,12 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
         .valueBefore = selectedText(edit.parameter),
         .newSerialNumberIsTaken = newSerialNumberIsTaken(edit),
         .address = ipForString(selectedText(UnitParameter::internalIPAddress).value_or(""))};
-    // When an earlier edit has taken the address out of the record, the unit still had that value.
     if (edit.parameter == UnitParameter::internalIPAddress) {
         unit.address = ipForString(edit.typed);
-        if (_selectedUnit.has_value()) {
-            unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
-        }
+    }
+    // When an earlier edit has taken the address out of the record, the unit still had that value.
+    if (edit.parameter == UnitParameter::internalIPAddress && _selectedUnit.has_value()) {
+        unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
     }
     return unit;
 }
