@@ -60,8 +60,8 @@ bool isHardwareAddressOfMany(std::string_view digits) {
 
 EditTrouble troubleOfEdit(const ParameterEdit& edit, const KnownNetwork& known) {
     if (edit.parameter == UnitParameter::internalIPAddress) {
-        const std::uint32_t address = ipForString(edit.value);
-        return address != 0 ? troubleOfAddress(address, known) : EditTrouble::none;
+        return edit.change == ValueChange::none ? troubleOfAddress(ipForString(edit.value), known)
+                                                : EditTrouble::none;
     }
     const bool isWhole =
         edit.change != ValueChange::notHexadecimal && edit.change != ValueChange::wrongLength;

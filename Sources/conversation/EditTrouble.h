@@ -33,8 +33,8 @@ struct KnownNetwork {
     bool isHeldByAnotherUnit = false;      // ListedHolder found a unit
 };
 
-// The weightiest trouble of a unit's new address or new hardware address. A destination may be of
-// many, and may be this host, so nothing speaks against that.
+// The weightiest trouble of a unit's new address or hardware address; a part of one has none. A
+// destination may be of many, and may be this host, so nothing speaks against that.
 EditTrouble troubleOfEdit(const ParameterEdit& edit, const KnownNetwork& known);
 
 // The unit among those that have answered that tells a sought address. A search goes through all

@@ -223,18 +223,17 @@ std::string textOfTrouble(const CommandTarget& target) {
     case EditTrouble::none:
         break;
     case EditTrouble::ownAddress:
-        return localizedText("This computer has that address itself.");
+        return localizedText("This computer has it.");
     case EditTrouble::addressOfAnotherUnit:
-        return localizedText("The unit %@ has that address.", {target.holderOfAddress});
+        return localizedText("The unit %@ has it.", {target.holderOfAddress});
     case EditTrouble::addressOfMany:
-        return localizedText("That address reaches many hosts, so no unit can have it.");
+        return localizedText("No unit can have it: it reaches many hosts.");
     case EditTrouble::addressOfSubnet:
-        return localizedText("That is the address of the subnet itself, so no unit can have it.");
+        return localizedText("No unit can have it: it is the address of the subnet.");
     case EditTrouble::outsideSubnet:
-        return localizedText("That address is outside the subnet of this computer, so the unit may "
-                             "be out of reach there.");
+        return localizedText("It is outside this computer's subnet, perhaps out of reach.");
     case EditTrouble::hardwareAddressOfMany:
-        return localizedText("That hardware address reaches many hosts, so no unit can have it.");
+        return localizedText("No unit can have it: it reaches many hosts.");
     }
     return {};
 }

@@ -215,8 +215,7 @@ protected:
                 serial == controller.selectedUnit() ||
                 (hardware.has_value() && hardware == selectedValue(internalMACAddress));
             if (!isItself && record.value(internalIPAddress) == edit.value &&
-                quietLine().find("The unit " + serial + " has that address.") !=
-                    std::string::npos) {
+                quietLine().find("The unit " + serial + " has it.") != std::string::npos) {
                 return serial;
             }
         }

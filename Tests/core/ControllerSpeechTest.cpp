@@ -128,14 +128,11 @@ TEST_F(ControllerSpeech, SaysBeforeApplyWhatSpeaksAgainstAnAddress) {
         const auto command = line.find(std::string(" to ") + address + ". ");
         return command == line.npos ? line : line.substr(command + 6 + std::string(address).size());
     };
-    EXPECT_EQ(remarkOn("192.168.1.11"), "The unit 01 02 03 04 05 07 has that address.");
-    EXPECT_EQ(remarkOn("192.168.1.20"), "This computer has that address itself.");
-    EXPECT_EQ(remarkOn("192.168.1.255"),
-              "That address reaches many hosts, so no unit can have it.");
-    EXPECT_EQ(remarkOn("192.168.1.0"),
-              "That is the address of the subnet itself, so no unit can have it.");
-    EXPECT_EQ(remarkOn("10.0.0.7"), "That address is outside the subnet of this computer, so the "
-                                    "unit may be out of reach there.");
+    EXPECT_EQ(remarkOn("192.168.1.11"), "The unit 01 02 03 04 05 07 has it.");
+    EXPECT_EQ(remarkOn("192.168.1.20"), "This computer has it.");
+    EXPECT_EQ(remarkOn("192.168.1.255"), "No unit can have it: it reaches many hosts.");
+    EXPECT_EQ(remarkOn("192.168.1.0"), "No unit can have it: it is the address of the subnet.");
+    EXPECT_EQ(remarkOn("10.0.0.7"), "It is outside this computer's subnet, perhaps out of reach.");
     controller.editTextDidChange("192.168.1.99");
     EXPECT_FALSE(window.quietLine.meansTrouble());
 }
@@ -159,7 +156,7 @@ TEST_F(ControllerSpeech, AnAddressThatAUnitTellsLaterIsRemarkedToo) {
     controller.editTextDidChange("192.168.1.11");
     EXPECT_FALSE(window.quietLine.meansTrouble());
     receive(secondSampleUnit().reply());
-    EXPECT_TRUE(quietLine().ends_with("The unit 01 02 03 04 05 07 has that address."));
+    EXPECT_TRUE(quietLine().ends_with("The unit 01 02 03 04 05 07 has it."));
 }
 
 TEST_F(ControllerSpeech, ReturnInTheEditRowSaysWhatAppliesTheValue) {

@@ -52,8 +52,8 @@ TEST_F(MainWindowSpeech, TheQuietLineIsANotificationWithItsText) {
     click("sendOptionButton");
     EXPECT_EQ(accessible("quietLine").role(), QAccessible::Notification);
     EXPECT_EQ(accessible("quietLine").text(QAccessible::Name).toStdString(),
-              "No unit is selected: Restore Defaults, like Reload, reaches every unit that hears "
-              "it. Not sent: No unit is selected.");
+              "Attention: No unit is selected: Restore Defaults, like Reload, reaches every unit "
+              "that hears it. Not sent: No unit is selected.");
 }
 
 TEST_F(MainWindowSpeech, TheButtonsThatMayReachEverybodySayWhomTheyReach) {
@@ -146,8 +146,8 @@ TEST_F(MainWindowSpeech, AnEmptyControlIsDescribedAsWhatItShows) {
 TEST_F(MainWindowSpeech, AControlWithAContentNeedsNoDescription) {
     launchWithTwoUnits();
     clickParameter(UnitParameter::destinationIPAddress, 0);
-    for (const char* name : {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp",
-                             "interfacePopUp"}) {
+    for (const char* name :
+         {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp"}) {
         EXPECT_EQ(description(name), "") << name;
     }
     click("discoverButton");

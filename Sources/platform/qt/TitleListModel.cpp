@@ -50,7 +50,9 @@ int TitleListModel::rowCount(const QModelIndex& parent) const {
 }
 
 QVariant TitleListModel::data(const QModelIndex& index, int role) const {
-    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+    const bool asksForText = role == Qt::DisplayRole || role == Qt::EditRole ||
+                             role == Qt::AccessibleDescriptionRole || role == detailRole;
+    if (!asksForText || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     const std::string_view title = _titles[static_cast<std::size_t>(index.row())];
@@ -59,11 +61,8 @@ QVariant TitleListModel::data(const QModelIndex& index, int role) const {
         return qtText(visibleText(title));
     case Qt::EditRole:
         return qtText(title);
-    case Qt::AccessibleDescriptionRole:
-    case detailRole:
-        return detailsOf(title);
     default:
-        return {};
+        return detailsOf(title);
     }
 }
 

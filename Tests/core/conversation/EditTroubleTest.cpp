@@ -39,6 +39,7 @@ UnitRecord recordOf(std::string_view serial, std::string_view hardware, std::str
 TEST(EditTrouble, AnAddressInTheSubnetThatNobodyHasIsNone) {
     EXPECT_EQ(troubleOf(internalIPAddress, "192.168.1.99"), EditTrouble::none);
     EXPECT_EQ(troubleOf(internalIPAddress, "not an address"), EditTrouble::none);
+    EXPECT_EQ(troubleOf(internalIPAddress, "192.168.1."), EditTrouble::none); // half typed
 }
 
 TEST(EditTrouble, ThisComputersOwnAddressIsTroubleOnAnyInterface) {
