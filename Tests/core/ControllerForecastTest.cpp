@@ -247,8 +247,8 @@ protected:
             target.unitInPlaceOfRow = isAnother ? controller.selectedUnit() : std::nullopt;
             const auto holder =
                 *parameter == internalIPAddress ? truthfulHolder(*planned) : std::nullopt;
-            target.trouble =
-                holder.has_value() ? EditTrouble::addressOfAnotherUnit : EditTrouble::none;
+            target.trouble = holder.has_value() ? EditTrouble::addressOfAnotherUnit
+                                                : troubleOfEdit(*planned, {});
             target.holderOfAddress = holder.value_or("");
         }
         return forecastOfEdit(edit, target);
