@@ -1161,33 +1161,28 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>This computer has that address itself.</source>
-        <translation>Diese Adresse hat dieser Rechner selbst.</translation>
+        <source>This computer has it.</source>
+        <translation>Dieser Rechner hat sie.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>The unit %@ has that address.</source>
-        <translation>Das Gerät %@ hat diese Adresse.</translation>
+        <source>The unit %@ has it.</source>
+        <translation>Das Gerät %@ hat sie.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address reaches many hosts, so no unit can have it.</source>
-        <translation>Diese Adresse erreicht viele Rechner, darum kann kein Gerät sie haben.</translation>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That is the address of the subnet itself, so no unit can have it.</source>
-        <translation>Das ist die Adresse des Subnetzes selbst, darum kann kein Gerät sie haben.</translation>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Kein Gerät kann sie haben: Sie ist die Adresse des Subnetzes.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address is outside the subnet of this computer, so the unit may be out of reach there.</source>
-        <translation>Diese Adresse liegt außerhalb des Subnetzes dieses Rechners, das Gerät ist dort vielleicht nicht erreichbar.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That hardware address reaches many hosts, so no unit can have it.</source>
-        <translation>Diese Hardware-Adresse erreicht viele Rechner, darum kann kein Gerät sie haben.</translation>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Sie liegt außerhalb des Subnetzes, vielleicht unerreichbar.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -1161,33 +1161,28 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>This computer has that address itself.</source>
-        <translation>Esa dirección es la de este equipo.</translation>
+        <source>This computer has it.</source>
+        <translation>Este equipo la tiene.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>The unit %@ has that address.</source>
-        <translation>La unidad %@ tiene esa dirección.</translation>
+        <source>The unit %@ has it.</source>
+        <translation>La unidad %@ la tiene.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address reaches many hosts, so no unit can have it.</source>
-        <translation>Esa dirección llega a muchos equipos, así que ninguna unidad puede tenerla.</translation>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That is the address of the subnet itself, so no unit can have it.</source>
-        <translation>Es la dirección de la propia subred, así que ninguna unidad puede tenerla.</translation>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Ninguna unidad puede tenerla: es la dirección de la subred.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address is outside the subnet of this computer, so the unit may be out of reach there.</source>
-        <translation>Esa dirección está fuera de la subred de este equipo; quizá no se llegue allí a la unidad.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That hardware address reaches many hosts, so no unit can have it.</source>
-        <translation>Esa dirección de hardware llega a muchos equipos, así que ninguna unidad puede tenerla.</translation>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Está fuera de la subred, quizá fuera de alcance.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -1161,33 +1161,28 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>This computer has that address itself.</source>
-        <translation>Cette adresse est celle de cet ordinateur.</translation>
+        <source>This computer has it.</source>
+        <translation>Cet ordinateur l’a.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>The unit %@ has that address.</source>
-        <translation>L’unité %@ a cette adresse.</translation>
+        <source>The unit %@ has it.</source>
+        <translation>L’unité %@ l’a.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address reaches many hosts, so no unit can have it.</source>
-        <translation>Cette adresse atteint plusieurs hôtes, aucune unité ne peut donc l’avoir.</translation>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That is the address of the subnet itself, so no unit can have it.</source>
-        <translation>C’est l’adresse du sous-réseau lui-même, aucune unité ne peut donc l’avoir.</translation>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Aucune unité ne peut l’avoir : c’est l’adresse du sous-réseau.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address is outside the subnet of this computer, so the unit may be out of reach there.</source>
-        <translation>Cette adresse est hors du sous-réseau de cet ordinateur, l’unité y sera peut-être hors d’atteinte.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That hardware address reaches many hosts, so no unit can have it.</source>
-        <translation>Cette adresse matérielle atteint plusieurs hôtes, aucune unité ne peut donc l’avoir.</translation>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Elle est hors du sous-réseau, peut-être hors d’atteinte.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -1161,33 +1161,28 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>This computer has that address itself.</source>
-        <translation>そのアドレスはこのコンピュータ自身のものです。</translation>
+        <source>This computer has it.</source>
+        <translation>このコンピュータが使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>The unit %@ has that address.</source>
-        <translation>ユニット %@ がそのアドレスを使用しています。</translation>
+        <source>The unit %@ has it.</source>
+        <translation>ユニット %@ が使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address reaches many hosts, so no unit can have it.</source>
-        <translation>そのアドレスは多数宛てなので、ユニットには使えません。</translation>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>多数宛てなので、ユニットには使えません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That is the address of the subnet itself, so no unit can have it.</source>
-        <translation>それはサブネット自体のアドレスなので、ユニットには使えません。</translation>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>サブネットのアドレスなので、ユニットには使えません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That address is outside the subnet of this computer, so the unit may be out of reach there.</source>
-        <translation>そのアドレスはこのコンピュータのサブネットの外にあるため、ユニットに届かなくなることがあります。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>That hardware address reaches many hosts, so no unit can have it.</source>
-        <translation>そのハードウェアアドレスは多数宛てなので、ユニットには使えません。</translation>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>サブネットの外なので、届かなくなることがあります。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
