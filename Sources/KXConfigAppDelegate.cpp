@@ -2,6 +2,7 @@
 
 #include "System Configuration/InterfaceTitles.h"
 #include "support/LocalizedText.h"
+#include "words/InterfaceText.h"
 
 #include <algorithm>
 #include <utility>
@@ -20,7 +21,10 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
                 .receiveBuffers = services.receiveBuffers},
                _devicesD, *this, this)
     , _requestPace(services.runLoop, [this] { requestParametersOwed(); })
-    , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); }) {}
+    , _quietLine([this](std::string_view text, bool meansTrouble) {
+        _outlets.quietLine->setMeansTrouble(meansTrouble);
+        _outlets.quietLine->setStringValue(text);
+    }) {}
 
 KXConfigAppDelegate::~KXConfigAppDelegate() {
     _outlets.unitSelectPopUp->setDimming({}, {});
@@ -44,6 +48,9 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
     _textBeingTyped.reset();
+    _unitOfRow.reset();
+    _returnWasPressed = false;
+    _listedHolder.reset();
     _quietLine.showForecast({});
     _shownTarget.reset();
     _discovery = {};
@@ -56,6 +63,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
     _isDiscoveryLineDue = false;
+    _patience = {};
     _requestPace.reset();
     _outlets.unitSelectPopUp->setDimming({}, {});
     logText.clear();
@@ -87,6 +95,7 @@ void KXConfigAppDelegate::listInterfaces(std::vector<std::string> titles) {
                                             : titles);
     popUp.setEnabled(!titles.empty());
     _interfaceTitles = std::move(titles);
+    describeInterface();
 }
 
 // The chosen interface stays selected while it exists, also under another name, and is selected
@@ -125,7 +134,19 @@ void KXConfigAppDelegate::interfaceSelect() {
             : InterfaceAddress();
     localAddress = chosen.address;
     localMask = chosen.mask;
+    describeInterface();
     lookAtTarget();
+}
+
+// With the address and the mask of the choice, because those are used.
+void KXConfigAppDelegate::describeInterface() {
+    const auto chosen = chosenInterface();
+    const bool canLook = chosen.has_value() && _services.networkInterfaces != nullptr;
+    const auto state =
+        canLook ? _services.networkInterfaces->interfaceState(chosen->name) : std::nullopt;
+    const bool hasInterfaces = !_interfaceTitles.empty();
+    _outlets.interfacePopUp->setDescription(
+        hasInterfaces ? descriptionOfInterface(chosen, state, broadcastAddress()) : "");
 }
 
 std::optional<ChosenInterface> KXConfigAppDelegate::chosenInterface() const {
@@ -163,8 +184,10 @@ void KXConfigAppDelegate::openHelp(std::string_view page) {
     if (!_services.openHelpAnchor) {
         return;
     }
-    if (_services.openHelpAnchor(page)) {
-        _quietLine.endMessage(forecast());
+    const bool isOpen = _services.openHelpAnchor(page) ||
+                        (_services.openHelpInViewer && _services.openHelpInViewer(page));
+    if (isOpen) {
+        endMessage();
     } else if (_services.hasHelpPage && !_services.hasHelpPage(page)) {
         _quietLine.showMessage(localizedText("The pages of the help are not installed."));
     } else {

@@ -23,7 +23,9 @@
 #include "conversation/DiscoveryFacts.h"
 #include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
+#include "conversation/EditTrouble.h"
 #include "conversation/InterfaceAddress.h"
+#include "conversation/RequestOutcome.h"
 #include "conversation/RequestPace.h"
 #include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
@@ -46,6 +48,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <variant>
 #include <vector>
 
 namespace kx {
@@ -89,6 +92,9 @@ public:
         // known. Asked at the end of a discovery that nobody answered. It must send nothing. May be
         // empty.
         std::function<std::optional<std::string>()> likeliestCause = {};
+        // Opens the help at an anchor in the program's own viewer, where openHelpAnchor could not
+        // open it. Empty when there is no viewer.
+        std::function<bool(std::string_view anchor)> openHelpInViewer = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -121,8 +127,12 @@ public:
     void optionCommandPopUp();        // prepares the text of an option command
     void sendOptionButton();          // sends it
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
-    void logDrawerButton();           // opens or closes the event log drawer
-    void myHelp();                    // opens the help at its index
+
+    // A person points at Reload or Restore Defaults, by the keyboard, the mouse or a menu, or at
+    // neither any more. The quiet line says whom the button reaches.
+    void pointAtRequest(std::optional<RequestKind> button);
+    void logDrawerButton(); // opens or closes the event log drawer
+    void myHelp();          // opens the help at its index
 
     // Opens the help at this page. When it does not open, the quiet line says why.
     void openHelp(std::string_view page);
@@ -138,6 +148,14 @@ public:
     // would send for it; nothing is stored. When an edit is cancelled, call this with the stored
     // text.
     void editTextDidChange(std::string_view text);
+
+    // Return was pressed in the edit row's editor. It ends the typing and applies nothing, so the
+    // quiet line says what does.
+    void editTextWasKept();
+
+    // Texts by which a person knows a listed unit beside its serial number: the unit ID and the
+    // address, as far as it has told them.
+    std::vector<std::string> detailsOfUnit(std::string_view serialNumber) const;
 
     // --- Edits of the selected unit's parameters (KXConfigAppDelegate_Editing.cpp) ---
     //
@@ -256,6 +274,9 @@ private:
 
     const UnitRecord* selectedRecord() const;
     std::optional<std::string> selectedText(UnitParameter parameter) const;
+
+    // The same without the zero bytes with which a unit fills up a short unit ID.
+    std::optional<std::string> shownValue(UnitParameter parameter) const;
     UnitDestination unitDestination();
     CommandTarget commandTarget() const;
 
@@ -263,7 +284,8 @@ private:
     void compareReply(const Reply& reply, const DatagramOrigin& origin);
     void rememberUnit(const DecodedUnitParameters& parameters, const DatagramOrigin& origin);
     void rememberAnswer(const Reply& reply, const DatagramOrigin& origin);
-    std::string unitParameters(const DecodedUnitParameters& parameters);
+    std::string unitParameters(const DecodedUnitParameters& parameters,
+                               const DatagramOrigin& origin);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> requestParametersOfUnit();
@@ -303,10 +325,16 @@ private:
     // lookAtTarget() reads the host's broadcast addresses first.
     void showTarget();
     void lookAtTarget();
-    std::string forecast() const;
+    KnownNetwork knownNetwork(const ParameterEdit& edit);
+    CommandTarget targetOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit);
+    QuietLine::Forecast forecast();
     void showForecast();
     void refreshForecast();
-    void showFailureOrForecast(const std::optional<SendFailure>& failure);
+    void endMessage();
+    void waitForAnswers();
+    void showRequest(RequestKind kind, std::string_view command,
+                     const std::optional<SendFailure>& failure);
+    void describeInterface();
 
     void performAfterDelay(std::chrono::milliseconds delay,
                            void (KXConfigAppDelegate::*operation)());
@@ -344,7 +372,13 @@ private:
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
     std::vector<std::uint32_t> _broadcastAddresses; // those of the host and that of the choice
-    std::optional<RequestTarget> _shownTarget;      // absent before the first one is shown
+    KnownNetwork _knownNetwork;                     // as a person last did something
+    ListedHolder _listedHolder;                     // holds the address in the edit row
+    std::optional<std::string> _unitOfRow;          // unit selected when the row was chosen
+    bool _returnWasPressed = false;                 // in the edit row, since it last changed
+    std::optional<RequestKind> _pointedAt;
+    RunLoop::Handle _patience;                 // runs while units have time to answer
+    std::optional<RequestTarget> _shownTarget; // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;
 };
 

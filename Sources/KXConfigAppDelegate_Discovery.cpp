@@ -1,6 +1,7 @@
 #include "KXConfigAppDelegate.h"
 #include "support/TextEncoding.h"
 #include "tables/GXArrayTable.h"
+#include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
 #include "words/SendFailureText.h"
 
@@ -17,11 +18,12 @@ void KXConfigAppDelegate::discoverButton() {
     appendString(entryOfDiscovery());
     _outlets.unitSelectPopUp->removeAllItems();
     beginDiscovery(static_cast<std::uint16_t>(port));
+    describeInterface();
     lookAtTarget();
     _allUnits.discoveryDidBegin();
     _session.start(static_cast<std::size_t>(port));
     showDiscoveryLine();
-    _quietLine.endMessage(forecast());
+    endMessage();
     performAfterDelay(2000ms, &KXConfigAppDelegate::discoverComplete);
 }
 
@@ -41,11 +43,23 @@ void KXConfigAppDelegate::discoverComplete() {
 void KXConfigAppDelegate::unitSelectPopUp() {
     showSelectedUnit();
     lookAtTarget();
-    _quietLine.endMessage(forecast());
+    endMessage();
 }
 
 void KXConfigAppDelegate::showSelectedUnit() {
     setSelectedUnit(_outlets.unitSelectPopUp->titleOfSelectedItem());
+}
+
+std::vector<std::string> KXConfigAppDelegate::detailsOfUnit(std::string_view serialNumber) const {
+    std::vector<std::string> details;
+    if (const UnitRecord* const record = _devicesD.find(serialNumber)) {
+        for (const auto parameter : {UnitParameter::unitID, UnitParameter::internalIPAddress}) {
+            if (const auto value = record->value(parameter)) {
+                details.emplace_back(withoutTrailingZeroBytes(*value));
+            }
+        }
+    }
+    return details;
 }
 
 void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key) {
@@ -54,10 +68,10 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
     if (key.has_value()) {
         _quietLine.unitIsShown(*key);
     }
-    _outlets.unitIDField->setStringValue(selectedText(UnitParameter::unitID).value_or(""));
+    _outlets.unitIDField->setStringValue(shownValue(UnitParameter::unitID).value_or(""));
     _outlets.unitParameterTable->removeAllObjects();
     for (const UnitParameter parameter : allUnitParameters) {
-        const auto value = selectedText(parameter);
+        const auto value = shownValue(parameter);
         if (value.has_value()) {
             auto entry = std::make_shared<KXParameterEntry>();
             entry->setParameterName(std::string(nameOfUnitParameter(parameter)));
@@ -72,11 +86,7 @@ void KXConfigAppDelegate::setSelectedUnit(const std::optional<std::string>& key)
 
 void KXConfigAppDelegate::reloadUnitParameterButton() {
     lookAtTarget();
-    if (const auto failure = requestParametersOfUnit()) {
-        _quietLine.showMessage(noteOfSendFailure(*failure));
-    } else {
-        _quietLine.endMessage(forecast());
-    }
+    showRequest(RequestKind::reload, parameterRequestCommand, requestParametersOfUnit());
 }
 
 void KXConfigAppDelegate::tableViewSelectionDidChange() {
@@ -91,6 +101,8 @@ void KXConfigAppDelegate::tableViewSelectionDidChange() {
                                         key);
     }
     _textBeingTyped.reset();
+    _returnWasPressed = false;
+    _unitOfRow = _selectedUnit;
     _outlets.editParameterTableView->reloadData();
     showForecast();
 }

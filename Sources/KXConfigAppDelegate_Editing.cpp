@@ -3,9 +3,7 @@
 #include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
-#include "words/EditForecast.h"
 #include "words/EventLogEntries.h"
-#include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
 #include <array>
@@ -64,6 +62,7 @@ void KXConfigAppDelegate::applyEditParameterButton() {
     if (!_outlets.window->makeFirstResponder()) {
         _outlets.window->endEditing();
     }
+    _returnWasPressed = false;
     const auto parameter = editedParameter();
     if (!parameter.has_value()) {
         return;
@@ -129,7 +128,8 @@ void KXConfigAppDelegate::sendEdit(UnitParameter parameter) {
     }
     const auto& sent = std::get<ParameterEdit>(edit);
     if (sendCommand(sent.command)) {
-        _quietLine.showOutcome({sent, editedUnit(sent), _sendFailure});
+        _quietLine.showOutcome(EditOutcome(sent, editedUnit(sent), _sendFailure));
+        waitForAnswers();
     }
 }
 
@@ -150,14 +150,20 @@ void KXConfigAppDelegate::edit_internalIP() {
         EditOutcome outcome(move, std::move(unit), _sendFailure);
         outcome.setARPEntry(_arpEntry);
         _quietLine.showOutcome(std::move(outcome));
+        waitForAnswers();
     }
 }
 
 EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) const {
-    EditOutcome::Unit unit{.serialNumber = _selectedUnit,
-                           .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
-                           .valueBefore = selectedText(edit.parameter),
-                           .newSerialNumberIsTaken = newSerialNumberIsTaken(edit)};
+    EditOutcome::Unit unit{
+        .serialNumber = _selectedUnit,
+        .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
+        .valueBefore = selectedText(edit.parameter),
+        .newSerialNumberIsTaken = newSerialNumberIsTaken(edit),
+        .address = ipForString(selectedText(UnitParameter::internalIPAddress).value_or(""))};
+    if (edit.parameter == UnitParameter::internalIPAddress) {
+        unit.address = ipForString(edit.typed);
+    }
     // When an earlier edit has taken the address out of the record, the unit still had that value.
     if (edit.parameter == UnitParameter::internalIPAddress && _selectedUnit.has_value()) {
         unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
@@ -268,7 +274,7 @@ void KXConfigAppDelegate::sendOptionButton() {
     if (const auto refusal = refusalOfCommand(command, commandTarget())) {
         _quietLine.showMessage(noteOfRefusal(*refusal));
     } else if (sendCommand(command)) {
-        showFailureOrForecast(_sendFailure);
+        showRequest(RequestKind::optionCommand, command, _sendFailure);
     }
 }
 
@@ -282,83 +288,11 @@ void KXConfigAppDelegate::restoreDefaultSettings() {
     }
     const auto failure = sendRequest(restoreCommand, unitDestination());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
-    showFailureOrForecast(failure);
+    showRequest(RequestKind::restore, restoreCommand, failure);
 }
 
 void KXConfigAppDelegate::requestParametersAfterRestore() {
     requestParametersOfUnit();
-}
-
-// --- The quiet line ---
-
-void KXConfigAppDelegate::editTextDidChange(std::string_view text) {
-    if (text != _textBeingTyped.value_or(editedValue())) {
-        _textBeingTyped = text;
-        showForecast();
-    }
-}
-
-// The host's addresses are read when a person does something and when a discovery is complete, not
-// with each reply: anybody can send replies, and reading takes time.
-void KXConfigAppDelegate::lookAtTarget() {
-    _broadcastAddresses.clear();
-    if (_services.networkInterfaces != nullptr) {
-        _broadcastAddresses = broadcastAddressesOfHost(*_services.networkInterfaces);
-    }
-    _broadcastAddresses.push_back(broadcastAddress());
-    showTarget();
-}
-
-void KXConfigAppDelegate::showTarget() {
-    const RequestTarget target =
-        targetOfRequest(_selectedUnit.has_value(), selectedRecord(), _broadcastAddresses);
-    if (_shownTarget == target) {
-        return;
-    }
-    _shownTarget = target;
-    _quietLine.setWarning(warningOfTarget(target));
-    _outlets.reloadButton->setDescription(descriptionOfReload(target));
-    _outlets.restoreButton->setDescription(descriptionOfRestore(target));
-}
-
-CommandTarget KXConfigAppDelegate::commandTarget() const {
-    return {.unitIsSelected = _selectedUnit.has_value(),
-            .address = selectedText(UnitParameter::internalIPAddress),
-            .hardwareAddress = selectedText(UnitParameter::internalMACAddress),
-            .isListening = _session.isListening()};
-}
-
-std::string KXConfigAppDelegate::forecast() const {
-    const auto parameter = editedParameter();
-    if (!parameter.has_value()) {
-        return {};
-    }
-    const auto edit = editOfParameter(*parameter, _textBeingTyped.value_or(editedValue()));
-    CommandTarget target = commandTarget();
-    const auto* const planned = std::get_if<ParameterEdit>(&edit);
-    target.newSerialNumberIsTaken = planned != nullptr && newSerialNumberIsTaken(*planned);
-    if (planned != nullptr && planned->parameter == UnitParameter::internalIPAddress) {
-        target.objectionToARPEntry = objectionToARPEntry(target.hardwareAddress, planned->typed);
-    }
-    return forecastOfEdit(edit, target);
-}
-
-void KXConfigAppDelegate::showForecast() {
-    _quietLine.showForecast(forecast());
-}
-
-void KXConfigAppDelegate::refreshForecast() {
-    if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
-        _quietLine.refreshForecast(forecast());
-    }
-}
-
-void KXConfigAppDelegate::showFailureOrForecast(const std::optional<SendFailure>& failure) {
-    if (failure.has_value()) {
-        _quietLine.showMessage(noteOfSendFailure(*failure));
-    } else {
-        showForecast();
-    }
 }
 
 } // namespace kx

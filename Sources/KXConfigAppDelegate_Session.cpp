@@ -5,11 +5,23 @@
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
+#include "words/RequestOutcomeText.h"
 
 #include <cerrno>
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// 0 when the system did not tell the sender.
+std::uint32_t addressOf(const DatagramOrigin& origin) {
+    std::uint32_t host = 0;
+    IPv6Octets unused{};
+    return addressForData(origin.sender, host, unused, nullptr) == addressFamilyIPv4 ? host : 0;
+}
+
+} // namespace
 
 // --- Sending ---
 
@@ -69,6 +81,12 @@ std::optional<std::string> KXConfigAppDelegate::selectedText(UnitParameter param
     const UnitRecord* const record = selectedRecord();
     const auto value = record != nullptr ? record->value(parameter) : std::nullopt;
     return value.has_value() ? std::optional<std::string>(*value) : std::nullopt;
+}
+
+std::optional<std::string> KXConfigAppDelegate::shownValue(UnitParameter parameter) const {
+    const auto text = selectedText(parameter);
+    return text.has_value() ? std::optional(std::string(withoutTrailingZeroBytes(*text)))
+                            : std::nullopt;
 }
 
 UnitDestination KXConfigAppDelegate::unitDestination() {
@@ -141,7 +159,7 @@ void KXConfigAppDelegate::unitDidTellParameters(const Reply& reply,
     }
     compareReply(reply, origin);
     rememberUnit(parameters, origin);
-    appendString(entryOfReply(reply, unitParameters(parameters)));
+    appendString(entryOfReply(reply, unitParameters(parameters, origin)));
 }
 
 void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin& origin) {
@@ -151,14 +169,16 @@ void KXConfigAppDelegate::compareReply(const Reply& reply, const DatagramOrigin&
 }
 
 // Shows what a unit told, and returns its text for the event log.
-std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters) {
+std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& parameters,
+                                                const DatagramOrigin& origin) {
     if (const auto serial = parameters.record.value(UnitParameter::serialNumber)) {
+        _listedHolder.unitDidTell(parameters.record);
         if (serial == _selectedUnit) {
             showSelectedUnit();
         } else {
             refreshForecast(); // another unit may have the serial number that is typed
         }
-        _quietLine.unitDidTell(*serial, parameters.record);
+        _quietLine.unitDidTell(*serial, parameters.record, addressOf(origin));
     }
     return linesOfParameters(parameters.items, _shownNames);
 }
@@ -171,8 +191,10 @@ void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
-            _quietLine.unitDidAccept(*reply.serialNumber, failure);
+            _quietLine.unitDidAccept(*reply.serialNumber, failure, addressOf(origin));
         }
+    } else if (reply.serialNumber.has_value() && reply.serialNumber != _selectedUnit) {
+        _quietLine.unitDidAccept(*reply.serialNumber, std::nullopt, addressOf(origin));
     } else if (reply.serialNumber == _selectedUnit) {
         _acceptedSince = reply.serialNumber;
     }
@@ -190,6 +212,9 @@ void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const Datagr
     compareReply(reply, origin);
     rememberAnswer(reply, origin);
     auto text = textFromUTF8(reply.payload);
+    if (reply.serialNumber.has_value() && text.has_value()) {
+        _quietLine.unitDidAnswer(*reply.serialNumber, addressOf(origin), textOfAnswer(*text));
+    }
     if (text.has_value()) {
         text = quotedLines(*text);
     }

@@ -54,6 +54,9 @@ public:
 
     // The results of that function may have changed.
     virtual void refreshDimming() = 0;
+    // A sentence about the choice: the tool tip, and the description for a screen reader. While the
+    // pop-up says in its own place why nothing is selected, that is the description.
+    virtual void setDescription(std::string_view text) = 0;
 };
 
 class Button {
@@ -77,6 +80,10 @@ public:
 class TextLabel {
 public:
     virtual ~TextLabel() = default;
+
+    // Whether the next text means trouble. Then it has a sign as well as its words, which a screen
+    // reader says, too.
+    virtual void setMeansTrouble(bool meansTrouble) = 0;
 
     virtual void setStringValue(std::string_view text) = 0;
 };

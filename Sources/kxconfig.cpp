@@ -104,7 +104,12 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagno
             .hasHelpPage = [&help = host.helpServices](
                                std::string_view page) { return kx::hasHelpPage(page, help); },
             .neighbours = &host.neighbours,
-            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); }};
+            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
+            .openHelpInViewer =
+                [&help = host.helpServices](std::string_view anchor) {
+                    const auto book = help.helpBookName();
+                    return book.has_value() && help.openAnchorInBook(anchor, *book);
+                }};
 }
 
 // Runs the program until its end, which a person or a signal brings about.

@@ -157,6 +157,32 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Undo</source>
+        <translation>Rück&amp;gängig</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Cu&amp;t</source>
+        <translation>Auss&amp;chneiden</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Pa&amp;ste</source>
+        <translation>&amp;Einfügen</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>&amp;Wert kopieren</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Copy All Pa&amp;rameters</source>
+        <translation>Alle &amp;Parameter kopieren</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
@@ -448,6 +474,7 @@
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>No unit has answered.</source>
         <translation>Kein Gerät hat geantwortet.</translation>
     </message>
@@ -860,11 +887,6 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>Copy &amp;Value</source>
-        <translation>&amp;Wert kopieren</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>No unit has answered yet. Press Discover in the main window.</source>
         <translation>Noch kein Gerät hat geantwortet. Drücken Sie im Hauptfenster „Geräte suchen“.</translation>
     </message>
@@ -922,6 +944,11 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d Geräte stehen in „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AnnouncedLabel.cpp"/>
+        <source>Attention:</source>
+        <translation>Achtung:</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
@@ -1006,8 +1033,24 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Not found</source>
         <translation>Nicht gefunden</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches or more</source>
+        <translation>%d Treffer oder mehr</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>1 match</source>
+        <translation>1 Treffer</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches</source>
+        <translation>%d Treffer</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
@@ -1030,6 +1073,11 @@
         <translation>Inhalt</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Find in this page</source>
+        <translation>Auf dieser Seite suchen</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Parameter</source>
         <translation>Parameter</translation>
@@ -1038,6 +1086,36 @@
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Value</source>
         <translation>Wert</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Finds the units on the chosen interface.</source>
+        <translation>Findet die Geräte an der gewählten Schnittstelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the value in the edit row to the unit.</source>
+        <translation>Sendet den Wert in der Bearbeitungszeile an das Gerät.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the command text to the unit.</source>
+        <translation>Sendet den Befehlstext an das Gerät.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Shows or hides the event log.</source>
+        <translation>Zeigt oder verbirgt das Ereignisprotokoll.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Öffnet die Hilfe.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Return ends the typing. To apply it, press %@.</source>
+        <translation>Die Eingabetaste beendet die Eingabe. Zum Anwenden drücken Sie %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
@@ -1887,6 +1965,41 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>This computer has it.</source>
+        <translation>Dieser Rechner hat sie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>The unit %@ has it.</source>
+        <translation>Das Gerät %@ hat sie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Kein Gerät kann sie haben: Sie ist die Adresse des Subnetzes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Sie liegt außerhalb des Subnetzes, vielleicht unerreichbar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It goes to the unit %@, which was not shown when the row was chosen.</source>
+        <translation>Er geht an das Gerät %@, das bei der Wahl der Zeile nicht gezeigt wurde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Return ends the typing; Ctrl+Return applies.</source>
+        <translation>Die Eingabetaste beendet die Eingabe; Strg+Eingabe wendet an.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends nothing: the command is too long for a datagram.</source>
         <translation>„Anwenden“ sendet nichts: Der Befehl ist zu lang für ein Datagramm.</translation>
     </message>
@@ -1922,6 +2035,16 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number (was %@). Discover lists it under that.</source>
+        <translation>Das Gerät zeigt jetzt %@ als seine Seriennummer (vorher %@). „Geräte suchen“ führt es darunter auf.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@ (was %@).</source>
+        <translation>Das Gerät zeigt jetzt %@ unter „%@“ (vorher %@).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit still shows %@ as its %@.</source>
         <translation>Das Gerät zeigt weiterhin %@ unter „%@“.</translation>
     </message>
@@ -1934,6 +2057,26 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit&apos;s parameters hold no %@.</source>
         <translation>Die Parameter des Geräts enthalten keinen Eintrag „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: it has the address %@ already.</source>
+        <translation>Ein anderes Gerät, %@, hat einen Befehl angenommen: Es hat die Adresse %@ schon.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: both have the address %@.</source>
+        <translation>Ein anderes Gerät, %@, hat einen Befehl angenommen: Beide haben die Adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@.</source>
+        <translation>%@ gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered.</source>
+        <translation>%@ gesendet. Das Gerät hat nicht geantwortet.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -2096,7 +2239,7 @@ Befehl empfangen: ^^%@</translation>
         <source>
 Stuff ARP cache with MAC %@ for IP %@</source>
         <translation>
-ARP-Cache: MAC %@ eingetragen für IP %@</translation>
+ARP-Cache: Eintrag von MAC %@ für IP %@ gestartet</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
@@ -2171,6 +2314,121 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>Das Gerät %@ ist auf zwei Schnittstellen zu hören: %@ und %@. Befehle gehen über die, auf der es zuletzt zu hören war.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>Address %@, mask %@, broadcast address %@.</source>
+        <translation>Adresse %@, Maske %@, Broadcast-Adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The interface has no IPv4 address, so Discover asks %@.</source>
+        <translation>Die Schnittstelle hat keine IPv4-Adresse, darum fragt „Geräte suchen“ %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>No interface is chosen, so Discover asks %@.</source>
+        <translation>Keine Schnittstelle ist gewählt, darum fragt „Geräte suchen“ %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is up.</source>
+        <translation>Die Verbindung steht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is down.</source>
+        <translation>Die Verbindung ist unterbrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked the unit at %@ for its parameters.</source>
+        <translation>Das Gerät mit der Adresse %@ wurde nach seinen Parametern gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked every unit that hears it for its parameters.</source>
+        <translation>Jedes Gerät, das es hört, wurde nach seinen Parametern gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to the unit at %@.</source>
+        <translation>%@ an das Gerät mit der Adresse %@ gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to every unit that hears it.</source>
+        <translation>%@ an jedes Gerät gesendet, das es hört.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered “%@”.</source>
+        <translation>Ein anderes Gerät mit dieser Adresse, %@, hat „%@“ geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered.</source>
+        <translation>Ein anderes Gerät mit dieser Adresse, %@, hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit answered “%@”.</source>
+        <translation>Das Gerät hat „%@“ geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has told them.</source>
+        <translation>Das Gerät hat sie genannt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit accepted a command.</source>
+        <translation>Das Gerät hat einen Befehl angenommen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered.</source>
+        <translation>Das Gerät hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered yet.</source>
+        <translation>Das Gerät hat noch nicht geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered yet.</source>
+        <translation>Noch kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by 1 unit.</source>
+        <translation>Von 1 Gerät angenommen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>1 unit has answered.</source>
+        <translation>1 Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units or more.</source>
+        <translation>Von %d Geräten oder mehr angenommen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units or more have answered.</source>
+        <translation>%d Geräte oder mehr haben geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units.</source>
+        <translation>Von %d Geräten angenommen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units have answered.</source>
+        <translation>%d Geräte haben geantwortet.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

@@ -157,6 +157,32 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;rtar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Pa&amp;ste</source>
+        <translation>&amp;Pegar</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>Copiar &amp;valor</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Copy All Pa&amp;rameters</source>
+        <translation>Copiar todos los pará&amp;metros</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
@@ -448,6 +474,7 @@
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>No unit has answered.</source>
         <translation>Ninguna unidad ha respondido.</translation>
     </message>
@@ -860,11 +887,6 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>Copy &amp;Value</source>
-        <translation>Copiar &amp;valor</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>No unit has answered yet. Press Discover in the main window.</source>
         <translation>Aún no ha respondido ninguna unidad. Pulse «Buscar unidades» en la ventana principal.</translation>
     </message>
@@ -922,6 +944,11 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>Se han escrito %d unidades en «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AnnouncedLabel.cpp"/>
+        <source>Attention:</source>
+        <translation>Atención:</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
@@ -1006,8 +1033,24 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Not found</source>
         <translation>No encontrado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches or more</source>
+        <translation>%d coincidencias o más</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>1 match</source>
+        <translation>1 coincidencia</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches</source>
+        <translation>%d coincidencias</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
@@ -1030,6 +1073,11 @@
         <translation>Contenido</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Find in this page</source>
+        <translation>Buscar en esta página</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Parameter</source>
         <translation>Parámetro</translation>
@@ -1038,6 +1086,36 @@
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Value</source>
         <translation>Valor</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Finds the units on the chosen interface.</source>
+        <translation>Encuentra las unidades de la interfaz elegida.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the value in the edit row to the unit.</source>
+        <translation>Envía a la unidad el valor de la fila de edición.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the command text to the unit.</source>
+        <translation>Envía a la unidad el texto de la orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Shows or hides the event log.</source>
+        <translation>Muestra u oculta el registro de eventos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Abre la ayuda.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Return ends the typing. To apply it, press %@.</source>
+        <translation>La tecla Intro termina la escritura. Para aplicar, pulse %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
@@ -1887,6 +1965,41 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>This computer has it.</source>
+        <translation>Este equipo la tiene.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>The unit %@ has it.</source>
+        <translation>La unidad %@ la tiene.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Ninguna unidad puede tenerla: es la dirección de la subred.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Está fuera de la subred, quizá fuera de alcance.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It goes to the unit %@, which was not shown when the row was chosen.</source>
+        <translation>Va a la unidad %@, que no se mostraba cuando se eligió la fila.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Return ends the typing; Ctrl+Return applies.</source>
+        <translation>Intro termina la escritura; Ctrl+Intro aplica.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends nothing: the command is too long for a datagram.</source>
         <translation>«Aplicar» no envía nada: la orden es demasiado larga para un datagrama.</translation>
     </message>
@@ -1922,6 +2035,16 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number (was %@). Discover lists it under that.</source>
+        <translation>La unidad muestra ahora %@ como su número de serie (antes %@). «Buscar unidades» la incluye en la lista con ese número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@ (was %@).</source>
+        <translation>La unidad muestra ahora %@ en «%@» (antes %@).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit still shows %@ as its %@.</source>
         <translation>La unidad sigue mostrando %@ en «%@».</translation>
     </message>
@@ -1934,6 +2057,26 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit&apos;s parameters hold no %@.</source>
         <translation>Los parámetros de la unidad no contienen «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: it has the address %@ already.</source>
+        <translation>Otra unidad, %@, aceptó una orden: ya tiene la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: both have the address %@.</source>
+        <translation>Otra unidad, %@, aceptó una orden: ambas tienen la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@.</source>
+        <translation>Se envió %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered.</source>
+        <translation>Se envió %@. La unidad no ha respondido.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -2096,7 +2239,7 @@ Orden recibida: ^^%@</translation>
         <source>
 Stuff ARP cache with MAC %@ for IP %@</source>
         <translation>
-Caché ARP: MAC %@ inscrita para la IP %@</translation>
+Caché ARP: inscripción de la MAC %@ para la IP %@ iniciada</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
@@ -2171,6 +2314,121 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>La unidad %@ se oye en dos interfaces: %@ y %@. Las órdenes salen por aquella en la que se oyó por última vez.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>Address %@, mask %@, broadcast address %@.</source>
+        <translation>Dirección %@, máscara %@, dirección de difusión %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The interface has no IPv4 address, so Discover asks %@.</source>
+        <translation>La interfaz no tiene dirección IPv4, así que «Buscar unidades» pregunta a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>No interface is chosen, so Discover asks %@.</source>
+        <translation>No se ha elegido ninguna interfaz, así que «Buscar unidades» pregunta a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is up.</source>
+        <translation>El enlace está activo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is down.</source>
+        <translation>El enlace está inactivo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked the unit at %@ for its parameters.</source>
+        <translation>Se pidieron sus parámetros a la unidad con la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked every unit that hears it for its parameters.</source>
+        <translation>Se pidieron sus parámetros a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to the unit at %@.</source>
+        <translation>Se envió %@ a la unidad con la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to every unit that hears it.</source>
+        <translation>Se envió %@ a todas las unidades que lo oyen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered “%@”.</source>
+        <translation>Otra unidad con esta dirección, %@, respondió «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered.</source>
+        <translation>Otra unidad con esta dirección, %@, respondió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit answered “%@”.</source>
+        <translation>La unidad respondió «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has told them.</source>
+        <translation>La unidad los ha dado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit accepted a command.</source>
+        <translation>La unidad aceptó una orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered.</source>
+        <translation>La unidad no ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered yet.</source>
+        <translation>La unidad aún no ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered yet.</source>
+        <translation>Aún no ha respondido ninguna unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by 1 unit.</source>
+        <translation>Aceptada por 1 unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>1 unit has answered.</source>
+        <translation>Ha respondido 1 unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units or more.</source>
+        <translation>Aceptada por %d unidades o más.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units or more have answered.</source>
+        <translation>Han respondido %d unidades o más.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units.</source>
+        <translation>Aceptada por %d unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units have answered.</source>
+        <translation>Han respondido %d unidades.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

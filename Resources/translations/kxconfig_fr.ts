@@ -157,6 +157,32 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Cu&amp;t</source>
+        <translation>Co&amp;uper</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Pa&amp;ste</source>
+        <translation>Co&amp;ller</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>Copier la &amp;valeur</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Copy All Pa&amp;rameters</source>
+        <translation>Copier tous les para&amp;mètres</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
@@ -448,6 +474,7 @@
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>No unit has answered.</source>
         <translation>Aucune unité n’a répondu.</translation>
     </message>
@@ -860,11 +887,6 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>Copy &amp;Value</source>
-        <translation>Copier la &amp;valeur</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>No unit has answered yet. Press Discover in the main window.</source>
         <translation>Aucune unité n’a encore répondu. Appuyez sur « Détecter » dans la fenêtre principale.</translation>
     </message>
@@ -922,6 +944,11 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d unités sont écrites dans « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AnnouncedLabel.cpp"/>
+        <source>Attention:</source>
+        <translation>Attention :</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
@@ -1006,8 +1033,24 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Not found</source>
         <translation>Introuvable</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches or more</source>
+        <translation>%d résultats ou plus</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>1 match</source>
+        <translation>1 résultat</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches</source>
+        <translation>%d résultats</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
@@ -1030,6 +1073,11 @@
         <translation>Sommaire</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Find in this page</source>
+        <translation>Rechercher dans la page</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Parameter</source>
         <translation>Paramètre</translation>
@@ -1038,6 +1086,36 @@
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Value</source>
         <translation>Valeur</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Finds the units on the chosen interface.</source>
+        <translation>Trouve les unités sur l’interface choisie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the value in the edit row to the unit.</source>
+        <translation>Envoie à l’unité la valeur de la ligne d’édition.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the command text to the unit.</source>
+        <translation>Envoie à l’unité le texte de la commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Shows or hides the event log.</source>
+        <translation>Affiche ou masque le journal des événements.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Ouvre l’aide.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Return ends the typing. To apply it, press %@.</source>
+        <translation>La touche Entrée termine la saisie. Pour appliquer, appuyez sur %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
@@ -1887,6 +1965,41 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>This computer has it.</source>
+        <translation>Cet ordinateur l’a.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>The unit %@ has it.</source>
+        <translation>L’unité %@ l’a.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>Aucune unité ne peut l’avoir : c’est l’adresse du sous-réseau.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>Elle est hors du sous-réseau, peut-être hors d’atteinte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It goes to the unit %@, which was not shown when the row was chosen.</source>
+        <translation>Elle va à l’unité %@, qui n’était pas affichée quand la ligne a été choisie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Return ends the typing; Ctrl+Return applies.</source>
+        <translation>Entrée termine la saisie ; Ctrl+Entrée applique.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends nothing: the command is too long for a datagram.</source>
         <translation>« Appliquer » n’envoie rien : la commande est trop longue pour un datagramme.</translation>
     </message>
@@ -1922,6 +2035,16 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number (was %@). Discover lists it under that.</source>
+        <translation>L’unité affiche maintenant %@ comme numéro de série (avant : %@). « Détecter » la présente sous ce numéro.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@ (was %@).</source>
+        <translation>L’unité affiche maintenant %@ sous « %@ » (avant : %@).</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit still shows %@ as its %@.</source>
         <translation>L’unité affiche toujours %@ sous « %@ ».</translation>
     </message>
@@ -1934,6 +2057,26 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit&apos;s parameters hold no %@.</source>
         <translation>Les paramètres de l’unité ne contiennent pas « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: it has the address %@ already.</source>
+        <translation>Une autre unité, %@, a accepté une commande : elle a déjà l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: both have the address %@.</source>
+        <translation>Une autre unité, %@, a accepté une commande : les deux ont l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@.</source>
+        <translation>%@ a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered.</source>
+        <translation>%@ a été envoyé. L’unité n’a pas répondu.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -2096,7 +2239,7 @@ Commande reçue : ^^%@</translation>
         <source>
 Stuff ARP cache with MAC %@ for IP %@</source>
         <translation>
-Cache ARP : MAC %@ inscrite pour l’IP %@</translation>
+Cache ARP : inscription de la MAC %@ pour l’IP %@ lancée</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
@@ -2171,6 +2314,121 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>L’unité %@ est entendue sur deux interfaces : %@ et %@. Les commandes partent par celle où elle a été entendue en dernier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>Address %@, mask %@, broadcast address %@.</source>
+        <translation>Adresse %@, masque %@, adresse de diffusion %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The interface has no IPv4 address, so Discover asks %@.</source>
+        <translation>L’interface n’a pas d’adresse IPv4, « Détecter » interroge donc %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>No interface is chosen, so Discover asks %@.</source>
+        <translation>Aucune interface n’est choisie, « Détecter » interroge donc %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is up.</source>
+        <translation>La liaison est établie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is down.</source>
+        <translation>La liaison est coupée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked the unit at %@ for its parameters.</source>
+        <translation>Les paramètres ont été demandés à l’unité à l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked every unit that hears it for its parameters.</source>
+        <translation>Les paramètres ont été demandés à toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to the unit at %@.</source>
+        <translation>%@ a été envoyé à l’unité à l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to every unit that hears it.</source>
+        <translation>%@ a été envoyé à toutes les unités qui l’entendent.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered “%@”.</source>
+        <translation>Une autre unité à cette adresse, %@, a répondu « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered.</source>
+        <translation>Une autre unité à cette adresse, %@, a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit answered “%@”.</source>
+        <translation>L’unité a répondu « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has told them.</source>
+        <translation>L’unité les a donnés.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit accepted a command.</source>
+        <translation>L’unité a accepté une commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered.</source>
+        <translation>L’unité n’a pas répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered yet.</source>
+        <translation>L’unité n’a pas encore répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered yet.</source>
+        <translation>Aucune unité n’a encore répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by 1 unit.</source>
+        <translation>Acceptée par 1 unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>1 unit has answered.</source>
+        <translation>1 unité a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units or more.</source>
+        <translation>Acceptée par %d unités ou plus.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units or more have answered.</source>
+        <translation>%d unités ou plus ont répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units.</source>
+        <translation>Acceptée par %d unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units have answered.</source>
+        <translation>%d unités ont répondu.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

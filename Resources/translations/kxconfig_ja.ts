@@ -157,6 +157,32 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Cu&amp;t</source>
+        <translation>切り取り(&amp;T)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Pa&amp;ste</source>
+        <translation>貼り付け(&amp;S)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>Copy &amp;Value</source>
+        <translation>値をコピー(&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>Copy All Pa&amp;rameters</source>
+        <translation>すべてのパラメータをコピー(&amp;R)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
@@ -448,6 +474,7 @@
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>No unit has answered.</source>
         <translation>応答したユニットはありません。</translation>
     </message>
@@ -860,11 +887,6 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>Copy &amp;Value</source>
-        <translation>値をコピー(&amp;V)</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>No unit has answered yet. Press Discover in the main window.</source>
         <translation>まだどのユニットも応答していません。メインウィンドウで「検出」を押してください。</translation>
     </message>
@@ -922,6 +944,11 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>%d units are written to “%@”.</source>
         <translation>%d 台のユニットを「%@」に書き込みました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/AnnouncedLabel.cpp"/>
+        <source>Attention:</source>
+        <translation>注意:</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
@@ -1006,8 +1033,24 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Not found</source>
         <translation>見つかりません</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches or more</source>
+        <translation>%d 件以上</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>1 match</source>
+        <translation>1 件</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <source>%d matches</source>
+        <translation>%d 件</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
@@ -1030,6 +1073,11 @@
         <translation>目次</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
+        <source>Find in this page</source>
+        <translation>このページ内を検索</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Parameter</source>
         <translation>パラメータ</translation>
@@ -1038,6 +1086,36 @@
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
         <source>Value</source>
         <translation>値</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Finds the units on the chosen interface.</source>
+        <translation>選択したインターフェース上のユニットを探します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the value in the edit row to the unit.</source>
+        <translation>編集行の値をユニットに送信します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Sends the command text to the unit.</source>
+        <translation>コマンドの文字列をユニットに送信します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Shows or hides the event log.</source>
+        <translation>イベントログを表示または非表示にします。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>ヘルプを開きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Return ends the typing. To apply it, press %@.</source>
+        <translation>Return は入力を終えるだけです。適用するには %@ を押してください。</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
@@ -1887,6 +1965,41 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>This computer has it.</source>
+        <translation>このコンピュータが使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>The unit %@ has it.</source>
+        <translation>ユニット %@ が使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>多数宛てなので、ユニットには使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it is the address of the subnet.</source>
+        <translation>サブネットのアドレスなので、ユニットには使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It is outside this computer&apos;s subnet, perhaps out of reach.</source>
+        <translation>サブネットの外なので、届かなくなることがあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>It goes to the unit %@, which was not shown when the row was chosen.</source>
+        <translation>送信先はユニット %@ です。行を選んだときに表示していたユニットではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>Return ends the typing; Ctrl+Return applies.</source>
+        <translation>Return は入力を終えるだけです。適用は Ctrl+Return です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends nothing: the command is too long for a datagram.</source>
         <translation>「適用」を押しても何も送信されません: コマンドがデータグラムに収まりません。</translation>
     </message>
@@ -1922,6 +2035,16 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its serial number (was %@). Discover lists it under that.</source>
+        <translation>ユニットのシリアル番号は %@ になりました（以前は %@）。「検出」を押すと、この番号で一覧に表示されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>The unit now shows %@ as its %@ (was %@).</source>
+        <translation>ユニットは現在 %@ を「%@」として示しています（以前は %@）。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit still shows %@ as its %@.</source>
         <translation>ユニットはまだ %@ を「%@」として示しています。</translation>
     </message>
@@ -1934,6 +2057,26 @@
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
         <source>The unit&apos;s parameters hold no %@.</source>
         <translation>ユニットのパラメータに「%@」がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: it has the address %@ already.</source>
+        <translation>別のユニット %@ がコマンドを受け付けました: すでにアドレス %@ を使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Another unit, %@, accepted a command: both have the address %@.</source>
+        <translation>別のユニット %@ がコマンドを受け付けました: 両方がアドレス %@ を使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@.</source>
+        <translation>%@ を送信しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/EditOutcomeText.cpp"/>
+        <source>Sent %@. The unit has not answered.</source>
+        <translation>%@ を送信しました。ユニットは応答しませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditOutcomeText.cpp"/>
@@ -2096,7 +2239,7 @@ Received command: ^^%@</source>
         <source>
 Stuff ARP cache with MAC %@ for IP %@</source>
         <translation>
-ARP キャッシュに登録: MAC %@、IP %@</translation>
+ARP キャッシュへの登録を開始: MAC %@、IP %@</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EventLogEntries.cpp"/>
@@ -2171,6 +2314,121 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>ユニット %@ は 2 つのインターフェースで受信されています: %@ と %@。コマンドは最後に受信したインターフェースから送信されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>Address %@, mask %@, broadcast address %@.</source>
+        <translation>アドレス %@、マスク %@、ブロードキャストアドレス %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The interface has no IPv4 address, so Discover asks %@.</source>
+        <translation>インターフェースに IPv4 アドレスがないため、「検出」は %@ に問い合わせます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>No interface is chosen, so Discover asks %@.</source>
+        <translation>インターフェースが選択されていないため、「検出」は %@ に問い合わせます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is up.</source>
+        <translation>リンクは接続されています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/InterfaceText.cpp"/>
+        <source>The link is down.</source>
+        <translation>リンクは切れています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked the unit at %@ for its parameters.</source>
+        <translation>アドレス %@ のユニットにパラメータを要求しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Asked every unit that hears it for its parameters.</source>
+        <translation>受信したすべてのユニットにパラメータを要求しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to the unit at %@.</source>
+        <translation>%@ をアドレス %@ のユニットに送信しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Sent %@ to every unit that hears it.</source>
+        <translation>%@ を受信するすべてのユニットに送信しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered “%@”.</source>
+        <translation>このアドレスの別のユニット %@ が「%@」と応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Another unit at this address, %@, answered.</source>
+        <translation>このアドレスの別のユニット %@ が応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit answered “%@”.</source>
+        <translation>ユニットは「%@」と応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has told them.</source>
+        <translation>ユニットはパラメータを返しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit accepted a command.</source>
+        <translation>ユニットはコマンドを受け付けました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered.</source>
+        <translation>ユニットは応答しませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>The unit has not answered yet.</source>
+        <translation>ユニットはまだ応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered yet.</source>
+        <translation>まだどのユニットも応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by 1 unit.</source>
+        <translation>1 台のユニットが受け付けました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>1 unit has answered.</source>
+        <translation>1 台のユニットが応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units or more.</source>
+        <translation>%d 台以上のユニットが受け付けました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units or more have answered.</source>
+        <translation>%d 台以上のユニットが応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>Accepted by %d units.</source>
+        <translation>%d 台のユニットが受け付けました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>%d units have answered.</source>
+        <translation>%d 台のユニットが応答しました。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/RequestTargetText.cpp"/>

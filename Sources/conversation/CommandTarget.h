@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "conversation/EditTrouble.h"
 #include "units/ParameterEdit.h"
 
 #include <optional>
@@ -24,6 +25,17 @@ struct CommandTarget {
 
     // Another unit than the selected one has the serial number that was typed.
     bool newSerialNumberIsTaken = false;
+
+    // What speaks against the typed value, and the unit of EditTrouble::addressOfAnotherUnit.
+    EditTrouble trouble = EditTrouble::none;
+    std::string holderOfAddress = {};
+
+    // The serial number of the selected unit when another one was selected as the row of the edit
+    // was chosen; absent otherwise.
+    std::optional<std::string> unitInPlaceOfRow = {};
+
+    // The person has pressed Return in the edit row, which only ends the typing.
+    bool returnWasPressed = false;
 
     // Why no ARP entry will be made for the typed address, in a sentence that is a key of the
     // catalogues. Empty when nothing speaks against it.

@@ -26,6 +26,21 @@ bool EditOutcome::unitDidAccept(std::string_view serialNumber,
     return true;
 }
 
+bool EditOutcome::otherUnitDidAccept(std::string_view serialNumber, std::uint32_t sender) {
+    const bool isOwnNewNumber =
+        _edit.parameter == UnitParameter::serialNumber && serialNumber == _edit.expectedText;
+    if (_state == EditState::notSent || serialNumber == _unit.serialNumber || isOwnNewNumber ||
+        serialNumber == _otherUnit || sender == 0 || sender != _unit.address) {
+        return false;
+    }
+    _otherUnit = serialNumber;
+    return true;
+}
+
+bool EditOutcome::setPatienceIsOver(bool isOver) {
+    return std::exchange(_isPatienceOver, isOver) != isOver && _state == EditState::pending;
+}
+
 bool EditOutcome::unitDidTell(std::string_view serialNumber, const UnitRecord& record) {
     if (_state == EditState::notSent || !isFromUnit(serialNumber, record)) {
         return false;

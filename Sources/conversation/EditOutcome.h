@@ -15,6 +15,7 @@
 #include "units/ParameterEdit.h"
 #include "units/UnitRecord.h"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,6 +43,9 @@ public:
 
         // Another unit has already told the serial number that this unit is to get.
         bool newSerialNumberIsTaken = false;
+
+        // The address to which the command was sent, in host byte order; 0 when it is not known.
+        std::uint32_t address = 0;
     };
 
     // The command was handed to the network. `failure`, when present, says why the network refused
@@ -73,6 +77,22 @@ public:
     // not sent, and for a second acceptance, unless the unit could be asked only after that one.
     bool unitDidAccept(std::string_view serialNumber, std::optional<SendFailure> requestFailure);
 
+    // Another unit accepted a command: its acknowledgement came from `sender`, the address to which
+    // the edit was sent, so that unit took it. Returns false and changes nothing when it came from
+    // another address, for the edited unit itself, for an edit that was not sent, and for a unit
+    // that was told already.
+    bool otherUnitDidAccept(std::string_view serialNumber, std::uint32_t sender);
+
+    // The serial number of the other unit that accepted a command last; absent when none has.
+    const std::optional<std::string>& otherUnit() const { return _otherUnit; }
+    std::uint32_t address() const { return _unit.address; }
+
+    // The unit had enough time for an answer, or it is given time once more. Each returns whether
+    // that changes the outcome.
+    bool patienceDidEnd() { return setPatienceIsOver(true); }
+    bool patienceDidBegin() { return setPatienceIsOver(false); }
+    bool isPatienceOver() const { return _isPatienceOver; }
+
     // A unit told its parameters. Returns false and changes nothing for another unit and for an
     // edit that was not sent. A unit whose serial number was edited answers under the new one. It
     // is recognised by its hardware address or, when that is not known, by a number that no other
@@ -81,6 +101,7 @@ public:
 
 private:
     bool isFromUnit(std::string_view serialNumber, const UnitRecord& record) const;
+    bool setPatienceIsOver(bool isOver);
 
     ParameterEdit _edit;
     Unit _unit;
@@ -90,6 +111,8 @@ private:
     std::optional<std::string> _shownValue;
     ARPEntry _arpEntry;
     bool _hasAccepted = false;
+    std::optional<std::string> _otherUnit;
+    bool _isPatienceOver = false;
 };
 
 } // namespace kx

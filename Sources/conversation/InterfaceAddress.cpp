@@ -57,15 +57,25 @@ std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address)
                : std::nullopt;
 }
 
-std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces) {
+std::vector<InterfaceAddress> addressesOfHost(NetworkInterfaces& interfaces) {
     std::vector<std::string> serviceIDs;
     interfaces.bsdTitlesAndServiceIDs(&serviceIDs);
-    std::vector<std::uint32_t> broadcasts;
+    std::vector<InterfaceAddress> all;
     for (const std::string& serviceID : serviceIDs) {
         for (const InterfaceAddress& each : addressesOfService(interfaces, serviceID)) {
-            if (const auto broadcast = broadcastAddressOf(each)) {
-                broadcasts.push_back(*broadcast);
+            if (each.address != 0) {
+                all.push_back(each);
             }
+        }
+    }
+    return all;
+}
+
+std::vector<std::uint32_t> broadcastAddressesOf(const std::vector<InterfaceAddress>& addresses) {
+    std::vector<std::uint32_t> broadcasts;
+    for (const InterfaceAddress& each : addresses) {
+        if (const auto broadcast = broadcastAddressOf(each)) {
+            broadcasts.push_back(*broadcast);
         }
     }
     return broadcasts;

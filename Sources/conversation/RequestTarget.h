@@ -27,7 +27,7 @@ struct RequestTarget {
 };
 
 // Whether a datagram to this address reaches every unit that hears it: 255.255.255.255, a multicast
-// address, one of `broadcastAddresses`, which are those of this host (broadcastAddressesOfHost()),
+// address, one of `broadcastAddresses`, which are those of this host (broadcastAddressesOf()),
 // and 0.0.0.0, which also stands for a text that is no address.
 bool isAddressOfMany(std::uint32_t address, std::span<const std::uint32_t> broadcastAddresses);
 

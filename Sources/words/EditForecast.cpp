@@ -3,6 +3,7 @@
 #include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
+#include "units/IdentityText.h"
 #include "units/UnitCommand.h"
 #include "words/QuotedText.h"
 
@@ -217,6 +218,46 @@ std::string forecastOfForm(const ParameterEdit& edit, const CommandTarget& targe
     return forecastOfUnitID(edit);
 }
 
+std::string textOfTrouble(const CommandTarget& target) {
+    switch (target.trouble) {
+    case EditTrouble::none:
+        break;
+    case EditTrouble::ownAddress:
+        return localizedText("This computer has it.");
+    case EditTrouble::addressOfAnotherUnit:
+        return localizedText("The unit %@ has it.", {target.holderOfAddress});
+    case EditTrouble::addressOfMany:
+        return localizedText("No unit can have it: it reaches many hosts.");
+    case EditTrouble::addressOfSubnet:
+        return localizedText("No unit can have it: it is the address of the subnet.");
+    case EditTrouble::outsideSubnet:
+        return localizedText("It is outside this computer's subnet, perhaps out of reach.");
+    case EditTrouble::hardwareAddressOfMany:
+        return localizedText("No unit can have it: it reaches many hosts.");
+    }
+    return {};
+}
+
+std::string forecastOfCommand(const ParameterEdit& edit, const CommandTarget& target) {
+    return edit.parameter == UnitParameter::internalIPAddress ? forecastOfMove(edit, target)
+                                                              : forecastOfForm(edit, target);
+}
+
+// The sentence about the command comes first, and the trouble next.
+std::string withRemarks(std::string forecast, const CommandTarget& target) {
+    const std::string trouble = textOfTrouble(target);
+    forecast += trouble.empty() ? "" : ' ' + trouble;
+    if (target.unitInPlaceOfRow.has_value()) {
+        forecast += ' ' + localizedText("It goes to the unit %@, which was not shown when the row "
+                                        "was chosen.",
+                                        {*target.unitInPlaceOfRow});
+    }
+    if (target.returnWasPressed) {
+        forecast += ' ' + localizedText("Return ends the typing; Ctrl+Return applies.");
+    }
+    return forecast;
+}
+
 } // namespace
 
 std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
@@ -228,12 +269,27 @@ std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
     if (parameterEdit.isTooLong()) {
         return localizedText("Apply sends nothing: the command is too long for a datagram.");
     }
-    if (parameterEdit.parameter == UnitParameter::internalIPAddress) {
-        return forecastOfMove(parameterEdit, target);
+    if (!target.isListening && parameterEdit.parameter != UnitParameter::internalIPAddress) {
+        return localizedText("Apply sends nothing: the UDP listener is not running.");
     }
-    return target.isListening
-               ? forecastOfForm(parameterEdit, target)
-               : localizedText("Apply sends nothing: the UDP listener is not running.");
+    return withRemarks(forecastOfCommand(parameterEdit, target), target);
+}
+
+bool meansTrouble(const std::variant<ParameterEdit, EditRefusal>& edit,
+                  const CommandTarget& target) {
+    const auto* const planned = std::get_if<ParameterEdit>(&edit);
+    if (planned == nullptr) {
+        return false; // an empty value, for example, is on its way to another one
+    }
+    // Units fill up a short unit ID.
+    const bool isShortUnitID = planned->parameter == UnitParameter::unitID &&
+                               planned->change == ValueChange::wrongLength &&
+                               planned->typed.size() < identityLength;
+    const bool isChanged = planned->change != ValueChange::none &&
+                           planned->change != ValueChange::readAs && !isShortUnitID;
+    return isChanged || planned->isTooLong() || !target.isListening ||
+           target.newSerialNumberIsTaken || target.trouble != EditTrouble::none ||
+           target.unitInPlaceOfRow.has_value() || !target.objectionToARPEntry.empty();
 }
 
 std::string forecastOfValueAlone(const ParameterEdit& edit) {

@@ -18,6 +18,10 @@ namespace kx {
 std::string forecastOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit,
                            const CommandTarget& target);
 
+// Whether what Apply will send is not what was typed, or something speaks against it.
+bool meansTrouble(const std::variant<ParameterEdit, EditRefusal>& edit,
+                  const CommandTarget& target);
+
 // The sentence about the value alone, wherever the command goes. For an edit whose value was
 // changed it says how, for example "Apply sends ^^IdT0DC0: destination port 3520, because 3524 is
 // outside 3520 to 3523."

@@ -1,5 +1,6 @@
 #include "words/EditOutcomeText.h"
 
+#include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
@@ -27,17 +28,32 @@ std::string textOfAcceptance(const EditOutcome& outcome) {
                                       "parameters.");
 }
 
+// With the value before, where that was another one.
+std::string textOfNewValue(const EditOutcome& outcome, const std::string& shown,
+                           const std::string& name) {
+    const bool hasNewNumber = outcome.edit().parameter == UnitParameter::serialNumber &&
+                              outcome.shownValue() != outcome.unit();
+    const std::string before =
+        safeForSentence(withoutTrailingZeroBytes(outcome.valueBefore().value_or("")));
+    if (before.empty() || before == shown) {
+        return hasNewNumber ? localizedText("The unit now shows %@ as its serial number. Discover "
+                                            "lists it under that.",
+                                            {shown})
+                            : localizedText("The unit now shows %@ as its %@.", {shown, name});
+    }
+    return hasNewNumber
+               ? localizedText("The unit now shows %@ as its serial number (was %@). Discover "
+                               "lists it under that.",
+                               {shown, before})
+               : localizedText("The unit now shows %@ as its %@ (was %@).", {shown, name, before});
+}
+
 std::string textOfShownValue(const EditOutcome& outcome) {
     const std::string name = localizedText(nameOfUnitParameter(outcome.edit().parameter));
     const std::string shown = safeForSentence(outcome.shownValue().value_or(""));
     switch (outcome.state()) {
     case EditState::shown:
-        return outcome.edit().parameter == UnitParameter::serialNumber &&
-                       outcome.shownValue() != outcome.unit()
-                   ? localizedText("The unit now shows %@ as its serial number. Discover lists it "
-                                   "under that.",
-                                   {shown})
-                   : localizedText("The unit now shows %@ as its %@.", {shown, name});
+        return textOfNewValue(outcome, shown, name);
     case EditState::unchanged:
         return localizedText("The unit still shows %@ as its %@.", {shown, name});
     case EditState::different:
@@ -48,13 +64,36 @@ std::string textOfShownValue(const EditOutcome& outcome) {
     }
 }
 
+// The edited unit may have heard nothing, or may have taken the command as well.
+std::string textOfOtherUnit(const EditOutcome& outcome) {
+    if (!outcome.otherUnit().has_value()) {
+        return {};
+    }
+    const std::string address = stringForIP(outcome.address());
+    return outcome.edit().parameter == UnitParameter::internalIPAddress
+               ? localizedText("Another unit, %@, accepted a command: it has the address %@ "
+                               "already.",
+                               {*outcome.otherUnit(), address})
+               : localizedText("Another unit, %@, accepted a command: both have the address %@.",
+                               {*outcome.otherUnit(), address});
+}
+
+std::string textOfWaiting(const EditOutcome& outcome) {
+    const std::string command = safeForSentence(outcome.edit().command);
+    if (outcome.otherUnit().has_value()) {
+        return localizedText("Sent %@.", {command});
+    }
+    return outcome.isPatienceOver()
+               ? localizedText("Sent %@. The unit has not answered.", {command})
+               : localizedText("Sent %@. The unit has not answered yet.", {command});
+}
+
 std::string textOfState(const EditOutcome& outcome) {
     switch (outcome.state()) {
     case EditState::notSent:
         return noteOfSendFailure(outcome.failure().value_or(SendFailure()));
     case EditState::pending:
-        return localizedText("Sent %@. The unit has not answered yet.",
-                             {safeForSentence(outcome.edit().command)});
+        return textOfWaiting(outcome);
     case EditState::accepted:
         return textOfAcceptance(outcome);
     case EditState::shown:
@@ -116,9 +155,32 @@ std::string textOfARPEntry(std::string_view typedAddress, const ARPEntry& entry)
 }
 
 std::string textOfEditOutcome(const EditOutcome& outcome) {
-    const std::string entry = textOfARPEntry(outcome.edit().typed, outcome.arpEntry());
-    const std::string state = textOfState(outcome);
-    return entry.empty() ? state : state + ' ' + entry;
+    std::string text = textOfState(outcome);
+    for (const std::string& more :
+         {textOfOtherUnit(outcome), textOfARPEntry(outcome.edit().typed, outcome.arpEntry())}) {
+        text += more.empty() ? "" : ' ' + more;
+    }
+    return text;
+}
+
+bool meansTrouble(const EditOutcome& outcome) {
+    switch (outcome.state()) {
+    case EditState::notSent:
+    case EditState::unchanged:
+    case EditState::different:
+        return true;
+    case EditState::pending:
+        if (outcome.isPatienceOver()) {
+            return true;
+        }
+        break;
+    case EditState::accepted:
+    case EditState::shown:
+    case EditState::notReported:
+        break;
+    }
+    return outcome.otherUnit().has_value() || outcome.requestFailure().has_value() ||
+           !textOfARPEntry(outcome.edit().typed, outcome.arpEntry()).empty();
 }
 
 } // namespace kx

@@ -281,6 +281,15 @@ std::string LogText::shownText(std::size_t from, std::size_t to) const {
     return shown;
 }
 
+std::string LogText::copiedText(std::size_t from, std::size_t to) const {
+    std::string copied = shownText(from, to);
+    for (auto place = copied.find(characterWithoutWidth); place != copied.npos;
+         place = copied.find(characterWithoutWidth, place)) {
+        copied.erase(place, characterWithoutWidth.size());
+    }
+    return copied;
+}
+
 std::size_t LogText::charactersBefore(std::size_t position) const {
     const std::size_t index = chunkAt(position);
     if (_charactersBeforeChunk.empty()) {
@@ -310,7 +319,17 @@ std::size_t LogText::positionAfter(std::size_t characters) const {
 std::string shownRow(std::string_view row) {
     const bool endsWithReturn = row.ends_with('\r');
     row.remove_suffix(endsWithReturn ? 1 : 0);
-    std::string shown = visibleText(row, Tabs::kept);
+    std::string shown;
+    do {
+        const std::size_t zeros = std::min(row.find('\0'), row.size());
+        const std::size_t end = std::min(row.find_first_not_of('\0', zeros), row.size());
+        const bool endsWord = end == row.size() || row[end] == ' ';
+        shown += visibleText(row.substr(0, endsWord ? zeros : end), Tabs::kept);
+        for (std::size_t zero = zeros; endsWord && zero < end; ++zero) {
+            shown += characterWithoutWidth;
+        }
+        row.remove_prefix(end);
+    } while (!row.empty());
     shown += endsWithReturn ? " " : "";
     return shown;
 }

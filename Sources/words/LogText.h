@@ -102,10 +102,15 @@ public:
     // A copy of all of the text as it was appended, with no line feed quoted.
     std::string text() const;
 
-    // The text between two positions as a person sees it, for copying, saving and searching: each
-    // row is the visible text (support/VisibleText.h) with its tabs, and a carriage return at its
-    // end, which ends most commands, is a blank. It has as many characters as the text.
+    // The text between two positions as a person sees it, for showing and searching: each row is
+    // the visible text (support/VisibleText.h) with its tabs, a carriage return at its end, which
+    // ends most commands, is a blank, and zero bytes at the end of a word, with which units fill up
+    // short unit IDs, are characters without a width. It has as many characters as the text.
     std::string shownText(std::size_t from, std::size_t to) const;
+
+    // The same for other programs, to be copied or saved: without the characters that have no
+    // width, so it may have fewer characters than the text.
+    std::string copiedText(std::size_t from, std::size_t to) const;
 
     // The number of characters before a position. It is counted when it is first asked for and then
     // remembered, because only a screen reader asks for it.
@@ -147,6 +152,9 @@ struct LogText::Excerpt {
     LogText text;
     std::size_t position;
 };
+
+// Stands in a row for a zero byte at the end of a word: U+2060, which no text shows otherwise.
+inline constexpr std::string_view characterWithoutWidth = "\u2060";
 
 // A row as it is shown (see LogText::shownText()), without its line feed.
 std::string shownRow(std::string_view row);

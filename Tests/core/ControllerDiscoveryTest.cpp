@@ -356,4 +356,16 @@ TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheL
     EXPECT_EQ(small.selectedUnit(), other);
 }
 
+TEST_F(ControllerDiscovery, ZeroBytesThatFillUpAUnitIDAreNotShownAndNotSentAgain) {
+    SampleUnit unit;
+    unit.unitID = {'R', '7', 0, 0, 0, 0};
+    discover({unit});
+    EXPECT_EQ(window.unitIDField.stringValue(), "R7");
+    EXPECT_EQ(parameterRows().back(), "unit ID = R7");
+    selectRow(UnitParameter::unitID);
+    EXPECT_EQ(editRows(), Lines{"unit ID = R7"});
+    controller.applyEditParameterButton();
+    EXPECT_EQ(lastSent(), "192.168.1.10:10000 ^^IdU5237");
+}
+
 } // namespace kx

@@ -149,6 +149,7 @@ TEST_F(ControllerEditing, RestoreAsksTheUnitAndReloadsAfterOneSecond) {
         logSince(length),
         (Lines{"Request unit parameters with address: 192.168.1.10", "UDP server did send data.",
                "Request unit parameters with address: 192.168.1.10", "UDP server did send data."}));
+    runLoop.advanceBy(1000ms); // the time for an answer ends
     EXPECT_EQ(runLoop.pendingCallCount(), 0U);
 }
 

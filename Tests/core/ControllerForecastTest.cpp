@@ -61,7 +61,9 @@ TEST_F(ControllerForecast, SaysSoFromTheMomentTheOtherUnitAnswers) {
     selectUnit("01 02 03 04 05 06");
     discover({});
     selectUnit("01 02 03 04 05 07");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdS010203040507: serial number 01 02 03 04 05 07.");
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdS010203040507: serial number 01 02 03 04 05 07. It "
+                           "goes to the unit 01 02 03 04 05 07, which was not shown when the row "
+                           "was chosen.");
 }
 
 TEST_F(ControllerForecast, SaysThatNothingIsSentWhileTheListenerIsStopped) {
@@ -202,6 +204,22 @@ protected:
         window.unitParameterTableView.selectRow(row);
         controller.tableViewSelectionDidChange();
         typed = row >= 0 ? editCell("parameterValue") : typed;
+        unitOfRow = row >= 0 ? controller.selectedUnit() : unitOfRow;
+    }
+
+    // The unit that the line says to have the address, if what it says is true.
+    std::optional<std::string> truthfulHolder(const ParameterEdit& edit) const {
+        for (const auto& [serial, record] : controller.devices()) {
+            const auto hardware = record.value(internalMACAddress);
+            const bool isItself =
+                serial == controller.selectedUnit() ||
+                (hardware.has_value() && hardware == selectedValue(internalMACAddress));
+            if (!isItself && record.value(internalIPAddress) == edit.value &&
+                quietLine().find("The unit " + serial + " has it.") != std::string::npos) {
+                return serial;
+            }
+        }
+        return std::nullopt;
     }
 
     std::string editCell(const std::string& column) {
@@ -225,6 +243,13 @@ protected:
                                             planned->expectedText.has_value() &&
                                             planned->expectedText != controller.selectedUnit() &&
                                             controller.devices().contains(*planned->expectedText);
+            const bool isAnother = unitOfRow.has_value() && unitOfRow != controller.selectedUnit();
+            target.unitInPlaceOfRow = isAnother ? controller.selectedUnit() : std::nullopt;
+            const auto holder =
+                *parameter == internalIPAddress ? truthfulHolder(*planned) : std::nullopt;
+            target.trouble = holder.has_value() ? EditTrouble::addressOfAnotherUnit
+                                                : troubleOfEdit(*planned, {});
+            target.holderOfAddress = holder.value_or("");
         }
         return forecastOfEdit(edit, target);
     }
@@ -237,6 +262,7 @@ protected:
     }
 
     std::optional<std::string> typed;
+    std::optional<std::string> unitOfRow;
 };
 
 } // namespace
@@ -246,6 +272,7 @@ TEST_F(AnyForecast, IsTrueWhateverHappens) {
     int forecasts = 0;
     for (int run = 0; run < 500; ++run) {
         launch();
+        unitOfRow.reset();
         discover({SampleUnit()});
         selectAnyRow(static_cast<int>(random() % 8));
         for (int step = 0; step < 40; ++step) {

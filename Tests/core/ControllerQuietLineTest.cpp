@@ -75,7 +75,7 @@ TEST_F(ControllerQuietLine, SaysWhatBecameOfAnEdit) {
     receive(SampleUnit().reply());
     EXPECT_EQ(quietLine(), "The unit still shows 3520 as its destination Port number.");
     receive(changed.reply());
-    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number.");
+    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number (was 3520).");
 }
 
 TEST_F(ControllerQuietLine, ReloadKeepsWhatItSaysOfAnEdit) {
@@ -91,7 +91,7 @@ TEST_F(ControllerQuietLine, DiscoverShowsWhatBecameOfAnEdit) {
     SampleUnit changed;
     changed.devicePort = {0x27, 0x11};
     discover({changed});
-    EXPECT_EQ(quietLine(), "The unit now shows 10001 as its device Port number.");
+    EXPECT_EQ(quietLine(), "The unit now shows 10001 as its device Port number (was 10000).");
 }
 
 TEST_F(ControllerQuietLine, WhoeverChoosesOrTypesAnewIsToldOfThat) {
@@ -110,15 +110,20 @@ TEST_F(ControllerQuietLine, TheReportOfOneUnitDoesNotStandBesideAnother) {
     discoverTwo();
     apply(UnitParameter::destinationPortNumber, "3523");
     selectUnit("01 02 03 04 05 07");
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    const std::string forecast = "Apply sends ^^IdT0DC3: destination port 3523. It goes to the "
+                                 "unit 01 02 03 04 05 07, which "
+                                 "was not shown when the row was chosen.";
+    EXPECT_EQ(quietLine(), forecast);
     receive(SampleUnit().reply());
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    EXPECT_EQ(quietLine(), forecast);
 }
 
 TEST_F(ControllerQuietLine, RepliesOfOtherUnitsAreNoAnswer) {
     discoverTwo();
     apply(UnitParameter::destinationPortNumber, "3523");
-    receive(secondSampleUnit().acknowledgement());
+    systemCalls.queueDatagram(secondSampleUnit().acknowledgement(),
+                              dataForAddress(ipForString("192.168.1.11"), 3520));
+    runLoop.makeReadable(systemCalls.lastDescriptor());
     receive(secondSampleUnit().reply());
     receive(joined({textBytes("^^<X>"), Bytes(15), textBytes("$ok\r")})); // tells no serial number
     EXPECT_EQ(quietLine(), "Sent ^^IdT0DC3. The unit has not answered yet.");
@@ -132,8 +137,8 @@ TEST_F(ControllerQuietLine, AUnitWithANewSerialNumberIsRecognized) {
     receive(changed.acknowledgement());
     EXPECT_EQ(quietLine(), "The unit accepted a command and was asked for its parameters.");
     receive(changed.reply());
-    EXPECT_EQ(quietLine(), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial number. Discover "
-                           "lists it under that.");
+    EXPECT_EQ(quietLine(), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial number (was "
+                           "01 02 03 04 05 06). Discover lists it under that.");
 }
 
 TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
@@ -148,7 +153,8 @@ TEST_F(ControllerQuietLine, AnAddressChangeIsReportedWhenTheUnitIsBack) {
     SampleUnit moved;
     moved.internalIP = {10, 0, 0, 7};
     receive(moved.reply());
-    EXPECT_EQ(quietLine(), "The unit now shows 10.0.0.7 as its internal IP address.");
+    EXPECT_EQ(quietLine(),
+              "The unit now shows 10.0.0.7 as its internal IP address (was 192.168.1.10).");
 }
 
 TEST_F(ControllerQuietLine, SaysWhenTheARPEntryIsNotOnTheLinkOfTheCommand) {
@@ -309,14 +315,18 @@ TEST_F(ControllerQuietLine, SaysWhyAnOptionWasNotSentUntilTheNextAction) {
     controller.sendOptionButton();
     EXPECT_EQ(quietLine(), "Not sent: A command can hold ASCII characters only.");
     controller.reloadUnitParameterButton();
-    EXPECT_EQ(quietLine(), "");
+    EXPECT_EQ(quietLine(), "Asked the unit at 192.168.1.10 for its parameters. The unit has not "
+                           "answered yet.");
 
     window.optionCommandField.setStringValue("V");
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     controller.sendOptionButton();
     EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH) + ".");
+    EXPECT_TRUE(window.quietLine.meansTrouble());
     controller.sendOptionButton();
-    EXPECT_EQ(quietLine(), "");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdV to the unit at 192.168.1.10. The unit has not answered yet.");
+    EXPECT_FALSE(window.quietLine.meansTrouble());
 }
 
 TEST_F(ControllerQuietLine, SaysWhyARestoreOrAReloadWasNotSent) {
@@ -328,14 +338,16 @@ TEST_F(ControllerQuietLine, SaysWhyARestoreOrAReloadWasNotSent) {
     runLoop.advanceBy(1000ms); // sends the request for the parameters
     EXPECT_EQ(quietLine(), refused);
     controller.restoreDefaultSettings();
-    EXPECT_EQ(quietLine(), "");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
     runLoop.advanceBy(1000ms);
 
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     controller.reloadUnitParameterButton();
     EXPECT_EQ(quietLine(), refused);
     controller.reloadUnitParameterButton();
-    EXPECT_EQ(quietLine(), "");
+    EXPECT_EQ(quietLine(), "Asked the unit at 192.168.1.10 for its parameters. The unit has not "
+                           "answered yet.");
 
     systemCalls.failNext(Operation::bind, EADDRINUSE);
     controller.discoverButton();
@@ -356,16 +368,19 @@ TEST_F(ControllerQuietLine, OfTheRequestThatFollowsARestoreOnlyTheLogSaysThatItW
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     runLoop.advanceBy(1000ms);
     EXPECT_EQ(log().back(), "  " + posixErrorText(ENETUNREACH));
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdU00000000002A: unit ID 42.");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
 }
 
 TEST_F(ControllerQuietLine, ARestoreEndsTheReportOfAnEdit) {
     discover({SampleUnit()});
     apply(UnitParameter::destinationPortNumber, "3523");
     controller.restoreDefaultSettings();
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
     receive(SampleUnit().reply());
-    EXPECT_EQ(quietLine(), "Apply sends ^^IdT0DC3: destination port 3523.");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
 }
 
 TEST_F(ControllerQuietLine, ANewLaunchBeginsWithAnEmptyLine) {

@@ -87,7 +87,7 @@ class ByTheHelpBook(unittest.TestCase):
         self.change("destination Port number", "3521")
         self.wait_for_note("Apply sends ^^IdT0DC1: destination port 3521.")
         self.picture("typed")
-        note = "The unit now shows 3521 as its destination Port number."
+        note = "The unit now shows 3521 as its destination Port number (was 3520)."
         self.read("first-steps.html", "Press Apply.", "and the table shows 3521.", note)
         click(program.button("Apply"))
         self.wait_for_note(note)

@@ -80,7 +80,7 @@ class TheWindow(unittest.TestCase):
         perform(program.button("Apply"), "Press")
         wait_for("the new value", lambda: program.rows_of("Unit parameters")[2] ==
                  ["destination Port number", "3521"])
-        note = "The unit now shows 3521 as its destination Port number."
+        note = "The unit now shows 3521 as its destination Port number (was 3520)."
         wait_for("the result, announced", lambda: program.announced[-1:] == [note])
 
         lines = program.open_log()

@@ -55,6 +55,7 @@ public:
     std::optional<std::string> titleOfSelectedItem() const override { return _selected; }
 
     void setEnabled(bool enabled) override { _isEnabled = enabled; }
+    void setDescription(std::string_view text) override { _description = text; }
 
     void setDimming(std::function<bool(std::string_view title)> isDimmed,
                     std::string_view description) override {
@@ -90,8 +91,10 @@ public:
 
     const std::vector<std::string>& titles() const { return _titles; }
     bool isEnabled() const { return _isEnabled; }
+    const std::string& description() const { return _description; }
 
 private:
+    std::string _description;
     std::vector<std::string> _titles;
     std::optional<std::string> _selected;
     bool _isEnabled = true;
@@ -134,17 +137,20 @@ private:
 
 class RecordedTextLabel final : public TextLabel {
 public:
+    void setMeansTrouble(bool meansTrouble) override { _meansTrouble = meansTrouble; }
     void setStringValue(std::string_view text) override {
         _text = text;
         ++_setCount;
     }
 
     const std::string& text() const { return _text; }
+    bool meansTrouble() const { return _meansTrouble; }
 
     // How often a text was set, also the same one again: a screen reader says each.
     int setCount() const { return _setCount; }
 
 private:
+    bool _meansTrouble = false;
     std::string _text;
     int _setCount = 0;
 };

@@ -5,6 +5,7 @@
 #include <QAction>
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QMenu>
 
 namespace kx {
 
@@ -46,8 +47,11 @@ TEST_F(EditCommandsTest, TheContextMenusOfBothTablesOfferCopy) {
     for (const char* table : {"unitParameterTableView", "editParameterTableView"}) {
         auto& view = control<QTableView>(table);
         EXPECT_EQ(view.contextMenuPolicy(), Qt::ActionsContextMenu);
-        EXPECT_EQ(view.actions(), QList<QAction*>{&control<QAction>("copyAction")});
+        EXPECT_TRUE(view.actions().contains(&control<QAction>("copyAction")));
     }
+    const QList<QAction*> ofParameters = control<QWidget>("unitParameterTableView").actions();
+    EXPECT_TRUE(ofParameters.contains(&control<QAction>("copyValueAction")));
+    EXPECT_TRUE(ofParameters.contains(&control<QAction>("copyParametersAction")));
 }
 
 TEST_F(EditCommandsTest, ARightClickSelectsTheRowThatCopyThenTakes) {
@@ -135,6 +139,53 @@ TEST_F(EditCommandsTest, AButtonGivesNothing) {
     control<QWidget>("discoverButton").setFocus();
     press(Qt::Key_A, Qt::ControlModifier);
     EXPECT_EQ(copiedByKeys(), "before");
+}
+
+TEST_F(EditCommandsTest, TheValueAloneAndAllParametersAreCopiedFromAnywhere) {
+    launchWithTwoUnits();
+    control<QAction>("copyValueAction").trigger();
+    EXPECT_EQ(clipboard(), "before"); // no row is selected
+    clickParameter(UnitParameter::devicePortNumber);
+    control<QWidget>("discoverButton").setFocus();
+    press(Qt::Key_C, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(clipboard(), "10000");
+    control<QAction>("copyParametersAction").trigger();
+    const QStringList rows = QString::fromStdString(clipboard()).split('\n');
+    EXPECT_EQ(rows.size(), 9); // the last one is empty
+    EXPECT_EQ(rows[0].toStdString(), "destination IP address\t192.168.1.1");
+    EXPECT_EQ(rows[7].toStdString(), "unit ID\t42");
+}
+
+TEST_F(EditCommandsTest, UndoCutAndPasteWorkInTheFieldWithTheKeyboard) {
+    launch();
+    auto& field = control<QLineEdit>("optionCommandField");
+    field.setFocus();
+    field.selectAll();
+    control<QAction>("cutAction").trigger();
+    EXPECT_EQ(field.text(), "");
+    EXPECT_EQ(clipboard(), "V");
+    control<QAction>("pasteAction").trigger();
+    control<QAction>("pasteAction").trigger();
+    EXPECT_EQ(field.text(), "VV");
+    control<QAction>("undoAction").trigger();
+    EXPECT_EQ(field.text(), "V");
+}
+
+TEST_F(EditCommandsTest, TheMenuOffersOnlyWhatWouldDoSomethingAndKeepsItsKeys) {
+    launch();
+    control<QLineEdit>("unitIDField").setFocus(); // it is read-only
+    auto& menu = control<QMenu>("editMenu");
+    emit menu.aboutToShow();
+    for (const char* name : {"undoAction", "cutAction", "pasteAction"}) {
+        EXPECT_FALSE(control<QAction>(name).isEnabled()) << name;
+        control<QAction>(name).trigger();
+    }
+    emit menu.aboutToHide();
+    EXPECT_TRUE(control<QAction>("pasteAction").isEnabled());
+    control<QLineEdit>("optionCommandField").setFocus();
+    emit menu.aboutToShow();
+    EXPECT_TRUE(control<QAction>("pasteAction").isEnabled());
+    EXPECT_FALSE(control<QAction>("cutAction").isEnabled()); // nothing is selected
 }
 
 } // namespace kx

@@ -60,17 +60,32 @@ TEST_F(FindBarTest, ReturnAndF3GoOnAndRoundTheEnd) {
     EXPECT_EQ(selectedIn(), "'reply' in 'reply two'");
     press(Qt::Key_F3);
     EXPECT_EQ(selectedIn(), "'REPLY' in 'REPLY three'");
-    EXPECT_EQ(result(), "");
+    EXPECT_EQ(result(), "3 matches");
     press(Qt::Key_F3);
     EXPECT_EQ(selectedIn(), "'Reply' in 'Reply one'");
-    EXPECT_EQ(result(), "From the beginning");
+    EXPECT_EQ(result(), "From the beginning – 3 matches");
     press(Qt::Key_F3, Qt::ShiftModifier);
     EXPECT_EQ(selectedIn(), "'REPLY' in 'REPLY three'");
-    EXPECT_EQ(result(), "From the end");
+    EXPECT_EQ(result(), "From the end – 3 matches");
     press(Qt::Key_Return, Qt::ShiftModifier);
     EXPECT_EQ(selectedIn(), "'reply' in 'reply two'");
-    EXPECT_EQ(result(), "");
+    EXPECT_EQ(result(), "3 matches");
     EXPECT_TRUE(newlySent().empty()); // Return must not press a button behind the bar
+}
+
+TEST_F(FindBarTest, TellsHowManyMatchesThereAreAlsoWhenTheLogGrows) {
+    launchWithLog();
+    type("two");
+    EXPECT_EQ(result(), "1 match");
+    controller.appendString("\ntwo and two");
+    ASSERT_TRUE(QTest::qWaitFor([this] { return log().showsEnd(); }));
+    press(Qt::Key_F3);
+    EXPECT_EQ(result(), "3 matches");
+    for (int line = 0; line < 1000; ++line) {
+        controller.appendString("\ntwo");
+    }
+    press(Qt::Key_F3);
+    EXPECT_EQ(result(), "1000 matches or more");
 }
 
 TEST_F(FindBarTest, TheButtonsDoTheSame) {

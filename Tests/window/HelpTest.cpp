@@ -1,5 +1,6 @@
 // Help over the real desktop seam: the adapters, the viewer, and the window's ways to open it.
 
+#include "Looks.h"
 #include "MainWindowFixture.h"
 #include "RecordedBrowser.h"
 #include "contracts/HelpServicesContract.h"
@@ -10,6 +11,8 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QLabel>
+#include <QLineEdit>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -332,6 +335,39 @@ TEST_F(HelpViewerTest, FollowsTheColoursOfTheApplication) {
     EXPECT_TRUE(QTest::qWaitFor([&] { return corner() < 100; }));
     EXPECT_EQ(pageInViewer(), "index");
     QApplication::setPalette(before);
+}
+
+TEST_F(HelpViewerTest, LinksAreReadableWhereADarkPaletteHasNoColourForThem) {
+    const UsedPalette dark{QPalette(QColor(53, 53, 53), QColor(30, 30, 30))};
+    QTest::qWait(10);
+    QTextCursor cursor(pages().document());
+    cursor.movePosition(QTextCursor::End);
+    const QColor link = cursor.charFormat().foreground().color();
+    EXPECT_TRUE(cursor.charFormat().isAnchor());
+    EXPECT_GE(contrastOf(link, pages().palette().color(QPalette::Base)), 4.5)
+        << link.name().toStdString();
+}
+
+TEST_F(HelpViewerTest, FindsATextInThePageAndGoesOnAtItsOtherEnd) {
+    folder.addPage("words", "<p>one two</p><p>three Two</p>");
+    viewer->showPage("words", "Help");
+    press(Qt::Key_F, Qt::ControlModifier);
+    auto& field = *viewer->findChild<QLineEdit*>("helpFindField");
+    auto& result = *viewer->findChild<QLabel*>("helpFindResult");
+    ASSERT_TRUE(field.hasFocus());
+    QTest::keyClicks(&field, "two");
+    press(Qt::Key_Return);
+    EXPECT_EQ(pages().textCursor().selectedText(), "two");
+    press(Qt::Key_F3);
+    EXPECT_EQ(pages().textCursor().selectedText(), "Two");
+    press(Qt::Key_F3);
+    EXPECT_EQ(pages().textCursor().selectedText(), "two");
+    press(Qt::Key_F3, Qt::ShiftModifier);
+    EXPECT_EQ(pages().textCursor().selectedText(), "Two");
+    EXPECT_EQ(result.text(), "");
+    QTest::keyClicks(&field, "x");
+    press(Qt::Key_Return);
+    EXPECT_EQ(result.text(), "Not found");
 }
 
 TEST_F(MainWindowTest, TheHelpButtonAndItsKeyOpenTheHelp) {

@@ -258,7 +258,9 @@ TEST_P(LanguagesTest, WithTheEventLogAndTheFindBarNothingIsCutOff) {
     ASSERT_TRUE(drawerComesToRest());
     control<QAction>("findAction").trigger();
     for (const char* key : {"From the beginning", "From the end", "Not found"}) {
-        control<QLabel>("logFindResult").setText(QString::fromStdString(localizedText(key)));
+        const std::string count = " – " + localizedText("%d matches or more", {1000LL});
+        control<QLabel>("logFindResult")
+            .setText(QString::fromStdString(localizedText(key) + count));
         QTest::qWait(1);
         expectRoomForEverything(window);
     }
@@ -274,6 +276,28 @@ TEST_P(LanguagesTest, AtTheSmallestWidthNothingIsCutOff) {
     EXPECT_EQ(control<QScrollArea>("contentArea").horizontalScrollBar()->maximum(), 0);
     EXPECT_LE(window.width(), leastScreen.width() / 2);
     takePicture(window, "small");
+}
+
+TEST_P(LanguagesTest, NothingMovesWhileAnAddressIsTyped) {
+    launchWithTwoUnits();
+    clickCell("unitParameterTableView", static_cast<int>(UnitParameter::internalIPAddress), 1);
+    const auto placeOf = [this](const char* name) { return control<QWidget>(name).geometry(); };
+    const QRect applyBefore = placeOf("applyButton");
+    const QRect sendBefore = placeOf("sendOptionButton");
+    std::string typed;
+    for (const char each : std::string_view("192.168.1.211x")) {
+        typed += each;
+        controller.editTextDidChange(typed);
+        QTest::qWait(1);
+        EXPECT_EQ(placeOf("applyButton"), applyBefore) << quietLine();
+        EXPECT_EQ(placeOf("sendOptionButton"), sendBefore) << quietLine();
+    }
+    for (const char* address : {"192.168.1.11", "10.0.0.7", "192.168.1.20", "192.168.1.255"}) {
+        controller.editTextDidChange(address);
+        QTest::qWait(1);
+        EXPECT_EQ(placeOf("applyButton"), applyBefore) << quietLine();
+        takePicture(window, address);
+    }
 }
 
 TEST_P(LanguagesTest, TheMenusFitTheScreen) {

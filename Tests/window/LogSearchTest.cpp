@@ -88,4 +88,18 @@ TEST(LogSearch, FindsLettersOfTwoUnitsInEitherCaseInALongLine) {
     EXPECT_EQ(found(text, findBackward(text, qtText(sought), text.size())), written + " at 9000");
 }
 
+TEST(LogSearch, CountsMatchesAlsoAcrossPieces) {
+    LogText text;
+    EXPECT_EQ(countMatches(text, "ab", 10), 0U);
+    std::size_t expected = 0;
+    for (; text.size() < 300'000; ++expected) {
+        text.append("xABy ab-\n");
+    }
+    EXPECT_EQ(countMatches(text, "ab", 1'000'000), 2 * expected);
+    EXPECT_EQ(countMatches(text, "y ab", 1'000'000), expected);
+    EXPECT_EQ(countMatches(text, "-\nxa", 1'000'000), expected - 1);
+    EXPECT_EQ(countMatches(text, "ab", 17), 17U);
+    EXPECT_EQ(countMatches(LogText("aaaa"), "aa", 10), 2U);
+}
+
 } // namespace kx

@@ -291,4 +291,15 @@ TEST_F(LogTextViewTest, APersonsPlaceAndSelectionMoveWithTheTextUntilItGoes) {
     EXPECT_EQ(firstRow(), 1) << "the first line that is left";
 }
 
+TEST_F(LogTextViewTest, LinesAfterTheFirstOneOfARowAreIndented) {
+    view.setText(LogText(std::string(200, 'x') + "\n\tname: value"));
+    const auto secondLine = view.positionAt(QPoint(300, view.rectOf(0).bottom() + 5));
+    const auto start = view.positionAt(QPoint(0, view.rectOf(0).bottom() + 5));
+    EXPECT_GT(secondLine, start);
+    const int indent = view.rectOf(start).left() - view.rectOf(0).left();
+    EXPECT_NEAR(indent, 6 * view.rectOf(0).width(), 6); // a blank is no whole number of pixels
+    EXPECT_GT(indent, view.rectOf(202).left() - view.rectOf(0).left()); // deeper than a parameter
+    EXPECT_LE(view.rectOf(199).right(), view.viewport()->width());
+}
+
 } // namespace kx

@@ -183,4 +183,26 @@ TEST_F(LongPopUpTest, ScrollsToATitleAsItIsTold) {
     EXPECT_FALSE(isInSight(101));
 }
 
+TEST_F(LongPopUpTest, TwentyRowsFitAndShowTheirDetails) {
+    popUp.setDetails([](std::string_view) { return std::vector<std::string>{"RACK"}; });
+    popUp.addItemsWithTitles(titles);
+    open();
+    EXPECT_TRUE(isInSight(19));
+    const QRect row = list().visualRect(item(3));
+    const QRect behind = row.adjusted(row.width() / 2, 0, 0, 0);
+    const QImage withDetails = list().viewport()->grab(behind).toImage();
+    popUp.setDetails({});
+    EXPECT_NE(withDetails, list().viewport()->grab(behind).toImage());
+}
+
+TEST_F(LongPopUpTest, TypingAnAddressFindsItsUnitInALongList) {
+    popUp.setDetails([](std::string_view title) {
+        return std::vector<std::string>{title == "4B 58 00 00 9C 40" ? "192.0.2.77" : "192.0.2.1"};
+    });
+    popUp.addItemsWithTitles(titles);
+    open();
+    QTest::keyClicks(&list(), "192.0.2.77");
+    EXPECT_EQ(list().currentIndex().row(), 40'000);
+}
+
 } // namespace kx

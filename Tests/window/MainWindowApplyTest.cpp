@@ -163,7 +163,7 @@ TEST_F(MainWindowApply, TheQuietLineShowsTheUnitsAnswer) {
     changed.destinationPort = {0x0D, 0xC3};
     receive(changed.acknowledgement());
     receive(changed.reply());
-    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number.");
+    EXPECT_EQ(quietLine(), "The unit now shows 3523 as its destination Port number (was 3520).");
     EXPECT_EQ(cell("unitParameterTableView", 2, 1), "3523");
 }
 

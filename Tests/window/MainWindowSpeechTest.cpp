@@ -1,11 +1,15 @@
 // The texts that a screen reader says while the keyboard is at another place, and its descriptions
 // of empty controls.
 
+#include "Looks.h"
 #include "MainWindowFixture.h"
 #include "ScreenReader.h"
 #include "platform/qt/AnnouncedLabel.h"
+#include "platform/qt/SentenceLabel.h"
 
 #include <QAccessible>
+#include <QAction>
+#include <QMenu>
 
 namespace kx {
 
@@ -48,8 +52,8 @@ TEST_F(MainWindowSpeech, TheQuietLineIsANotificationWithItsText) {
     click("sendOptionButton");
     EXPECT_EQ(accessible("quietLine").role(), QAccessible::Notification);
     EXPECT_EQ(accessible("quietLine").text(QAccessible::Name).toStdString(),
-              "No unit is selected: Restore Defaults, like Reload, reaches every unit that hears "
-              "it. Not sent: No unit is selected.");
+              "Attention: No unit is selected: Restore Defaults, like Reload, reaches every unit "
+              "that hears it. Not sent: No unit is selected.");
 }
 
 TEST_F(MainWindowSpeech, TheButtonsThatMayReachEverybodySayWhomTheyReach) {
@@ -142,8 +146,8 @@ TEST_F(MainWindowSpeech, AnEmptyControlIsDescribedAsWhatItShows) {
 TEST_F(MainWindowSpeech, AControlWithAContentNeedsNoDescription) {
     launchWithTwoUnits();
     clickParameter(UnitParameter::destinationIPAddress, 0);
-    for (const char* name : {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp",
-                             "interfacePopUp"}) {
+    for (const char* name :
+         {"unitParameterTableView", "editParameterTableView", "unitSelectPopUp"}) {
         EXPECT_EQ(description(name), "") << name;
     }
     click("discoverButton");
@@ -158,6 +162,113 @@ TEST_F(MainWindowSpeech, TheFieldOverAValueIsNamedAfterItsParameter) {
         control<QTableView>("editParameterTableView").viewport()->findChild<QLineEdit*>();
     ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->accessibleName().toStdString(), "device Port number");
+}
+
+TEST_F(MainWindowTest, PointingAtRestoreSaysWhomItReachesAndLeavingEndsThat) {
+    launchWithTwoUnits();
+    const std::string reached = "Resets the unit at 192.168.1.10 to its factory settings.";
+    auto& restore = control<QPushButton>("restoreButton");
+    QTest::mouseMove(&restore);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return quietLine() == reached; })) << quietLine();
+    QTest::mouseMove(&control<QWidget>("unitIDField"));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return quietLine().empty(); })) << quietLine();
+    restore.setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(quietLine(), reached);
+    control<QPushButton>("reloadButton").setFocus(Qt::TabFocusReason);
+    EXPECT_EQ(quietLine(), "Asks the unit at 192.168.1.10 for its parameters.");
+    control<QWidget>("unitIDField").setFocus();
+    EXPECT_EQ(quietLine(), "");
+    emit control<QMenu>("unitMenu").hovered(&control<QAction>("restoreAction"));
+    EXPECT_EQ(quietLine(), reached);
+    emit control<QMenu>("unitMenu").hovered(&control<QAction>("discoverAction"));
+    EXPECT_EQ(quietLine(), "");
+}
+
+TEST_F(MainWindowTest, ARestoreThatWasPressedShowsItsOutcomeAlsoUnderTheMouse) {
+    launchWithTwoUnits();
+    QTest::mouseMove(&control<QWidget>("restoreButton"));
+    click("restoreButton");
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
+    QTest::mouseMove(&control<QWidget>("unitIDField"));
+    QTest::qWait(10);
+    EXPECT_EQ(quietLine(),
+              "Sent ^^IdZ to the unit at 192.168.1.10. The unit has not answered yet.");
+}
+
+TEST_F(MainWindowTest, NoFingerHitsTheKeysOfRestoreByChance) {
+    launchWithTwoUnits();
+    newlySent();
+    press(Qt::Key_Delete, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(newlySent(), std::vector<std::string>{});
+    press(Qt::Key_F8, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(newlySent(), std::vector<std::string>{"^^IdZ"});
+}
+
+TEST_F(MainWindowTest, EveryButtonSaysWhatItDoesAndByWhichKeys) {
+    launchWithTwoUnits();
+    for (const auto& [name, keys] :
+         {std::pair("discoverButton", "(Ctrl+D)"), std::pair("reloadButton", "(Ctrl+R)"),
+          std::pair("applyButton", "(Ctrl+Return)"),
+          std::pair("sendOptionButton", "(Ctrl+Shift+Return)"),
+          std::pair("restoreButton", "(Ctrl+Shift+F8)"), std::pair("logDrawerButton", "(Ctrl+L)"),
+          std::pair("helpButton", "(F1)")}) {
+        const auto& button = control<QPushButton>(name);
+        EXPECT_TRUE(button.toolTip().contains(keys)) << button.toolTip().toStdString();
+        EXPECT_TRUE(button.accessibleDescription().endsWith('.')) << name;
+        EXPECT_FALSE(button.accessibleDescription().contains(keys)) << name;
+    }
+    EXPECT_TRUE(control<QWidget>("editParameterTableView").toolTip().contains("Ctrl+Return"));
+}
+
+TEST_F(MainWindowTest, TheInterfacePopUpSaysBeforeAChoiceThatNothingIsChosen) {
+    launchWithInterface();
+    const auto& popUp = control<QComboBox>("interfacePopUp");
+    const QString nothing = "No interface is chosen, so Discover asks 255.255.255.255.";
+    EXPECT_EQ(popUp.toolTip(), nothing);
+    EXPECT_EQ(popUp.accessibleDescription(), nothing);
+    controller.interfaceSelect();
+    EXPECT_EQ(popUp.accessibleDescription(),
+              "Address 192.168.1.20, mask 255.255.255.0, broadcast address 192.168.1.255. The link "
+              "is up.");
+}
+
+TEST_F(MainWindowTest, ReturnInTheEditRowSaysWhichKeysApply) {
+    launchWithTwoUnits();
+    clickParameter(UnitParameter::destinationPortNumber, 0);
+    press(Qt::Key_Return); // begins typing
+    type("3522");
+    newlySent();
+    press(Qt::Key_Return);
+    EXPECT_EQ(newlySent(), std::vector<std::string>{});
+    EXPECT_TRUE(quietLine().ends_with("Return ends the typing; Ctrl+Return applies."))
+        << quietLine();
+    press(Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_EQ(newlySent(), std::vector<std::string>{"^^IdT0DC2"});
+}
+
+TEST_F(MainWindowTest, ASentenceThatMeansTroubleHasASignAndAWord) {
+    launchWithTwoUnits();
+    clickParameter(UnitParameter::internalIPAddress);
+    auto& line = control<SentenceLabel>("quietLine");
+    EXPECT_FALSE(line.meansTrouble());
+    EXPECT_EQ(line.spokenText(), line.text());
+    controller.editTextDidChange("192.168.1.11");
+    EXPECT_TRUE(line.meansTrouble());
+    EXPECT_EQ(line.spokenText(), "Attention: " + line.text());
+    const QRect sign(0, 0, line.fontMetrics().ascent(), line.fontMetrics().height());
+    EXPECT_GE(contrastOfTextIn(line, sign), 4.5);
+    controller.editTextDidChange("192.168.1.99");
+    EXPECT_FALSE(line.meansTrouble());
+    EXPECT_EQ(line.contentsMargins().left(), 0);
+}
+
+TEST_F(MainWindowTest, AFieldThatCannotBeEditedHasTheColourOfTheWindow) {
+    launchWithTwoUnits();
+    auto& readOnly = control<QLineEdit>("unitIDField");
+    EXPECT_EQ(backgroundOf(readOnly.grab().toImage()), window.palette().color(QPalette::Window));
+    EXPECT_NE(backgroundOf(control<QLineEdit>("optionCommandField").grab().toImage()),
+              window.palette().color(QPalette::Window));
 }
 
 } // namespace kx

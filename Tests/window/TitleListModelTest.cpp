@@ -81,4 +81,31 @@ TEST_F(TitleListModelTest, EverySearchFindsWhatTheBaseClassFinds) {
     }
 }
 
+TEST(TitlesWithDetails, TypingFindsTheTitleFirstAndItsDetailsNext) {
+    TitleListModel model;
+    model.setTitles({"01 02 03", "0A 02 04", "19 02 05"});
+    model.setDetails([](std::string_view title) {
+        return title.starts_with('0') ? std::vector<std::string>{"Rack", "192.168.1.10"}
+                                      : std::vector<std::string>{"Étage", "192.168.1.12"};
+    });
+    const auto found = [&model](int start, const char* typed) {
+        const auto matches =
+            model.match(model.index(start), Qt::DisplayRole, QString(typed), 1, whatIsTyped);
+        return matches.isEmpty() ? -1 : matches.first().row();
+    };
+    EXPECT_EQ(found(0, "0a"), 1);
+    EXPECT_EQ(found(0, "0a02"), 1);
+    EXPECT_EQ(found(0, "0A0204"), 1);
+    EXPECT_EQ(found(0, "190205"), 2);
+    EXPECT_EQ(found(0, "19"), 2); // the title comes before the addresses
+    EXPECT_EQ(found(0, "192.168.1.12"), 2);
+    EXPECT_EQ(found(0, "192.168.1.1"), 0);
+    EXPECT_EQ(found(1, "rack"), 1);
+    EXPECT_EQ(found(0, "étage"), 2);
+    EXPECT_EQ(found(0, "0b"), -1);
+    EXPECT_EQ(model.index(0).data(TitleListModel::detailRole).toString(), "Rack  192.168.1.10");
+    EXPECT_EQ(model.index(0).data(Qt::AccessibleDescriptionRole).toString(), "Rack  192.168.1.10");
+    EXPECT_EQ(model.index(0).data().toString(), "01 02 03");
+}
+
 } // namespace kx

@@ -51,7 +51,8 @@ TEST_F(EditsByWire, AUnitTakesItsNewAddressAtThatAddress) {
     EXPECT_EQ(settings().address, 0x0A00'0007U);
     // The record has lost its address, so the request for the parameters was broadcast.
     EXPECT_EQ(shown(internalIPAddress), "10.0.0.7");
-    EXPECT_EQ(window.quietLine.text(), "The unit now shows 10.0.0.7 as its internal IP address.");
+    EXPECT_TRUE(window.quietLine.text().starts_with(
+        "The unit now shows 10.0.0.7 as its internal IP address (was "));
     EXPECT_EQ(receivedFor(unitID, "8"), "^^IdU000000000008");
     EXPECT_EQ(shown(unitID), "8");
 }
@@ -108,8 +109,10 @@ TEST_F(EditsByWire, EveryEditOfAWellFormedValueIsTakenOverAndShown) {
         apply(parameter, value);
         converse();
         EXPECT_EQ(shown(parameter), value);
-        EXPECT_EQ(window.quietLine.text(), "The unit now shows " + value + " as its " +
-                                               std::string(nameOfUnitParameter(parameter)) + ".");
+        EXPECT_TRUE(window.quietLine.text().starts_with(
+            "The unit now shows " + value + " as its " +
+            std::string(nameOfUnitParameter(parameter)) + " (was "))
+            << window.quietLine.text();
     }
     EXPECT_EQ(link.acknowledgementCount(), edits.size());
 }
@@ -126,14 +129,15 @@ TEST_F(EditsByWire, ANewDevicePortShowsAtTheNextDiscover) {
         "Discover finds it.");
     discover();
     EXPECT_EQ(shown(devicePortNumber), "10001");
-    EXPECT_EQ(window.quietLine.text(), "The unit now shows 10001 as its device Port number.");
+    EXPECT_EQ(window.quietLine.text(),
+              "The unit now shows 10001 as its device Port number (was 10000).");
 }
 
 TEST_F(EditsByWire, ANewSerialNumberIsAnotherUnitInTheList) {
     apply(serialNumber, "4b58 0000 0009");
     converse();
-    EXPECT_EQ(window.quietLine.text(), "The unit now shows 4B 58 00 00 00 09 as its serial number. "
-                                       "Discover lists it under that.");
+    EXPECT_EQ(window.quietLine.text(), "The unit now shows 4B 58 00 00 00 09 as its serial number "
+                                       "(was 4B 58 00 00 00 01). Discover lists it under that.");
     discover();
     EXPECT_EQ(window.unitSelectPopUp.titles(),
               (std::vector<std::string>{"4B 58 00 00 00 01", "4B 58 00 00 00 09"}));

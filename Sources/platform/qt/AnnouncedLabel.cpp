@@ -1,5 +1,7 @@
 #include "platform/qt/AnnouncedLabel.h"
 
+#include "platform/qtcore/QtText.h"
+
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QTimerEvent>
@@ -18,7 +20,7 @@ public:
         , _label(label) {}
 
     QString text(QAccessible::Text kind) const override {
-        return kind == QAccessible::Name ? _label.text() : QAccessibleWidget::text(kind);
+        return kind == QAccessible::Name ? _label.spokenText() : QAccessibleWidget::text(kind);
     }
 
 private:
@@ -47,6 +49,11 @@ void AnnouncedLabel::say(const QString& text) {
     if (QAccessible::isActive() && !text.isEmpty()) {
         _rest.start(millisecondsOfRest, this);
     }
+}
+
+QString AnnouncedLabel::spokenText() const {
+    return _meansTrouble && !text().isEmpty() ? localizedQtText("Attention:") + ' ' + text()
+                                              : text();
 }
 
 void AnnouncedLabel::timerEvent(QTimerEvent* event) {

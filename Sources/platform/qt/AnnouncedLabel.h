@@ -23,10 +23,19 @@ public:
     // unless it was removed in between.
     void say(const QString& text);
 
+    // Whether the text that is said next means trouble. A screen reader then says a word for that
+    // in front of the text. Set it before the text.
+    virtual void setMeansTrouble(bool meansTrouble) { _meansTrouble = meansTrouble; }
+    bool meansTrouble() const { return _meansTrouble; }
+
+    // The text as a screen reader says it.
+    QString spokenText() const;
+
 protected:
     void timerEvent(QTimerEvent* event) override;
 
 private:
+    bool _meansTrouble = false;
     QBasicTimer _rest; // runs until the text has stood long enough
 };
 

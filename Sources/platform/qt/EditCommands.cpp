@@ -7,7 +7,6 @@
 #include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTableView>
 
 namespace kx {
 
@@ -22,14 +21,24 @@ int rowToCopy(const QTableView& table) {
     return rows.isEmpty() ? -1 : rows.first().row();
 }
 
-QString cellsToCopy(const QTableView& table) {
-    const int row = rowToCopy(table);
+QString cellsOf(const QTableView& table, int row) {
     QStringList texts;
     for (int column = 0; row >= 0 && column < table.model()->columnCount(); ++column) {
         texts.append(table.model()->index(row, column).data().toString());
     }
     const bool isBlank = texts.join(QString()).isEmpty();
     return isBlank ? QString() : texts.join('\t');
+}
+
+void toClipboard(const QString& text) {
+    if (!text.isEmpty()) {
+        QGuiApplication::clipboard()->setText(text);
+    }
+}
+
+QLineEdit* fieldToEdit(QWidget* control) {
+    auto* const field = qobject_cast<QLineEdit*>(control);
+    return field != nullptr && !field->isReadOnly() ? field : nullptr;
 }
 
 QString selectedText(QWidget* control) {
@@ -40,7 +49,7 @@ QString selectedText(QWidget* control) {
         return label->selectedText();
     }
     if (const auto* table = qobject_cast<QTableView*>(control)) {
-        return cellsToCopy(*table);
+        return cellsOf(*table, rowToCopy(*table));
     }
     if (const auto* popUp = qobject_cast<QComboBox*>(control)) {
         return popUp->currentText();
@@ -55,10 +64,50 @@ void copySelection(QWidget* control) {
         log->copy();
         return;
     }
-    const QString selected = selectedText(control);
-    if (!selected.isEmpty()) {
-        QGuiApplication::clipboard()->setText(selected);
+    toClipboard(selectedText(control));
+}
+
+void undoEdit(QWidget* control) {
+    if (auto* const field = fieldToEdit(control)) {
+        field->undo();
     }
+}
+
+void cutSelection(QWidget* control) {
+    if (auto* const field = fieldToEdit(control)) {
+        field->cut();
+    }
+}
+
+void pasteText(QWidget* control) {
+    if (auto* const field = fieldToEdit(control)) {
+        field->paste();
+    }
+}
+
+EditCommandsNow editCommandsNow(const QWidget* control) {
+    const auto* const field = qobject_cast<const QLineEdit*>(control);
+    if (field == nullptr || field->isReadOnly()) {
+        return {};
+    }
+    return {.canUndo = field->isUndoAvailable(),
+            .canCut = field->hasSelectedText(),
+            .canPaste = !QGuiApplication::clipboard()->text().isEmpty()};
+}
+
+void copyValue(const QTableView& table) {
+    const int row = rowToCopy(table);
+    if (row >= 0) {
+        toClipboard(table.model()->index(row, table.model()->columnCount() - 1).data().toString());
+    }
+}
+
+void copyRows(const QTableView& table) {
+    QString rows;
+    for (int row = 0; row < table.model()->rowCount(); ++row) {
+        rows += cellsOf(table, row) + '\n';
+    }
+    toClipboard(rows);
 }
 
 void selectAll(QWidget* control) {

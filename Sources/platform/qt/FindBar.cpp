@@ -14,6 +14,9 @@ namespace kx {
 
 namespace {
 
+// More than a person goes through.
+constexpr std::size_t mostMatches = 1000;
+
 // A cross in the colour of texts on buttons, because the style's own sign is hard to see in a dark
 // window.
 class CrossButton final : public QToolButton {
@@ -133,10 +136,23 @@ void FindBar::findFrom(std::size_t start, Search search, std::size_t otherEnd,
     }
     if (match.has_value()) {
         _log.select(match->from, match->to);
+        result += (result.isEmpty() ? "" : " – ") + textOfCount();
     } else {
         result = localizedQtText("Not found");
     }
     _result.say(result);
+}
+
+QString FindBar::textOfCount() {
+    if (_counted != _field.text() || _countedSize != _log.text().size()) {
+        _counted = _field.text();
+        _countedSize = _log.text().size();
+        _matches = countMatches(_log.text(), _counted, mostMatches);
+    }
+    const auto matches = static_cast<long long>(_matches);
+    return qtText(_matches == mostMatches ? localizedText("%d matches or more", {matches})
+                  : _matches == 1         ? localizedText("1 match")
+                                          : localizedText("%d matches", {matches}));
 }
 
 void FindBar::keyPressEvent(QKeyEvent* event) {

@@ -2,8 +2,9 @@
 //
 // The bar is hidden at first. It searches while a person types, from the selection on. Return goes
 // to the next match, and Shift with Return to the one before; the two arrow buttons do the same.
-// The search goes on round the ends of the log. A match becomes the log's selection. Letters match
-// in either case. Escape closes the bar and gives the keyboard back to the log.
+// The search goes on round the ends of the log, and the bar tells how many matches there are. A
+// match becomes the log's selection. Letters match in either case. Escape closes the bar and gives
+// the keyboard back to the log.
 //
 // Main thread only.
 
@@ -42,6 +43,7 @@ private:
     using Search = std::optional<LogRange> (*)(const LogText&, const QString&, std::size_t);
 
     void findTyped();
+    QString textOfCount();
     void findFrom(std::size_t start, Search search, std::size_t otherEnd,
                   const QString& fromOtherEnd);
 
@@ -49,6 +51,11 @@ private:
     QLineEdit& _field;
     AnnouncedLabel& _result;
     QShortcut& _escape;
+
+    // The latest count: of which text in how long a log.
+    QString _counted;
+    std::size_t _countedSize = 0;
+    std::size_t _matches = 0;
 };
 
 } // namespace kx

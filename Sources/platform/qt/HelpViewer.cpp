@@ -1,12 +1,13 @@
 #include "platform/qt/HelpViewer.h"
 
+#include "platform/qt/Contrast.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 
 #include <QDir>
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -17,6 +18,7 @@ HelpPageView::HelpPageView(const QString& folder, QWidget* parent)
     , _folder(QUrl::fromLocalFile(QDir(folder).absolutePath() + '/')) {
     setObjectName("helpPages");
     setAccessibleName(localizedQtText("Help text"));
+    colourLinks();
 }
 
 bool HelpPageView::isInFolder(const QUrl& name) const {
@@ -34,9 +36,17 @@ void HelpPageView::doSetSource(const QUrl& name, QTextDocument::ResourceType typ
     }
 }
 
+// A palette for a dark screen may have no colour for links; the toolkit's own is a dark blue.
+void HelpPageView::colourLinks() {
+    const QColor link =
+        readableOn(palette().color(QPalette::Base), palette().color(QPalette::Link));
+    document()->setDefaultStyleSheet(QString("a { color: %1 }").arg(link.name()));
+}
+
 void HelpPageView::changeEvent(QEvent* event) {
     QTextBrowser::changeEvent(event);
     if (event->type() == QEvent::PaletteChange && !source().isEmpty()) {
+        colourLinks();
         reload(); // link colours are set while a page is read
     }
 }
@@ -44,7 +54,9 @@ void HelpPageView::changeEvent(QEvent* event) {
 HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
     : QWidget(parent, Qt::Window)
     , _folder(folder)
-    , _pages(new HelpPageView(folder, this)) {
+    , _pages(new HelpPageView(folder, this))
+    , _findField(new QLineEdit(this))
+    , _findResult(new AnnouncedLabel(this)) {
     auto* const buttons = new QHBoxLayout;
     auto* const back = addButton("helpBackButton", localizedQtText("Back"), QKeySequence::Back);
     auto* const forward =
@@ -57,6 +69,7 @@ HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
         buttons->addWidget(button);
     }
     buttons->addStretch();
+    addFind(*buttons);
     buttons->addWidget(close);
 
     auto* const layout = new QVBoxLayout(this);
@@ -77,7 +90,7 @@ HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
     connect(closeKey, &QShortcut::activated, this, &QWidget::close);
 
     drawFrameOnPixels(*_pages);
-    resize(QSize(760, 680).boundedTo(screen()->availableGeometry().size()));
+    (new ScreenFit(*this))->resize(QSize(760, 680));
 }
 
 QPushButton* HelpViewer::addButton(const char* objectName, const QString& text,
@@ -100,6 +113,46 @@ void HelpViewer::showPage(const QString& page, const QString& book) {
     raise();
     activateWindow();
     _pages->setFocus();
+}
+
+void HelpViewer::addFind(QLayout& row) {
+    _findResult->setObjectName("helpFindResult");
+    _findField->setObjectName("helpFindField");
+    _findField->setClearButtonEnabled(true);
+    _findField->setPlaceholderText(localizedQtText("Find in this page"));
+    _findField->setAccessibleName(_findField->placeholderText());
+    row.addWidget(_findResult);
+    row.addWidget(_findField);
+    const auto onKey = [this](QKeySequence::StandardKey key, auto action) {
+        connect(new QShortcut(key, this), &QShortcut::activated, this, action);
+    };
+    onKey(QKeySequence::Find, [this] {
+        _findField->setFocus();
+        _findField->selectAll();
+    });
+    onKey(QKeySequence::FindNext, [this] { find({}); });
+    onKey(QKeySequence::FindPrevious, [this] { find(QTextDocument::FindBackward); });
+    connect(_findField, &QLineEdit::returnPressed, this, [this] { find({}); });
+}
+
+// Goes on at the other end of the page.
+void HelpViewer::find(QTextDocument::FindFlags direction) {
+    const QString sought = _findField->text();
+    if (sought.isEmpty()) {
+        _findField->setFocus();
+        return;
+    }
+    bool isFound = _pages->find(sought, direction);
+    if (!isFound) {
+        const QTextCursor before = _pages->textCursor();
+        _pages->moveCursor(direction.testFlag(QTextDocument::FindBackward) ? QTextCursor::End
+                                                                           : QTextCursor::Start);
+        isFound = _pages->find(sought, direction);
+        if (!isFound) {
+            _pages->setTextCursor(before);
+        }
+    }
+    _findResult->say(isFound ? QString() : localizedQtText("Not found"));
 }
 
 void HelpViewer::showTitle() {

@@ -2,15 +2,20 @@
 //
 // It shows nothing else: a link that leads out of the folder does nothing, and nothing is fetched
 // from a network. It remembers nothing: a viewer that is closed and opened again starts afresh.
-// Keys: the window system's keys for back and forward, Alt+Home for the first page, Escape to
-// close.
+// Keys: the window system's keys for back and forward, for finding a text and for finding it again,
+// Alt+Home for the first page, Escape to close.
 //
 // Main thread only.
 
 #pragma once
 
+#include "platform/qt/AnnouncedLabel.h"
+
+#include <QLayout>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QUrl>
 #include <QVariant>
 #include <QWidget>
@@ -31,6 +36,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void colourLinks();
     bool isInFolder(const QUrl& name) const;
 
     QUrl _folder;
@@ -51,10 +57,14 @@ private:
     QPushButton* addButton(const char* objectName, const QString& text, const QKeySequence& key);
     QUrl urlOfPage(const QString& page) const;
     void showTitle();
+    void addFind(QLayout& row);
+    void find(QTextDocument::FindFlags direction);
 
     QString _folder;
     QString _book;
-    HelpPageView* _pages; // the window owns it, and the buttons
+    HelpPageView* _pages; // the window owns these, and the buttons
+    QLineEdit* _findField;
+    AnnouncedLabel* _findResult;
 };
 
 } // namespace kx

@@ -7,6 +7,14 @@
 
 namespace kx {
 
+namespace {
+
+// Deeper than the tab in front of a parameter, so that the continuation of a row is not taken for a
+// row.
+constexpr int columnsOfIndent = 6;
+
+} // namespace
+
 LogRowLayout::LogRowLayout(const LogText::Row& row, const LogRowStyle& looks)
     : _row(row)
     , _looks(looks)
@@ -18,10 +26,12 @@ LogRowLayout::LogRowLayout(const LogText::Row& row, const LogRowStyle& looks)
     _layout.setTextOption(option);
     _layout.setCacheEnabled(true);
     _layout.beginLayout();
+    const qreal indent = std::min(columnsOfIndent * looks.blank, looks.width / 2);
     for (QTextLine line = _layout.createLine(); line.isValid(); line = _layout.createLine()) {
-        line.setLineWidth(looks.width);
+        const qreal left = line.lineNumber() == 0 ? 0 : indent;
+        line.setLineWidth(looks.width - left);
         const int top = line.lineNumber() * looks.lineHeight;
-        line.setPosition({0, top + looks.baseLine - line.ascent()});
+        line.setPosition({left, top + looks.baseLine - line.ascent()});
     }
     _layout.endLayout();
 }

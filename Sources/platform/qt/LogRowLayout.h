@@ -1,4 +1,5 @@
-// One row of the log as it is drawn, broken into as many lines as it needs in the given width.
+// One row of the log as it is drawn, broken into as many lines as it needs in the given width. The
+// lines after the first one are indented.
 //
 // A row runs from left to right whatever its letters are, so that a foreign name cannot turn the
 // row around. Text that is written from right to left keeps its order inside. The row is shown as

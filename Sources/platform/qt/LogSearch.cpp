@@ -61,6 +61,12 @@ public:
         return {_from + from, _from + from + length};
     }
 
+    // The number of units in front of a position.
+    qsizetype unitsBefore(std::size_t position) const {
+        return static_cast<qsizetype>(
+            charactersIn(std::string_view(_text).substr(0, position - _from)));
+    }
+
     // A position of a whole character with at least so many bytes behind it, or in front of it.
     std::size_t positionBefore(std::size_t bytes) const {
         std::size_t index = _text.size() - std::min(bytes, _text.size());
@@ -122,6 +128,28 @@ std::optional<LogRange> findBackward(const LogText& text, const QString& sought,
         end = piece.position;
     }
     return std::nullopt;
+}
+
+std::size_t countMatches(const LogText& text, const QString& sought, std::size_t most) {
+    const QString wanted = folded(sought);
+    std::size_t matches = 0;
+    std::size_t from = 0;
+    std::size_t start = 0;
+    while (start < text.size() && matches < most) {
+        const LogText::Piece piece = text.pieceAt(start);
+        const std::size_t end = piece.position + piece.text.size();
+        const SearchedPart part(text, from, end);
+        // Matches that end in the overlap were counted with the part before.
+        const qsizetype overlap = part.unitsBefore(start);
+        qsizetype index = std::max<qsizetype>(0, overlap - wanted.size() + 1);
+        while ((index = part.shown().indexOf(wanted, index)) >= 0 && matches < most) {
+            ++matches;
+            index += wanted.size();
+        }
+        from = part.positionBefore(overlapFor(sought));
+        start = end;
+    }
+    return matches;
 }
 
 } // namespace kx

@@ -17,4 +17,7 @@ std::optional<LogRange> findForward(const LogText& text, const QString& sought, 
 // The last match that ends at `end` or before it.
 std::optional<LogRange> findBackward(const LogText& text, const QString& sought, std::size_t end);
 
+// The number of matches, and at most `most`. A match begins behind the one before it.
+std::size_t countMatches(const LogText& text, const QString& sought, std::size_t most);
+
 } // namespace kx

@@ -97,7 +97,7 @@ LogRange LogTextView::selection() const {
 }
 
 QString LogTextView::selectedText() const {
-    return textBetween(selection().from, selection().to);
+    return copiedLogText(_text, selection());
 }
 
 void LogTextView::select(std::size_t anchor, std::size_t caret) {

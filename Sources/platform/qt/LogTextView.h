@@ -9,10 +9,10 @@
 //
 // Selecting works as in the platform's text fields: drag, double click for words, triple click for
 // lines, Shift with a click or a movement key. The selected text becomes the primary selection
-// where the system has one. Copied and selected text is the text as it is shown; it is made when
-// somebody pastes it. New text does not change the selection. When a key moves a caret that
-// is out of sight, the caret first comes to the edge of the text in sight, so that the keyboard
-// goes on from the place where the person reads.
+// where the system has one. Copied text is made when somebody pastes it (LogText::copiedText()).
+// New text does not change the selection. When a key moves a caret that is out of sight, the caret
+// first comes to the edge of the text in sight, so that the keyboard goes on from the place where
+// the person reads.
 //
 // Main thread only.
 

@@ -17,6 +17,7 @@
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 #include "tables/GXArrayTable.h"
 #include "ui_MainWindow.h"
@@ -24,7 +25,6 @@
 
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QScreen>
 #include <algorithm>
 
 namespace kx {
@@ -98,6 +98,11 @@ MainWindow::MainWindow(QWidget* parent)
     connectPopUps();
     connectMenus();
     connectTables();
+    _controls->reloadButton.setKey(_ui->reloadAction->shortcut());
+    _controls->restoreButton.setKey(_ui->restoreAction->shortcut());
+    connectPointing();
+    connectEditMenu();
+    describeButtons();
     _controls->eventLogDrawer.setStateAction([this](DrawerState state) { drawerDidChange(state); });
     for (QFrame* frame : std::initializer_list<QFrame*>{
              _ui->unitParameterTableView, _ui->editParameterTableView, _ui->logTextView}) {
@@ -135,12 +140,15 @@ MainWindowOutlets MainWindow::outlets() {
 void MainWindow::connectActions(KXConfigAppDelegate& controller) {
     _controller = &controller;
     _controls->editParameterTableView.setDataSource(&controller);
+    _controls->unitSelectPopUp.setDetails(
+        [&controller](std::string_view title) { return controller.detailsOfUnit(title); });
 }
 
 void MainWindow::disconnectActions() {
     _controller = nullptr;
     _allUnitsWindow.reset(); // it reads the controller's units
     _controls->editParameterTableView.setDataSource(nullptr);
+    _controls->unitSelectPopUp.setDetails({});
 }
 
 void MainWindow::setDiagnosis(KXDiagnosis* diagnosis, std::function<void()> openHelp) {
@@ -176,6 +184,9 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
         (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
         _ui->detailsButton->setVisible(_diagnosis != nullptr &&
                                        event->type() == QEvent::ShowToParent);
+    }
+    if (watched == _ui->reloadButton || watched == _ui->restoreButton) {
+        lookWhereAPersonPoints(watched, event);
     }
     return QMainWindow::eventFilter(watched, event);
 }
@@ -292,6 +303,8 @@ void MainWindow::connectTables() {
             _controller->editTextDidChange(utf8Text(text));
         }
     });
+    connect(editRow, &ParameterTableView::textKept, this,
+            [this] { perform(&KXConfigAppDelegate::editTextWasKept); });
 
     // The two tables look like one, so their columns stay in line.
     connect(parameters->horizontalHeader(), &QHeaderView::sectionResized, editRow,
@@ -318,12 +331,14 @@ void MainWindow::giveTextsOfButtonsRoom() {
     }
 }
 
-// Without this, the scroll area around the content would ask for only a small part of its size.
+// Without this, the scroll area around the content would ask for only a small part of its size. On
+// a small screen the content scrolls.
 void MainWindow::fitToContent() {
+    auto* const screenFit = new ScreenFit(*this);
     _ui->content->layout()->activate(); // inner rows would otherwise answer for the old texts
-    _ui->contentArea->setMinimumWidth(_ui->content->minimumSizeHint().width());
-    const QSize wanted = _ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height());
-    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+    const int least = _ui->content->minimumSizeHint().width();
+    _ui->contentArea->setMinimumWidth(std::min(least, screenFit->room().width()));
+    screenFit->resize(_ui->content->sizeHint() + QSize(0, menuBar()->sizeHint().height()));
 }
 
 // The text of an empty or disabled pop-up is a message, not a faded choice.
@@ -338,6 +353,10 @@ void MainWindow::keepEmptyStatesReadable() {
         readable.setColor(QPalette::PlaceholderText, dimmed);
         popUp->setPalette(readable);
     }
+    // A field that cannot be edited has the colour of the window and not that of a field.
+    QPalette readOnly;
+    readOnly.setColor(QPalette::Base, palette().color(QPalette::Window));
+    _ui->unitIDField->setPalette(readOnly);
 }
 
 // An action that is requested while another one runs, for example under its alert, runs after it.

@@ -10,12 +10,15 @@
 #pragma once
 
 #include "Outlets.h"
+#include "conversation/RequestOutcome.h"
 #include "platform/qt/DelegatingWindow.h"
 
+#include <QEvent>
 #include <QMainWindow>
 #include <deque>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string_view>
 
 namespace kx {
@@ -71,6 +74,13 @@ private:
     void connectMenus();
     void connectTables();
     void giveTextsOfButtonsRoom();
+
+    // What the window says of its controls (MainWindow_Speech.cpp).
+    void connectPointing();
+    void lookWhereAPersonPoints(const QObject* button, QEvent* event);
+    void pointAtRequest(std::optional<RequestKind> button);
+    void describeButtons();
+    void connectEditMenu();
     void fitToContent();
     void keepEmptyStatesReadable();
 

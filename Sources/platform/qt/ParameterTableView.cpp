@@ -146,6 +146,7 @@ void ParameterTableView::keyPressEvent(QKeyEvent* event) {
         event->ignore();
     } else if (isReturn && state() == EditingState) {
         event->accept(); // it comes from the editor, which it closes
+        emit textKept();
     } else if (isReturn && currentIndex().isValid()) {
         emit rowChosen();
     } else {

@@ -48,6 +48,9 @@ signals:
     // cell then has, so the last text told is always the text of the cell.
     void textEdited(const QString& text);
 
+    // Return has closed the editor and kept its text.
+    void textKept();
+
 protected slots:
     void closeEditor(QWidget* editor, QAbstractItemDelegate::EndEditHint hint) override;
 

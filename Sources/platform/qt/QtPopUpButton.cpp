@@ -1,5 +1,6 @@
 #include "platform/qt/QtPopUpButton.h"
 
+#include "platform/qt/DetailDelegate.h"
 #include "platform/qt/UniformListView.h"
 #include "platform/qtcore/QtText.h"
 
@@ -14,6 +15,9 @@
 namespace kx {
 
 namespace {
+
+// As many titles as a person takes in at once.
+constexpr int rowsInSight = 20;
 
 // More titles than fit on a screen.
 constexpr int longList = 80;
@@ -94,6 +98,7 @@ TitleList joined(const TitleList& titles, const TitleList& added, bool areAscend
 
 QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
     : _comboBox(comboBox) {
+    comboBox.setMaxVisibleItems(rowsInSight);
     const QString selected = comboBox.currentText();
     TitleList titles;
     for (int index = 0; index < comboBox.count(); ++index) {
@@ -160,6 +165,9 @@ void QtPopUpButton::prepareForLongList() {
         _comboBox.hidePopup(); // an open list would show the old titles
         useOwnStyle();
         _comboBox.setView(new UniformListView);
+        if (_detailDelegate != nullptr) {
+            _comboBox.setItemDelegate(_detailDelegate);
+        }
     }
 }
 
@@ -206,16 +214,29 @@ void QtPopUpButton::refreshDimming() {
     _comboBox.update();
 }
 
+void QtPopUpButton::setDescription(std::string_view text) {
+    _comboBox.setToolTip(qtText(text));
+    describeSelectedTitle();
+}
+
 // A screen reader reads the closed combo box without asking its list. Where nothing is selected it
 // reads what stands there instead.
 void QtPopUpButton::describeSelectedTitle() {
     const int selected = _comboBox.currentIndex();
-    QString description = selected < 0 ? _comboBox.placeholderText() : QString();
+    QString description = selected < 0 ? _comboBox.placeholderText() : _comboBox.toolTip();
     if (_model.isDimmed(selected)) {
         description = _model.dimmedDescription();
     }
     if (_comboBox.accessibleDescription() != description) {
         _comboBox.setAccessibleDescription(description);
+    }
+}
+
+void QtPopUpButton::setDetails(TitleListModel::Details details) {
+    _model.setDetails(std::move(details));
+    if (_detailDelegate == nullptr) {
+        _detailDelegate = new DetailDelegate(&_comboBox);
+        _comboBox.setItemDelegate(_detailDelegate);
     }
 }
 

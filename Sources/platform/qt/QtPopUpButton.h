@@ -37,6 +37,11 @@ public:
     void setDimming(std::function<bool(std::string_view title)> isDimmed,
                     std::string_view description) override;
     void refreshDimming() override;
+    void setDescription(std::string_view text) override;
+
+    // Gives the texts that stand in grey beside a title in the list. They are asked for when the
+    // list is painted, and typing in the list finds them too.
+    void setDetails(TitleListModel::Details details);
 
 private:
     int indexOf(std::string_view title) const;
@@ -48,8 +53,9 @@ private:
     QComboBox& _comboBox;
     TitleListModel _model;
     QMetaObject::Connection _selection;
-    std::unique_ptr<QProxyStyle> _ownStyle; // absent until it is needed
-    bool _hasLongList = false;              // a long list was shown
+    QAbstractItemDelegate* _detailDelegate = nullptr; // the combo box owns it; null without details
+    std::unique_ptr<QProxyStyle> _ownStyle;           // absent until it is needed
+    bool _hasLongList = false;                        // a long list was shown
 
     bool _isAscending = true;
     std::unordered_map<std::string_view, int> _indexOfTitle; // empty while titles are ascending

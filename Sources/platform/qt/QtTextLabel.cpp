@@ -9,6 +9,10 @@ QtTextLabel::QtTextLabel(AnnouncedLabel& label)
     QtTextLabel::setStringValue({});
 }
 
+void QtTextLabel::setMeansTrouble(bool meansTrouble) {
+    _label.setMeansTrouble(meansTrouble);
+}
+
 void QtTextLabel::setStringValue(std::string_view text) {
     _label.say(qtText(text));
 }

@@ -12,6 +12,7 @@ class QtTextLabel final : public TextLabel {
 public:
     explicit QtTextLabel(AnnouncedLabel& label);
 
+    void setMeansTrouble(bool meansTrouble) override;
     void setStringValue(std::string_view text) override;
 
 private:

@@ -24,6 +24,25 @@ int between(int text, int background) {
     return (2 * text + background) / 3;
 }
 
+// Digits without blanks find a serial number. Most titles differ in the first digit already, so
+// none is copied.
+bool startsWithoutBlanks(std::string_view title, const QString& text) {
+    qsizetype matched = 0;
+    for (const char character : title) {
+        if (matched == text.size()) {
+            break;
+        }
+        if (character == ' ') {
+            continue;
+        }
+        if (QChar::fromLatin1(character).toCaseFolded() != text[matched].toCaseFolded()) {
+            return false;
+        }
+        ++matched;
+    }
+    return matched == text.size();
+}
+
 } // namespace
 
 QColor dimmedColour(const QColor& text, const QColor& background) {
@@ -65,15 +84,39 @@ QVariant TitleListModel::data(const QModelIndex& index, int role) const {
         const QPalette palette = QGuiApplication::palette();
         return QBrush(dimmedColour(palette.color(QPalette::Text), palette.color(QPalette::Base)));
     }
-    if (role == Qt::AccessibleDescriptionRole && isDimmed(index.row())) {
-        return _dimmedDescription;
-    }
-    const bool asksForText = role == Qt::DisplayRole || role == Qt::EditRole;
+    const bool asksForText = role == Qt::DisplayRole || role == Qt::EditRole ||
+                             role == Qt::AccessibleDescriptionRole || role == detailRole;
     if (!asksForText || !checkIndex(index, CheckIndexOption::IndexIsValid)) {
         return {};
     }
     const std::string_view title = _titles[static_cast<std::size_t>(index.row())];
-    return role == Qt::DisplayRole ? qtText(visibleText(title)) : qtText(title);
+    switch (role) {
+    case Qt::DisplayRole:
+        return qtText(visibleText(title));
+    case Qt::EditRole:
+        return qtText(title);
+    case Qt::AccessibleDescriptionRole:
+        return descriptionOf(title);
+    default:
+        return detailsOf(title);
+    }
+}
+
+QString TitleListModel::descriptionOf(std::string_view title) const {
+    QStringList description{detailsOf(title)};
+    if (_isDimmed && _isDimmed(title)) {
+        description.append(_dimmedDescription);
+    }
+    description.removeAll(QString());
+    return description.join(". ");
+}
+
+QString TitleListModel::detailsOf(std::string_view title) const {
+    QStringList details;
+    for (const std::string& detail : _details ? _details(title) : std::vector<std::string>()) {
+        details.append(qtText(visibleText(detail)));
+    }
+    return details.join("  ");
 }
 
 QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const QVariant& value,
@@ -84,14 +127,28 @@ QModelIndexList TitleListModel::match(const QModelIndex& start, int role, const 
         return QAbstractListModel::match(start, role, value, hits, flags);
     }
     const QString text = value.toString();
-    const int rows = rowCount();
-    for (int distance = 0; distance < rows; ++distance) {
-        const int row = (start.row() + distance) % rows;
-        if (startsWith(_titles[static_cast<std::size_t>(row)], text)) {
-            return {index(row)};
+    const auto firstRow = [&](const auto& isWanted) -> QModelIndexList {
+        const int rows = rowCount();
+        for (int distance = 0; distance < rows; ++distance) {
+            const int row = (start.row() + distance) % rows;
+            if (isWanted(_titles[static_cast<std::size_t>(row)])) {
+                return {index(row)};
+            }
         }
+        return {};
+    };
+    auto found = firstRow([&](std::string_view title) { return startsWith(title, text); });
+    if (found.isEmpty()) {
+        found = firstRow([&](std::string_view title) { return startsWithoutBlanks(title, text); });
     }
-    return {};
+    if (found.isEmpty() && _details) {
+        found = firstRow([&](std::string_view title) {
+            return std::ranges::any_of(_details(title), [&](const std::string& detail) {
+                return startsWith(detail, text);
+            });
+        });
+    }
+    return found;
 }
 
 } // namespace kx

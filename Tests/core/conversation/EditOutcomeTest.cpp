@@ -181,4 +181,29 @@ TEST(ARPEntry, IsKnownByHowTheToolEnded) {
     EXPECT_EQ(arpEntryForEndOfTool(255), (ARPEntry{ARPEntryState::ended, 255}));
 }
 
+TEST(EditOutcome, AnotherUnitTookItOnlyWhenItAnswersFromTheAddressOfTheEdit) {
+    const std::string other = "01 02 03 04 05 07";
+    const std::uint32_t address = 0xC0A8010A;
+    const auto outcome = [&] {
+        return EditOutcome(editOf(UnitParameter::unitID, "7"),
+                           {.serialNumber = editedUnit, .address = address});
+    };
+    EditOutcome taken = outcome();
+    EXPECT_FALSE(taken.otherUnitDidAccept(editedUnit, address));
+    EXPECT_FALSE(taken.otherUnitDidAccept(other, address + 1));
+    EXPECT_FALSE(taken.otherUnitDidAccept(other, 0));
+    EXPECT_EQ(taken.otherUnit(), std::nullopt);
+    EXPECT_TRUE(taken.otherUnitDidAccept(other, address));
+    EXPECT_FALSE(taken.otherUnitDidAccept(other, address));
+    EXPECT_EQ(taken.otherUnit(), other);
+    EXPECT_EQ(taken.state(), EditState::pending);
+
+    EditOutcome refused(editOf(UnitParameter::unitID, "7"),
+                        {.serialNumber = editedUnit, .address = address}, SendFailure());
+    EXPECT_FALSE(refused.otherUnitDidAccept(other, address));
+    EditOutcome renamed(editOf(UnitParameter::serialNumber, other),
+                        {.serialNumber = editedUnit, .address = address});
+    EXPECT_FALSE(renamed.otherUnitDidAccept(other, address)); // it is the unit itself
+}
+
 } // namespace kx

@@ -85,10 +85,10 @@ TEST_F(InterfaceAddressOfHost, HasTheBroadcastAddressesOfAllAddressesOfAllInterf
     set("SubnetMasks", PropertyList{"255.255.255.0", "255.0.0.0", "255.255.255.255", "255.0.0.0"});
     interfaces.addTitle("Tunnel (tun0)", "=tun0");
     interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
-    EXPECT_EQ(broadcastAddressesOfHost(interfaces),
+    EXPECT_EQ(broadcastAddressesOf(addressesOfHost(interfaces)),
               (std::vector<std::uint32_t>{0xC0A801FFU, 0x0AFFFFFFU, 0x0A01FFFFU}));
     interfaces.clear();
-    EXPECT_TRUE(broadcastAddressesOfHost(interfaces).empty());
+    EXPECT_TRUE(broadcastAddressesOf(addressesOfHost(interfaces)).empty());
 }
 
 } // namespace kx

@@ -73,13 +73,17 @@ TEST(EditOutcomeText, AUnitWhosePortMayHaveChangedIsFoundByDiscover) {
 
 TEST(EditOutcomeText, SaysWhatTheUnitShows) {
     EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3520", "3523"),
+              "The unit now shows 3523 as its destination Port number (was 3520).");
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3523", "3523"),
+              "The unit now shows 3523 as its destination Port number.");
+    EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "", "3523"),
               "The unit now shows 3523 as its destination Port number.");
     EXPECT_EQ(textAfterReply(devicePortNumber, "10001", "10000", "10000"),
               "The unit still shows 10000 as its device Port number.");
     EXPECT_EQ(textAfterReply(devicePortNumber, "70000", "10000", "4464"),
               "The unit now shows 4464 as its device Port number, which is not what was sent.");
     EXPECT_EQ(textAfterReply(unitID, "AB", "42", std::string_view("AB\0\0\0\0", 6)),
-              "The unit now shows AB as its unit ID.");
+              "The unit now shows AB as its unit ID (was 42).");
     EditOutcome outcome = outcomeOf(unitID, "7", "42");
     outcome.unitDidTell(editedUnit, UnitRecord());
     EXPECT_EQ(textOfEditOutcome(outcome), "The unit's parameters hold no unit ID.");
@@ -89,7 +93,8 @@ TEST(EditOutcomeText, AUnitWithANewSerialNumberIsListedUnderIt) {
     EditOutcome outcome = outcomeOf(serialNumber, "0a0b0c0d0e0f", editedUnit);
     outcome.unitDidTell("0A 0B 0C 0D 0E 0F", recordWith(serialNumber, "0A 0B 0C 0D 0E 0F"));
     EXPECT_EQ(textOfEditOutcome(outcome), "The unit now shows 0A 0B 0C 0D 0E 0F as its serial "
-                                          "number. Discover lists it under that.");
+                                          "number (was 01 02 03 04 05 06). Discover lists it under "
+                                          "that.");
     EXPECT_EQ(textAfterReply(serialNumber, editedUnit, editedUnit, editedUnit),
               "The unit now shows 01 02 03 04 05 06 as its serial number.");
 }
@@ -145,8 +150,8 @@ TEST(EditOutcomeText, WhyThereIsNoARPEntryStandsBehindWhatTheUnitShows) {
     outcome.setARPEntry({ARPEntryState::ended, 255});
     outcome.unitDidTell(editedUnit, recordWith(internalIPAddress, "10.0.0.7"));
     EXPECT_EQ(textOfEditOutcome(outcome),
-              "The unit now shows 10.0.0.7 as its internal IP address. No ARP entry was made for "
-              "10.0.0.7: the ARP tool ended with status 255.");
+              "The unit now shows 10.0.0.7 as its internal IP address (was 192.168.1.10). No ARP "
+              "entry was made for 10.0.0.7: the ARP tool ended with status 255.");
 }
 
 TEST(EditOutcomeText, EverySentenceIsLookedUpAsAWhole) {
@@ -159,7 +164,7 @@ TEST(EditOutcomeText, EverySentenceIsLookedUpAsAWhole) {
 TEST(EditOutcomeText, NamesTheParameterAsPeopleSeeIt) {
     const MarkedLocalizedText marked;
     EXPECT_EQ(textAfterReply(destinationPortNumber, "3523", "3520", "3523"),
-              "<The unit now shows 3523 as its <destination Port number>.>");
+              "<The unit now shows 3523 as its <destination Port number> (was 3520).>");
 }
 
 TEST(EditOutcomeText, AnEntryThatWasNotMadeHasASentenceForEveryReason) {
@@ -171,6 +176,41 @@ TEST(EditOutcomeText, AnEntryThatWasNotMadeHasASentenceForEveryReason) {
         EXPECT_TRUE(text.starts_with("No ARP entry was made for 192.0.2.41: ")) << text;
     }
     EXPECT_EQ(textOfARPEntry("192.0.2.41", {.state = ARPEntryState::started}), "");
+}
+
+TEST(EditOutcomeText, AfterTimeForAnAnswerTheYetGoes) {
+    EditOutcome outcome = outcomeOf(unitID, "7", "42");
+    EXPECT_FALSE(meansTrouble(outcome));
+    EXPECT_TRUE(outcome.patienceDidEnd());
+    EXPECT_EQ(textOfEditOutcome(outcome), "Sent ^^IdU000000000007. The unit has not answered.");
+    EXPECT_TRUE(meansTrouble(outcome));
+    EXPECT_TRUE(outcome.patienceDidBegin());
+    EXPECT_EQ(textOfEditOutcome(outcome), "Sent ^^IdU000000000007. The unit has not answered yet.");
+    outcome.unitDidAccept(editedUnit, {});
+    EXPECT_FALSE(outcome.patienceDidEnd());
+    EXPECT_FALSE(meansTrouble(outcome));
+}
+
+TEST(EditOutcomeText, SaysWhichOtherUnitTookAnEdit) {
+    const std::string other = "01 02 03 04 05 07";
+    EditOutcome outcome(editOf(unitID, "7"),
+                        {.serialNumber = editedUnit, .valueBefore = "42", .address = 0xC000020B});
+    ASSERT_TRUE(outcome.otherUnitDidAccept(other, 0xC000020B));
+    EXPECT_EQ(textOfEditOutcome(outcome), "Sent ^^IdU000000000007. Another unit, " + other +
+                                              ", accepted a command: both have the address "
+                                              "192.0.2.11.");
+    EXPECT_TRUE(meansTrouble(outcome));
+    outcome.unitDidTell(editedUnit, recordWith(unitID, "42"));
+    EXPECT_EQ(textOfEditOutcome(outcome), "The unit still shows 42 as its unit ID. Another unit, " +
+                                              other +
+                                              ", accepted a command: both have the address "
+                                              "192.0.2.11.");
+    EditOutcome move(editOf(internalIPAddress, "192.0.2.11"),
+                     {.serialNumber = editedUnit, .address = 0xC000020B});
+    ASSERT_TRUE(move.otherUnitDidAccept(other, 0xC000020B));
+    EXPECT_EQ(textOfEditOutcome(move), "Sent ^^IdIC000020B. Another unit, " + other +
+                                           ", accepted a command: it has the address 192.0.2.11 "
+                                           "already.");
 }
 
 } // namespace kx

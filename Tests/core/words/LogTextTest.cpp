@@ -222,8 +222,18 @@ TEST(LogText, ACarriageReturnAtTheEndOfARowIsShownAsABlank) {
     EXPECT_EQ(text.shownText(0, text.size()), "V \nr\uFFFDs\nend ");
 }
 
+TEST(LogText, ZeroBytesAtTheEndOfAWordAreNeitherSeenNorCopied) {
+    using namespace std::string_view_literals;
+    EXPECT_EQ(shownRow("unit:A\0B\0\0 serial:1"sv), "unit:A\uFFFDB\u2060\u2060 serial:1");
+    const LogText text("unit:ABC\0\0\0 serial:1\n\tunit ID: ABC\0\0\0\nend"sv);
+    EXPECT_EQ(text.copiedText(0, text.size()), "unit:ABC serial:1\n\tunit ID: ABC\nend");
+    EXPECT_EQ(text.copiedText(9, 10), "");
+    EXPECT_EQ(text.text(), "unit:ABC\0\0\0 serial:1\n\tunit ID: ABC\0\0\0\nend"sv);
+}
+
 TEST(LogText, EveryRangeIsShownAsThatPartOfAll) {
-    const LogText text("\n\tone: \u202E\x1Bx\r\n\n" + std::string(1500, 'y') + "網\r\nlast\n");
+    const LogText text(std::string("\nA\0\0 b\0\tone: \u202E\x1Bx\r\n\n", 23) +
+                       std::string(1500, 'y') + "網\r\nlast\n");
     const std::string all = text.shownText(0, text.size());
     for (std::size_t from = 0; from < 30; ++from) {
         for (const std::size_t to : {from, from + 1, from + 5, text.size() - 3, text.size()}) {

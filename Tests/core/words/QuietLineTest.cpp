@@ -51,7 +51,12 @@ private:
     Said _said;
 
 protected:
-    QuietLine line{[this](std::string_view text) { _said.emplace_back(text); }};
+    bool isTrouble = false; // the latest text
+
+    QuietLine line{[this](std::string_view text, bool meansTrouble) {
+        _said.emplace_back(text);
+        isTrouble = meansTrouble;
+    }};
 };
 
 } // namespace
@@ -176,7 +181,7 @@ TEST_F(QuietLineTest, WhatTheNetworkBringsDoesNotEndAnOutcome) {
     EXPECT_TRUE(holds<EditOutcome>());
     EXPECT_EQ(taken(),
               (Said{sentPort, "The unit accepted a command and was asked for its parameters.",
-                    "The unit now shows 3523 as its destination Port number."}))
+                    "The unit now shows 3523 as its destination Port number (was 3520)."}))
         << "another unit and a tool have no part in it";
 }
 
@@ -249,6 +254,56 @@ TEST_F(QuietLineTest, AWarningEndsNothingAndIsSaidOnce) {
     taken();
     line.refreshForecast("Apply sends it.");
     EXPECT_EQ(taken(), Said{}) << "the warning makes no new text of it";
+}
+
+TEST_F(QuietLineTest, AHintStandsInThePlaceOfTheSentenceUntilAPersonPointsElsewhere) {
+    line.showForecast("Apply sends one.");
+    line.setHint("Resets the unit.");
+    line.refreshForecast("Apply sends two.");
+    EXPECT_EQ(taken().back(), "Resets the unit.");
+    line.setHint("");
+    EXPECT_EQ(taken().back(), "Apply sends two.");
+}
+
+TEST_F(QuietLineTest, WhateverAPersonPressesOrTypesEndsTheHint) {
+    line.setHint("Resets the unit.");
+    line.showForecast("Apply sends one.");
+    EXPECT_EQ(taken().back(), "Apply sends one.");
+    line.setHint("Resets the unit.");
+    line.showOutcome(portOutcome());
+    EXPECT_EQ(taken().back(), sentPort);
+    line.setHint("Resets the unit.");
+    line.showMessage("Not sent.");
+    EXPECT_EQ(taken().back(), "Not sent.");
+    EXPECT_FALSE(line.hasHint());
+}
+
+TEST_F(QuietLineTest, AWarningAndAMessageMeanTrouble) {
+    line.showForecast("Apply sends one.");
+    EXPECT_FALSE(isTrouble);
+    line.showForecast("Apply sends one, though.", true);
+    EXPECT_TRUE(isTrouble);
+    line.setHint("Resets the unit.");
+    EXPECT_FALSE(isTrouble);
+    line.setHint("");
+    EXPECT_TRUE(isTrouble);
+    line.showForecast("Apply sends one.");
+    line.setWarning("No unit is selected.");
+    EXPECT_TRUE(isTrouble);
+    line.setWarning("");
+    line.showMessage("Not sent.");
+    EXPECT_TRUE(isTrouble);
+}
+
+TEST_F(QuietLineTest, TheOutcomeOfARequestEndsWhereAMessageEnds) {
+    const RequestOutcome restore(RequestKind::restore, "^^IdZ", RequestTarget(), std::nullopt);
+    line.showOutcome(restore);
+    line.unitDidAccept(otherUnit, {});
+    EXPECT_EQ(taken().back(), "Sent ^^IdZ to every unit that hears it. Accepted by 1 unit.");
+    line.unitIsShown(otherUnit);
+    EXPECT_TRUE(holds<RequestOutcome>());
+    line.endMessage("Apply sends one.");
+    EXPECT_EQ(taken().back(), "Apply sends one.");
 }
 
 } // namespace kx
