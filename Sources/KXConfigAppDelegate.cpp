@@ -18,7 +18,18 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
                 .receiveBuffers = services.receiveBuffers},
                _devicesD, *this, this)
     , _requestPace(services.runLoop, [this] { requestParametersOwed(); })
-    , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); }) {}
+    , _quietLine([this](std::string_view text) { _outlets.quietLine->setStringValue(text); })
+    , _saving(services.saving, outlets.savePanel, services.wallClock,
+              [this](std::string sentence) { _quietLine.showMessage(std::move(sentence)); })
+    , _holderLookup({.runLoop = services.runLoop,
+                     .systemCalls = services.systemCalls,
+                     .neighbours = services.neighbours,
+                     .interfaces = services.networkInterfaces,
+                     .unitOf =
+                         [this](std::string_view hardwareAddress) {
+                             return unitOfHardwareAddress(hardwareAddress);
+                         }},
+                    [this] { refreshForecast(); }) {}
 
 KXConfigAppDelegate::~KXConfigAppDelegate() = default;
 
@@ -39,6 +50,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _editTableEntry = std::make_shared<KXParameterEntry>();
     _auth.reset();
     _textBeingTyped.reset();
+    _holderLookup.cancel();
     _quietLine.showForecast({});
     _shownTarget.reset();
     discoverButton();
@@ -47,6 +59,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
 
 void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
+    _holderLookup.cancel();
     _requestPace.reset();
     logText.clear();
     _session.stop();

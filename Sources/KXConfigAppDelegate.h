@@ -15,12 +15,14 @@
 #pragma once
 
 #include "KXParameterEntry.h"
+#include "KXSaving.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
 #include "conversation/ChosenInterface.h"
 #include "conversation/CommandTarget.h"
 #include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
+#include "conversation/HolderLookup.h"
 #include "conversation/InterfaceAddress.h"
 #include "conversation/RequestPace.h"
 #include "conversation/RequestTarget.h"
@@ -80,8 +82,12 @@ public:
         // The most units that are kept. The sentence about them names the default.
         std::size_t mostUnits = UnitRegistry::defaultLimit;
 
-        // May be null. Nobody looks then on which link an ARP entry stands.
+        // May be null. Nobody looks then on which link an ARP entry stands, and who holds an
+        // address.
         NeighbourTable* neighbours = nullptr;
+
+        // What a session is saved from, and how. Without a record no session can be saved.
+        KXSaving::Services saving = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -116,6 +122,8 @@ public:
     void restoreDefaultSettings();    // asks for factory settings, and 1.0 s later for parameters
     void logDrawerButton();           // opens or closes the event log drawer
     void myHelp();                    // opens the help at its index
+    void saveEventLog();              // asks for a file, and writes the log into it as text
+    void saveSession();               // asks for a file, and writes the kept datagrams into it
 
     // The parameter table's selection changed: copies the row into the edit row.
     void tableViewSelectionDidChange();
@@ -271,11 +279,20 @@ private:
 
     void limitLog();
 
+    // Appends the entry of a datagram that is to be sent, which is also its comment in a saved
+    // session. When the datagram is not sent, the comment is taken back.
+    void appendEntryOfSend(const std::string& entry);
+    void commentNextSend(std::string_view comment);
+
     // Says whom Reload and Restore Defaults reach now. Called after every change of that.
     // lookAtTarget() reads the host's broadcast addresses first.
     void showTarget();
     void lookAtTarget();
     std::string forecast() const;
+
+    // The question who holds the address in the edit row; absent when there is none to ask.
+    std::optional<AddressQuestion> questionOfHolder() const;
+    std::optional<std::string> unitOfHardwareAddress(std::string_view hardwareAddress) const;
     void showForecast();
     void refreshForecast();
     void showFailureOrForecast(const std::optional<SendFailure>& failure);
@@ -308,6 +325,8 @@ private:
     ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
+    KXSaving _saving;
+    HolderLookup _holderLookup;                     // of the address in the edit row
     std::vector<std::uint32_t> _broadcastAddresses; // those of the host and that of the choice
     std::optional<RequestTarget> _shownTarget;      // absent before the first one is shown
     std::list<RunLoop::Handle> _delayedCalls;

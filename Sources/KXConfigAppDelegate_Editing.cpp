@@ -5,9 +5,11 @@
 #include "units/UnitCommand.h"
 #include "words/EditForecast.h"
 #include "words/EventLogEntries.h"
+#include "words/HolderText.h"
 #include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -141,6 +143,7 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     const auto& move = std::get<ParameterEdit>(edit);
     EditOutcome::Unit unit = editedUnit(move);
+    _holderLookup.cancel(); // from now on the entry of the move answers for everybody
     arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
@@ -340,15 +343,41 @@ std::string KXConfigAppDelegate::forecast() const {
     if (planned != nullptr && planned->parameter == UnitParameter::internalIPAddress) {
         target.objectionToARPEntry = objectionToARPEntry(target.hardwareAddress, planned->typed);
     }
-    return forecastOfEdit(edit, target);
+    std::string text = forecastOfEdit(edit, target);
+    const auto* const holders = _holderLookup.resultOf(questionOfHolder());
+    if (holders != nullptr) {
+        text += ' ' + textOfHolders(*holders);
+    }
+    return text;
+}
+
+// An address that the unit tells already is none to ask for.
+std::optional<AddressQuestion> KXConfigAppDelegate::questionOfHolder() const {
+    const std::string typed = _textBeingTyped.value_or(editedValue());
+    const std::uint32_t address = ipForString(typed);
+    if (editedParameter() != UnitParameter::internalIPAddress || !_selectedUnit.has_value() ||
+        stringForIP(address) != typed || _devicesD.lastToldAddress(*_selectedUnit) == typed) {
+        return std::nullopt;
+    }
+    return AddressQuestion{.address = address, .link = linkOfSelectedUnit()};
+}
+
+std::optional<std::string>
+KXConfigAppDelegate::unitOfHardwareAddress(std::string_view hardwareAddress) const {
+    const auto found = std::ranges::find_if(_devicesD.records(), [&](const auto& unit) {
+        return unit.second.value(UnitParameter::internalMACAddress) == hardwareAddress;
+    });
+    return found != _devicesD.records().end() ? std::optional(found->first) : std::nullopt;
 }
 
 void KXConfigAppDelegate::showForecast() {
+    _holderLookup.lookUp(questionOfHolder());
     _quietLine.showForecast(forecast());
 }
 
 void KXConfigAppDelegate::refreshForecast() {
     if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
+        _holderLookup.lookUp(questionOfHolder());
         _quietLine.refreshForecast(forecast());
     }
 }

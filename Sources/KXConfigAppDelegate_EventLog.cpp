@@ -1,4 +1,5 @@
 #include "KXConfigAppDelegate.h"
+#include "words/DatagramLines.h"
 #include "words/EventLogEntries.h"
 
 namespace kx {
@@ -22,6 +23,25 @@ void KXConfigAppDelegate::appendString(std::string_view text) {
     } else if (isOverLimit) {
         _outlets.logTextView->setString({});
     }
+}
+
+void KXConfigAppDelegate::appendEntryOfSend(const std::string& entry) {
+    commentNextSend(lineOfEntry(entry));
+    appendString(entry);
+}
+
+void KXConfigAppDelegate::commentNextSend(std::string_view comment) {
+    if (_services.saving.record != nullptr) {
+        _services.saving.record->commentNextSend(comment);
+    }
+}
+
+void KXConfigAppDelegate::saveEventLog() {
+    _saving.saveLog(logText);
+}
+
+void KXConfigAppDelegate::saveSession() {
+    _saving.saveSession();
 }
 
 void KXConfigAppDelegate::logDrawerButton() {

@@ -1,7 +1,6 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
-#include "support/QuotedLines.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
@@ -19,7 +18,7 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         !asciiBytes(*command).has_value()) {
         return false;
     }
-    appendString(entryOfCommand(*command, *address));
+    appendEntryOfSend(entryOfCommand(*command, *address));
     lookAtTarget();
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
@@ -38,7 +37,7 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
-    appendString(entryOfRequest(destination.address));
+    appendEntryOfSend(entryOfRequest(destination.address));
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
     }
@@ -172,11 +171,7 @@ void KXConfigAppDelegate::requestParametersOwed() {
 
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
     compareReply(reply, origin);
-    auto text = textFromUTF8(reply.payload);
-    if (text.has_value()) {
-        text = quotedLines(*text);
-    }
-    appendString(entryOfReply(reply, text));
+    appendString(entryOfOtherReply(reply));
 }
 
 void KXConfigAppDelegate::sessionDidReceiveError(const Error& error) {
@@ -189,6 +184,7 @@ void KXConfigAppDelegate::sessionDidSend() {
 }
 
 void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
+    commentNextSend({});
     appendString(entryOfSendFailure());
     appendString(reasonInEntry(failure));
 }

@@ -2,6 +2,10 @@
 
 #include "KXConfigAppDelegate.h"
 #include "System Configuration/SystemConfiguration.h"
+#include "conversation/InterfaceAddress.h"
+#include "files/CapturingSystemCalls.h"
+#include "files/SessionRecord.h"
+#include "files/WholeFile.h"
 #include "platform/linux/KernelLinks.h"
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
@@ -29,6 +33,7 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <chrono>
 #include <csignal>
 
 namespace {
@@ -42,12 +47,38 @@ void describeApplication() {
     QApplication::setWindowIcon(kx::applicationIcon());
 }
 
+// The IPv4 address of this host on a link; 0 when there is none.
+std::uint32_t ownAddressOn(kx::DatagramSystemCalls& systemCalls, std::uint32_t link) {
+    return kx::addressOfInterface(kx::SystemConfiguration::sharedInstance(),
+                                  systemCalls.nameForLink(link))
+        .address;
+}
+
+kx::CaptureTime timeNow() {
+    return std::chrono::duration_cast<kx::CaptureTime>(
+        std::chrono::system_clock::now().time_since_epoch());
+}
+
+// Only a file is replaced, and only one that may be written.
+std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
+    const auto objection = kx::objectionToReplacing(path);
+    return objection.has_value() ? objection : kx::replaceFile(path, text);
+}
+
 // What this host gives to the controller, each after what it needs itself.
 struct Host {
     kx::QtRunLoop& runLoop;
     kx::ThreadHostResolver hostResolver{runLoop};
     kx::DatagramSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
+    kx::SessionRecord sessionRecord = kx::SessionRecord();
+    kx::CapturingSystemCalls recordedCalls{
+        systemCalls,
+        {.take = [this](const kx::CapturedDatagram& datagram,
+                        kx::ByteView data) { sessionRecord.keep(datagram, data); },
+         .now = timeNow,
+         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
+         .receiveBuffers = &receiveBuffers}};
     kx::LinuxNeighbourTable neighbours = {};
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
@@ -64,7 +95,7 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host,
                                              kx::AuthorizationService* authorizationService) {
     return {.runLoop = host.runLoop,
             .hostResolver = host.hostResolver,
-            .systemCalls = host.systemCalls,
+            .systemCalls = host.recordedCalls,
             .wallClock = host.wallClock,
             .application = host.application,
             .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
@@ -76,7 +107,12 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host,
             .receiveBuffers = &host.receiveBuffers,
             .hasHelpPage = [&help = host.helpServices](
                                std::string_view page) { return kx::hasHelpPage(page, help); },
-            .neighbours = &host.neighbours};
+            .neighbours = &host.neighbours,
+            .saving = {.record = &host.sessionRecord,
+                       .application = "KXConfig " KX_VERSION,
+                       .counts = [&host] { return host.recordedCalls.counts(); },
+                       .now = timeNow,
+                       .writeFile = writeFile}};
 }
 
 // Runs the program until its end, which a person or a signal brings about.

@@ -144,6 +144,8 @@ public:
 private:
     Refusal lookAtCapture();
     void openCapture();
+    void writeCapture(const Bytes& bytes);
+    void endCapture();
     void awaitProgress();
     void showProgress();
     void endProgress();
@@ -160,6 +162,7 @@ private:
     std::unique_ptr<OutputFile> _captureFile;   // null without a capture
     std::unique_ptr<OutputFile> _savedDocument; // null when it is not saved
     std::unique_ptr<CapturingSystemCalls> _capture;
+    bool _captureHasBegun = false;
     std::unique_ptr<UnitExchange> _exchange;
     Operation* _operation = nullptr; // under way
     std::chrono::milliseconds _begun;

@@ -18,10 +18,26 @@ constexpr auto timeBetweenLooks = 20ms;
 constexpr int probeCount = 3;
 constexpr auto timeBetweenProbes = 1000ms;
 
+// A failure that stood in the table before is an old one: what is sent begins a new search.
+constexpr auto timeOfOldFailure = 1000ms;
+
 // The serial number comes with an answer, which a unit sends a moment after its ARP answer.
 constexpr auto timeForSerialNumber = 200ms;
 
 } // namespace
+
+HolderState holderStateOf(const std::optional<Neighbour>& entry,
+                          std::chrono::milliseconds sinceAsked) {
+    if (!entry.has_value()) {
+        return HolderState::unknown;
+    }
+    if (entry->state == NeighbourState::reachable) {
+        return HolderState::held;
+    }
+    return entry->state == NeighbourState::failed && sinceAsked >= timeOfOldFailure
+               ? HolderState::free
+               : HolderState::unknown;
+}
 
 bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress) {
     return std::ranges::any_of(holders.holders, [hardwareAddress](const auto& holder) {
@@ -107,8 +123,7 @@ void HolderSearch::look() {
 }
 
 // An address that is probed is decided when all probes had their time. The table decides the
-// others. An entry that somebody made by hand, or that nobody has confirmed lately, decides
-// nothing.
+// others.
 void HolderSearch::lookAt(std::size_t index) {
     Asked& asked = _asked[index];
     AddressHolders& result = _results[index];
@@ -121,19 +136,10 @@ void HolderSearch::lookAt(std::size_t index) {
         return;
     }
     const auto entry = _services.neighbours.entry(asked.question.address, asked.question.link);
-    if (!entry.has_value()) {
-        return;
-    }
-    if (entry->state == NeighbourState::failed) {
-        // A failure that stood there before may be an old one: the request begins a new search.
-        if (sinceBegin >= timeBetweenProbes) {
-            result.state = HolderState::free;
-            asked.isDecided = true;
-        }
-    } else if (entry->state == NeighbourState::reachable) {
+    result.state = holderStateOf(entry, sinceBegin);
+    asked.isDecided = result.state != HolderState::unknown;
+    if (result.state == HolderState::held) {
         addHolder(result, entry->hardwareAddress);
-        result.state = HolderState::held;
-        asked.isDecided = true;
     }
 }
 

@@ -49,6 +49,12 @@ public:
 
 enum class HolderState { free, held, unknown };
 
+// What an entry of the neighbour table says, so long after something was sent to its address. An
+// entry that somebody made by hand, or that nobody has confirmed lately, decides nothing, and
+// neither does an early failure, which may be an old one.
+HolderState holderStateOf(const std::optional<Neighbour>& entry,
+                          std::chrono::milliseconds sinceAsked);
+
 struct AddressHolders {
     struct Holder {
         std::string hardwareAddress;
@@ -68,6 +74,8 @@ bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress);
 struct AddressQuestion {
     std::uint32_t address = 0;
     std::uint32_t link = 0;
+
+    friend bool operator==(const AddressQuestion&, const AddressQuestion&) = default;
 };
 
 // Asks for the holders of several addresses at once.

@@ -57,15 +57,22 @@ std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address)
                : std::nullopt;
 }
 
-std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces) {
+std::vector<InterfaceAddress> addressesOfHost(NetworkInterfaces& interfaces) {
     std::vector<std::string> serviceIDs;
     interfaces.bsdTitlesAndServiceIDs(&serviceIDs);
-    std::vector<std::uint32_t> broadcasts;
+    std::vector<InterfaceAddress> all;
     for (const std::string& serviceID : serviceIDs) {
-        for (const InterfaceAddress& each : addressesOfService(interfaces, serviceID)) {
-            if (const auto broadcast = broadcastAddressOf(each)) {
-                broadcasts.push_back(*broadcast);
-            }
+        const auto ofService = addressesOfService(interfaces, serviceID);
+        all.insert(all.end(), ofService.begin(), ofService.end());
+    }
+    return all;
+}
+
+std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces) {
+    std::vector<std::uint32_t> broadcasts;
+    for (const InterfaceAddress& each : addressesOfHost(interfaces)) {
+        if (const auto broadcast = broadcastAddressOf(each)) {
+            broadcasts.push_back(*broadcast);
         }
     }
     return broadcasts;

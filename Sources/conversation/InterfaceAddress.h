@@ -32,6 +32,10 @@ std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces
 // addresses, which has no broadcast address. An address whose mask is missing has 255.255.255.255.
 std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address);
 
+// The addresses of all interfaces of the host, in the order of the pop-up. Empty when the system
+// tells nothing.
+std::vector<InterfaceAddress> addressesOfHost(NetworkInterfaces& interfaces);
+
 // The broadcast addresses of all addresses of all interfaces of the host, in the order of the
 // pop-up; one may be there several times. Empty when the system tells nothing.
 std::vector<std::uint32_t> broadcastAddressesOfHost(NetworkInterfaces& interfaces);

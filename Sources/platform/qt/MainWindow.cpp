@@ -10,6 +10,7 @@
 #include "platform/qt/QtButton.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtSavePanel.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
@@ -62,7 +63,8 @@ struct MainWindow::Controls {
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
         , findBar(*ui.logTextView, ui.logScrollView)
-        , alert(mainWindow) {
+        , alert(mainWindow)
+        , savePanel(mainWindow) {
         ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
@@ -85,6 +87,7 @@ struct MainWindow::Controls {
     QtTextView logTextView;
     FindBar findBar;
     QtAlert alert;
+    QtSavePanel savePanel;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -127,6 +130,7 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.eventLogDrawer = &_controls->eventLogDrawer;
     outlets.logTextView = &_controls->logTextView;
     outlets.alert = &_controls->alert;
+    outlets.savePanel = &_controls->savePanel;
     return outlets;
 }
 
@@ -239,6 +243,10 @@ void MainWindow::connectMenus() {
         perform(&KXConfigAppDelegate::logDrawerButton);
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
     });
+    connect(_ui->saveEventLogAction, &QAction::triggered, this,
+            [this] { perform(&KXConfigAppDelegate::saveEventLog); });
+    connect(_ui->saveSessionAction, &QAction::triggered, this,
+            [this] { perform(&KXConfigAppDelegate::saveSession); });
     connect(_ui->aboutAction, &QAction::triggered, this, [this] { showAboutBox(*this); });
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });
