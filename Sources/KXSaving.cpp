@@ -31,7 +31,7 @@ KXSaving::KXSaving(Services services, SavePanel* panel, const WallClock& clock,
     , _tell(std::move(tell)) {}
 
 void KXSaving::saveLog(const LogText& log) {
-    if (_panel == nullptr) {
+    if (_panel == nullptr || !_services.writeFile) {
         return;
     }
     _panel->ask({.title = localizedText("Save Event Log"),
@@ -46,7 +46,7 @@ void KXSaving::saveLog(const LogText& log) {
 }
 
 void KXSaving::saveSession() {
-    if (_panel == nullptr || _services.record == nullptr) {
+    if (_panel == nullptr || !_services.writeFile || _services.record == nullptr) {
         return;
     }
     _panel->ask({.title = localizedText("Save Session"),

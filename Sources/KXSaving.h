@@ -36,7 +36,8 @@ public:
         std::function<CaptureCounts()> counts = {};
         std::function<CaptureTime()> now = {};
 
-        // Writes the whole of a file, or leaves what stands there. Absent when it was written.
+        // Writes the whole of a file, or leaves what stands there. Absent when it was written. When
+        // the function is empty, nothing is saved.
         std::function<std::optional<Error>(const std::string& path, std::string_view text)>
             writeFile = {};
     };

@@ -18,26 +18,10 @@ constexpr auto timeBetweenLooks = 20ms;
 constexpr int probeCount = 3;
 constexpr auto timeBetweenProbes = 1000ms;
 
-// A failure that stood in the table before is an old one: what is sent begins a new search.
-constexpr auto timeOfOldFailure = 1000ms;
-
 // The serial number comes with an answer, which a unit sends a moment after its ARP answer.
 constexpr auto timeForSerialNumber = 200ms;
 
 } // namespace
-
-HolderState holderStateOf(const std::optional<Neighbour>& entry,
-                          std::chrono::milliseconds sinceAsked) {
-    if (!entry.has_value()) {
-        return HolderState::unknown;
-    }
-    if (entry->state == NeighbourState::reachable) {
-        return HolderState::held;
-    }
-    return entry->state == NeighbourState::failed && sinceAsked >= timeOfOldFailure
-               ? HolderState::free
-               : HolderState::unknown;
-}
 
 bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress) {
     return std::ranges::any_of(holders.holders, [hardwareAddress](const auto& holder) {

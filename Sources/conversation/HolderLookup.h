@@ -13,7 +13,7 @@
 
 #include "DatagramSystemCalls.h"
 #include "System Configuration/NetworkInterfaces.h"
-#include "conversation/AddressHolders.h"
+#include "conversation/HolderState.h"
 #include "conversation/NeighbourTable.h"
 #include "support/RunLoop.h"
 

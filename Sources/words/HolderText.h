@@ -5,7 +5,7 @@
 
 #pragma once
 
-#include "conversation/AddressHolders.h"
+#include "conversation/HolderState.h"
 
 #include <string>
 

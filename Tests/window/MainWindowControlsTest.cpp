@@ -130,7 +130,7 @@ TEST_F(MainWindowTest, EveryMenuItemButAboutHasAShortcutOfItsOwn) {
             }
         }
     }
-    EXPECT_EQ(items, 13);
+    EXPECT_EQ(items, 15);
     EXPECT_EQ(static_cast<int>(itemOfShortcut.size()), items);
 }
 
