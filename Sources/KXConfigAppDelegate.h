@@ -279,10 +279,9 @@ private:
 
     void limitLog();
 
-    // Appends the entry of a datagram that is to be sent, which is also its comment in a saved
-    // session. When the datagram is not sent, the comment is taken back.
-    void appendEntryOfSend(const std::string& entry);
-    void commentNextSend(std::string_view comment);
+    // The line of this entry is the comment of the datagram that is sent next, in a saved session.
+    // The empty entry takes the comment back.
+    void commentNextSend(std::string_view entry);
 
     // Says whom Reload and Restore Defaults reach now. Called after every change of that.
     // lookAtTarget() reads the host's broadcast addresses first.

@@ -25,14 +25,9 @@ void KXConfigAppDelegate::appendString(std::string_view text) {
     }
 }
 
-void KXConfigAppDelegate::appendEntryOfSend(const std::string& entry) {
-    commentNextSend(lineOfEntry(entry));
-    appendString(entry);
-}
-
-void KXConfigAppDelegate::commentNextSend(std::string_view comment) {
+void KXConfigAppDelegate::commentNextSend(std::string_view entry) {
     if (_services.saving.record != nullptr) {
-        _services.saving.record->commentNextSend(comment);
+        _services.saving.record->commentNextSend(lineOfEntry(entry));
     }
 }
 

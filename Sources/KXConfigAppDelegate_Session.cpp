@@ -18,7 +18,8 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         !asciiBytes(*command).has_value()) {
         return false;
     }
-    appendEntryOfSend(entryOfCommand(*command, *address));
+    appendString(entryOfCommand(*command, *address));
+    commentNextSend(entryOfCommand(*command, *address));
     lookAtTarget();
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
@@ -37,7 +38,8 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
-    appendEntryOfSend(entryOfRequest(destination.address));
+    appendString(entryOfRequest(destination.address));
+    commentNextSend(entryOfRequest(destination.address));
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
     }
@@ -184,7 +186,7 @@ void KXConfigAppDelegate::sessionDidSend() {
 }
 
 void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
-    commentNextSend({});
+    commentNextSend("");
     appendString(entryOfSendFailure());
     appendString(reasonInEntry(failure));
 }
