@@ -33,17 +33,17 @@ void HolderLookup::lookUp(const std::optional<AddressQuestion>& question) {
     _next.reset();
     if (question.has_value() && question->link != 0 && _services.neighbours != nullptr &&
         _services.interfaces != nullptr) {
-        _next = _services.runLoop.callOnceAfter(timeBeforeAsking, [this] { ask(); });
+        _next = _services.runLoop.callOnceAfter(timeBeforeAsking,
+                                                [this, asked = *question] { ask(asked); });
     }
 }
 
 // The host's addresses are read here, and not while a person types.
-void HolderLookup::ask() {
-    _next.reset();
-    if (isNeighbour(*_question)) {
-        sendTo(*_question);
+void HolderLookup::ask(AddressQuestion question) {
+    if (isNeighbour(question)) {
+        sendTo(question);
         _sinceAsked = 0ms;
-        lookSoon();
+        lookSoon(question);
     }
 }
 
@@ -77,24 +77,24 @@ void HolderLookup::sendTo(const AddressQuestion& question) {
     calls.close(descriptor);
 }
 
-void HolderLookup::lookSoon() {
+void HolderLookup::lookSoon(const AddressQuestion& question) {
     if (_sinceAsked < lastLook) {
-        _next = _services.runLoop.callOnceAfter(timeBetweenLooks, [this] { look(); });
+        _next =
+            _services.runLoop.callOnceAfter(timeBetweenLooks, [this, question] { look(question); });
     }
 }
 
-void HolderLookup::look() {
-    _next.reset();
+void HolderLookup::look(AddressQuestion question) {
     _sinceAsked += timeBetweenLooks;
-    const auto entry = _services.neighbours->entry(_question->address, _question->link);
+    const auto entry = _services.neighbours->entry(question.address, question.link);
     AddressHolders result{
-        .address = _question->address, .state = holderStateOf(entry, _sinceAsked), .holders = {}};
-    if (result.state == HolderState::held) {
+        .address = question.address, .state = holderStateOf(entry, _sinceAsked), .holders = {}};
+    if (entry.has_value() && result.state == HolderState::held) {
         result.holders.push_back({.hardwareAddress = entry->hardwareAddress,
                                   .serialNumber = _services.unitOf(entry->hardwareAddress)});
     }
     if (result.state == HolderState::unknown) {
-        lookSoon();
+        lookSoon(question);
     }
     if (result.state != HolderState::unknown || _sinceAsked == patience) {
         tell(std::move(result));

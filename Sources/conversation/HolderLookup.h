@@ -62,10 +62,10 @@ public:
 private:
     bool isNeighbour(const AddressQuestion& question) const;
     bool isOwn(std::uint32_t address) const;
-    void ask();
+    void ask(AddressQuestion question);
     void sendTo(const AddressQuestion& question);
-    void look();
-    void lookSoon();
+    void look(AddressQuestion question);
+    void lookSoon(const AddressQuestion& question);
     void tell(AddressHolders result);
 
     Services _services;
