@@ -3,17 +3,18 @@
 // it. Both over loopback, on the Qt loop, in processor time.
 
 #include "Comparison.h"
+#include "KXConfigAppDelegate.h"
 #include "LoopbackBatches.h"
 #include "ProcessorTime.h"
-#include "conversation/UnitSession.h"
+#include "addresses/SocketAddressRecord.h"
 #include "core/UnitReplies.h"
+#include "doubles/FixedWallClock.h"
+#include "doubles/RecordedOutlets.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "files/CapturingSystemCalls.h"
 #include "files/SessionRecord.h"
+#include "platform/qt/MainWindow.h"
 #include "platform/qtcore/QtRunLoop.h"
-#include "words/EventLogEntries.h"
-#include "words/LogText.h"
-#include "words/ParameterLines.h"
 
 #include <benchmark/benchmark.h>
 
@@ -29,44 +30,38 @@ CaptureTime timeNow() {
         std::chrono::system_clock::now().time_since_epoch());
 }
 
+// The system's calls, of which none reaches a network: sockets are bound to loopback, and what is
+// sent goes nowhere.
+class LoopbackCalls final : public DatagramSystemCalls {
+public:
+    int bind(int descriptor, ByteView) override {
+        return DatagramSystemCalls::bind(descriptor, dataForAddress(loopbackAddress, port));
+    }
+    ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
+                        DatagramOrigin& origin) override {
+        const ssize_t length = DatagramSystemCalls::receiveFrom(descriptor, buffer, origin);
+        received += length > 0 ? 1 : 0;
+        return length;
+    }
+    ssize_t sendTo(int, ByteView data, std::optional<ByteView>) override {
+        return static_cast<ssize_t>(data.size());
+    }
+    ssize_t sendToByLink(int, ByteView data, ByteView, std::uint32_t) override {
+        return static_cast<ssize_t>(data.size());
+    }
+
+    int received = 0;
+};
+
 // The system calls of the window, with the record and without it.
 struct Calls {
-    DatagramSystemCalls bare = {};
+    LoopbackCalls bare = {};
     SessionRecord record = SessionRecord();
     CapturingSystemCalls recorded{bare,
                                   {.take = [this](const CapturedDatagram& datagram,
                                                   ByteView data) { record.keep(datagram, data); },
                                    .now = timeNow,
                                    .ownAddress = [](std::uint32_t) { return 0U; }}};
-};
-
-// Logs what the controller logs.
-class LoggedReplies final : public UnitSessionObserver {
-public:
-    void sessionDidReceiveDatagram(std::size_t length, const DatagramOrigin&) override {
-        _log.append(entryOfDatagram(length));
-        ++received;
-    }
-    void unitDidTellParameters(const Reply& reply, const DecodedUnitParameters& parameters,
-                               const DatagramOrigin&) override {
-        _log.append(entryOfReply(reply, linesOfParameters(parameters.items, _names)));
-    }
-    void clear() { _log.clear(); }
-
-    int received = 0;
-
-private:
-    LogText _log;
-    ShownParameterNames _names = shownParameterNames();
-};
-
-class CountedDatagrams final : public UDPEchoDelegate {
-public:
-    void echoDidReceiveDataFromAddress(UDPEcho&, const Bytes& data, const Bytes&) override {
-        benchmark::DoNotOptimize(data.data());
-        ++received;
-    }
-    int received = 0;
 };
 
 double secondsToReceive(const int& received) {
@@ -78,61 +73,64 @@ double secondsToReceive(const int& received) {
     return (processorTime() - begin).count();
 }
 
-void receiveReplies(benchmark::State& state, DatagramSystemCalls& calls) {
+// The real window and the real controller, with the event log closed.
+void receiveReplies(benchmark::State& state, Calls& calls, DatagramSystemCalls& used) {
     QtRunLoop runLoop;
     ScriptedHostResolver resolver;
-    UnitRegistry registry;
-    LoggedReplies replies;
-    UnitSession session({.runLoop = runLoop, .hostResolver = resolver, .systemCalls = calls},
-                        registry, replies);
-    session.start(port);
-    if (!session.isListening()) {
+    const FixedWallClock wallClock(2026, 3, 5, 14, 7, 0);
+    RecordedApplication application;
+    MainWindow window;
+    KXConfigAppDelegate controller(window.outlets(),
+                                   {runLoop, resolver, used, wallClock, application, nullptr, {}});
+    window.connectActions(controller);
+    window.show();
+    controller.applicationDidFinishLaunching();
+    if (controller.udpListener()->port() == 0) {
         state.SkipWithError("the port is taken");
         return;
     }
-    const auto receive = [&replies] {
-        replies.clear();
-        return secondsToReceive(replies.received);
-    };
-    timeBatchesBy(state, receive, SampleUnit().reply());
+    timeBatchesBy(
+        state, [&] { return secondsToReceive(calls.bare.received); }, SampleUnit().reply());
+    window.disconnectActions();
+    controller.applicationWillTerminate();
 }
 
-void readDatagrams(benchmark::State& state, DatagramSystemCalls& calls) {
+void readDatagrams(benchmark::State& state, Calls& calls, DatagramSystemCalls& used) {
     QtRunLoop runLoop;
     ScriptedHostResolver resolver;
-    CountedDatagrams counted;
-    const auto echo = UDPEcho::make(runLoop, resolver, calls);
-    echo->setDelegate(&counted);
+    UDPEchoDelegate nobody;
+    const auto echo = UDPEcho::make(runLoop, resolver, used);
+    echo->setDelegate(&nobody);
     echo->startServerOnPort(port);
     if (echo->port() == 0) {
         state.SkipWithError("the port is taken");
         return;
     }
-    calls.enablePacketInfo(echo->nativeSocket());
-    timeBatchesBy(state, [&counted] { return secondsToReceive(counted.received); });
+    used.enablePacketInfo(echo->nativeSocket());
+    timeBatchesBy(state, [&] { return secondsToReceive(calls.bare.received); });
 }
 
 void receiveRepliesForgotten(benchmark::State& state) {
     Calls calls;
-    receiveReplies(state, calls.bare);
+    receiveReplies(state, calls, calls.bare);
 }
 BENCHMARK(receiveRepliesForgotten)->UseManualTime();
 
 void receiveRepliesKept(benchmark::State& state) {
     Calls calls;
-    receiveReplies(state, calls.recorded);
+    receiveReplies(state, calls, calls.recorded);
 }
 BENCHMARK(receiveRepliesKept)->UseManualTime();
 
 void readDatagramsForgotten(benchmark::State& state) {
     Calls calls;
-    readDatagrams(state, calls.bare);
+    readDatagrams(state, calls, calls.bare);
 }
 BENCHMARK(readDatagramsForgotten)->UseManualTime();
 
 void readDatagramsKept(benchmark::State& state) {
     Calls calls;
-    readDatagrams(state, calls.recorded);
+    readDatagrams(state, calls, calls.recorded);
 }
 BENCHMARK(readDatagramsKept)->UseManualTime();
 

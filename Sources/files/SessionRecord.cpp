@@ -1,5 +1,6 @@
 #include "files/SessionRecord.h"
 
+#include <algorithm>
 #include <cstring>
 #include <type_traits>
 #include <utility>
@@ -21,17 +22,18 @@ struct Header {
 };
 static_assert(std::is_trivially_copyable_v<Header> && sizeof(Header) == 32);
 
-// Room for two of the longest datagrams, so that little of a chunk stays empty.
-constexpr std::size_t chunkLength = std::size_t{256} * 1024;
-
-void append(Bytes& bytes, const void* data, std::size_t length) {
-    const auto* const first = static_cast<const std::uint8_t*>(data);
-    bytes.insert(bytes.end(), first, first + length);
+// Copies the bytes and returns where the next ones go.
+std::uint8_t* put(std::uint8_t* place, const void* bytes, std::size_t length) {
+    if (length > 0) {
+        std::memcpy(place, bytes, length);
+    }
+    return place + length;
 }
 
 } // namespace
 
 void SessionRecord::keep(const CapturedDatagram& datagram, ByteView data) {
+    data = data.first(std::min(data.size(), longestPart));
     const std::string_view comment = datagram.isOwn ? std::string_view(_nextComment) : "";
     const Header header{.time = datagram.time.count(),
                         .source = datagram.source,
@@ -42,13 +44,15 @@ void SessionRecord::keep(const CapturedDatagram& datagram, ByteView data) {
                         .commentLength = static_cast<std::uint32_t>(comment.size()),
                         .isOwn = datagram.isOwn ? 1U : 0U};
     const std::size_t length = sizeof header + data.size() + comment.size();
-    if (_chunks.empty() || _chunks.back().bytes.size() + length > chunkLength) {
+    if (_chunks.empty() || _chunks.back().length + length > chunkLength) {
         beginChunk();
     }
     Chunk& chunk = _chunks.back();
-    append(chunk.bytes, &header, sizeof header);
-    append(chunk.bytes, data.data(), data.size());
-    append(chunk.bytes, comment.data(), comment.size());
+    std::uint8_t* place = chunk.bytes.get() + chunk.length;
+    place = put(place, &header, sizeof header);
+    place = put(place, data.data(), data.size());
+    put(place, comment.data(), comment.size());
+    chunk.length += length;
     ++chunk.datagrams;
     ++_kept;
     if (datagram.isOwn) {
@@ -59,18 +63,20 @@ void SessionRecord::keep(const CapturedDatagram& datagram, ByteView data) {
 // The memory of the oldest chunk becomes that of the new one.
 void SessionRecord::beginChunk() {
     if (!_chunks.empty()) {
-        _bytesInFull += _chunks.back().bytes.size();
+        _bytesInFull += _chunks.back().length;
     }
     Chunk next;
-    while (!_chunks.empty() && _bytesInFull - _chunks.front().bytes.size() >= _limit) {
+    while (!_chunks.empty() && _bytesInFull - _chunks.front().length >= _limit) {
         next = std::move(_chunks.front());
         _chunks.pop_front();
-        _bytesInFull -= next.bytes.size();
+        _bytesInFull -= next.length;
         _kept -= next.datagrams;
         _forgotten += next.datagrams;
     }
-    next.bytes.clear();
-    next.bytes.reserve(chunkLength);
+    if (next.bytes == nullptr) {
+        next.bytes = std::make_unique_for_overwrite<std::uint8_t[]>(chunkLength);
+    }
+    next.length = 0;
     next.datagrams = 0;
     _chunks.push_back(std::move(next));
 }
@@ -78,7 +84,7 @@ void SessionRecord::beginChunk() {
 void SessionRecord::forEach(
     const std::function<void(const CapturedDatagram& datagram, ByteView data)>& each) const {
     for (const Chunk& chunk : _chunks) {
-        ByteView rest = chunk.bytes;
+        ByteView rest(chunk.bytes.get(), chunk.length);
         while (!rest.empty()) {
             Header header{};
             std::memcpy(&header, rest.data(), sizeof header);

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <deque>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -29,11 +30,15 @@ public:
     explicit SessionRecord(std::size_t limit = keptBytes)
         : _limit(limit) {}
 
-    // Keeps one datagram. The comment of an own one is that of commentNextSend().
+    // Keeps one datagram, of which at most 65,535 bytes. The comment of an own one is that of
+    // commentNextSend().
     void keep(const CapturedDatagram& datagram, ByteView data);
 
-    // The comment of the own datagram that is kept next, and of no other.
-    void commentNextSend(std::string_view comment) { _nextComment = comment; }
+    // The comment of the own datagram that is kept next, and of no other. At most 65,535 bytes, the
+    // rest is cut off.
+    void commentNextSend(std::string_view comment) {
+        _nextComment = comment.substr(0, longestPart);
+    }
 
     // The datagrams that are kept, the oldest first. What `each` is given is valid during its call.
     void
@@ -47,9 +52,15 @@ public:
 private:
     // A run of datagrams, forgotten as a whole, so that keeping one never looks at the oldest ones.
     struct Chunk {
-        Bytes bytes;
+        std::unique_ptr<std::uint8_t[]> bytes; // of chunkLength
+        std::size_t length = 0;                // how many of them are in use
         std::uint64_t datagrams = 0;
     };
+
+    // Room for some of the longest datagrams, so that little of a chunk stays empty.
+    static constexpr std::size_t chunkLength = std::size_t{256} * 1024;
+
+    static constexpr std::size_t longestPart = 65'535;
 
     void beginChunk();
 
