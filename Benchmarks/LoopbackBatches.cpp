@@ -5,7 +5,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-#include <array>
 #include <chrono>
 
 namespace kx {
@@ -25,8 +24,7 @@ public:
     Sender(const Sender&) = delete;
     Sender& operator=(const Sender&) = delete;
 
-    void sendBatch() const {
-        const std::array<char, datagramLength> datagram{};
+    void sendBatch(const Bytes& datagram) const {
         for (int i = 0; i < batch; ++i) {
             ::sendto(_socket, datagram.data(), datagram.size(), 0,
                      reinterpret_cast<const sockaddr*>(&_address), sizeof _address);
@@ -48,10 +46,11 @@ void timeBatches(benchmark::State& state, const std::function<void()>& receiveBa
     });
 }
 
-void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch) {
+void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch,
+                   const Bytes& datagram) {
     const Sender sender;
     for (auto _ : state) {
-        sender.sendBatch();
+        sender.sendBatch(datagram);
         state.SetIterationTime(receiveBatch());
     }
     state.SetItemsProcessed(state.iterations() * batch);

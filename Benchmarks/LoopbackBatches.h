@@ -4,6 +4,8 @@
 
 #pragma once
 
+#include "support/ByteRange.h"
+
 #include <benchmark/benchmark.h>
 
 #include <cstdint>
@@ -20,7 +22,8 @@ inline constexpr std::uint32_t loopbackAddress = 0x7F000001;
 void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch);
 
 // The same for a receiver that measures its own time: `receiveBatch` returns the seconds that it
-// took.
-void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch);
+// took. Every datagram of the batch is `datagram`.
+void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch,
+                   const Bytes& datagram = Bytes(datagramLength));
 
 } // namespace kx

@@ -10,8 +10,10 @@
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "doubles/ScriptedSystemCalls.h"
+#include "words/DatagramLines.h"
 
 #include <algorithm>
+#include <string>
 #include <vector>
 
 using namespace kx;
@@ -52,6 +54,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         runLoop.makeReadable(systemCalls.lastDescriptor());
         requireInvariant(controller.eventLog().size() > logged,
                          "every datagram leaves a line in the log");
+        requireInvariant(controller.shownLog().find(lineOfReceivedDatagram(datagram)) !=
+                             std::string::npos,
+                         "the comment of a datagram is a line of the log");
     }
     runLoop.advanceBy(std::chrono::seconds(3));
 

@@ -32,6 +32,9 @@ inline constexpr std::uint32_t noSuchLink = 0x7FFFFFFFU;
 struct DatagramOrigin {
     Bytes sender;           // socket address record of the sender
     std::uint32_t link = 0; // index of the interface; 0 when the system did not tell it
+
+    // Address that it was sent to, in host byte order; 0 when the system did not tell it.
+    std::uint32_t destination = 0;
 };
 
 class DatagramSystemCalls {
@@ -57,7 +60,7 @@ public:
     virtual int enableBroadcast(int descriptor);
 
     // setsockopt(2): IP_PKTINFO at level IPPROTO_IP, the 4-byte integer 1 (ip(7)). 0, or -1. After
-    // that receiveFrom() tells the link.
+    // that receiveFrom() tells the link and the destination.
     virtual int enablePacketInfo(int descriptor);
 
     // sendto(2) of the whole of `data`, flags 0, to an IPv4 record. When `addressRecord` is absent,
@@ -81,8 +84,8 @@ public:
     virtual std::string nameForLink(std::uint32_t link);
 
     // recvmsg(2), flags 0, of one datagram into `buffer`; bytes that do not fit are lost. The bytes
-    // received, or -1. On success `origin` holds the link and the sender's record, which is empty
-    // for a sender of another family than IPv4. On failure `origin` does not change.
+    // received, or -1. On success `origin` holds the link, the destination and the sender's record,
+    // which is empty for a sender of another family than IPv4. On failure `origin` does not change.
     virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                 DatagramOrigin& origin);
 

@@ -24,7 +24,18 @@ KXConfigAppDelegate::KXConfigAppDelegate(const MainWindowOutlets& outlets, const
     , _quietLine([this](std::string_view text, bool meansTrouble) {
         _outlets.quietLine->setMeansTrouble(meansTrouble);
         _outlets.quietLine->setStringValue(text);
-    }) {}
+    })
+    , _saving(services.saving, outlets.savePanel, services.wallClock,
+              [this](std::string sentence) { _quietLine.showMessage(std::move(sentence)); })
+    , _holderLookup({.runLoop = services.runLoop,
+                     .systemCalls = services.systemCalls,
+                     .neighbours = services.neighbours,
+                     .interfaces = services.networkInterfaces,
+                     .unitOf =
+                         [this](std::string_view hardwareAddress) {
+                             return unitOfHardwareAddress(hardwareAddress);
+                         }},
+                    [this] { refreshForecast(); }) {}
 
 KXConfigAppDelegate::~KXConfigAppDelegate() {
     _outlets.unitSelectPopUp->setDimming({}, {});
@@ -51,6 +62,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     _unitOfRow.reset();
     _returnWasPressed = false;
     _listedHolder.reset();
+    _holderLookup.cancel();
     _quietLine.showForecast({});
     _shownTarget.reset();
     _discovery = {};
@@ -64,6 +76,7 @@ void KXConfigAppDelegate::applicationWillTerminate() {
     _delayedCalls.clear();
     _isDiscoveryLineDue = false;
     _patience = {};
+    _holderLookup.cancel();
     _requestPace.reset();
     _outlets.unitSelectPopUp->setDimming({}, {});
     logText.clear();

@@ -15,6 +15,7 @@
 #pragma once
 
 #include "KXParameterEntry.h"
+#include "KXSaving.h"
 #include "Outlets.h"
 #include "System Configuration/NetworkInterfaces.h"
 #include "conversation/AllUnits.h"
@@ -24,6 +25,7 @@
 #include "conversation/DiscoveryFindings.h"
 #include "conversation/EditOutcome.h"
 #include "conversation/EditTrouble.h"
+#include "conversation/HolderLookup.h"
 #include "conversation/InterfaceAddress.h"
 #include "conversation/RequestOutcome.h"
 #include "conversation/RequestPace.h"
@@ -85,7 +87,8 @@ public:
         // The most units that are kept. The sentence about them names the default.
         std::size_t mostUnits = UnitRegistry::defaultLimit;
 
-        // May be null. Nobody looks then on which link an ARP entry stands.
+        // May be null. Nobody looks then on which link an ARP entry stands, and who holds an
+        // address.
         NeighbourTable* neighbours = nullptr;
 
         // The likeliest reason why no unit has answered, as a sentence; absent when it is not
@@ -95,6 +98,8 @@ public:
         // Opens the help at an anchor in the program's own viewer, where openHelpAnchor could not
         // open it. Empty when there is no viewer.
         std::function<bool(std::string_view anchor)> openHelpInViewer = {};
+        // What a session is saved from, and how. Without a record no session can be saved.
+        KXSaving::Services saving = {};
     };
 
     KXConfigAppDelegate(const MainWindowOutlets& outlets, const Services& services);
@@ -133,6 +138,8 @@ public:
     void pointAtRequest(std::optional<RequestKind> button);
     void logDrawerButton(); // opens or closes the event log drawer
     void myHelp();          // opens the help at its index
+    void saveEventLog();    // asks for a file, and writes the log into it as text
+    void saveSession();     // asks for a file, and writes the kept datagrams into it
 
     // Opens the help at this page. When it does not open, the quiet line says why.
     void openHelp(std::string_view page);
@@ -321,6 +328,10 @@ private:
 
     void limitLog();
 
+    // The line of this entry is the comment of the datagram that is sent next, in a saved session.
+    // The empty entry takes the comment back.
+    void commentNextSend(std::string_view entry);
+
     // Says whom Reload and Restore Defaults reach now. Called after every change of that.
     // lookAtTarget() reads the host's broadcast addresses first.
     void showTarget();
@@ -328,6 +339,10 @@ private:
     KnownNetwork knownNetwork(const ParameterEdit& edit);
     CommandTarget targetOfEdit(const std::variant<ParameterEdit, EditRefusal>& edit);
     QuietLine::Forecast forecast();
+
+    // The question who holds the address in the edit row; absent when there is none to ask.
+    std::optional<AddressQuestion> questionOfHolder() const;
+    std::optional<std::string> unitOfHardwareAddress(std::string_view hardwareAddress) const;
     void showForecast();
     void refreshForecast();
     void endMessage();
@@ -371,6 +386,8 @@ private:
     ARPEntry _arpEntry;                                // result of the latest attempt
     std::optional<std::string> _textBeingTyped;        // text in the edit row, not stored yet
     QuietLine _quietLine;
+    KXSaving _saving;
+    HolderLookup _holderLookup;                     // of the address in the edit row
     std::vector<std::uint32_t> _broadcastAddresses; // those of the host and that of the choice
     KnownNetwork _knownNetwork;                     // as a person last did something
     ListedHolder _listedHolder;                     // holds the address in the edit row

@@ -141,6 +141,7 @@ void KXConfigAppDelegate::edit_internalIP() {
     }
     const auto& move = std::get<ParameterEdit>(edit);
     EditOutcome::Unit unit = editedUnit(move);
+    _holderLookup.cancel(); // from now on the entry of the move answers for everybody
     arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);

@@ -1,4 +1,5 @@
 #include "KXConfigAppDelegate.h"
+#include "words/DatagramLines.h"
 #include "words/EventLogEntries.h"
 
 namespace kx {
@@ -22,6 +23,20 @@ void KXConfigAppDelegate::appendString(std::string_view text) {
     } else if (isOverLimit) {
         _outlets.logTextView->setString({});
     }
+}
+
+void KXConfigAppDelegate::commentNextSend(std::string_view entry) {
+    if (_services.saving.record != nullptr) {
+        _services.saving.record->commentNextSend(lineOfEntry(entry));
+    }
+}
+
+void KXConfigAppDelegate::saveEventLog() {
+    _saving.saveLog(logText);
+}
+
+void KXConfigAppDelegate::saveSession() {
+    _saving.saveSession();
 }
 
 void KXConfigAppDelegate::logDrawerButton() {

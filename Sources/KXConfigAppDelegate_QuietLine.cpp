@@ -1,10 +1,11 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
 #include "words/EditForecast.h"
+#include "words/HolderText.h"
 #include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
-#include <array>
+#include <algorithm>
 
 namespace kx {
 
@@ -112,17 +113,47 @@ QuietLine::Forecast KXConfigAppDelegate::forecast() {
         return {};
     }
     const auto edit = editOfParameter(*parameter, _textBeingTyped.value_or(editedValue()));
-    const CommandTarget target = targetOfEdit(edit);
-    return {.text = forecastOfEdit(edit, target), .meansTrouble = meansTrouble(edit, target)};
+    CommandTarget target = targetOfEdit(edit);
+    bool isTrouble = meansTrouble(edit, target);
+    std::string holder;
+    if (const auto* const holders = _holderLookup.resultOf(questionOfHolder())) {
+        holder = ' ' + textOfHolders(*holders);
+        isTrouble = isTrouble || holders->state == HolderState::held;
+        if (target.trouble == EditTrouble::addressOfAnotherUnit) {
+            target.trouble = EditTrouble::none; // the sentence about the holder says more
+        }
+    }
+    return {.text = forecastOfEdit(edit, target) + holder, .meansTrouble = isTrouble};
+}
+
+// An address that the unit tells already is none to ask for.
+std::optional<AddressQuestion> KXConfigAppDelegate::questionOfHolder() const {
+    const std::string typed = _textBeingTyped.value_or(editedValue());
+    const std::uint32_t address = ipForString(typed);
+    if (editedParameter() != UnitParameter::internalIPAddress || !_selectedUnit.has_value() ||
+        stringForIP(address) != typed || _devicesD.lastToldAddress(*_selectedUnit) == typed) {
+        return std::nullopt;
+    }
+    return AddressQuestion{.address = address, .link = linkOfSelectedUnit()};
+}
+
+std::optional<std::string>
+KXConfigAppDelegate::unitOfHardwareAddress(std::string_view hardwareAddress) const {
+    const auto found = std::ranges::find_if(_devicesD.records(), [&](const auto& unit) {
+        return unit.second.value(UnitParameter::internalMACAddress) == hardwareAddress;
+    });
+    return found != _devicesD.records().end() ? std::optional(found->first) : std::nullopt;
 }
 
 void KXConfigAppDelegate::showForecast() {
+    _holderLookup.lookUp(questionOfHolder());
     const auto now = forecast();
     _quietLine.showForecast(now.text, now.meansTrouble);
 }
 
 void KXConfigAppDelegate::refreshForecast() {
     if (std::holds_alternative<QuietLine::Forecast>(_quietLine.state())) {
+        _holderLookup.lookUp(questionOfHolder());
         const auto now = forecast();
         _quietLine.refreshForecast(now.text, now.meansTrouble);
     }

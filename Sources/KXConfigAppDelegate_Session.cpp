@@ -1,7 +1,6 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
-#include "support/QuotedLines.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
@@ -32,6 +31,7 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         return false;
     }
     appendString(entryOfCommand(*command, *address));
+    commentNextSend(entryOfCommand(*command, *address));
     lookAtTarget();
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
@@ -53,6 +53,7 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
+    commentNextSend(entryOfRequest(destination.address));
     _allUnits.requestDidLeave();
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
@@ -211,14 +212,11 @@ void KXConfigAppDelegate::requestParametersOwed() {
 void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const DatagramOrigin& origin) {
     compareReply(reply, origin);
     rememberAnswer(reply, origin);
-    auto text = textFromUTF8(reply.payload);
+    const auto text = textFromUTF8(reply.payload);
     if (reply.serialNumber.has_value() && text.has_value()) {
         _quietLine.unitDidAnswer(*reply.serialNumber, addressOf(origin), textOfAnswer(*text));
     }
-    if (text.has_value()) {
-        text = quotedLines(*text);
-    }
-    appendString(entryOfReply(reply, text));
+    appendString(entryOfOtherReply(reply));
 }
 
 void KXConfigAppDelegate::sessionDidReceiveError(const Error& error) {
@@ -231,6 +229,7 @@ void KXConfigAppDelegate::sessionDidSend() {
 }
 
 void KXConfigAppDelegate::sessionDidFailToSend(const SendFailure& failure) {
+    commentNextSend("");
     appendString(entryOfSendFailure());
     appendString(reasonInEntry(failure));
 }

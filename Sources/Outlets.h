@@ -155,6 +155,25 @@ public:
                           std::string_view button) = 0;
 };
 
+// Asks a person for the file to save something in.
+class SavePanel {
+public:
+    struct Question {
+        std::string title;
+        std::string suggestedName;
+        std::string kind;   // of the file, in words
+        std::string suffix; // of its name; a name that is typed without one gets it
+    };
+
+    virtual ~SavePanel() = default;
+
+    // Shows the question and returns at once. `chosen` is called once with the path of the file, in
+    // UTF-8, from the event loop; never when the person cancels. A file that is there already is
+    // chosen only when the person agrees to replace it. The window takes no other input meanwhile.
+    virtual void ask(const Question& question,
+                     std::function<void(const std::string& path)> chosen) = 0;
+};
+
 class Application {
 public:
     virtual ~Application() = default;
@@ -183,6 +202,7 @@ struct MainWindowOutlets {
     Drawer* eventLogDrawer = nullptr;
     TextView* logTextView = nullptr;
     Alert* alert = nullptr;
+    SavePanel* savePanel = nullptr; // may be null, then nothing is saved
 };
 
 } // namespace kx

@@ -3,6 +3,10 @@
 #include "KXConfigAppDelegate.h"
 #include "KXDiagnosis.h"
 #include "System Configuration/SystemConfiguration.h"
+#include "conversation/InterfaceAddress.h"
+#include "files/CapturingSystemCalls.h"
+#include "files/SessionRecord.h"
+#include "files/WholeFile.h"
 #include "platform/linux/KernelLinks.h"
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
@@ -49,12 +53,43 @@ void describeApplication() {
     QApplication::setWindowIcon(kx::applicationIcon());
 }
 
+// The IPv4 address of this host on a link; 0 when there is none.
+std::uint32_t ownAddressOn(kx::DatagramSystemCalls& systemCalls, std::uint32_t link) {
+    return kx::addressOfInterface(kx::SystemConfiguration::sharedInstance(),
+                                  systemCalls.nameForLink(link))
+        .address;
+}
+
+kx::CaptureTime timeNow() {
+    return std::chrono::duration_cast<kx::CaptureTime>(
+        std::chrono::system_clock::now().time_since_epoch());
+}
+
+// Only a file is replaced, and only one that may be written.
+std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
+    const auto objection = kx::objectionToReplacing(path);
+    return objection.has_value() ? objection : kx::replaceFile(path, text);
+}
+
 // What this host gives to the controller, each after what it needs itself.
 struct Host {
     kx::QtRunLoop& runLoop;
     kx::ThreadHostResolver hostResolver{runLoop};
     kx::DatagramSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
+
+    // Between the listener and the system: the witness takes out what the diagnosis sends to
+    // itself, and what is left is recorded.
+    kx::ListenerWitness witness{systemCalls, &receiveBuffers};
+    kx::SessionRecord sessionRecord = kx::SessionRecord();
+    kx::CapturingSystemCalls recordedCalls{
+        witness,
+        {.take = [this](const kx::CapturedDatagram& datagram,
+                        kx::ByteView data) { sessionRecord.keep(datagram, data); },
+         .now = timeNow,
+         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
+         .receiveBuffers = &receiveBuffers}};
+
     kx::LinuxNeighbourTable neighbours = {};
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
@@ -64,9 +99,6 @@ struct Host {
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
     kx::NetworkManagerProfiles connectionProfiles = {};
     kx::LinuxConfigurationStore configurationStore{runLoop, kernelLinks, &connectionProfiles};
-
-    // For the diagnosis. Its own sockets go past the witness of the listener.
-    kx::ListenerWitness witness{systemCalls, &receiveBuffers};
     kx::LinuxDiagnosticSockets diagnosticSockets{runLoop};
     kx::LinuxHostDiagnostics diagnostics = kx::LinuxHostDiagnostics();
 };
@@ -91,7 +123,7 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagno
                                              kx::AuthorizationService* authorizationService) {
     return {.runLoop = host.runLoop,
             .hostResolver = host.hostResolver,
-            .systemCalls = host.witness,
+            .systemCalls = host.recordedCalls,
             .wallClock = host.wallClock,
             .application = host.application,
             .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
@@ -109,7 +141,12 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagno
                 [&help = host.helpServices](std::string_view anchor) {
                     const auto book = help.helpBookName();
                     return book.has_value() && help.openAnchorInBook(anchor, *book);
-                }};
+                },
+            .saving = {.record = &host.sessionRecord,
+                       .application = "KXConfig " KX_VERSION,
+                       .counts = [&host] { return host.recordedCalls.counts(); },
+                       .now = timeNow,
+                       .writeFile = writeFile}};
 }
 
 // Runs the program until its end, which a person or a signal brings about.

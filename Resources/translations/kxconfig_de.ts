@@ -152,6 +152,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Save Event &amp;Log…</source>
+        <translation>Ereignis&amp;protokoll sichern…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Save Session…</source>
+        <translation>&amp;Sitzung sichern…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Quit</source>
         <translation>&amp;Beenden</translation>
     </message>
@@ -286,6 +296,46 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: 1 datagram.</source>
+        <translation>Die Sitzung ist gesichert: 1 Datagramm.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: %d datagrams.</source>
+        <translation>Die Sitzung ist gesichert: %d Datagramme.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Event Log</source>
+        <translation>Ereignisprotokoll sichern</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The event log was saved.</source>
+        <translation>Das Ereignisprotokoll ist gesichert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Session</source>
+        <translation>Sitzung sichern</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Captures</source>
+        <translation>Mitschnitte</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
+        <translation>„%@“ ist nicht beschreibbar: %@. Nichts ist verloren: Sichern Sie an einem anderen Ort.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>nicht verfügbar</translation>
@@ -324,6 +374,7 @@
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>Ob %@ vergeben ist, war nicht festzustellen.</translation>
     </message>
@@ -703,6 +754,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ gehört %@.</translation>
     </message>
@@ -2314,6 +2366,16 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>Das Gerät %@ ist auf zwei Schnittstellen zu hören: %@ und %@. Befehle gehen über die, auf der es zuletzt zu hören war.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is free: nobody answers for it.</source>
+        <translation>%@ ist frei: Niemand antwortet dafür.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@, unit %@.</source>
+        <translation>%@ gehört %@, Gerät %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

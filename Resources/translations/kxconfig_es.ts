@@ -152,6 +152,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Save Event &amp;Log…</source>
+        <translation>Guardar el &amp;registro…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Save Session…</source>
+        <translation>Guardar la s&amp;esión…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Quit</source>
         <translation>&amp;Salir</translation>
     </message>
@@ -286,6 +296,46 @@
         <translation>Aceptar</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: 1 datagram.</source>
+        <translation>La sesión se ha guardado: 1 datagrama.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: %d datagrams.</source>
+        <translation>La sesión se ha guardado: %d datagramas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Event Log</source>
+        <translation>Guardar el registro de eventos</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The event log was saved.</source>
+        <translation>El registro de eventos se ha guardado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Session</source>
+        <translation>Guardar la sesión</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Captures</source>
+        <translation>Capturas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
+        <translation>No se puede escribir en «%@»: %@. No se ha perdido nada: guárdelo en otro lugar.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>no disponible</translation>
@@ -324,6 +374,7 @@
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>No se pudo averiguar si %@ está ocupada.</translation>
     </message>
@@ -703,6 +754,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ está ocupada por %@.</translation>
     </message>
@@ -2314,6 +2366,16 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>La unidad %@ se oye en dos interfaces: %@ y %@. Las órdenes salen por aquella en la que se oyó por última vez.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is free: nobody answers for it.</source>
+        <translation>%@ está libre: nadie responde por ella.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@, unit %@.</source>
+        <translation>%@ está ocupada por %@, unidad %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

@@ -152,6 +152,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Save Event &amp;Log…</source>
+        <translation>Enregistrer le &amp;journal…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Save Session…</source>
+        <translation>Enregistrer la &amp;session…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Quit</source>
         <translation>&amp;Quitter</translation>
     </message>
@@ -286,6 +296,46 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: 1 datagram.</source>
+        <translation>La session est enregistrée : 1 datagramme.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: %d datagrams.</source>
+        <translation>La session est enregistrée : %d datagrammes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Event Log</source>
+        <translation>Enregistrer le journal des événements</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Text</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The event log was saved.</source>
+        <translation>Le journal des événements est enregistré.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Session</source>
+        <translation>Enregistrer la session</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Captures</source>
+        <translation>Captures</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
+        <translation>Impossible d’écrire dans « %@ » : %@. Rien n’est perdu : enregistrez à un autre endroit.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>non disponible</translation>
@@ -324,6 +374,7 @@
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>Impossible de savoir si %@ est occupée.</translation>
     </message>
@@ -703,6 +754,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ est occupée par %@.</translation>
     </message>
@@ -2314,6 +2366,16 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>L’unité %@ est entendue sur deux interfaces : %@ et %@. Les commandes partent par celle où elle a été entendue en dernier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is free: nobody answers for it.</source>
+        <translation>%@ est libre : personne n’y répond.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@, unit %@.</source>
+        <translation>%@ est occupée par %@, unité %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

@@ -152,6 +152,16 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <source>Save Event &amp;Log…</source>
+        <translation>イベントログを保存(&amp;L)…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Save Session…</source>
+        <translation>セッションを保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
         <source>&amp;Quit</source>
         <translation>終了(&amp;Q)</translation>
     </message>
@@ -286,6 +296,46 @@
         <translation>OK</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: 1 datagram.</source>
+        <translation>セッションを保存しました: データグラム 1 個。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The session was saved: %d datagrams.</source>
+        <translation>セッションを保存しました: データグラム %d 個。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Event Log</source>
+        <translation>イベントログを保存</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Text</source>
+        <translation>テキスト</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>The event log was saved.</source>
+        <translation>イベントログを保存しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Save Session</source>
+        <translation>セッションを保存</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>Captures</source>
+        <translation>キャプチャー</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXSaving.cpp"/>
+        <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
+        <translation>「%@」に書き込めません: %@。何も失われていません。別の場所に保存してください。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
         <source>not available</source>
         <translation>利用不可</translation>
@@ -324,6 +374,7 @@
     <message>
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>%@ が使用中かどうかわかりませんでした。</translation>
     </message>
@@ -703,6 +754,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ は %@ が使用しています。</translation>
     </message>
@@ -2314,6 +2366,16 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ is heard on two interfaces: %@ and %@. Commands leave by the one on which it was heard last.</source>
         <translation>ユニット %@ は 2 つのインターフェースで受信されています: %@ と %@。コマンドは最後に受信したインターフェースから送信されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is free: nobody answers for it.</source>
+        <translation>%@ は空いています。応答するものはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@, unit %@.</source>
+        <translation>%@ は %@ (ユニット %@) が使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

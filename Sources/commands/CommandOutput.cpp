@@ -133,6 +133,7 @@ int CommandRun::finish(std::optional<Failure> failure, int statusWithoutFailure)
     if (isInterrupted()) {
         failure = interruption();
     }
+    endCapture();
     if (_captureFile != nullptr && _captureFile->error().has_value()) {
         warn("capture",
              localizedText("The capture is not whole, because it could not be written."));

@@ -203,37 +203,6 @@ CommandRun::Refusal CommandRun::openExchange(const SystemCallLayer& wrapped) {
                                          "programs."));
 }
 
-CommandRun::Refusal CommandRun::lookAtCapture() {
-    const auto path = _line.valueOf("--capture");
-    if (!path.has_value()) {
-        return std::nullopt;
-    }
-    _captureFile = std::make_unique<OutputFile>(*path);
-    return refusalOfFile(*_captureFile, _captureFile->look());
-}
-
-void CommandRun::openCapture() {
-    if (_captureFile == nullptr) {
-        return;
-    }
-    const auto write = [this](ByteView bytes) {
-        _captureFile->write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
-    };
-    const auto ownAddress = [this](std::uint32_t link) {
-        for (const HostInterface& interface : _interfaces) {
-            if (interface.link == link && !interface.networks.empty()) {
-                return interface.networks.front().address;
-            }
-        }
-        return std::uint32_t{0};
-    };
-    _capture = std::make_unique<CapturingSystemCalls>(
-        _services.session.systemCalls, CapturingSystemCalls::Services{.application = "kxctl",
-                                                                      .write = write,
-                                                                      .now = _services.utc,
-                                                                      .ownAddress = ownAddress});
-}
-
 CommandRun::Refusal CommandRun::refusalOfFile(const OutputFile& file,
                                               const std::optional<Error>& error) {
     return error.has_value()

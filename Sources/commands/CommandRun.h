@@ -164,6 +164,8 @@ private:
     Refusal lookAtCapture();
     Refusal chooseNamedInterface(const std::string& name);
     void openCapture();
+    void writeCapture(const Bytes& bytes);
+    void endCapture();
     void awaitProgress();
     void showProgress();
     void endProgress();
@@ -180,6 +182,7 @@ private:
     std::unique_ptr<OutputFile> _captureFile;   // null without a capture
     std::unique_ptr<OutputFile> _savedDocument; // null when it is not saved
     std::unique_ptr<CapturingSystemCalls> _capture;
+    bool _captureHasBegun = false;
     std::unique_ptr<UnitExchange> _exchange;
     Operation* _operation = nullptr; // under way
     std::chrono::milliseconds _begun;

@@ -107,8 +107,7 @@ void HolderSearch::look() {
 }
 
 // An address that is probed is decided when all probes had their time. The table decides the
-// others. An entry that somebody made by hand, or that nobody has confirmed lately, decides
-// nothing.
+// others.
 void HolderSearch::lookAt(std::size_t index) {
     Asked& asked = _asked[index];
     AddressHolders& result = _results[index];
@@ -121,19 +120,10 @@ void HolderSearch::lookAt(std::size_t index) {
         return;
     }
     const auto entry = _services.neighbours.entry(asked.question.address, asked.question.link);
-    if (!entry.has_value()) {
-        return;
-    }
-    if (entry->state == NeighbourState::failed) {
-        // A failure that stood there before may be an old one: the request begins a new search.
-        if (sinceBegin >= timeBetweenProbes) {
-            result.state = HolderState::free;
-            asked.isDecided = true;
-        }
-    } else if (entry->state == NeighbourState::reachable) {
+    result.state = holderStateOf(entry, sinceBegin);
+    asked.isDecided = result.state != HolderState::unknown;
+    if (result.state == HolderState::held) {
         addHolder(result, entry->hardwareAddress);
-        result.state = HolderState::held;
-        asked.isDecided = true;
     }
 }
 

@@ -11,6 +11,7 @@
 #pragma once
 
 #include "conversation/HeardUnits.h"
+#include "conversation/HolderState.h"
 #include "conversation/NeighbourTable.h"
 #include "conversation/Operation.h"
 #include "conversation/UnitExchange.h"
@@ -47,28 +48,10 @@ public:
     virtual std::unique_ptr<AddressProbe> open(std::uint32_t link, Heard heard) = 0;
 };
 
-enum class HolderState { free, held, unknown };
-
-struct AddressHolders {
-    struct Holder {
-        std::string hardwareAddress;
-        std::optional<std::string> serialNumber; // absent when it is no unit that answers
-    };
-
-    std::uint32_t address = 0;
-    HolderState state = HolderState::unknown;
-    std::vector<Holder> holders;
-};
-
 bool isHeldByAnother(const AddressHolders& holders, std::string_view hardwareAddress);
 
 // Whether a unit with this hardware address may take the address: nobody else holds it.
 bool isFreeFor(const AddressHolders& holders, std::string_view hardwareAddress);
-
-struct AddressQuestion {
-    std::uint32_t address = 0;
-    std::uint32_t link = 0;
-};
 
 // Asks for the holders of several addresses at once.
 class HolderSearch final : public Operation, private UnitExchange::Listener {

@@ -4,6 +4,7 @@
 #include <array>
 #include <bit>
 #include <cstddef>
+#include <string>
 
 namespace kx {
 
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::uint32_t sectionHeaderBlock = 0x0A0D0D0A;
 constexpr std::uint32_t interfaceBlock = 1;
+constexpr std::uint32_t interfaceStatisticsBlock = 5;
 constexpr std::uint32_t enhancedPacketBlock = 6;
 constexpr std::uint32_t byteOrderMagic = 0x1A2B3C4D;
 constexpr std::uint16_t linkTypeIPv4 = 228;
@@ -19,6 +21,10 @@ constexpr std::uint16_t endOfOptions = 0;
 constexpr std::uint16_t commentOption = 1;
 constexpr std::uint16_t packetFlagsOption = 2;
 constexpr std::uint16_t userApplicationOption = 4;
+constexpr std::uint16_t receivedOption = 4;
+// Of the format's counts of losses this is the one that readers show.
+constexpr std::uint16_t droppedOption = 5;
+constexpr std::size_t longestOption = 65'535;
 constexpr std::uint32_t inbound = 1;
 constexpr std::uint32_t outbound = 2;
 
@@ -27,6 +33,12 @@ constexpr std::size_t udpHeaderLength = 8;
 constexpr std::size_t longestPacket = 65'535;
 constexpr std::uint8_t protocolUDP = 17;
 constexpr std::uint8_t usualTimeToLive = 64;
+
+// For whoever reads the capture, who need not have this program or its language.
+constexpr std::string_view sectionComment =
+    "The headers of IPv4 and UDP are made up: only addresses, ports and contents of the datagrams "
+    "are known to the program that wrote them down. 0.0.0.0 stands for an address that is not "
+    "known. The time is that of sending and of reading.";
 
 template<class Number>
 void append(Bytes& bytes, Number number) {
@@ -47,7 +59,20 @@ void appendOption(Bytes& bytes, std::uint16_t code, ByteView value) {
 
 void appendOption(Bytes& bytes, std::uint16_t code, std::string_view text) {
     const auto* const first = reinterpret_cast<const std::uint8_t*>(text.data());
-    appendOption(bytes, code, ByteView(first, text.size()));
+    appendOption(bytes, code, ByteView(first, std::min(text.size(), longestOption)));
+}
+
+template<class Number>
+void appendNumberOption(Bytes& bytes, std::uint16_t code, Number number) {
+    appendOption(bytes, code,
+                 ByteView(std::bit_cast<std::array<std::uint8_t, sizeof number>>(number)));
+}
+
+// The format has the high word first, in either byte order.
+void appendTime(Bytes& bytes, CaptureTime time) {
+    const auto microseconds = static_cast<std::uint64_t>(time.count());
+    append(bytes, static_cast<std::uint32_t>(microseconds >> 32U));
+    append(bytes, static_cast<std::uint32_t>(microseconds));
 }
 
 Bytes block(std::uint32_t type, const Bytes& body) {
@@ -104,12 +129,18 @@ Bytes packetOf(const CapturedDatagram& datagram, ByteView data) {
 
 } // namespace
 
-Bytes captureHeader(std::string_view application) {
+Bytes captureHeader(std::string_view application, std::uint64_t forgotten) {
+    std::string comment(sectionComment);
+    if (forgotten > 0) {
+        comment += " Datagrams from before the first one of this file, which are not in it: " +
+                   std::to_string(forgotten) + '.';
+    }
     Bytes section;
     append(section, byteOrderMagic);
     append(section, std::uint16_t{1}); // version 1.0
     append(section, std::uint16_t{0});
     append(section, ~std::uint64_t{0}); // the length of the section is not known
+    appendOption(section, commentOption, std::string_view(comment));
     appendOption(section, userApplicationOption, application);
     appendOption(section, endOfOptions, ByteView());
     Bytes interface;
@@ -124,22 +155,28 @@ Bytes captureHeader(std::string_view application) {
 
 Bytes capturedDatagram(const CapturedDatagram& datagram, ByteView data) {
     const Bytes packet = packetOf(datagram, data);
-    const auto time = static_cast<std::uint64_t>(datagram.time.count());
     Bytes body;
     append(body, std::uint32_t{0}); // the one interface
-    append(body, static_cast<std::uint32_t>(time >> 32U));
-    append(body, static_cast<std::uint32_t>(time));
+    appendTime(body, datagram.time);
     append(body, static_cast<std::uint32_t>(packet.size()));
     append(body, static_cast<std::uint32_t>(packet.size()));
     append(body, ByteView(packet));
-    const auto flags =
-        std::bit_cast<std::array<std::uint8_t, 4>>(datagram.isOwn ? outbound : inbound);
-    appendOption(body, packetFlagsOption, ByteView(flags));
-    if (!datagram.remark.empty()) {
-        appendOption(body, commentOption, datagram.remark);
+    appendNumberOption(body, packetFlagsOption, datagram.isOwn ? outbound : inbound);
+    if (!datagram.comment.empty()) {
+        appendOption(body, commentOption, datagram.comment);
     }
     appendOption(body, endOfOptions, ByteView());
     return block(enhancedPacketBlock, body);
+}
+
+Bytes captureStatistics(CaptureTime time, const CaptureCounts& counts) {
+    Bytes body;
+    append(body, std::uint32_t{0}); // the one interface
+    appendTime(body, time);
+    appendNumberOption(body, receivedOption, counts.received + counts.dropped);
+    appendNumberOption(body, droppedOption, counts.dropped);
+    appendOption(body, endOfOptions, ByteView());
+    return block(interfaceStatisticsBlock, body);
 }
 
 } // namespace kx

@@ -1,88 +1,114 @@
 #include "files/CapturingSystemCalls.h"
 
 #include "addresses/SocketAddressRecord.h"
-#include "files/Capture.h"
 
 #include <cerrno>
+#include <utility>
 
 namespace kx {
-
-namespace {
-
-struct IPv4Endpoint {
-    std::uint32_t address = 0;
-    std::uint16_t port = 0;
-};
-
-IPv4Endpoint endpointOf(ByteView record) {
-    IPv4Endpoint endpoint;
-    IPv6Octets unused{};
-    addressForData(record, endpoint.address, unused, &endpoint.port);
-    return endpoint;
-}
-
-} // namespace
 
 CapturingSystemCalls::CapturingSystemCalls(DatagramSystemCalls& inner, Services services)
     : _inner(inner)
     , _services(std::move(services)) {}
 
+CaptureCounts CapturingSystemCalls::counts() const {
+    return {.received = _counts.received, .dropped = _counts.dropped + droppedOf(_bound)};
+}
+
+int CapturingSystemCalls::bind(int descriptor, ByteView address) {
+    const int result = _inner.bind(descriptor, address);
+    if (result == 0) {
+        _counts.dropped += droppedOf(_bound);
+        _bound = descriptor;
+        _boundTo = endpointOf(_inner.localAddress(descriptor).value_or(Bytes()));
+    }
+    return result;
+}
+
+int CapturingSystemCalls::close(int descriptor) {
+    if (descriptor == _bound) {
+        _counts.dropped += droppedOf(_bound);
+        _bound = -1;
+    }
+    return _inner.close(descriptor);
+}
+
 ssize_t CapturingSystemCalls::sendTo(int descriptor, ByteView data,
                                      std::optional<ByteView> address) {
     const ssize_t sent = _inner.sendTo(descriptor, data, address);
-    const int error = errno;
     if (sent >= 0) {
-        capture(descriptor, true, address.value_or(ByteView()), 0, data);
+        takeSent(descriptor, data,
+                 address.has_value() ? *address : peerAddress(descriptor).value_or(Bytes()), 0);
     }
-    errno = error;
     return sent;
 }
 
 ssize_t CapturingSystemCalls::sendToByLink(int descriptor, ByteView data, ByteView address,
                                            std::uint32_t link) {
     const ssize_t sent = _inner.sendToByLink(descriptor, data, address, link);
-    const int error = errno;
     if (sent >= 0) {
-        capture(descriptor, true, address, link, data);
+        takeSent(descriptor, data, address, link);
     }
-    errno = error;
     return sent;
 }
 
 ssize_t CapturingSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                           DatagramOrigin& origin) {
     const ssize_t received = _inner.receiveFrom(descriptor, buffer, origin);
-    const int error = errno;
     if (received >= 0) {
-        capture(descriptor, false, origin.sender, origin.link,
-                buffer.first(static_cast<std::size_t>(received)));
+        takeReceived(descriptor, buffer.first(static_cast<std::size_t>(received)), origin);
     }
-    errno = error;
     return received;
 }
 
-void CapturingSystemCalls::capture(int descriptor, bool isOwn, ByteView other, std::uint32_t link,
-                                   ByteView data) {
-    if (!std::exchange(_hasHeader, true)) {
-        _services.write(captureHeader(_services.application));
-    }
-    const auto local = _inner.localAddress(descriptor);
-    IPv4Endpoint own = endpointOf(local.value_or(Bytes()));
+CapturingSystemCalls::Endpoint CapturingSystemCalls::endpointOf(ByteView record) {
+    Endpoint endpoint;
+    IPv6Octets unused{};
+    addressForData(record, endpoint.address, unused, &endpoint.port);
+    return endpoint;
+}
+
+CapturingSystemCalls::Endpoint CapturingSystemCalls::localEndpoint(int descriptor) const {
+    return descriptor == _bound ? _boundTo
+                                : endpointOf(_inner.localAddress(descriptor).value_or(Bytes()));
+}
+
+std::uint32_t CapturingSystemCalls::droppedOf(int descriptor) const {
+    return descriptor >= 0 && _services.receiveBuffers != nullptr
+               ? _services.receiveBuffers->droppedDatagrams(descriptor).value_or(0)
+               : 0;
+}
+
+void CapturingSystemCalls::takeSent(int descriptor, ByteView data, ByteView address,
+                                    std::uint32_t link) {
+    Endpoint own = localEndpoint(descriptor);
     if (own.address == 0) {
         own.address = _services.ownAddress(link);
     }
-    const IPv4Endpoint far = endpointOf(other);
-    const IPv4Endpoint& source = isOwn ? own : far;
-    const IPv4Endpoint& destination = isOwn ? far : own;
-    _services.write(
-        capturedDatagram({.time = _services.now(),
-                          .isOwn = isOwn,
-                          .source = source.address,
-                          .sourcePort = source.port,
-                          .destination = destination.address,
-                          .destinationPort = destination.port,
-                          .remark = isOwn ? "sent by " + _services.application : std::string()},
-                         data));
+    const Endpoint far = endpointOf(address);
+    _services.take({.time = _services.now(),
+                    .isOwn = true,
+                    .source = own.address,
+                    .destination = far.address,
+                    .sourcePort = own.port,
+                    .destinationPort = far.port,
+                    .comment = {}},
+                   data);
+}
+
+void CapturingSystemCalls::takeReceived(int descriptor, ByteView data,
+                                        const DatagramOrigin& origin) {
+    ++_counts.received;
+    const Endpoint own = localEndpoint(descriptor);
+    const Endpoint far = endpointOf(origin.sender);
+    _services.take({.time = _services.now(),
+                    .isOwn = false,
+                    .source = far.address,
+                    .destination = origin.destination != 0 ? origin.destination : own.address,
+                    .sourcePort = far.port,
+                    .destinationPort = own.port,
+                    .comment = {}},
+                   data);
 }
 
 } // namespace kx

@@ -3,6 +3,7 @@
 #include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "support/QuotedLines.h"
+#include "support/TextEncoding.h"
 #include "words/SendFailureText.h"
 
 namespace kx {
@@ -86,6 +87,10 @@ std::string entryOfReply(const Reply& reply, const std::optional<std::string>& t
                ? localizedText("\nReceived command: ^^%@ unit:%@ serial:%@ cidString:%@",
                                {quoted(reply.tag), quoted(reply.unitID), reply.serialNumber, text})
                : localizedText("\nReceived command: ^^%@", {quoted(reply.tag)});
+}
+
+std::string entryOfOtherReply(const Reply& reply) {
+    return entryOfReply(reply, quoted(textFromUTF8(reply.payload)));
 }
 
 std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,

@@ -51,6 +51,9 @@ std::string entryOfReceiveError();
 // come quoted; the lines of a parameter list are. Here and below an absent text prints as "(null)".
 std::string entryOfReply(const Reply& reply, const std::optional<std::string>& text);
 
+// The entry of a reply that is neither a parameter list nor an acknowledgement, with its own text.
+std::string entryOfOtherReply(const Reply& reply);
+
 // An ARP cache entry that was handed to the tool; and one that was not, with the result of
 // Authorization::runToolWithArgs().
 std::string entryOfARPEntry(const std::optional<std::string>& hardwareAddress,

@@ -186,6 +186,25 @@ TYPED_TEST_P(DatagramSystemCallsContract, TheLinkOfADatagramIsToldFromTheMomentI
     EXPECT_EQ(linkOfNext(), this->trait.link());
 }
 
+TYPED_TEST_P(DatagramSystemCallsContract, TheDestinationOfADatagramIsToldWithItsLink) {
+    const int descriptor = this->newBoundSocket();
+    const auto destinationOfNext = [&] {
+        this->trait.deliver(descriptor, this->data);
+        Bytes buffer(100);
+        DatagramOrigin origin{.sender = {}, .link = 7, .destination = 7};
+        EXPECT_EQ(this->calls().receiveFrom(descriptor, buffer, origin), 3);
+        return origin.destination;
+    };
+    EXPECT_EQ(destinationOfNext(), 0U);
+    EXPECT_EQ(this->calls().enablePacketInfo(descriptor), 0);
+    const Bytes local = this->calls().localAddress(descriptor).value_or(Bytes());
+    std::uint32_t address = 0;
+    IPv6Octets unused{};
+    addressForData(local, address, unused, nullptr);
+    ASSERT_NE(address, 0U);
+    EXPECT_EQ(destinationOfNext(), address);
+}
+
 TYPED_TEST_P(DatagramSystemCallsContract, OneSocketTellsTheLinkAndAnotherDoesNot) {
     EXPECT_EQ(this->calls().enablePacketInfo(this->newBoundSocket()), 0);
     const int other = this->newBoundSocket();
@@ -313,10 +332,10 @@ REGISTER_TYPED_TEST_SUITE_P(
     AConnectedSocketHasItsPeer, WhatFollowsTheAddressInALongerRecordIsNotLookedAt,
     ADatagramArrivesWholeAndWithItsSender, WhatDoesNotFitOfADatagramIsCut,
     ADatagramWithoutBytesIsReadAsNone, AReadThatFailsLeavesTheSenderAlone,
-    TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor, OneSocketTellsTheLinkAndAnotherDoesNot,
-    ASendTellsHowManyBytesItSent, ASendByALinkTellsHowManyBytesItSent,
-    ASendByALinkThatDoesNotExistFails, ALinkIsFoundByItsName, ALinkHasItsName,
-    OnlyAConnectedSocketSendsWithoutAnAddress, ARecordOfAnotherFamilyIsRefused,
+    TheLinkOfADatagramIsToldFromTheMomentItIsAskedFor, TheDestinationOfADatagramIsToldWithItsLink,
+    OneSocketTellsTheLinkAndAnotherDoesNot, ASendTellsHowManyBytesItSent,
+    ASendByALinkTellsHowManyBytesItSent, ASendByALinkThatDoesNotExistFails, ALinkIsFoundByItsName,
+    ALinkHasItsName, OnlyAConnectedSocketSendsWithoutAnAddress, ARecordOfAnotherFamilyIsRefused,
     ARecordThatIsTooShortIsRefused, AnEmptyRecordIsNoAbsentOne, AClosedDescriptorFailsEveryCall,
     BroadcastsCanBeAllowed, ASocketWrapperClosesItsDescriptorAtFirst);
 

@@ -16,6 +16,10 @@
 //   text view    TextView& control(); std::string text(); bool isEndVisible(), which waits for
 //                the view to show its text
 //   drawer       Drawer& control(), closed at first; void finishMoving()
+//   save panel   SavePanel& control(); bool isOpen(); std::string title() and suggestedName() of
+//   the
+//                open panel; void choose(const std::string& path) and void cancel(), as a person
+//                does; std::string pathOf(const std::string& name), a path that can be chosen
 //
 //     INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, PopUpButtonContract, RecordedPopUpButtonTrait);
 
@@ -396,5 +400,61 @@ TYPED_TEST_P(DrawerContract, OpeningAnOpenDrawerLeavesItOpen) {
 
 REGISTER_TYPED_TEST_SUITE_P(DrawerContract, OpeningEndsOpen, ClosingEndsClosed,
                             ClosingAClosedDrawerLeavesItClosed, OpeningAnOpenDrawerLeavesItOpen);
+
+// --- Save panel ---
+
+template<class Trait>
+class SavePanelContract : public ::testing::Test {
+protected:
+    void ask(const std::string& suggestedName = "kxconfig-log.txt") {
+        trait.control().ask({.title = "Save Event Log",
+                             .suggestedName = suggestedName,
+                             .kind = "Text",
+                             .suffix = "txt"},
+                            [this](const std::string& path) { chosen.push_back(path); });
+    }
+
+    Trait trait;
+    std::vector<std::string> chosen;
+};
+
+TYPED_TEST_SUITE_P(SavePanelContract);
+
+TYPED_TEST_P(SavePanelContract, AsksAndReturnsAtOnce) {
+    EXPECT_FALSE(this->trait.isOpen());
+    this->ask();
+    EXPECT_TRUE(this->trait.isOpen());
+    EXPECT_EQ(this->trait.title(), "Save Event Log");
+    EXPECT_EQ(this->trait.suggestedName(), "kxconfig-log.txt");
+    EXPECT_TRUE(this->chosen.empty());
+}
+
+TYPED_TEST_P(SavePanelContract, TellsTheFileThatIsChosenOnce) {
+    this->ask();
+    const std::string path = this->trait.pathOf("Protokoll für Müller.txt");
+    this->trait.choose(path);
+    EXPECT_EQ(this->chosen, std::vector<std::string>{path});
+    EXPECT_FALSE(this->trait.isOpen());
+}
+
+TYPED_TEST_P(SavePanelContract, TellsNothingWhenThePersonCancels) {
+    this->ask();
+    this->trait.cancel();
+    EXPECT_TRUE(this->chosen.empty());
+    EXPECT_FALSE(this->trait.isOpen());
+}
+
+TYPED_TEST_P(SavePanelContract, CanAskAgain) {
+    this->ask();
+    this->trait.cancel();
+    this->ask("another.txt");
+    EXPECT_EQ(this->trait.suggestedName(), "another.txt");
+    const std::string path = this->trait.pathOf("another.txt");
+    this->trait.choose(path);
+    EXPECT_EQ(this->chosen, std::vector<std::string>{path});
+}
+
+REGISTER_TYPED_TEST_SUITE_P(SavePanelContract, AsksAndReturnsAtOnce, TellsTheFileThatIsChosenOnce,
+                            TellsNothingWhenThePersonCancels, CanAskAgain);
 
 } // namespace kx

@@ -18,12 +18,15 @@
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedReceiveBufferControl.h"
 #include "doubles/ScriptedSystemCalls.h"
+#include "files/CapturingSystemCalls.h"
+#include "files/SessionRecord.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <map>
 #include <regex>
 #include <string>
 #include <vector>
@@ -181,15 +184,45 @@ protected:
     std::vector<std::string> helpAnchors;
     bool helpOpens = true;
     bool helpIsThere = true;
-    KXConfigAppDelegate controller{
-        window.outlets(),
-        {runLoop, hostResolver, systemCalls, wallClock, application, &interfaces,
-         [this](std::string_view anchor) {
-             helpAnchors.emplace_back(anchor);
-             return helpOpens;
-         },
-         &authority, &receiveBuffers, [this](std::string_view) { return helpIsThere; },
-         UnitRegistry::defaultLimit, &neighbours}};
+
+    // What is sent and received, as the window keeps it, and the files that it writes.
+    SessionRecord sessionRecord;
+    CaptureCounts captureCounts;
+    CapturingSystemCalls recordedCalls{
+        systemCalls,
+        {.take = [this](const CapturedDatagram& datagram,
+                        ByteView data) { sessionRecord.keep(datagram, data); },
+         .now = [] { return CaptureTime(7); },
+         .ownAddress = [](std::uint32_t link) { return link != 0 ? 0xC0A80114U : 0U; }}};
+    std::map<std::string, std::string> files;
+    std::optional<Error> diskFailure;
+    KXConfigAppDelegate controller{window.outlets(),
+                                   {runLoop,
+                                    hostResolver,
+                                    recordedCalls,
+                                    wallClock,
+                                    application,
+                                    &interfaces,
+                                    [this](std::string_view anchor) {
+                                        helpAnchors.emplace_back(anchor);
+                                        return helpOpens;
+                                    },
+                                    &authority,
+                                    &receiveBuffers,
+                                    [this](std::string_view) { return helpIsThere; },
+                                    UnitRegistry::defaultLimit,
+                                    &neighbours,
+                                    {.record = &sessionRecord,
+                                     .application = "KXConfig 9.9",
+                                     .counts = [this] { return captureCounts; },
+                                     .now = [] { return CaptureTime(8); },
+                                     .writeFile =
+                                         [this](const std::string& path, std::string_view text) {
+                                             if (!diskFailure.has_value()) {
+                                                 files[path] = text;
+                                             }
+                                             return diskFailure;
+                                         }}}};
 };
 
 } // namespace kx

@@ -115,7 +115,7 @@ public:
     Bytes freeAddress() { return dataForAddress(0x7F000001U, _nextPort++); }
     Bytes deliver(int /*descriptor*/, const Bytes& data) {
         Bytes sender = dataForAddress(0x0A000002U, 3520);
-        _calls.queueDatagram(data, sender, link());
+        _calls.queueDatagram(data, sender, link(), 0x7F000001U);
         return sender;
     }
     std::uint32_t link() { return 3; }

@@ -82,6 +82,18 @@ struct RecordedDrawerTrait {
     RecordedDrawer drawer;
 };
 
+struct RecordedSavePanelTrait {
+    SavePanel& control() { return panel; }
+    bool isOpen() const { return panel.isOpen(); }
+    std::string title() const { return panel.questions().back().title; }
+    std::string suggestedName() const { return panel.questions().back().suggestedName; }
+    void choose(const std::string& path) { panel.choose(path); }
+    void cancel() { panel.cancel(); }
+    static std::string pathOf(const std::string& name) { return "/there/" + name; }
+
+    RecordedSavePanel panel;
+};
+
 struct RecordedWindowTrait {
     Window& control() { return window; }
     void type(const std::string& text) {
@@ -131,6 +143,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextLabelContract, RecordedTextLabelTra
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TableViewContract, RecordedTableViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, TextViewContract, RecordedTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, DrawerContract, RecordedDrawerTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, SavePanelContract, RecordedSavePanelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, WindowContract, RecordedWindowTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, AlertContract, RecordedAlertTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Recorded, ApplicationContract, RecordedApplicationTrait);

@@ -340,6 +340,31 @@ private:
     std::function<void()> _meanwhile;
 };
 
+// A person answers when the test says so.
+class RecordedSavePanel final : public SavePanel {
+public:
+    void ask(const Question& question,
+             std::function<void(const std::string& path)> chosen) override {
+        _questions.push_back(question);
+        _chosen = std::move(chosen);
+    }
+
+    // Acts as a person who chooses a file, or closes the panel without one.
+    void choose(const std::string& path) {
+        if (const auto chosen = std::exchange(_chosen, nullptr)) {
+            chosen(path);
+        }
+    }
+    void cancel() { _chosen = nullptr; }
+
+    bool isOpen() const { return _chosen != nullptr; }
+    const std::vector<Question>& questions() const { return _questions; }
+
+private:
+    std::vector<Question> _questions;
+    std::function<void(const std::string& path)> _chosen;
+};
+
 class RecordedApplication final : public Application {
 public:
     void terminate() override { ++_terminateCount; }
@@ -369,6 +394,7 @@ struct RecordedMainWindow {
     RecordedDrawer eventLogDrawer;
     RecordedTextView logTextView;
     RecordedAlert alert;
+    RecordedSavePanel savePanel;
 
     MainWindowOutlets outlets() {
         MainWindowOutlets outlets;
@@ -389,6 +415,7 @@ struct RecordedMainWindow {
         outlets.eventLogDrawer = &eventLogDrawer;
         outlets.logTextView = &logTextView;
         outlets.alert = &alert;
+        outlets.savePanel = &savePanel;
         return outlets;
     }
 };

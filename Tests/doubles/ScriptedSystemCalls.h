@@ -80,11 +80,14 @@ public:
     void failLinks(int errorNumber) { _linkFailure = errorNumber; }
 
     // Queues a datagram for receiveFrom(), which fails with EAGAIN when there is none.
-    void queueDatagram(Bytes data, Bytes sender, std::uint32_t link = 0) {
+    void queueDatagram(Bytes data, Bytes sender, std::uint32_t link = 0,
+                       std::uint32_t destination = 0) {
         if (link != 0) {
             addLink("link " + std::to_string(link), link);
         }
-        _incoming.push_back({std::move(data), {.sender = std::move(sender), .link = link}});
+        _incoming.push_back(
+            {std::move(data),
+             {.sender = std::move(sender), .link = link, .destination = destination}});
     }
 
     // The flags that new socket wrappers start with.
@@ -279,6 +282,7 @@ public:
         origin = datagram.origin;
         if (!socket->tellsLinks) {
             origin.link = 0;
+            origin.destination = 0;
         }
         return static_cast<ssize_t>(length);
     }

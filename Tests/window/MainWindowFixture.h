@@ -29,6 +29,7 @@
 #include <QTest>
 #include <cstdlib>
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -155,6 +156,8 @@ protected:
     std::function<bool()> openHelp = [] { return true; }; // result of opening the help
     bool helpIsThere = true;
     ScriptedAuthorizationService authority;
+    SessionRecord sessionRecord;
+    std::map<std::string, std::string> files; // that were saved
     MainWindow window;
     KXConfigAppDelegate controller{
         window.outlets(),
@@ -164,7 +167,17 @@ protected:
                 helpAnchors.emplace_back(anchor);
                 return openHelp();
             },
-            &authority, nullptr, [this](std::string_view) { return helpIsThere; }}};
+            &authority, nullptr, [this](std::string_view) { return helpIsThere; },
+            UnitRegistry::defaultLimit, nullptr,
+            KXSaving::Services{.record = &sessionRecord,
+                               .application = "KXConfig 9.9",
+                               .counts = [] { return CaptureCounts(); },
+                               .now = [] { return CaptureTime(8); },
+                               .writeFile =
+                                   [this](const std::string& path, std::string_view text) {
+                                       files[path] = text;
+                                       return std::optional<Error>();
+                                   }}}};
 
 private:
     QWindow* windowWithKeyboard();

@@ -8,6 +8,7 @@
 #include "platform/qt/QtButton.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtSavePanel.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
@@ -17,10 +18,12 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextDocument>
 #include <QTimer>
@@ -300,6 +303,35 @@ private:
     QtAlert _alert{_window};
 };
 
+class QtSavePanelTrait {
+public:
+    QtSavePanelTrait() { _window.show(); }
+
+    SavePanel& control() { return _panel; }
+    bool isOpen() const { return openPanel() != nullptr; }
+    std::string title() const { return utf8Text(openPanel()->windowTitle()); }
+    std::string suggestedName() const { return utf8Text(nameField().text()); }
+    void choose(const std::string& path) {
+        nameField().setText(qtText(path));
+        QTest::keyClick(&nameField(), Qt::Key_Return);
+    }
+    void cancel() { QTest::keyClick(openPanel(), Qt::Key_Escape); }
+    std::string pathOf(const std::string& name) const {
+        return utf8Text(_folder.filePath(qtText(name)));
+    }
+
+private:
+    QFileDialog* openPanel() const {
+        auto* const panel = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        return panel != nullptr && panel->isVisible() ? panel : nullptr;
+    }
+    QLineEdit& nameField() const { return *openPanel()->findChild<QLineEdit*>("fileNameEdit"); }
+
+    QTemporaryDir _folder;
+    QMainWindow _window;
+    QtSavePanel _panel{_window};
+};
+
 class QtApplicationTrait {
 public:
     Application& control() { return _application; }
@@ -328,6 +360,7 @@ INSTANTIATE_TYPED_TEST_SUITE_P(Qt, TextViewContract, QtTextViewTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, DrawerContract, QtDrawerTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, WindowContract, QtWindowTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, AlertContract, QtAlertTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Qt, SavePanelContract, QtSavePanelTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Qt, ApplicationContract, QtApplicationTrait);
 
 } // namespace

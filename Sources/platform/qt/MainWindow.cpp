@@ -12,6 +12,7 @@
 #include "platform/qt/QtButton.h"
 #include "platform/qt/QtDrawer.h"
 #include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtSavePanel.h"
 #include "platform/qt/QtTableView.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
@@ -64,7 +65,8 @@ struct MainWindow::Controls {
         , eventLogDrawer(*ui.splitter, *ui.content, *ui.eventLogDrawer, *ui.logScrollView)
         , logTextView(*ui.logTextView)
         , findBar(*ui.logTextView, ui.logScrollView)
-        , alert(mainWindow) {
+        , alert(mainWindow)
+        , savePanel(mainWindow) {
         ui.logLayout->addWidget(&findBar);
         unitParameterTableView.setDataSource(&unitParameterTable);
     }
@@ -87,6 +89,7 @@ struct MainWindow::Controls {
     QtTextView logTextView;
     FindBar findBar;
     QtAlert alert;
+    QtSavePanel savePanel;
 };
 
 MainWindow::MainWindow(QWidget* parent)
@@ -134,6 +137,7 @@ MainWindowOutlets MainWindow::outlets() {
     outlets.eventLogDrawer = &_controls->eventLogDrawer;
     outlets.logTextView = &_controls->logTextView;
     outlets.alert = &_controls->alert;
+    outlets.savePanel = &_controls->savePanel;
     return outlets;
 }
 
@@ -273,6 +277,10 @@ void MainWindow::connectMenus() {
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
     });
     connect(_ui->allUnitsAction, &QAction::triggered, this, &MainWindow::showAllUnits);
+    connect(_ui->saveEventLogAction, &QAction::triggered, this,
+            [this] { perform(&KXConfigAppDelegate::saveEventLog); });
+    connect(_ui->saveSessionAction, &QAction::triggered, this,
+            [this] { perform(&KXConfigAppDelegate::saveSession); });
     connect(_ui->aboutAction, &QAction::triggered, this, [this] { showAboutBox(*this); });
     connect(_ui->quitAction, &QAction::triggered, this, &QWidget::close);
     connect(_ui->copyAction, &QAction::triggered, this, [this] { copySelection(focusWidget()); });

@@ -42,6 +42,18 @@ TEST_F(InterfaceAddressOfHost, IsThatOfTheInterfaceThatIsNamed) {
     EXPECT_EQ(found("wlan0").address, 0x0A010203U);
 }
 
+TEST_F(InterfaceAddressOfHost, AllOfThemAreThoseOfAllServices) {
+    interfaces.addService("Wi-Fi", "wlan0", "10.1.2.3", "255.255.0.0");
+    set("Addresses", PropertyList{"192.168.1.20", "192.168.2.20"});
+    set("SubnetMasks", PropertyList{"255.255.255.0", "255.255.255.0"});
+    EXPECT_EQ(addressesOfHost(interfaces),
+              (std::vector<InterfaceAddress>{{.address = 0xC0A80114U, .mask = 0xFFFFFF00U},
+                                             {.address = 0xC0A80214U, .mask = 0xFFFFFF00U},
+                                             {.address = 0x0A010203U, .mask = 0xFFFF0000U}}));
+    interfaces.clear();
+    EXPECT_TRUE(addressesOfHost(interfaces).empty());
+}
+
 TEST_F(InterfaceAddressOfHost, IsNoneWithoutAService) {
     EXPECT_EQ(found("tun0").address, 0U);
     EXPECT_EQ(found("tun0").mask, 0U);

@@ -1,8 +1,11 @@
 #include "files/Capture.h"
 
+#include "doubles/CaptureReader.h"
+
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <string>
 
 namespace kx {
 
@@ -17,13 +20,17 @@ std::uint32_t wordAt(const Bytes& bytes, std::size_t offset) {
 const CapturedDatagram sample{.time = std::chrono::microseconds(0x0001'0000'0002),
                               .isOwn = true,
                               .source = 0xC0000201U,
-                              .sourcePort = 3520,
                               .destination = 0xC00002FFU,
+                              .sourcePort = 3520,
                               .destinationPort = 3521,
-                              .remark = "note"};
+                              .comment = "note"};
 const Bytes fiveBytes{'^', '^', 'I', 'd', 'X'};
 
 constexpr std::size_t packetOffset = 28; // in its block
+
+std::string textOf(const Bytes& bytes) {
+    return {bytes.begin(), bytes.end()};
+}
 
 } // namespace
 
@@ -53,7 +60,7 @@ TEST(Capture, APacketHasTheHeadersOfItsDatagram) {
                              0x0D, 0xC1, 0, 13, 0, 0,   '^', '^', 'I', 'd',  'X'}));
 }
 
-TEST(Capture, ADatagramTellsItsDirectionAndItsRemark) {
+TEST(Capture, ADatagramTellsItsDirectionAndItsComment) {
     const Bytes own = capturedDatagram(sample, fiveBytes);
     const std::string text(own.begin(), own.end());
     EXPECT_NE(text.find("note"), std::string::npos);
@@ -61,13 +68,48 @@ TEST(Capture, ADatagramTellsItsDirectionAndItsRemark) {
     EXPECT_EQ(wordAt(own, options + 4), 2U);
     CapturedDatagram foreign = sample;
     foreign.isOwn = false;
-    foreign.remark = {};
+    foreign.comment = {};
     EXPECT_EQ(wordAt(capturedDatagram(foreign, fiveBytes), options + 4), 1U);
 }
 
 TEST(Capture, DataThatFitIntoNoPacketAreCut) {
     const Bytes block = capturedDatagram(sample, Bytes(70'000, 7));
     EXPECT_EQ(wordAt(block, 20), 65'535U);
+}
+
+TEST(Capture, ItsBeginningSaysThatHeadersAreMadeUpAndWhoWroteIt) {
+    const CaptureReader read(textOf(captureHeader("KXConfig 9.9")));
+    EXPECT_TRUE(read.isWellFormed);
+    EXPECT_EQ(read.application, "KXConfig 9.9");
+    EXPECT_EQ(read.linkType, 228U);
+    EXPECT_NE(read.sectionComment.find("headers of IPv4 and UDP are made up"), std::string::npos)
+        << read.sectionComment;
+    EXPECT_EQ(read.sectionComment.find("not in it"), std::string::npos) << read.sectionComment;
+}
+
+TEST(Capture, ItsBeginningSaysHowManyDatagramsAreNotInIt) {
+    const CaptureReader read(textOf(captureHeader("test", 12)));
+    EXPECT_TRUE(read.sectionComment.ends_with("which are not in it: 12.")) << read.sectionComment;
+}
+
+TEST(Capture, TheCountsOfItsEndAreThoseOfAllThatReachedTheSocket) {
+    const CaptureReader read(
+        textOf(captureStatistics(CaptureTime(0x0001'0000'0002), {.received = 5, .dropped = 3})));
+    EXPECT_TRUE(read.isWellFormed);
+    EXPECT_EQ(read.statistics, 1);
+    EXPECT_EQ(read.statisticsTime, 0x0001'0000'0002U);
+    EXPECT_EQ(read.received, 8U);
+    EXPECT_EQ(read.dropped, 3U);
+}
+
+TEST(Capture, ACommentThatNoOptionHoldsIsCut) {
+    CapturedDatagram datagram = sample;
+    const std::string comment(70'000, 'x');
+    datagram.comment = comment;
+    const CaptureReader read(textOf(capturedDatagram(datagram, fiveBytes)));
+    EXPECT_TRUE(read.isWellFormed);
+    EXPECT_EQ(read.packets.at(0).comment.size(), 65'535U);
+    EXPECT_EQ(read.packets.at(0).data, "^^IdX");
 }
 
 } // namespace kx

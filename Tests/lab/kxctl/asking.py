@@ -8,6 +8,7 @@ import pathlib
 import pty
 import signal
 import socket
+import struct
 import subprocess
 import tempfile
 import time
@@ -388,6 +389,25 @@ class Capture(Test):
         self.assertEqual(rows[0][:5], ["192.0.2.1", "192.0.2.255", "3520", "3520", "1"])
         sources = {row[0] for row in rows}
         self.assertLessEqual({"192.0.2.11", "192.0.2.12", "192.0.2.13"}, sources)
+
+    def test_tells_what_each_datagram_is_and_that_headers_are_made_up(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "capture.pcapng")
+            kxctl("discover", "--expect", "3", "--wait", "1", "--capture", path)
+            comments = subprocess.run(["tshark", "-r", path, "-T", "fields", "-e", "frame.comment"],
+                                      capture_output=True, text=True, check=True).stdout.splitlines()
+            about = subprocess.run(["capinfos", path], capture_output=True, text=True,
+                                   check=True).stdout
+            end = pathlib.Path(path).read_bytes()[-52:]
+        self.assertEqual(comments[0], "Request unit parameters with address: 192.0.2.255")
+        self.assertIn("Received command: ^^<U> unit:1 serial:4B 58 00 00 00 01 cidString:", comments)
+        self.assertNotIn("", comments)
+        self.assertIn("headers of IPv4 and UDP are made up", about)
+        self.assertIn("Number of stat entries = 1", about)
+        received = sum(comment.startswith("Received") for comment in comments)
+        block, length, interface = struct.unpack_from("=III", end, 0)
+        self.assertEqual((block, length, interface), (5, 52, 0))
+        self.assertEqual(struct.unpack_from("=HHQHHQ", end, 20), (4, 8, received, 5, 8, 0))
 
 
 if __name__ == "__main__":

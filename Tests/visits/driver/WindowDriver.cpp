@@ -1,6 +1,7 @@
 #include "driver/WindowDriver.h"
 
 #include <QAbstractItemView>
+#include <QAction>
 #include <QApplication>
 #include <QDeadlineTimer>
 #include <QDir>
@@ -193,6 +194,21 @@ int WindowDriver::rowOfParameter(const QString& name) const {
 
 QString WindowDriver::cellText(const QTableView& table, int row, int column) {
     return table.model()->index(row, column).data().toString();
+}
+
+void WindowDriver::save(const QString& actionName, const QString& path) const {
+    control<QAction>(actionName.toLatin1().constData()).trigger();
+    QWidget* panel = nullptr;
+    waitFor("the panel of " + actionName, [&] {
+        panel = QApplication::activeModalWidget();
+        return panel != nullptr && panel->objectName() == "savePanel";
+    });
+    auto& name = *panel->findChild<QLineEdit*>("fileNameEdit");
+    name.setText(path);
+    QTest::keyClick(&name, Qt::Key_Return);
+    waitFor("the end of the panel of " + actionName,
+            [] { return QApplication::activeModalWidget() == nullptr; });
+    print("Saved: " + path);
 }
 
 void WindowDriver::openLog() const {

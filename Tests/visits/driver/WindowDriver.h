@@ -84,6 +84,10 @@ public:
     // The text that a table shows.
     static QString cellText(const QTableView& table, int row, int column);
 
+    // Chooses an action of the menus that asks for a file, and saves in this one. Agrees to replace
+    // it when it is there already.
+    void save(const QString& actionName, const QString& path) const;
+
     // Opens the event log, and waits until the drawer stands still.
     void openLog() const;
 

@@ -87,6 +87,8 @@ void Steps::take(const QString& verb, const QString& argument) {
     } else if (verb == "line") {
         expectText("quiet line", argument,
                    [this] { return _driver.control<QLabel>("quietLine").text(); });
+    } else if (verb == "save") {
+        _driver.save(argument.section(' ', 0, 0), argument.section(' ', 1));
     } else if (verb == "picture") {
         _driver.takePicture(argument);
     } else if (verb == "print") {
@@ -126,6 +128,8 @@ void Steps::takeOfCrowd(const QString& verb, const QString& argument) {
         expectAtMost("worked", probe().longestComputing(), argument);
     } else if (verb == "work") {
         keepBusy(std::chrono::milliseconds(argument.toInt()));
+    } else if (verb == "wait") {
+        WindowDriver::letRun(std::chrono::milliseconds(argument.toInt()));
     } else if (verb == "pause") {
         QThread::msleep(argument.toULong());
     } else {

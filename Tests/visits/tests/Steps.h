@@ -24,8 +24,11 @@
 //   watch                    begins to watch how long a user's event has to wait
 //   waited MILLISECONDS      prints the longest wait of an event, and expects no longer one
 //   worked MILLISECONDS      does the same for the time that the program worked for an event
+//   wait MILLISECONDS        lets the program run for this long
 //   pause MILLISECONDS       keeps the program from handling anything for this long
 //   work MILLISECONDS        does the same by keeping the program busy
+//   save ACTION PATH         chooses this action of the menus, and saves in this file, which may
+//                            be there already
 //   print                    prints the shown parameters and the event log
 //   cancel                   presses Escape in the panel that comes up the next time while
 //                            something is waited for, and prints "Waiting: SENTENCE"
