@@ -36,9 +36,8 @@ class AllUnits(unittest.TestCase):
         program.wait_for_focus("table cell", SERIALS[2])
         press("Return")
         program.window = main_window
-        wait_for("the third unit", lambda: text_of(program.field("Unit ID:")) == "U00003")
+        wait_for("the third unit", lambda: program.pop_up("Unit:").get_name() == SERIALS[2])
         program.wait_for_focus("table", "Unit parameters")
-        self.assertEqual(program.pop_up("Unit:").get_name(), SERIALS[2])
         self.assertEqual(program.close(), 0)
 
 

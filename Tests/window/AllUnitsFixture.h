@@ -42,7 +42,7 @@ protected:
         now += 60'000;
         units.discoveryDidBegin();
         units.everybodyWasAsked(2);
-        for (int number = 1; number <= 3; ++number) {
+        for (std::uint32_t number = 1; number <= 3; ++number) {
             hear(heardUnit(number));
         }
         HeardUnit third = heardUnit(3);
