@@ -95,9 +95,11 @@ public:
         // known. Asked at the end of a discovery that nobody answered. It must send nothing. May be
         // empty.
         std::function<std::optional<std::string>()> likeliestCause = {};
+
         // Opens the help at an anchor in the program's own viewer, where openHelpAnchor could not
         // open it. Empty when there is no viewer.
         std::function<bool(std::string_view anchor)> openHelpInViewer = {};
+
         // What a session is saved from, and how. Without a record no session can be saved.
         KXSaving::Services saving = {};
     };

@@ -196,33 +196,34 @@ protected:
          .ownAddress = [](std::uint32_t link) { return link != 0 ? 0xC0A80114U : 0U; }}};
     std::map<std::string, std::string> files;
     std::optional<Error> diskFailure;
-    KXConfigAppDelegate controller{window.outlets(),
-                                   {runLoop,
-                                    hostResolver,
-                                    recordedCalls,
-                                    wallClock,
-                                    application,
-                                    &interfaces,
-                                    [this](std::string_view anchor) {
-                                        helpAnchors.emplace_back(anchor);
-                                        return helpOpens;
-                                    },
-                                    &authority,
-                                    &receiveBuffers,
-                                    [this](std::string_view) { return helpIsThere; },
-                                    UnitRegistry::defaultLimit,
-                                    &neighbours,
-                                    {.record = &sessionRecord,
-                                     .application = "KXConfig 9.9",
-                                     .counts = [this] { return captureCounts; },
-                                     .now = [] { return CaptureTime(8); },
-                                     .writeFile =
-                                         [this](const std::string& path, std::string_view text) {
-                                             if (!diskFailure.has_value()) {
-                                                 files[path] = text;
-                                             }
-                                             return diskFailure;
-                                         }}}};
+    KXConfigAppDelegate controller{
+        window.outlets(),
+        {.runLoop = runLoop,
+         .hostResolver = hostResolver,
+         .systemCalls = recordedCalls,
+         .wallClock = wallClock,
+         .application = application,
+         .networkInterfaces = &interfaces,
+         .openHelpAnchor =
+             [this](std::string_view anchor) {
+                 helpAnchors.emplace_back(anchor);
+                 return helpOpens;
+             },
+         .authorizationService = &authority,
+         .receiveBuffers = &receiveBuffers,
+         .hasHelpPage = [this](std::string_view) { return helpIsThere; },
+         .neighbours = &neighbours,
+         .saving = {.record = &sessionRecord,
+                    .application = "KXConfig 9.9",
+                    .counts = [this] { return captureCounts; },
+                    .now = [] { return CaptureTime(8); },
+                    .writeFile =
+                        [this](const std::string& path, std::string_view text) {
+                            if (!diskFailure.has_value()) {
+                                files[path] = text;
+                            }
+                            return diskFailure;
+                        }}}};
 };
 
 } // namespace kx
