@@ -1,4 +1,5 @@
-// Saved discoveries: any text is read or refused, and what is read is of the values that units tell.
+// Saved discoveries: any text is read or refused, and what is read is of the values that units
+// tell.
 
 #include "FuzzInput.h"
 #include "addresses/IPv4Address.h"

@@ -84,8 +84,9 @@ public:
         // May be null. Nobody looks then on which link an ARP entry stands.
         NeighbourTable* neighbours = nullptr;
 
-        // The likeliest reason why no unit has answered, as a sentence; absent when it is not known.
-        // Asked at the end of a discovery that nobody answered. It must send nothing. May be empty.
+        // The likeliest reason why no unit has answered, as a sentence; absent when it is not
+        // known. Asked at the end of a discovery that nobody answered. It must send nothing. May be
+        // empty.
         std::function<std::optional<std::string>()> likeliestCause = {};
     };
 
@@ -316,10 +317,11 @@ private:
     RequestPace _requestPace;
     std::optional<std::string> _acceptedSince; // selected unit whose request is owed
     DiscoveryFindings _findings;
-    DiscoveryFacts _discovery;             // facts that discoveryFacts() does not look up
-    std::optional<Everybody> _askedBefore; // absent when nothing can be compared with that discovery
-    int _discoveriesUnderWay = 0;          // two when Discover was pressed twice
-    std::size_t _answeredBefore = 0;       // the number of units that have answered, as told last
+    DiscoveryFacts _discovery; // facts that discoveryFacts() does not look up
+    std::optional<Everybody>
+        _askedBefore;                // absent when nothing can be compared with that discovery
+    int _discoveriesUnderWay = 0;    // two when Discover was pressed twice
+    std::size_t _answeredBefore = 0; // the number of units that have answered, as told last
     bool _isDiscoveryLineDue = false;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end

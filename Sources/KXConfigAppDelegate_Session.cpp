@@ -95,9 +95,9 @@ void KXConfigAppDelegate::didStartListenerWithAddress(const Bytes& address) {
 
 void KXConfigAppDelegate::sessionCanBroadcast() {
     const Everybody all = everybody();
-    discoveryDidAsk(all, sendRequest(parameterRequestCommand, {.address = all.address,
-                                                               .port = defaultUnitPort,
-                                                               .link = all.link}));
+    discoveryDidAsk(
+        all, sendRequest(parameterRequestCommand,
+                         {.address = all.address, .port = defaultUnitPort, .link = all.link}));
 }
 
 void KXConfigAppDelegate::sessionCannotBroadcast(const std::string& reason) {

@@ -20,9 +20,9 @@ int finishWith(CommandRun& run, SavedComparison& comparison) {
     run.print(comparison.table(run.isBold()));
     auto result = comparison.result();
     if (!result.has_value() && !run.isInterrupted()) {
-        run.say(localizedText("Nothing differs from “%@”: %d the same.",
-                              {safeForSentence(run.line().words.front()),
-                               json["same"].get<long long>()}));
+        run.say(localizedText(
+            "Nothing differs from “%@”: %d the same.",
+            {safeForSentence(run.line().words.front()), json["same"].get<long long>()}));
     }
     return run.finish(std::move(result));
 }

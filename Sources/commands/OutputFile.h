@@ -35,8 +35,8 @@ public:
     std::optional<Error> lookForReplacement();
 
     // The file holds this text and nothing else afterwards. A regular file, or one that is not
-    // there yet, is written beside it and then gets its name (files/WholeFile.h); a pipe or a device
-    // is written to. Absent when all was written.
+    // there yet, is written beside it and then gets its name (files/WholeFile.h); a pipe or a
+    // device is written to. Absent when all was written.
     std::optional<Error> replaceBy(std::string_view text);
 
     // Whether there is a file with contents that replaceBy() would replace.

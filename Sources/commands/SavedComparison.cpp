@@ -68,8 +68,9 @@ Refusal readDiscovery(const std::string& path, DiscoveryFile& file) {
     const std::string shownPath = safeForSentence(path);
     const auto contents = contentsOfFile(path, mostBytes);
     if (const auto* const error = std::get_if<Error>(&contents)) {
-        return failureOf(ErrorCode::file, localizedText("“%@” cannot be read: %@.",
-                                                        {shownPath, error->localizedDescription()}));
+        return failureOf(
+            ErrorCode::file,
+            localizedText("“%@” cannot be read: %@.", {shownPath, error->localizedDescription()}));
     }
     auto read = readSavedDiscovery(std::get<std::string>(contents));
     if (const auto* const fault = std::get_if<SavedDiscoveryFault>(&read)) {
@@ -163,9 +164,10 @@ void SavedComparison::compareWithFile(const DiscoveryFile& now) {
     _now = unitsOf(now.discovery);
     _comparison = compareDiscoveries(_before, _now);
     if (!now.discovery.isComplete) {
-        keepBackMissing(localizedText("Units that are not in “%@”: %d. They are not called missing, "
-                                      "because that discovery was not complete.",
-                                      {safeForSentence(now.path), countOfMissing()}));
+        keepBackMissing(
+            localizedText("Units that are not in “%@”: %d. They are not called missing, "
+                          "because that discovery was not complete.",
+                          {safeForSentence(now.path), countOfMissing()}));
     }
 }
 
@@ -231,9 +233,10 @@ std::string SavedComparison::table(bool isBold) const {
 
 Refusal SavedComparison::result() {
     if (!_isBaselineComplete && !_comparison.added.empty()) {
-        _run.warn("baseline", localizedText("The discovery in “%@” was not complete, so a unit that "
-                                            "is called new may have been there.",
-                                            {_path}));
+        _run.warn("baseline",
+                  localizedText("The discovery in “%@” was not complete, so a unit that "
+                                "is called new may have been there.",
+                                {_path}));
     }
     if (_comparison.areEqual()) {
         return _doubt.empty() ? std::nullopt : Refusal(failureOf(ErrorCode::fewer, _doubt));

@@ -29,8 +29,9 @@ void compareUnit(const HeardUnit& before, const HeardUnit& now, DiscoveryCompari
 // Compares the units of one serial number. There is more than one where two hosts claim it.
 void compareClaimants(Units before, Units now, DiscoveryComparison& result) {
     std::erase_if(before, [&](const HeardUnit* unit) {
-        const auto same = std::ranges::find(now, unit->hardwareAddress(),
-                                            [](const HeardUnit* each) { return each->hardwareAddress(); });
+        const auto same =
+            std::ranges::find(now, unit->hardwareAddress(),
+                              [](const HeardUnit* each) { return each->hardwareAddress(); });
         if (same == now.end()) {
             return false;
         }
@@ -44,11 +45,13 @@ void compareClaimants(Units before, Units now, DiscoveryComparison& result) {
     }
     result.missing.insert(result.missing.end(), before.begin() + static_cast<std::ptrdiff_t>(pairs),
                           before.end());
-    result.added.insert(result.added.end(), now.begin() + static_cast<std::ptrdiff_t>(pairs), now.end());
+    result.added.insert(result.added.end(), now.begin() + static_cast<std::ptrdiff_t>(pairs),
+                        now.end());
 }
 
 // Takes the units of this serial number off the front.
-Units claimantsOf(std::string_view serial, Units::const_iterator& place, Units::const_iterator end) {
+Units claimantsOf(std::string_view serial, Units::const_iterator& place,
+                  Units::const_iterator end) {
     const auto begin = place;
     while (place != end && (*place)->serialNumber() == serial) {
         ++place;
@@ -65,9 +68,9 @@ DiscoveryComparison compareDiscoveries(const HeardUnits& before, const HeardUnit
     auto left = earlier.begin();
     auto right = later.begin();
     while (left != earlier.end() || right != later.end()) {
-        const bool isLeft = right == later.end() ||
-                            (left != earlier.end() &&
-                             (*left)->serialNumber() < (*right)->serialNumber());
+        const bool isLeft =
+            right == later.end() ||
+            (left != earlier.end() && (*left)->serialNumber() < (*right)->serialNumber());
         const std::string_view serial = isLeft ? (*left)->serialNumber() : (*right)->serialNumber();
         Units ofEarlier = claimantsOf(serial, left, earlier.end());
         Units ofLater = claimantsOf(serial, right, later.end());

@@ -4,8 +4,9 @@
 #include "units/IdentityText.h"
 #include "units/UnitName.h"
 
-#include <charconv>
 #include <nlohmann/json.hpp>
+
+#include <charconv>
 
 namespace kx {
 
@@ -83,7 +84,8 @@ UnitIDBytes bytesOfUnitID(const std::string& text) {
 std::optional<std::string> recordText(const Json& json, const char* key, ValueForm form) {
     if (form == ValueForm::anyPort) {
         const Json& value = valueOf(json, key);
-        return value.is_null() ? std::nullopt : std::optional(std::to_string(numberOf(value, 0xFFFF)));
+        return value.is_null() ? std::nullopt
+                               : std::optional(std::to_string(numberOf(value, 0xFFFF)));
     }
     const auto text = textOf(json, key);
     if (!text.has_value()) {

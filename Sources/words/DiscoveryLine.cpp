@@ -45,8 +45,7 @@ std::string textOfRequestFailure(const std::string& reason) {
 }
 
 std::string textOfProgress(const DiscoveryFacts& facts) {
-    const std::string address =
-        stringForIP(facts.asked.value_or(Everybody()).address);
+    const std::string address = stringForIP(facts.asked.value_or(Everybody()).address);
     const int port = defaultUnitPort;
     switch (facts.units.answered) {
     case 0:
@@ -97,8 +96,7 @@ std::string textOfSilentUnits(const DiscoveryFacts& facts) {
     case 0:
         return {};
     case 1:
-        return localizedText("%@ answered last time and not now.",
-                             {facts.silentUnit.value_or("")});
+        return localizedText("%@ answered last time and not now.", {facts.silentUnit.value_or("")});
     default:
         return localizedText("%d answered last time and not now.", {number(facts.units.silent)});
     }
@@ -109,9 +107,8 @@ std::string textOfAdded(const RoundTally& units) {
     if (units.added.count == 0 || units.added.count == units.answered) {
         return {};
     }
-    return units.added.count == 1
-               ? localizedText("%@ is new.", {units.added.latest})
-               : localizedText("%d are new.", {number(units.added.count)});
+    return units.added.count == 1 ? localizedText("%@ is new.", {units.added.latest})
+                                  : localizedText("%d are new.", {number(units.added.count)});
 }
 
 std::string textOfChanged(const RoundTally::Units& units) {

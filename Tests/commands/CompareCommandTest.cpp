@@ -81,8 +81,9 @@ TEST_F(CompareCommandTest, TheSameUnitsAreNoDifference) {
 
 TEST_F(CompareCommandTest, WhatIsSavedIsReadBackWhateverAUnitTells) {
     SampleUnit unit;
-    for (const Bytes& unitID : {Bytes{0, 0, 0, 0, 0, 0}, Bytes{'R', 0, 'A', 0, 0, 0},
-                                Bytes{0xFF, 0xFE, 1, 2, 3, 4}, Bytes{'"', '\\', '\n', 0x1B, 7, 0}}) {
+    for (const Bytes& unitID :
+         {Bytes{0, 0, 0, 0, 0, 0}, Bytes{'R', 0, 'A', 0, 0, 0}, Bytes{0xFF, 0xFE, 1, 2, 3, 4},
+          Bytes{'"', '\\', '\n', 0x1B, 7, 0}}) {
         units.clear();
         unit.unitID = unitID;
         unit.internalIP = {192, 168, 1, 10};

@@ -153,8 +153,7 @@ TEST_F(ControllerDiscoveryLine, SaysWhatIsDifferentFromTheDiscoveryBefore) {
               "1 of the 3 listed answered. 01 02 03 04 05 08 answered last time and not now.");
     SampleUnit changed;
     changed.devicePort = {0x0F, 0xA0};
-    EXPECT_EQ(lineAfter({changed}),
-              "1 of the 3 listed answered. 01 02 03 04 05 06 has changed.");
+    EXPECT_EQ(lineAfter({changed}), "1 of the 3 listed answered. 01 02 03 04 05 06 has changed.");
 }
 
 TEST_F(ControllerDiscoveryLine, WhatAPersonHasChangedSinceIsNoDifference) {
@@ -255,8 +254,7 @@ TEST_F(ControllerDiscoveryLine, TheNextLaunchIsComparedWithNothing) {
     launch();
     receive(SampleUnit().reply());
     runLoop.advanceBy(2000ms);
-    EXPECT_EQ(discoveryLine(),
-              "1 unit answered. No interface is chosen: asked 255.255.255.255.");
+    EXPECT_EQ(discoveryLine(), "1 unit answered. No interface is chosen: asked 255.255.255.255.");
 }
 
 } // namespace kx

@@ -97,10 +97,9 @@ TEST(DiscoveryComparison, EachChangedParameterIsADifferenceAndTheUnitCountsOnce)
     const HeardUnits before = discoveryOf({unitOf(one), unitOf(two), unitOf(three)});
     const HeardUnits now = discoveryOf({changed, silent, unitOf(three)});
     const auto comparison = compareDiscoveries(before, now);
-    EXPECT_EQ(linesOf(comparison),
-              (Names{"4B 58 00 00 00 01 device-port (none) -> 4000",
-                     "4B 58 00 00 00 01 internal-ip 192.0.2.11 -> 192.0.2.99",
-                     "4B 58 00 00 00 02 internal-ip 192.0.2.11 -> (none)"}));
+    EXPECT_EQ(linesOf(comparison), (Names{"4B 58 00 00 00 01 device-port (none) -> 4000",
+                                          "4B 58 00 00 00 01 internal-ip 192.0.2.11 -> 192.0.2.99",
+                                          "4B 58 00 00 00 02 internal-ip 192.0.2.11 -> (none)"}));
     EXPECT_EQ(comparison.changed, 2U);
     EXPECT_EQ(comparison.same, 1U);
 }
@@ -133,7 +132,8 @@ TEST(DiscoveryComparison, AReplacedDeviceOfTheSameSerialNumberHasChanged) {
     EXPECT_TRUE(comparison.added.empty() && comparison.missing.empty());
 }
 
-TEST(DiscoveryComparison, OfSeveralUnitsWithOneSerialNumberThoseOfOneHardwareAddressBelongTogether) {
+TEST(DiscoveryComparison,
+     OfSeveralUnitsWithOneSerialNumberThoseOfOneHardwareAddressBelongTogether) {
     const HeardUnits before =
         discoveryOf({unitOf(one, "02:00:00:00:00:0A"), unitOf(one, "02:00:00:00:00:0B")});
     const HeardUnits one0B = discoveryOf({unitOf(one, "02:00:00:00:00:0B")});

@@ -96,13 +96,15 @@ TEST(SavedDiscovery, LettersOfDigitsAreTakenInEitherCase) {
 }
 
 TEST(SavedDiscovery, KeysThatAreNotKnownAreIgnored) {
-    const std::string more = with(with(documentOf(unitText), R"("exit":0)", R"("exit":0,"a":{"b":[]})"),
-                                  R"("answered_ms":3)", R"("answered_ms":3,"firmware":"2")");
+    const std::string more =
+        with(with(documentOf(unitText), R"("exit":0)", R"("exit":0,"a":{"b":[]})"),
+             R"("answered_ms":3)", R"("answered_ms":3,"firmware":"2")");
     EXPECT_EQ(discoveryIn(more).units.size(), 1U);
 }
 
 TEST(SavedDiscovery, WhetherItWasCompleteIsKept) {
-    EXPECT_FALSE(discoveryIn(with(documentOf(""), R"("complete":true)", R"("complete":false)")).isComplete);
+    EXPECT_FALSE(
+        discoveryIn(with(documentOf(""), R"("complete":true)", R"("complete":false)")).isComplete);
 }
 
 TEST(SavedDiscovery, AFileThatWasCutAnywhereIsDamaged) {
@@ -113,10 +115,9 @@ TEST(SavedDiscovery, AFileThatWasCutAnywhereIsDamaged) {
 }
 
 TEST(SavedDiscovery, AMissingKeyIsDamage) {
-    for (const std::string key :
-         {"serial", "unit_id_bytes", "internal_ip", "internal_mac", "destination_ip",
-          "destination_mac", "destination_port", "device_port", "source_ip", "interface",
-          "answered_ms"}) {
+    for (const std::string key : {"serial", "unit_id_bytes", "internal_ip", "internal_mac",
+                                  "destination_ip", "destination_mac", "destination_port",
+                                  "device_port", "source_ip", "interface", "answered_ms"}) {
         const std::string text = with(unitText, "\"" + key + "\"", "\"other\"");
         EXPECT_EQ(faultOf(documentOf(text)), SavedDiscoveryFault::damaged) << key;
     }

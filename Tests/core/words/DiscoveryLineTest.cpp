@@ -88,8 +88,7 @@ TEST(DiscoveryLineText, WhenThePortIsTakenSaysSo) {
     DiscoveryFacts facts = underWay(0);
     facts.asked.reset();
     facts.listenerError = posixError(EADDRINUSE);
-    EXPECT_EQ(discoveryLine(facts),
-              "Port 3520 is taken by another program. Choose another port.");
+    EXPECT_EQ(discoveryLine(facts), "Port 3520 is taken by another program. Choose another port.");
     facts.listenerError = posixError(EMFILE);
     EXPECT_EQ(discoveryLine(facts),
               "The UDP port cannot be opened: " + posixErrorText(EMFILE) + ".");
@@ -157,8 +156,7 @@ TEST(DiscoveryLineText, WhenNoInterfaceIsChosenSaysWhichAddressWasAsked) {
     EXPECT_EQ(discoveryLine(nobody), "No unit answered. The cable is out. No interface is chosen: "
                                      "asked 255.255.255.255.");
     nobody.asked.reset();
-    EXPECT_EQ(discoveryLine(nobody), "No unit answered. The cable is out.")
-        << "nobody was asked";
+    EXPECT_EQ(discoveryLine(nobody), "No unit answered. The cable is out.") << "nobody was asked";
 }
 
 TEST(DiscoveryLineText, AFaultBeforeAnythingWasAskedWeighsMost) {

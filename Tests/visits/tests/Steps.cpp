@@ -184,8 +184,8 @@ void Steps::expectFinding(const QString& text) {
         expectText("line below Discover", text, [this] { return discoveryLine(); });
         return;
     }
-    static const QRegularExpression answers(
-        "^(Asking |No unit answered\\.|[0-9]+ units? answered|[0-9]+ of the [0-9]+ listed answered)");
+    static const QRegularExpression answers("^(Asking |No unit answered\\.|[0-9]+ units? "
+                                            "answered|[0-9]+ of the [0-9]+ listed answered)");
     if (!answers.match(discoveryLine()).hasMatch()) {
         throw VisitFailure{discoveryLine()};
     }
