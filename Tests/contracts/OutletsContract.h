@@ -6,7 +6,8 @@
 // when a person uses it; a test sets the action with setAction(std::function<void()>).
 //
 //   pop-up       PopUpButton& control(); std::vector<std::string> titles(); bool isEnabled();
-//                void chooseItem(const std::string& title), as a person does; setAction()
+//                void chooseItem(const std::string& title), as a person does; setAction();
+//                Titles dimmedTitles(); std::string spokenDescriptionOfSelected()
 //   text field   TextField& control();
 //                void type(const std::string& text), as a person does; setAction()
 //   button       Button& control(); std::string toolTip(), as a person reads it;
@@ -24,8 +25,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -164,9 +167,31 @@ TYPED_TEST_P(PopUpButtonContract, NothingThatCodeDoesRunsTheAction) {
     EXPECT_EQ(actions, 0);
 }
 
+TYPED_TEST_P(PopUpButtonContract, TitlesAreDimmedAsTheFunctionSaysNow) {
+    Titles silent{"two"};
+    this->control().addItemsWithTitles({"one", "two", "three"});
+    this->control().setDimming(
+        [&silent](std::string_view title) {
+            return std::find(silent.begin(), silent.end(), title) != silent.end();
+        },
+        "Silent.");
+    EXPECT_EQ(this->trait.dimmedTitles(), Titles{"two"});
+    EXPECT_EQ(this->trait.spokenDescriptionOfSelected(), "");
+    silent = {"one", "four"};
+    this->control().refreshDimming();
+    EXPECT_EQ(this->trait.dimmedTitles(), Titles{"one"});
+    EXPECT_EQ(this->trait.spokenDescriptionOfSelected(), "Silent.");
+    this->control().addItemsWithTitles({"four"});
+    EXPECT_EQ(this->trait.dimmedTitles(), (Titles{"one", "four"}));
+    EXPECT_EQ(this->trait.titles(), (Titles{"one", "two", "three", "four"}));
+    this->control().setDimming({}, {});
+    EXPECT_EQ(this->trait.dimmedTitles(), Titles{});
+    EXPECT_EQ(this->trait.spokenDescriptionOfSelected(), "");
+}
+
 REGISTER_TYPED_TEST_SUITE_P(
-    PopUpButtonContract, ChoiceOfAPersonRunsTheAction, NothingThatCodeDoesRunsTheAction,
-    EmptyPopUpHasNoSelectedTitle, FirstItemAddedBecomesSelected,
+    PopUpButtonContract, TitlesAreDimmedAsTheFunctionSaysNow, ChoiceOfAPersonRunsTheAction,
+    NothingThatCodeDoesRunsTheAction, EmptyPopUpHasNoSelectedTitle, FirstItemAddedBecomesSelected,
     SelectedTitleStaysSelectedWhenItemsAreAdded, AddingAnExistingTitleMovesItToTheEnd,
     SelectedTitleStaysSelectedWhenItIsReplaced, EqualTitlesOfOneCallGiveOneItem,
     TitlesThatDifferInCaseOrBlanksAreDifferent, SelectingAnIndexBeyondTheItemsDoesNothing,

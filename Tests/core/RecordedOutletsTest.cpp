@@ -14,6 +14,14 @@ struct RecordedPopUpButtonTrait {
     bool isEnabled() const { return popUp.isEnabled(); }
     void chooseItem(const std::string& title) { popUp.chooseItem(title); }
     void setAction(std::function<void()> action) { popUp.setAction(std::move(action)); }
+    Titles dimmedTitles() const { return popUp.dimmedTitles(); }
+    std::string spokenDescriptionOfSelected() const {
+        const auto dimmed = popUp.dimmedTitles();
+        const auto selected = popUp.titleOfSelectedItem();
+        const bool isDimmed =
+            selected.has_value() && std::ranges::find(dimmed, *selected) != dimmed.end();
+        return isDimmed ? popUp.dimmedDescription() : std::string();
+    }
 
     RecordedPopUpButton popUp;
 };

@@ -53,6 +53,18 @@ public:
     void setAction(std::function<void()> action) {
         QObject::connect(&_comboBox, &QComboBox::activated, &_comboBox, std::move(action));
     }
+    Titles dimmedTitles() const {
+        Titles dimmed;
+        for (int index = 0; index < _comboBox.count(); ++index) {
+            if (_comboBox.itemData(index, Qt::ForegroundRole).isValid()) {
+                dimmed.push_back(utf8Text(_comboBox.itemText(index)));
+            }
+        }
+        return dimmed;
+    }
+    std::string spokenDescriptionOfSelected() const {
+        return utf8Text(_comboBox.accessibleDescription());
+    }
 
 private:
     QComboBox _comboBox;
