@@ -55,6 +55,8 @@ TEST_F(ControllerDiscoveryLine, IsNotWrittenAnewForEachOfManyAnswers) {
     SampleUnit unit;
     for (std::uint8_t number = 0; number < 200; ++number) {
         unit.serial.back() = number;
+        unit.internalMAC.back() = number;
+        unit.internalIP.back() = number;
         receive(unit.reply());
     }
     runLoop.advanceBy(100ms);
