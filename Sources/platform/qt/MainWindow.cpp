@@ -49,7 +49,7 @@ struct MainWindow::Controls {
         : window(mainWindow)
         , interfacePopUp(*ui.interfacePopUp)
         , udpPortPopUp(*ui.udpPortPopUp)
-        , discoveryLine(*ui.discoveryLine, EmptyLabel::isHidden)
+        , discoveryLine(*ui.discoveryLine)
         , unitSelectPopUp(*ui.unitSelectPopUp)
         , unitIDField(*ui.unitIDField)
         , reloadButton(*ui.reloadButton)
@@ -206,12 +206,6 @@ void MainWindow::connectPopUps() {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
         popUp->installEventFilter(this);
-        const auto describe = [popUp] {
-            const bool isEmpty = popUp->currentIndex() < 0;
-            popUp->setAccessibleDescription(isEmpty ? popUp->placeholderText() : QString());
-        };
-        connect(popUp, &QComboBox::currentIndexChanged, popUp, describe);
-        describe();
     };
     connectPopUp(_ui->interfacePopUp, &KXConfigAppDelegate::interfaceSelect);
     connect(_ui->interfacePopUp, &RefreshedComboBox::aboutToOpen, this,

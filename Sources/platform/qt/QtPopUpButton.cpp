@@ -104,6 +104,7 @@ QtPopUpButton::QtPopUpButton(QComboBox& comboBox)
                                   [this] { describeSelectedTitle(); });
     addItemsWithTitles(std::move(titles));
     selectItemWithTitle(utf8Text(selected));
+    describeSelectedTitle();
 }
 
 QtPopUpButton::~QtPopUpButton() {
@@ -205,10 +206,14 @@ void QtPopUpButton::refreshDimming() {
     _comboBox.update();
 }
 
-// A screen reader reads the closed combo box without asking its list.
+// A screen reader reads the closed combo box without asking its list. Where nothing is selected it
+// reads what stands there instead.
 void QtPopUpButton::describeSelectedTitle() {
-    const QString description =
-        _model.isDimmed(_comboBox.currentIndex()) ? _model.dimmedDescription() : QString();
+    const int selected = _comboBox.currentIndex();
+    QString description = selected < 0 ? _comboBox.placeholderText() : QString();
+    if (_model.isDimmed(selected)) {
+        description = _model.dimmedDescription();
+    }
     if (_comboBox.accessibleDescription() != description) {
         _comboBox.setAccessibleDescription(description);
     }

@@ -1,5 +1,7 @@
 // A pop-up button over a combo box, with the rules of Outlets.h.
 //
+// A screen reader is told what stands in the place of a selected title while nothing is selected.
+//
 // The object takes over the items that the interface description gave the combo box, and keeps the
 // selected one selected. The items then belong to this object: no other code may change them. The
 // combo box must outlive it. Costs grow with the number of titles, not with its square. A list that

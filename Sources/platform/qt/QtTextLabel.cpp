@@ -4,17 +4,13 @@
 
 namespace kx {
 
-QtTextLabel::QtTextLabel(AnnouncedLabel& label, EmptyLabel empty)
-    : _label(label)
-    , _empty(empty) {
+QtTextLabel::QtTextLabel(AnnouncedLabel& label)
+    : _label(label) {
     QtTextLabel::setStringValue({});
 }
 
 void QtTextLabel::setStringValue(std::string_view text) {
     _label.say(qtText(text));
-    if (_empty == EmptyLabel::isHidden) {
-        _label.setVisible(!text.empty());
-    }
 }
 
 } // namespace kx

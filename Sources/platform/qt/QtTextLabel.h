@@ -8,20 +8,14 @@
 
 namespace kx {
 
-enum class EmptyLabel {
-    keepsItsPlace,
-    isHidden, // takes no place when empty, for labels that are seldom needed
-};
-
 class QtTextLabel final : public TextLabel {
 public:
-    explicit QtTextLabel(AnnouncedLabel& label, EmptyLabel empty = EmptyLabel::keepsItsPlace);
+    explicit QtTextLabel(AnnouncedLabel& label);
 
     void setStringValue(std::string_view text) override;
 
 private:
     AnnouncedLabel& _label;
-    EmptyLabel _empty;
 };
 
 } // namespace kx
