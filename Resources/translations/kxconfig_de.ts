@@ -221,6 +221,11 @@
         <translation>Die Hilfe konnte nicht im Webbrowser geöffnet werden. Um sie hier zu lesen, drücken Sie Alt+Umschalt+F1.</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_DiscoveryLine.cpp"/>
+        <source>Did not answer the latest Discover.</source>
+        <translation>Hat bei der letzten Gerätesuche nicht geantwortet.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
@@ -400,6 +405,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>Der UDP-Port lässt sich nicht öffnen: %@.</translation>
     </message>
@@ -450,6 +456,11 @@
         <translation>Unterbrochen.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CompareCommand.cpp"/>
+        <source>Nothing differs from “%@”: %d the same.</source>
+        <translation>Kein Unterschied zu „%@“: %d gleich.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d Anfragen folgen in dieser Zeit zu dicht aufeinander. Jede braucht 0,01 Sekunden.</translation>
@@ -468,6 +479,11 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>Das System hatte keinen Platz für %d Datagramme. Geräte können fehlen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” stays as it is, because no unit has answered.</source>
+        <translation>„%@“ bleibt, wie es ist, weil kein Gerät geantwortet hat.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -544,6 +560,61 @@
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>The unit %@ shows the old values and has not acknowledged the command.</source>
         <translation>Das Gerät %@ zeigt die alten Werte und hat den Befehl nicht bestätigt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is damaged.</source>
+        <translation>„%@“ ist beschädigt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is no saved discovery. “kxctl discover --save FILE” writes one.</source>
+        <translation>„%@“ ist keine gesicherte Gerätesuche. „kxctl discover --save FILE“ schreibt eine.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” has the format of another version of kxctl.</source>
+        <translation>„%@“ hat das Format einer anderen Version von kxctl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” tells of a discovery that could not ask anybody.</source>
+        <translation>„%@“ enthält eine Gerätesuche, die niemanden fragen konnte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>„%@“ ist nicht lesbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because datagrams were dropped.</source>
+        <translation>Geräte aus „%@“, die nicht geantwortet haben: %d. Sie gelten nicht als fehlend, weil Datagramme verworfen wurden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because the discovery was not complete.</source>
+        <translation>Geräte aus „%@“, die nicht geantwortet haben: %d. Sie gelten nicht als fehlend, weil die Gerätesuche nicht vollständig war.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because they could not be asked at their last addresses.</source>
+        <translation>Geräte aus „%@“, die nicht geantwortet haben: %d. Sie gelten nicht als fehlend, weil sie unter ihren letzten Adressen nicht gefragt werden konnten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units that are not in “%@”: %d. They are not called missing, because that discovery was not complete.</source>
+        <translation>Geräte, die nicht in „%@“ stehen: %d. Sie gelten nicht als fehlend, weil diese Gerätesuche nicht vollständig war.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The discovery in “%@” was not complete, so a unit that is called new may have been there.</source>
+        <translation>Die Gerätesuche in „%@“ war nicht vollständig; ein Gerät, das neu genannt wird, kann schon da gewesen sein.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The units differ from “%@”: %d new, %d missing, %d changed, %d the same.</source>
+        <translation>Die Geräte unterscheiden sich von „%@“: %d neu, %d fehlend, %d geändert, %d gleich.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -921,6 +992,121 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>Geräte-ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Port %d is taken by another program. Choose another port.</source>
+        <translation>Port %d ist von einem anderen Programm belegt. Wählen Sie einen anderen Port.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@</source>
+        <translation>Es wurde keine Anfrage gesendet: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@.</source>
+        <translation>Es wurde keine Anfrage gesendet: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: no unit has answered yet</source>
+        <translation>Frage %@, Port %d: noch hat kein Gerät geantwortet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: 1 unit answered</source>
+        <translation>Frage %@, Port %d: 1 Gerät hat geantwortet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: %d units answered</source>
+        <translation>Frage %@, Port %d: %d Geräte haben geantwortet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No interface is chosen: asked %@.</source>
+        <translation>Keine Schnittstelle ist ausgewählt: gefragt wurde %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The one listed answered earlier.</source>
+        <translation>Das aufgeführte hat früher geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The %d listed answered earlier.</source>
+        <translation>Die %d aufgeführten haben früher geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No unit answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered late. Discover again to list it.</source>
+        <translation>1 Gerät hat spät geantwortet. Suchen Sie noch einmal, um es aufzuführen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered late. Discover again to list them.</source>
+        <translation>%d Geräte haben spät geantwortet. Suchen Sie noch einmal, um sie aufzuführen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d of the %d listed answered.</source>
+        <translation>%d der %d aufgeführten haben geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered.</source>
+        <translation>1 Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered.</source>
+        <translation>%d Geräte haben geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answered last time and not now.</source>
+        <translation>%@ hat letztes Mal geantwortet und jetzt nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answered last time and not now.</source>
+        <translation>%d haben letztes Mal geantwortet und jetzt nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ is new.</source>
+        <translation>%@ ist neu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d are new.</source>
+        <translation>%d sind neu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ has changed.</source>
+        <translation>%@ hat sich geändert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d have changed.</source>
+        <translation>%d haben sich geändert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answers again.</source>
+        <translation>%@ antwortet wieder.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answer again.</source>
+        <translation>%d antworten wieder.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

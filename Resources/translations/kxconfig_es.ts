@@ -221,6 +221,11 @@
         <translation>No se pudo abrir la ayuda en un navegador web. Para leerla aquí, pulse Alt+Mayús+F1.</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_DiscoveryLine.cpp"/>
+        <source>Did not answer the latest Discover.</source>
+        <translation>No respondió a la última búsqueda.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
@@ -400,6 +405,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>No se puede abrir el puerto UDP: %@.</translation>
     </message>
@@ -450,6 +456,11 @@
         <translation>Interrumpido.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CompareCommand.cpp"/>
+        <source>Nothing differs from “%@”: %d the same.</source>
+        <translation>Nada difiere de «%@»: %d iguales.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d consultas se siguen demasiado de cerca en ese tiempo. Cada una necesita 0,01 segundos.</translation>
@@ -468,6 +479,11 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>El sistema no tuvo sitio para %d datagramas. Pueden faltar unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” stays as it is, because no unit has answered.</source>
+        <translation>«%@» queda como está, porque ninguna unidad ha respondido.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -544,6 +560,61 @@
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>The unit %@ shows the old values and has not acknowledged the command.</source>
         <translation>La unidad %@ muestra los valores antiguos y no ha confirmado la orden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is damaged.</source>
+        <translation>«%@» está dañado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is no saved discovery. “kxctl discover --save FILE” writes one.</source>
+        <translation>«%@» no es una búsqueda guardada. «kxctl discover --save FILE» escribe una.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” has the format of another version of kxctl.</source>
+        <translation>«%@» tiene el formato de otra versión de kxctl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” tells of a discovery that could not ask anybody.</source>
+        <translation>«%@» contiene una búsqueda que no pudo preguntar a nadie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>No se puede leer «%@»: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because datagrams were dropped.</source>
+        <translation>Unidades de «%@» que no han respondido: %d. No se dan por ausentes, porque se descartaron datagramas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because the discovery was not complete.</source>
+        <translation>Unidades de «%@» que no han respondido: %d. No se dan por ausentes, porque la búsqueda no fue completa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because they could not be asked at their last addresses.</source>
+        <translation>Unidades de «%@» que no han respondido: %d. No se dan por ausentes, porque no se les pudo preguntar en su última dirección.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units that are not in “%@”: %d. They are not called missing, because that discovery was not complete.</source>
+        <translation>Unidades que no están en «%@»: %d. No se dan por ausentes, porque esa búsqueda no fue completa.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The discovery in “%@” was not complete, so a unit that is called new may have been there.</source>
+        <translation>La búsqueda de «%@» no fue completa, así que una unidad dada por nueva pudo estar ya.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The units differ from “%@”: %d new, %d missing, %d changed, %d the same.</source>
+        <translation>Las unidades difieren de «%@»: %d nuevas, %d ausentes, %d cambiadas, %d iguales.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -921,6 +992,121 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>identificador de unidad %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Port %d is taken by another program. Choose another port.</source>
+        <translation>El puerto %d está ocupado por otro programa. Elija otro puerto.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@</source>
+        <translation>No se envió ninguna solicitud: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@.</source>
+        <translation>No se envió ninguna solicitud: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: no unit has answered yet</source>
+        <translation>Preguntando a %@, puerto %d: aún no ha respondido ninguna unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: 1 unit answered</source>
+        <translation>Preguntando a %@, puerto %d: ha respondido 1 unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: %d units answered</source>
+        <translation>Preguntando a %@, puerto %d: han respondido %d unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No interface is chosen: asked %@.</source>
+        <translation>No hay ninguna interfaz elegida: se preguntó a %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The one listed answered earlier.</source>
+        <translation>La de la lista respondió antes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The %d listed answered earlier.</source>
+        <translation>Las %d de la lista respondieron antes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No unit answered.</source>
+        <translation>Ninguna unidad respondió.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered late. Discover again to list it.</source>
+        <translation>1 unidad respondió tarde. Busque de nuevo para incluirla en la lista.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered late. Discover again to list them.</source>
+        <translation>%d unidades respondieron tarde. Busque de nuevo para incluirlas en la lista.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d of the %d listed answered.</source>
+        <translation>Respondieron %d de las %d de la lista.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered.</source>
+        <translation>Respondió 1 unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered.</source>
+        <translation>Respondieron %d unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answered last time and not now.</source>
+        <translation>%@ respondió la última vez y ahora no.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answered last time and not now.</source>
+        <translation>%d respondieron la última vez y ahora no.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ is new.</source>
+        <translation>%@ es nueva.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d are new.</source>
+        <translation>%d son nuevas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ has changed.</source>
+        <translation>%@ ha cambiado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d have changed.</source>
+        <translation>%d han cambiado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answers again.</source>
+        <translation>%@ vuelve a responder.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answer again.</source>
+        <translation>%d vuelven a responder.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -221,6 +221,11 @@
         <translation>L’aide n’a pas pu être ouverte dans un navigateur web. Pour la lire ici, appuyez sur Alt+Maj+F1.</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_DiscoveryLine.cpp"/>
+        <source>Did not answer the latest Discover.</source>
+        <translation>N’a pas répondu à la dernière détection.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
@@ -400,6 +405,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>Le port UDP ne peut pas être ouvert : %@.</translation>
     </message>
@@ -450,6 +456,11 @@
         <translation>Interrompu.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CompareCommand.cpp"/>
+        <source>Nothing differs from “%@”: %d the same.</source>
+        <translation>Aucune différence avec « %@ » : %d identiques.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>%d requêtes se suivent de trop près pendant ce temps. Il faut 0,01 seconde pour chacune.</translation>
@@ -468,6 +479,11 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>Le système n’avait pas de place pour %d datagrammes. Des unités peuvent manquer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” stays as it is, because no unit has answered.</source>
+        <translation>« %@ » reste tel quel, car aucune unité n’a répondu.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -544,6 +560,61 @@
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>The unit %@ shows the old values and has not acknowledged the command.</source>
         <translation>L’unité %@ affiche les anciennes valeurs et n’a pas confirmé la commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is damaged.</source>
+        <translation>« %@ » est endommagé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is no saved discovery. “kxctl discover --save FILE” writes one.</source>
+        <translation>« %@ » n’est pas une détection enregistrée. « kxctl discover --save FILE » en écrit une.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” has the format of another version of kxctl.</source>
+        <translation>« %@ » a le format d’une autre version de kxctl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” tells of a discovery that could not ask anybody.</source>
+        <translation>« %@ » contient une détection qui n’a pu interroger personne.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>Impossible de lire « %@ » : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because datagrams were dropped.</source>
+        <translation>Unités de « %@ » qui n’ont pas répondu : %d. Elles ne sont pas dites manquantes, car des datagrammes ont été rejetés.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because the discovery was not complete.</source>
+        <translation>Unités de « %@ » qui n’ont pas répondu : %d. Elles ne sont pas dites manquantes, car la détection n’était pas complète.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because they could not be asked at their last addresses.</source>
+        <translation>Unités de « %@ » qui n’ont pas répondu : %d. Elles ne sont pas dites manquantes, car elles n’ont pas pu être interrogées à leur dernière adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units that are not in “%@”: %d. They are not called missing, because that discovery was not complete.</source>
+        <translation>Unités absentes de « %@ » : %d. Elles ne sont pas dites manquantes, car cette détection n’était pas complète.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The discovery in “%@” was not complete, so a unit that is called new may have been there.</source>
+        <translation>La détection de « %@ » n’était pas complète ; une unité dite nouvelle était peut-être déjà là.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The units differ from “%@”: %d new, %d missing, %d changed, %d the same.</source>
+        <translation>Les unités diffèrent de « %@ » : %d nouvelles, %d manquantes, %d modifiées, %d identiques.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -921,6 +992,121 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>identifiant d’unité %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Port %d is taken by another program. Choose another port.</source>
+        <translation>Le port %d est occupé par un autre programme. Choisissez un autre port.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@</source>
+        <translation>Aucune demande n’a été envoyée : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@.</source>
+        <translation>Aucune demande n’a été envoyée : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: no unit has answered yet</source>
+        <translation>Interrogation de %@, port %d : aucune unité n’a encore répondu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: 1 unit answered</source>
+        <translation>Interrogation de %@, port %d : 1 unité a répondu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: %d units answered</source>
+        <translation>Interrogation de %@, port %d : %d unités ont répondu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No interface is chosen: asked %@.</source>
+        <translation>Aucune interface n’est choisie : %@ a été interrogée.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The one listed answered earlier.</source>
+        <translation>Celle de la liste a répondu auparavant.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The %d listed answered earlier.</source>
+        <translation>Les %d de la liste ont répondu auparavant.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No unit answered.</source>
+        <translation>Aucune unité n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered late. Discover again to list it.</source>
+        <translation>1 unité a répondu tard. Relancez la détection pour l’ajouter à la liste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered late. Discover again to list them.</source>
+        <translation>%d unités ont répondu tard. Relancez la détection pour les ajouter à la liste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d of the %d listed answered.</source>
+        <translation>%d sur les %d de la liste ont répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered.</source>
+        <translation>1 unité a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered.</source>
+        <translation>%d unités ont répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answered last time and not now.</source>
+        <translation>%@ a répondu la dernière fois, mais pas cette fois.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answered last time and not now.</source>
+        <translation>%d ont répondu la dernière fois, mais pas cette fois.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ is new.</source>
+        <translation>%@ est nouvelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d are new.</source>
+        <translation>%d sont nouvelles.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ has changed.</source>
+        <translation>%@ a changé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d have changed.</source>
+        <translation>%d ont changé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answers again.</source>
+        <translation>%@ répond de nouveau.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answer again.</source>
+        <translation>%d répondent de nouveau.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -221,6 +221,11 @@
         <translation>ヘルプをウェブブラウザーで開けませんでした。ここで読むには、Alt+Shift+F1 キーを押してください。</translation>
     </message>
     <message>
+        <location filename="../../Sources/KXConfigAppDelegate_DiscoveryLine.cpp"/>
+        <source>Did not answer the latest Discover.</source>
+        <translation>最新の検出に応答しませんでした。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/KXConfigAppDelegate_Editing.cpp"/>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
         <source>KXConfig</source>
@@ -400,6 +405,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
         <source>The UDP port cannot be opened: %@.</source>
         <translation>UDP ポートを開けません: %@。</translation>
     </message>
@@ -450,6 +456,11 @@
         <translation>中断しました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/CompareCommand.cpp"/>
+        <source>Nothing differs from “%@”: %d the same.</source>
+        <translation>「%@」との違いはありません: 同じもの %d。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>%d requests in that time follow each other too closely. They need 0.01 seconds each.</source>
         <translation>その時間に %d 回の要求では間隔が短すぎます。1 回につき 0.01 秒が必要です。</translation>
@@ -468,6 +479,11 @@
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <source>The system had no room for %d datagrams. Units may be missing.</source>
         <translation>システムに %d 個のデータグラムを保持する余地がありませんでした。ユニットが欠けている可能性があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <source>“%@” stays as it is, because no unit has answered.</source>
+        <translation>応答したユニットがないため、「%@」はそのままにします。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
@@ -544,6 +560,61 @@
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>The unit %@ shows the old values and has not acknowledged the command.</source>
         <translation>ユニット %@ は以前の値のままで、コマンドの確認応答もありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is damaged.</source>
+        <translation>「%@」は壊れています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” is no saved discovery. “kxctl discover --save FILE” writes one.</source>
+        <translation>「%@」は保存された検出ではありません。「kxctl discover --save FILE」で保存できます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” has the format of another version of kxctl.</source>
+        <translation>「%@」は別の版の kxctl の形式です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” tells of a discovery that could not ask anybody.</source>
+        <translation>「%@」は、どこにも問い合わせられなかった検出です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>「%@」を読み取れません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because datagrams were dropped.</source>
+        <translation>「%@」のうち応答していないユニット: %d。データグラムが破棄されたため、ないとは判断しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because the discovery was not complete.</source>
+        <translation>「%@」のうち応答していないユニット: %d。検出が完全ではなかったため、ないとは判断しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units of “%@” that have not answered: %d. They are not called missing, because they could not be asked at their last addresses.</source>
+        <translation>「%@」のうち応答していないユニット: %d。最後のアドレスに問い合わせられなかったため、ないとは判断しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>Units that are not in “%@”: %d. They are not called missing, because that discovery was not complete.</source>
+        <translation>「%@」に含まれないユニット: %d。その検出が完全ではなかったため、ないとは判断しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The discovery in “%@” was not complete, so a unit that is called new may have been there.</source>
+        <translation>「%@」の検出は完全ではなかったため、新しいとされるユニットが前からあった可能性があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>The units differ from “%@”: %d new, %d missing, %d changed, %d the same.</source>
+        <translation>ユニットは「%@」と異なります: 新規 %d、なし %d、変更 %d、同じ %d。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -921,6 +992,121 @@
         <location filename="../../Sources/units/UnitParameter.h"/>
         <source>unit ID %@</source>
         <translation>ユニット ID %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Port %d is taken by another program. Choose another port.</source>
+        <translation>ポート %d は別のプログラムが使用しています。別のポートを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@</source>
+        <translation>要求は送信されませんでした: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No request was sent: %@.</source>
+        <translation>要求は送信されませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: no unit has answered yet</source>
+        <translation>%@ のポート %d に問い合わせ中: 応答したユニットはまだありません</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: 1 unit answered</source>
+        <translation>%@ のポート %d に問い合わせ中: 1 台が応答</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>Asking %@, port %d: %d units answered</source>
+        <translation>%@ のポート %d に問い合わせ中: %d 台が応答</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No interface is chosen: asked %@.</source>
+        <translation>インターフェースが選ばれていません: %@ に問い合わせました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The one listed answered earlier.</source>
+        <translation>一覧の 1 台は以前に応答したものです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The %d listed answered earlier.</source>
+        <translation>一覧の %d 台は以前に応答したものです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>No unit answered.</source>
+        <translation>応答したユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered late. Discover again to list it.</source>
+        <translation>1 台の応答が遅れました。もう一度検出すると一覧に表示されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered late. Discover again to list them.</source>
+        <translation>%d 台の応答が遅れました。もう一度検出すると一覧に表示されます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d of the %d listed answered.</source>
+        <translation>%d 台が応答しました (一覧は %d 台)。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>1 unit answered.</source>
+        <translation>1 台が応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d units answered.</source>
+        <translation>%d 台が応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answered last time and not now.</source>
+        <translation>%@ は前回応答し、今回は応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answered last time and not now.</source>
+        <translation>%d 台は前回応答し、今回は応答していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ is new.</source>
+        <translation>%@ は新しいユニットです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d are new.</source>
+        <translation>%d 台は新しいユニットです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ has changed.</source>
+        <translation>%@ は変わりました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d have changed.</source>
+        <translation>%d 台は変わりました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%@ answers again.</source>
+        <translation>%@ が再び応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>%d answer again.</source>
+        <translation>%d 台が再び応答しました。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
