@@ -229,11 +229,12 @@ class Application:
         return Atspi.Table.get_accessible_at(self.table(table), row, column)
 
     def note(self):
-        """The text of the quiet line."""
+        """The text of the quiet line, which stands below the line below Discover."""
         notes = [each for each in everything_in(self.window)
                  if role_of(each) == "notification" and "showing" in states(each)]
-        assert len(notes) == 1, notes
-        return notes[0].get_name()
+        assert len(notes) == 2, notes
+        notes.sort(key=lambda each: Atspi.Component.get_extents(each, Atspi.CoordType.SCREEN).y)
+        return notes[1].get_name()
 
     def wait_for_focus(self, role, name):
         """Waits until the control with this name or label has the keyboard."""
