@@ -3,7 +3,6 @@
 #include "addresses/HardwareAddress.h"
 #include "addresses/IPv4Address.h"
 #include "conversation/RequestTarget.h"
-#include "conversation/UnitDestination.h"
 
 #include <algorithm>
 
@@ -34,11 +33,7 @@ EditTrouble troubleOfAddress(std::uint32_t address, const KnownNetwork& known) {
     if (known.isHeldByAnotherUnit) {
         return EditTrouble::addressOfAnotherUnit;
     }
-    std::vector<std::uint32_t> broadcasts;
-    for (const InterfaceAddress& subnet : known.subnets) {
-        broadcasts.push_back(broadcastAddressOf(subnet).value_or(limitedBroadcastAddress));
-    }
-    if (isAddressOfMany(address, broadcasts)) {
+    if (isAddressOfMany(address, broadcastAddressesOf(known.subnets))) {
         return EditTrouble::addressOfMany;
     }
     const auto isItsSubnet = [address](const InterfaceAddress& subnet) {

@@ -34,7 +34,7 @@ std::string answerOf(const RequestOutcome& outcome) {
 }
 
 std::string answerOfOtherUnit(const RequestOutcome& outcome) {
-    const std::string& unit = *outcome.otherUnit();
+    const std::string unit = outcome.otherUnit().value_or("");
     return outcome.answer().has_value()
                ? localizedText("Another unit at this address, %@, answered “%@”.",
                                {unit, answerOf(outcome)})
