@@ -39,7 +39,7 @@ void KXSaving::saveLog(const LogText& log) {
                  .kind = localizedText("Text"),
                  .suffix = "txt"},
                 [this, &log](const std::string& path) {
-                    if (write(path, log.shownText(0, log.size()) + '\n')) {
+                    if (write(path, log.copiedText(0, log.size()) + '\n')) {
                         _tell(localizedText("The event log was saved."));
                     }
                 });

@@ -35,6 +35,13 @@ TEST_F(ControllerSaving, TheEventLogIsSavedAsItIsShown) {
     EXPECT_EQ(quietLine(), "The event log was saved.");
 }
 
+TEST_F(ControllerSaving, ZeroBytesThatFillUpAUnitIDAreNotSaved) {
+    SampleUnit unit;
+    unit.unitID = {'A', 'B', 'C', 0, 0, 0};
+    receive(unit.reply());
+    EXPECT_NE(savedLog().find("unit:ABC serial:"), std::string::npos);
+}
+
 TEST_F(ControllerSaving, TheLogIsThatOfTheMomentAtWhichTheFileIsChosen) {
     controller.saveEventLog();
     receive(SampleUnit().reply());

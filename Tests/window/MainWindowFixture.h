@@ -161,23 +161,28 @@ protected:
     MainWindow window;
     KXConfigAppDelegate controller{
         window.outlets(),
-        KXConfigAppDelegate::Services{
-            runLoop, hostResolver, systemCalls, wallClock, application, &interfaces,
-            [this](std::string_view anchor) {
-                helpAnchors.emplace_back(anchor);
-                return openHelp();
-            },
-            &authority, nullptr, [this](std::string_view) { return helpIsThere; },
-            UnitRegistry::defaultLimit, nullptr,
-            KXSaving::Services{.record = &sessionRecord,
-                               .application = "KXConfig 9.9",
-                               .counts = [] { return CaptureCounts(); },
-                               .now = [] { return CaptureTime(8); },
-                               .writeFile =
-                                   [this](const std::string& path, std::string_view text) {
-                                       files[path] = text;
-                                       return std::optional<Error>();
-                                   }}}};
+        {.runLoop = runLoop,
+         .hostResolver = hostResolver,
+         .systemCalls = systemCalls,
+         .wallClock = wallClock,
+         .application = application,
+         .networkInterfaces = &interfaces,
+         .openHelpAnchor =
+             [this](std::string_view anchor) {
+                 helpAnchors.emplace_back(anchor);
+                 return openHelp();
+             },
+         .authorizationService = &authority,
+         .hasHelpPage = [this](std::string_view) { return helpIsThere; },
+         .saving = {.record = &sessionRecord,
+                    .application = "KXConfig 9.9",
+                    .counts = [] { return CaptureCounts(); },
+                    .now = [] { return CaptureTime(8); },
+                    .writeFile =
+                        [this](const std::string& path, std::string_view text) {
+                            files[path] = text;
+                            return std::optional<Error>();
+                        }}}};
 
 private:
     QWindow* windowWithKeyboard();
