@@ -116,12 +116,15 @@ QuietLine::Forecast KXConfigAppDelegate::forecast() {
     CommandTarget target = targetOfEdit(edit);
     bool isTrouble = meansTrouble(edit, target);
     std::string holder;
-    if (const auto* const holders = _holderLookup.resultOf(questionOfHolder())) {
+    const auto* const holders = _holderLookup.resultOf(questionOfHolder());
+    const bool isHeld = holders != nullptr && holders->state == HolderState::held;
+    if (isHeld && target.trouble == EditTrouble::addressOfAnotherUnit) {
+        target.trouble = EditTrouble::none; // the sentence about the holder says more
+    }
+    // A unit that has told the address and is silent now makes it no free one.
+    if (holders != nullptr && target.trouble == EditTrouble::none) {
         holder = ' ' + textOfHolders(*holders);
-        isTrouble = isTrouble || holders->state == HolderState::held;
-        if (target.trouble == EditTrouble::addressOfAnotherUnit) {
-            target.trouble = EditTrouble::none; // the sentence about the holder says more
-        }
+        isTrouble = isTrouble || isHeld;
     }
     return {.text = forecastOfEdit(edit, target) + holder, .meansTrouble = isTrouble};
 }

@@ -184,7 +184,7 @@
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <source>Copy &amp;Value</source>
-        <translation>&amp;Wert kopieren</translation>
+        <translation>Wert kop&amp;ieren</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>

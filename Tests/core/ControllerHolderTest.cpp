@@ -12,6 +12,8 @@ const std::string forecastOfMove =
 const std::string heldBySecond =
     " 192.168.1.11 is held by 00:1A:2B:3C:4D:5F, unit 01 02 03 04 05 07.";
 
+const std::string toldBySecond = " The unit 01 02 03 04 05 07 has it.";
+
 class ControllerHolder : public ControllerTest {
 protected:
     static constexpr std::uint32_t link = 2;
@@ -32,9 +34,9 @@ protected:
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
-    void setEntry(NeighbourState state, const std::string& hardware = {}) {
-        neighbours.entries[ipForString("192.168.1.11")] = {.state = state,
-                                                           .hardwareAddress = hardware};
+    void setEntry(NeighbourState state, const std::string& hardware = {},
+                  const std::string& address = "192.168.1.11") {
+        neighbours.entries[ipForString(address)] = {.state = state, .hardwareAddress = hardware};
     }
 
     Lines newlySent() const {
@@ -49,7 +51,7 @@ protected:
 
 TEST_F(ControllerHolder, TheLineNamesTheHolderAndItsUnit) {
     controller.editTextDidChange("192.168.1.11");
-    EXPECT_EQ(quietLine(), forecastOfMove);
+    EXPECT_EQ(quietLine(), forecastOfMove + toldBySecond);
     setEntry(NeighbourState::reachable, "00:1A:2B:3C:4D:5F");
     runLoop.advanceBy(500ms);
     EXPECT_EQ(newlySent(), Lines{"192.168.1.11:9 "});
@@ -65,20 +67,37 @@ TEST_F(ControllerHolder, AHolderThatIsNoKnownUnitHasNoSerialNumber) {
 }
 
 TEST_F(ControllerHolder, AFreeAddressIsSaidToBeFree) {
-    store("192.168.1.11");
-    setEntry(NeighbourState::asking);
+    store("192.168.1.77");
+    const std::string before = quietLine();
+    setEntry(NeighbourState::asking, {}, "192.168.1.77");
     runLoop.advanceBy(3500ms);
-    EXPECT_EQ(quietLine(), forecastOfMove);
-    setEntry(NeighbourState::failed);
+    EXPECT_EQ(quietLine(), before);
+    EXPECT_FALSE(window.quietLine.meansTrouble());
+    setEntry(NeighbourState::failed, {}, "192.168.1.77");
     runLoop.advanceBy(50ms);
-    EXPECT_EQ(quietLine(), forecastOfMove + " 192.168.1.11 is free: nobody answers for it.");
+    EXPECT_EQ(quietLine(), before + " 192.168.1.77 is free: nobody answers for it.");
+    EXPECT_FALSE(window.quietLine.meansTrouble());
+}
+
+TEST_F(ControllerHolder, AnAddressThatASilentUnitHasToldIsNotCalledFree) {
+    store("192.168.1.11");
+    setEntry(NeighbourState::failed);
+    runLoop.advanceBy(4s);
+    EXPECT_EQ(quietLine(), forecastOfMove + toldBySecond);
+}
+
+TEST_F(ControllerHolder, AHolderMeansTrouble) {
+    controller.editTextDidChange("192.168.1.77");
+    setEntry(NeighbourState::reachable, "02:00:00:00:00:99", "192.168.1.77");
+    runLoop.advanceBy(550ms);
+    EXPECT_TRUE(window.quietLine.meansTrouble());
 }
 
 TEST_F(ControllerHolder, AfterFourSecondsItIsSaidThatNobodyKnows) {
-    store("192.168.1.11");
+    store("192.168.1.77");
+    const std::string before = quietLine();
     runLoop.advanceBy(4500ms);
-    EXPECT_EQ(quietLine(),
-              forecastOfMove + " Whether somebody holds 192.168.1.11 could not be found out.");
+    EXPECT_EQ(quietLine(), before + " Whether somebody holds 192.168.1.77 could not be found out.");
 }
 
 TEST_F(ControllerHolder, NobodyIsAskedWhileAPersonTypes) {
@@ -147,7 +166,7 @@ TEST_F(ControllerHolder, AnotherAddressIsAnotherQuestion) {
     controller.editTextDidChange("192.168.1.111");
     EXPECT_EQ(quietLine().find("is held by"), std::string::npos) << quietLine();
     controller.editTextDidChange("192.168.1.11");
-    EXPECT_EQ(quietLine(), forecastOfMove);
+    EXPECT_EQ(quietLine(), forecastOfMove + toldBySecond);
     runLoop.advanceBy(550ms);
     EXPECT_EQ(quietLine(), forecastOfMove + heldBySecond);
 }
@@ -182,10 +201,9 @@ TEST_F(ControllerHolder, ApplyStaysAsItIsAndEndsTheQuestion) {
     controller.applyEditParameterButton();
     EXPECT_EQ(newlySent(), Lines{"192.168.1.11:10000 ^^IdIC0A8010B"});
     EXPECT_EQ(authority.runs().size(), 1U);
-    const std::string outcome = quietLine();
     runLoop.advanceBy(5s);
     EXPECT_EQ(newlySent().size(), 1U);
-    EXPECT_EQ(quietLine(), outcome);
+    EXPECT_EQ(quietLine(), "Sent ^^IdIC0A8010B. The unit has not answered.");
 }
 
 TEST_F(ControllerHolder, AMessageStaysUntilTheNextForecast) {

@@ -47,6 +47,8 @@ export KX_STEPS="
     save saveSessionAction $scratch/again.pcapng
     line The session was saved:"
 "$kxconfig" >"$scratch/report" || fail "the visit failed: $(<"$scratch/report")"
+# It writes now and then what it has seen.
+eventually grep -qs 'simulated unit 1\.0' "$scratch/link" || fail 'dumpcap has not seen the last answer'
 kill "$dumpcap"
 wait "$dumpcap" || true
 

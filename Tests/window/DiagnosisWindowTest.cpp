@@ -10,6 +10,8 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QLabel>
+#include <QPushButton>
 #include <QTableWidget>
 
 namespace kx {
@@ -68,14 +70,16 @@ protected:
 
 } // namespace
 
-TEST_F(DiagnosisWindowTest, TheLinkComesAndGoesWithTheLine) {
+TEST_F(DiagnosisWindowTest, TheLinkStandsBesideTheLineWhateverTheLineSays) {
     launchWithTwoUnits();
-    auto& link = control<QPushButton>("detailsButton");
-    EXPECT_FALSE(link.isVisible());
-    say("No unit answered.");
-    EXPECT_TRUE(link.isVisible());
-    say("");
-    EXPECT_FALSE(link.isVisible());
+    const auto& link = control<QPushButton>("detailsButton");
+    const auto& line = control<QLabel>("discoveryLine");
+    for (const auto* const sentence : {"No unit answered.", "2 units answered."}) {
+        say(sentence);
+        EXPECT_TRUE(link.isVisible());
+        EXPECT_EQ(link.y(), line.y());
+        EXPECT_GT(link.x(), line.geometry().right());
+    }
 }
 
 TEST_F(DiagnosisWindowTest, WithoutADiagnosisThereIsNoLink) {

@@ -159,7 +159,7 @@ void MainWindow::setDiagnosis(KXDiagnosis* diagnosis, std::function<void()> open
     _details.reset();
     _diagnosis = diagnosis;
     _openHelpOfDetails = std::move(openHelp);
-    _ui->detailsButton->setVisible(_diagnosis != nullptr && !_ui->discoveryLine->isHidden());
+    _ui->detailsButton->setVisible(_diagnosis != nullptr);
 }
 
 void MainWindow::showDetails() {
@@ -182,12 +182,6 @@ bool MainWindow::eventFilter(QObject* watched, QEvent* event) {
     if (popUp != nullptr && event->type() == QEvent::Wheel && !popUp->hasFocus()) {
         event->ignore();
         return true;
-    }
-    // The link belongs to the line beside it.
-    if (watched == _ui->discoveryLine &&
-        (event->type() == QEvent::ShowToParent || event->type() == QEvent::HideToParent)) {
-        _ui->detailsButton->setVisible(_diagnosis != nullptr &&
-                                       event->type() == QEvent::ShowToParent);
     }
     if (watched == _ui->reloadButton || watched == _ui->restoreButton) {
         lookWhereAPersonPoints(watched, event);
@@ -240,7 +234,6 @@ void MainWindow::connectButtons() {
     connectButton(_ui->logDrawerButton, &KXConfigAppDelegate::logDrawerButton);
     connectButton(_ui->helpButton, &KXConfigAppDelegate::myHelp);
     connect(_ui->detailsButton, &QPushButton::clicked, this, &MainWindow::showDetails);
-    _ui->discoveryLine->installEventFilter(this);
 }
 
 void MainWindow::connectPopUps() {

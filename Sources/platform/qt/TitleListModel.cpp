@@ -95,8 +95,10 @@ QVariant TitleListModel::data(const QModelIndex& index, int role) const {
         return qtText(visibleText(title));
     case Qt::EditRole:
         return qtText(title);
-    case Qt::AccessibleDescriptionRole:
-        return descriptionOf(title);
+    case Qt::AccessibleDescriptionRole: {
+        const QString description = descriptionOf(title);
+        return description.isEmpty() ? QVariant() : QVariant(description);
+    }
     default:
         return detailsOf(title);
     }
