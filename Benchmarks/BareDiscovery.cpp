@@ -1,5 +1,5 @@
-// A discovery by hand, to compare kxctl with: one broadcast, a blocking receive for each answer, and
-// its decoder, until so many serial numbers have answered.
+// A discovery by hand, to compare kxctl with: one broadcast, a blocking receive for each answer,
+// and its decoder, until so many serial numbers have answered.
 //
 //   kxbarediscovery BROADCAST-ADDRESS COUNT
 //
