@@ -69,7 +69,7 @@ bool UnitRegistry::tellsTheSame(const Unit& unit, const UnitRecord& record) cons
     if (withdrawn == _withdrawnAddresses.end()) {
         return unit == record;
     }
-    UnitRecord told = unit;
+    auto told = static_cast<const UnitRecord&>(unit);
     told.setValue(UnitParameter::internalIPAddress, withdrawn->second);
     return told == record;
 }

@@ -25,7 +25,7 @@ std::string descriptionOfInterface(const std::optional<ChosenInterface>& chosen,
         return localizedText("No interface is chosen, so Discover asks %@.",
                              {stringForIP(broadcastAddress)});
     }
-    const std::string address = textOfAddress(chosen->address, broadcastAddress);
+    std::string address = textOfAddress(chosen->address, broadcastAddress);
     if (!state.has_value()) {
         return address;
     }
