@@ -27,16 +27,16 @@ std::string joined(std::initializer_list<std::string> sentences) {
     return text;
 }
 
-bool isFault(const std::optional<Finding>& finding) {
-    return finding.has_value() && std::holds_alternative<InterfaceFinding>(*finding);
+bool isFault(const Finding& finding) {
+    return std::holds_alternative<InterfaceFinding>(finding);
 }
 
-std::string textOfListenerError(const DiscoveryFacts& facts) {
-    return facts.listenerError->code == EADDRINUSE
+std::string textOfListenerError(const Error& error, std::uint16_t port) {
+    return error.code == EADDRINUSE
                ? localizedText("Port %d is taken by another program. Choose another port.",
-                               {static_cast<int>(facts.port)})
+                               {static_cast<int>(port)})
                : localizedText("The UDP port cannot be opened: %@.",
-                               {facts.listenerError->localizedDescription()});
+                               {error.localizedDescription()});
 }
 
 std::string textOfRequestFailure(const std::string& reason) {
@@ -147,9 +147,9 @@ std::string textOfDifferences(const DiscoveryFacts& facts) {
 std::string discoveryLine(const DiscoveryFacts& facts,
                           const std::function<std::string(std::uint32_t link)>& nameOfLink) {
     if (facts.listenerError.has_value()) {
-        return textOfListenerError(facts);
+        return textOfListenerError(*facts.listenerError, facts.port);
     }
-    if (isFault(facts.finding)) {
+    if (facts.finding.has_value() && isFault(*facts.finding)) {
         return textOfFinding(*facts.finding, nameOfLink);
     }
     if (facts.requestFailure.has_value()) {
