@@ -223,7 +223,7 @@ void MainWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 void MainWindow::connectButtons() {
-    const auto connectButton = [this](QPushButton* button, Action action) {
+    const auto connectButton = [this](QPushButton* button, const Action& action) {
         connect(button, &QPushButton::clicked, this, [this, action] { perform(action); });
     };
     connectButton(_ui->discoverButton, &KXConfigAppDelegate::discoverButton);
@@ -238,7 +238,7 @@ void MainWindow::connectButtons() {
 
 void MainWindow::connectPopUps() {
     // The user's choice emits activated(); a selection made by code does not.
-    const auto connectPopUp = [this](QComboBox* popUp, Action action) {
+    const auto connectPopUp = [this](QComboBox* popUp, const Action& action) {
         connect(popUp, &QComboBox::activated, this, [this, action] { perform(action); });
         popUp->setFocusPolicy(Qt::StrongFocus);
         popUp->installEventFilter(this);
