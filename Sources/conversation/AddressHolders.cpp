@@ -122,7 +122,7 @@ void HolderSearch::lookAt(std::size_t index) {
     const auto entry = _services.neighbours.entry(asked.question.address, asked.question.link);
     result.state = holderStateOf(entry, sinceBegin);
     asked.isDecided = result.state != HolderState::unknown;
-    if (result.state == HolderState::held) {
+    if (entry.has_value() && result.state == HolderState::held) {
         addHolder(result, entry->hardwareAddress);
     }
 }

@@ -23,13 +23,14 @@ UnitTarget lastAddressOf(const HeardUnit& unit) {
 
 } // namespace
 
-LastAddressRequests::LastAddressRequests(UnitExchange& exchange, std::vector<HeardUnit> units)
+LastAddressRequests::LastAddressRequests(UnitExchange& exchange,
+                                         const std::vector<HeardUnit>& units)
     : Listener(exchange)
     , _unanswered(units.size()) {
     _units.reserve(units.size());
-    for (HeardUnit& unit : units) {
+    for (const HeardUnit& unit : units) {
         _places.emplace(identityOf(unit), _units.size());
-        _units.push_back({.unit = std::move(unit)});
+        _units.push_back({.unit = unit});
     }
 }
 

@@ -31,7 +31,7 @@ public:
     static constexpr std::chrono::milliseconds timeBetweenGroups{10};
 
     // A unit without an address is asked where its answer came from.
-    LastAddressRequests(UnitExchange& exchange, std::vector<HeardUnit> units);
+    LastAddressRequests(UnitExchange& exchange, const std::vector<HeardUnit>& units);
 
     // Every unit that has told its parameters meanwhile, also one that was not asked.
     const HeardUnits& heard() const { return _heard; }

@@ -66,16 +66,17 @@ std::string textOfShownValue(const EditOutcome& outcome) {
 
 // The edited unit may have heard nothing, or may have taken the command as well.
 std::string textOfOtherUnit(const EditOutcome& outcome) {
-    if (!outcome.otherUnit().has_value()) {
+    const auto& other = outcome.otherUnit();
+    if (!other.has_value()) {
         return {};
     }
     const std::string address = stringForIP(outcome.address());
     return outcome.edit().parameter == UnitParameter::internalIPAddress
                ? localizedText("Another unit, %@, accepted a command: it has the address %@ "
                                "already.",
-                               {*outcome.otherUnit(), address})
+                               {*other, address})
                : localizedText("Another unit, %@, accepted a command: both have the address %@.",
-                               {*outcome.otherUnit(), address});
+                               {*other, address});
 }
 
 std::string textOfWaiting(const EditOutcome& outcome) {
