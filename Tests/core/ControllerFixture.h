@@ -34,7 +34,6 @@
 namespace kx {
 
 using namespace std::chrono_literals;
-using Operation = ScriptedSystemCalls::Operation;
 
 using Lines = std::vector<std::string>;
 using Titles = std::vector<std::string>;
@@ -62,6 +61,8 @@ inline Lines linesOf(const std::vector<RecordedTableView::Row>& rows) {
 
 class ControllerTest : public ::testing::Test {
 protected:
+    using Operation = ScriptedSystemCalls::Operation;
+
     ControllerTest() {
         window.editParameterTableView.setDataSource(&controller);
         systemCalls.addLink("eth0", 2);
