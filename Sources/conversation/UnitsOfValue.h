@@ -31,9 +31,10 @@ public:
     // The unit of the same value that was added before this one; `nobody` behind the last.
     std::uint32_t next(std::uint32_t unit) const { return _neighbours[unit].next; }
 
-    // Whether another unit tells the value of this one.
+    // Whether another unit tells the value of this one. False for a unit that tells none.
     bool isShared(std::uint32_t unit) const {
-        return _neighbours[unit].next != nobody || _neighbours[unit].previous != nobody;
+        return unit < _neighbours.size() &&
+               (_neighbours[unit].next != nobody || _neighbours[unit].previous != nobody);
     }
 
 private:

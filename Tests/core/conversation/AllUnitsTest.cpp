@@ -87,6 +87,14 @@ constexpr auto sharesSerial = UnitState::sharesSerialNumber;
 
 } // namespace
 
+TEST_F(AllUnitsTest, AUnitThatTellsNoAddressMayAnswer) {
+    HeardUnit unit = heardUnit(1);
+    unit.record.removeValue(UnitParameter::internalIPAddress);
+    units.unitDidTell(unit);
+    units.unitDidAnswer(unit.serialNumber(), 0xC0000201U, 2);
+    EXPECT_EQ(units.row(0).sender, 0xC0000201U);
+}
+
 TEST_F(AllUnitsTest, AUnitThatAnswersAgainKeepsItsNumberAndHasItsNewValues) {
     hear(1);
     hear(2);

@@ -31,6 +31,15 @@ TEST(UnitsOfValue, TheOneAddedLastComesFirst) {
     EXPECT_FALSE(units.isShared(0));
 }
 
+TEST(UnitsOfValue, AUnitThatTellsNoValueSharesNone) {
+    UnitsOfValue units;
+    EXPECT_FALSE(units.isShared(0));
+    units.add(7, 0);
+    units.add(7, 1);
+    EXPECT_FALSE(units.isShared(1000));
+    EXPECT_TRUE(units.isShared(1));
+}
+
 TEST(UnitsOfValue, AnyOfThemCanBeTakenOut) {
     for (const std::uint32_t removed : {0U, 1U, 2U}) {
         UnitsOfValue units;

@@ -232,7 +232,8 @@ TEST(LogText, ZeroBytesAtTheEndOfAWordAreNeitherSeenNorCopied) {
 }
 
 TEST(LogText, EveryRangeIsShownAsThatPartOfAll) {
-    const LogText text(std::string("\nA\0\0 b\0\tone: \u202E\x1Bx\r\n\n", 23) +
+    using namespace std::string_view_literals;
+    const LogText text(std::string("\nA\0\0 b\0\tone: \u202E\x1Bx\r\n\n"sv) +
                        std::string(1500, 'y') + "網\r\nlast\n");
     const std::string all = text.shownText(0, text.size());
     for (std::size_t from = 0; from < 30; ++from) {
