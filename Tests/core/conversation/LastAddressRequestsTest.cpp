@@ -13,8 +13,8 @@ protected:
     static constexpr auto request = "192.168.1.10:10000 ^^IdX";
     static constexpr auto secondRequest = "192.168.1.11:10000 ^^IdX";
 
-    void begin(std::vector<HeardUnit> units) {
-        requests = std::make_unique<LastAddressRequests>(exchange, std::move(units));
+    void begin(const std::vector<HeardUnit>& units) {
+        requests = std::make_unique<LastAddressRequests>(exchange, units);
         began = runLoop.now();
         requests->begin([this] { endedAt = runLoop.now() - began; });
     }

@@ -24,7 +24,7 @@ std::vector<KeptDatagram> allOf(const SessionRecord& record) {
 }
 
 // Datagrams are forgotten in runs of 256 KiB, and the latest run grows.
-constexpr std::size_t mostKept = SessionRecord::keptBytes + 2 * 256 * 1024;
+constexpr std::size_t mostKept = SessionRecord::keptBytes + std::size_t{2} * 256 * 1024;
 
 CapturedDatagram datagramAt(int microseconds, bool isOwn = false) {
     return {.time = CaptureTime(microseconds),
