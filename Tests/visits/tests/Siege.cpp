@@ -17,11 +17,7 @@ using std::chrono::seconds;
 constexpr milliseconds drawerMoves{500};
 
 // A flood brings at least this many invented units; a real network brings fewer.
-#ifdef KX_SANITIZED
-constexpr int fewestInvented = 100; // an instrumented program takes in fewer
-#else
 constexpr int fewestInvented = 1000;
-#endif
 
 // The most units that the program keeps.
 constexpr int fullList = 1'048'576;
