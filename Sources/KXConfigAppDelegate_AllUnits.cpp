@@ -1,21 +1,9 @@
 // The table of all units: what it is told, and what it asks for.
 
 #include "KXConfigAppDelegate.h"
-#include "addresses/SocketAddressRecord.h"
+#include "conversation/SenderAddress.h"
 
 namespace kx {
-
-namespace {
-
-std::uint32_t addressOfSender(const DatagramOrigin& origin) {
-    std::uint32_t address = 0;
-    IPv6Octets unused{};
-    std::uint16_t port = 0;
-    addressForData(origin.sender, address, unused, &port);
-    return address;
-}
-
-} // namespace
 
 void KXConfigAppDelegate::rememberUnit(const DecodedUnitParameters& parameters,
                                        const DatagramOrigin& origin) {

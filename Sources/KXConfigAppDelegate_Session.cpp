@@ -1,6 +1,7 @@
 #include "KXConfigAppDelegate.h"
 #include "addresses/IPv4Address.h"
 #include "addresses/SocketAddressRecord.h"
+#include "conversation/SenderAddress.h"
 #include "support/TextEncoding.h"
 #include "units/UnitCommand.h"
 #include "words/EventLogEntries.h"
@@ -10,17 +11,6 @@
 #include <utility>
 
 namespace kx {
-
-namespace {
-
-// 0 when the system did not tell the sender.
-std::uint32_t addressOf(const DatagramOrigin& origin) {
-    std::uint32_t host = 0;
-    IPv6Octets unused{};
-    return addressForData(origin.sender, host, unused, nullptr) == addressFamilyIPv4 ? host : 0;
-}
-
-} // namespace
 
 // --- Sending ---
 
@@ -179,7 +169,7 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
         } else {
             refreshForecast(); // another unit may have the serial number that is typed
         }
-        _quietLine.unitDidTell(*serial, parameters.record, addressOf(origin));
+        _quietLine.unitDidTell(*serial, parameters.record, addressOfSender(origin));
     }
     return linesOfParameters(parameters.items, _shownNames);
 }
@@ -192,10 +182,10 @@ void KXConfigAppDelegate::unitDidAccept(const Reply& reply, const DatagramOrigin
     if (_requestPace.admits()) {
         const auto failure = requestParametersOfUnit();
         if (reply.serialNumber.has_value()) {
-            _quietLine.unitDidAccept(*reply.serialNumber, failure, addressOf(origin));
+            _quietLine.unitDidAccept(*reply.serialNumber, failure, addressOfSender(origin));
         }
     } else if (reply.serialNumber.has_value() && reply.serialNumber != _selectedUnit) {
-        _quietLine.unitDidAccept(*reply.serialNumber, std::nullopt, addressOf(origin));
+        _quietLine.unitDidAccept(*reply.serialNumber, std::nullopt, addressOfSender(origin));
     } else if (reply.serialNumber == _selectedUnit) {
         _acceptedSince = reply.serialNumber;
     }
@@ -214,7 +204,7 @@ void KXConfigAppDelegate::unitDidSendOtherReply(const Reply& reply, const Datagr
     rememberAnswer(reply, origin);
     const auto text = textFromUTF8(reply.payload);
     if (reply.serialNumber.has_value() && text.has_value()) {
-        _quietLine.unitDidAnswer(*reply.serialNumber, addressOf(origin), textOfAnswer(*text));
+        _quietLine.unitDidAnswer(*reply.serialNumber, addressOfSender(origin), textOfAnswer(*text));
     }
     appendString(entryOfOtherReply(reply));
 }

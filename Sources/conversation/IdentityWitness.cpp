@@ -1,7 +1,7 @@
 #include "conversation/IdentityWitness.h"
 
 #include "addresses/IPv4Address.h"
-#include "addresses/SocketAddressRecord.h"
+#include "conversation/SenderAddress.h"
 #include "units/ParameterNumber.h"
 
 #include <string>
@@ -9,14 +9,6 @@
 namespace kx {
 
 namespace {
-
-std::uint32_t addressOfSender(const DatagramOrigin& origin) {
-    std::uint32_t address = 0;
-    IPv6Octets unused{};
-    std::uint16_t port = 0;
-    addressForData(origin.sender, address, unused, &port);
-    return address;
-}
 
 // 0 for an absent address.
 std::uint32_t addressOfText(std::optional<std::string_view> text) {
