@@ -8,7 +8,7 @@
 namespace kx {
 
 CapturingSystemCalls::CapturingSystemCalls(DatagramSystemCalls& inner, Services services)
-    : _inner(inner)
+    : ForwardingSystemCalls(inner)
     , _services(std::move(services)) {}
 
 CaptureCounts CapturingSystemCalls::counts() const {
@@ -16,11 +16,11 @@ CaptureCounts CapturingSystemCalls::counts() const {
 }
 
 int CapturingSystemCalls::bind(int descriptor, ByteView address) {
-    const int result = _inner.bind(descriptor, address);
+    const int result = inner().bind(descriptor, address);
     if (result == 0) {
         _counts.dropped += droppedOf(_bound);
         _bound = descriptor;
-        _boundTo = endpointOf(_inner.localAddress(descriptor).value_or(Bytes()));
+        _boundTo = endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
     }
     return result;
 }
@@ -30,12 +30,12 @@ int CapturingSystemCalls::close(int descriptor) {
         _counts.dropped += droppedOf(_bound);
         _bound = -1;
     }
-    return _inner.close(descriptor);
+    return inner().close(descriptor);
 }
 
 ssize_t CapturingSystemCalls::sendTo(int descriptor, ByteView data,
                                      std::optional<ByteView> address) {
-    const ssize_t sent = _inner.sendTo(descriptor, data, address);
+    const ssize_t sent = inner().sendTo(descriptor, data, address);
     if (sent >= 0) {
         takeSent(descriptor, data,
                  address.has_value() ? *address : peerAddress(descriptor).value_or(Bytes()), 0);
@@ -45,7 +45,7 @@ ssize_t CapturingSystemCalls::sendTo(int descriptor, ByteView data,
 
 ssize_t CapturingSystemCalls::sendToByLink(int descriptor, ByteView data, ByteView address,
                                            std::uint32_t link) {
-    const ssize_t sent = _inner.sendToByLink(descriptor, data, address, link);
+    const ssize_t sent = inner().sendToByLink(descriptor, data, address, link);
     if (sent >= 0) {
         takeSent(descriptor, data, address, link);
     }
@@ -54,7 +54,7 @@ ssize_t CapturingSystemCalls::sendToByLink(int descriptor, ByteView data, ByteVi
 
 ssize_t CapturingSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                           DatagramOrigin& origin) {
-    const ssize_t received = _inner.receiveFrom(descriptor, buffer, origin);
+    const ssize_t received = inner().receiveFrom(descriptor, buffer, origin);
     if (received >= 0) {
         takeReceived(descriptor, buffer.first(static_cast<std::size_t>(received)), origin);
     }
@@ -70,7 +70,7 @@ CapturingSystemCalls::Endpoint CapturingSystemCalls::endpointOf(ByteView record)
 
 CapturingSystemCalls::Endpoint CapturingSystemCalls::localEndpoint(int descriptor) const {
     return descriptor == _bound ? _boundTo
-                                : endpointOf(_inner.localAddress(descriptor).value_or(Bytes()));
+                                : endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
 }
 
 std::uint32_t CapturingSystemCalls::droppedOf(int descriptor) const {

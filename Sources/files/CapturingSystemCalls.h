@@ -5,7 +5,7 @@
 
 #pragma once
 
-#include "DatagramSystemCalls.h"
+#include "ForwardingSystemCalls.h"
 #include "ReceiveBufferControl.h"
 #include "files/Capture.h"
 #include "support/ByteRange.h"
@@ -13,11 +13,10 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
-#include <string>
 
 namespace kx {
 
-class CapturingSystemCalls final : public DatagramSystemCalls {
+class CapturingSystemCalls final : public ForwardingSystemCalls {
 public:
     struct Services {
         // Takes one datagram, without a comment. What it is given is valid during the call.
@@ -39,32 +38,13 @@ public:
     // bound.
     CaptureCounts counts() const;
 
-    int socket() override { return _inner.socket(); }
     int bind(int descriptor, ByteView address) override;
-    int connect(int descriptor, ByteView address) override {
-        return _inner.connect(descriptor, address);
-    }
-    int statusFlags(int descriptor) override { return _inner.statusFlags(descriptor); }
-    int setStatusFlags(int descriptor, int flags) override {
-        return _inner.setStatusFlags(descriptor, flags);
-    }
-    int enableBroadcast(int descriptor) override { return _inner.enableBroadcast(descriptor); }
-    int enablePacketInfo(int descriptor) override { return _inner.enablePacketInfo(descriptor); }
     ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> address) override;
     ssize_t sendToByLink(int descriptor, ByteView data, ByteView address,
                          std::uint32_t link) override;
-    std::uint32_t linkForName(const std::string& name) override { return _inner.linkForName(name); }
-    std::string nameForLink(std::uint32_t link) override { return _inner.nameForLink(link); }
     ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                         DatagramOrigin& origin) override;
-    std::optional<Bytes> localAddress(int descriptor) override {
-        return _inner.localAddress(descriptor);
-    }
-    std::optional<Bytes> peerAddress(int descriptor) override {
-        return _inner.peerAddress(descriptor);
-    }
     int close(int descriptor) override;
-    std::uint32_t socketFlags() override { return _inner.socketFlags(); }
 
 private:
     struct Endpoint {
@@ -78,7 +58,6 @@ private:
     void takeSent(int descriptor, ByteView data, ByteView address, std::uint32_t link);
     void takeReceived(int descriptor, ByteView data, const DatagramOrigin& origin);
 
-    DatagramSystemCalls& _inner;
     Services _services;
     // The socket that was bound last. Its address is known without asking the system, which takes
     // a third of the time of reading a datagram.
