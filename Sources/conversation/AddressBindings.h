@@ -33,19 +33,30 @@ public:
 };
 
 // Changes the entries by the ARP tool, with rights from the host's authority.
+//
+// The authority handles the application's events while it waits, so a change may be wanted while
+// another one is being made. It then waits for its turn: one person is asked one question. Whoever
+// has waited while that person said no is told so without a question of their own.
 class AuthorizedAddressBindings final : public AddressBindings {
 public:
     // `service` must outlive the object.
     explicit AuthorizedAddressBindings(AuthorizationService& service);
+
+    // Whoever still waits is not told any more.
+    ~AuthorizedAddressBindings() override;
+    AuthorizedAddressBindings(const AuthorizedAddressBindings&) = delete;
+    AuthorizedAddressBindings& operator=(const AuthorizedAddressBindings&) = delete;
 
     void bind(const std::string& address, const std::string& hardwareAddress, Done done) override;
     void release(const std::string& address, const std::string& hardwareAddress,
                  Done done) override;
 
 private:
-    void run(const std::vector<std::string>& arguments, const Done& done);
+    struct Turns;
 
-    std::shared_ptr<Authorization> _authorization; // may have to outlive a call
+    void run(std::vector<std::string> arguments, Done done);
+
+    std::shared_ptr<Turns> _turns; // may have to outlive a call
 };
 
 } // namespace kx

@@ -63,19 +63,39 @@ void AddressMove::bindIfFree() {
         endWith(MoveState::held);
     } else if (_holders.state == HolderState::unknown) {
         endWith(MoveState::unknownHolder);
+    } else if (_services.witness == nullptr) {
+        bind();
     } else {
-        _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
-                                [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
-                                    if (!isAlive.expired()) {
-                                        didBind(entry);
-                                    }
-                                });
+        _services.witness->bindingWillBeMade(
+            stringForIP(_newAddress), _hardwareAddress,
+            [this, isAlive = std::weak_ptr(_isAlive)](bool mayGoOn) {
+                if (isAlive.expired()) {
+                    return;
+                }
+                if (mayGoOn) {
+                    bind();
+                } else {
+                    endWith(MoveState::notBegun);
+                }
+            });
     }
+}
+
+void AddressMove::bind() {
+    _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
+                            [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
+                                if (!isAlive.expired()) {
+                                    didBind(entry);
+                                }
+                            });
 }
 
 void AddressMove::didBind(const ARPEntry& entry) {
     _binding = entry;
     if (entry.state != ARPEntryState::started) {
+        if (_services.witness != nullptr) {
+            _services.witness->bindingIsGone(stringForIP(_newAddress), _hardwareAddress);
+        }
         endWith(MoveState::notBound);
         return;
     }
@@ -89,21 +109,26 @@ void AddressMove::didBind(const ARPEntry& entry) {
 }
 
 void AddressMove::release() {
-    _services.bindings.release(
-        stringForIP(_newAddress), _hardwareAddress,
-        [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
-            if (isAlive.expired()) {
-                return;
-            }
-            _isStillBound = entry.state != ARPEntryState::started;
-            if (_command == nullptr || _command->outcome() != CommandOutcome::shown) {
-                end();
-                return;
-            }
-            _answerDeadline = _exchange.now() + patienceForOwnAnswer;
-            _exchange.send(parameterRequestCommand, _plan.target); // makes the system ask
-            awaitOwnAnswer();
-        });
+    _services.bindings.release(stringForIP(_newAddress), _hardwareAddress,
+                               [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
+                                   if (!isAlive.expired()) {
+                                       didRelease(entry);
+                                   }
+                               });
+}
+
+void AddressMove::didRelease(const ARPEntry& entry) {
+    _isStillBound = entry.state != ARPEntryState::started;
+    if (!_isStillBound && _services.witness != nullptr) {
+        _services.witness->bindingIsGone(stringForIP(_newAddress), _hardwareAddress);
+    }
+    if (_command == nullptr || _command->outcome() != CommandOutcome::shown) {
+        end();
+        return;
+    }
+    _answerDeadline = _exchange.now() + patienceForOwnAnswer;
+    _exchange.send(parameterRequestCommand, _plan.target); // makes the system ask
+    awaitOwnAnswer();
 }
 
 void AddressMove::awaitOwnAnswer() {

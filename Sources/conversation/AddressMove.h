@@ -17,6 +17,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -34,11 +35,28 @@ enum class MoveState {
     moved,
 };
 
+// Hears of the fixed entry of the ARP cache that a move needs. Threading and ownership: as for the
+// move; `answer` may be called after the move has gone.
+class BindingWitness {
+public:
+    using Answer = std::function<void(bool mayGoOn)>;
+
+    virtual ~BindingWitness() = default;
+
+    // The entry is made once `answer` says so.
+    virtual void bindingWillBeMade(const std::string& address, const std::string& hardwareAddress,
+                                   Answer answer) = 0;
+
+    // The entry was taken out again, or never made.
+    virtual void bindingIsGone(const std::string& address, const std::string& hardwareAddress) = 0;
+};
+
 class AddressMove final : public Operation {
 public:
     struct Services {
         HolderSearch::Services holders;
         AddressBindings& bindings;
+        BindingWitness* witness = nullptr; // may be null
     };
 
     // `command` is the plan for the command. Its target and the places that are asked are replaced
@@ -74,8 +92,10 @@ public:
 private:
     void start() override;
     void bindIfFree();
+    void bind();
     void didBind(const ARPEntry& entry);
     void release();
+    void didRelease(const ARPEntry& entry);
     void awaitOwnAnswer();
     void endWith(MoveState state);
 

@@ -55,14 +55,16 @@ std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<E
 }
 
 UnitEdits::UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
-                     const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody)
+                     const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget elsewhere,
+                     Options options)
     : Listener(exchange)
     , _moveServices(moveServices)
     , _unit(unit)
     , _firstHardwareAddress(_unit.hardwareAddress())
     , _changes(std::move(changes))
     , _target(_unit.target())
-    , _everybody(everybody) {}
+    , _elsewhere(elsewhere)
+    , _options(std::move(options)) {}
 
 UnitEdits::~UnitEdits() = default;
 
@@ -80,30 +82,34 @@ void UnitEdits::start() {
         return change.state == ChangeState::planned &&
                change.edit.edit.parameter == UnitParameter::internalIPAddress;
     });
-    if (move != _changes.end() && _moveServices != nullptr) {
-        findHolders(*move);
-    } else {
+    if (move == _changes.end() || _moveServices == nullptr) {
         beginNext();
+    } else if (const auto& known = _options.holders) {
+        beginWithHolders(*move, *known);
+    } else {
+        findHolders(*move);
     }
 }
 
-// A move at an address that is not free ends before its command, so it goes first.
-void UnitEdits::findHolders(const UnitChange& change) {
+void UnitEdits::findHolders(UnitChange& change) {
     const AddressQuestion question{.address = ipForString(change.edit.edit.typed),
                                    .link = _target.link};
     _search =
         std::make_unique<HolderSearch>(exchange(), _moveServices->holders, std::vector{question});
-    _search->begin([this] {
-        _holders = _search->results().front();
-        const auto move =
-            std::ranges::find(_changes, UnitParameter::internalIPAddress,
-                              [](const UnitChange& each) { return each.edit.edit.parameter; });
-        if (!_isInterrupted && !isFreeFor(*_holders, _unit.hardwareAddress())) {
-            beginMove(*move);
-        } else {
-            beginNext();
-        }
+    _search->begin([this, &change] {
+        const AddressHolders holders = _search->results().front();
+        _options.holders = holders;
+        beginWithHolders(change, holders);
     });
+}
+
+// A move at an address that is not free ends before its command, so it goes first.
+void UnitEdits::beginWithHolders(UnitChange& change, const AddressHolders& holders) {
+    if (!_isInterrupted && !isFreeFor(holders, _unit.hardwareAddress())) {
+        beginMove(change);
+    } else {
+        beginNext();
+    }
 }
 
 UnitChange* UnitEdits::nextChange() {
@@ -121,19 +127,75 @@ UnitChange* UnitEdits::nextChange() {
 void UnitEdits::beginNext() {
     UnitChange* const change = nextChange();
     if (change == nullptr || _isInterrupted || _isAmbiguous) {
-        refuseRest();
-        end();
-    } else if (change->edit.edit.parameter == UnitParameter::internalIPAddress) {
-        beginMove(*change);
-    } else {
-        _command = std::make_unique<VerifiedCommand>(exchange(), planOf(*change));
-        _command->begin([this, change] {
-            // The next command replaces the one whose end this is.
-            const auto ended = std::move(_command);
-            noteOutcome(*change, *ended);
-            beginNext();
-        });
+        endRefused();
+        return;
     }
+    _attempts = 0;
+    if (_options.witness != nullptr) {
+        announce(*change);
+    } else {
+        beginChange(*change);
+    }
+}
+
+void UnitEdits::announce(UnitChange& change) {
+    _options.witness->commandWillGo(
+        _unit, change, [this, &change, isAlive = std::weak_ptr(_isAlive)](bool mayGoOn) {
+            if (isAlive.expired()) {
+                return;
+            }
+            if (mayGoOn && !_isInterrupted) {
+                beginChange(change);
+            } else {
+                endRefused();
+            }
+        });
+}
+
+void UnitEdits::beginChange(UnitChange& change) {
+    ++_attempts;
+    if (change.edit.edit.parameter == UnitParameter::internalIPAddress) {
+        beginMove(change);
+    } else {
+        beginCommand(change);
+    }
+}
+
+void UnitEdits::beginCommand(UnitChange& change) {
+    _command = std::make_unique<VerifiedCommand>(exchange(), planOf(change));
+    _command->begin([this, &change] {
+        // The next command replaces the one whose end this is.
+        const auto ended = std::move(_command);
+        if (mayBeginAgain(change, *ended)) {
+            beginChange(change);
+            return;
+        }
+        noteOutcome(change, *ended);
+        tellEnd(change);
+        beginNext();
+    });
+}
+
+// The command, or all answers to it, may have been lost.
+bool UnitEdits::mayBeginAgain(const UnitChange& change, const VerifiedCommand& command) {
+    if (_attempts >= _options.attempts || _isInterrupted || _isAmbiguous) {
+        return false;
+    }
+    const auto& shown = command.shown();
+    return command.outcome() == CommandOutcome::silent ||
+           (command.outcome() == CommandOutcome::other && !command.isAccepted() &&
+            shown.has_value() && shownText(*shown, change.edit.edit.parameter) == change.from);
+}
+
+void UnitEdits::tellEnd(const UnitChange& change) {
+    if (_options.witness != nullptr) {
+        _options.witness->changeDidEnd(_unit, change);
+    }
+}
+
+void UnitEdits::endRefused() {
+    refuseRest();
+    end();
 }
 
 void UnitEdits::refuseRest() {
@@ -150,7 +212,7 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
     plan.command = change.command;
     plan.target = _target;
     plan.asked = {plan.target};
-    plan.askedLater = {_everybody};
+    plan.askedLater = {_elsewhere};
     plan.serialNumbers = {std::string(_unit.serialNumber())};
     if (parameter == UnitParameter::serialNumber) {
         plan.serialNumbers.push_back(change.to);
@@ -177,13 +239,12 @@ CommandPlan UnitEdits::planOf(const UnitChange& change) const {
 
 void UnitEdits::beginMove(UnitChange& change) {
     if (_moveServices == nullptr) {
-        refuseRest();
-        end();
+        endRefused();
         return;
     }
     _move = std::make_unique<AddressMove>(
         exchange(), *_moveServices, ipForString(change.edit.edit.typed),
-        std::string(_unit.hardwareAddress()), planOf(change), _holders);
+        std::string(_unit.hardwareAddress()), planOf(change), _options.holders);
     _move->begin([this, &change] { didMove(change); });
 }
 
@@ -224,6 +285,15 @@ void UnitEdits::noteOutcome(UnitChange& change, const VerifiedCommand& command) 
 }
 
 void UnitEdits::didMove(UnitChange& change) {
+    const bool isUnanswered =
+        _move->state() == MoveState::foreignAnswer && _move->foreignHardwareAddress().empty();
+    if (_move->command() != nullptr &&
+        (mayBeginAgain(change, *_move->command()) ||
+         (isUnanswered && _attempts < _options.attempts && !_isInterrupted))) {
+        const auto ended = std::move(_move);
+        beginChange(change);
+        return;
+    }
     if (_move->command() != nullptr) {
         noteOutcome(change, *_move->command());
     }
@@ -231,6 +301,7 @@ void UnitEdits::didMove(UnitChange& change) {
     if (_move->command() == nullptr || _move->state() == MoveState::foreignAnswer) {
         refuseRest();
     }
+    tellEnd(change);
     beginNext();
 }
 

@@ -23,6 +23,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kx {
@@ -49,11 +50,39 @@ struct UnitChange {
 // already is `unchanged`.
 std::vector<UnitChange> changesOfUnit(const HeardUnit& unit, const std::vector<ExactEdit>& edits);
 
+// Hears of everything that the edits of a unit do. Threading and ownership: as for the edits;
+// `answer` may be called after they have gone.
+class EditWitness : public BindingWitness {
+public:
+    // The command is sent once `answer` says so. `unit` is the unit as it showed itself last. A
+    // command that is begun again is not announced again.
+    virtual void commandWillGo(const HeardUnit& unit, const UnitChange& change, Answer answer) = 0;
+
+    // The change has its state.
+    virtual void changeDidEnd(const HeardUnit& unit, const UnitChange& change) = 0;
+};
+
 class UnitEdits final : public Operation, private UnitExchange::Listener {
 public:
-    // `everybody` is the place where all units of the unit's link are asked.
+    struct Options {
+        EditWitness* witness = nullptr; // may be null
+
+        // Who holds the new IP address; the edits find that out when it is absent.
+        std::optional<AddressHolders> holders = {};
+
+        // A command is begun so many times in all when the unit has been silent since, or shows its
+        // old value and has not acknowledged the command.
+        int attempts = 1;
+    };
+
+    // `elsewhere` is asked too from the second try on, because a unit may not be where its commands
+    // go: the place where all units of the unit's link are asked, or the unit's old address.
     UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
-              const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget everybody);
+              const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget elsewhere,
+              Options options);
+    UnitEdits(UnitExchange& exchange, const AddressMove::Services* moveServices,
+              const HeardUnit& unit, std::vector<UnitChange> changes, UnitTarget elsewhere)
+        : UnitEdits(exchange, moveServices, unit, std::move(changes), elsewhere, Options{}) {}
     ~UnitEdits() override;
 
     const std::vector<UnitChange>& changes() const { return _changes; }
@@ -75,9 +104,16 @@ public:
 private:
     void start() override;
     void unitDidTell(const HeardUnit& unit) override;
-    void findHolders(const UnitChange& change);
+    void findHolders(UnitChange& change);
+    void beginWithHolders(UnitChange& change, const AddressHolders& holders);
     void beginNext();
+    void announce(UnitChange& change);
+    void beginChange(UnitChange& change);
+    void beginCommand(UnitChange& change);
     void beginMove(UnitChange& change);
+    bool mayBeginAgain(const UnitChange& change, const VerifiedCommand& command);
+    void tellEnd(const UnitChange& change);
+    void endRefused();
     void noteOutcome(UnitChange& change, const VerifiedCommand& command);
     void noteTarget(const UnitChange& change, const HeardUnit& shown);
     void didMove(UnitChange& change);
@@ -90,14 +126,16 @@ private:
     std::string _firstHardwareAddress; // the one that it had before the edits
     std::vector<UnitChange> _changes;
     UnitTarget _target; // commands go there
-    UnitTarget _everybody;
+    UnitTarget _elsewhere;
+    Options _options;
+    int _attempts = 0; // of the change that is under way
     std::optional<SendFailure> _failure;
     std::unique_ptr<HolderSearch> _search;
-    std::optional<AddressHolders> _holders; // of the new address
     std::unique_ptr<VerifiedCommand> _command;
     std::unique_ptr<AddressMove> _move;
     bool _isInterrupted = false;
     bool _isAmbiguous = false;
+    std::shared_ptr<int> _isAlive = std::make_shared<int>(); // a witness may answer after this
 };
 
 } // namespace kx

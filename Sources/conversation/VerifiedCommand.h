@@ -64,6 +64,9 @@ public:
     // The latest answer that counts; absent when there was none.
     const std::optional<HeardUnit>& shown() const { return _shown; }
 
+    // The unit has acknowledged the command.
+    bool isAccepted() const { return _isAccepted; }
+
     // Why the command was not sent, for the outcome notSent.
     const std::optional<SendFailure>& failure() const { return _failure; }
 

@@ -66,6 +66,21 @@ std::variant<ExactEdit, EditRefusal> exactEdit(UnitParameter parameter, std::str
     return exact;
 }
 
+ExactEdit exactEditOfUnitID(const UnitIDBytes& bytes) {
+    const std::string digits = hexStringForData(bytes, "");
+    ExactEdit exact{.edit = {}, .unitIDBytes = bytes, .isChanged = false};
+    exact.edit.parameter = UnitParameter::unitID;
+    exact.edit.command =
+        std::string(commandPrefix) + descriptionOf(UnitParameter::unitID).commandLetter + digits;
+    exact.edit.value = digits;
+    if (const auto text = unitIDforData(bytes)) {
+        exact.edit.value = withoutTrailingZeroBytes(*text);
+        exact.edit.expectedText = exact.edit.value;
+    }
+    exact.edit.typed = exact.edit.value;
+    return exact;
+}
+
 std::optional<UnitParameter> unitParameterForTypedName(std::string_view typed) {
     const auto* const found =
         std::ranges::find_if(parameterTable, [typed](const ParameterDescription& row) {

@@ -36,6 +36,9 @@ struct ExactEdit {
 // digitsOfSixPairs(). A name of fewer than six bytes is not changed: units fill it up.
 std::variant<ExactEdit, EditRefusal> exactEdit(UnitParameter parameter, std::string_view typed);
 
+// The edit that gives a unit exactly these six bytes as its unit ID, also when they are no text.
+ExactEdit exactEditOfUnitID(const UnitIDBytes& bytes);
+
 // The parameter with this identifier ("device-port") or with this name ("device Port number"), in
 // letters of either case; absent when there is none.
 std::optional<UnitParameter> unitParameterForTypedName(std::string_view typed);

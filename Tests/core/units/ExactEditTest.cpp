@@ -89,4 +89,17 @@ TEST(ExactEdit, ParametersHaveTheNamesOfScriptsAndOfTheWindow) {
     EXPECT_EQ(unitParameterForTypedName(""), std::nullopt);
 }
 
+TEST(ExactEdit, GivesAUnitAnyBytesAsItsUnitID) {
+    const UnitIDBytes bytes{0xFF, 0, 'A', 0, 0, 1};
+    const ExactEdit exact = exactEditOfUnitID(bytes);
+    EXPECT_EQ(exact.edit.command, "^^IdUFF0041000001");
+    EXPECT_EQ(exact.unitIDBytes, bytes);
+    EXPECT_FALSE(exact.isChanged);
+    EXPECT_EQ(exact.edit.expectedText, std::nullopt);
+    EXPECT_EQ(exact.edit.value, "FF0041000001");
+    EXPECT_TRUE(exact.isShownBy(UnitRecord(), bytes));
+    EXPECT_EQ(exactEditOfUnitID({'A', 'B', 0, 0, 0, 0}).edit.expectedText, "AB");
+    EXPECT_EQ(exactEditOfUnitID({0, 0, 0, 0, 0, 42}).edit.expectedText, "42");
+}
+
 } // namespace kx

@@ -1,0 +1,445 @@
+// An exchange with many units at its other end, which obey commands, and a journal that the test
+// reads. Units, addresses and commands are as on the wire: nothing here uses the decoder.
+
+#pragma once
+
+#include "ExchangeFixture.h"
+#include "addresses/IPv4Address.h"
+#include "conversation/AddressBindings.h"
+#include "conversation/AddressMove.h"
+#include "conversation/PlanRun.h"
+#include "conversation/RunHistory.h"
+#include "conversation/UnitPlan.h"
+#include "units/IdentityText.h"
+
+#include <algorithm>
+#include <map>
+#include <memory>
+#include <optional>
+#include <random>
+#include <set>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace kx {
+
+// A unit of 192.168.0.0/16, and its faults.
+struct PlayedUnit {
+    SampleUnit settings;
+    bool isSilent = false;                     // it takes nothing and answers nothing
+    std::optional<int> commandsUntilSilence{}; // it takes so many commands and then nothing
+    std::string ignored;    // letters of commands that it acknowledges and does not take
+    std::string lost;       // letters of commands that never reach it
+    std::string misread;    // letters of commands that give it another value
+    bool answersARP = true; // for its own address
+    int commands = 0;       // that it has taken, requests aside
+
+    std::uint32_t address() const { return numberOf(settings.internalIP); }
+    std::string hardwareAddress() const { return hexStringForData(settings.internalMAC, ":"); }
+    std::string serialNumber() const { return hexStringForData(settings.serial, " "); }
+
+    static std::uint32_t numberOf(const Bytes& octets) {
+        std::uint32_t number = 0;
+        for (const std::uint8_t octet : octets) {
+            number = number << 8U | octet;
+        }
+        return number;
+    }
+
+    // Nothing for a request.
+    void take(std::string_view command) {
+        const char letter = command[4];
+        ++commands;
+        if (ignored.find(letter) != std::string::npos) {
+            return;
+        }
+        Bytes value;
+        for (std::size_t i = 5; i + 1 < command.size(); i += 2) {
+            value.push_back(static_cast<std::uint8_t>(
+                std::stoi(std::string(command.substr(i, 2)), nullptr, 16)));
+        }
+        if (misread.find(letter) != std::string::npos) {
+            value.back() ^= 0x40U;
+        }
+        if (letter == 'U') {
+            value.resize(6, 0);
+        }
+        place(letter) = value;
+    }
+
+    Bytes& place(char letter) {
+        switch (letter) {
+        case 'M':
+            return settings.internalMAC;
+        case 'I':
+            return settings.internalIP;
+        case 'D':
+            return settings.destinationIP;
+        case 'T':
+            return settings.destinationPort;
+        case 'P':
+            return settings.devicePort;
+        case 'C':
+            return settings.destinationMAC;
+        case 'S':
+            return settings.serial;
+        default:
+            return settings.unitID;
+        }
+    }
+};
+
+// The host's fixed ARP entries.
+class PlayedBindings final : public AddressBindings {
+public:
+    std::map<std::uint32_t, std::string> entries;
+    ARPEntry answerToBind{.state = ARPEntryState::started};
+    ARPEntry answerToRelease{.state = ARPEntryState::started};
+    int asked = 0;
+
+    void bind(const std::string& address, const std::string& hardwareAddress, Done done) override {
+        ++asked;
+        if (answerToBind.state == ARPEntryState::started) {
+            entries[ipForString(address)] = hardwareAddress;
+        }
+        done(answerToBind);
+    }
+    void release(const std::string& address, const std::string& hardwareAddress,
+                 Done done) override {
+        const auto found = entries.find(ipForString(address));
+        if (answerToRelease.state == ARPEntryState::started && found != entries.end() &&
+            found->second == hardwareAddress) {
+            entries.erase(found);
+        }
+        done(answerToRelease);
+    }
+};
+
+class RecordedJournal final : public RunJournal {
+public:
+    explicit RecordedJournal(RunLoop& runLoop)
+        : _runLoop(runLoop) {}
+
+    std::vector<JournalEntry> entries;              // on the disk
+    std::optional<std::size_t> entriesUntilFailure; // so many are written
+    std::set<std::string> commands;                 // of the entries
+    bool isSlow = false;                            // answers in the next turn of the loop
+
+    void clear() {
+        entries.clear();
+        commands.clear();
+    }
+
+    void write(const JournalEntry& entry, Written written) override {
+        if (!isSlow) {
+            finish(entry, written);
+            return;
+        }
+        _later.push_back(_runLoop.callOnceAfter(
+            std::chrono::milliseconds(0), [this, entry, written] { finish(entry, written); }));
+    }
+
+private:
+    void finish(const JournalEntry& entry, const Written& written) {
+        const bool isOnDisk = !entriesUntilFailure || entries.size() < *entriesUntilFailure;
+        if (isOnDisk) {
+            entries.push_back(entry);
+            if (const auto* const command = std::get_if<JournalledCommand>(&entry)) {
+                commands.insert(command->command);
+            }
+        }
+        written(isOnDisk);
+    }
+
+    RunLoop& _runLoop;
+    std::vector<RunLoop::Handle> _later;
+};
+
+class RunTest : public ExchangeTest {
+protected:
+    using Edits = std::vector<std::pair<UnitParameter, std::string>>;
+    using States = std::vector<RowState>;
+
+    RunTest() {
+        systemCalls.setObserver([this](const ScriptedSystemCalls::Call& call) {
+            if (call.operation == Operation::sendTo) {
+                deliver(call);
+            }
+        });
+    }
+
+    // --- Units ---
+
+    static Bytes sixBytes(std::uint8_t first, std::uint32_t number) {
+        return {first,
+                0x4B,
+                0x58,
+                0,
+                static_cast<std::uint8_t>(number >> 8U),
+                static_cast<std::uint8_t>(number)};
+    }
+    static Bytes octetsOf(std::uint32_t number) { // 192.168.2.0 and the number
+        const std::uint32_t address = 0xC0A80200U + number;
+        return {static_cast<std::uint8_t>(address >> 24U),
+                static_cast<std::uint8_t>(address >> 16U), static_cast<std::uint8_t>(address >> 8U),
+                static_cast<std::uint8_t>(address)};
+    }
+    static std::string serial(std::uint32_t number) {
+        return hexStringForData(sixBytes(0x4B, number), " ");
+    }
+    static std::string hardware(std::uint32_t number) {
+        return hexStringForData(sixBytes(0x02, number), ":");
+    }
+    static std::string address(std::uint32_t number) { return stringForIP(0xC0A80200U + number); }
+
+    void addUnits(std::uint32_t first, std::uint32_t last) {
+        for (std::uint32_t number = first; number <= last; ++number) {
+            PlayedUnit unit;
+            unit.settings.serial = sixBytes(0x4B, number);
+            unit.settings.internalMAC = sixBytes(0x02, number);
+            unit.settings.internalIP = octetsOf(number);
+            units.push_back(unit);
+            _byAddress[units.back().address()] = units.size() - 1;
+        }
+    }
+
+    void removeUnits() {
+        units.clear();
+        _byAddress.clear();
+    }
+
+    PlayedUnit& unit(std::uint32_t number) { return units.at(number - 1); }
+
+    // --- Tables ---
+
+    static WantedRow row(std::size_t line, std::uint32_t number, const Edits& edits) {
+        WantedRow row{.line = line, .serialNumber = serial(number), .edits = {}};
+        for (const auto& [parameter, value] : edits) {
+            row.edits.push_back(std::get<ExactEdit>(exactEdit(parameter, value)));
+        }
+        return row;
+    }
+    static Edits move(std::uint32_t number) {
+        return {{UnitParameter::internalIPAddress, address(number)}};
+    }
+    static Edits rename(std::uint32_t number) {
+        return {{UnitParameter::serialNumber, serial(number)}};
+    }
+    static Edits name(const std::string& text) { return {{UnitParameter::unitID, text}}; }
+
+    // The units that answer, as they are now.
+    HeardUnits hear() {
+        for (; _answers > 0; --_answers) {
+            runLoop.makeReadable(systemCalls.lastDescriptor());
+        }
+        class Collector : public UnitExchange::Listener {
+        public:
+            using Listener::Listener;
+            void unitDidTell(const HeardUnit& told) override { heard.add(told); }
+            HeardUnits heard;
+        } collector(exchange);
+        for (const PlayedUnit& each : units) {
+            if (!each.isSilent) {
+                receive(each.settings.reply(), each.address());
+            }
+        }
+        return collector.heard;
+    }
+
+    UnitPlan planOf(const std::vector<WantedRow>& rows) {
+        HostInterface own;
+        own.name = "kx0";
+        own.link = link;
+        own.networks = {{.address = ownAddress, .mask = 0xFFFF0000U}};
+        return planOfRows(rows, hear(), {.interfaces = {own}, .asked = {own}});
+    }
+
+    // --- Runs ---
+
+    void begin(UnitPlan plan, PlanRun::Options options = {}) {
+        hasEnded = false;
+        run = std::make_unique<PlanRun>(exchange, services, journal, std::move(plan), options);
+        run->begin([this] { hasEnded = true; });
+    }
+
+    // Delivers answers, and lets time pass when there are none.
+    void turn() {
+        if (_answers > 0) {
+            --_answers;
+            runLoop.makeReadable(systemCalls.lastDescriptor());
+        } else {
+            runLoop.advanceBy(std::chrono::milliseconds(20));
+        }
+    }
+    void finish() {
+        while (!hasEnded) {
+            turn();
+        }
+    }
+
+    const UnitPlan& apply(const std::vector<WantedRow>& rows, PlanRun::Options options = {}) {
+        begin(planOf(rows), options);
+        finish();
+        return run->plan();
+    }
+
+    States states() const {
+        States all;
+        for (const PlannedRow& each : run->plan().rows) {
+            all.push_back(each.state);
+        }
+        return all;
+    }
+    const RowReason& reason(std::size_t place) const { return run->plan().rows.at(place).reason; }
+
+    int commands() const {
+        int count = 0;
+        for (const PlayedUnit& each : units) {
+            count += each.commands;
+        }
+        return count;
+    }
+
+    std::size_t unitsWithCommands() const {
+        return static_cast<std::size_t>(
+            std::ranges::count_if(units, [](const PlayedUnit& each) { return each.commands > 0; }));
+    }
+
+    std::vector<PlayedUnit> units;
+    PlayedBindings bindings;
+    RecordedJournal journal{runLoop};
+    std::unique_ptr<PlanRun> run;
+    bool hasEnded = false;
+
+    // Percentage of the datagrams that get lost, each way.
+    unsigned lostPercent = 0;
+
+    // Nothing is delivered to units while this is set.
+    bool isHeldBack = false;
+
+    // Sentences about commands that should not have been sent; empty in a good run.
+    std::set<std::string> violations;
+
+private:
+    // What the host's neighbour table says at once.
+    class Neighbours final : public NeighbourTable {
+    public:
+        explicit Neighbours(RunTest& test)
+            : _test(test) {}
+        std::optional<Neighbour> entry(std::uint32_t asked, std::uint32_t /*link*/) override {
+            const auto bound = _test.bindings.entries.find(asked);
+            if (bound != _test.bindings.entries.end()) {
+                return Neighbour{NeighbourState::permanent, bound->second};
+            }
+            const auto foreign = _test.foreignHosts.find(asked);
+            if (foreign != _test.foreignHosts.end()) {
+                return Neighbour{NeighbourState::reachable, foreign->second};
+            }
+            const PlayedUnit* const holder = _test.holderOf(asked);
+            return holder != nullptr && holder->answersARP && !holder->isSilent
+                       ? Neighbour{NeighbourState::reachable, holder->hardwareAddress()}
+                       : Neighbour{NeighbourState::failed, {}};
+        }
+        std::vector<std::uint32_t> knownAddresses(std::uint32_t /*link*/) override { return {}; }
+
+    private:
+        RunTest& _test;
+    };
+
+    PlayedUnit* holderOf(std::uint32_t asked) {
+        const auto found = _byAddress.find(asked);
+        return found != _byAddress.end() ? &units[found->second] : nullptr;
+    }
+
+    // The unit that a datagram for the address reaches.
+    PlayedUnit* unitAt(std::uint32_t asked) {
+        const auto bound = bindings.entries.find(asked);
+        if (bound == bindings.entries.end()) {
+            return holderOf(asked);
+        }
+        const auto found = std::ranges::find_if(units, [&bound](const PlayedUnit& each) {
+            return each.hardwareAddress() == bound->second;
+        });
+        return found != units.end() ? &*found : nullptr;
+    }
+
+    bool isLost() { return lostPercent > 0 && _random() % 100 < lostPercent; }
+
+    void deliver(const ScriptedSystemCalls::Call& call) {
+        std::uint32_t to = 0;
+        IPv6Octets unused{};
+        std::uint16_t port = 0;
+        addressForData(call.address, to, unused, &port);
+        const std::string command(call.data.begin(), call.data.end());
+        if (command != "^^IdX") {
+            expectJournalled(command);
+        }
+        PlayedUnit* const reached = unitAt(to);
+        if (reached == nullptr || isHeldBack || isLost() || isDeaf(*reached, command)) {
+            return;
+        }
+        if (command == "^^IdX") {
+            answer(*reached, reached->settings.reply());
+            return;
+        }
+        expectFree(*reached, command);
+        _byAddress.erase(reached->address());
+        reached->take(command);
+        _byAddress[reached->address()] = static_cast<std::size_t>(reached - units.data());
+        answer(*reached, reached->settings.acknowledgement());
+    }
+
+    // A unit that falls silent does so at a command.
+    static bool isDeaf(PlayedUnit& reached, const std::string& command) {
+        if (command != "^^IdX" && reached.commandsUntilSilence &&
+            reached.commands >= *reached.commandsUntilSilence) {
+            reached.isSilent = true;
+        }
+        return reached.isSilent || reached.lost.find(command[4]) != std::string::npos;
+    }
+
+    void answer(const PlayedUnit& from, const Bytes& reply) {
+        if (!isLost()) {
+            systemCalls.queueDatagram(reply, dataForAddress(from.address(), 3520), link);
+            ++_answers;
+        }
+    }
+
+    void expectJournalled(const std::string& command) {
+        if (!journal.commands.contains(command)) {
+            violations.insert("not in the journal: " + command);
+        }
+    }
+
+    void expectFree(const PlayedUnit& reached, const std::string& command) {
+        if (command[4] != 'I' && command[4] != 'S') {
+            return;
+        }
+        PlayedUnit moved = reached;
+        moved.ignored.clear();
+        moved.take(command);
+        const PlayedUnit* const holder = holderOf(moved.address());
+        if (command[4] == 'I' && holder != nullptr && holder != &reached) {
+            violations.insert("held: " + command);
+        }
+        if (command[4] == 'S' && std::ranges::any_of(units, [&](const PlayedUnit& each) {
+                return &each != &reached && each.serialNumber() == moved.serialNumber();
+            })) {
+            violations.insert("serial number of another: " + command);
+        }
+    }
+
+    std::map<std::uint32_t, std::size_t> _byAddress;
+    std::size_t _answers = 0; // that wait to be received
+    std::mt19937 _random{20'261'122};
+    Neighbours _neighbours{*this};
+
+protected:
+    // Hosts that are no units, by address.
+    std::map<std::uint32_t, std::string> foreignHosts;
+
+    AddressMove::Services services{.holders = {.neighbours = _neighbours}, .bindings = bindings};
+};
+
+} // namespace kx
