@@ -1,14 +1,14 @@
 #include "files/CSV.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace kx {
 
 namespace {
 
+// Whatever the dialect is, so that no reader can take a field for two.
 bool mustBeQuoted(std::string_view field) {
-    return field.find_first_of(",\"\r\n") != std::string_view::npos || field.starts_with(' ') ||
+    return field.find_first_of(",;\t\"\r\n") != std::string_view::npos || field.starts_with(' ') ||
            field.ends_with(' ');
 }
 
@@ -27,46 +27,93 @@ void appendField(std::string& record, std::string_view field) {
     record += '"';
 }
 
-// Reads the field at the front of a text, and takes it away.
-std::string takeField(std::string_view& text) {
-    std::string field;
-    bool isQuoted = text.starts_with('"');
-    if (!isQuoted) {
-        const auto end = std::min(text.find_first_of(",\r\n"), text.size());
-        field = text.substr(0, end);
-        text.remove_prefix(end);
+class Reader {
+public:
+    Reader(std::string_view text, char separator)
+        : _text(text)
+        , _endsOfField{separator, '\r', '\n'} {}
+
+    bool isAtEnd() const { return _text.empty(); }
+
+    CSVRecord takeRecord() {
+        CSVRecord record{.line = _line, .fields = {}};
+        takeField(record);
+        while (!_text.empty() && _text.front() == _endsOfField.front()) {
+            _text.remove_prefix(1);
+            takeField(record);
+        }
+        if (!_text.empty()) {
+            takeLineBreak();
+        }
+        return record;
+    }
+
+private:
+    void takeField(CSVRecord& record) {
+        CSVFault fault{.line = _line, .field = record.fields.size()};
+        std::string field;
+        if (_text.starts_with('"')) {
+            field = takeQuotation(fault.isOpen);
+            const std::string_view rest = takeToEndOfField();
+            field += rest;
+            if ((fault.isOpen || !rest.empty()) && !record.fault.has_value()) {
+                record.fault = fault;
+            }
+        } else {
+            field = takeToEndOfField();
+        }
+        record.fields.push_back(std::move(field));
+    }
+
+    std::string takeQuotation(bool& isOpen) {
+        std::string text;
+        _text.remove_prefix(1);
+        for (;;) {
+            const auto end = std::min(_text.find('"'), _text.size());
+            countLines(_text.substr(0, end));
+            text += _text.substr(0, end);
+            isOpen = end == _text.size();
+            _text.remove_prefix(isOpen ? end : end + 1);
+            if (isOpen || !_text.starts_with('"')) {
+                return text;
+            }
+            text += '"';
+            _text.remove_prefix(1);
+        }
+    }
+
+    std::string_view takeToEndOfField() {
+        const auto end = std::min(_text.find_first_of(_endsOfField), _text.size());
+        const auto field = _text.substr(0, end);
+        _text.remove_prefix(end);
         return field;
     }
-    text.remove_prefix(1);
-    while (!text.empty() && isQuoted) {
-        if (text.front() != '"') {
-            field += text.front();
-        } else if (text.starts_with("\"\"")) {
-            field += '"';
-            text.remove_prefix(1);
-        } else {
-            isQuoted = false;
-        }
-        text.remove_prefix(1);
-    }
-    // What a faulty writer left behind a closing quotation mark belongs to the field.
-    const auto end = std::min(text.find_first_of(",\r\n"), text.size());
-    field += text.substr(0, end);
-    text.remove_prefix(end);
-    return field;
-}
 
-void takeLineBreak(std::string_view& text) {
-    text.remove_prefix(text.starts_with("\r\n") ? 2 : 1);
-}
+    void takeLineBreak() {
+        _text.remove_prefix(_text.starts_with("\r\n") ? 2 : 1);
+        ++_line;
+    }
+
+    void countLines(std::string_view text) {
+        for (std::size_t i = 0; i < text.size(); ++i) {
+            if (text[i] == '\n' || (text[i] == '\r' && !text.substr(i + 1).starts_with('\n'))) {
+                ++_line;
+            }
+        }
+    }
+
+    std::string_view _text;
+    std::string _endsOfField;
+    std::size_t _line = 1;
+};
 
 } // namespace
 
-std::string csvRecord(std::span<const std::string> fields) {
+std::string csvRecord(std::span<const std::string> fields, const CSVDialect& dialect) {
     std::string record;
     for (std::size_t i = 0; i < fields.size(); ++i) {
         if (i > 0) {
-            record += ',';
+            record += dialect.separator;
         }
         // A record of one empty field would be an empty line.
         if (fields.size() == 1 && fields[i].empty()) {
@@ -75,21 +122,21 @@ std::string csvRecord(std::span<const std::string> fields) {
             appendField(record, fields[i]);
         }
     }
-    return record += "\r\n";
+    return record += dialect.lineBreak;
+}
+
+std::vector<CSVRecord> csvTable(std::string_view text, char separator) {
+    std::vector<CSVRecord> records;
+    for (Reader reader(text, separator); !reader.isAtEnd();) {
+        records.push_back(reader.takeRecord());
+    }
+    return records;
 }
 
 std::vector<std::vector<std::string>> csvRecords(std::string_view text) {
     std::vector<std::vector<std::string>> records;
-    while (!text.empty()) {
-        auto& record = records.emplace_back();
-        record.push_back(takeField(text));
-        while (text.starts_with(',')) {
-            text.remove_prefix(1);
-            record.push_back(takeField(text));
-        }
-        if (!text.empty()) {
-            takeLineBreak(text);
-        }
+    for (CSVRecord& record : csvTable(text)) {
+        records.push_back(std::move(record.fields));
     }
     return records;
 }

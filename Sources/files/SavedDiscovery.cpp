@@ -1,141 +1,17 @@
 #include "files/SavedDiscovery.h"
 
-#include "addresses/IPv4Address.h"
-#include "units/IdentityText.h"
-#include "units/UnitName.h"
-
-#include <nlohmann/json.hpp>
-
-#include <charconv>
+#include "files/JSONReading.h"
 
 namespace kx {
 
 namespace {
 
-using Json = nlohmann::json;
-
-// A value that the format does not allow. It does not leave this file.
-struct Damage {};
-
-const Json& valueOf(const Json& object, const char* key) {
-    const auto found = object.find(key);
-    if (found == object.end()) {
-        throw Damage();
-    }
-    return *found;
-}
-
-std::optional<std::string> textOf(const Json& object, const char* key) {
-    const Json& value = valueOf(object, key);
-    if (value.is_null()) {
-        return std::nullopt;
-    }
-    if (!value.is_string()) {
-        throw Damage();
-    }
-    return value.get<std::string>();
-}
-
-std::uint64_t numberOf(const Json& value, std::uint64_t most) {
-    if (!value.is_number_unsigned() || value.get<std::uint64_t>() > most) {
-        throw Damage();
-    }
-    return value.get<std::uint64_t>();
-}
-
-bool truthOf(const Json& object, const char* key) {
-    const Json& value = valueOf(object, key);
-    if (!value.is_boolean()) {
-        throw Damage();
-    }
-    return value.get<bool>();
-}
-
-std::string sixPairs(const std::string& text, char separator) {
-    const auto digits = digitsOfSixPairs(text);
-    if (!digits.has_value()) {
-        throw Damage();
-    }
-    return textOfSixPairs(*digits, separator);
-}
-
-std::uint32_t address(const std::string& text) {
-    const std::uint32_t address = ipForString(text);
-    if (stringForIP(address) != text) {
-        throw Damage(); // 0 stands for a text that is none, and for 0.0.0.0
-    }
-    return address;
-}
-
-UnitIDBytes bytesOfUnitID(const std::string& text) {
-    const auto digits = digitsOfSixPairs(text);
-    if (!digits.has_value()) {
-        throw Damage();
-    }
-    UnitIDBytes bytes{};
-    for (std::size_t i = 0; i < bytes.size(); ++i) {
-        const char* const pair = digits->data() + 2 * i;
-        std::from_chars(pair, pair + 2, bytes[i], 16);
-    }
-    return bytes;
-}
-
-// The text of a value in a record; absent when the unit did not tell it.
-std::optional<std::string> recordText(const Json& json, const char* key, ValueForm form) {
-    if (form == ValueForm::anyPort) {
-        const Json& value = valueOf(json, key);
-        return value.is_null() ? std::nullopt
-                               : std::optional(std::to_string(numberOf(value, 0xFFFF)));
-    }
-    const auto text = textOf(json, key);
-    if (!text.has_value()) {
-        return std::nullopt;
-    }
-    switch (form) {
-    case ValueForm::serialNumber:
-        return sixPairs(*text, ' ');
-    case ValueForm::hardwareAddress:
-        return sixPairs(*text, ':');
-    default:
-        return stringForIP(address(*text));
-    }
-}
-
-struct RecordKey {
-    UnitParameter parameter;
-    const char* key;
-    ValueForm form; // as a text of the document: both kinds of ports are numbers
-};
-
-// The unit ID is read from its bytes.
-constexpr std::array recordKeys{
-    RecordKey{UnitParameter::serialNumber, "serial", ValueForm::serialNumber},
-    RecordKey{UnitParameter::internalIPAddress, "internal_ip", ValueForm::ipv4Address},
-    RecordKey{UnitParameter::internalMACAddress, "internal_mac", ValueForm::hardwareAddress},
-    RecordKey{UnitParameter::destinationIPAddress, "destination_ip", ValueForm::ipv4Address},
-    RecordKey{UnitParameter::destinationMACAddress, "destination_mac", ValueForm::hardwareAddress},
-    RecordKey{UnitParameter::destinationPortNumber, "destination_port", ValueForm::anyPort},
-    RecordKey{UnitParameter::devicePortNumber, "device_port", ValueForm::anyPort},
-};
-static_assert(recordKeys.size() + 1 == unitParameterCount);
-
 SavedUnit unitOf(const Json& json) {
+    const ReadRecord read = recordOf(json);
     SavedUnit unit;
-    for (const RecordKey& each : recordKeys) {
-        if (const auto text = recordText(json, each.key, each.form)) {
-            unit.record.setValue(each.parameter, *text);
-        }
-    }
-    if (!unit.record.value(UnitParameter::serialNumber).has_value()) {
-        throw Damage();
-    }
-    if (const auto bytes = textOf(json, "unit_id_bytes")) {
-        unit.unitIDBytes = bytesOfUnitID(*bytes);
-        if (const auto text = unitIDforData(*unit.unitIDBytes)) {
-            unit.record.setValue(UnitParameter::unitID, *text);
-        }
-    }
-    unit.sender = address(textOf(json, "source_ip").value_or(""));
+    unit.record = read.record;
+    unit.unitIDBytes = read.unitIDBytes;
+    unit.sender = addressOf(presentTextOf(json, "source_ip"));
     unit.interface = textOf(json, "interface");
     constexpr std::uint64_t day = 86'400'000;
     unit.answered = std::chrono::milliseconds(numberOf(valueOf(json, "answered_ms"), day));
@@ -146,7 +22,7 @@ SavedDiscovery discoveryOf(const Json& json) {
     SavedDiscovery discovery;
     const Json& units = valueOf(json, "units");
     if (!units.is_array()) {
-        throw Damage();
+        throw JSONDamage();
     }
     discovery.units.reserve(units.size());
     for (const Json& unit : units) {
@@ -186,7 +62,7 @@ std::variant<SavedDiscovery, SavedDiscoveryFault> readSavedDiscovery(std::string
             return *fault;
         }
         return discoveryOf(json);
-    } catch (const Damage&) {
+    } catch (const JSONDamage&) {
         return SavedDiscoveryFault::damaged;
     }
 }

@@ -2,8 +2,8 @@
 
 #include "addresses/IPv4Address.h"
 #include "files/CSV.h"
-#include "support/VisibleText.h"
-#include "units/ExactEdit.h"
+#include "files/SpreadsheetText.h"
+#include "files/UnitTableReader.h"
 #include "units/IdentityText.h"
 
 #include <algorithm>
@@ -18,20 +18,15 @@ std::string bytesOfUnitID(const HeardUnit& unit) {
     return unit.unitIDBytes.has_value() ? hexStringForData(*unit.unitIDBytes, "") : std::string();
 }
 
-bool hasOnlyVisibleCharacters(std::string_view text) {
-    return visibleText(text) == text;
-}
-
 std::string csvValue(const HeardUnit& unit, UnitParameter parameter) {
     std::string text = shownValue(unit, parameter);
     if (parameter != UnitParameter::unitID) {
         return text;
     }
-    const auto edit = exactEdit(parameter, text);
+    const auto edit = editOfCell(parameter, text);
     const auto* const exact = std::get_if<ExactEdit>(&edit);
-    const bool isReadBack = exact != nullptr && !exact->isChanged &&
-                            exact->unitIDBytes == unit.unitIDBytes &&
-                            hasOnlyVisibleCharacters(text);
+    const bool isReadBack =
+        exact != nullptr && exact->unitIDBytes == unit.unitIDBytes && isKeptBySpreadsheets(text);
     return isReadBack ? text : std::string();
 }
 
@@ -52,11 +47,11 @@ std::string nameOfInterface(const std::vector<HostInterface>& interfaces, std::u
 
 std::string csvOfUnits(const UnitList& units, const std::vector<HostInterface>& interfaces) {
     std::vector<std::string> fields;
-    fields.reserve(exportedParameters.size() + 4);
+    fields.reserve(exportedParameters.size() + exportedFacts.size());
     for (const UnitParameter parameter : exportedParameters) {
         fields.emplace_back(descriptionOf(parameter).identifier);
     }
-    fields.insert(fields.end(), {"unit_id_bytes", "source_ip", "interface", "answered_ms"});
+    fields.insert(fields.end(), exportedFacts.begin(), exportedFacts.end());
     std::string text = csvRecord(fields);
     for (const HeardUnit* const unit : units) {
         fields.clear();

@@ -10,10 +10,6 @@ namespace kx {
 
 namespace {
 
-std::string written(const Json& json) {
-    return json.dump(-1, ' ', true, Json::error_handler_t::replace);
-}
-
 Json jsonOfText(const std::optional<std::string_view>& text) {
     return text.has_value() ? Json(std::string(*text)) : Json(nullptr);
 }
@@ -24,8 +20,12 @@ Json jsonOfNumber(const std::optional<std::string_view>& text) {
 
 } // namespace
 
+std::string textOfJson(const Json& json) {
+    return json.dump(-1, ' ', true, Json::error_handler_t::replace);
+}
+
 std::string lineOfJson(const Json& json) {
-    return written(json) + "\n";
+    return textOfJson(json) + "\n";
 }
 
 Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link) {
@@ -37,20 +37,23 @@ Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link
     return nullptr;
 }
 
-Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces) {
-    const UnitRecord& record = unit.record;
+Json jsonOfRecord(const UnitRecord& record, const std::optional<UnitIDBytes>& unitIDBytes) {
     Json json;
     json["serial"] = jsonOfText(record.value(UnitParameter::serialNumber));
     json["unit_id"] = jsonOfText(unitIDText(record));
-    json["unit_id_bytes"] = unit.unitIDBytes.has_value()
-                                ? Json(hexStringForData(*unit.unitIDBytes, ""))
-                                : Json(nullptr);
+    json["unit_id_bytes"] =
+        unitIDBytes.has_value() ? Json(hexStringForData(*unitIDBytes, "")) : Json(nullptr);
     json["internal_ip"] = jsonOfText(record.value(UnitParameter::internalIPAddress));
     json["internal_mac"] = jsonOfText(record.value(UnitParameter::internalMACAddress));
     json["destination_ip"] = jsonOfText(record.value(UnitParameter::destinationIPAddress));
     json["destination_mac"] = jsonOfText(record.value(UnitParameter::destinationMACAddress));
     json["destination_port"] = jsonOfNumber(record.value(UnitParameter::destinationPortNumber));
     json["device_port"] = jsonOfNumber(record.value(UnitParameter::devicePortNumber));
+    return json;
+}
+
+Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces) {
+    Json json = jsonOfRecord(unit.record, unit.unitIDBytes);
     json["source_ip"] = stringForIP(unit.sender);
     json["interface"] = nameOfLink(interfaces, unit.link);
     json["answered_ms"] = unit.answered.count();
@@ -64,7 +67,7 @@ std::string documentOfUnits(const std::vector<const HeardUnit*>& units,
     std::string_view separator = "\n";
     for (const HeardUnit* const unit : units) {
         text += separator;
-        text += written(jsonOfUnit(*unit, interfaces));
+        text += textOfJson(jsonOfUnit(*unit, interfaces));
         separator = ",\n";
     }
     return text + "\n]}\n";

@@ -21,12 +21,19 @@ using Json = nlohmann::ordered_json;
 // The version of all documents, their key "schema".
 inline constexpr int schemaOfDocuments = 1;
 
+// Any value without blanks and line breaks between its parts.
+std::string textOfJson(const Json& json);
+
 // A document of any kind on one line, which ends with a line break.
 std::string lineOfJson(const Json& json);
 
 // The name of the interface with this index; null when it is none of these.
 Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link);
 
+// The parameters of a unit; null for those that it does not tell.
+Json jsonOfRecord(const UnitRecord& record, const std::optional<UnitIDBytes>& unitIDBytes);
+
+// The same, and how it was heard.
 Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
 
 // A document with the keys "schema" and "units", each unit on a line of its own.

@@ -44,4 +44,50 @@ TEST(CSV, AFaultyQuotationLosesNothing) {
     EXPECT_EQ(csvRecords("\"a\"b,c"), (std::vector<Record>{{"ab", "c"}}));
 }
 
+TEST(CSV, AnOldSystemsLinesEndWithACarriageReturn) {
+    EXPECT_EQ(csvRecords("a,b\rc,d\r"), (std::vector<Record>{{"a", "b"}, {"c", "d"}}));
+}
+
+TEST(CSV, ADialectHasItsOwnSeparatorAndLineBreak) {
+    const CSVDialect dialect{.separator = ';', .lineBreak = "\n"};
+    EXPECT_EQ(csvRecord(Record{"a", "b;c", "1,5"}, dialect), "a;\"b;c\";\"1,5\"\n");
+    const auto table = csvTable("a;\"b;c\";1,5\n", ';');
+    ASSERT_EQ(table.size(), 1U);
+    EXPECT_EQ(table[0].fields, (Record{"a", "b;c", "1,5"}));
+}
+
+TEST(CSV, ALineIsCountedAsAnEditorCountsIt) {
+    const auto table = csvTable("a\n\"x\r\ny\nz\rz\",\"\n\"\r\n\nlast");
+    ASSERT_EQ(table.size(), 4U);
+    EXPECT_EQ(table[0].line, 1U);
+    EXPECT_EQ(table[1].line, 2U);
+    EXPECT_EQ(table[2].line, 7U) << "four line breaks within the record, and its own";
+    EXPECT_EQ(table[2].fields, Record{""});
+    EXPECT_EQ(table[3].line, 8U);
+}
+
+TEST(CSV, AQuotationThatNothingClosesIsToldWhereItBegins) {
+    const auto table = csvTable("a,b\n1,\"two\nthree,4\n");
+    ASSERT_EQ(table.size(), 2U);
+    EXPECT_FALSE(table[0].fault.has_value());
+    ASSERT_TRUE(table[1].fault.has_value());
+    EXPECT_EQ(table[1].fault->line, 2U);
+    EXPECT_EQ(table[1].fault->field, 1U);
+    EXPECT_TRUE(table[1].fault->isOpen);
+}
+
+TEST(CSV, TextBehindAQuotationIsToldWithItsLine) {
+    const auto table = csvTable("\"a\nb\",\"c\"d,\"e\"f\n");
+    ASSERT_EQ(table.size(), 1U);
+    ASSERT_TRUE(table[0].fault.has_value());
+    EXPECT_EQ(table[0].fault->line, 2U);
+    EXPECT_EQ(table[0].fault->field, 1U) << "the first of them";
+    EXPECT_FALSE(table[0].fault->isOpen);
+}
+
+TEST(CSV, AQuotationMarkWithinAFieldIsText) {
+    EXPECT_EQ(csvRecords("a\"b,c"), (std::vector<Record>{{"a\"b", "c"}}));
+    EXPECT_FALSE(csvTable("a\"b,c").front().fault.has_value());
+}
+
 } // namespace kx

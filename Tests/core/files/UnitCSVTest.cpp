@@ -1,6 +1,9 @@
 #include "files/UnitCSV.h"
 
+#include "core/files/HostileUnits.h"
 #include "files/CSV.h"
+#include "files/UnitTableReader.h"
+#include "files/WholeFile.h"
 
 #include <gtest/gtest.h>
 
@@ -29,6 +32,25 @@ std::string csvUnitID(const HeardUnit& unit) {
     return records.at(1).at(1);
 }
 
+// The table is about these units and asks for what they show already. The number of unit IDs in it.
+std::size_t expectNoChange(std::string_view text, const std::vector<HeardUnit>& units) {
+    const UnitTable table = readUnitTable(text);
+    EXPECT_TRUE(table.complaints.empty());
+    EXPECT_EQ(table.rows.size(), units.size());
+    std::size_t named = 0;
+    for (std::size_t i = 0; i < std::min(table.rows.size(), units.size()); ++i) {
+        const WantedRow& row = table.rows[i];
+        EXPECT_EQ(row.serialNumber, units[i].serialNumber());
+        EXPECT_GE(row.edits.size(), exportedParameters.size() - 2) << "all but the unit ID";
+        for (const ExactEdit& edit : row.edits) {
+            named += edit.edit.parameter == UnitParameter::unitID ? 1 : 0;
+            EXPECT_TRUE(edit.isShownBy(units[i].record, units[i].unitIDBytes))
+                << "line " << row.line << ": " << edit.edit.typed;
+        }
+    }
+    return named;
+}
+
 } // namespace
 
 TEST(UnitCSV, AUnitIDThatIsNoTextIsLeftToItsBytes) {
@@ -42,7 +64,30 @@ TEST(UnitCSV, AUnitIDStandsInTheTableOfValuesWhereItIsReadBackAsTheSame) {
     EXPECT_EQ(csvUnitID(csvSample("RACK7A", {'R', 'A', 'C', 'K', '7', 'A'})), "RACK7A");
     EXPECT_EQ(csvUnitID(csvSample(std::string_view("AB\0\0\0\0", 6), {'A', 'B'})), "AB");
     EXPECT_EQ(csvUnitID(csvSample("12", {0, 0, 0, 0, 0, 12})), "12");
-    EXPECT_EQ(csvUnitID(csvSample("=1+2-3", {'=', '1', '+', '2', '-', '3'})), "=1+2-3");
+}
+
+TEST(UnitCSV, AUnitIDThatASpreadsheetWouldChangeIsLeftToItsBytes) {
+    EXPECT_EQ(csvUnitID(csvSample("=1+2-3", {'=', '1', '+', '2', '-', '3'})), "");
+    EXPECT_EQ(csvUnitID(csvSample(std::string_view("TRUE\0\0", 6), {'T', 'R', 'U', 'E'})), "");
+}
+
+TEST(UnitCSV, AnExportThatIsPlannedAtOnceChangesNothingWhateverTheUnitIDsAre) {
+    const auto units = HostileUnits::make(10'000);
+    UnitList list;
+    for (const HeardUnit& unit : units) {
+        list.push_back(&unit);
+    }
+    const std::size_t named = expectNoChange(csvOfUnits(list, {}), units);
+    EXPECT_GT(named, units.size() / 4) << "the unit IDs that are safe stand there";
+}
+
+// LibreOffice 7.4.7 has opened the export of these units and saved it; Tests/spreadsheet does so
+// with ten thousand.
+TEST(UnitCSV, AnExportThatASpreadsheetHasSavedChangesNothing) {
+    const auto contents =
+        contentsOfFile(KX_SOURCE_DIR "/Tests/core/files/saved-by-libreoffice.csv", 1'000'000);
+    ASSERT_TRUE(std::holds_alternative<std::string>(contents));
+    EXPECT_GT(expectNoChange(std::get<std::string>(contents), HostileUnits::make(400)), 256U);
 }
 
 TEST(UnitCSV, AUnitIDThatWouldBecomeAnotherOneIsLeftToItsBytes) {
