@@ -13,6 +13,7 @@
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
+#include "platform/linux/LinuxRunLock.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/MemoryExhaustion.h"
 #include "platform/posix/SyslogSystemLog.h"
@@ -52,6 +53,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
     kx::LinuxHostInterfaces interfaces(kx::SystemConfiguration::sharedInstance(), kernelLinks);
 
+    kx::LinuxRunLock runLock;
     kx::LinuxNeighbourTable neighbours;
     kx::LinuxAddressProbes probes(runLoop);
     kx::LinuxHostDiagnostics diagnostics;
@@ -69,6 +71,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
                               .wallClock = wallClock,
                               .console = console,
                               .interfaces = interfaces,
+                              .runLock = runLock,
                               .neighbours = neighbours,
                               .probes = &probes,
                               .bindings = bindings,

@@ -67,7 +67,8 @@ void CommandRun::showProgress() {
     std::array<char, 32> time{};
     std::snprintf(time.data(), time.size(), "  %lld.%lld s", static_cast<long long>(tenths / 10),
                   static_cast<long long>(tenths % 10));
-    _services.console.writeNote(std::string(beginningOfLine) + _count() + time.data());
+    _services.console.writeNote(std::string(beginningOfLine) + _count() + time.data() +
+                                (_left ? _left() : std::string()));
     _showsProgress = true;
 }
 

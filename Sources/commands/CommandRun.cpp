@@ -228,18 +228,21 @@ UnitTarget CommandRun::everybodyOf(std::uint32_t link) const {
             .link = link};
 }
 
-void CommandRun::wait(Operation& operation, std::function<std::string()> count) {
+void CommandRun::wait(Operation& operation, std::function<std::string()> count,
+                      std::function<std::string()> left) {
     if (isInterrupted()) {
         return;
     }
     _operation = &operation;
     _count = std::move(count);
+    _left = std::move(left);
     operation.begin({});
     awaitProgress();
     _services.session.runLoop.runUntil([&operation] { return operation.hasEnded(); });
     _operation = nullptr;
     _nextProgress.reset();
     _count = {};
+    _left = {};
     endProgress();
 }
 

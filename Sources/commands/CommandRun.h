@@ -18,6 +18,7 @@
 #include "conversation/HostDiagnostics.h"
 #include "conversation/HostInterface.h"
 #include "conversation/Operation.h"
+#include "conversation/RunLock.h"
 #include "conversation/UnitExchange.h"
 #include "files/CapturingSystemCalls.h"
 #include "support/Console.h"
@@ -41,6 +42,7 @@ struct CommandServices {
     const WallClock& wallClock;
     Console& console;
     HostInterfaces& interfaces;
+    RunLock& runLock;
     NeighbourTable& neighbours;
     AddressProbes* probes = nullptr; // may be null
     AddressBindings& bindings;
@@ -100,9 +102,10 @@ public:
     UnitTarget everybodyOf(std::uint32_t link) const;
 
     // Runs the loop until the operation has ended. An interrupted run begins nothing.
-    // Meanwhile a terminal shows how far it has come: what `count` says, and the time. Without
-    // `count` it shows nothing.
-    void wait(Operation& operation, std::function<std::string()> count = {});
+    // Meanwhile a terminal shows how far it has come: what `count` says, the time, and what `left`
+    // says of the time that is left. Without `count` it shows nothing.
+    void wait(Operation& operation, std::function<std::string()> count = {},
+              std::function<std::string()> left = {});
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
     // be taken for; the refusal tells all the others, with the code of the first.
@@ -187,6 +190,7 @@ private:
     Operation* _operation = nullptr; // under way
     std::chrono::milliseconds _begun;
     std::function<std::string()> _count; // how far the operation has come; may be empty
+    std::function<std::string()> _left;  // how long it will still take; may be empty
     RunLoop::Handle _nextProgress;
     int _signal = 0;
     bool _showsProgress = false;

@@ -66,6 +66,22 @@ constexpr std::array watchOptions{
     OptionRow{"--until", "N", ValueKind::text,
               "end as soon as N units are there; with fewer at the end the exit status is 1"},
 };
+constexpr std::array planOptions{
+    OptionRow{"--out", "FILE", ValueKind::file,
+              "keep the plan in a file, with the values that it saw, for apply"},
+};
+constexpr std::array applyOptions{
+    OptionRow{"--yes", "", ValueKind::none, "do not ask whether this is meant"},
+    OptionRow{"--in-flight", "N", ValueKind::text,
+              "change N units at once, after the first one alone (8)"},
+    OptionRow{"--keep-going", "", ValueKind::none,
+              "go on with the other units where one is refused, silent or left half configured"},
+    OptionRow{"--journal", "FILE", ValueKind::file,
+              "write the journal to this file (kxctl-journal-TIME.jsonl in the current folder); "
+              "one that is there is continued"},
+    OptionRow{"--report", "FILE", ValueKind::file,
+              "write the table with the state of each unit and the reason to this file"},
+};
 
 constexpr std::array<Text, 2> interfacesExamples{"kxctl interfaces", "kxctl --json interfaces"};
 constexpr std::array<Text, 5> discoverExamples{
@@ -88,6 +104,12 @@ constexpr std::array<Text, 3> diagnoseExamples{"kxctl diagnose", "kxctl diagnose
 constexpr std::array<Text, 1> checkExamples{"kxctl check 192.0.2.41 192.0.2.42"};
 constexpr std::array<Text, 2> compareExamples{"kxctl compare rack.json",
                                               "kxctl compare monday.json friday.json"};
+constexpr std::array<Text, 2> planExamples{"kxctl plan rack.csv",
+                                           "kxctl plan rack.csv --out rack.plan --json"};
+constexpr std::array<Text, 3> applyExamples{
+    "kxctl apply rack.csv --journal rack.jsonl --report report.csv",
+    "kxctl apply rack.plan --yes --json", "kxctl apply rack.csv --yes --keep-going --in-flight 4"};
+constexpr std::array<Text, 1> revertExamples{"kxctl revert rack.jsonl"};
 
 constexpr std::array<Text, 1> interfacesKeys{"interfaces"};
 constexpr std::array<Text, 7> discoverKeys{"interface", "port",     "units",   "duplicates",
@@ -98,6 +120,7 @@ constexpr std::array<Text, 1> repliesKeys{"replies"};
 constexpr std::array<Text, 1> addressesKeys{"addresses"};
 constexpr std::array<Text, 2> diagnoseKeys{"checks", "causes"};
 constexpr std::array<Text, 4> compareKeys{"new", "missing", "changed", "same"};
+constexpr std::array<Text, 2> rowsKeys{"rows", "sums"};
 
 constexpr Text unitText =
     "A unit is named by its serial number, six pairs of hexadecimal digits with blanks, colons, "
@@ -134,6 +157,40 @@ constexpr Text compareText =
     "While datagrams are dropped no unit is called missing. Where nothing differs the exit status "
     "is 0; where something differs, or a unit has not answered and cannot be called missing, it "
     "is 1.";
+
+constexpr Text planText =
+    "Reads a table of units, asks the units for their parameters, and prints what would change, "
+    "line by line, and the sum. No command is sent.\n\n"
+    "The table is a file of comma-separated values in UTF-8, as \"kxctl discover --csv\" writes "
+    "it. "
+    "Commas may be semicolons or tabs. Its first line names the columns, in any order: serial, and "
+    "the parameters that shall change: unit-id, internal-ip, internal-mac, destination-ip, "
+    "destination-mac, destination-port, device-port and new-serial. An empty cell leaves the "
+    "parameter as it is. The columns note, state and reason, and those of an export that are no "
+    "parameters, are passed over.\n\n"
+    "A fault in the file is told by its line and column, and nobody is asked: exit status 2. Where "
+    "a "
+    "unit does not answer, somebody holds a new address, or addresses change hands in a ring, the "
+    "exit status is 1.";
+constexpr Text applyText =
+    "Makes the units of a table, or of a plan that \"kxctl plan --out\" has kept, show the values "
+    "that stand there. It plans, shows the plan and asks; then it changes one unit alone, and "
+    "after "
+    "that several at once. Every value is read back. Nothing is sent when a unit is refused or "
+    "does "
+    "not answer, and nothing new is begun after a unit was left half configured or silent, unless "
+    "--keep-going says so. A kept plan refuses a unit that shows another value since.\n\n"
+    "The journal gets a line on the disk before each command, with the old value. To resume an "
+    "apply that was cut off, apply again, with the same journal: what the units show decides what "
+    "is "
+    "left to do. \"kxctl revert\" brings the old values back.\n\n"
+    "Only one apply or revert runs on a host at a time; a second one ends with exit status 3.\n\n"
+    "The final states are done, unchanged, refused, untouched, half and silent. The report is the "
+    "table with the columns state and reason, and can be applied again.";
+constexpr Text revertText =
+    "Brings back the values that the units had before the run of \"kxctl apply\" that wrote the "
+    "journal. A unit is found under its old or its new serial number and address. It plans, shows "
+    "the plan, asks and runs as apply does, and writes a journal of its own.";
 
 constexpr std::array commands{
     CommandRow{"interfaces",
@@ -221,6 +278,12 @@ constexpr std::array commands{
                2,
                ValueKind::file,
                runCompare},
+    CommandRow{"plan", "FILE", "tell what a table of units would change", planText, planOptions,
+               planExamples, rowsKeys, 1, 1, ValueKind::file, runPlan},
+    CommandRow{"apply", "FILE", "change many units as a table says", applyText, applyOptions,
+               applyExamples, rowsKeys, 1, 1, ValueKind::file, runApply},
+    CommandRow{"revert", "JOURNAL", "bring back the values from before an apply", revertText,
+               applyOptions, revertExamples, rowsKeys, 1, 1, ValueKind::file, runRevert},
 };
 
 } // namespace

@@ -18,5 +18,8 @@ int runWatch(CommandRun& run);
 int runCheck(CommandRun& run);
 int runDiagnose(CommandRun& run);
 int runCompare(CommandRun& run);
+int runPlan(CommandRun& run);
+int runApply(CommandRun& run);
+int runRevert(CommandRun& run);
 
 } // namespace kx

@@ -1,11 +1,16 @@
 #include "commands/Document.h"
 
+#include "commands/PlanReport.h"
+
 namespace kx {
 
 namespace {
 
 // What a key holds before its command has got anything.
-Json emptyValue(std::string_view key) {
+Json emptyValue(std::string_view command, std::string_view key) {
+    if (key == "sums") {
+        return jsonOfSums({}, command == "plan" ? PlanStage::planned : PlanStage::carriedOut);
+    }
     if (key == "interface" || key == "port") {
         return nullptr;
     }
@@ -29,7 +34,7 @@ Document::Document(const std::optional<std::string>& command) {
     const CommandRow* const row = command.has_value() ? commandForName(*command) : nullptr;
     if (row != nullptr) {
         for (const std::string_view key : row->keys) {
-            _json[std::string(key)] = emptyValue(key);
+            _json[std::string(key)] = emptyValue(row->name, key);
         }
     }
 }

@@ -134,7 +134,8 @@ from a saved discovery, an address is held, a unit did not take a value.
 A wrong command line, value or file; nothing was sent.
 .TP
 .B 3
-Could not ask: interface, port, rights or socket.
+Could not ask: interface, port, rights or socket. Also: another apply or revert runs on this
+host.
 .TP
 .B 4
 A unit was left half configured or silent; a person must look.
@@ -149,6 +150,11 @@ The language of sentences. Names, keys and the heads of tables are not translate
 .TP
 .B NO_COLOR
 When set, nothing is bold.
+.SH FILES
+.TP
+.I kxctl\-journal\-TIME.jsonl
+The journal of an apply or a revert, in the current folder unless \-\-journal names another file.
+apply, revert and set look there for the journals of runs that were cut off.
 .SH SEE ALSO
 .BR kxconfig (1),
 .BR kxunits (1),

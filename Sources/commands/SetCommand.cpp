@@ -3,8 +3,11 @@
 #include "addresses/IPv4Address.h"
 #include "commands/CommandRun.h"
 #include "commands/Commands.h"
+#include "commands/JournalFiles.h"
+#include "commands/PlanReport.h"
 #include "commands/TextTable.h"
 #include "conversation/UnitEdits.h"
+#include "files/StateNames.h"
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
 #include "units/ExactEdit.h"
@@ -90,40 +93,22 @@ Refusal objectionOnLink(const CommandRun& run, std::uint32_t link, const Edits& 
     return own.empty() ? std::nullopt : objectionToNewAddress(run, own, edits);
 }
 
-std::string_view nameOf(ChangeState state) {
-    switch (state) {
-    case ChangeState::planned:
-        return "planned";
-    case ChangeState::done:
-        return "done";
-    case ChangeState::unchanged:
-        return "unchanged";
-    case ChangeState::refused:
-        return "refused";
-    case ChangeState::different:
-        return "different";
-    case ChangeState::silent:
-        break;
-    }
-    return "silent";
-}
-
 void report(CommandRun& run, const std::string& serial, const std::vector<UnitChange>& changes) {
     TextTable table({"parameter", "from", "to", "command", "state"});
     for (const UnitChange& change : changes) {
-        const auto name = std::string(identifierOf(change.edit));
-        const auto state = std::string(nameOf(change.state));
-        Json json;
-        json["serial"] = serial;
-        json["parameter"] = name;
-        json["from"] = change.from.has_value() ? Json(*change.from) : Json(nullptr);
-        json["to"] = change.to;
-        json["command"] = change.command;
-        json["state"] = state;
-        run.document()["changes"].push_back(std::move(json));
-        table.addRow({name, change.from.value_or(""), change.to, change.command, state});
+        table.addRow({std::string(identifierOf(change.edit)), change.from.value_or(""), change.to,
+                      change.command, std::string(nameOfState(change.state))});
     }
+    run.document()["changes"] = jsonOfChanges(serial, changes);
     run.print(table.text(run.isBold()));
+}
+
+// A fixed entry that a killed run has left would lead the commands astray.
+Refusal takeOutEntries(CommandRun& run) {
+    if (!run.line().has("--dry-run")) {
+        takeOutLeftEntriesBetweenRuns(run);
+    }
+    return std::nullopt;
 }
 
 std::string holdersOf(const AddressHolders& holders) {
@@ -269,7 +254,8 @@ int runSet(CommandRun& run) {
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
              [&] { return run.chooseInterfaces(); },
              [&] { return objectionToNewAddress(run, run.chosen(), edits); },
-             [&] { return run.openExchange(); }, [&] { return run.findUnit(names.front(), unit); },
+             [&] { return run.openExchange(); }, [&] { return takeOutEntries(run); },
+             [&] { return run.findUnit(names.front(), unit); },
              [&] { return objectionOnLink(run, unit.link, edits); }}) {
         if (auto refusal = step()) {
             return run.finish(std::move(refusal));

@@ -18,6 +18,9 @@ public:
     // its characters or reach the terminal as a command are shown as marks.
     void addRow(std::vector<std::string> texts);
 
+    // No row was added.
+    bool isEmpty() const { return _rows.size() == 1; }
+
     // One line for the heads and one for each row. The heads are bold when `isBold`.
     std::string text(bool isBold) const;
 

@@ -8,6 +8,7 @@
 #include "doubles/FixedWallClock.h"
 #include "doubles/ScriptedDiagnosticSockets.h"
 #include "doubles/ScriptedHostDiagnostics.h"
+#include "doubles/ScriptedRunLock.h"
 
 #include <csignal>
 #include <functional>
@@ -153,6 +154,7 @@ protected:
     FixedWallClock wallClock{2030, 1, 31, 12, 0, 0};
     RecordedConsole console;
     ScriptedHostInterfaces interfaces;
+    ScriptedRunLock runLock;
     ScriptedNeighbours neighbours;
     ScriptedBindings bindings;
     ScriptedHostDiagnostics diagnostics;
@@ -174,6 +176,7 @@ private:
                 .wallClock = wallClock,
                 .console = console,
                 .interfaces = interfaces,
+                .runLock = runLock,
                 .neighbours = neighbours,
                 .bindings = bindings,
                 .diagnostics = diagnostics,

@@ -27,7 +27,7 @@ class TheBook(unittest.TestCase):
 
     def test_has_every_page_that_a_person_needs(self):
         wanted = {"index", "first-steps", "controls", "parameters", "options", "address", "no-answer",
-                  "log", "trust", "command-line", "all-units", "names", "saving"}
+                  "log", "trust", "command-line", "many-units", "all-units", "names", "saving"}
         self.assertEqual({name.removesuffix(".html") for name in self.pages}, wanted)
 
     def test_every_reference_leads_somewhere_in_the_book(self):

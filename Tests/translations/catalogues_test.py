@@ -23,6 +23,8 @@ KNOWN_LOOKUPS = {
     ("EditForecast.cpp", "descriptionOf(edit.parameter).phrase,"),
     ("EditForecast.cpp", "target.objectionToARPEntry)"),
     ("EditOutcomeText.cpp", "nameOfUnitParameter("),
+    ("TableComplaintText.cpp", "*key,"),
+    ("TableComplaintText.cpp", "keyOfFileOrLine("),
     ("UnitColumns.cpp", "key)"),
     ("EditOutcomeText.cpp", "said)"),
 }

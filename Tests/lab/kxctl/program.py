@@ -142,7 +142,7 @@ def restore_units():
     with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as sender:
         sender.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
         sender.sendto(b"^^IdZ", ("192.0.2.255", 3520))
-    if not eventually(lambda: len(commands_heard(before)) >= 3):
+    if not eventually(lambda: len(commands_heard(before)) >= 3, 20):
         raise AssertionError("the units were not restored")
 
 
