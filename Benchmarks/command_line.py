@@ -3,7 +3,8 @@
 
 usage: Benchmarks/command_line.py [SECTION...]
 
-Sections: start, interfaces, addresses, discover, many, set, losses. Without one, all of them.
+Sections: start, interfaces, addresses, discover, many, set, losses, apply, apply-10, apply-30,
+apply-1000, apply-10000. Without one, all of them.
 It needs the right to make network namespaces, and programs of these Debian packages to compare with:
 arp-scan, dbus-daemon, iproute2, iputils-arping, network-manager. KX_BUILD_DIR names the build folder;
 without it build/release.
@@ -258,6 +259,137 @@ def losses():
     print(f"\nAll 200 in {counts.count(200)} of 20 runs.")
 
 
+# --- Tables of units ---
+
+EDITS = 3
+IN_FLIGHT = 8
+
+
+def serial_of(number):
+    return f"4B5800{number:06X}"
+
+
+def write_table(folder, count, letter):
+    """A table with three edits for each unit, other ones for each letter."""
+    path = folder / f"{letter}.csv"
+    with open(path, "w", encoding="utf-8") as file:
+        file.write("serial,unit-id,destination-port,destination-mac\n")
+        file.writelines(f"{serial_of(n)},{letter}{n:05},{3521 + ord(letter) % 3},"
+                        f"02:00:00:00:00:{ord(letter):02X}\n" for n in range(1, count + 1))
+    return path
+
+
+def applied(path, count):
+    """One run of kxctl apply that does every row."""
+    for journal in path.parent.glob("*.jsonl"):
+        journal.unlink()
+    run = successful([KXCTL, "apply", str(path), "--yes", "--json", "--quiet", "--journal",
+                      str(path.parent / "run.jsonl")])
+    done = json.loads(run.output)["sums"]["done"]
+    if done != count:
+        sys.exit(f"command_line.py: {done} of {count} rows are done")
+    return run
+
+
+def letters():
+    """Neighbours ask for different values."""
+    while True:
+        yield from "ABCDEFGHIJKLMNOPQRSTUVWXYZ"
+
+
+def apply_table():
+    """Each round changes every unit twice, once by each side."""
+    count = 200
+    ours, bare = [], []
+    with tempfile.TemporaryDirectory() as name:
+        choose = letters()
+        for _ in range(ROUNDS):
+            for side in random.sample(["kxctl", "bare"], 2):
+                letter = next(choose)
+                path = write_table(pathlib.Path(name), count, letter)
+                if side == "kxctl":
+                    ours.append(applied(path, count).seconds)
+                else:
+                    words = [program("kxbareedits"), "192.0.2.255", str(count), letter]
+                    bare.append(successful(words).seconds)
+    heading("200 units, three edits each")
+    row("kxctl apply", ours, milliseconds)
+    row("a bare loop with eight in flight", bare, milliseconds)
+    row("kxctl apply, beside a bare loop", [a / b for a, b in zip(ours, bare)], ratio)
+
+
+def time_of_edit(lost, chance):
+    """How long one edit takes by the waits of its retries alone, when answers take no time."""
+    def arrives():
+        return chance.random() >= lost
+    elapsed = 0
+    while True:
+        accepted = arrives()
+        if accepted and arrives():
+            return elapsed
+        for number, at in enumerate((0.2, 0.6, 1.2, 2.0), 1):
+            sends = 0 if accepted or number > 2 else 1
+            asked = 1 if number == 1 else 2
+            if sends and arrives():
+                accepted = True
+                asked += 1
+            if any([arrives() for _ in range(asked)]):
+                return elapsed + at
+        elapsed += 3.0
+
+
+def waits_of_retries(count, lost, chance):
+    """The time of a run in which nothing takes time but the retries: one unit alone, and then eight at
+    once. The next unit begins when one has ended."""
+    def time_of_unit():
+        return sum(time_of_edit(lost, chance) for _ in range(EDITS))
+    free = [time_of_unit()] * IN_FLIGHT
+    for _ in range(count - 1):
+        free.sort()
+        free[0] += time_of_unit()
+    return max(free)
+
+
+def apply_with_losses(percent):
+    count = 200
+    chance = random.Random(1)
+    waits = [waits_of_retries(count, percent / 100, chance) for _ in range(500)]
+    with tempfile.TemporaryDirectory() as name:
+        choose = letters()
+        runs = [applied(write_table(pathlib.Path(name), count, next(choose)), count)
+                for _ in range(ROUNDS)]
+    heading(f"200 units that lose {percent} % of their answers, three edits each")
+    row("kxctl apply, all of them done", [run.seconds for run in runs], milliseconds)
+    row("the waits of its retries alone, computed", waits, milliseconds)
+
+
+def last_reply_of(words):
+    """A run of a program, and the time from the last datagram of a unit to its end."""
+    listener = LastReply()
+    run = successful(words)
+    listener.end()
+    return run, run.ended - listener.time
+
+
+def apply_many(count):
+    seconds, memory, plans = [], [], []
+    with tempfile.TemporaryDirectory() as name:
+        choose = letters()
+        for _ in range(3):
+            path = write_table(pathlib.Path(name), count, next(choose))
+            plan, rest = last_reply_of([KXCTL, "plan", str(path), "--json"])
+            if json.loads(plan.output)["sums"]["planned"] != count:
+                sys.exit("command_line.py: the plan does not have every unit")
+            plans.append(rest)
+            run = applied(path, count)
+            seconds.append(run.seconds)
+            memory.append(run.memory)
+    heading(f"{count:,} units, three edits each")
+    row("kxctl apply, all of them done", seconds, milliseconds)
+    row("its peak memory", memory, mebibytes)
+    row("kxctl plan: end after the last reply", plans, milliseconds)
+
+
 LAB = [str(ROOT / "scripts/lab")]
 MANY = ["--units", "10000", "--network", "10.0.0.0/16"]
 SECTIONS = {
@@ -267,6 +399,14 @@ SECTIONS = {
     "discover": (discover, [*LAB, "--units", "200", "--"]),
     "many": (many, [*LAB, *MANY, "--"]),
     "set": (set_value, [*LAB, "--units", "1", "--"]),
+    "apply": (apply_table, [*LAB, "--units", "200", "--"]),
+    "apply-10": (lambda: apply_with_losses(10),
+                 [*LAB, "--units", "200", "--units-options", "--lose 10", "--"]),
+    "apply-30": (lambda: apply_with_losses(30),
+                 [*LAB, "--units", "200", "--units-options", "--lose 30", "--"]),
+    "apply-1000": (lambda: apply_many(1000),
+                   [*LAB, "--units", "1000", "--network", "10.0.0.0/16", "--"]),
+    "apply-10000": (lambda: apply_many(10_000), [*LAB, *MANY, "--"]),
     "losses": (losses, [*LAB, "--units", "200", "--units-options", "--lose 30", "--"]),
 }
 
