@@ -95,7 +95,7 @@ public:
         for (std::size_t row = 0; row < _wanted.size(); ++row) {
             lookAt(row);
         }
-        ;
+        refuseWantedTwice();
         for (std::size_t row = 0; row < _plan.rows.size(); ++row) {
             linkToHolders(row);
         }
