@@ -111,8 +111,8 @@ private:
                 return errAuthorizationInteractionNotAllowed;
             }
             ++_service._dialogs;
-            if (_service._meanwhile) {
-                _service._meanwhile();
+            if (const auto meanwhile = _service._meanwhile) {
+                meanwhile(); // it may set another one
             }
             const bool isKept = (flags & kAuthorizationFlagExtendRights) != 0;
             if (isKept && _service._dialogAnswer == errAuthorizationSuccess) {
