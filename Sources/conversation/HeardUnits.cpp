@@ -1,6 +1,7 @@
 #include "conversation/HeardUnits.h"
 
 #include "conversation/UnitDestination.h"
+#include "units/IdentityText.h"
 #include "units/ParameterEdit.h"
 
 #include <algorithm>
@@ -127,6 +128,19 @@ bool HeardUnits::isDuplicated(const HeardUnit& unit) const {
 std::optional<std::string_view> unitIDText(const UnitRecord& record) {
     const auto text = record.value(UnitParameter::unitID);
     return text.has_value() ? std::optional(withoutTrailingZeroBytes(*text)) : std::nullopt;
+}
+
+std::optional<std::string> shownText(const UnitRecord& record,
+                                     const std::optional<UnitIDBytes>& unitIDBytes,
+                                     UnitParameter parameter) {
+    const auto text =
+        parameter == UnitParameter::unitID ? unitIDText(record) : record.value(parameter);
+    if (text.has_value()) {
+        return std::string(*text);
+    }
+    return parameter == UnitParameter::unitID && unitIDBytes.has_value()
+               ? std::optional(hexStringForData(*unitIDBytes, ""))
+               : std::nullopt;
 }
 
 } // namespace kx

@@ -99,4 +99,10 @@ private:
 // when it is no text.
 std::optional<std::string_view> unitIDText(const UnitRecord& record);
 
+// A value as a text for a person; absent when the unit does not tell it. A unit ID that is no text
+// is told by its six bytes: "FFFE00000001".
+std::optional<std::string> shownText(const UnitRecord& record,
+                                     const std::optional<UnitIDBytes>& unitIDBytes,
+                                     UnitParameter parameter);
+
 } // namespace kx

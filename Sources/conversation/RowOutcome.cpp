@@ -68,9 +68,14 @@ struct Ending {
     RowReason reason = {};
 };
 
+// A unit that does not tell the value may have taken it.
+bool showsOldValue(const UnitChange& change) {
+    return change.shown.has_value() && change.shown == change.from;
+}
+
 Ending endingByDifference(const UnitEdits& edits) {
     for (const UnitChange& change : edits.changes()) {
-        if (change.state == ChangeState::different && change.shown != change.from) {
+        if (change.state == ChangeState::different && !showsOldValue(change)) {
             return {RowState::half, reasonOfChange(RowObjection::different, change)};
         }
     }

@@ -4,7 +4,6 @@
 #include "conversation/RequestTarget.h"
 #include "conversation/RowUnits.h"
 #include "conversation/StepOrder.h"
-#include "units/IdentityText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -46,16 +45,6 @@ RowReason reasonOfRow(RowObjection objection, const PlannedRow& other) {
     reason.objection = objection;
     reason.otherLine = other.line;
     return reason;
-}
-
-// A unit ID that is no text is told by its bytes.
-std::string textOf(const UnitRecord& record, const std::optional<UnitIDBytes>& bytes,
-                   UnitParameter parameter) {
-    if (parameter == UnitParameter::unitID && bytes.has_value() &&
-        !unitIDText(record).has_value()) {
-        return hexStringForData(*bytes, "");
-    }
-    return std::string(record.value(parameter).value_or(""));
 }
 
 bool isAsSeen(const HeardUnit& unit, const SeenUnit& seen, UnitParameter parameter) {
@@ -246,10 +235,11 @@ private:
                        edit.isShownBy(unit.record, unit.unitIDBytes);
             });
             if (!isWanted && !isAsSeen(unit, *wanted.seen, parameter)) {
-                auto reason =
-                    reasonOfValue(RowObjection::outOfDate, parameter,
-                                  textOf(wanted.seen->record, wanted.seen->unitIDBytes, parameter));
-                reason.shown = textOf(unit.record, unit.unitIDBytes, parameter);
+                auto reason = reasonOfValue(
+                    RowObjection::outOfDate, parameter,
+                    shownText(wanted.seen->record, wanted.seen->unitIDBytes, parameter)
+                        .value_or(""));
+                reason.shown = shownText(unit.record, unit.unitIDBytes, parameter).value_or("");
                 return reason;
             }
         }
@@ -290,7 +280,7 @@ private:
         }
     }
 
-    // The row waits for the rows that give up what it takes.
+    // The row waits for the rows that give up what it takes. Its unit shows none of that yet.
     void linkToHolders(std::size_t row) {
         for (const UnitParameter parameter : exclusiveParameters) {
             const PlannedRow& planned = _plan.rows[row];
@@ -299,9 +289,7 @@ private:
                 continue;
             }
             for (const std::size_t holder : _units.telling(parameter, change->to)) {
-                if (holder != _meant[row].front()) {
-                    linkToHolder(row, *change, holder);
-                }
+                linkToHolder(row, *change, holder);
             }
         }
     }
@@ -319,8 +307,7 @@ private:
             auto reason = reasonOfValue(RowObjection::heldByUnit, parameter, change.to);
             reason.others.emplace_back(_units.units()[holder]->serialNumber());
             refuse(planned, std::move(reason));
-        } else if (std::ranges::find(planned.after, other, &RowDependency::row) ==
-                   planned.after.end()) {
+        } else {
             planned.after.push_back({.row = other, .parameter = parameter});
             _plan.rows[other].waiting.push_back(row);
         }

@@ -33,11 +33,7 @@ std::string csvValue(const HeardUnit& unit, UnitParameter parameter) {
 } // namespace
 
 std::string shownValue(const HeardUnit& unit, UnitParameter parameter) {
-    if (parameter != UnitParameter::unitID) {
-        return std::string(unit.record.value(parameter).value_or(std::string_view()));
-    }
-    const auto text = unitIDText(unit.record);
-    return text.has_value() ? std::string(*text) : bytesOfUnitID(unit);
+    return shownText(unit.record, unit.unitIDBytes, parameter).value_or("");
 }
 
 std::string nameOfInterface(const std::vector<HostInterface>& interfaces, std::uint32_t link) {

@@ -1,5 +1,7 @@
 #include "conversation/HeardUnits.h"
 
+#include "HeardUnitSamples.h"
+
 #include <gtest/gtest.h>
 
 namespace kx {
@@ -105,6 +107,23 @@ TEST(HeardUnits, AUnitWithoutAHardwareAddressIsOneToo) {
     units.add(bare);
     EXPECT_EQ(units.count(), 1U);
     EXPECT_EQ(units.all()[0]->hardwareAddress(), "");
+}
+
+TEST(ShownText, AUnitIDThatIsNoTextIsToldByItsBytes) {
+    HeardUnit unit = heardUnit(7);
+    const auto shown = [&unit](UnitParameter parameter) {
+        return shownText(unit.record, unit.unitIDBytes, parameter);
+    };
+    EXPECT_EQ(shown(UnitParameter::unitID), "7");
+    EXPECT_EQ(shown(UnitParameter::devicePortNumber), "10000");
+    setUnitID(unit, {'A', 'B', 0, 0, 0, 0});
+    EXPECT_EQ(shown(UnitParameter::unitID), "AB");
+    setUnitID(unit, {0xFF, 0xFE, 0, 0, 0, 1});
+    EXPECT_EQ(shown(UnitParameter::unitID), "FFFE00000001");
+    unit.unitIDBytes.reset();
+    unit.record.removeValue(UnitParameter::devicePortNumber);
+    EXPECT_EQ(shown(UnitParameter::unitID), std::nullopt);
+    EXPECT_EQ(shown(UnitParameter::devicePortNumber), std::nullopt);
 }
 
 } // namespace kx
