@@ -11,23 +11,45 @@ std::size_t numberOf(UnitParameter parameter) {
     return static_cast<std::size_t>(found - exclusiveParameters.begin());
 }
 
-bool hasHardwareAddress(const HeardUnit& unit, const std::string& address) {
-    return address.empty() || unit.hardwareAddress().empty() || unit.hardwareAddress() == address;
+using Places = UnitsByValue::Places;
+using IsUnit = bool (*)(const HeardUnit& unit, const UnitIdentity& identity);
+
+// An unknown hardware address may be any.
+bool mayBe(const HeardUnit& unit, const UnitIdentity& identity) {
+    return identity.hardwareAddress.empty() || unit.hardwareAddress().empty() ||
+           unit.hardwareAddress() == identity.hardwareAddress;
 }
 
-UnitsByValue::Places unitsWithIdentities(const std::vector<UnitIdentity>& identities,
-                                         const UnitsByValue& units) {
-    UnitsByValue::Places found;
+bool isSurely(const HeardUnit& unit, const UnitIdentity& identity) {
+    return unit.hardwareAddress() == identity.hardwareAddress;
+}
+
+Places unitsWithIdentities(const std::vector<UnitIdentity>& identities, const UnitsByValue& units,
+                           IsUnit isUnit) {
+    Places found;
     for (const UnitIdentity& identity : identities) {
         for (const std::size_t place :
              units.telling(UnitParameter::serialNumber, identity.serialNumber)) {
-            if (hasHardwareAddress(*units.units()[place], identity.hardwareAddress) &&
+            if (isUnit(*units.units()[place], identity) &&
                 std::ranges::find(found, place) == found.end()) {
                 found.push_back(place);
             }
         }
     }
     return found;
+}
+
+Places byIdentities(const WantedRow& row, const UnitsByValue& units) {
+    return unitsWithIdentities(row.identities, units, mayBe);
+}
+
+Places byFormerIdentities(const WantedRow& row, const UnitsByValue& units) {
+    return unitsWithIdentities(row.formerIdentities, units, isSurely);
+}
+
+Places bySerialNumber(const WantedRow& row, const UnitsByValue& units) {
+    return row.identities.empty() ? units.telling(UnitParameter::serialNumber, row.serialNumber)
+                                  : Places();
 }
 
 } // namespace
@@ -43,28 +65,28 @@ UnitsByValue::UnitsByValue(const HeardUnits& heard)
     }
 }
 
-const UnitsByValue::Places& UnitsByValue::telling(UnitParameter parameter,
-                                                  std::string_view value) const {
+const Places& UnitsByValue::telling(UnitParameter parameter, std::string_view value) const {
     static const Places none;
     const auto& places = _places.at(numberOf(parameter));
     const auto found = places.find(value);
     return found != places.end() ? found->second : none;
 }
 
-std::vector<UnitsByValue::Places> unitsOfRows(const std::vector<WantedRow>& rows,
-                                              const UnitsByValue& units) {
-    std::vector<UnitsByValue::Places> found(rows.size());
-    std::vector<bool> isIdentified(units.units().size(), false);
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        found[i] = unitsWithIdentities(rows[i].identities, units);
-        for (const std::size_t place : found[i]) {
-            isIdentified[place] = true;
+std::vector<Places> unitsOfRows(const std::vector<WantedRow>& rows, const UnitsByValue& units) {
+    std::vector<Places> found(rows.size());
+    std::vector<bool> isFound(units.units().size(), false);
+    // Each way leaves out the units that the ways before it have found.
+    for (const auto way : {byIdentities, byFormerIdentities, bySerialNumber}) {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            if (found[i].empty()) {
+                found[i] = way(rows[i], units);
+                std::erase_if(found[i], [&isFound](std::size_t place) { return isFound[place]; });
+            }
         }
-    }
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (rows[i].identities.empty()) {
-            found[i] = units.telling(UnitParameter::serialNumber, rows[i].serialNumber);
-            std::erase_if(found[i], [&](std::size_t place) { return isIdentified[place]; });
+        for (const Places& places : found) {
+            for (const std::size_t place : places) {
+                isFound[place] = true;
+            }
         }
     }
     return found;

@@ -42,8 +42,8 @@ private:
 // The places of the units that each row means. None: the unit has not answered. Several: they
 // cannot be told apart by what the row says.
 //
-// A row with identities means the units that have one of them, and no other. No row finds those
-// by their serial number alone.
+// A row with identities means the units that have one of them, and those with a former one when
+// there are none; never another one. No other row finds these units.
 std::vector<UnitsByValue::Places> unitsOfRows(const std::vector<WantedRow>& rows,
                                               const UnitsByValue& units);
 

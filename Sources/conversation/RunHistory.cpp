@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <type_traits>
 #include <unordered_map>
 #include <utility>
 
@@ -20,10 +19,24 @@ UnitIdentity identityOf(const JournalledUnit& unit) {
     return {.serialNumber = unit.serialNumber, .hardwareAddress = unit.hardwareAddress};
 }
 
+void addTo(std::vector<UnitIdentity>& identities, const std::vector<UnitIdentity>& more) {
+    for (const UnitIdentity& identity : more) {
+        if (std::ranges::find(identities, identity) == identities.end()) {
+            identities.push_back(identity);
+        }
+    }
+}
+
 // The identities that one unit may have, as its entries follow each other.
 class UnitTrack {
 public:
+    explicit UnitTrack(std::vector<UnitIdentity> identities = {})
+        : _identities(std::move(identities)) {}
+
     const std::vector<UnitIdentity>& identities() const { return _identities; }
+
+    // Those that it had before.
+    const std::vector<UnitIdentity>& formerIdentities() const { return _former; }
 
     bool mayBe(const UnitIdentity& other) const {
         return std::ranges::any_of(_identities, [&other](const UnitIdentity& each) {
@@ -36,8 +49,8 @@ public:
     // The unit has its old name or its new one from now on.
     void note(const JournalledCommand& command) {
         _identities = {identityOf(command.unit)};
-        _announced = command.parameter;
         if (isName(command.parameter)) {
+            addTo(_former, _identities);
             UnitIdentity after = _identities.front();
             (command.parameter == UnitParameter::serialNumber ? after.serialNumber
                                                               : after.hardwareAddress) = command.to;
@@ -45,8 +58,9 @@ public:
         }
     }
 
+    // The outcome of the latest command.
     void note(const JournalledOutcome& outcome) {
-        if (outcome.parameter != _announced || !isName(outcome.parameter)) {
+        if (!isName(outcome.parameter)) {
             return;
         }
         if (outcome.state == ChangeState::done) {
@@ -58,7 +72,51 @@ public:
 
 private:
     std::vector<UnitIdentity> _identities;
-    UnitParameter _announced = UnitParameter::end;
+    std::vector<UnitIdentity> _former;
+};
+
+// The tracks of many units, each of which is found by the names that it may have.
+class UnitTracks {
+public:
+    const UnitTrack& operator[](std::size_t place) const { return _tracks[place]; }
+
+    // Gives the place of the new track.
+    std::size_t add(std::vector<UnitIdentity> identities = {}) {
+        _tracks.emplace_back(std::move(identities));
+        enter(_tracks.size() - 1);
+        return _tracks.size() - 1;
+    }
+
+    std::optional<std::size_t> find(const UnitIdentity& identity) const {
+        const auto known = _places.find(identity.serialNumber);
+        if (known != _places.end()) {
+            for (const std::size_t place : known->second) {
+                if (_tracks[place].mayBe(identity)) {
+                    return place;
+                }
+            }
+        }
+        return std::nullopt;
+    }
+
+    template<class Entry>
+    void note(std::size_t place, const Entry& entry) {
+        _tracks[place].note(entry);
+        enter(place);
+    }
+
+private:
+    void enter(std::size_t place) {
+        for (const UnitIdentity& identity : _tracks[place].identities()) {
+            auto& places = _places[identity.serialNumber];
+            if (std::ranges::find(places, place) == places.end()) {
+                places.push_back(place);
+            }
+        }
+    }
+
+    std::vector<UnitTrack> _tracks;
+    std::unordered_map<std::string, std::vector<std::size_t>> _places; // by serial number
 };
 
 // The value of a parameter before the first command that may have changed it.
@@ -73,60 +131,54 @@ struct OldValue {
 
 struct ChangedUnit {
     std::size_t line = 0;
-    UnitTrack track = {};
     std::map<UnitParameter, OldValue> values = {};
 };
 
 class ChangedUnits {
 public:
     void add(const JournalledCommand& command) {
-        ChangedUnit& unit = unitOf(command.unit);
-        OldValue& value = unit.values[command.parameter];
+        const std::size_t place = placeOf(command.unit);
+        OldValue& value = _units[place].values[command.parameter];
         if (!value.mayBeChanged()) {
             value.text = command.from;
             value.unitID = command.fromUnitID;
         }
         value.isAnnounced = true;
-        unit.track.note(command);
-        if (command.parameter == UnitParameter::serialNumber) {
-            _places[command.to].push_back(static_cast<std::size_t>(&unit - _units.data()));
-        }
+        _tracks.note(place, command);
     }
 
     void add(const JournalledOutcome& outcome) {
-        if (ChangedUnit* const unit = find(identityOf(outcome.unit))) {
-            OldValue& value = unit->values[outcome.parameter];
+        if (const auto place = _tracks.find(identityOf(outcome.unit))) {
+            OldValue& value = _units[*place].values[outcome.parameter];
             value.isAnnounced = false;
             value.isSent = value.isSent || outcome.state != ChangeState::refused;
-            unit->track.note(outcome);
+            _tracks.note(*place, outcome);
         }
     }
 
     void add(const JournalledBinding& /*binding*/) {}
 
-    const std::vector<ChangedUnit>& all() const { return _units; }
+    RevertedRows reverted() const {
+        RevertedRows reverted;
+        for (std::size_t place = 0; place < _units.size(); ++place) {
+            revertUnit(_units[place], _tracks[place], reverted);
+        }
+        return reverted;
+    }
 
 private:
-    // Null when no entry so far is about the unit.
-    ChangedUnit* find(const UnitIdentity& identity) {
-        for (const std::size_t place : _places[identity.serialNumber]) {
-            if (_units[place].track.mayBe(identity)) {
-                return &_units[place];
-            }
-        }
-        return nullptr;
-    }
-
-    ChangedUnit& unitOf(const JournalledUnit& unit) {
-        if (ChangedUnit* const known = find(identityOf(unit))) {
+    std::size_t placeOf(const JournalledUnit& unit) {
+        if (const auto known = _tracks.find(identityOf(unit))) {
             return *known;
         }
-        _places[unit.serialNumber].push_back(_units.size());
-        return _units.emplace_back(ChangedUnit{.line = unit.line});
+        _units.push_back({.line = unit.line});
+        return _tracks.add();
     }
 
+    static void revertUnit(const ChangedUnit& unit, const UnitTrack& track, RevertedRows& reverted);
+
     std::vector<ChangedUnit> _units;
-    std::unordered_map<std::string, std::vector<std::size_t>> _places; // by serial number
+    UnitTracks _tracks; // of the units, in the same order
 };
 
 // Absent when no command brings the value back.
@@ -139,11 +191,13 @@ std::optional<ExactEdit> editBackTo(UnitParameter parameter, const OldValue& val
     return exact != nullptr && !exact->isChanged ? std::optional(*exact) : std::nullopt;
 }
 
-void revertUnit(const ChangedUnit& unit, RevertedRows& reverted) {
+void ChangedUnits::revertUnit(const ChangedUnit& unit, const UnitTrack& track,
+                              RevertedRows& reverted) {
     WantedRow row{.line = unit.line,
-                  .serialNumber = unit.track.identities().back().serialNumber,
+                  .serialNumber = track.identities().back().serialNumber,
                   .edits = {},
-                  .identities = unit.track.identities()};
+                  .identities = track.identities(),
+                  .formerIdentities = track.formerIdentities()};
     for (const auto& [parameter, value] : unit.values) {
         if (!value.mayBeChanged()) {
             continue;
@@ -174,37 +228,64 @@ bool isOfRow(const JournalledCommand& command, const WantedRow& row) {
     return edit != nullptr && edit->edit.command == command.command;
 }
 
-bool isOfRow(const JournalledOutcome& outcome, const WantedRow& row) {
-    return editOf(row, outcome.parameter) != nullptr;
-}
+// The units of rows, followed from the first command that a row would send itself.
+class RowTracks {
+public:
+    explicit RowTracks(const std::vector<WantedRow>& rows)
+        : _rows(rows) {
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            _tracks.add(rows[i].identities);
+            if (isFoundByName(rows[i])) {
+                _places.emplace(rows[i].serialNumber, i);
+            }
+        }
+    }
+
+    void add(const JournalledCommand& command) {
+        auto place = _tracks.find(identityOf(command.unit));
+        const auto row = _places.find(command.unit.rowSerialNumber);
+        if (!place.has_value() && row != _places.end() && isOfRow(command, _rows[row->second])) {
+            place = row->second;
+        }
+        if (place.has_value()) {
+            _tracks.note(*place, command);
+        }
+    }
+
+    void add(const JournalledOutcome& outcome) {
+        if (const auto place = _tracks.find(identityOf(outcome.unit))) {
+            _tracks.note(*place, outcome);
+        }
+    }
+
+    void add(const JournalledBinding& /*binding*/) {}
+
+    const UnitTrack& operator[](std::size_t row) const { return _tracks[row]; }
+
+private:
+    // The serial number alone does not tell the unit all the time.
+    static bool isFoundByName(const WantedRow& row) {
+        return !row.identities.empty() || editOf(row, UnitParameter::serialNumber) != nullptr;
+    }
+
+    const std::vector<WantedRow>& _rows;
+    UnitTracks _tracks;                                   // of the rows, in the same order
+    std::unordered_map<std::string, std::size_t> _places; // of rows, by the serial number there
+};
 
 } // namespace
 
 std::vector<WantedRow> resumedRows(std::vector<WantedRow> rows,
                                    std::span<const JournalEntry> journal) {
-    std::unordered_map<std::string, std::size_t> places; // of the rows
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        places.emplace(rows[i].serialNumber, i);
-    }
-    std::vector<UnitTrack> tracks(rows.size());
+    RowTracks tracks(rows);
     for (const JournalEntry& entry : journal) {
-        std::visit(
-            [&](const auto& each) {
-                if constexpr (!std::is_same_v<std::decay_t<decltype(each)>, JournalledBinding>) {
-                    const auto place = places.find(each.unit.rowSerialNumber);
-                    if (place != places.end() && isOfRow(each, rows[place->second])) {
-                        tracks[place->second].note(each);
-                    }
-                }
-            },
-            entry);
+        std::visit([&tracks](const auto& each) { tracks.add(each); }, entry);
     }
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        const bool isFoundByName =
-            !rows[i].identities.empty() || editOf(rows[i], UnitParameter::serialNumber) != nullptr;
-        if (isFoundByName && !tracks[i].identities().empty()) {
-            rows[i].identities = tracks[i].identities();
-        }
+        WantedRow& row = rows[i];
+        addTo(row.formerIdentities, row.identities);
+        addTo(row.formerIdentities, tracks[i].formerIdentities());
+        row.identities = tracks[i].identities();
     }
     return rows;
 }
@@ -214,11 +295,7 @@ RevertedRows revertedRows(std::span<const JournalEntry> journal) {
     for (const JournalEntry& entry : journal) {
         std::visit([&units](const auto& each) { units.add(each); }, entry);
     }
-    RevertedRows reverted;
-    for (const ChangedUnit& unit : units.all()) {
-        revertUnit(unit, reverted);
-    }
-    return reverted;
+    return units.reverted();
 }
 
 std::vector<JournalledBinding> bindingsLeft(std::span<const JournalEntry> journal) {

@@ -16,7 +16,8 @@ namespace kx {
 
 // The rows with the identities that their units may have after the journal's runs. To apply a table
 // again is to resume: units show what was done, and a unit that has a new serial number, or may
-// have it, is found by its identity. Only commands that the rows themselves would send count.
+// have it, is found by its identity. A unit is followed from the first command that its row would
+// send, whichever run the later ones are of. With several journals, the oldest comes first.
 //
 // A run that takes another one back is resumed in the same way, with its own journal.
 std::vector<WantedRow> resumedRows(std::vector<WantedRow> rows,

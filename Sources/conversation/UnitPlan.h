@@ -46,6 +46,10 @@ struct WantedRow {
     // The names under which the unit may answer after a run has begun to change them. Empty: the
     // serial number alone names the unit.
     std::vector<UnitIdentity> identities = {};
+
+    // The names that it had before these. They count when the unit answers under none of
+    // `identities`: somebody may have given an old name back since.
+    std::vector<UnitIdentity> formerIdentities = {};
 };
 
 struct PlanNetwork {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace kx {
 
 namespace {
@@ -110,6 +112,71 @@ TEST_F(RunHistoryTest, ARowWithoutANewSerialNumberIsFoundByItsSerialNumber) {
     EXPECT_TRUE(resumedRows({row}, journal).front().identities.empty());
 }
 
+TEST_F(RunHistoryTest, AUnitIsFollowedThroughTheRunsOfOtherRows) {
+    command(unit(1, 1, 1), serialNumber, sampleSerial(1), sampleSerial(9));
+    outcome(unit(1, 9, 1), serialNumber, done);
+    const WantedRow row = resumedRows({{.line = 2,
+                                        .serialNumber = sampleSerial(1),
+                                        .edits = {edit(serialNumber, sampleSerial(9))}}},
+                                      std::exchange(journal, {}))
+                              .front();
+    // A run that takes it back: its row is called by the new serial number.
+    command(unit(9, 9, 1), serialNumber, sampleSerial(9), sampleSerial(1));
+    outcome(unit(9, 1, 1), serialNumber, done);
+    EXPECT_EQ(resumedRows({row}, journal).front().identities,
+              (Identities{{sampleSerial(1), sampleHardwareAddress(1)}}));
+}
+
+TEST_F(RunHistoryTest, ACommandToTheUnitThatHasTheSerialNumberNowIsNotTheRows) {
+    const std::vector<WantedRow> rows{
+        {.line = 2,
+         .serialNumber = sampleSerial(1),
+         .edits = {edit(serialNumber, sampleSerial(2)), edit(port, "4000")}},
+        {.line = 3,
+         .serialNumber = sampleSerial(2),
+         .edits = {edit(serialNumber, sampleSerial(9)), edit(port, "4000")}}};
+    command(unit(2, 2, 2), serialNumber, sampleSerial(2), sampleSerial(9));
+    outcome(unit(2, 9, 2), serialNumber, done);
+    command(unit(1, 1, 1), serialNumber, sampleSerial(1), sampleSerial(2));
+    outcome(unit(1, 2, 1), serialNumber, done);
+    command(unit(2, 2, 1), port, "10000", "4000"); // a later run calls unit 1 so
+    const auto after = resumedRows(rows, journal);
+    EXPECT_EQ(after[0].identities, (Identities{{sampleSerial(2), sampleHardwareAddress(1)}}));
+    EXPECT_EQ(after[1].identities, (Identities{{sampleSerial(9), sampleHardwareAddress(2)}}));
+}
+
+TEST_F(RunHistoryTest, TheNamesThatAUnitHadBeforeAreKept) {
+    command(unit(1, 1, 1), hardwareAddress, sampleHardwareAddress(1), sampleHardwareAddress(9));
+    outcome(unit(1, 1, 9), hardwareAddress, done);
+    command(unit(1, 1, 9), port, "10000", "4000");
+    outcome(unit(1, 1, 9), port, done);
+    command(unit(1, 1, 9), serialNumber, sampleSerial(1), sampleSerial(9));
+    outcome(unit(1, 9, 9), serialNumber, done);
+    const WantedRow row{.line = 2,
+                        .serialNumber = sampleSerial(1),
+                        .edits = {edit(hardwareAddress, sampleHardwareAddress(9)),
+                                  edit(serialNumber, sampleSerial(9))}};
+    const Identities before{{sampleSerial(1), sampleHardwareAddress(1)},
+                            {sampleSerial(1), sampleHardwareAddress(9)}};
+    EXPECT_EQ(resumedRows({row}, journal).front().formerIdentities, before);
+    EXPECT_EQ(reverted().rows.at(0).formerIdentities, before);
+}
+
+TEST_F(RunHistoryTest, TheNamesOfAnOlderJournalAreFormerOnes) {
+    command(unit(1, 1, 1), serialNumber, sampleSerial(1), sampleSerial(9));
+    outcome(unit(1, 9, 1), serialNumber, done);
+    const std::vector<JournalEntry> older = std::exchange(journal, {});
+    command(unit(1, 1, 2), serialNumber, sampleSerial(1), sampleSerial(9));
+    outcome(unit(1, 9, 2), serialNumber, done);
+    const WantedRow row{
+        .line = 2, .serialNumber = sampleSerial(1), .edits = {edit(serialNumber, sampleSerial(9))}};
+    const WantedRow resumed = resumedRows(resumedRows({row}, older), journal).front();
+    EXPECT_EQ(resumed.identities, (Identities{{sampleSerial(9), sampleHardwareAddress(2)}}));
+    EXPECT_EQ(resumed.formerIdentities, (Identities{{sampleSerial(1), sampleHardwareAddress(1)},
+                                                    {sampleSerial(9), sampleHardwareAddress(1)},
+                                                    {sampleSerial(1), sampleHardwareAddress(2)}}));
+}
+
 // --- Taking back ---
 
 TEST_F(RunHistoryTest, EveryValueIsTakenBackToTheOneBeforeTheFirstCommand) {
@@ -201,6 +268,8 @@ TEST_F(RunHistoryTest, EntriesThatWereNotTakenOutAreLeft) {
     binding("192.0.2.8", true);
     binding("192.0.2.9", false);
     binding("192.0.2.8", true); // begun again
+    journal.emplace_back(JournalledBinding{
+        .address = "192.0.2.8", .hardwareAddress = sampleHardwareAddress(2), .isMade = false});
     const auto left = bindingsLeft(journal);
     ASSERT_EQ(left.size(), 1U);
     EXPECT_EQ(left[0].address, "192.0.2.8");
