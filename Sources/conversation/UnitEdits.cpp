@@ -27,9 +27,7 @@ int rankOf(UnitParameter parameter) {
 }
 
 std::optional<std::string> shownText(const HeardUnit& unit, UnitParameter parameter) {
-    const auto text =
-        parameter == UnitParameter::unitID ? unitIDText(unit.record) : unit.record.value(parameter);
-    return text.has_value() ? std::optional(std::string(*text)) : std::nullopt;
+    return shownText(unit.record, unit.unitIDBytes, parameter);
 }
 
 // The two may be one unit: the texts are equal, or one of them is not known.
@@ -144,7 +142,7 @@ void UnitEdits::announce(UnitChange& change) {
             if (isAlive.expired()) {
                 return;
             }
-            if (mayGoOn && !_isInterrupted) {
+            if (mayGoOn && !_isInterrupted && !_isAmbiguous) {
                 beginChange(change);
             } else {
                 endRefused();
@@ -166,13 +164,12 @@ void UnitEdits::beginCommand(UnitChange& change) {
     _command->begin([this, &change] {
         // The next command replaces the one whose end this is.
         const auto ended = std::move(_command);
+        noteOutcome(change, *ended);
         if (mayBeginAgain(change, *ended)) {
             beginChange(change);
-            return;
+        } else {
+            endChange(change);
         }
-        noteOutcome(change, *ended);
-        tellEnd(change);
-        beginNext();
     });
 }
 
@@ -187,10 +184,17 @@ bool UnitEdits::mayBeginAgain(const UnitChange& change, const VerifiedCommand& c
             shown.has_value() && shownText(*shown, change.edit.edit.parameter) == change.from);
 }
 
-void UnitEdits::tellEnd(const UnitChange& change) {
+void UnitEdits::endChange(UnitChange& change) {
+    const bool mayGoOn =
+        change.state == ChangeState::done ||
+        (change.state == ChangeState::different && rankOf(change.edit.edit.parameter) == 0);
+    if (!mayGoOn) {
+        refuseRest();
+    }
     if (_options.witness != nullptr) {
         _options.witness->changeDidEnd(_unit, change);
     }
+    beginNext();
 }
 
 void UnitEdits::endRefused() {
@@ -269,40 +273,38 @@ void UnitEdits::noteOutcome(UnitChange& change, const VerifiedCommand& command) 
         break;
     case CommandOutcome::other:
         change.state = ChangeState::different;
-        if (rankOf(change.edit.edit.parameter) > 0) {
-            refuseRest();
-        }
         break;
     case CommandOutcome::silent:
         change.state = ChangeState::silent;
-        refuseRest();
         break;
     case CommandOutcome::notSent:
-        _failure = command.failure();
-        refuseRest();
+        _failure = command.failure(); // the state tells what became of an earlier attempt
         break;
     }
 }
 
 void UnitEdits::didMove(UnitChange& change) {
+    if (_move->command() != nullptr) {
+        noteOutcome(change, *_move->command());
+    } else if (_sentMove != nullptr) {
+        _move = std::move(_sentMove); // its command counts
+        endChange(change);
+        return;
+    }
     const bool isUnanswered =
         _move->state() == MoveState::foreignAnswer && _move->foreignHardwareAddress().empty();
     if (_move->command() != nullptr &&
         (mayBeginAgain(change, *_move->command()) ||
          (isUnanswered && _attempts < _options.attempts && !_isInterrupted))) {
-        const auto ended = std::move(_move);
+        _sentMove = std::move(_move);
         beginChange(change);
         return;
     }
-    if (_move->command() != nullptr) {
-        noteOutcome(change, *_move->command());
-    }
     // Whoever answers for the address would get the next command.
-    if (_move->command() == nullptr || _move->state() == MoveState::foreignAnswer) {
+    if (_move->state() == MoveState::foreignAnswer) {
         refuseRest();
     }
-    tellEnd(change);
-    beginNext();
+    endChange(change);
 }
 
 void UnitEdits::unitDidTell(const HeardUnit& unit) {

@@ -112,7 +112,7 @@ private:
     void beginCommand(UnitChange& change);
     void beginMove(UnitChange& change);
     bool mayBeginAgain(const UnitChange& change, const VerifiedCommand& command);
-    void tellEnd(const UnitChange& change);
+    void endChange(UnitChange& change);
     void endRefused();
     void noteOutcome(UnitChange& change, const VerifiedCommand& command);
     void noteTarget(const UnitChange& change, const HeardUnit& shown);
@@ -133,6 +133,7 @@ private:
     std::unique_ptr<HolderSearch> _search;
     std::unique_ptr<VerifiedCommand> _command;
     std::unique_ptr<AddressMove> _move;
+    std::unique_ptr<AddressMove> _sentMove; // an earlier attempt, while `_move` is the next one
     bool _isInterrupted = false;
     bool _isAmbiguous = false;
     std::shared_ptr<int> _isAlive = std::make_shared<int>(); // a witness may answer after this
