@@ -116,8 +116,7 @@ std::string sentenceOfValue(const TableComplaint& complaint, const std::string& 
 } // namespace
 
 std::string faultOfTable(const TableComplaint& complaint) {
-    const bool isAboutColumn = complaint.cell.empty();
-    const std::string cell = safeForSentence(isAboutColumn ? complaint.column : complaint.cell);
+    const std::string cell = safeForSentence(complaint.cell);
     if (const auto key = keyWithCell(complaint.fault)) {
         return localizedText(*key, {cell});
     }

@@ -5,6 +5,8 @@
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
 
+#include <algorithm>
+
 namespace kx {
 
 namespace {
@@ -112,9 +114,12 @@ std::string reasonOfCommand(const PlannedRow& row) {
     case RowObjection::notTaken:
         return localizedText("The unit %@ shows the old value.", {row.serialNumber});
     case RowObjection::different:
-        return localizedText("The unit %@ shows another value: %@ is “%@”.",
-                             {row.serialNumber, descriptionOf(reason.parameter).identifier,
-                              safeForSentence(reason.shown)});
+        return reason.shown.empty()
+                   ? localizedText("The unit %@ does not tell whether it has taken %@.",
+                                   {row.serialNumber, descriptionOf(reason.parameter).identifier})
+                   : localizedText("The unit %@ shows another value: %@ is “%@”.",
+                                   {row.serialNumber, descriptionOf(reason.parameter).identifier,
+                                    safeForSentence(reason.shown)});
     case RowObjection::fellSilent:
         return localizedText("The unit %@ has not answered since the command.", {row.serialNumber});
     case RowObjection::foreignAnswer:
@@ -143,10 +148,18 @@ std::string reasonOfRest(const RowReason& reason) {
     }
 }
 
+bool isTakenInPart(const PlannedRow& row) {
+    const auto isDone = [](const UnitChange& change) { return change.state == ChangeState::done; };
+    const auto isOpen = [](const UnitChange& change) {
+        return change.state != ChangeState::done && change.state != ChangeState::unchanged;
+    };
+    return std::ranges::any_of(row.changes, isDone) && std::ranges::any_of(row.changes, isOpen);
+}
+
 } // namespace
 
 std::string reasonOfRow(const PlannedRow& row) {
-    std::string reason = row.state == RowState::half
+    std::string reason = isTakenInPart(row)
                              ? localizedText("The unit %@ has taken some of the values and not "
                                              "others.",
                                              {row.serialNumber})
