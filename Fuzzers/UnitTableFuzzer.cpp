@@ -24,6 +24,8 @@ bool isEqual(const WantedRow& left, const WantedRow& right) {
 }
 
 void lookAt(const UnitTable& table, std::size_t lines) {
+    requireInvariant(!table.records.empty() || !table.complaints.empty(),
+                     "a text that was not read is complained about");
     for (const TableComplaint& complaint : table.complaints) {
         requireInvariant(complaint.line >= 1 && complaint.line <= lines,
                          "a complaint is about a line of the file");

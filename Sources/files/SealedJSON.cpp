@@ -44,6 +44,15 @@ bool isObjectWith(const Json& json, const char* key) {
     return json.is_object() && json.contains(key);
 }
 
+// Writing a value goes as deep as the value does. What lies deeper than any format is left out,
+// and the checksum then tells so.
+Json parsed(std::string_view text) {
+    constexpr int mostDepth = 16;
+    return Json::parse(
+        text, [](int depth, Json::parse_event_t /*event*/, Json&) { return depth < mostDepth; },
+        false);
+}
+
 } // namespace
 
 std::string sealedText(std::string_view object) {
@@ -52,7 +61,7 @@ std::string sealedText(std::string_view object) {
 }
 
 std::optional<Json> unsealedObject(std::string_view text) {
-    Json json = Json::parse(text, nullptr, false);
+    Json json = parsed(text);
     if (!isObjectWith(json, checksumKey)) {
         return std::nullopt;
     }
@@ -65,7 +74,7 @@ std::variant<Json, DocumentFault> unsealedDocument(std::string_view text, std::s
                                                    int version) {
     auto object = unsealedObject(text);
     if (!object.has_value()) {
-        const Json json = Json::parse(text, nullptr, false);
+        const Json json = parsed(text);
         const bool isOther =
             !json.is_discarded() && !isObjectWith(json, checksumKey) && !isObjectWith(json, "kind");
         return isOther ? DocumentFault::otherKind : DocumentFault::damaged;

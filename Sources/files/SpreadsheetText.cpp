@@ -158,7 +158,7 @@ std::optional<TableFault> damageOfDigits(std::string_view cell, ValueForm form) 
         return TableFault::lostZeros;
     }
     // Only an address whose last three numbers have three digits each looks like grouped digits.
-    if (form == ValueForm::ipv4Address && cell.size() >= 9 && cell.size() <= 12) {
+    if (form == ValueForm::ipv4Address && cell.size() >= 10 && cell.size() <= 12) {
         return TableFault::lostDots;
     }
     return std::nullopt;

@@ -174,6 +174,12 @@ private:
                 }
             }
         }
+        // A quotation mark stands between the bytes of one character.
+        for (const CSVRecord& record : records) {
+            if (record.fault.has_value()) {
+                complainAboutQuotation(record);
+            }
+        }
     }
 
     // Empty beyond the header.

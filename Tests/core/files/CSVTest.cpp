@@ -33,6 +33,12 @@ TEST(CSV, WhatIsWrittenIsReadBack) {
     EXPECT_EQ(csvRecords(text), table);
 }
 
+TEST(CSV, ARecordOfOneEmptyFieldIsNoEmptyLine) {
+    const std::vector<std::string> field{""};
+    EXPECT_EQ(csvRecord(field), "\"\"\r\n");
+    EXPECT_EQ(csvRecords(csvRecord(field)), std::vector<std::vector<std::string>>{field});
+}
+
 TEST(CSV, LinesMayEndWithALineFeedOrNotAtAll) {
     EXPECT_EQ(csvRecords("a,b\nc,d"), (std::vector<Record>{{"a", "b"}, {"c", "d"}}));
     EXPECT_EQ(csvRecords(""), std::vector<Record>{});

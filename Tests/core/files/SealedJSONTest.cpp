@@ -46,6 +46,14 @@ TEST(SealedJSON, BlanksAndLineBreaksBetweenValuesDoNotCount) {
     EXPECT_EQ(faultOfSealed(spaced), DocumentFault::damaged) << "those within a value do";
 }
 
+TEST(SealedJSON, ATextThatIsNestedDeeplyIsDamaged) {
+    const std::string deep(1'000'000, '[');
+    EXPECT_EQ(faultOfSealed("{\"kind\":\"plan\",\"a\":" + deep + std::string(deep.size(), ']') +
+                            ",\"checksum\":\"00000000\"}"),
+              DocumentFault::damaged);
+    EXPECT_EQ(faultOfSealed(deep), DocumentFault::damaged);
+}
+
 TEST(SealedJSON, ATextThatWasCutAnywhereIsDamaged) {
     for (std::size_t length = 0; length + 1 < sealedSample.size(); ++length) {
         EXPECT_EQ(faultOfSealed(sealedSample.substr(0, length)), DocumentFault::damaged) << length;

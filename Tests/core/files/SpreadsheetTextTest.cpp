@@ -54,6 +54,8 @@ TEST_F(SpreadsheetText, ANumberLosesTheZerosAtItsBeginning) {
 TEST_F(SpreadsheetText, AnAddressOfGroupsOfThreeDigitsLosesItsDots) {
     EXPECT_EQ(damageOfSpreadsheet("192168178100", ValueForm::ipv4Address), lostDots);
     EXPECT_EQ(damageOfSpreadsheet("1168178100", ValueForm::ipv4Address), lostDots);
+    EXPECT_EQ(damageOfSpreadsheet("168178100", ValueForm::ipv4Address), std::nullopt)
+        << "an address has four numbers";
     EXPECT_EQ(damageOfSpreadsheet("1921", ValueForm::ipv4Address), std::nullopt);
 }
 
