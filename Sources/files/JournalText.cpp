@@ -203,16 +203,19 @@ std::string JournalLines::end() {
 
 std::variant<Journal, JournalFault> readJournal(std::string_view text) {
     Journal journal;
-    if (const auto fault = takeHead(journal.head, takeLine(text).text)) {
+    const Line head = takeLine(text);
+    if (const auto fault = takeHead(journal.head, head.text)) {
         return JournalFault{.fault = *fault, .line = 1};
+    }
+    if (!head.isWhole) {
+        return JournalFault{.fault = DocumentFault::damaged, .line = 1};
     }
     for (std::size_t number = 2; !text.empty(); ++number) {
         const Line line = takeLine(text);
-        if (!takeLine(journal, line.text)) {
-            if (line.isWhole) {
-                return JournalFault{.fault = DocumentFault::damaged, .line = number};
-            }
+        if (!line.isWhole) {
             journal.isCut = true;
+        } else if (!takeLine(journal, line.text)) {
+            return JournalFault{.fault = DocumentFault::damaged, .line = number};
         }
     }
     return journal;

@@ -5,8 +5,8 @@
 // missing unnoticed. Version 1 is described by docs/json-schema/journal.json. The reader passes
 // over keys that it does not know.
 //
-// A run that is killed leaves a journal that ends anywhere. The part of a line behind the last line
-// break is not counted: its command was never sent.
+// A run that is killed leaves a journal that ends anywhere. A line without its line break is not
+// counted: its command was never sent.
 //
 // Pure; any thread. Texts are UTF-8.
 
@@ -54,7 +54,7 @@ struct Journal {
     JournalHead head;
     std::vector<JournalEntry> entries;
     bool hasEnded = false; // the run was not killed
-    bool isCut = false;    // a part of a line at the end was not counted
+    bool isCut = false;    // a line without its line break was not counted
 };
 
 struct JournalFault {

@@ -170,10 +170,9 @@ TEST(JournalText, ARunThatWasKilledLeavesTheEntriesBeforeItsLastLine) {
     for (std::size_t whole = 1; whole < lines.size(); ++whole) {
         for (std::size_t length = 0; length < lines[whole].size(); ++length) {
             const Journal journal = journalIn(text + lines[whole].substr(0, length));
-            // An object is whole when its line break alone is missing.
-            const bool isWhole = length + 1 == lines[whole].size();
-            EXPECT_EQ(journal.isCut, length > 0 && !isWhole) << whole << ' ' << length;
-            EXPECT_EQ(journal.entries.size(), std::min<std::size_t>(whole - (isWhole ? 0 : 1), 3));
+            EXPECT_EQ(journal.isCut, length > 0) << whole << ' ' << length;
+            EXPECT_EQ(journal.entries.size(), whole - 1);
+            EXPECT_FALSE(journal.hasEnded);
         }
         text += lines[whole];
     }
@@ -195,7 +194,7 @@ TEST(JournalText, ABlockOfZerosAtTheEndIsACutLine) {
 
 TEST(JournalText, AFirstLineThatWasCutIsNoJournal) {
     const std::string head = JournalLines::head(sampleHead);
-    for (std::size_t length = 0; length + 1 < head.size(); ++length) {
+    for (std::size_t length = 0; length < head.size(); ++length) {
         EXPECT_EQ(faultOfJournal(head.substr(0, length)), damagedIn(1)) << length;
     }
 }
