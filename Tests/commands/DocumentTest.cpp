@@ -1,23 +1,10 @@
 #include "commands/Document.h"
 
+#include "core/conversation/HeardUnitSamples.h"
+
 #include <gtest/gtest.h>
 
 namespace kx {
-
-namespace {
-
-HeardUnit unitWithID(const UnitIDBytes& bytes) {
-    HeardUnit unit;
-    unit.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 01");
-    unit.record.setValue(UnitParameter::devicePortNumber, "10000");
-    unit.unitIDBytes = bytes;
-    unit.sender = 0xC000020BU;
-    unit.link = 3;
-    unit.answered = std::chrono::milliseconds(3);
-    return unit;
-}
-
-} // namespace
 
 TEST(Document, HasEveryKeyOfItsCommandFromTheBeginning) {
     EXPECT_EQ(Document("discover").text(0, {}),
@@ -43,7 +30,7 @@ TEST(Document, ToldWarningsStandInTheirOrder) {
 TEST(Document, DuplicatesOfBothKindsAreOneList) {
     HeardUnits units;
     for (const char* hardware : {"00:00:00:00:00:01", "00:00:00:00:00:02"}) {
-        HeardUnit unit = unitWithID({});
+        HeardUnit unit = heardUnit(1);
         unit.record.setValue(UnitParameter::internalMACAddress, hardware);
         unit.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
         units.add(unit);
@@ -51,8 +38,7 @@ TEST(Document, DuplicatesOfBothKindsAreOneList) {
     EXPECT_EQ(jsonOfDuplicates(units).dump(),
               R"([{"serial":"4B 58 00 00 00 01",)"
               R"("internal_macs":["00:00:00:00:00:01","00:00:00:00:00:02"]}])");
-    HeardUnit other = unitWithID({});
-    other.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 02");
+    HeardUnit other = heardUnit(2);
     other.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
     units.add(other);
     EXPECT_EQ(jsonOfDuplicates(units)[0].dump(),

@@ -1,24 +1,11 @@
 #include "commands/UnitTables.h"
 
 #include "commands/TextTable.h"
+#include "core/conversation/HeardUnitSamples.h"
 
 #include <gtest/gtest.h>
 
 namespace kx {
-
-namespace {
-
-HeardUnit unitWithID(std::string_view text, const UnitIDBytes& bytes) {
-    HeardUnit unit;
-    unit.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 01");
-    unit.record.setValue(UnitParameter::unitID, text);
-    unit.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
-    unit.unitIDBytes = bytes;
-    unit.sender = 0xC000020BU;
-    return unit;
-}
-
-} // namespace
 
 TEST(TextTable, ColumnsAreAsWideAsTheirWidestText) {
     TextTable table({"a", "bb"});
@@ -35,8 +22,8 @@ TEST(TextTable, CharactersThatActAreMarks) {
 }
 
 TEST(UnitTables, AUnitIDThatIsNoTextIsShownByItsBytes) {
-    HeardUnit unit = unitWithID("", {0xFF, 1, 2, 3, 4, 5});
-    unit.record.removeValue(UnitParameter::unitID);
+    HeardUnit unit = heardUnit(1);
+    setUnitID(unit, {0xFF, 1, 2, 3, 4, 5});
     EXPECT_NE(tableOfUnits({&unit}, {}, false).find("FF0102030405"), std::string::npos);
     EXPECT_NE(parametersOfUnit(unit, {}).find("unit-id           FF0102030405\n"),
               std::string::npos);

@@ -1,5 +1,6 @@
 #include "files/UnitCSV.h"
 
+#include "core/conversation/HeardUnitSamples.h"
 #include "core/files/HostileUnits.h"
 #include "files/CSV.h"
 #include "files/UnitTableReader.h"
@@ -13,13 +14,9 @@ namespace kx {
 
 namespace {
 
-HeardUnit csvSample(std::string_view text, const UnitIDBytes& bytes) {
-    HeardUnit unit;
-    unit.record.setValue(UnitParameter::serialNumber, "4B 58 00 00 00 01");
-    unit.record.setValue(UnitParameter::unitID, text);
-    unit.record.setValue(UnitParameter::internalIPAddress, "192.0.2.11");
-    unit.unitIDBytes = bytes;
-    unit.sender = 0xC000020BU;
+HeardUnit csvSample(const UnitIDBytes& bytes) {
+    HeardUnit unit = heardUnit(1);
+    setUnitID(unit, bytes);
     return unit;
 }
 
@@ -54,21 +51,20 @@ std::size_t expectNoChange(std::string_view text, const std::vector<HeardUnit>& 
 } // namespace
 
 TEST(UnitCSV, AUnitIDThatIsNoTextIsLeftToItsBytes) {
-    HeardUnit unit = csvSample("", {0xFF, 1, 2, 3, 4, 5});
-    unit.record.removeValue(UnitParameter::unitID);
+    const HeardUnit unit = csvSample({0xFF, 1, 2, 3, 4, 5});
     EXPECT_EQ(csvUnitID(unit), "");
     EXPECT_EQ(shownValue(unit, UnitParameter::unitID), "FF0102030405");
 }
 
 TEST(UnitCSV, AUnitIDStandsInTheTableOfValuesWhereItIsReadBackAsTheSame) {
-    EXPECT_EQ(csvUnitID(csvSample("RACK7A", {'R', 'A', 'C', 'K', '7', 'A'})), "RACK7A");
-    EXPECT_EQ(csvUnitID(csvSample(std::string_view("AB\0\0\0\0", 6), {'A', 'B'})), "AB");
-    EXPECT_EQ(csvUnitID(csvSample("12", {0, 0, 0, 0, 0, 12})), "12");
+    EXPECT_EQ(csvUnitID(csvSample({'R', 'A', 'C', 'K', '7', 'A'})), "RACK7A");
+    EXPECT_EQ(csvUnitID(csvSample({'A', 'B'})), "AB");
+    EXPECT_EQ(csvUnitID(csvSample({0, 0, 0, 0, 0, 12})), "12");
 }
 
 TEST(UnitCSV, AUnitIDThatASpreadsheetWouldChangeIsLeftToItsBytes) {
-    EXPECT_EQ(csvUnitID(csvSample("=1+2-3", {'=', '1', '+', '2', '-', '3'})), "");
-    EXPECT_EQ(csvUnitID(csvSample(std::string_view("TRUE\0\0", 6), {'T', 'R', 'U', 'E'})), "");
+    EXPECT_EQ(csvUnitID(csvSample({'=', '1', '+', '2', '-', '3'})), "");
+    EXPECT_EQ(csvUnitID(csvSample({'T', 'R', 'U', 'E'})), "");
 }
 
 TEST(UnitCSV, AnExportThatIsPlannedAtOnceChangesNothingWhateverTheUnitIDsAre) {
@@ -91,16 +87,14 @@ TEST(UnitCSV, AnExportThatASpreadsheetHasSavedChangesNothing) {
 }
 
 TEST(UnitCSV, AUnitIDThatWouldBecomeAnotherOneIsLeftToItsBytes) {
-    EXPECT_EQ(csvUnitID(csvSample(std::string_view("12\0\0\0\0", 6), {'1', '2'})), "")
-        << "the text 12 would be read as the number";
-    EXPECT_EQ(csvUnitID(csvSample("7ABCDE", {'7', 'A', 'B', 'C', 'D', 'E'})), "");
-    EXPECT_EQ(csvUnitID(csvSample("a\nb,\"c", {'a', '\n', 'b', ',', '"', 'c'})), "");
-    EXPECT_EQ(csvUnitID(csvSample(std::string_view("\0ABCDE", 6), {0, 'A', 'B', 'C', 'D', 'E'})),
-              "");
+    EXPECT_EQ(csvUnitID(csvSample({'1', '2'})), "") << "the text 12 would be read as the number";
+    EXPECT_EQ(csvUnitID(csvSample({'7', 'A', 'B', 'C', 'D', 'E'})), "");
+    EXPECT_EQ(csvUnitID(csvSample({'a', '\n', 'b', ',', '"', 'c'})), "");
+    EXPECT_EQ(csvUnitID(csvSample({0, 'A', 'B', 'C', 'D', 'E'})), "");
 }
 
 TEST(UnitCSV, TheBytesStandThereInEveryCase) {
-    const HeardUnit unit = csvSample("7ABCDE", {'7', 'A', 'B', 'C', 'D', 'E'});
+    const HeardUnit unit = csvSample({'7', 'A', 'B', 'C', 'D', 'E'});
     const auto records = csvRecords(csvOfUnits({&unit}, {}));
     const auto column = std::ranges::find(records[0], "unit_id_bytes") - records[0].begin();
     EXPECT_EQ(records[1][static_cast<std::size_t>(column)], "374142434445");
