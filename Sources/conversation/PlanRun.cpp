@@ -196,8 +196,11 @@ void PlanRun::interruptSteps() {
     }
     const std::weak_ptr<int> isAlive = _isAlive;
     for (const std::size_t place : places) {
-        const auto step = isAlive.expired() ? decltype(_steps)::iterator() : _steps.find(place);
-        if (!isAlive.expired() && step != _steps.end()) {
+        if (isAlive.expired()) {
+            return;
+        }
+        const auto step = _steps.find(place);
+        if (step != _steps.end()) {
             step->second->interrupt();
         }
     }

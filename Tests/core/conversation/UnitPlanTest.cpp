@@ -89,6 +89,27 @@ TEST_F(UnitPlanTest, AnAddressThatThousandsTellNamesAFewOfThem) {
     EXPECT_EQ(latest.rows[0].reason.others.size(), 8U);
 }
 
+TEST_F(UnitPlanTest, ASerialNumberOfManyUnitsNamesAFewOfThem) {
+    for (std::uint32_t number = 1; number <= 20; ++number) {
+        HeardUnit unit = heardUnit(1);
+        unit.record.setValue(UnitParameter::internalMACAddress, sampleHardwareAddress(number));
+        heard.add(unit);
+    }
+    plan({row(2, 1, {})});
+    EXPECT_EQ(objection(0), RowObjection::ambiguousSerialNumber);
+    EXPECT_EQ(latest.rows[0].reason.others.size(), 8U);
+}
+
+TEST_F(UnitPlanTest, TheFirstObjectionCounts) {
+    hear(1, 1);
+    HeardUnit other = heardUnit(2);
+    other.record.setValue(UnitParameter::internalIPAddress, address(1));
+    heard.add(other);
+    plan({row(2, 1, move(9)), row(3, 2, move(9))});
+    EXPECT_EQ(objection(0), RowObjection::ambiguousAddress);
+    EXPECT_EQ(objection(1), RowObjection::ambiguousAddress);
+}
+
 TEST_F(UnitPlanTest, AUnitThatTellsAnAddressOfManyIsRefused) {
     HeardUnit unit = heardUnit(1);
     unit.record.setValue(UnitParameter::internalIPAddress, "192.0.255.255");
@@ -142,6 +163,14 @@ TEST_F(UnitPlanTest, AnAddressMustLieInANetworkOfTheInterfaceThatHearsTheUnit) {
     there.link = 7;
     heard.add(there);
     plan({row(2, 2, {{UnitParameter::internalIPAddress, "10.0.0.9"}})});
+    EXPECT_EQ(states(), States{planned});
+}
+
+TEST_F(UnitPlanTest, AUnitThatIsHeardOnAnUnknownInterfaceIsLookedForOnThoseThatAreAsked) {
+    HeardUnit unit = heardUnit(1);
+    unit.link = 0;
+    heard.add(unit);
+    plan({row(2, 1, move(9))});
     EXPECT_EQ(states(), States{planned});
 }
 
@@ -263,92 +292,17 @@ TEST_F(UnitPlanTest, AnAddressAgainstASerialNumberIsARing) {
     EXPECT_EQ(latest.rows[1].reason.parameter, UnitParameter::serialNumber);
 }
 
-TEST_F(UnitPlanTest, UnitsThatTellNoHardwareAddressDoNotPassASerialNumberOn) {
-    for (const std::uint32_t number : {1U, 2U}) {
-        HeardUnit unit = heardUnit(number);
+TEST_F(UnitPlanTest, AUnitThatTellsNoHardwareAddressNeitherGivesNorTakesASerialNumber) {
+    for (const std::uint32_t without : {1U, 2U}) {
+        heard = HeardUnits();
+        hear(3 - without, 3 - without);
+        HeardUnit unit = heardUnit(without);
         unit.record.removeValue(UnitParameter::internalMACAddress);
         heard.add(unit);
+        plan({row(2, 1, rename(2)), row(3, 2, rename(9))});
+        EXPECT_EQ(objection(0), RowObjection::heldByUnit);
+        EXPECT_EQ(latest.rows[1].state, planned);
     }
-    plan({row(2, 1, rename(2)), row(3, 2, rename(9))});
-    EXPECT_EQ(objection(0), RowObjection::heldByUnit);
-    EXPECT_EQ(latest.rows[1].state, planned);
-}
-
-// --- Kept plans ---
-
-TEST_F(UnitPlanTest, AUnitThatShowsAnotherValueThanAKeptPlanSawIsRefusedByTheParameter) {
-    hear(1, 1);
-    WantedRow kept = row(2, 1, {{UnitParameter::unitID, "A"}});
-    kept.seen = SeenUnit{.record = heardUnit(1).record, .unitIDBytes = heardUnit(1).unitIDBytes};
-    plan({kept});
-    EXPECT_EQ(states(), States{planned});
-    kept.seen->record.setValue(UnitParameter::destinationPortNumber, "3521");
-    plan({kept});
-    EXPECT_EQ(objection(0), RowObjection::outOfDate);
-    EXPECT_EQ(latest.rows[0].reason.parameter, UnitParameter::destinationPortNumber);
-    EXPECT_EQ(latest.rows[0].reason.value, "3521");
-    EXPECT_EQ(latest.rows[0].reason.shown, "3520");
-}
-
-TEST_F(UnitPlanTest, AWantedValueThatARunBeforeHasGivenIsNotOutOfDate) {
-    HeardUnit unit = heardUnit(1);
-    setUnitID(unit, {'A', 0, 0, 0, 0, 0});
-    heard.add(unit);
-    WantedRow kept =
-        row(2, 1, {{UnitParameter::unitID, "A"}, {UnitParameter::devicePortNumber, "9"}});
-    kept.seen = SeenUnit{.record = heardUnit(1).record, .unitIDBytes = heardUnit(1).unitIDBytes};
-    plan({kept});
-    EXPECT_EQ(states(), States{planned});
-    EXPECT_EQ(latest.rows[0].changes[0].state, ChangeState::unchanged);
-}
-
-TEST_F(UnitPlanTest, AUnitIDThatIsNoTextIsToldByItsBytes) {
-    HeardUnit unit = heardUnit(1);
-    setUnitID(unit, {0xFF, 0xFE, 0, 0, 0, 1});
-    heard.add(unit);
-    WantedRow kept = row(2, 1, {{UnitParameter::devicePortNumber, "9"}});
-    kept.seen = SeenUnit{.record = heardUnit(1).record, .unitIDBytes = heardUnit(1).unitIDBytes};
-    plan({kept});
-    EXPECT_EQ(latest.rows[0].reason.parameter, UnitParameter::unitID);
-    EXPECT_EQ(latest.rows[0].reason.value, "1");
-    EXPECT_EQ(latest.rows[0].reason.shown, "FFFE00000001");
-}
-
-// --- Identities ---
-
-TEST_F(UnitPlanTest, ARowWithAnIdentityFindsItsUnitUnderTheNewSerialNumber) {
-    HeardUnit unit = heardUnit(1);
-    unit.record.setValue(UnitParameter::serialNumber, sampleSerial(9));
-    heard.add(unit);
-    WantedRow resumed = row(2, 1, rename(9));
-    plan({resumed});
-    EXPECT_EQ(states(), States{RowState::silent});
-    resumed.identities = {{sampleSerial(1), sampleHardwareAddress(1)},
-                          {sampleSerial(9), sampleHardwareAddress(1)}};
-    plan({resumed});
-    EXPECT_EQ(states(), States{RowState::unchanged});
-    EXPECT_EQ(latest.rows[0].serialNumber, sampleSerial(1));
-}
-
-TEST_F(UnitPlanTest, AUnitWithAnIdentityIsNotTakenForTheUnitThatHadItsSerialNumberBefore) {
-    // Unit 1 has got the serial number of unit 2, which has got 9 and is switched off.
-    HeardUnit unit = heardUnit(1);
-    unit.record.setValue(UnitParameter::serialNumber, sampleSerial(2));
-    heard.add(unit);
-    WantedRow first = row(2, 1, rename(2));
-    first.identities = {{sampleSerial(2), sampleHardwareAddress(1)}};
-    const WantedRow second = row(3, 2, rename(9));
-    plan({first, second});
-    EXPECT_EQ(states(), (States{RowState::unchanged, RowState::silent}));
-}
-
-TEST_F(UnitPlanTest, AUnitWithAnotherHardwareAddressHasAnotherIdentity) {
-    hear(1, 1);
-    WantedRow resumed = row(2, 1, rename(9));
-    resumed.identities = {{sampleSerial(1), sampleHardwareAddress(5)},
-                          {sampleSerial(9), sampleHardwareAddress(5)}};
-    plan({resumed});
-    EXPECT_EQ(states(), States{RowState::silent});
 }
 
 // --- Sums and size ---
