@@ -38,6 +38,14 @@ public:
     // The addresses of the hosts on a link whose hardware addresses are known, in ascending order.
     // Empty when there are none, and when the system does not tell. Returns at once.
     virtual std::vector<std::uint32_t> knownAddresses(std::uint32_t link) = 0;
+
+    // The number of entries on all links that the system does not give up for another address now.
+    // 0 when it does not tell. Returns at once.
+    virtual std::size_t entriesInUse() = 0;
+
+    // Takes the entry of an address out, unless somebody entered it by hand. Does nothing without
+    // administrator rights. Returns at once.
+    virtual void forget(std::uint32_t address, std::uint32_t link) = 0;
 };
 
 } // namespace kx

@@ -1,5 +1,6 @@
 #include "conversation/PlanRun.h"
 
+#include "addresses/IPv4Address.h"
 #include "conversation/NewAddressSearch.h"
 #include "conversation/RowOutcome.h"
 #include "conversation/RunStep.h"
@@ -28,7 +29,8 @@ PlanRun::PlanRun(UnitExchange& exchange, const AddressMove::Services& moveServic
     , _journal(journal)
     , _plan(std::move(plan))
     , _options(options)
-    , _total(_plan.sum(RowState::planned)) {}
+    , _total(_plan.sum(RowState::planned))
+    , _room(exchange.runLoop(), moveServices.holders.neighbours) {}
 
 PlanRun::~PlanRun() = default;
 
@@ -38,6 +40,7 @@ void PlanRun::start() {
     }
     _newAddresses = newAddressesOf(_plan);
     std::vector<AddressQuestion> questions;
+    questions.reserve(_newAddresses.size());
     for (const NewAddress& address : _newAddresses) {
         questions.push_back(address.question);
     }
@@ -96,7 +99,8 @@ void PlanRun::beginReady() {
     const auto limit = [this] {
         return _isFirstOver ? std::max(_options.inFlight, std::size_t{1}) : std::size_t{1};
     };
-    while (!_isStopping && !_ready.empty() && _steps.size() < limit()) {
+    while (!_isStopping && !_ready.empty() && _steps.size() < limit() &&
+           _room.takePlace([this] { beginReady(); })) {
         const std::size_t place = _plan.order[*_ready.begin()];
         _ready.erase(_ready.begin());
         if (_plan.rows[place].state == RowState::planned) {
@@ -104,7 +108,7 @@ void PlanRun::beginReady() {
         }
     }
     _isBeginning = false;
-    if (_steps.empty()) {
+    if (_steps.empty() && (_isStopping || !_room.isAwaited())) {
         finish();
     }
 }
@@ -131,6 +135,7 @@ void PlanRun::didEnd(std::size_t place) {
     }
     PlannedRow& row = _plan.rows[place];
     endRowByEdits(row, ended.edits(), reasonToStop(ended));
+    releaseAddresses(row);
     if (row.state == RowState::done) {
         releaseWaiting(row);
     } else if (row.state != RowState::untouched) {
@@ -155,6 +160,19 @@ void PlanRun::releaseWaiting(const PlannedRow& row) {
     }
 }
 
+// The one that the unit had, and the one that it has got.
+void PlanRun::releaseAddresses(const PlannedRow& row) {
+    if (const auto& unit = row.unit) {
+        _room.release(unit->target().address, unit->link);
+    }
+    for (const UnitChange& change : row.changes) {
+        if (row.unit.has_value() &&
+            change.edit.edit.parameter == UnitParameter::internalIPAddress) {
+            _room.release(ipForString(change.to), row.unit->link);
+        }
+    }
+}
+
 void PlanRun::noteFailure(std::size_t place) {
     const PlannedRow& row = _plan.rows[place];
     refuseWaiting(_plan, place);
@@ -174,6 +192,7 @@ void PlanRun::stop(RowReason reason) {
 }
 
 void PlanRun::finish() {
+    _room.stopWaiting();
     leaveUntouched(_plan, _stopReason);
     end();
 }
@@ -183,6 +202,8 @@ void PlanRun::interrupt() {
     stop({.objection = RowObjection::interrupted});
     if (_search != nullptr) {
         _search->interrupt(); // the run may be gone now
+    } else if (_steps.empty() && _room.isAwaited()) {
+        beginReady(); // nothing is under way, so the run ends
     } else if (!isFirst) {
         interruptSteps();
     }
@@ -191,6 +212,7 @@ void PlanRun::interrupt() {
 // Each may end, and the last one ends the run.
 void PlanRun::interruptSteps() {
     std::vector<std::size_t> places;
+    places.reserve(_steps.size());
     for (const auto& [place, step] : _steps) {
         places.push_back(place);
     }

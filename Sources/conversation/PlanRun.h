@@ -9,6 +9,8 @@
 // A row begins when the rows that it waits for are done. It is refused when one of them is not.
 // When nobody gave administrator rights for a move, no other move asks for them.
 //
+// A unit waits while this host has no room for its address (NeighbourRoom.h).
+//
 // Each command is in the journal before it is sent. A journal that fails ends the run.
 //
 // Threading and ownership: see Operation.h. The exchange, the services and the journal must outlive
@@ -17,6 +19,7 @@
 #pragma once
 
 #include "conversation/AddressMove.h"
+#include "conversation/NeighbourRoom.h"
 #include "conversation/NewAddresses.h"
 #include "conversation/Operation.h"
 #include "conversation/RunJournal.h"
@@ -72,6 +75,7 @@ private:
     void didEnd(std::size_t place);
     RowObjection reasonToStop(const RunStep& step) const;
     void releaseWaiting(const PlannedRow& row);
+    void releaseAddresses(const PlannedRow& row);
     void noteFailure(std::size_t place);
     void stop(RowReason reason);
     void finish();
@@ -88,6 +92,7 @@ private:
     std::vector<std::size_t> _ranks;       // of each row in the order of the plan
     std::vector<std::size_t> _openWaits;   // of each row, the rows before it that are not done
     std::set<std::size_t> _ready;          // ranks of rows that may begin
+    NeighbourRoom _room;
     std::map<std::size_t, std::unique_ptr<RunStep>> _steps; // under way, by row
     RowReason _stopReason;
     RowReason _lackOfRights; // the first move that got no administrator rights

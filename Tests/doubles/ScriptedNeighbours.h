@@ -28,6 +28,19 @@ public:
         return found != entries.end() ? std::optional(found->second) : std::nullopt;
     }
 
+    std::size_t inUse = 0;                // entries that the system does not give up
+    bool mayForget = true;                // as with administrator rights
+    std::vector<std::uint32_t> forgotten; // addresses, in the order of the calls
+
+    std::size_t entriesInUse() override { return inUse; }
+
+    void forget(std::uint32_t address, std::uint32_t /*link*/) override {
+        if (mayForget && inUse > 0) {
+            --inUse;
+            forgotten.push_back(address);
+        }
+    }
+
     // Those on every link.
     std::vector<std::uint32_t> knownAddresses(std::uint32_t /*link*/) override {
         std::vector<std::uint32_t> addresses;

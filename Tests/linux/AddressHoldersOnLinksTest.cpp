@@ -59,6 +59,28 @@ TEST_F(AddressHoldersOnLinks, AnEntryTellsItsStateAndItsHardwareAddress) {
     }
 }
 
+TEST_F(AddressHoldersOnLinks, EntriesThatTheSystemDoesNotGiveUpAreCounted) {
+    const std::size_t before = table.entriesInUse();
+    for (const auto& [word, isInUse] :
+         {std::pair{"reachable", true}, std::pair{"delay", true}, std::pair{"permanent", true},
+          std::pair{"stale", false}, std::pair{"failed", false}}) {
+        network.ip("neigh flush dev kx0 nud all");
+        setEntry("lladdr 02:4b:58:00:00:01 nud " + std::string(word));
+        EXPECT_EQ(table.entriesInUse() - before, isInUse ? 1U : 0U) << word;
+    }
+}
+
+TEST_F(AddressHoldersOnLinks, AnEntryIsForgottenUnlessSomebodyHasEnteredItByHand) {
+    setEntry("lladdr 02:4b:58:00:00:01 nud reachable");
+    table.forget(address, link);
+    EXPECT_FALSE(entry().has_value());
+    table.forget(address, link); // nothing is there any more
+    setEntry("lladdr 02:4b:58:00:00:01 nud permanent");
+    table.forget(address, link);
+    ASSERT_TRUE(entry().has_value());
+    EXPECT_EQ(entry()->state, NeighbourState::permanent);
+}
+
 TEST_F(AddressHoldersOnLinks, AProbeHearsWhoClaimsTheAddress) {
     PollRunLoop runLoop;
     LinuxAddressProbes probes(runLoop);

@@ -82,6 +82,48 @@ int entryReceived(nl_msg* message, void* collected) {
     return NL_OK;
 }
 
+// The states that a timer of the kernel watches, and those without an end: it gives up none of
+// them, however full the table is.
+constexpr int statesInUse = NUD_INCOMPLETE | NUD_REACHABLE | NUD_DELAY | NUD_PROBE | NUD_PERMANENT;
+
+int entryCounted(nl_msg* message, void* count) {
+    rtnl_neigh* parsed = nullptr;
+    if (rtnl_neigh_parse(nlmsg_hdr(message), &parsed) >= 0) {
+        const std::unique_ptr<rtnl_neigh, NeighbourRelease> neighbour(parsed);
+        if ((rtnl_neigh_get_state(parsed) & statesInUse) != 0) {
+            ++*static_cast<std::size_t*>(count);
+        }
+    }
+    return NL_OK;
+}
+
+// Sends a request about one entry.
+bool sendAbout(nl_sock* socket, int request, std::uint32_t address, std::uint32_t link) {
+    const std::unique_ptr<nl_msg, MessageRelease> message(
+        nlmsg_alloc_simple(request, NLM_F_REQUEST));
+    ndmsg header{};
+    header.ndm_family = AF_INET;
+    header.ndm_ifindex = static_cast<int>(link);
+    const std::uint32_t destination = htonl(address);
+    return socket != nullptr && message != nullptr &&
+           nlmsg_append(message.get(), &header, sizeof header, NLMSG_ALIGNTO) >= 0 &&
+           nla_put(message.get(), NDA_DST, sizeof destination, &destination) >= 0 &&
+           nl_send_auto(socket, message.get()) >= 0;
+}
+
+// Asks for every entry of the table on a link, 0 for all links.
+bool dump(nl_sock* socket, std::uint32_t link, nl_recvmsg_msg_cb_t received, void* collected) {
+    ndmsg header{};
+    header.ndm_family = AF_INET;
+    header.ndm_ifindex = static_cast<int>(link);
+    if (socket == nullptr || nl_send_simple(socket, RTM_GETNEIGH, NLM_F_REQUEST | NLM_F_DUMP,
+                                            &header, sizeof header) < 0) {
+        return false;
+    }
+    nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, received, collected);
+    return nl_recvmsgs_default(socket) >= 0;
+}
+
 } // namespace
 
 void LinuxNeighbourTable::SocketRelease::operator()(nl_sock* socket) const {
@@ -98,18 +140,7 @@ LinuxNeighbourTable::LinuxNeighbourTable()
 LinuxNeighbourTable::~LinuxNeighbourTable() = default;
 
 std::optional<Neighbour> LinuxNeighbourTable::entry(std::uint32_t address, std::uint32_t link) {
-    const std::unique_ptr<nl_msg, MessageRelease> message(
-        nlmsg_alloc_simple(RTM_GETNEIGH, NLM_F_REQUEST));
-    if (_socket == nullptr || message == nullptr) {
-        return std::nullopt;
-    }
-    ndmsg header{};
-    header.ndm_family = AF_INET;
-    header.ndm_ifindex = static_cast<int>(link);
-    const std::uint32_t destination = htonl(address);
-    if (nlmsg_append(message.get(), &header, sizeof header, NLMSG_ALIGNTO) < 0 ||
-        nla_put(message.get(), NDA_DST, sizeof destination, &destination) < 0 ||
-        nl_send_auto(_socket.get(), message.get()) < 0) {
+    if (!sendAbout(_socket.get(), RTM_GETNEIGH, address, link)) {
         return std::nullopt;
     }
     std::optional<Neighbour> found;
@@ -124,18 +155,22 @@ std::optional<Neighbour> LinuxNeighbourTable::entry(std::uint32_t address, std::
 
 std::vector<std::uint32_t> LinuxNeighbourTable::knownAddresses(std::uint32_t link) {
     KnownAddresses known{.link = link, .found = {}};
-    ndmsg header{};
-    header.ndm_family = AF_INET;
-    header.ndm_ifindex = static_cast<int>(link);
-    if (_socket == nullptr ||
-        nl_send_simple(_socket.get(), RTM_GETNEIGH, NLM_F_REQUEST | NLM_F_DUMP, &header,
-                       sizeof header) < 0) {
-        return {};
-    }
-    nl_socket_modify_cb(_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, entryReceived, &known);
-    nl_recvmsgs_default(_socket.get());
+    dump(_socket.get(), link, entryReceived, &known);
     std::ranges::sort(known.found);
     return std::move(known.found);
+}
+
+std::size_t LinuxNeighbourTable::entriesInUse() {
+    std::size_t count = 0;
+    return dump(_socket.get(), 0, entryCounted, &count) ? count : 0;
+}
+
+void LinuxNeighbourTable::forget(std::uint32_t address, std::uint32_t link) {
+    const auto known = entry(address, link);
+    if (known.has_value() && known->state != NeighbourState::permanent &&
+        sendAbout(_socket.get(), RTM_DELNEIGH, address, link)) {
+        nl_wait_for_ack(_socket.get()); // an error means that there are no rights for it
+    }
 }
 
 } // namespace kx

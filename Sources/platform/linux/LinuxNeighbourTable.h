@@ -1,4 +1,5 @@
-// The kernel's neighbour table, asked for one entry at a time (rtnetlink). Needs no rights.
+// The kernel's neighbour table, asked for one entry at a time (rtnetlink). Needs no rights,
+// except for taking an entry out.
 //
 // Threading: any thread, one at a time. Each question is answered at once: the kernel answers
 // inside the call that asks it.
@@ -22,6 +23,8 @@ public:
 
     std::optional<Neighbour> entry(std::uint32_t address, std::uint32_t link) override;
     std::vector<std::uint32_t> knownAddresses(std::uint32_t link) override;
+    std::size_t entriesInUse() override;
+    void forget(std::uint32_t address, std::uint32_t link) override;
 
 private:
     struct SocketRelease {

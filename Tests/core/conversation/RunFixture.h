@@ -191,6 +191,10 @@ protected:
     // Percentage of the datagrams that get lost, each way.
     unsigned lostPercent = 0;
 
+    // Entries of the neighbour table, and the addresses that were taken out of it.
+    std::size_t neighboursInUse = 0;
+    std::vector<std::string> forgotten;
+
     // Nothing is delivered to units while this is set.
     bool isHeldBack = false;
 
@@ -218,6 +222,10 @@ private:
                        : Neighbour{NeighbourState::failed, {}};
         }
         std::vector<std::uint32_t> knownAddresses(std::uint32_t /*link*/) override { return {}; }
+        std::size_t entriesInUse() override { return _test.neighboursInUse; }
+        void forget(std::uint32_t asked, std::uint32_t /*link*/) override {
+            _test.forgotten.push_back(stringForIP(asked));
+        }
 
     private:
         RunTest& _test;
