@@ -375,6 +375,7 @@
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>Ob %@ vergeben ist, war nicht festzustellen.</translation>
     </message>
@@ -461,11 +462,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ does not answer.</source>
         <translation>Das Gerät %@ antwortet nicht.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units answer as %@: %@.</source>
         <translation>Mehrere Geräte antworten als %@: %@.</translation>
     </message>
@@ -531,26 +534,31 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is the address of a whole network.</source>
         <translation>%@ ist die Adresse eines ganzen Netzwerks.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ lies in no network of the interface.</source>
         <translation>%@ liegt in keinem Netzwerk der Schnittstelle.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Unterbrochen.</translation>
     </message>
@@ -572,6 +580,7 @@
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Mehrere Geräte haben die Adresse %@: %@.</translation>
     </message>
@@ -602,6 +611,23 @@
         <translation>Das System nennt keine Netzwerkschnittstellen.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>“%@” is the journal of a run that has ended. Name another file.</source>
+        <translation>„%@“ ist das Journal eines Laufs, der beendet ist. Nennen Sie eine andere Datei.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>Der Eintrag für %@ ließ sich nicht wieder aus dem ARP-Cache nehmen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>Das Journal ist „%@“.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Schreiben Sie einen Text oder --clock, nicht beides.</translation>
@@ -622,6 +648,17 @@
         <translation>Das Gerät %@ hat auf den Optionsbefehl nicht geantwortet.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Zeile %d, %@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <source>Other lines that are not done: %d.</source>
+        <translation>Andere Zeilen, die nicht erledigt sind: %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>Name a unit. --everyone restores all that hear the command.</source>
         <translation>Nennen Sie ein Gerät. --everyone setzt alle zurück, die den Befehl hören.</translation>
@@ -633,6 +670,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nobody can be asked here. Write --yes if this is meant.</source>
         <translation>Hier kann niemand gefragt werden. Schreiben Sie --yes, wenn das so gemeint ist.</translation>
     </message>
@@ -659,6 +697,7 @@
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has not answered since the command.</source>
         <translation>Das Gerät %@ hat seit dem Befehl nicht geantwortet.</translation>
     </message>
@@ -668,7 +707,29 @@
         <translation>Das Gerät %@ zeigt die alten Werte und hat den Befehl nicht bestätigt.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/RevertCommand.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Kein Befehl bringt %@ des Geräts %@ zurück: Der Wert war „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. %@</source>
+        <translation>„%@“ wird abgelehnt. %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. It has %d faults, the first one: %@</source>
+        <translation>„%@“ wird abgelehnt. Es gibt %d Fehler darin, der erste: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>„%@“ ist nicht lesbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” is damaged.</source>
         <translation>„%@“ ist beschädigt.</translation>
     </message>
@@ -679,6 +740,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” has the format of another version of kxctl.</source>
         <translation>„%@“ hat das Format einer anderen Version von kxctl.</translation>
     </message>
@@ -686,11 +748,6 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>„%@“ enthält eine Gerätesuche, die niemanden fragen konnte.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>„%@“ ist nicht lesbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -755,26 +812,31 @@
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ gehört %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit shows %@ but does not answer ARP requests for it.</source>
         <translation>Das Gerät zeigt %@, beantwortet aber keine ARP-Anfragen dafür.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
         <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has taken some of the values and not others.</source>
         <translation>Das Gerät %@ hat einige der Werte übernommen und andere nicht.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows the old value.</source>
         <translation>Das Gerät %@ zeigt den alten Wert.</translation>
     </message>
@@ -785,13 +847,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Another unit answers with the same serial number.</source>
         <translation>Ein anderes Gerät antwortet mit derselben Seriennummer.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>Der Eintrag für %@ ließ sich nicht wieder aus dem ARP-Cache nehmen.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
@@ -802,6 +860,41 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nennen Sie Geräte oder schreiben Sie --all, nicht beides.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>Ob ein anderer Lauf im Gange ist, ließ sich nicht feststellen: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus: Prozess %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>%@ takes a number up to %d.</source>
+        <translation>%@ nimmt eine Zahl bis %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Change %d units, %d parameters in all? (y/n)</source>
+        <translation>%d Geräte ändern, insgesamt %d Parameter? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Nothing was changed.</source>
+        <translation>Nichts wurde geändert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>about %d s left</source>
+        <translation>noch etwa %d s</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1861,6 +1954,11 @@
         <translation>%d antworten wieder.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
+        <source>“%@” is another kind of file than the one that is wanted.</source>
+        <translation>„%@“ ist eine andere Art von Datei als die gewünschte.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>„Anwenden“ sendet %@: %@.</translation>
@@ -2568,6 +2666,187 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <translation>Nicht gesendet: Die Adresse des Geräts ist nicht bekannt.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no name of a column.</source>
+        <translation>„%@“ ist kein Name einer Spalte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” means the same as another column.</source>
+        <translation>„%@“ bedeutet dasselbe wie eine andere Spalte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” stands in a column without a name.</source>
+        <translation>„%@“ steht in einer Spalte ohne Namen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has text behind its closing quotation mark.</source>
+        <translation>„%@“ hat Text hinter dem schließenden Anführungszeichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins or ends with a blank.</source>
+        <translation>„%@“ beginnt oder endet mit einem Leerzeichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a character that nobody sees.</source>
+        <translation>„%@“ enthält ein Zeichen, das niemand sieht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no serial number. Write six pairs of digits, such as 4B 58 00 00 00 01.</source>
+        <translation>„%@“ ist keine Seriennummer. Schreiben Sie sechs Ziffernpaare wie 4B 58 00 00 00 01.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a number that a spreadsheet has shortened.</source>
+        <translation>„%@“ ist eine Zahl, die eine Tabellenkalkulation gekürzt hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks digits: a spreadsheet has taken it for a number.</source>
+        <translation>„%@“ fehlen Ziffern: Eine Tabellenkalkulation hat es für eine Zahl gehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks its dots: a spreadsheet has taken it for a number.</source>
+        <translation>„%@“ fehlen die Punkte: Eine Tabellenkalkulation hat es für eine Zahl gehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a date: a spreadsheet has taken the value for one.</source>
+        <translation>„%@“ ist ein Datum: Eine Tabellenkalkulation hat den Wert für eines gehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has separators that a spreadsheet has put between digits.</source>
+        <translation>„%@“ enthält Trennzeichen, die eine Tabellenkalkulation zwischen Ziffern gesetzt hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has decimal places that a spreadsheet has added.</source>
+        <translation>„%@“ hat Nachkommastellen, die eine Tabellenkalkulation ergänzt hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a truth value: a spreadsheet has taken the value for one.</source>
+        <translation>„%@“ ist ein Wahrheitswert: Eine Tabellenkalkulation hat den Wert für einen gehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a value that a spreadsheet had no room to show.</source>
+        <translation>„%@“ ist ein Wert, für den eine Tabellenkalkulation keinen Platz hatte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is an error of a spreadsheet.</source>
+        <translation>„%@“ ist ein Fehler einer Tabellenkalkulation.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins with the mark of a text in a spreadsheet.</source>
+        <translation>„%@“ beginnt mit dem Zeichen für Text in einer Tabellenkalkulation.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a blank of another kind.</source>
+        <translation>„%@“ enthält ein Leerzeichen anderer Art.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d is about the same unit.</source>
+        <translation>Zeile %d betrifft dasselbe Gerät.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same serial number.</source>
+        <translation>Zeile %d hat dieselbe Seriennummer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same address.</source>
+        <translation>Zeile %d hat dieselbe Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same hardware address.</source>
+        <translation>Zeile %d hat dieselbe Hardwareadresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is empty.</source>
+        <translation>Die Datei ist leer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is in UTF-16. Save it as CSV in UTF-8.</source>
+        <translation>Die Datei ist in UTF-16. Speichern Sie sie als CSV in UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell is not in UTF-8. Save the file as CSV in UTF-8.</source>
+        <translation>Die Zelle ist nicht in UTF-8. Speichern Sie die Datei als CSV in UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A quotation mark is not closed.</source>
+        <translation>Ein Anführungszeichen ist nicht geschlossen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line must name the columns: serial and parameters.</source>
+        <translation>Die erste Zeile muss die Spalten nennen: serial und Parameter.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line names no column “serial”.</source>
+        <translation>Die erste Zeile nennt keine Spalte „serial“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has fewer cells than the first one.</source>
+        <translation>Die Zeile hat weniger Zellen als die erste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has more cells than the first one.</source>
+        <translation>Die Zeile hat mehr Zellen als die erste.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The serial number is missing.</source>
+        <translation>Die Seriennummer fehlt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell has nothing but blanks.</source>
+        <translation>Die Zelle enthält nur Leerzeichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The value does not fit into a command.</source>
+        <translation>Der Wert passt nicht in einen Befehl.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A unit would get another value than “%@”. The window says of it: %@</source>
+        <translation>Ein Gerät bekäme einen anderen Wert als „%@“. Das Fenster sagt dazu: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Type it again in a cell that is formatted as text.</source>
+        <translation>Geben Sie ihn noch einmal in einer Zelle ein, die als Text formatiert ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d: %@</source>
+        <translation>Zeile %d: %@</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Sender</source>
         <translation>Absender</translation>
@@ -2616,6 +2895,61 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>The unit %@ has the address %@, too.</source>
         <translation>Das Gerät %@ hat auch die Adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d wants the same value: %@.</source>
+        <translation>Zeile %d will denselben Wert: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell its hardware address, which a new address needs.</source>
+        <translation>Das Gerät %@ nennt seine Hardwareadresse nicht, die für eine neue Adresse nötig ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ is held by the unit %@.</source>
+        <translation>%@ gehört dem Gerät %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ changes hands in a ring: line %d must be done first, and waits for this one.</source>
+        <translation>%@ wird im Kreis weitergegeben: Zeile %d muss zuerst erledigt sein und wartet auf diese.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ does not become free, because line %d is not done.</source>
+        <translation>%@ wird nicht frei, weil Zeile %d nicht erledigt ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The plan is out of date: %@ was “%@” and is “%@” now.</source>
+        <translation>Der Plan ist überholt: %@ war „%@“ und ist jetzt „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell whether it has taken %@.</source>
+        <translation>Das Gerät %@ sagt nicht, ob es %@ übernommen hat.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ shows another value: %@ is “%@”.</source>
+        <translation>Das Gerät %@ zeigt einen anderen Wert: %@ ist „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing was sent, because other lines are refused or silent.</source>
+        <translation>Nichts wurde gesendet, weil andere Zeilen abgelehnt sind oder nicht antworten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing new was begun after line %d.</source>
+        <translation>Nach Zeile %d wurde nichts Neues begonnen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The journal could not be written.</source>
+        <translation>Das Journal ließ sich nicht schreiben.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

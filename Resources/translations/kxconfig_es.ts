@@ -375,6 +375,7 @@
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>No se pudo averiguar si %@ está ocupada.</translation>
     </message>
@@ -461,11 +462,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ does not answer.</source>
         <translation>La unidad %@ no responde.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units answer as %@: %@.</source>
         <translation>Varias unidades responden como %@: %@.</translation>
     </message>
@@ -531,26 +534,31 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ es la dirección de este mismo equipo.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is the address of a whole network.</source>
         <translation>%@ es la dirección de una red entera.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ lies in no network of the interface.</source>
         <translation>%@ no está en ninguna red de la interfaz.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrumpido.</translation>
     </message>
@@ -572,6 +580,7 @@
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Varias unidades tienen la dirección %@: %@.</translation>
     </message>
@@ -602,6 +611,23 @@
         <translation>El sistema no indica ninguna interfaz de red.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>“%@” is the journal of a run that has ended. Name another file.</source>
+        <translation>«%@» es el diario de una ejecución terminada. Indique otro archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>No se pudo retirar de la caché ARP la entrada de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>El diario es «%@».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Escriba un texto o --clock, no ambos.</translation>
@@ -622,6 +648,17 @@
         <translation>La unidad %@ no ha respondido a la orden de opción.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Línea %d, %@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <source>Other lines that are not done: %d.</source>
+        <translation>Otras líneas sin realizar: %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>Name a unit. --everyone restores all that hear the command.</source>
         <translation>Nombre una unidad. --everyone restaura todas las que oigan la orden.</translation>
@@ -633,6 +670,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nobody can be asked here. Write --yes if this is meant.</source>
         <translation>Aquí no se puede preguntar a nadie. Escriba --yes si es lo que se quiere.</translation>
     </message>
@@ -659,6 +697,7 @@
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has not answered since the command.</source>
         <translation>La unidad %@ no ha respondido desde la orden.</translation>
     </message>
@@ -668,7 +707,29 @@
         <translation>La unidad %@ muestra los valores antiguos y no ha confirmado la orden.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/RevertCommand.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Ningún comando restablece %@ de la unidad %@: el valor era «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. %@</source>
+        <translation>«%@» se rechaza. %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. It has %d faults, the first one: %@</source>
+        <translation>«%@» se rechaza. Tiene %d errores, el primero: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>No se puede leer «%@»: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” is damaged.</source>
         <translation>«%@» está dañado.</translation>
     </message>
@@ -679,6 +740,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” has the format of another version of kxctl.</source>
         <translation>«%@» tiene el formato de otra versión de kxctl.</translation>
     </message>
@@ -686,11 +748,6 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>«%@» contiene una búsqueda que no pudo preguntar a nadie.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>No se puede leer «%@»: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -755,26 +812,31 @@
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ está ocupada por %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit shows %@ but does not answer ARP requests for it.</source>
         <translation>La unidad muestra %@, pero no responde a las peticiones ARP para ella.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
         <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has taken some of the values and not others.</source>
         <translation>La unidad %@ ha aceptado algunos de los valores y otros no.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows the old value.</source>
         <translation>La unidad %@ muestra el valor antiguo.</translation>
     </message>
@@ -785,13 +847,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Another unit answers with the same serial number.</source>
         <translation>Otra unidad responde con el mismo número de serie.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>No se pudo retirar de la caché ARP la entrada de %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
@@ -802,6 +860,41 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nombre unidades o escriba --all, no ambos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>No se ha podido averiguar si hay otra ejecución en curso: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Otra ejecución está cambiando unidades desde este equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Otra ejecución está cambiando unidades desde este equipo: proceso %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>%@ takes a number up to %d.</source>
+        <translation>%@ admite un número hasta %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Change %d units, %d parameters in all? (y/n)</source>
+        <translation>¿Cambiar %d unidades, %d parámetros en total? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Nothing was changed.</source>
+        <translation>No se ha cambiado nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>about %d s left</source>
+        <translation>quedan unos %d s</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1861,6 +1954,11 @@
         <translation>%d vuelven a responder.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
+        <source>“%@” is another kind of file than the one that is wanted.</source>
+        <translation>«%@» no es el tipo de archivo que se espera.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>«Aplicar» envía %@: %@.</translation>
@@ -2568,6 +2666,187 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <translation>No se envió: no se conoce la dirección de la unidad.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no name of a column.</source>
+        <translation>«%@» no es un nombre de columna.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” means the same as another column.</source>
+        <translation>«%@» significa lo mismo que otra columna.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” stands in a column without a name.</source>
+        <translation>«%@» está en una columna sin nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has text behind its closing quotation mark.</source>
+        <translation>«%@» tiene texto detrás de las comillas de cierre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins or ends with a blank.</source>
+        <translation>«%@» empieza o termina con un espacio.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a character that nobody sees.</source>
+        <translation>«%@» contiene un carácter invisible.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no serial number. Write six pairs of digits, such as 4B 58 00 00 00 01.</source>
+        <translation>«%@» no es un número de serie. Escriba seis pares de dígitos, como 4B 58 00 00 00 01.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a number that a spreadsheet has shortened.</source>
+        <translation>«%@» es un número que una hoja de cálculo ha acortado.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks digits: a spreadsheet has taken it for a number.</source>
+        <translation>A «%@» le faltan dígitos: una hoja de cálculo lo ha tomado por un número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks its dots: a spreadsheet has taken it for a number.</source>
+        <translation>A «%@» le faltan los puntos: una hoja de cálculo lo ha tomado por un número.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a date: a spreadsheet has taken the value for one.</source>
+        <translation>«%@» es una fecha: una hoja de cálculo ha tomado el valor por una.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has separators that a spreadsheet has put between digits.</source>
+        <translation>«%@» contiene separadores que una hoja de cálculo ha puesto entre los dígitos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has decimal places that a spreadsheet has added.</source>
+        <translation>«%@» tiene decimales que una hoja de cálculo ha añadido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a truth value: a spreadsheet has taken the value for one.</source>
+        <translation>«%@» es un valor lógico: una hoja de cálculo ha tomado el valor por uno.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a value that a spreadsheet had no room to show.</source>
+        <translation>«%@» es un valor para el que una hoja de cálculo no tenía espacio.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is an error of a spreadsheet.</source>
+        <translation>«%@» es un error de una hoja de cálculo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins with the mark of a text in a spreadsheet.</source>
+        <translation>«%@» empieza con la marca de texto de una hoja de cálculo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a blank of another kind.</source>
+        <translation>«%@» contiene un espacio de otro tipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d is about the same unit.</source>
+        <translation>La línea %d trata de la misma unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same serial number.</source>
+        <translation>La línea %d tiene el mismo número de serie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same address.</source>
+        <translation>La línea %d tiene la misma dirección.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same hardware address.</source>
+        <translation>La línea %d tiene la misma dirección de hardware.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is empty.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is in UTF-16. Save it as CSV in UTF-8.</source>
+        <translation>El archivo está en UTF-16. Guárdelo como CSV en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell is not in UTF-8. Save the file as CSV in UTF-8.</source>
+        <translation>La celda no está en UTF-8. Guarde el archivo como CSV en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A quotation mark is not closed.</source>
+        <translation>Unas comillas no están cerradas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line must name the columns: serial and parameters.</source>
+        <translation>La primera línea debe nombrar las columnas: serial y parámetros.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line names no column “serial”.</source>
+        <translation>La primera línea no nombra ninguna columna «serial».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has fewer cells than the first one.</source>
+        <translation>La línea tiene menos celdas que la primera.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has more cells than the first one.</source>
+        <translation>La línea tiene más celdas que la primera.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The serial number is missing.</source>
+        <translation>Falta el número de serie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell has nothing but blanks.</source>
+        <translation>La celda solo contiene espacios.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The value does not fit into a command.</source>
+        <translation>El valor no cabe en un comando.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A unit would get another value than “%@”. The window says of it: %@</source>
+        <translation>Una unidad recibiría otro valor que «%@». La ventana dice de él: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Type it again in a cell that is formatted as text.</source>
+        <translation>Escríbalo de nuevo en una celda con formato de texto.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d: %@</source>
+        <translation>Línea %d: %@</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Sender</source>
         <translation>Remitente</translation>
@@ -2616,6 +2895,61 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>The unit %@ has the address %@, too.</source>
         <translation>La unidad %@ tiene también la dirección %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d wants the same value: %@.</source>
+        <translation>La línea %d quiere el mismo valor: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell its hardware address, which a new address needs.</source>
+        <translation>La unidad %@ no indica su dirección de hardware, necesaria para una dirección nueva.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ is held by the unit %@.</source>
+        <translation>%@ está en uso por la unidad %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ changes hands in a ring: line %d must be done first, and waits for this one.</source>
+        <translation>%@ cambia de manos en círculo: la línea %d debe hacerse antes, y espera a esta.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ does not become free, because line %d is not done.</source>
+        <translation>%@ no queda libre, porque la línea %d no se ha hecho.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The plan is out of date: %@ was “%@” and is “%@” now.</source>
+        <translation>El plan está anticuado: %@ era «%@» y ahora es «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell whether it has taken %@.</source>
+        <translation>La unidad %@ no indica si ha tomado %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ shows another value: %@ is “%@”.</source>
+        <translation>La unidad %@ muestra otro valor: %@ es «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing was sent, because other lines are refused or silent.</source>
+        <translation>No se ha enviado nada, porque otras líneas se rechazan o no responden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing new was begun after line %d.</source>
+        <translation>Después de la línea %d no se ha empezado nada nuevo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The journal could not be written.</source>
+        <translation>No se ha podido escribir el diario.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -375,6 +375,7 @@
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>Impossible de savoir si %@ est occupée.</translation>
     </message>
@@ -461,11 +462,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ does not answer.</source>
         <translation>L’unité %@ ne répond pas.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units answer as %@: %@.</source>
         <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
     </message>
@@ -531,26 +534,31 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ est l’adresse de cet hôte lui-même.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is the address of a whole network.</source>
         <translation>%@ est l’adresse d’un réseau entier.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ lies in no network of the interface.</source>
         <translation>%@ ne se trouve dans aucun réseau de l’interface.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrompu.</translation>
     </message>
@@ -572,6 +580,7 @@
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>Plusieurs unités ont l’adresse %@ : %@.</translation>
     </message>
@@ -602,6 +611,23 @@
         <translation>Le système n’indique aucune interface réseau.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>“%@” is the journal of a run that has ended. Name another file.</source>
+        <translation>« %@ » est le journal d’une exécution terminée. Indiquez un autre fichier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>L’entrée pour %@ n’a pas pu être retirée du cache ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>Le journal est « %@ ».</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Écrivez un texte ou --clock, pas les deux.</translation>
@@ -622,6 +648,17 @@
         <translation>L’unité %@ n’a pas répondu à la commande d’option.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Ligne %d, %@ : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <source>Other lines that are not done: %d.</source>
+        <translation>Autres lignes non réalisées : %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>Name a unit. --everyone restores all that hear the command.</source>
         <translation>Nommez une unité. --everyone restaure toutes celles qui entendent la commande.</translation>
@@ -633,6 +670,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nobody can be asked here. Write --yes if this is meant.</source>
         <translation>Personne ne peut être interrogé ici. Écrivez --yes si c’est bien ce qui est voulu.</translation>
     </message>
@@ -659,6 +697,7 @@
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has not answered since the command.</source>
         <translation>L’unité %@ n’a pas répondu depuis la commande.</translation>
     </message>
@@ -668,7 +707,29 @@
         <translation>L’unité %@ affiche les anciennes valeurs et n’a pas confirmé la commande.</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/RevertCommand.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Aucune commande ne rétablit %@ de l’unité %@ : la valeur était « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. %@</source>
+        <translation>« %@ » est refusé. %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. It has %d faults, the first one: %@</source>
+        <translation>« %@ » est refusé. Il contient %d erreurs, la première : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>Impossible de lire « %@ » : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” is damaged.</source>
         <translation>« %@ » est endommagé.</translation>
     </message>
@@ -679,6 +740,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” has the format of another version of kxctl.</source>
         <translation>« %@ » a le format d’une autre version de kxctl.</translation>
     </message>
@@ -686,11 +748,6 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>« %@ » contient une détection qui n’a pu interroger personne.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>Impossible de lire « %@ » : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -755,26 +812,31 @@
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ est occupée par %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit shows %@ but does not answer ARP requests for it.</source>
         <translation>L’unité affiche %@ mais ne répond pas aux requêtes ARP pour cette adresse.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
         <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has taken some of the values and not others.</source>
         <translation>L’unité %@ a pris certaines des valeurs et pas d’autres.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows the old value.</source>
         <translation>L’unité %@ affiche l’ancienne valeur.</translation>
     </message>
@@ -785,13 +847,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Another unit answers with the same serial number.</source>
         <translation>Une autre unité répond avec le même numéro de série.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>L’entrée pour %@ n’a pas pu être retirée du cache ARP.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
@@ -802,6 +860,41 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nommez des unités ou écrivez --all, pas les deux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>Impossible de savoir si une autre exécution est en cours : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Une autre exécution modifie des unités depuis cet ordinateur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Une autre exécution modifie des unités depuis cet ordinateur : processus %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>%@ takes a number up to %d.</source>
+        <translation>%@ prend un nombre jusqu’à %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Change %d units, %d parameters in all? (y/n)</source>
+        <translation>Modifier %d unités, %d paramètres en tout ? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Nothing was changed.</source>
+        <translation>Rien n’a été modifié.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>about %d s left</source>
+        <translation>encore %d s environ</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1861,6 +1954,11 @@
         <translation>%d répondent de nouveau.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
+        <source>“%@” is another kind of file than the one that is wanted.</source>
+        <translation>« %@ » n’est pas le genre de fichier attendu.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>« Appliquer » envoie %@ : %@.</translation>
@@ -2568,6 +2666,187 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <translation>Non envoyé : l’adresse de l’unité n’est pas connue.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no name of a column.</source>
+        <translation>« %@ » n’est pas un nom de colonne.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” means the same as another column.</source>
+        <translation>« %@ » signifie la même chose qu’une autre colonne.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” stands in a column without a name.</source>
+        <translation>« %@ » se trouve dans une colonne sans nom.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has text behind its closing quotation mark.</source>
+        <translation>« %@ » a du texte après son guillemet fermant.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins or ends with a blank.</source>
+        <translation>« %@ » commence ou finit par une espace.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a character that nobody sees.</source>
+        <translation>« %@ » contient un caractère invisible.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no serial number. Write six pairs of digits, such as 4B 58 00 00 00 01.</source>
+        <translation>« %@ » n’est pas un numéro de série. Écrivez six paires de chiffres, comme 4B 58 00 00 00 01.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a number that a spreadsheet has shortened.</source>
+        <translation>« %@ » est un nombre qu’un tableur a raccourci.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks digits: a spreadsheet has taken it for a number.</source>
+        <translation>Il manque des chiffres à « %@ » : un tableur l’a pris pour un nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks its dots: a spreadsheet has taken it for a number.</source>
+        <translation>Il manque les points à « %@ » : un tableur l’a pris pour un nombre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a date: a spreadsheet has taken the value for one.</source>
+        <translation>« %@ » est une date : un tableur a pris la valeur pour une date.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has separators that a spreadsheet has put between digits.</source>
+        <translation>« %@ » contient des séparateurs qu’un tableur a mis entre les chiffres.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has decimal places that a spreadsheet has added.</source>
+        <translation>« %@ » a des décimales qu’un tableur a ajoutées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a truth value: a spreadsheet has taken the value for one.</source>
+        <translation>« %@ » est une valeur logique : un tableur a pris la valeur pour telle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a value that a spreadsheet had no room to show.</source>
+        <translation>« %@ » est une valeur qu’un tableur n’avait pas la place d’afficher.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is an error of a spreadsheet.</source>
+        <translation>« %@ » est une erreur d’un tableur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins with the mark of a text in a spreadsheet.</source>
+        <translation>« %@ » commence par la marque de texte d’un tableur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a blank of another kind.</source>
+        <translation>« %@ » contient une espace d’un autre type.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d is about the same unit.</source>
+        <translation>La ligne %d concerne la même unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same serial number.</source>
+        <translation>La ligne %d a le même numéro de série.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same address.</source>
+        <translation>La ligne %d a la même adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same hardware address.</source>
+        <translation>La ligne %d a la même adresse matérielle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is empty.</source>
+        <translation>Le fichier est vide.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is in UTF-16. Save it as CSV in UTF-8.</source>
+        <translation>Le fichier est en UTF-16. Enregistrez-le en CSV, en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell is not in UTF-8. Save the file as CSV in UTF-8.</source>
+        <translation>La cellule n’est pas en UTF-8. Enregistrez le fichier en CSV, en UTF-8.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A quotation mark is not closed.</source>
+        <translation>Un guillemet n’est pas fermé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line must name the columns: serial and parameters.</source>
+        <translation>La première ligne doit nommer les colonnes : serial et des paramètres.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line names no column “serial”.</source>
+        <translation>La première ligne ne nomme pas de colonne « serial ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has fewer cells than the first one.</source>
+        <translation>La ligne a moins de cellules que la première.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has more cells than the first one.</source>
+        <translation>La ligne a plus de cellules que la première.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The serial number is missing.</source>
+        <translation>Le numéro de série manque.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell has nothing but blanks.</source>
+        <translation>La cellule ne contient que des espaces.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The value does not fit into a command.</source>
+        <translation>La valeur ne tient pas dans une commande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A unit would get another value than “%@”. The window says of it: %@</source>
+        <translation>Une unité recevrait une autre valeur que « %@ ». La fenêtre en dit : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Type it again in a cell that is formatted as text.</source>
+        <translation>Saisissez-la de nouveau dans une cellule au format texte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d: %@</source>
+        <translation>Ligne %d : %@</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Sender</source>
         <translation>Émetteur</translation>
@@ -2616,6 +2895,61 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>The unit %@ has the address %@, too.</source>
         <translation>L’unité %@ a aussi l’adresse %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d wants the same value: %@.</source>
+        <translation>La ligne %d veut la même valeur : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell its hardware address, which a new address needs.</source>
+        <translation>L’unité %@ n’indique pas son adresse matérielle, nécessaire pour une nouvelle adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ is held by the unit %@.</source>
+        <translation>%@ est occupé par l’unité %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ changes hands in a ring: line %d must be done first, and waits for this one.</source>
+        <translation>%@ change de mains en cercle : la ligne %d doit être faite d’abord, et attend celle-ci.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ does not become free, because line %d is not done.</source>
+        <translation>%@ ne se libère pas, car la ligne %d n’est pas faite.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The plan is out of date: %@ was “%@” and is “%@” now.</source>
+        <translation>Le plan est périmé : %@ valait « %@ » et vaut maintenant « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell whether it has taken %@.</source>
+        <translation>L’unité %@ n’indique pas si elle a pris %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ shows another value: %@ is “%@”.</source>
+        <translation>L’unité %@ affiche une autre valeur : %@ est « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing was sent, because other lines are refused or silent.</source>
+        <translation>Rien n’a été envoyé, car d’autres lignes sont refusées ou sans réponse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing new was begun after line %d.</source>
+        <translation>Rien de nouveau n’a été commencé après la ligne %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The journal could not be written.</source>
+        <translation>Le journal n’a pas pu être écrit.</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

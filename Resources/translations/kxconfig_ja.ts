@@ -375,6 +375,7 @@
         <location filename="../../Sources/commands/CheckCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Whether somebody holds %@ could not be found out.</source>
         <translation>%@ が使用中かどうかわかりませんでした。</translation>
     </message>
@@ -461,11 +462,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ does not answer.</source>
         <translation>ユニット %@ は応答しません。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units answer as %@: %@.</source>
         <translation>複数のユニットが %@ として応答しています: %@。</translation>
     </message>
@@ -531,26 +534,31 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ tells an address of many as its own: %@.</source>
         <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ はこのホスト自身のアドレスです。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is the address of a whole network.</source>
         <translation>%@ はネットワーク全体のアドレスです。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ lies in no network of the interface.</source>
         <translation>%@ はインターフェイスのどのネットワークにも属していません。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>中断しました。</translation>
     </message>
@@ -572,6 +580,7 @@
     <message>
         <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Several units have the address %@: %@.</source>
         <translation>複数のユニットがアドレス %@ を使っています: %@。</translation>
     </message>
@@ -602,6 +611,23 @@
         <translation>システムからネットワークインターフェイスの情報が得られません。</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>“%@” is the journal of a run that has ended. Name another file.</source>
+        <translation>「%@」は終了した実行のジャーナルです。別のファイルを指定してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>%@ の登録を ARP キャッシュから取り除けませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>ジャーナルは「%@」です。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>テキストと --clock はどちらか一方だけを書いてください。</translation>
@@ -622,6 +648,17 @@
         <translation>ユニット %@ はオプションコマンドに応答しませんでした。</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>%d 行目、%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <source>Other lines that are not done: %d.</source>
+        <translation>完了していない他の行: %d。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <source>Name a unit. --everyone restores all that hear the command.</source>
         <translation>ユニットを指定してください。--everyone は、コマンドを受け取るすべてのユニットを復元します。</translation>
@@ -633,6 +670,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nobody can be asked here. Write --yes if this is meant.</source>
         <translation>ここでは確認を求められません。本当に実行する場合は --yes を書いてください。</translation>
     </message>
@@ -659,6 +697,7 @@
     <message>
         <location filename="../../Sources/commands/RestoreCommand.cpp"/>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has not answered since the command.</source>
         <translation>ユニット %@ はコマンドの後に応答していません。</translation>
     </message>
@@ -668,7 +707,29 @@
         <translation>ユニット %@ は以前の値のままで、コマンドの確認応答もありません。</translation>
     </message>
     <message>
+        <location filename="../../Sources/commands/RevertCommand.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>%@ を元に戻すコマンドはありません (ユニット %@)。以前の値は「%@」です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. %@</source>
+        <translation>「%@」は拒否されました。%@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
+        <source>“%@” is refused. It has %d faults, the first one: %@</source>
+        <translation>「%@」は拒否されました。誤りが %d 件あります。最初の誤り: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/RowsFile.cpp"/>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>「%@」を読み取れません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” is damaged.</source>
         <translation>「%@」は壊れています。</translation>
     </message>
@@ -679,6 +740,7 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
         <source>“%@” has the format of another version of kxctl.</source>
         <translation>「%@」は別の版の kxctl の形式です。</translation>
     </message>
@@ -686,11 +748,6 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>「%@」は、どこにも問い合わせられなかった検出です。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>「%@」を読み取れません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -755,26 +812,31 @@
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is held by %@.</source>
         <translation>%@ は %@ が使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit shows %@ but does not answer ARP requests for it.</source>
         <translation>ユニットは %@ を示していますが、その ARP 要求に応答しません。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
         <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ has taken some of the values and not others.</source>
         <translation>ユニット %@ は一部の値だけを受け入れました。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The unit %@ shows the old value.</source>
         <translation>ユニット %@ は以前の値のままです。</translation>
     </message>
@@ -785,13 +847,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Another unit answers with the same serial number.</source>
         <translation>別のユニットが同じシリアル番号で応答しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>%@ の登録を ARP キャッシュから取り除けませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
@@ -802,6 +860,41 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>ユニットの指定と --all はどちらか一方だけを書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>別の実行が進行中かどうかを確認できませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>このコンピューターから別の実行がユニットを変更しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>このコンピューターから別の実行がユニットを変更しています: プロセス %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>%@ takes a number up to %d.</source>
+        <translation>%@ の値は %d までの数です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Change %d units, %d parameters in all? (y/n)</source>
+        <translation>%d 台のユニット、合計 %d 個のパラメーターを変更しますか? (y/n)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>Nothing was changed.</source>
+        <translation>何も変更されていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/TableRun.cpp"/>
+        <source>about %d s left</source>
+        <translation>残り約 %d 秒</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1861,6 +1954,11 @@
         <translation>%d 台が再び応答しました。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/DocumentFaultText.cpp"/>
+        <source>“%@” is another kind of file than the one that is wanted.</source>
+        <translation>「%@」は必要な種類のファイルではありません。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@: %@.</source>
         <translation>「適用」を押すと %@ を送信します: %@。</translation>
@@ -2568,6 +2666,187 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>送信しませんでした: ユニットのアドレスがわかりません。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no name of a column.</source>
+        <translation>「%@」は列の名前ではありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” means the same as another column.</source>
+        <translation>「%@」は別の列と同じ意味です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” stands in a column without a name.</source>
+        <translation>「%@」は名前のない列にあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has text behind its closing quotation mark.</source>
+        <translation>「%@」は閉じる引用符の後に文字があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins or ends with a blank.</source>
+        <translation>「%@」は先頭または末尾に空白があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a character that nobody sees.</source>
+        <translation>「%@」には見えない文字があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is no serial number. Write six pairs of digits, such as 4B 58 00 00 00 01.</source>
+        <translation>「%@」はシリアル番号ではありません。4B 58 00 00 00 01 のような 6 組の数字を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a number that a spreadsheet has shortened.</source>
+        <translation>「%@」は表計算ソフトが短縮した数です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks digits: a spreadsheet has taken it for a number.</source>
+        <translation>「%@」は桁が足りません。表計算ソフトが数とみなしました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” lacks its dots: a spreadsheet has taken it for a number.</source>
+        <translation>「%@」はピリオドが欠けています。表計算ソフトが数とみなしました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a date: a spreadsheet has taken the value for one.</source>
+        <translation>「%@」は日付です。表計算ソフトが値を日付とみなしました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has separators that a spreadsheet has put between digits.</source>
+        <translation>「%@」には表計算ソフトが数字の間に入れた区切りがあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has decimal places that a spreadsheet has added.</source>
+        <translation>「%@」には表計算ソフトが加えた小数点以下の桁があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a truth value: a spreadsheet has taken the value for one.</source>
+        <translation>「%@」は真偽値です。表計算ソフトが値を真偽値とみなしました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is a value that a spreadsheet had no room to show.</source>
+        <translation>「%@」は表計算ソフトで幅が足りず表示できなかった値です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” is an error of a spreadsheet.</source>
+        <translation>「%@」は表計算ソフトのエラーです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” begins with the mark of a text in a spreadsheet.</source>
+        <translation>「%@」は表計算ソフトで文字列を示す記号で始まっています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>“%@” has a blank of another kind.</source>
+        <translation>「%@」には別の種類の空白があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d is about the same unit.</source>
+        <translation>%d 行目は同じユニットについての行です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same serial number.</source>
+        <translation>%d 行目に同じシリアル番号があります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same address.</source>
+        <translation>%d 行目に同じアドレスがあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d has the same hardware address.</source>
+        <translation>%d 行目に同じハードウェアアドレスがあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is empty.</source>
+        <translation>ファイルは空です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The file is in UTF-16. Save it as CSV in UTF-8.</source>
+        <translation>ファイルは UTF-16 です。UTF-8 の CSV として保存してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell is not in UTF-8. Save the file as CSV in UTF-8.</source>
+        <translation>セルは UTF-8 ではありません。ファイルを UTF-8 の CSV として保存してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A quotation mark is not closed.</source>
+        <translation>引用符が閉じられていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line must name the columns: serial and parameters.</source>
+        <translation>最初の行には列の名前が必要です: serial とパラメーター。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The first line names no column “serial”.</source>
+        <translation>最初の行に列「serial」がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has fewer cells than the first one.</source>
+        <translation>この行のセルは最初の行より少なくなっています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The line has more cells than the first one.</source>
+        <translation>この行のセルは最初の行より多くなっています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The serial number is missing.</source>
+        <translation>シリアル番号がありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The cell has nothing but blanks.</source>
+        <translation>セルには空白しかありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>The value does not fit into a command.</source>
+        <translation>値がコマンドに収まりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>A unit would get another value than “%@”. The window says of it: %@</source>
+        <translation>ユニットには「%@」とは別の値が設定されます。ウィンドウは次のように示します: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Type it again in a cell that is formatted as text.</source>
+        <translation>文字列の書式にしたセルに入力し直してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d: %@</source>
+        <translation>%d 行目: %@</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Sender</source>
         <translation>送信元</translation>
@@ -2616,6 +2895,61 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>The unit %@ has the address %@, too.</source>
         <translation>ユニット %@ もアドレス %@ を使っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Line %d wants the same value: %@.</source>
+        <translation>%d 行目も同じ値を指定しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell its hardware address, which a new address needs.</source>
+        <translation>ユニット %@ は、新しいアドレスに必要なハードウェアアドレスを通知していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ is held by the unit %@.</source>
+        <translation>%@ はユニット %@ が使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ changes hands in a ring: line %d must be done first, and waits for this one.</source>
+        <translation>%@ の受け渡しが循環しています。%d 行目を先に行う必要がありますが、その行はこの行を待っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>%@ does not become free, because line %d is not done.</source>
+        <translation>%@ は空きになりません。%d 行目が完了していないためです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The plan is out of date: %@ was “%@” and is “%@” now.</source>
+        <translation>計画が古くなっています: %@ は「%@」でしたが、今は「%@」です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not tell whether it has taken %@.</source>
+        <translation>ユニット %@ は %@ を反映したかどうかを通知していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ shows another value: %@ is “%@”.</source>
+        <translation>ユニット %@ は別の値を示しています: %@ は「%@」です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing was sent, because other lines are refused or silent.</source>
+        <translation>他の行が拒否されたか応答がないため、何も送信していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Nothing new was begun after line %d.</source>
+        <translation>%d 行目の後は新しく始めていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The journal could not be written.</source>
+        <translation>ジャーナルを書き込めませんでした。</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>
