@@ -47,6 +47,17 @@ std::array<std::size_t, rowStateCount> UnitPlan::sums() const {
     return counts;
 }
 
+std::size_t UnitPlan::plannedChanges() const {
+    std::size_t count = 0;
+    for (const PlannedRow& row : rows) {
+        if (row.state == RowState::planned) {
+            count += static_cast<std::size_t>(
+                std::ranges::count(row.changes, ChangeState::planned, &UnitChange::state));
+        }
+    }
+    return count;
+}
+
 bool UnitPlan::hasObjections() const {
     return std::ranges::any_of(rows, [](const PlannedRow& row) {
         return row.state == RowState::refused || row.state == RowState::silent;

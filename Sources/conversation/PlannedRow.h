@@ -116,6 +116,9 @@ struct UnitPlan {
 
     // A row is refused or silent.
     bool hasObjections() const;
+
+    // The number of changes that planned rows ask for.
+    std::size_t plannedChanges() const;
 };
 
 // Ends a row. Its changes that were not sent are refused.

@@ -173,4 +173,39 @@ std::string reasonOfRow(const PlannedRow& row) {
     return reason;
 }
 
+std::string sentenceOfLock(const RunLockRefusal& refusal) {
+    if (refusal.error.has_value()) {
+        return localizedText("Whether another run is under way could not be found out: %@.",
+                             {refusal.error->localizedDescription()});
+    }
+    return refusal.holder == 0
+               ? localizedText("Another run changes units from this host.")
+               : localizedText("Another run changes units from this host: process %d.",
+                               {static_cast<int>(refusal.holder)});
+}
+
+std::string sentenceOfLostValue(const LostValue& lost) {
+    return localizedText("No command brings %@ of the unit %@ back: it was “%@”.",
+                         {descriptionOf(lost.parameter).identifier, lost.serialNumber,
+                          safeForSentence(lost.value.value_or(""))});
+}
+
+std::string sentenceOfLeftEntry(const std::string& address) {
+    return localizedText("The entry for %@ could not be taken out of the ARP cache again.",
+                         {address});
+}
+
+std::string textOfTimeLeft(std::chrono::milliseconds passed, std::size_t ended, std::size_t total) {
+    constexpr long long secondsOfMinute = 60;
+    constexpr long long mostSeconds = 90;
+    if (ended == 0 || ended >= total) {
+        return {};
+    }
+    const long long left = 1 + passed.count() * static_cast<long long>(total - ended) /
+                                   static_cast<long long>(ended) / 1000;
+    return left <= mostSeconds ? localizedText("about %d s left", {left})
+                               : localizedText("about %d min left",
+                                               {(left + secondsOfMinute / 2) / secondsOfMinute});
+}
+
 } // namespace kx
