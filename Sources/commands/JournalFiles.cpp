@@ -1,19 +1,17 @@
 #include "commands/JournalFiles.h"
 
-#include "commands/RowsFile.h"
 #include "conversation/BindingRelease.h"
 #include "conversation/RunHistory.h"
 #include "files/WholeFile.h"
 #include "support/LocalizedText.h"
-#include "words/DocumentFaultText.h"
 #include "words/QuotedText.h"
+#include "words/TableFileText.h"
+#include "words/UnitPlanText.h"
 
 #include <sys/stat.h>
 
 #include <algorithm>
-#include <array>
-#include <ctime>
-#include <filesystem>
+#include <chrono>
 #include <utility>
 
 namespace kx {
@@ -22,42 +20,15 @@ namespace {
 
 using Refusal = CommandRun::Refusal;
 
-constexpr std::string_view beginningOfName = "kxctl-journal-";
-constexpr std::string_view endOfName = ".jsonl";
-
-std::string newPath(const CommandRun& run) {
-    const std::tm time = run.services().wallClock.localTime();
-    std::array<char, 32> digits{};
-    std::strftime(digits.data(), digits.size(), "%Y%m%d-%H%M%S", &time);
-    const std::string name = std::string(beginningOfName) + digits.data();
-    std::string path = name + std::string(endOfName);
-    std::error_code none;
-    for (int number = 2; std::filesystem::exists(path, none); ++number) {
-        path = name + '-' + std::to_string(number) + std::string(endOfName);
-    }
-    return path;
-}
-
 // A path is shown longer than a value, because it is looked for afterwards.
 constexpr std::size_t mostOfPath = 200;
-
-// The time as files have it: UTC, to the second.
-std::string timeOf(std::chrono::microseconds sinceEpoch) {
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(sinceEpoch).count();
-    const auto moment = static_cast<std::time_t>(seconds);
-    std::tm time{};
-    ::gmtime_r(&moment, &time);
-    std::array<char, 32> text{};
-    std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%SZ", &time);
-    return text.data();
-}
 
 bool isFilled(const std::string& path) {
     struct stat status {};
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode) && status.st_size > 0;
 }
 
-Refusal objectionToEnded(const FoundJournal& found) {
+Refusal objectionToEnded(const KeptJournal& found) {
     return found.journal.hasEnded
                ? Refusal(failureOf(ErrorCode::file,
                                    localizedText("“%@” is the journal of a run that has ended. "
@@ -66,13 +37,8 @@ Refusal objectionToEnded(const FoundJournal& found) {
                : std::nullopt;
 }
 
-// Without the part of a line at the end, whose command was never sent.
-std::string_view wholeLinesOf(std::string_view text) {
-    return text.substr(0, text.rfind('\n') + 1);
-}
-
 // A journal that cannot be written keeps the entries; they are looked for again next time.
-void takeOutEntriesOf(CommandRun& run, const FoundJournal& found) {
+void takeOutEntriesOf(CommandRun& run, const KeptJournal& found) {
     std::vector<JournalledBinding> left = bindingsLeft(found.journal.entries);
     if (left.empty()) {
         return;
@@ -84,67 +50,48 @@ void takeOutEntriesOf(CommandRun& run, const FoundJournal& found) {
     JournalLines lines(found.journal.entries.size());
     JournalFile file(run.services().session.runLoop,
                      [&lines](const JournalEntry& entry) { return lines.entry(entry); });
-    const bool isNoted =
-        !found.journal.hasEnded && !file.begin(found.path, wholeLinesOf(found.text)).has_value();
+    const bool isNoted = !found.journal.hasEnded &&
+                         !file.begin(found.path, wholeLinesOfJournal(found.text)).has_value();
     BindingRelease release({.bindings = run.services().bindings,
                             .neighbours = run.services().neighbours,
                             .journal = isNoted ? &file : nullptr},
                            std::move(links), std::move(left));
     run.wait(release);
     for (const BindingRelease::Failure& failure : release.failures()) {
-        run.warn("arp-entry", localizedText("The entry for %@ could not be taken out of the ARP "
-                                            "cache again.",
-                                            {failure.binding.address}));
+        run.warn("arp-entry", sentenceOfLeftEntry(failure.binding.address));
     }
 }
 
 } // namespace
 
-Refusal readJournalFile(const std::string& path, FoundJournal& found) {
-    found.path = path;
-    if (auto refusal = readWholeFile(path, found.text)) {
-        return refusal;
+Refusal readJournalFile(const std::string& path, KeptJournal& found) {
+    auto read = readKeptJournal(path);
+    if (const auto* const fault = std::get_if<JournalFileFault>(&read)) {
+        return failureOf(ErrorCode::file, sentenceOfFileFault(*fault, path));
     }
-    auto read = readJournal(found.text);
-    if (const auto* const fault = std::get_if<JournalFault>(&read)) {
-        return failureOf(ErrorCode::file, textOfDocumentFault(fault->fault, path));
-    }
-    found.journal = std::get<Journal>(std::move(read));
+    found = std::get<KeptJournal>(std::move(read));
     return std::nullopt;
 }
 
-std::vector<FoundJournal> journalsLeft(const std::string& path) {
-    std::vector<std::string> paths;
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(".", error)) {
-        const std::string name = entry.path().filename().string();
-        if (name.starts_with(beginningOfName) && name.ends_with(endOfName) && name != path) {
-            paths.push_back(name);
-        }
-    }
-    std::ranges::sort(paths);
-    if (!path.empty()) {
-        paths.push_back(path);
-    }
-    std::vector<FoundJournal> journals;
-    for (const std::string& each : paths) {
-        FoundJournal found;
-        if (isFilled(each) && !readJournalFile(each, found).has_value()) {
-            journals.push_back(std::move(found));
-        }
+std::vector<KeptJournal> journalsLeft(const std::string& path) {
+    std::vector<KeptJournal> journals = journalsIn("");
+    std::erase_if(journals, [&path](const KeptJournal& kept) { return kept.path == path; });
+    KeptJournal named;
+    if (isFilled(path) && !readJournalFile(path, named).has_value()) {
+        journals.push_back(std::move(named));
     }
     return journals;
 }
 
-void takeOutLeftEntries(CommandRun& run, const std::vector<FoundJournal>& journals) {
-    for (const FoundJournal& found : journals) {
+void takeOutLeftEntries(CommandRun& run, const std::vector<KeptJournal>& journals) {
+    for (const KeptJournal& found : journals) {
         takeOutEntriesOf(run, found);
     }
 }
 
 void takeOutLeftEntriesBetweenRuns(CommandRun& run) {
-    const std::vector<FoundJournal> journals = journalsLeft();
-    const bool isAnyLeft = std::ranges::any_of(journals, [](const FoundJournal& found) {
+    const std::vector<KeptJournal> journals = journalsLeft();
+    const bool isAnyLeft = std::ranges::any_of(journals, [](const KeptJournal& found) {
         return !bindingsLeft(found.journal.entries).empty();
     });
     if (isAnyLeft) {
@@ -157,7 +104,7 @@ void takeOutLeftEntriesBetweenRuns(CommandRun& run) {
 
 NewJournal::NewJournal(CommandRun& run, const std::optional<std::string>& path)
     : _run(run)
-    , _path(path.has_value() ? *path : newPath(run)) {}
+    , _path(path.has_value() ? *path : newJournalPath("", run.services().wallClock.localTime())) {}
 
 Refusal NewJournal::look() {
     if (const auto error = objectionToReplacing(_path)) {
@@ -166,7 +113,7 @@ Refusal NewJournal::look() {
     if (!isFilled(_path)) {
         return std::nullopt;
     }
-    FoundJournal found;
+    KeptJournal found;
     auto refusal = readJournalFile(_path, found);
     return refusal.has_value() ? std::move(refusal) : objectionToEnded(found);
 }
@@ -174,11 +121,13 @@ Refusal NewJournal::look() {
 // The file was looked at. It is read again, because entries of the ARP cache that are gone have
 // been noted in it meanwhile.
 std::optional<Error> NewJournal::begin() {
-    std::string text =
-        JournalLines::head({.started = timeOf(_run.services().utc()), .source = _source});
-    FoundJournal found;
+    std::string text = JournalLines::head(
+        {.started =
+             timeOfJournal(std::chrono::duration_cast<std::chrono::seconds>(_run.services().utc())),
+         .source = _source});
+    KeptJournal found;
     if (isFilled(_path) && !readJournalFile(_path, found).has_value()) {
-        text = wholeLinesOf(found.text);
+        text = wholeLinesOfJournal(found.text);
         _lines = JournalLines(found.journal.entries.size());
     }
     _file = std::make_unique<JournalFile>(

@@ -10,7 +10,7 @@
 
 #include "commands/CommandRun.h"
 #include "files/JournalFile.h"
-#include "files/JournalText.h"
+#include "files/JournalFolder.h"
 
 #include <memory>
 #include <optional>
@@ -19,24 +19,17 @@
 
 namespace kx {
 
-// A journal that is there.
-struct FoundJournal {
-    std::string path;
-    std::string text;
-    Journal journal;
-};
-
 // Reads a journal, or says why it is none.
-CommandRun::Refusal readJournalFile(const std::string& path, FoundJournal& found);
+CommandRun::Refusal readJournalFile(const std::string& path, KeptJournal& found);
 
 // The journals of the current folder that kxctl has named itself, the oldest first, and the one at
 // `path` where that is another one. What cannot be read is passed over.
-std::vector<FoundJournal> journalsLeft(const std::string& path = {});
+std::vector<KeptJournal> journalsLeft(const std::string& path = {});
 
 // Takes out the entries of the ARP cache that the journals name and that are still there, and notes
 // in the journals that they are gone. Warns of an entry that stays. The interfaces must be chosen,
 // and this process must have the lock of runs: the entries of a run that is under way are its own.
-void takeOutLeftEntries(CommandRun& run, const std::vector<FoundJournal>& journals);
+void takeOutLeftEntries(CommandRun& run, const std::vector<KeptJournal>& journals);
 
 // The same for a command that is no run, with the journals of the current folder. Does nothing
 // while a run is under way.

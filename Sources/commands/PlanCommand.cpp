@@ -17,7 +17,7 @@ namespace {
 using Refusal = CommandRun::Refusal;
 
 struct PlanFiles {
-    RowsFile rows;
+    TableFile rows;
     std::unique_ptr<OutputFile> kept; // null when the plan is not kept
 };
 

@@ -194,15 +194,6 @@ std::string lineOfSums(const UnitPlan& plan, PlanStage stage) {
     return line + '\n';
 }
 
-std::vector<ReportedRow> reportedRows(const UnitPlan& plan) {
-    std::vector<ReportedRow> rows;
-    rows.reserve(plan.rows.size());
-    for (const PlannedRow& row : plan.rows) {
-        rows.push_back({row.line, std::string(nameOfState(row.state)), reasonOfRow(row)});
-    }
-    return rows;
-}
-
 std::optional<Failure> failureOfRows(const UnitPlan& plan) {
     const PlannedRow* worst = nullptr;
     long long others = -1;

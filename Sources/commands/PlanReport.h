@@ -9,7 +9,6 @@
 #include "commands/ExitStatus.h"
 #include "conversation/UnitPlan.h"
 #include "files/UnitJSON.h"
-#include "files/UnitTableReport.h"
 
 #include <optional>
 #include <string>
@@ -33,9 +32,6 @@ std::string tableOfRows(const UnitPlan& plan, bool isBold);
 
 // For example "2 to change, 1 unchanged, 0 refused, 0 silent" and a line break.
 std::string lineOfSums(const UnitPlan& plan, PlanStage stage);
-
-// The rows as a report has them.
-std::vector<ReportedRow> reportedRows(const UnitPlan& plan);
 
 // Why the command has not done as asked, with the heaviest exit status of all rows; absent when
 // every row is planned, unchanged or done.

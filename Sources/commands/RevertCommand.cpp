@@ -4,8 +4,7 @@
 #include "commands/JournalFiles.h"
 #include "commands/TableRun.h"
 #include "conversation/RunHistory.h"
-#include "support/LocalizedText.h"
-#include "words/QuotedText.h"
+#include "words/UnitPlanText.h"
 
 #include <utility>
 
@@ -15,23 +14,16 @@ namespace {
 
 using Refusal = CommandRun::Refusal;
 
-void warnOfLostValue(CommandRun& run, const LostValue& lost) {
-    run.warn("lost", localizedText("No command brings %@ of the unit %@ back: it was “%@”.",
-                                   {descriptionOf(lost.parameter).identifier, lost.serialNumber,
-                                    safeForSentence(lost.value.value_or(""))}));
-}
-
-Refusal readRows(CommandRun& run, RowsFile& file) {
-    FoundJournal found;
+Refusal readRows(CommandRun& run, TableFile& file) {
+    KeptJournal found;
     if (auto refusal = readJournalFile(run.line().words.front(), found)) {
         return refusal;
     }
     RevertedRows reverted = revertedRows(found.journal.entries);
     for (const LostValue& lost : reverted.lost) {
-        warnOfLostValue(run, lost);
+        run.warn("lost", sentenceOfLostValue(lost));
     }
-    file = fileOfRows(std::move(reverted.rows));
-    file.source = found.path;
+    file = tableFileOfRows(std::move(reverted.rows), found.path);
     return std::nullopt;
 }
 

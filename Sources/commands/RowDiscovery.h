@@ -1,5 +1,4 @@
-// Finds the units of a plan, and who holds the addresses that they take: everybody is asked, and a
-// unit that has not answered then is asked at the last address that is known of it.
+// Finds the units of a plan (conversation/RowSearch.h), and who holds the addresses that they take.
 //
 // Main thread only.
 
@@ -12,9 +11,8 @@
 
 namespace kx {
 
-// `heard` gets every unit that has answered, also those of no row. Where rows change what units are
-// known by, the units of no row have their whole time to answer, because they may hold what a row
-// takes. The refusal says why nobody could be asked, or that a signal came.
+// `heard` gets every unit that has answered, also those of no row. The refusal says why nobody
+// could be asked.
 CommandRun::Refusal findUnitsOfRows(CommandRun& run, std::span<const WantedRow> rows,
                                     HeardUnits& heard);
 

@@ -1,12 +1,10 @@
 #include "commands/RowsFile.h"
 
 #include "commands/PlanReport.h"
-#include "files/KeptPlan.h"
-#include "files/WholeFile.h"
 #include "support/LocalizedText.h"
-#include "words/DocumentFaultText.h"
 #include "words/QuotedText.h"
 #include "words/TableComplaintText.h"
+#include "words/TableFileText.h"
 
 #include <utility>
 
@@ -15,8 +13,6 @@ namespace kx {
 namespace {
 
 using Refusal = CommandRun::Refusal;
-
-constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
 
 // A cell is a value; everything else is about the file.
 ErrorCode codeOf(const TableComplaint& complaint) {
@@ -46,56 +42,18 @@ Refusal refusalOfTable(CommandRun& run, const std::string& path,
 
 } // namespace
 
-Refusal readWholeFile(const std::string& path, std::string& contents) {
-    auto read = contentsOfFile(path, mostBytes);
-    if (const auto* const error = std::get_if<Error>(&read)) {
-        return failureOf(ErrorCode::file,
-                         localizedText("“%@” cannot be read: %@.",
-                                       {safeForSentence(path), error->localizedDescription()}));
+Refusal readRowsFile(CommandRun& run, const std::string& path, TableFile& file) {
+    auto read = readTableFile(path);
+    if (const auto* const fault = std::get_if<TableFileFault>(&read)) {
+        return failureOf(ErrorCode::file, sentenceOfFileFault(*fault, path));
     }
-    contents = std::get<std::string>(std::move(read));
-    return std::nullopt;
-}
-
-RowsFile fileOfRows(std::vector<WantedRow> rows) {
-    UnitTable table = unitTableOfRows(rows);
-    return {.rows = std::move(rows), .table = std::move(table), .isTable = false};
-}
-
-Refusal readRowsFile(CommandRun& run, const std::string& path, RowsFile& file) {
-    std::string contents;
-    if (auto refusal = readWholeFile(path, contents)) {
-        return refusal;
-    }
-    file.source = path;
-    if (looksLikeKeptPlan(contents)) {
-        auto plan = readKeptPlan(contents);
-        if (const auto* const fault = std::get_if<DocumentFault>(&plan)) {
-            return failureOf(ErrorCode::file, textOfDocumentFault(*fault, path));
-        }
-        file.table = std::get<UnitTable>(std::move(plan));
-    } else {
-        file.table = readUnitTable(contents);
-        file.text = std::move(contents);
-    }
-    file.rows = std::exchange(file.table.rows, {});
+    file = std::get<TableFile>(std::move(read));
     return refusalOfTable(run, path, file.table.complaints);
 }
 
 Refusal objectionToRows(const CommandRun& run, std::span<const WantedRow> rows) {
     return failureInTable(planOfRows({rows.begin(), rows.end()}, HeardUnits(),
                                      {.interfaces = run.interfaces(), .asked = run.chosen()}));
-}
-
-std::string reportOf(const RowsFile& file, const UnitPlan& plan) {
-    std::vector<ReportedRow> rows = reportedRows(plan);
-    if (!file.isTable) {
-        std::size_t line = 2; // behind the header
-        for (ReportedRow& row : rows) {
-            row.line = line++;
-        }
-    }
-    return reportOfTable(file.table, rows);
 }
 
 } // namespace kx

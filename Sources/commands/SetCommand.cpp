@@ -15,6 +15,7 @@
 #include "words/EditOutcomeText.h"
 #include "words/QuotedText.h"
 #include "words/SendFailureText.h"
+#include "words/UnitPlanText.h"
 
 #include <algorithm>
 #include <iterator>
@@ -229,9 +230,7 @@ int edit(CommandRun& run, const HeardUnit& unit, std::vector<UnitChange> changes
     });
     report(run, serial, edits.changes());
     if (edits.move() != nullptr && edits.move()->isStillBound()) {
-        run.warn("arp-entry", localizedText("The entry for %@ could not be taken out of the ARP "
-                                            "cache again.",
-                                            {stringForIP(edits.move()->holders().address)}));
+        run.warn("arp-entry", sentenceOfLeftEntry(stringForIP(edits.move()->holders().address)));
     }
     return run.finish(failureOfEdits(edits));
 }

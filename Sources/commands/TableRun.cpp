@@ -3,10 +3,12 @@
 #include "commands/JournalFiles.h"
 #include "commands/PlanReport.h"
 #include "commands/RowDiscovery.h"
+#include "commands/RowsFile.h"
 #include "conversation/PlanRun.h"
 #include "conversation/RunHistory.h"
 #include "support/LocalizedText.h"
-#include "words/QuotedText.h"
+#include "words/PlanCells.h"
+#include "words/UnitPlanText.h"
 
 #include <algorithm>
 #include <utility>
@@ -22,17 +24,8 @@ using Refusal = CommandRun::Refusal;
 constexpr std::int32_t mostInFlight = 256;
 
 Refusal busy(const RunLockRefusal& refusal) {
-    if (refusal.error.has_value()) {
-        return failureOf(ErrorCode::socket,
-                         localizedText("Whether another run is under way could not be found out: "
-                                       "%@.",
-                                       {refusal.error->localizedDescription()}));
-    }
-    return failureOf(ErrorCode::busy,
-                     refusal.holder == 0
-                         ? localizedText("Another run changes units from this host.")
-                         : localizedText("Another run changes units from this host: process %d.",
-                                         {static_cast<int>(refusal.holder)}));
+    return failureOf(refusal.error.has_value() ? ErrorCode::socket : ErrorCode::busy,
+                     sentenceOfLock(refusal));
 }
 
 // From the rows of a file to the report on what became of them.
@@ -57,12 +50,12 @@ private:
     Refusal writeReport();
 
     CommandRun& _run;
-    RowsFile _file;
+    TableFile _file;
     PlanRun::Options _options;
     std::unique_ptr<OutputFile> _report; // null without one
     NewJournal _journal;
     std::unique_ptr<HeldRunLock> _lock;
-    std::vector<FoundJournal> _before;
+    std::vector<KeptJournal> _before;
     UnitPlan _plan;
 };
 
@@ -119,7 +112,7 @@ void endInterruptedSearch(UnitPlan& plan) {
 Refusal TableRun::plan() {
     _before = journalsLeft(_journal.path());
     takeOutLeftEntries(_run, _before);
-    for (const FoundJournal& found : _before) {
+    for (const KeptJournal& found : _before) {
         _file.rows = resumedRows(std::move(_file.rows), found.journal.entries);
     }
     _before.clear();
@@ -142,17 +135,6 @@ void TableRun::leaveUntouchedIfRefused() {
     }
 }
 
-std::size_t plannedChanges(const UnitPlan& plan) {
-    std::size_t count = 0;
-    for (const PlannedRow& row : plan.rows) {
-        if (row.state == RowState::planned) {
-            count += static_cast<std::size_t>(
-                std::ranges::count(row.changes, ChangeState::planned, &UnitChange::state));
-        }
-    }
-    return count;
-}
-
 // A person who is asked sees before that which addresses are held. The run looks again.
 Refusal TableRun::ask() {
     if (_plan.sum(RowState::planned) == 0 || _run.line().has("--yes")) {
@@ -166,7 +148,7 @@ Refusal TableRun::ask() {
     const std::string question =
         localizedText("Change %d units, %d parameters in all? (y/n)",
                       {static_cast<long long>(_plan.sum(RowState::planned)),
-                       static_cast<long long>(plannedChanges(_plan))});
+                       static_cast<long long>(_plan.plannedChanges())});
     const auto answer =
         _run.ask(tableOfRows(_plan, false) + lineOfSums(_plan, PlanStage::planned) + question);
     if (answer == "y" || answer == "yes") {
@@ -176,21 +158,11 @@ Refusal TableRun::ask() {
     return Failure{ErrorCode::unchanged, localizedText("Nothing was changed."), exitNo};
 }
 
-// How long the rest takes when it goes on as before.
-std::string timeLeft(std::chrono::milliseconds passed, std::size_t ended, std::size_t total) {
-    if (ended == 0) {
-        return {};
-    }
-    const auto left =
-        passed * static_cast<long long>(total - ended) / static_cast<long long>(ended);
-    return "  " + localizedText("about %d s left", {1 + left.count() / 1000});
-}
-
 Refusal TableRun::carryOut() {
     if (_plan.sum(RowState::planned) == 0) {
         return std::nullopt;
     }
-    _journal.setSource(_file.source);
+    _journal.setSource(_file.path);
     const AddressMove::Services moveServices{
         .holders = {.neighbours = _run.services().neighbours, .probes = _run.services().probes},
         .bindings = _run.services().bindings};
@@ -202,7 +174,9 @@ Refusal TableRun::carryOut() {
             return std::to_string(carried.ended()) + '/' + std::to_string(carried.total());
         },
         [this, &carried, begun] {
-            return timeLeft(_run.services().now() - begun, carried.ended(), carried.total());
+            const std::string left =
+                textOfTimeLeft(_run.services().now() - begun, carried.ended(), carried.total());
+            return left.empty() ? left : "  " + left;
         });
     _plan = carried.plan();
     _journal.finish();
@@ -214,10 +188,7 @@ void TableRun::tellLeftEntries() {
         for (const UnitChange& change : row.changes) {
             if (row.isStillBound &&
                 change.edit.edit.parameter == UnitParameter::internalIPAddress) {
-                _run.warn("arp-entry",
-                          localizedText("The entry for %@ could not be taken out of the ARP cache "
-                                        "again.",
-                                        {change.to}));
+                _run.warn("arp-entry", sentenceOfLeftEntry(change.to));
             }
         }
     }
@@ -227,7 +198,7 @@ Refusal TableRun::writeReport() {
     if (_report == nullptr || _plan.rows.empty()) {
         return std::nullopt;
     }
-    const auto error = _report->replaceBy(reportOf(_file, _plan));
+    const auto error = _report->replaceBy(reportOfFile(_file, rowsOfReport(_plan)));
     return error.has_value()
                ? Refusal(Failure{ErrorCode::file, sentenceOfFile(_report->path(), *error),
                                  exitCannotAsk})

@@ -6,8 +6,8 @@
 #pragma once
 
 #include "commands/CommandRun.h"
-#include "commands/RowsFile.h"
 #include "conversation/RunJournal.h"
+#include "files/TableFile.h"
 
 #include <functional>
 #include <string>
@@ -16,7 +16,7 @@
 namespace kx {
 
 // Reads what the command has named. Nothing was sent yet.
-using RowsReader = std::function<CommandRun::Refusal(CommandRun& run, RowsFile& file)>;
+using RowsReader = std::function<CommandRun::Refusal(CommandRun& run, TableFile& file)>;
 
 // Runs the command to its end, and returns the exit status.
 int runTable(CommandRun& run, const RowsReader& readRows);

@@ -1,5 +1,7 @@
 #include "commands/PlanReport.h"
 
+#include "words/PlanCells.h"
+
 #include <gtest/gtest.h>
 
 namespace kx {
@@ -125,7 +127,7 @@ TEST(PlanReport, APlanAndARunHaveSumsOfTheirOwn) {
 }
 
 TEST(PlanReport, AReportHasEveryRowInTheOrderOfTheTable) {
-    const auto rows = reportedRows(
+    const auto rows = rowsOfReport(
         planWith({rowIn(RowState::done, 2),
                   rowIn(RowState::untouched, 3, {.objection = RowObjection::interrupted})}));
     ASSERT_EQ(rows.size(), 2U);

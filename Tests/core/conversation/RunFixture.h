@@ -12,6 +12,7 @@
 #include "units/IdentityText.h"
 
 #include <algorithm>
+#include <array>
 #include <map>
 #include <memory>
 #include <optional>
@@ -27,6 +28,8 @@ class RunTest : public ExchangeTest {
 protected:
     using Edits = std::vector<std::pair<UnitParameter, std::string>>;
     using States = std::vector<RowState>;
+
+    static constexpr std::uint32_t broadcastAddress = 0xC0A8FFFFU; // 192.168.255.255
 
     RunTest() {
         systemCalls.setObserver([this](const ScriptedSystemCalls::Call& call) {
@@ -123,12 +126,22 @@ protected:
         return collector.heard;
     }
 
-    UnitPlan planOf(const std::vector<WantedRow>& rows) {
+    // This host's only one, with the network 192.168.0.0/16.
+    static HostInterface ownInterface() {
         HostInterface own;
         own.name = "kx0";
+        own.title = "Ethernet (kx0)";
         own.link = link;
         own.networks = {{.address = ownAddress, .mask = 0xFFFF0000U}};
-        return planOfRows(rows, hear(), {.interfaces = {own}, .asked = {own}});
+        own.canBroadcast = true;
+        own.isRunning = true;
+        own.canAsk = true;
+        return own;
+    }
+
+    UnitPlan planOf(const std::vector<WantedRow>& rows) {
+        return planOfRows(rows, hear(),
+                          {.interfaces = {ownInterface()}, .asked = {ownInterface()}});
     }
 
     // --- Runs ---
@@ -201,6 +214,21 @@ protected:
     // Sentences about commands that should not have been sent; empty in a good run.
     std::set<std::string> violations;
 
+    // The command is on the disk.
+    virtual bool isJournalled(const std::string& command) {
+        return journal.commands.contains(command);
+    }
+
+    // What nobody has received is gone.
+    void forgetAnswers() {
+        const int reader = systemCalls.socket();
+        std::array<std::uint8_t, 2048> buffer{};
+        for (DatagramOrigin origin; systemCalls.receiveFrom(reader, buffer, origin) >= 0;) {
+        }
+        systemCalls.close(reader);
+        _answers = 0;
+    }
+
 private:
     // What the host's neighbour table says at once.
     class Neighbours final : public NeighbourTable {
@@ -258,6 +286,9 @@ private:
         const std::string command(call.data.begin(), call.data.end());
         if (command != "^^IdX") {
             expectJournalled(command);
+        } else if (to == broadcastAddress) {
+            answerAsEverybody();
+            return;
         }
         PlayedUnit* const reached = unitAt(to);
         if (reached == nullptr || isHeldBack || isLost() || isDeaf(*reached, command)) {
@@ -272,6 +303,14 @@ private:
         reached->take(command);
         _byAddress[reached->address()] = static_cast<std::size_t>(reached - units.data());
         answer(*reached, reached->settings.acknowledgement());
+    }
+
+    void answerAsEverybody() {
+        for (const PlayedUnit& each : units) {
+            if (!each.isSilent && !isHeldBack && !isLost()) {
+                answer(each, each.settings.reply());
+            }
+        }
     }
 
     // A unit that falls silent does so at a command.
@@ -291,7 +330,7 @@ private:
     }
 
     void expectJournalled(const std::string& command) {
-        if (!journal.commands.contains(command)) {
+        if (!isJournalled(command)) {
             violations.insert("not in the journal: " + command);
         }
     }
