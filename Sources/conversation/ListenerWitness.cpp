@@ -81,6 +81,12 @@ void ListenerWitness::expectProbes(std::vector<std::uint16_t> ports,
     }
 }
 
+void ListenerWitness::passOverRequestsFrom(std::uint16_t port,
+                                           std::vector<std::uint32_t> ownAddresses) {
+    _otherPort = port;
+    _otherAddresses = std::move(ownAddresses);
+}
+
 int ListenerWitness::bind(int descriptor, ByteView address) {
     const int result = inner().bind(descriptor, address);
     const int error = errno;
@@ -139,6 +145,10 @@ ssize_t ListenerWitness::receiveFrom(int descriptor, std::span<std::uint8_t> buf
         errno = 0; // the endpoint passes over a failure without an error
         return -1;
     }
+    if (isOfOtherListener(datagram, senderOf(origin.sender))) {
+        errno = 0;
+        return -1;
+    }
     noteDatagram(datagram, origin);
     return received;
 }
@@ -147,6 +157,12 @@ bool ListenerWitness::isProbe(ByteView datagram, const Sender& sender) const {
     return textOf(datagram) == parameterRequestCommand &&
            std::ranges::find(_probePorts, sender.port) != _probePorts.end() &&
            std::ranges::find(_probeAddresses, sender.address) != _probeAddresses.end();
+}
+
+bool ListenerWitness::isOfOtherListener(ByteView datagram, const Sender& sender) const {
+    return _otherPort != 0 && sender.port == _otherPort &&
+           textOf(datagram) == parameterRequestCommand &&
+           std::ranges::find(_otherAddresses, sender.address) != _otherAddresses.end();
 }
 
 void ListenerWitness::noteDatagram(ByteView datagram, const DatagramOrigin& origin) {

@@ -5,7 +5,8 @@
 // decodes the first few thousand only, so that a flood costs nothing.
 //
 // The diagnosis sends broadcasts from sockets of its own to see whether one comes back to the
-// listener. The witness takes such a datagram out: the listener's owner never sees it.
+// listener. The witness takes such a datagram out: the listener's owner never sees it. It does the
+// same with the requests of a second listener of the program, which come back to the first one.
 //
 // Threading: that of the calls beneath. Ownership: the calls and the buffers must outlive the
 // witness.
@@ -43,6 +44,10 @@ public:
     void expectProbes(std::vector<std::uint16_t> ports, std::vector<std::uint32_t> ownAddresses);
     bool hasHeardProbe() const { return _hasHeardProbe; }
 
+    // Takes out requests that another listener of this program sends from this port of this host,
+    // until the next call. Port 0 ends it.
+    void passOverRequestsFrom(std::uint16_t port, std::vector<std::uint32_t> ownAddresses);
+
     int bind(int descriptor, ByteView address) override;
     int close(int descriptor) override;
     ssize_t sendTo(int descriptor, ByteView data, std::optional<ByteView> address) override;
@@ -60,6 +65,7 @@ private:
 
     static Sender senderOf(ByteView record);
     bool isProbe(ByteView datagram, const Sender& sender) const;
+    bool isOfOtherListener(ByteView datagram, const Sender& sender) const;
     void noteSend(ByteView data, ByteView address, ssize_t sent);
     void noteDatagram(ByteView datagram, const DatagramOrigin& origin);
     void decode(ByteView datagram, const Sender& sender, std::uint32_t link);
@@ -72,6 +78,8 @@ private:
     std::vector<std::uint16_t> _probePorts;
     std::vector<std::uint32_t> _probeAddresses;
     bool _hasHeardProbe = false;
+    std::uint16_t _otherPort = 0; // of another listener of this program
+    std::vector<std::uint32_t> _otherAddresses;
 };
 
 // The unit that tells its parameters in this datagram; absent when it is no such answer or cannot

@@ -162,4 +162,15 @@ TEST_F(ListenerWitnessTest, DecodesNoMoreThanItsShareOfAFlood) {
     EXPECT_EQ(evidence().notUnderstood, ListenerWitness::mostDecoded);
 }
 
+TEST_F(ListenerWitnessTest, RequestsOfAnotherListenerOfTheProgramAreTakenOutAndNoOther) {
+    witness.passOverRequestsFrom(3521, own);
+    EXPECT_EQ(receive(request, ownAddress, 3521), std::nullopt);
+    EXPECT_EQ(receive(request, ownAddress, 3520), request) << "the listener's own";
+    EXPECT_EQ(receive(request, unitAddress, 3521), request) << "of another host";
+    EXPECT_EQ(receive(textBytes("^^IdZ"), ownAddress, 3521), textBytes("^^IdZ"))
+        << "no request for parameters";
+    witness.passOverRequestsFrom(0, {});
+    EXPECT_EQ(receive(request, ownAddress, 3521), request);
+}
+
 } // namespace kx
