@@ -200,4 +200,35 @@ TEST_F(WaitingPanelTest, IsGivenUpWhenTheApplicationIsAskedToEnd) {
     EXPECT_FALSE(isDone);
 }
 
+TEST(WaitingPanelGivenUp, TheWaitsUnderWayAreOverAndLaterOnesAreNot) {
+    QWidget window;
+    window.show();
+    WaitingPanel panel(window);
+    QTimer::singleShot(10, qApp, [&] { panel.giveUp(); });
+    EXPECT_FALSE(panel.until([] { return false; }, sentence)) << "before the panel is there";
+    afterAWhile([&] { panel.giveUp(); });
+    EXPECT_FALSE(panel.until([] { return false; }, sentence));
+    EXPECT_EQ(openPanel(), nullptr);
+    bool isDone = false;
+    QTimer::singleShot(10, qApp, [&] { isDone = true; });
+    EXPECT_TRUE(panel.until([&] { return isDone; }, sentence));
+}
+
+TEST(WaitingPanelAbove, ThePanelStandsAboveTheWindowInWhichThePersonWorks) {
+    QWidget window;
+    window.show();
+    QWidget other;
+    other.show();
+    other.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+    WaitingPanel panel(window);
+    const QWidget* above = nullptr;
+    afterAWhile([&] {
+        above = openPanel()->parentWidget();
+        openPanel()->reject();
+    });
+    EXPECT_FALSE(panel.until([] { return false; }, sentence));
+    EXPECT_EQ(above, &other);
+}
+
 } // namespace kx

@@ -4,6 +4,7 @@
 #include "platform/qtcore/QtText.h"
 #include "support/RunLoop.h"
 
+#include <QApplication>
 #include <QDialog>
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -36,16 +37,22 @@ public:
 } // namespace
 
 bool WaitingPanel::until(const std::function<bool()>& isDone, std::string_view sentence) {
-    const auto first = handleEventsUntil(isDone, moment, QEventLoop::ExcludeUserInputEvents);
-    if (first != EventsEnd::timeUp) {
-        return first == EventsEnd::done;
-    }
-    Panel panel(_window, qtText(sentence));
     bool isCancelled = false;
+    const auto isOver = [&, before = _given] {
+        isCancelled = isCancelled || _given != before;
+        return isCancelled || isDone();
+    };
+    const auto first = handleEventsUntil(isOver, moment, QEventLoop::ExcludeUserInputEvents);
+    if (first != EventsEnd::timeUp) {
+        return first == EventsEnd::done && !isCancelled;
+    }
+    // A dialog may go meanwhile, and the panel with it.
+    QWidget* const active = QApplication::activeWindow();
+    const bool isLasting = active != nullptr && qobject_cast<QDialog*>(active) == nullptr;
+    Panel panel(isLasting ? *active : _window, qtText(sentence));
     QObject::connect(&panel, &QDialog::rejected, &panel, [&] { isCancelled = true; });
     panel.show();
-    const auto end = handleEventsUntil([&] { return isCancelled || isDone(); },
-                                       RunLoop::longestDelay, QEventLoop::AllEvents);
+    const auto end = handleEventsUntil(isOver, RunLoop::longestDelay, QEventLoop::AllEvents);
     return end == EventsEnd::done && !isCancelled;
 }
 
