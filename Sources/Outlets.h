@@ -18,6 +18,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kx {
 
@@ -170,6 +171,24 @@ public:
     // Shows the question and returns at once. `chosen` is called once with the path of the file, in
     // UTF-8, from the event loop; never when the person cancels. A file that is there already is
     // chosen only when the person agrees to replace it. The window takes no other input meanwhile.
+    virtual void ask(const Question& question,
+                     std::function<void(const std::string& path)> chosen) = 0;
+};
+
+// Asks a person for a file to read.
+class OpenPanel {
+public:
+    struct Question {
+        std::string title;
+        std::string kind;                  // of the files, in words
+        std::vector<std::string> suffixes; // of their names; files of other names can be shown too
+    };
+
+    virtual ~OpenPanel() = default;
+
+    // Shows the question and returns at once. `chosen` is called once with the path of a file that
+    // is there, in UTF-8, from the event loop; never when the person cancels. The window takes no
+    // other input meanwhile.
     virtual void ask(const Question& question,
                      std::function<void(const std::string& path)> chosen) = 0;
 };

@@ -55,6 +55,9 @@ public:
     std::size_t total() const { return _total; }
     std::size_t ended() const { return _total - _plan.sum(RowState::planned); }
 
+    // Commands go to the unit of this row now.
+    bool isUnderWay(std::size_t row) const { return _steps.contains(row); }
+
     // New addresses are being looked at; no command was sent.
     bool isSearching() const { return _search != nullptr; }
 
