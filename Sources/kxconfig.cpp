@@ -2,12 +2,15 @@
 
 #include "KXConfigAppDelegate.h"
 #include "KXDiagnosis.h"
+#include "KXTableRun.h"
 #include "System Configuration/SystemConfiguration.h"
+#include "conversation/AddressBindings.h"
 #include "conversation/InterfaceAddress.h"
 #include "files/CapturingSystemCalls.h"
 #include "files/SessionRecord.h"
 #include "files/WholeFile.h"
 #include "platform/linux/KernelLinks.h"
+#include "platform/linux/LinuxAddressProbes.h"
 #include "platform/linux/LinuxAuthorization.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxDiagnosticSockets.h"
@@ -16,6 +19,7 @@
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
+#include "platform/linux/LinuxRunLock.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/MemoryExhaustion.h"
 #include "platform/posix/SyslogSystemLog.h"
@@ -32,6 +36,7 @@
 #include "platform/qtcore/QtTranslations.h"
 #include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
+#include "support/SystemLog.h"
 
 #include <unistd.h>
 
@@ -39,6 +44,7 @@
 #include <QSocketNotifier>
 #include <chrono>
 #include <csignal>
+#include <cstdlib>
 #include <optional>
 #include <string>
 
@@ -60,10 +66,12 @@ std::uint32_t ownAddressOn(kx::DatagramSystemCalls& systemCalls, std::uint32_t l
         .address;
 }
 
-kx::CaptureTime timeNow() {
-    return std::chrono::duration_cast<kx::CaptureTime>(
-        std::chrono::system_clock::now().time_since_epoch());
+template<class Unit, class Clock>
+Unit timeOf() {
+    return std::chrono::duration_cast<Unit>(Clock::now().time_since_epoch());
 }
+
+constexpr auto timeNow = timeOf<kx::CaptureTime, std::chrono::system_clock>;
 
 // Only a file is replaced, and only one that may be written.
 std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
@@ -101,15 +109,51 @@ struct Host {
     kx::LinuxConfigurationStore configurationStore{runLoop, kernelLinks, &connectionProfiles};
     kx::LinuxDiagnosticSockets diagnosticSockets{runLoop};
     kx::LinuxHostDiagnostics diagnostics = kx::LinuxHostDiagnostics();
+    kx::LinuxAddressProbes probes{runLoop};
+    kx::LinuxRunLock runLock = {};
 };
+
+// By the XDG Base Directory Specification; empty when the user has no home.
+std::string stateFolder() {
+    const auto value = [](const char* name) {
+        const char* const text = std::getenv(name);
+        return std::string(text != nullptr ? text : "");
+    };
+    const std::string state = value("XDG_STATE_HOME");
+    if (state.starts_with('/')) { // others are to be passed over
+        return state + "/kxconfig";
+    }
+    const std::string home = value("HOME");
+    return home.empty() ? std::string() : home + "/.local/state/kxconfig";
+}
+
+// The run has a socket of its own, which is neither witnessed nor recorded.
+kx::KXTableRun::Services tableServicesOf(Host& host, kx::HostInterfaces& interfaces,
+                                         kx::AddressBindings& bindings,
+                                         kx::KXConfigAppDelegate& controller) {
+    return {.session = {.runLoop = host.runLoop,
+                        .hostResolver = host.hostResolver,
+                        .systemCalls = host.systemCalls,
+                        .receiveBuffers = &host.receiveBuffers},
+            .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
+            .utc = timeOf<std::chrono::seconds, std::chrono::system_clock>,
+            .wallClock = host.wallClock,
+            .interfaces = interfaces,
+            .moves = {.holders = {.neighbours = host.neighbours, .probes = &host.probes},
+                      .bindings = bindings},
+            .lock = host.runLock,
+            .writeFile = writeFile,
+            .stateFolder = stateFolder(),
+            .chosenInterface = [&controller] { return controller.nameOfChosenInterface(); },
+            .usesPort =
+                [&host](std::uint16_t port, std::vector<std::uint32_t> ownAddresses) {
+                    host.witness.passOverRequestsFrom(port, std::move(ownAddresses));
+                }};
+}
 
 kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& interfaces) {
     return {.runLoop = host.runLoop,
-            .now =
-                [] {
-                    return std::chrono::duration_cast<std::chrono::milliseconds>(
-                        std::chrono::steady_clock::now().time_since_epoch());
-                },
+            .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
             .witness = host.witness,
             .systemCalls = host.systemCalls,
             .sockets = host.diagnosticSockets,
@@ -149,26 +193,48 @@ kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagno
                        .writeFile = writeFile}};
 }
 
-// Runs the program until its end, which a person or a signal brings about.
-int runWindow(kx::MainWindow& window, kx::KXConfigAppDelegate& controller) {
-    window.connectActions(controller);
-    const auto end = [&] {
+// What an order to end ends, each after what it needs itself.
+struct Work {
+    kx::MainWindow& window;
+    kx::WaitingPanel& waiting;
+    kx::KXConfigAppDelegate& controller;
+    kx::KXTableRun& tableRun;
+
+    void end() {
         window.disconnectActions();
         controller.applicationWillTerminate();
-    };
-    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, end);
+    }
+
+    // Units that are being configured are finished first. Their window goes, so what a person must
+    // know of them goes to the system log. A second order sends them no further command.
+    void endByOrder() {
+        waiting.giveUp();
+        tableRun.stopThen([this] {
+            for (const std::string& sentence : tableRun.sentencesAboutUnitsToLookAt()) {
+                kx::logToSystem(sentence);
+            }
+            end();
+            QApplication::exit(0);
+        });
+    }
+};
+
+// Runs the program until its end, which a person or a signal brings about.
+int runWindow(Work work) {
+    kx::MainWindow& window = work.window;
+    window.connectActions(work.controller);
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, [&work] { work.end(); });
     // A dialog may be open, below which an action is not done. The action has to find the end when
     // it goes on, so the end comes before its loop is left.
     kx::SignalPipe signalPipe({SIGTERM, SIGINT, SIGHUP});
     const QSocketNotifier arrivals(signalPipe.descriptor(), QSocketNotifier::Read);
     QObject::connect(&arrivals, &QSocketNotifier::activated, &window, [&] {
         if (signalPipe.take().has_value()) {
-            end();
-            QApplication::exit(0);
+            work.endByOrder();
         }
     });
     window.show();
-    controller.applicationDidFinishLaunching();
+    work.controller.applicationDidFinishLaunching();
     return QApplication::exec();
 }
 
@@ -182,6 +248,8 @@ int runOnThisHost(kx::QtRunLoop& runLoop) {
     kx::KXDiagnosis diagnosis(diagnosisServicesOf(host, interfaces));
     kx::KXConfigAppDelegate controller(window.outlets(),
                                        servicesOf(host, diagnosis, authorizationService.get()));
+    kx::AuthorizedAddressBindings bindings(*authorizationService);
+    kx::KXTableRun tableRun(tableServicesOf(host, interfaces, bindings, controller));
     diagnosis.setSelection({.chosenInterface = [&] { return controller.nameOfChosenInterface(); },
                             .selectedUnit = [&] { return controller.selectedUnit(); },
                             .record =
@@ -193,7 +261,10 @@ int runOnThisHost(kx::QtRunLoop& runLoop) {
                                 }});
     window.setDiagnosis(&diagnosis,
                         [&host] { kx::openHelpAnchor("no-answer", host.helpServices); });
-    const int result = runWindow(window, controller);
+    window.setTableRun(&tableRun, [&host] { kx::openHelpAnchor("many-units", host.helpServices); });
+    const int result = runWindow(
+        {.window = window, .waiting = waiting, .controller = controller, .tableRun = tableRun});
+    window.setTableRun(nullptr, {});
     window.setDiagnosis(nullptr, {});
     return result;
 }

@@ -130,7 +130,7 @@ TEST_F(MainWindowTest, EveryMenuItemButAboutHasAShortcutOfItsOwn) {
             }
         }
     }
-    EXPECT_EQ(items, 21);
+    EXPECT_EQ(items, 22);
     EXPECT_EQ(static_cast<int>(itemOfShortcut.size()), items);
 }
 

@@ -7,6 +7,7 @@
 #include "platform/qt/DiagnosisWindow.h"
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/FindBar.h"
+#include "platform/qt/FromFileWindow.h"
 #include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qt/QtAlert.h"
 #include "platform/qt/QtButton.h"
@@ -202,6 +203,10 @@ void MainWindow::changeEvent(QEvent* event) {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+    if (mustWaitForRun()) {
+        event->ignore();
+        return;
+    }
     event->accept();
     perform(&KXConfigAppDelegate::windowWillClose);
 }
@@ -270,6 +275,7 @@ void MainWindow::connectMenus() {
         drawerDidChange(_controls->eventLogDrawer.state()); // the click has moved the check mark
     });
     connect(_ui->allUnitsAction, &QAction::triggered, this, &MainWindow::showAllUnits);
+    connect(_ui->fromFileAction, &QAction::triggered, this, &MainWindow::showFromFile);
     connect(_ui->saveEventLogAction, &QAction::triggered, this,
             [this] { perform(&KXConfigAppDelegate::saveEventLog); });
     connect(_ui->saveSessionAction, &QAction::triggered, this,

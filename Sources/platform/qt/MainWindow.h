@@ -26,8 +26,10 @@ namespace kx {
 class AllUnitsWindow;
 class FindBar;
 class DiagnosisWindow;
+class FromFileWindow;
 class KXConfigAppDelegate;
 class KXDiagnosis;
+class KXTableRun;
 
 namespace Ui {
 class MainWindow;
@@ -54,6 +56,11 @@ public:
     // the checks, whose Help calls `openHelp`. The diagnosis must outlive this window, or be taken
     // away with null.
     void setDiagnosis(KXDiagnosis* diagnosis, std::function<void()> openHelp);
+
+    // The menu has Configure from File… after this, whose window's Help calls `openHelp`. While the
+    // run configures units, this window asks before it closes. The run must outlive this window, or
+    // be taken away with null.
+    void setTableRun(KXTableRun* run, std::function<void()> openHelp);
 
     // The controller, while it is connected.
     const WindowDelegate* windowDelegate() const override;
@@ -88,6 +95,8 @@ private:
     void showAllUnits();
     void showUnit(std::string_view serial);
     void showDetails();
+    void showFromFile();
+    bool mustWaitForRun();
     void findInLog(void (FindBar::*step)());
     void drawerDidChange(DrawerState state);
 
@@ -96,6 +105,9 @@ private:
     KXDiagnosis* _diagnosis = nullptr;
     std::function<void()> _openHelpOfDetails;
     std::unique_ptr<DiagnosisWindow> _details; // null until it is first opened
+    KXTableRun* _tableRun = nullptr;
+    std::function<void()> _openHelpOfTables;
+    std::unique_ptr<FromFileWindow> _fromFile; // null until it is first opened
     KXConfigAppDelegate* _controller = nullptr;
     std::deque<Action> _actions; // the running action, and the ones asked for since
     std::unique_ptr<AllUnitsWindow> _allUnitsWindow; // null until it is first opened
