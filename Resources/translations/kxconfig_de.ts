@@ -5,6 +5,7 @@
     <name>KXConfig</name>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Network &amp;interface:</source>
         <translation>&amp;Netzwerkschnittstelle:</translation>
     </message>
@@ -147,8 +148,14 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Configure from File…</source>
+        <translation>Aus Datei &amp;konfigurieren…</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -194,6 +201,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Kopieren</translation>
@@ -231,6 +239,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Apply</source>
         <translation>&amp;Anwenden</translation>
     </message>
@@ -334,6 +343,175 @@
         <location filename="../../Sources/KXSaving.cpp"/>
         <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
         <translation>„%@“ ist nicht beschreibbar: %@. Nichts ist verloren: Sichern Sie an einem anderen Ort.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Other values that no command brings back: %d.</source>
+        <translation>Weitere Werte, die kein Befehl zurückbringt: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Table of Units</source>
+        <translation>Gerätetabelle auswählen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Tables and plans</source>
+        <translation>Tabellen und Pläne</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Journal</source>
+        <translation>Journal auswählen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Journals</source>
+        <translation>Journale</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Keine Netzwerkschnittstelle kann Broadcasts senden. Dazu braucht sie eine Verbindung und eine IPv4-Adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose the network interface on which the units are asked.</source>
+        <translation>Wählen Sie die Netzwerkschnittstelle, über die die Geräte gefragt werden.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Alle UDP-Ports von 3520 bis 3523 sind von anderen Programmen belegt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>Der UDP-Port lässt sich nicht öffnen: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Stopped.</source>
+        <translation>Angehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Nothing was sent.</source>
+        <translation>Nichts wurde gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The units are not as they were: this is the new plan. Nothing was sent.</source>
+        <translation>Die Geräte sind nicht mehr wie zuvor: Dies ist der neue Plan. Nichts wurde gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal cannot be written: %@. Nothing was sent.</source>
+        <translation>Das Journal ist nicht beschreibbar: %@. Nichts wurde gesendet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal could not be written: %@.</source>
+        <translation>Das Journal ließ sich nicht schreiben: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Look at the units that are half configured or have fallen silent.</source>
+        <translation>Sehen Sie nach den Geräten, die halb konfiguriert oder verstummt sind.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Save Report</source>
+        <translation>Bericht sichern</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Comma-separated values</source>
+        <translation>Kommagetrennte Werte</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has a fault. Correct it, and choose the file again.</source>
+        <translation>Die Datei hat einen Fehler. Berichtigen Sie ihn und wählen Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has %d faults. Correct them, and choose the file again.</source>
+        <translation>Die Datei hat %d Fehler. Berichtigen Sie sie und wählen Sie die Datei erneut.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping. The units under way are finished and read back.</source>
+        <translation>Es wird angehalten. Die begonnenen Geräte werden fertiggestellt und nachgelesen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units again.</source>
+        <translation>Die Geräte werden noch einmal gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Finding out who holds the new addresses.</source>
+        <translation>Es wird geprüft, wem die neuen Adressen gehören.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Configuring the units.</source>
+        <translation>Die Geräte werden konfiguriert.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping.</source>
+        <translation>Es wird angehalten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units. %d have answered.</source>
+        <translation>Die Geräte werden gefragt. Geantwortet haben %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>Das Journal ist „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply keeps a journal in the folder “%@”.</source>
+        <translation>„Anwenden“ führt ein Journal im Ordner „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing: lines of the table are wrong, whatever the units answer.</source>
+        <translation>„Anwenden“ sendet nichts: Zeilen der Tabelle sind falsch, was auch immer die Geräte antworten.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
+        <translation>„Anwenden“ sendet nichts, solange Zeilen abgelehnt oder ohne Antwort sind, es sei denn, es soll weitermachen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Zeile %d, %@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>%d of %d units</source>
+        <translation>%d von %d Geräten</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
@@ -451,12 +629,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>„%@“ ist nicht beschreibbar: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>Die Aufzeichnung ist nicht vollständig, weil sie nicht geschrieben werden konnte.</translation>
     </message>
@@ -476,11 +648,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Another unit has the address of the unit %@.</source>
         <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
-        <translation>Keine Netzwerkschnittstelle kann Broadcasts senden. Dazu braucht sie eine Verbindung und eine IPv4-Adresse.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -505,20 +672,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
-        <source>The UDP port cannot be opened: %@.</source>
-        <translation>Der UDP-Port lässt sich nicht öffnen: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>UDP-Port %d ist von einem anderen Programm belegt.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
-        <translation>Alle UDP-Ports von 3520 bis 3523 sind von anderen Programmen belegt.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -616,18 +772,6 @@
         <translation>„%@“ ist das Journal eines Laufs, der beendet ist. Nennen Sie eine andere Datei.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>Der Eintrag für %@ ließ sich nicht wieder aus dem ARP-Cache nehmen.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <source>The journal is “%@”.</source>
-        <translation>Das Journal ist „%@“.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Schreiben Sie einen Text oder --clock, nicht beides.</translation>
@@ -646,12 +790,6 @@
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>The unit %@ has not answered the option command.</source>
         <translation>Das Gerät %@ hat auf den Optionsbefehl nicht geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/PlanReport.cpp"/>
-        <location filename="../../Sources/words/TableComplaintText.cpp"/>
-        <source>Line %d, %@: %@</source>
-        <translation>Zeile %d, %@: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/PlanReport.cpp"/>
@@ -707,11 +845,6 @@
         <translation>Das Gerät %@ zeigt die alten Werte und hat den Befehl nicht bestätigt.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/RevertCommand.cpp"/>
-        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
-        <translation>Kein Befehl bringt %@ des Geräts %@ zurück: Der Wert war „%@“.</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. %@</source>
         <translation>„%@“ wird abgelehnt. %@</translation>
@@ -720,12 +853,6 @@
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. It has %d faults, the first one: %@</source>
         <translation>„%@“ wird abgelehnt. Es gibt %d Fehler darin, der erste: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/RowsFile.cpp"/>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>„%@“ ist nicht lesbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -748,6 +875,12 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>„%@“ enthält eine Gerätesuche, die niemanden fragen konnte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/TableFileText.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>„%@“ ist nicht lesbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -863,21 +996,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Whether another run is under way could not be found out: %@.</source>
-        <translation>Ob ein anderer Lauf im Gange ist, ließ sich nicht feststellen: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host.</source>
-        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host: process %d.</source>
-        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus: Prozess %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>%@ takes a number up to %d.</source>
         <translation>%@ nimmt eine Zahl bis %d.</translation>
     </message>
@@ -890,11 +1008,6 @@
         <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nothing was changed.</source>
         <translation>Nichts wurde geändert.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>about %d s left</source>
-        <translation>noch etwa %d s</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1021,6 +1134,7 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
         <translation>Schließen</translation>
@@ -1097,6 +1211,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Ask Again</source>
         <translation>Erneut fragen</translation>
     </message>
@@ -1122,6 +1237,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>State</source>
         <translation>Zustand</translation>
@@ -1198,6 +1314,106 @@
         <translation>%d Treffer</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Keep going past lines that are refused or that fail</source>
+        <translation>&amp;Weitermachen, wenn Zeilen abgelehnt werden oder scheitern</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Configure from File</source>
+        <translation>Aus Datei konfigurieren</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;File…</source>
+        <translation>&amp;Datei auswählen…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;Journal…</source>
+        <translation>&amp;Journal auswählen…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes the run of a journal back.</source>
+        <translation>Erstellt den Plan, der den Lauf eines Journals zurücknimmt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>None chosen</source>
+        <translation>Keine gewählt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Stop</source>
+        <translation>An&amp;halten</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Zurücknehmen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes this run back. Apply then carries it out.</source>
+        <translation>Erstellt den Plan, der diesen Lauf zurücknimmt. „Anwenden“ führt ihn dann aus.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Save &amp;Report…</source>
+        <translation>&amp;Bericht sichern…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
+        <translation>Wählen Sie eine Gerätetabelle: kommagetrennte Werte mit einer Spalte „serial“ und einer für jeden Parameter, der sich ändern soll.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units of the file were not asked.</source>
+        <translation>Die Geräte der Datei wurden nicht gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asking the units.</source>
+        <translation>Die Geräte werden gefragt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The file names no unit.</source>
+        <translation>Die Datei nennt kein Gerät.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Units are being configured. Stop?</source>
+        <translation>Geräte werden gerade konfiguriert. Anhalten?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units under way are finished and read back. The others stay as they are.</source>
+        <translation>Die begonnenen Geräte werden fertiggestellt und nachgelesen. Die übrigen bleiben, wie sie sind.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Stop</source>
+        <translation>Anhalten</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Go On</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Help text</source>
         <translation>Hilfetext</translation>
@@ -1224,6 +1440,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <source>Parameter</source>
         <translation>Parameter</translation>
     </message>
@@ -1266,6 +1483,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>KXConfig-Hilfe</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/QtOpenPanel.cpp"/>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
@@ -2501,6 +2723,97 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <translation>Die Verbindung ist unterbrochen.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>To change</source>
+        <translation>Zu ändern</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unchanged</source>
+        <translation>Unverändert</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Refused</source>
+        <translation>Abgelehnt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Keine Antwort</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done</source>
+        <translation>Erledigt</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not begun</source>
+        <translation>Nicht begonnen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Half configured</source>
+        <translation>Halb konfiguriert</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not sent</source>
+        <translation>Nicht gesendet</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Other value</source>
+        <translation>Anderer Wert</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Under way</source>
+        <translation>In Arbeit</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wrong</source>
+        <translation>Falsch</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Line</source>
+        <translation>Zeile</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unit</source>
+        <translation>Gerät</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Before</source>
+        <translation>Vorher</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wanted</source>
+        <translation>Gewünscht</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Reason</source>
+        <translation>Grund</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Units to change: %d, parameters in all: %d. Unchanged: %d, refused: %d, without an answer: %d.</source>
+        <translation>Zu ändernde Geräte: %d, Parameter insgesamt: %d. Unverändert: %d, abgelehnt: %d, ohne Antwort: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done: %d, unchanged: %d, refused: %d, not begun: %d, half configured: %d, without an answer: %d.</source>
+        <translation>Erledigt: %d, unverändert: %d, abgelehnt: %d, nicht begonnen: %d, halb konfiguriert: %d, ohne Antwort: %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>Asked the unit at %@ for its parameters.</source>
         <translation>Das Gerät mit der Adresse %@ wurde nach seinen Parametern gefragt.</translation>
@@ -2873,11 +3186,6 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>No answer</source>
-        <translation>Keine Antwort</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Answered</source>
         <translation>Hat geantwortet</translation>
     </message>
@@ -2950,6 +3258,41 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The journal could not be written.</source>
         <translation>Das Journal ließ sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>Ob ein anderer Lauf im Gange ist, ließ sich nicht feststellen: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Ein anderer Lauf ändert Geräte von diesem Rechner aus: Prozess %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Kein Befehl bringt %@ des Geräts %@ zurück: Der Wert war „%@“.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>Der Eintrag für %@ ließ sich nicht wieder aus dem ARP-Cache nehmen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d s left</source>
+        <translation>noch etwa %d s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d min left</source>
+        <translation>noch etwa %d min</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -5,6 +5,7 @@
     <name>KXConfig</name>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Network &amp;interface:</source>
         <translation>&amp;Interfaz de red:</translation>
     </message>
@@ -147,8 +148,14 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>A&amp;yuda</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Configure from File…</source>
+        <translation>&amp;Configurar desde un archivo…</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -194,6 +201,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Copiar</translation>
@@ -231,6 +239,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Apply</source>
         <translation>&amp;Aplicar</translation>
     </message>
@@ -334,6 +343,175 @@
         <location filename="../../Sources/KXSaving.cpp"/>
         <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
         <translation>No se puede escribir en «%@»: %@. No se ha perdido nada: guárdelo en otro lugar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Other values that no command brings back: %d.</source>
+        <translation>Otros valores que ninguna orden restablece: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Table of Units</source>
+        <translation>Elegir una tabla de unidades</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Tables and plans</source>
+        <translation>Tablas y planes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Journal</source>
+        <translation>Elegir un diario</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Journals</source>
+        <translation>Diarios</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Ninguna interfaz de red puede difundir. Necesita un enlace y una dirección IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose the network interface on which the units are asked.</source>
+        <translation>Elija la interfaz de red por la que se pregunta a las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Todos los puertos UDP del 3520 al 3523 están ocupados por otros programas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>No se puede abrir el puerto UDP: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Nothing was sent.</source>
+        <translation>No se envió nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The units are not as they were: this is the new plan. Nothing was sent.</source>
+        <translation>Las unidades ya no están como antes: este es el plan nuevo. No se envió nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal cannot be written: %@. Nothing was sent.</source>
+        <translation>No se puede escribir el diario: %@. No se envió nada.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal could not be written: %@.</source>
+        <translation>No se pudo escribir el diario: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Look at the units that are half configured or have fallen silent.</source>
+        <translation>Revise las unidades que están a medio configurar o han enmudecido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Save Report</source>
+        <translation>Guardar el informe</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Comma-separated values</source>
+        <translation>Valores separados por comas</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>No se puede escribir en «%@»: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has a fault. Correct it, and choose the file again.</source>
+        <translation>El archivo tiene un error. Corríjalo y elija de nuevo el archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has %d faults. Correct them, and choose the file again.</source>
+        <translation>El archivo tiene %d errores. Corríjalos y elija de nuevo el archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping. The units under way are finished and read back.</source>
+        <translation>Deteniendo. Las unidades empezadas se terminan y se comprueban.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units again.</source>
+        <translation>Se pregunta de nuevo a las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Finding out who holds the new addresses.</source>
+        <translation>Comprobando quién ocupa las direcciones nuevas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Configuring the units.</source>
+        <translation>Configurando las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping.</source>
+        <translation>Deteniendo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units. %d have answered.</source>
+        <translation>Se pregunta a las unidades. Han respondido %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>El diario es «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply keeps a journal in the folder “%@”.</source>
+        <translation>«Aplicar» lleva un diario en la carpeta «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing: lines of the table are wrong, whatever the units answer.</source>
+        <translation>«Aplicar» no envía nada: hay líneas de la tabla que son erróneas, respondan lo que respondan las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
+        <translation>«Aplicar» no envía nada mientras haya líneas rechazadas o sin respuesta, salvo que deba continuar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Línea %d, %@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>%d of %d units</source>
+        <translation>%d de %d unidades</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
@@ -451,12 +629,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>No se puede escribir en «%@»: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La captura no está completa, porque no se pudo escribir.</translation>
     </message>
@@ -476,11 +648,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Another unit has the address of the unit %@.</source>
         <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
-        <translation>Ninguna interfaz de red puede difundir. Necesita un enlace y una dirección IPv4.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -505,20 +672,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
-        <source>The UDP port cannot be opened: %@.</source>
-        <translation>No se puede abrir el puerto UDP: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>El puerto UDP %d está ocupado por otro programa.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
-        <translation>Todos los puertos UDP del 3520 al 3523 están ocupados por otros programas.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -616,18 +772,6 @@
         <translation>«%@» es el diario de una ejecución terminada. Indique otro archivo.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>No se pudo retirar de la caché ARP la entrada de %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <source>The journal is “%@”.</source>
-        <translation>El diario es «%@».</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Escriba un texto o --clock, no ambos.</translation>
@@ -646,12 +790,6 @@
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>The unit %@ has not answered the option command.</source>
         <translation>La unidad %@ no ha respondido a la orden de opción.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/PlanReport.cpp"/>
-        <location filename="../../Sources/words/TableComplaintText.cpp"/>
-        <source>Line %d, %@: %@</source>
-        <translation>Línea %d, %@: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/PlanReport.cpp"/>
@@ -707,11 +845,6 @@
         <translation>La unidad %@ muestra los valores antiguos y no ha confirmado la orden.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/RevertCommand.cpp"/>
-        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
-        <translation>Ningún comando restablece %@ de la unidad %@: el valor era «%@».</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. %@</source>
         <translation>«%@» se rechaza. %@</translation>
@@ -720,12 +853,6 @@
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. It has %d faults, the first one: %@</source>
         <translation>«%@» se rechaza. Tiene %d errores, el primero: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/RowsFile.cpp"/>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>No se puede leer «%@»: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -748,6 +875,12 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>«%@» contiene una búsqueda que no pudo preguntar a nadie.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/TableFileText.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>No se puede leer «%@»: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -863,21 +996,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Whether another run is under way could not be found out: %@.</source>
-        <translation>No se ha podido averiguar si hay otra ejecución en curso: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host.</source>
-        <translation>Otra ejecución está cambiando unidades desde este equipo.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host: process %d.</source>
-        <translation>Otra ejecución está cambiando unidades desde este equipo: proceso %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>%@ takes a number up to %d.</source>
         <translation>%@ admite un número hasta %d.</translation>
     </message>
@@ -890,11 +1008,6 @@
         <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nothing was changed.</source>
         <translation>No se ha cambiado nada.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>about %d s left</source>
-        <translation>quedan unos %d s</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1021,6 +1134,7 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
         <translation>Cerrar</translation>
@@ -1097,6 +1211,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Ask Again</source>
         <translation>Preguntar de nuevo</translation>
     </message>
@@ -1122,6 +1237,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>State</source>
         <translation>Estado</translation>
@@ -1198,6 +1314,106 @@
         <translation>%d coincidencias</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Keep going past lines that are refused or that fail</source>
+        <translation>&amp;Continuar aunque haya líneas rechazadas o que fallen</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Configure from File</source>
+        <translation>Configurar desde un archivo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Progress</source>
+        <translation>Progreso</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;File…</source>
+        <translation>Elegir &amp;archivo…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;Journal…</source>
+        <translation>Elegir &amp;diario…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes the run of a journal back.</source>
+        <translation>Hace el plan que deshace la ejecución de un diario.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>None chosen</source>
+        <translation>Ninguna elegida</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Stop</source>
+        <translation>&amp;Detener</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Revertir</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes this run back. Apply then carries it out.</source>
+        <translation>Hace el plan que deshace esta ejecución. «Aplicar» lo lleva a cabo después.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Save &amp;Report…</source>
+        <translation>Guardar &amp;informe…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
+        <translation>Elija una tabla de unidades: valores separados por comas con una columna «serial» y una por cada parámetro que debe cambiar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units of the file were not asked.</source>
+        <translation>No se preguntó a las unidades del archivo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asking the units.</source>
+        <translation>Se pregunta a las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The file names no unit.</source>
+        <translation>El archivo no nombra ninguna unidad.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Units are being configured. Stop?</source>
+        <translation>Se están configurando unidades. ¿Detener?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units under way are finished and read back. The others stay as they are.</source>
+        <translation>Las unidades empezadas se terminan y se comprueban. Las demás quedan como están.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Go On</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Help text</source>
         <translation>Texto de ayuda</translation>
@@ -1224,6 +1440,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <source>Parameter</source>
         <translation>Parámetro</translation>
     </message>
@@ -1266,6 +1483,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>Ayuda de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/QtOpenPanel.cpp"/>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
@@ -2501,6 +2723,97 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <translation>El enlace está inactivo.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>To change</source>
+        <translation>Por cambiar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unchanged</source>
+        <translation>Sin cambios</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Refused</source>
+        <translation>Rechazada</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Sin respuesta</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done</source>
+        <translation>Hecha</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not begun</source>
+        <translation>No empezada</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Half configured</source>
+        <translation>A medio configurar</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not sent</source>
+        <translation>No enviada</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Other value</source>
+        <translation>Otro valor</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Under way</source>
+        <translation>En curso</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wrong</source>
+        <translation>Errónea</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Line</source>
+        <translation>Línea</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Before</source>
+        <translation>Antes</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wanted</source>
+        <translation>Deseado</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Reason</source>
+        <translation>Motivo</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Units to change: %d, parameters in all: %d. Unchanged: %d, refused: %d, without an answer: %d.</source>
+        <translation>Unidades por cambiar: %d, parámetros en total: %d. Sin cambios: %d, rechazadas: %d, sin respuesta: %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done: %d, unchanged: %d, refused: %d, not begun: %d, half configured: %d, without an answer: %d.</source>
+        <translation>Hechas: %d, sin cambios: %d, rechazadas: %d, no empezadas: %d, a medio configurar: %d, sin respuesta: %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>Asked the unit at %@ for its parameters.</source>
         <translation>Se pidieron sus parámetros a la unidad con la dirección %@.</translation>
@@ -2873,11 +3186,6 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>No answer</source>
-        <translation>Sin respuesta</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Answered</source>
         <translation>Ha respondido</translation>
     </message>
@@ -2950,6 +3258,41 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The journal could not be written.</source>
         <translation>No se ha podido escribir el diario.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>No se ha podido averiguar si hay otra ejecución en curso: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Otra ejecución está cambiando unidades desde este equipo.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Otra ejecución está cambiando unidades desde este equipo: proceso %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Ningún comando restablece %@ de la unidad %@: el valor era «%@».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>No se pudo retirar de la caché ARP la entrada de %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d s left</source>
+        <translation>quedan unos %d s</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d min left</source>
+        <translation>quedan unos %d min</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

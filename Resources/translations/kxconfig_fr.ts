@@ -5,6 +5,7 @@
     <name>KXConfig</name>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Network &amp;interface:</source>
         <translation>&amp;Interface réseau :</translation>
     </message>
@@ -147,8 +148,14 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>Aid&amp;e</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Configure from File…</source>
+        <translation>&amp;Configurer depuis un fichier…</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -194,6 +201,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>&amp;Copier</translation>
@@ -231,6 +239,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Apply</source>
         <translation>&amp;Appliquer</translation>
     </message>
@@ -334,6 +343,175 @@
         <location filename="../../Sources/KXSaving.cpp"/>
         <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
         <translation>Impossible d’écrire dans « %@ » : %@. Rien n’est perdu : enregistrez à un autre endroit.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Other values that no command brings back: %d.</source>
+        <translation>Autres valeurs qu’aucune commande ne rétablit : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Table of Units</source>
+        <translation>Choisir un tableau d’unités</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Tables and plans</source>
+        <translation>Tableaux et plans</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Journal</source>
+        <translation>Choisir un journal</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Journals</source>
+        <translation>Journaux</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>Aucune interface réseau ne peut diffuser. Il lui faut une liaison et une adresse IPv4.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose the network interface on which the units are asked.</source>
+        <translation>Choisissez l’interface réseau sur laquelle les unités sont interrogées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>Tous les ports UDP de 3520 à 3523 sont occupés par d’autres programmes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>Le port UDP ne peut pas être ouvert : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Nothing was sent.</source>
+        <translation>Rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The units are not as they were: this is the new plan. Nothing was sent.</source>
+        <translation>Les unités ne sont plus comme avant : voici le nouveau plan. Rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal cannot be written: %@. Nothing was sent.</source>
+        <translation>Impossible d’écrire le journal : %@. Rien n’a été envoyé.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal could not be written: %@.</source>
+        <translation>Le journal n’a pas pu être écrit : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Look at the units that are half configured or have fallen silent.</source>
+        <translation>Allez voir les unités à moitié configurées ou devenues muettes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Save Report</source>
+        <translation>Enregistrer le rapport</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Comma-separated values</source>
+        <translation>Valeurs séparées par des virgules</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>Impossible d’écrire dans « %@ » : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has a fault. Correct it, and choose the file again.</source>
+        <translation>Le fichier a une erreur. Corrigez-la et choisissez de nouveau le fichier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has %d faults. Correct them, and choose the file again.</source>
+        <translation>Le fichier a %d erreurs. Corrigez-les et choisissez de nouveau le fichier.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping. The units under way are finished and read back.</source>
+        <translation>Arrêt en cours. Les unités commencées sont terminées et relues.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units again.</source>
+        <translation>Les unités sont interrogées de nouveau.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Finding out who holds the new addresses.</source>
+        <translation>Recherche de qui occupe les nouvelles adresses.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Configuring the units.</source>
+        <translation>Les unités sont configurées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping.</source>
+        <translation>Arrêt en cours.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units. %d have answered.</source>
+        <translation>Les unités sont interrogées. Réponses : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>Le journal est « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply keeps a journal in the folder “%@”.</source>
+        <translation>« Appliquer » tient un journal dans le dossier « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing: lines of the table are wrong, whatever the units answer.</source>
+        <translation>« Appliquer » n’envoie rien : des lignes du tableau sont fausses, quoi que répondent les unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
+        <translation>« Appliquer » n’envoie rien tant que des lignes sont refusées ou sans réponse, sauf s’il doit continuer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>Ligne %d, %@ : %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>%d of %d units</source>
+        <translation>%d unités sur %d</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
@@ -451,12 +629,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>Impossible d’écrire dans « %@ » : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>La capture n’est pas complète, car elle n’a pas pu être écrite.</translation>
     </message>
@@ -476,11 +648,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Another unit has the address of the unit %@.</source>
         <translation>Une autre unité a l’adresse de l’unité %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
-        <translation>Aucune interface réseau ne peut diffuser. Il lui faut une liaison et une adresse IPv4.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -505,20 +672,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
-        <source>The UDP port cannot be opened: %@.</source>
-        <translation>Le port UDP ne peut pas être ouvert : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>Le port UDP %d est occupé par un autre programme.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
-        <translation>Tous les ports UDP de 3520 à 3523 sont occupés par d’autres programmes.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -616,18 +772,6 @@
         <translation>« %@ » est le journal d’une exécution terminée. Indiquez un autre fichier.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>L’entrée pour %@ n’a pas pu être retirée du cache ARP.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <source>The journal is “%@”.</source>
-        <translation>Le journal est « %@ ».</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>Écrivez un texte ou --clock, pas les deux.</translation>
@@ -646,12 +790,6 @@
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>The unit %@ has not answered the option command.</source>
         <translation>L’unité %@ n’a pas répondu à la commande d’option.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/PlanReport.cpp"/>
-        <location filename="../../Sources/words/TableComplaintText.cpp"/>
-        <source>Line %d, %@: %@</source>
-        <translation>Ligne %d, %@ : %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/PlanReport.cpp"/>
@@ -707,11 +845,6 @@
         <translation>L’unité %@ affiche les anciennes valeurs et n’a pas confirmé la commande.</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/RevertCommand.cpp"/>
-        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
-        <translation>Aucune commande ne rétablit %@ de l’unité %@ : la valeur était « %@ ».</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. %@</source>
         <translation>« %@ » est refusé. %@</translation>
@@ -720,12 +853,6 @@
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. It has %d faults, the first one: %@</source>
         <translation>« %@ » est refusé. Il contient %d erreurs, la première : %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/RowsFile.cpp"/>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>Impossible de lire « %@ » : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -748,6 +875,12 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>« %@ » contient une détection qui n’a pu interroger personne.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/TableFileText.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>Impossible de lire « %@ » : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -863,21 +996,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Whether another run is under way could not be found out: %@.</source>
-        <translation>Impossible de savoir si une autre exécution est en cours : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host.</source>
-        <translation>Une autre exécution modifie des unités depuis cet ordinateur.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host: process %d.</source>
-        <translation>Une autre exécution modifie des unités depuis cet ordinateur : processus %d.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>%@ takes a number up to %d.</source>
         <translation>%@ prend un nombre jusqu’à %d.</translation>
     </message>
@@ -890,11 +1008,6 @@
         <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nothing was changed.</source>
         <translation>Rien n’a été modifié.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>about %d s left</source>
-        <translation>encore %d s environ</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1021,6 +1134,7 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
         <translation>Fermer</translation>
@@ -1097,6 +1211,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Ask Again</source>
         <translation>Redemander</translation>
     </message>
@@ -1122,6 +1237,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>State</source>
         <translation>État</translation>
@@ -1198,6 +1314,106 @@
         <translation>%d résultats</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Keep going past lines that are refused or that fail</source>
+        <translation>&amp;Continuer malgré les lignes refusées ou en échec</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Configure from File</source>
+        <translation>Configurer depuis un fichier</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Progress</source>
+        <translation>Progression</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;File…</source>
+        <translation>Choisir un &amp;fichier…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;Journal…</source>
+        <translation>Choisir un &amp;journal…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes the run of a journal back.</source>
+        <translation>Fait le plan qui annule ce qu’un journal a noté.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>None chosen</source>
+        <translation>Aucune choisie</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Stop</source>
+        <translation>&amp;Arrêter</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Re&amp;vert</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes this run back. Apply then carries it out.</source>
+        <translation>Fait le plan qui annule cette exécution. « Appliquer » l’exécute ensuite.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Save &amp;Report…</source>
+        <translation>Enregistrer le ra&amp;pport…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
+        <translation>Choisissez un tableau d’unités : des valeurs séparées par des virgules avec une colonne « serial » et une pour chaque paramètre à changer.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units of the file were not asked.</source>
+        <translation>Les unités du fichier n’ont pas été interrogées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asking the units.</source>
+        <translation>Les unités sont interrogées.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The file names no unit.</source>
+        <translation>Le fichier ne nomme aucune unité.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Units are being configured. Stop?</source>
+        <translation>Des unités sont en cours de configuration. Arrêter ?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units under way are finished and read back. The others stay as they are.</source>
+        <translation>Les unités commencées sont terminées et relues. Les autres restent telles quelles.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Go On</source>
+        <translation>Continuer</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Help text</source>
         <translation>Texte de l’aide</translation>
@@ -1224,6 +1440,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <source>Parameter</source>
         <translation>Paramètre</translation>
     </message>
@@ -1266,6 +1483,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>Aide de KXConfig</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/QtOpenPanel.cpp"/>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
@@ -2501,6 +2723,97 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <translation>La liaison est coupée.</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>To change</source>
+        <translation>À changer</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unchanged</source>
+        <translation>Inchangée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Refused</source>
+        <translation>Refusée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>Pas de réponse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done</source>
+        <translation>Faite</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not begun</source>
+        <translation>Pas commencée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Half configured</source>
+        <translation>À moitié configurée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not sent</source>
+        <translation>Pas envoyée</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Other value</source>
+        <translation>Autre valeur</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Under way</source>
+        <translation>En cours</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wrong</source>
+        <translation>Fausse</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Line</source>
+        <translation>Ligne</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Before</source>
+        <translation>Avant</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wanted</source>
+        <translation>Voulu</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Reason</source>
+        <translation>Raison</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Units to change: %d, parameters in all: %d. Unchanged: %d, refused: %d, without an answer: %d.</source>
+        <translation>Unités à changer : %d, paramètres en tout : %d. Inchangées : %d, refusées : %d, sans réponse : %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done: %d, unchanged: %d, refused: %d, not begun: %d, half configured: %d, without an answer: %d.</source>
+        <translation>Faites : %d, inchangées : %d, refusées : %d, pas commencées : %d, à moitié configurées : %d, sans réponse : %d.</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>Asked the unit at %@ for its parameters.</source>
         <translation>Les paramètres ont été demandés à l’unité à l’adresse %@.</translation>
@@ -2873,11 +3186,6 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>No answer</source>
-        <translation>Pas de réponse</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Answered</source>
         <translation>A répondu</translation>
     </message>
@@ -2950,6 +3258,41 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The journal could not be written.</source>
         <translation>Le journal n’a pas pu être écrit.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>Impossible de savoir si une autre exécution est en cours : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>Une autre exécution modifie des unités depuis cet ordinateur.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>Une autre exécution modifie des unités depuis cet ordinateur : processus %d.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>Aucune commande ne rétablit %@ de l’unité %@ : la valeur était « %@ ».</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>L’entrée pour %@ n’a pas pu être retirée du cache ARP.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d s left</source>
+        <translation>encore %d s environ</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d min left</source>
+        <translation>encore environ %d min</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -5,6 +5,7 @@
     <name>KXConfig</name>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Network &amp;interface:</source>
         <translation>ネットワークインターフェース(&amp;I):</translation>
     </message>
@@ -147,8 +148,14 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Help</source>
         <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <location filename="../../Resources/MainWindow.ui"/>
+        <source>&amp;Configure from File…</source>
+        <translation>ファイルから設定(&amp;C)…</translation>
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
@@ -194,6 +201,7 @@
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/LogTextView_Input.cpp"/>
         <source>&amp;Copy</source>
         <translation>コピー(&amp;C)</translation>
@@ -231,6 +239,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>&amp;Apply</source>
         <translation>適用(&amp;A)</translation>
     </message>
@@ -334,6 +343,175 @@
         <location filename="../../Sources/KXSaving.cpp"/>
         <source>“%@” cannot be written: %@. Nothing is lost: save it in another place.</source>
         <translation>「%@」に書き込めません: %@。何も失われていません。別の場所に保存してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Other values that no command brings back: %d.</source>
+        <translation>コマンドで元に戻せない値は、ほかに %d 個あります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Table of Units</source>
+        <translation>ユニットの表を選択</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Tables and plans</source>
+        <translation>表と計画</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose a Journal</source>
+        <translation>ジャーナルを選択</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Journals</source>
+        <translation>ジャーナル</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
+        <translation>ブロードキャストできるネットワークインターフェイスがありません。リンクと IPv4 アドレスが必要です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Choose the network interface on which the units are asked.</source>
+        <translation>ユニットに問い合わせるネットワークインターフェイスを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
+        <translation>UDP ポート 3520 から 3523 はすべて別のプログラムが使用しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <location filename="../../Sources/commands/CommandRun.cpp"/>
+        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
+        <source>The UDP port cannot be opened: %@.</source>
+        <translation>UDP ポートを開けません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun.cpp"/>
+        <source>Stopped.</source>
+        <translation>停止しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Nothing was sent.</source>
+        <translation>何も送信していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The units are not as they were: this is the new plan. Nothing was sent.</source>
+        <translation>ユニットの状態が前と異なります。これは新しい計画です。何も送信していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal cannot be written: %@. Nothing was sent.</source>
+        <translation>ジャーナルに書き込めません: %@。何も送信していません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>The journal could not be written: %@.</source>
+        <translation>ジャーナルに書き込めませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Look at the units that are half configured or have fallen silent.</source>
+        <translation>設定が途中のユニットや応答しなくなったユニットを確認してください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Save Report</source>
+        <translation>レポートを保存</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <source>Comma-separated values</source>
+        <translation>カンマ区切りの値</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Applying.cpp"/>
+        <location filename="../../Sources/commands/CommandOutput.cpp"/>
+        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
+        <source>“%@” cannot be written: %@.</source>
+        <translation>「%@」に書き込めません: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has a fault. Correct it, and choose the file again.</source>
+        <translation>ファイルに誤りがあります。修正してから、もう一度ファイルを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>The file has %d faults. Correct them, and choose the file again.</source>
+        <translation>ファイルに %d 個の誤りがあります。修正してから、もう一度ファイルを選んでください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping. The units under way are finished and read back.</source>
+        <translation>停止しています。処理中のユニットは最後まで設定し、値を確認します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units again.</source>
+        <translation>ユニットにもう一度問い合わせています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Finding out who holds the new addresses.</source>
+        <translation>新しいアドレスの使用者を調べています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Configuring the units.</source>
+        <translation>ユニットを設定しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Stopping.</source>
+        <translation>停止しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Asking the units. %d have answered.</source>
+        <translation>ユニットに問い合わせています。%d 台が応答しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/JournalFiles.cpp"/>
+        <source>The journal is “%@”.</source>
+        <translation>ジャーナルは「%@」です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply keeps a journal in the folder “%@”.</source>
+        <translation>「適用」はフォルダー「%@」にジャーナルを残します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing: lines of the table are wrong, whatever the units answer.</source>
+        <translation>「適用」は何も送信しません。ユニットの応答に関係なく、表の行に誤りがあります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
+        <translation>拒否された行や応答のない行がある間、「適用」は何も送信しません。続行を選ぶと送信します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <location filename="../../Sources/commands/PlanReport.cpp"/>
+        <location filename="../../Sources/words/TableComplaintText.cpp"/>
+        <source>Line %d, %@: %@</source>
+        <translation>%d 行目、%@: %@</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/KXTableRun_Showing.cpp"/>
+        <source>%d of %d units</source>
+        <translation>%d/%d 台</translation>
     </message>
     <message>
         <location filename="../../Sources/System Configuration/ConfigurationKeys.h"/>
@@ -451,12 +629,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandOutput.cpp"/>
-        <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
-        <source>“%@” cannot be written: %@.</source>
-        <translation>「%@」に書き込めません: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandOutput.cpp"/>
         <source>The capture is not whole, because it could not be written.</source>
         <translation>書き込みに失敗したため、キャプチャは完全ではありません。</translation>
     </message>
@@ -476,11 +648,6 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Another unit has the address of the unit %@.</source>
         <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
-        <translation>ブロードキャストできるネットワークインターフェイスがありません。リンクと IPv4 アドレスが必要です。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -505,20 +672,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/DiscoveryLine.cpp"/>
-        <source>The UDP port cannot be opened: %@.</source>
-        <translation>UDP ポートを開けません: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/DiagnosisText.cpp"/>
         <source>UDP port %d is taken by another program.</source>
         <translation>UDP ポート %d は別のプログラムが使用しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>All of the UDP ports 3520 to 3523 are taken by other programs.</source>
-        <translation>UDP ポート 3520 から 3523 はすべて別のプログラムが使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
@@ -616,18 +772,6 @@
         <translation>「%@」は終了した実行のジャーナルです。別のファイルを指定してください。</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
-        <translation>%@ の登録を ARP キャッシュから取り除けませんでした。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/JournalFiles.cpp"/>
-        <source>The journal is “%@”.</source>
-        <translation>ジャーナルは「%@」です。</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>Write a text or --clock, not both.</source>
         <translation>テキストと --clock はどちらか一方だけを書いてください。</translation>
@@ -646,12 +790,6 @@
         <location filename="../../Sources/commands/OptionCommand.cpp"/>
         <source>The unit %@ has not answered the option command.</source>
         <translation>ユニット %@ はオプションコマンドに応答しませんでした。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/PlanReport.cpp"/>
-        <location filename="../../Sources/words/TableComplaintText.cpp"/>
-        <source>Line %d, %@: %@</source>
-        <translation>%d 行目、%@: %@</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/PlanReport.cpp"/>
@@ -707,11 +845,6 @@
         <translation>ユニット %@ は以前の値のままで、コマンドの確認応答もありません。</translation>
     </message>
     <message>
-        <location filename="../../Sources/commands/RevertCommand.cpp"/>
-        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
-        <translation>%@ を元に戻すコマンドはありません (ユニット %@)。以前の値は「%@」です。</translation>
-    </message>
-    <message>
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. %@</source>
         <translation>「%@」は拒否されました。%@</translation>
@@ -720,12 +853,6 @@
         <location filename="../../Sources/commands/RowsFile.cpp"/>
         <source>“%@” is refused. It has %d faults, the first one: %@</source>
         <translation>「%@」は拒否されました。誤りが %d 件あります。最初の誤り: %@</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/RowsFile.cpp"/>
-        <location filename="../../Sources/commands/SavedComparison.cpp"/>
-        <source>“%@” cannot be read: %@.</source>
-        <translation>「%@」を読み取れません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -748,6 +875,12 @@
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
         <source>“%@” tells of a discovery that could not ask anybody.</source>
         <translation>「%@」は、どこにも問い合わせられなかった検出です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SavedComparison.cpp"/>
+        <location filename="../../Sources/words/TableFileText.cpp"/>
+        <source>“%@” cannot be read: %@.</source>
+        <translation>「%@」を読み取れません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SavedComparison.cpp"/>
@@ -863,21 +996,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Whether another run is under way could not be found out: %@.</source>
-        <translation>別の実行が進行中かどうかを確認できませんでした: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host.</source>
-        <translation>このコンピューターから別の実行がユニットを変更しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>Another run changes units from this host: process %d.</source>
-        <translation>このコンピューターから別の実行がユニットを変更しています: プロセス %d。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>%@ takes a number up to %d.</source>
         <translation>%@ の値は %d までの数です。</translation>
     </message>
@@ -890,11 +1008,6 @@
         <location filename="../../Sources/commands/TableRun.cpp"/>
         <source>Nothing was changed.</source>
         <translation>何も変更されていません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/TableRun.cpp"/>
-        <source>about %d s left</source>
-        <translation>残り約 %d 秒</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -1021,6 +1134,7 @@
         <location filename="../../Sources/platform/qt/AllUnitsWindow.cpp"/>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
         <location filename="../../Sources/platform/qt/FindBar.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Close</source>
         <translation>閉じる</translation>
@@ -1097,6 +1211,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Ask Again</source>
         <translation>もう一度問い合わせる</translation>
     </message>
@@ -1122,6 +1237,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/DiagnosisWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>State</source>
         <translation>状態</translation>
@@ -1198,6 +1314,106 @@
         <translation>%d 件</translation>
     </message>
     <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Keep going past lines that are refused or that fail</source>
+        <translation>拒否された行や失敗した行があっても続行(&amp;K)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Configure from File</source>
+        <translation>ファイルから設定</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Plan</source>
+        <translation>計画</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Progress</source>
+        <translation>進行状況</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;File…</source>
+        <translation>ファイルを選択(&amp;F)…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose &amp;Journal…</source>
+        <translation>ジャーナルを選択(&amp;J)…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes the run of a journal back.</source>
+        <translation>ジャーナルの内容を元に戻す計画を作ります。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>None chosen</source>
+        <translation>未選択</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>&amp;Stop</source>
+        <translation>停止(&amp;S)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Re&amp;vert</source>
+        <translation>元に戻す(&amp;V)</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the plan that takes this run back. Apply then carries it out.</source>
+        <translation>今回の変更を元に戻す計画を作ります。その後「適用」で実行します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Save &amp;Report…</source>
+        <translation>レポートを保存(&amp;R)…</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
+        <translation>ユニットの表を選んでください。「serial」の列と、変更するパラメータごとの列を持つ、カンマ区切りのファイルです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units of the file were not asked.</source>
+        <translation>ファイルのユニットには問い合わせていません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asking the units.</source>
+        <translation>ユニットに問い合わせています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The file names no unit.</source>
+        <translation>ファイルにユニットがありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Units are being configured. Stop?</source>
+        <translation>ユニットを設定しています。停止しますか?</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>The units under way are finished and read back. The others stay as they are.</source>
+        <translation>処理中のユニットは最後まで設定し、値を確認します。ほかのユニットはそのままです。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Stop</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Go On</source>
+        <translation>続ける</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/qt/HelpViewer.cpp"/>
         <source>Help text</source>
         <translation>ヘルプのテキスト</translation>
@@ -1224,6 +1440,7 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow.cpp"/>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
         <source>Parameter</source>
         <translation>パラメータ</translation>
     </message>
@@ -1266,6 +1483,11 @@
         <location filename="../../Sources/platform/qt/QtHelpServices.cpp"/>
         <source>KXConfig Help</source>
         <translation>KXConfig ヘルプ</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/QtOpenPanel.cpp"/>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/WaitingPanel.cpp"/>
@@ -2501,6 +2723,97 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <translation>リンクは切れています。</translation>
     </message>
     <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>To change</source>
+        <translation>変更予定</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unchanged</source>
+        <translation>変更なし</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Refused</source>
+        <translation>拒否</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <location filename="../../Sources/words/UnitColumns.cpp"/>
+        <source>No answer</source>
+        <translation>応答なし</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not begun</source>
+        <translation>未着手</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Half configured</source>
+        <translation>途中まで設定</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Not sent</source>
+        <translation>未送信</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Other value</source>
+        <translation>別の値</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Under way</source>
+        <translation>処理中</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wrong</source>
+        <translation>誤り</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Line</source>
+        <translation>行</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Unit</source>
+        <translation>ユニット</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Before</source>
+        <translation>変更前</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Wanted</source>
+        <translation>目標</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Reason</source>
+        <translation>理由</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Units to change: %d, parameters in all: %d. Unchanged: %d, refused: %d, without an answer: %d.</source>
+        <translation>変更するユニット: %d、パラメータの合計: %d。変更なし: %d、拒否: %d、応答なし: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/PlanCells.cpp"/>
+        <source>Done: %d, unchanged: %d, refused: %d, not begun: %d, half configured: %d, without an answer: %d.</source>
+        <translation>完了: %d、変更なし: %d、拒否: %d、未着手: %d、途中まで設定: %d、応答なし: %d。</translation>
+    </message>
+    <message>
         <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
         <source>Asked the unit at %@ for its parameters.</source>
         <translation>アドレス %@ のユニットにパラメータを要求しました。</translation>
@@ -2873,11 +3186,6 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
     </message>
     <message>
         <location filename="../../Sources/words/UnitColumns.cpp"/>
-        <source>No answer</source>
-        <translation>応答なし</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/UnitColumns.cpp"/>
         <source>Answered</source>
         <translation>応答あり</translation>
     </message>
@@ -2950,6 +3258,41 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>The journal could not be written.</source>
         <translation>ジャーナルを書き込めませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Whether another run is under way could not be found out: %@.</source>
+        <translation>別の実行が進行中かどうかを確認できませんでした: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host.</source>
+        <translation>このコンピューターから別の実行がユニットを変更しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Another run changes units from this host: process %d.</source>
+        <translation>このコンピューターから別の実行がユニットを変更しています: プロセス %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>No command brings %@ of the unit %@ back: it was “%@”.</source>
+        <translation>%@ を元に戻すコマンドはありません (ユニット %@)。以前の値は「%@」です。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The entry for %@ could not be taken out of the ARP cache again.</source>
+        <translation>%@ の登録を ARP キャッシュから取り除けませんでした。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d s left</source>
+        <translation>残り約 %d 秒</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>about %d min left</source>
+        <translation>残り約 %d 分</translation>
     </message>
     <message>
         <location filename="../../PrivilegedTool/ARPRequest.cpp"/>

@@ -27,6 +27,11 @@ KNOWN_LOOKUPS = {
     ("TableComplaintText.cpp", "keyOfFileOrLine("),
     ("UnitColumns.cpp", "key)"),
     ("EditOutcomeText.cpp", "said)"),
+    ("FromFileTable.cpp", "nameOfUnitParameter("),
+    ("PlanCells.cpp", "key)"),
+    ("PlanCells.cpp", "nameOfUnitParameter("),
+    ("TableComplaintText.cpp", "keyOfFileOrLine("),
+    ("TableComplaintText.cpp", "*key,"),
 }
 
 
