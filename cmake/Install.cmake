@@ -67,7 +67,8 @@ install(FILES "${kxctl_dir}/kxctl.bash" RENAME kxctl
 install(FILES "${kxctl_dir}/_kxctl" DESTINATION "${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions")
 install(FILES "${kxctl_dir}/kxctl.fish"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/json-schema" DESTINATION "${data_dir}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/docs/json-schema" "${PROJECT_SOURCE_DIR}/docs/many-sites"
+    DESTINATION "${data_dir}")
 
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/org.kxconfig.KXConfig.desktop"
     DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")

@@ -26,7 +26,8 @@ files_of() {
             usr/share/polkit-1/actions/org.kxconfig.KXConfig.policy \
             usr/share/bash-completion/completions/kxctl \
             usr/share/fish/vendor_completions.d/kxctl.fish usr/share/zsh/vendor-completions/_kxctl \
-            usr/share/kxconfig/json-schema/discover.json usr/share/kxconfig/wireshark/kxconfig.lua
+            usr/share/kxconfig/json-schema/discover.json usr/share/kxconfig/wireshark/kxconfig.lua \
+            usr/share/kxconfig/many-sites/library/kxctl.py
         ;;
     kxconfig)
         printf '%s\n' usr/bin/kxconfig usr/share/man/man1/kxconfig.1.gz \
