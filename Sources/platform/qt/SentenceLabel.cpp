@@ -1,7 +1,11 @@
 #include "platform/qt/SentenceLabel.h"
 
+#include "platform/qtcore/QtText.h"
+#include "support/LocalizedText.h"
+
 #include <QPainter>
 #include <QPainterPath>
+#include <QStringList>
 #include <algorithm>
 
 namespace kx {
@@ -28,11 +32,21 @@ void SentenceLabel::setMeansTrouble(bool meansTrouble) {
 
 // The window decides the width: no text makes the label wider.
 QSize SentenceLabel::sizeHint() const {
-    return {0, std::max(heightForWidth(width()), _reservedLines * fontMetrics().lineSpacing())};
+    return {0, std::max(heightForWidth(width()), heightOfReservedLines())};
 }
 
 QSize SentenceLabel::minimumSizeHint() const {
     return sizeHint();
+}
+
+// Letters that the label's font does not have come from another font, whose lines may be higher. So
+// this measures lines with both kinds of letters, as the label measures its text.
+int SentenceLabel::heightOfReservedLines() const {
+    const QString line = "Ag" + qtText(localizedText("Unit parameters"));
+    const QString lines = QStringList(_reservedLines, line).join('\n');
+    constexpr QRect room(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return std::max(_reservedLines * fontMetrics().lineSpacing(),
+                    fontMetrics().boundingRect(room, 0, lines).height());
 }
 
 int SentenceLabel::widthOfSign() const {

@@ -34,6 +34,7 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int heightOfReservedLines() const;
     int widthOfSign() const;
 
     int _reservedLines = 2;
