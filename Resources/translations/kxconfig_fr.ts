@@ -55,6 +55,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/SentenceLabel.cpp"/>
         <source>Unit parameters</source>
         <translation>Paramètres de l’unité</translation>
     </message>
