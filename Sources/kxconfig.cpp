@@ -37,6 +37,7 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QString>
 #include <chrono>
 #include <csignal>
 #include <optional>
@@ -74,6 +75,7 @@ std::optional<kx::Error> writeFile(const std::string& path, std::string_view tex
 // What this host gives to the controller, each after what it needs itself.
 struct Host {
     kx::QtRunLoop& runLoop;
+    QString language; // of the window
     kx::ThreadHostResolver hostResolver{runLoop};
     kx::DatagramSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
@@ -94,7 +96,8 @@ struct Host {
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
     kx::QtHelpServices helpServices{kx::installedResourceFolder(),
-                                    kx::QtHelpServices::browserForUser(::geteuid())};
+                                    kx::QtHelpServices::browserForUser(::geteuid()),
+                                    language};
     kx::KernelLinks kernelLinks{runLoop};
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
     kx::NetworkManagerProfiles connectionProfiles = {};
@@ -172,8 +175,8 @@ int runWindow(kx::MainWindow& window, kx::KXConfigAppDelegate& controller) {
     return QApplication::exec();
 }
 
-int runOnThisHost(kx::QtRunLoop& runLoop) {
-    Host host{runLoop};
+int runOnThisHost(kx::QtRunLoop& runLoop, const QString& language) {
+    Host host{runLoop, language};
     kx::SystemConfiguration::installSources(host.configurationStore, host.kernelQuery);
     kx::MainWindow window;
     kx::WaitingPanel waiting(window);
@@ -217,7 +220,7 @@ int main(int argc, char* argv[]) {
     kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
     kx::installSystemLog(&limitedLog);
     kx::installMemoryExhaustionHandler();
-    const int result = runOnThisHost(runLoop);
+    const int result = runOnThisHost(runLoop, translations.language());
 
     kx::installLocalizedText(nullptr);
     kx::installSystemLog(nullptr);
