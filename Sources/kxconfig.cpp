@@ -96,8 +96,7 @@ struct Host {
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
     kx::QtHelpServices helpServices{kx::installedResourceFolder(),
-                                    kx::QtHelpServices::browserForUser(::geteuid()),
-                                    language};
+                                    kx::QtHelpServices::browserForUser(::geteuid()), language};
     kx::KernelLinks kernelLinks{runLoop};
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
     kx::NetworkManagerProfiles connectionProfiles = {};

@@ -1,6 +1,6 @@
-// Where the help pages of a language are: the English ones in a folder, those of another language in
-// the folder inside it that has the language's name, as in "de". A page that a language does not have
-// is read in English.
+// Where the help pages of a language are: the English ones in a folder, those of another language
+// in the folder inside it that has the language's name, as in "de". A page that a language does not
+// have is read in English.
 
 #pragma once
 

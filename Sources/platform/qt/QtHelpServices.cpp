@@ -69,8 +69,7 @@ std::optional<std::string> QtHelpServices::pathForResource(std::string_view name
         return std::nullopt;
     }
     const QDir resources(QDir(_resourceFolder).filePath(qtText(folder)));
-    const QFileInfo file(
-        fileInLanguage(resources, qtText(name) + '.' + qtText(type), _language));
+    const QFileInfo file(fileInLanguage(resources, qtText(name) + '.' + qtText(type), _language));
     return file.isFile() ? std::optional(utf8Text(file.absoluteFilePath())) : std::nullopt;
 }
 
@@ -92,8 +91,8 @@ bool QtHelpServices::openAnchorInBook(std::string_view anchor, std::string_view 
         return false;
     }
     if (_viewer == nullptr || _viewer->isHidden()) {
-        _viewer = std::make_unique<HelpViewer>(
-            QDir(_resourceFolder).filePath("homepage"), _language);
+        _viewer =
+            std::make_unique<HelpViewer>(QDir(_resourceFolder).filePath("homepage"), _language);
     }
     _viewer->showPage(qtText(anchor), qtText(book));
     return true;
