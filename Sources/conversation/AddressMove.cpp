@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeBetweenLooks = 20ms;
+constexpr auto timeBetweenAnswerLooks = 20ms;
 
 // The system asks three times, once a second.
 constexpr auto patienceForOwnAnswer = 3200ms;
@@ -116,7 +116,7 @@ void AddressMove::awaitOwnAnswer() {
         endWith(MoveState::foreignAnswer);
     } else {
         _nextStep =
-            _exchange.runLoop().callOnceAfter(timeBetweenLooks, [this] { awaitOwnAnswer(); });
+            _exchange.runLoop().callOnceAfter(timeBetweenAnswerLooks, [this] { awaitOwnAnswer(); });
     }
 }
 

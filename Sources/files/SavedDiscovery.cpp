@@ -12,12 +12,12 @@ namespace kx {
 
 namespace {
 
-using Json = nlohmann::json;
+using SavedJson = nlohmann::json;
 
 // A value that the format does not allow. It does not leave this file.
 struct Damage {};
 
-const Json& valueOf(const Json& object, const char* key) {
+const SavedJson& valueOf(const SavedJson& object, const char* key) {
     const auto found = object.find(key);
     if (found == object.end()) {
         throw Damage();
@@ -25,8 +25,8 @@ const Json& valueOf(const Json& object, const char* key) {
     return *found;
 }
 
-std::optional<std::string> textOf(const Json& object, const char* key) {
-    const Json& value = valueOf(object, key);
+std::optional<std::string> textOf(const SavedJson& object, const char* key) {
+    const SavedJson& value = valueOf(object, key);
     if (value.is_null()) {
         return std::nullopt;
     }
@@ -36,15 +36,15 @@ std::optional<std::string> textOf(const Json& object, const char* key) {
     return value.get<std::string>();
 }
 
-std::uint64_t numberOf(const Json& value, std::uint64_t most) {
+std::uint64_t numberOf(const SavedJson& value, std::uint64_t most) {
     if (!value.is_number_unsigned() || value.get<std::uint64_t>() > most) {
         throw Damage();
     }
     return value.get<std::uint64_t>();
 }
 
-bool truthOf(const Json& object, const char* key) {
-    const Json& value = valueOf(object, key);
+bool truthOf(const SavedJson& object, const char* key) {
+    const SavedJson& value = valueOf(object, key);
     if (!value.is_boolean()) {
         throw Damage();
     }
@@ -81,9 +81,9 @@ UnitIDBytes bytesOfUnitID(const std::string& text) {
 }
 
 // The text of a value in a record; absent when the unit did not tell it.
-std::optional<std::string> recordText(const Json& json, const char* key, ValueForm form) {
+std::optional<std::string> recordText(const SavedJson& json, const char* key, ValueForm form) {
     if (form == ValueForm::anyPort) {
-        const Json& value = valueOf(json, key);
+        const SavedJson& value = valueOf(json, key);
         return value.is_null() ? std::nullopt
                                : std::optional(std::to_string(numberOf(value, 0xFFFF)));
     }
@@ -119,7 +119,7 @@ constexpr std::array recordKeys{
 };
 static_assert(recordKeys.size() + 1 == unitParameterCount);
 
-SavedUnit unitOf(const Json& json) {
+SavedUnit unitOf(const SavedJson& json) {
     SavedUnit unit;
     for (const RecordKey& each : recordKeys) {
         if (const auto text = recordText(json, each.key, each.form)) {
@@ -142,14 +142,14 @@ SavedUnit unitOf(const Json& json) {
     return unit;
 }
 
-SavedDiscovery discoveryOf(const Json& json) {
+SavedDiscovery discoveryOf(const SavedJson& json) {
     SavedDiscovery discovery;
-    const Json& units = valueOf(json, "units");
+    const SavedJson& units = valueOf(json, "units");
     if (!units.is_array()) {
         throw Damage();
     }
     discovery.units.reserve(units.size());
-    for (const Json& unit : units) {
+    for (const SavedJson& unit : units) {
         discovery.units.push_back(unitOf(unit));
     }
     discovery.isComplete = truthOf(json, "complete");
@@ -157,7 +157,7 @@ SavedDiscovery discoveryOf(const Json& json) {
 }
 
 // A text of any version names its version and its command in the same way.
-std::optional<SavedDiscoveryFault> objectionTo(const Json& json) {
+std::optional<SavedDiscoveryFault> objectionTo(const SavedJson& json) {
     if (!json.is_object() || !json.contains("schema") || !json.contains("command") ||
         !json["schema"].is_number_integer()) {
         return SavedDiscoveryFault::otherDocument;
@@ -178,7 +178,7 @@ std::optional<SavedDiscoveryFault> objectionTo(const Json& json) {
 
 std::variant<SavedDiscovery, SavedDiscoveryFault> readSavedDiscovery(std::string_view text) {
     try {
-        const Json json = Json::parse(text, nullptr, false);
+        const SavedJson json = SavedJson::parse(text, nullptr, false);
         if (json.is_discarded()) {
             return SavedDiscoveryFault::damaged;
         }
