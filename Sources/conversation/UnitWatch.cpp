@@ -45,14 +45,20 @@ void UnitWatch::request() {
         end();
         return;
     }
+    askThoseThatMissedIt();
+    _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
+}
+
+void UnitWatch::askThoseThatMissedIt() {
+    int asked = 0;
     for (auto& entry : _units) {
         Watched& watched = entry.second;
-        if (watched.unanswered > 0) {
+        if (watched.unanswered > 0 && !watched.isSilent && asked < mostAskedAlone) {
             exchange().send(parameterRequestCommand, watched.unit.target());
+            ++asked;
         }
         ++watched.unanswered;
     }
-    _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
 }
 
 void UnitWatch::askAt(const UnitTarget& everybody) {

@@ -1,8 +1,10 @@
 // A watch over the units of a network: it asks everybody again and again, and tells who appears,
 // changes, falls silent and comes back.
 //
-// A unit is silent after three requests without an answer. From the second one on it is also asked
-// at the address that it told last, because a request to everybody gets lost more easily.
+// A unit is silent after three requests without an answer. Until then it is also asked, from the
+// second one on, at the address that it told last, because a request to everybody gets lost more
+// easily. Anybody can tell somebody else's address and be silent, so this is done for a silent unit
+// no longer, and for 200 units at a time: nobody is flooded.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the watch.
 
@@ -38,6 +40,7 @@ struct WatchPlan {
 class UnitWatch final : public Operation, private UnitExchange::Listener {
 public:
     static constexpr int requestsUntilSilent = 3;
+    static constexpr int mostAskedAlone = 200;
 
     UnitWatch(UnitExchange& exchange, WatchPlan plan);
 
@@ -64,6 +67,7 @@ private:
     void unitDidTell(const HeardUnit& unit) override;
     void request();
     void askAt(const UnitTarget& everybody);
+    void askThoseThatMissedIt();
     void noteSilence();
     void endWhenEnough();
 
