@@ -297,6 +297,7 @@ private:
                                const DatagramOrigin& origin);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
+    std::optional<SendFailure> sendTo(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
     void requestParametersOwed();

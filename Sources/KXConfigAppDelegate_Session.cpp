@@ -32,7 +32,9 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
         _allUnits.expectChange(*_selectedUnit);
     }
     _sendFailure =
-        _session.send(*command, destination, unitDestination().port, linkOfSelectedUnit());
+        sendTo(*command, {.address = destination,
+                          .port = unitDestination().port,
+                          .link = linkToAddress(destination, everybody(), linkOfSelectedUnit())});
     return true;
 }
 
@@ -45,6 +47,11 @@ std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view com
     appendString(entryOfRequest(destination.address));
     commentNextSend(entryOfRequest(destination.address));
     _allUnits.requestDidLeave();
+    return sendTo(command, destination);
+}
+
+std::optional<SendFailure> KXConfigAppDelegate::sendTo(std::string_view command,
+                                                       UnitDestination destination) {
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
     }
