@@ -58,7 +58,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
     kx::LinuxDiagnosticSockets diagnosticSockets(runLoop);
     kx::EventLoopWaiting waiting;
     const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
-    kx::AuthorizedAddressBindings bindings(*authorizationService);
+    kx::AuthorizedAddressBindings bindings(*authorizationService, [&] { waiting.giveUp(); });
 
     kx::CommandRun run(line, {.session = {.runLoop = runLoop,
                                           .hostResolver = hostResolver,

@@ -2,10 +2,14 @@
 
 #include "addresses/ARPToolPath.h"
 
+#include <utility>
+
 namespace kx {
 
-AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service)
-    : _authorization(std::make_shared<Authorization>(service, arpToolPath)) {}
+AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service,
+                                                     std::function<void()> giveUpWaiting)
+    : _authorization(std::make_shared<Authorization>(service, arpToolPath))
+    , _giveUpWaiting(std::move(giveUpWaiting)) {}
 
 void AuthorizedAddressBindings::bind(const std::string& address, const std::string& hardwareAddress,
                                      Done done) {

@@ -38,6 +38,8 @@ void AddressMove::interrupt() {
     _isInterrupted = true;
     if (_search != nullptr && !_search->hasEnded()) {
         endWith(MoveState::notBegun);
+    } else if (_isBinding) {
+        _services.bindings.giveUp();
     }
 }
 
@@ -64,6 +66,7 @@ void AddressMove::bindIfFree() {
     } else if (_holders.state == HolderState::unknown) {
         endWith(MoveState::unknownHolder);
     } else {
+        _isBinding = true;
         _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
                                 [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
                                     if (!isAlive.expired()) {
@@ -74,6 +77,7 @@ void AddressMove::bindIfFree() {
 }
 
 void AddressMove::didBind(const ARPEntry& entry) {
+    _isBinding = false;
     _binding = entry;
     if (entry.state != ARPEntryState::started) {
         endWith(MoveState::notBound);
