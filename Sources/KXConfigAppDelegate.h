@@ -298,6 +298,8 @@ private:
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
     std::optional<SendFailure> sendTo(std::string_view command, UnitDestination destination);
+    // The unit of this serial number, or every unit when it is absent, may answer differently.
+    void expectChangeOf(const std::optional<std::string>& serial);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
     void requestParametersOwed();

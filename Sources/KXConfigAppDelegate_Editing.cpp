@@ -281,12 +281,9 @@ void KXConfigAppDelegate::sendOptionButton() {
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
     lookAtTarget();
-    if (_selectedUnit.has_value() && _shownTarget.has_value() &&
-        _shownTarget->reach == RequestReach::oneUnit) {
-        _findings.expectChange(*_selectedUnit);
-    } else {
-        _findings.expectChanges();
-    }
+    const bool isForOneUnit =
+        _shownTarget.has_value() && _shownTarget->reach == RequestReach::oneUnit;
+    expectChangeOf(isForOneUnit ? _selectedUnit : std::nullopt);
     const auto failure = sendRequest(restoreCommand, unitDestination());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
     showRequest(RequestKind::restore, restoreCommand, failure);

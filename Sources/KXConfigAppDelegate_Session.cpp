@@ -25,11 +25,9 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
     lookAtTarget();
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
-        _findings.expectChanges();
-        _allUnits.expectChanges();
+        expectChangeOf(std::nullopt);
     } else if (_selectedUnit.has_value()) {
-        _findings.expectChange(*_selectedUnit);
-        _allUnits.expectChange(*_selectedUnit);
+        expectChangeOf(_selectedUnit);
     }
     _sendFailure =
         sendTo(*command, {.address = destination,
@@ -40,6 +38,16 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
 
 bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command) {
     return sendCommandToAddress(command, selectedText(UnitParameter::internalIPAddress));
+}
+
+void KXConfigAppDelegate::expectChangeOf(const std::optional<std::string>& serial) {
+    if (serial.has_value()) {
+        _findings.expectChange(*serial);
+        _allUnits.expectChange(*serial);
+    } else {
+        _findings.expectChanges();
+        _allUnits.expectChanges();
+    }
 }
 
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
