@@ -28,9 +28,11 @@ LastAddressRequests::LastAddressRequests(UnitExchange& exchange,
     : Listener(exchange)
     , _unanswered(units.size()) {
     _units.reserve(units.size());
+    std::map<std::uint32_t, int> unitsAt;
     for (const HeardUnit& unit : units) {
         _places.emplace(identityOf(unit), _units.size());
-        _units.push_back({.unit = unit});
+        const int count = ++unitsAt[lastAddressOf(unit).address];
+        _units.push_back({.unit = unit, .isOneTooMany = count > mostAtOneAddress});
     }
 }
 
@@ -56,7 +58,7 @@ void LastAddressRequests::beginTry() {
 
 void LastAddressRequests::askNextGroup() {
     for (std::size_t sent = 0; sent < unitsAtOnce && _next < _units.size(); ++_next) {
-        if (!_units[_next].hasAnswered) {
+        if (!_units[_next].hasAnswered && !_units[_next].isOneTooMany) {
             ask(_units[_next]);
             ++sent;
         }

@@ -3,6 +3,7 @@
 #include "units/UnitCommand.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace kx {
@@ -50,12 +51,13 @@ void UnitWatch::request() {
 }
 
 void UnitWatch::askThoseThatMissedIt() {
-    int asked = 0;
+    std::set<std::uint32_t> asked;
     for (auto& entry : _units) {
         Watched& watched = entry.second;
-        if (watched.unanswered > 0 && !watched.isSilent && asked < mostAskedAlone) {
-            exchange().send(parameterRequestCommand, watched.unit.target());
-            ++asked;
+        const UnitTarget target = watched.unit.target();
+        if (watched.unanswered > 0 && !watched.isSilent && asked.size() < mostAskedAlone &&
+            asked.insert(target.address).second) {
+            exchange().send(parameterRequestCommand, target);
         }
         ++watched.unanswered;
     }

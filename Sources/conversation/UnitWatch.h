@@ -3,8 +3,9 @@
 //
 // A unit is silent after three requests without an answer. Until then it is also asked, from the
 // second one on, at the address that it told last, because a request to everybody gets lost more
-// easily. Anybody can tell somebody else's address and be silent, so this is done for a silent unit
-// no longer, and for 200 units at a time: nobody is flooded.
+// easily. Anybody can tell somebody else's address, or that of everybody, and be silent. So this is
+// done for a silent unit no longer, once for all units of one address, and for 200 addresses at a
+// time: nobody is flooded.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the watch.
 
@@ -40,7 +41,7 @@ struct WatchPlan {
 class UnitWatch final : public Operation, private UnitExchange::Listener {
 public:
     static constexpr int requestsUntilSilent = 3;
-    static constexpr int mostAskedAlone = 200;
+    static constexpr std::size_t mostAskedAlone = 200;
 
     UnitWatch(UnitExchange& exchange, WatchPlan plan);
 
