@@ -145,7 +145,6 @@ void KXConfigAppDelegate::edit_internalIP() {
     arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
-        showTarget();
     }
     if (sendCommandToAddress(move.command, move.typed)) {
         EditOutcome outcome(move, std::move(unit), _sendFailure);
