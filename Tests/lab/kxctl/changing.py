@@ -217,7 +217,7 @@ class Option(Test):
         self.assertEqual(commands_heard(before), [("4B5800000001", "^^Idnonsense\r")])
 
     def test_a_text_is_sent_as_it_stands(self):
-        for text in ("[V]", "[a,b]", "{}", "a,b"):
+        for text in ("[V]", "[a,b]", "{}", "a,b", "++"):
             before = len(heard())
             kxctl("option", "4B5800000001", text)
             self.assertEqual(commands_heard(before), [("4B5800000001", f"^^Id{text}\r")])
