@@ -1,6 +1,7 @@
 #include "commands/CommandRun.h"
 
 #include "addresses/IPv4Address.h"
+#include "conversation/Discovery.h"
 #include "conversation/Finding.h"
 #include "conversation/RequestTarget.h"
 #include "conversation/UnitDestination.h"
@@ -50,8 +51,10 @@ std::string hardwareAddressesOf(const std::vector<const HeardUnit*>& units) {
     return text;
 }
 
-// Absent when exactly one unit has the name, and no other unit has its address.
-std::optional<Failure> objectionToUnits(const UnitName& name, const HeardUnits& heard) {
+// Absent when exactly one unit has the name, one host answers as it, and no other unit has its
+// address.
+std::optional<Failure> objectionToUnits(const UnitName& name, const Discovery& discovery) {
+    const HeardUnits& heard = discovery.units();
     const auto units = heard.named(name);
     const std::string shown = safeForSentence(textOf(name));
     if (units.empty()) {
@@ -61,6 +64,9 @@ std::optional<Failure> objectionToUnits(const UnitName& name, const HeardUnits& 
     if (units.size() > 1) {
         return failureOf(ErrorCode::ambiguous, localizedText("Several units answer as %@: %@.",
                                                              {shown, hardwareAddressesOf(units)}));
+    }
+    if (const auto hosts = discovery.twoHostsOf(units.front()->serialNumber())) {
+        return failureOf(ErrorCode::ambiguous, textOfFinding(*hosts));
     }
     if (heard.isDuplicated(*units.front())) {
         return failureOf(ErrorCode::ambiguous,
@@ -279,7 +285,7 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     warnOfSend(discovery.failure());
     Refusal first;
     for (const UnitName& name : names) {
-        auto refusal = objectionToUnits(name, discovery.units());
+        auto refusal = objectionToUnits(name, discovery);
         if (!refusal.has_value()) {
             found.push_back(*discovery.units().named(name).front());
         } else if (!first.has_value()) {

@@ -14,7 +14,6 @@
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
 #include "conversation/DiagnosticSockets.h"
-#include "conversation/Discovery.h"
 #include "conversation/HostDiagnostics.h"
 #include "conversation/HostInterface.h"
 #include "conversation/Operation.h"

@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "DatagramSystemCalls.h"
 #include "conversation/Finding.h"
 #include "conversation/IdentityWitness.h"
 

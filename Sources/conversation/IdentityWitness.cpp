@@ -1,7 +1,6 @@
 #include "conversation/IdentityWitness.h"
 
 #include "addresses/IPv4Address.h"
-#include "conversation/SenderAddress.h"
 #include "units/ParameterNumber.h"
 
 #include <string>
@@ -21,7 +20,7 @@ bool differ(std::uint64_t left, std::uint64_t right) {
 
 } // namespace
 
-void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
+void IdentityWitness::unitDidTell(const UnitRecord& record, const AnswerOrigin& origin,
                                   std::vector<Finding>& findings) {
     const auto serial = record.value(UnitParameter::serialNumber);
     if (!serial.has_value()) {
@@ -30,7 +29,7 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin
     const std::uint64_t key = numberOfSixBytes(*serial);
     const Host now{.hardwareAddress =
                        numberOfSixBytes(record.value(UnitParameter::internalMACAddress)),
-                   .sender = addressOfSender(origin),
+                   .sender = origin.sender,
                    .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress)),
                    .link = origin.link,
                    .hasToldParameters = true};
@@ -45,9 +44,9 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin
     compareClaims(*serial, key, now.claimedAddress, findings);
 }
 
-void IdentityWitness::replyDidCome(std::string_view serial, const DatagramOrigin& origin,
+void IdentityWitness::replyDidCome(std::string_view serial, const AnswerOrigin& origin,
                                    std::vector<Finding>& findings) {
-    const Host now{.sender = addressOfSender(origin), .link = origin.link};
+    const Host now{.sender = origin.sender, .link = origin.link};
     if (Host* const first = hostOf(numberOfSixBytes(serial), now)) {
         compareHosts(serial, now, *first, findings);
     }

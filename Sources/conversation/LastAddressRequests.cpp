@@ -8,10 +8,6 @@ namespace kx {
 
 namespace {
 
-std::pair<std::string, std::string> identityOf(const HeardUnit& unit) {
-    return {std::string(unit.serialNumber()), std::string(unit.hardwareAddress())};
-}
-
 // A unit that has no address yet tells 0.0.0.0, where this host would ask itself.
 UnitTarget lastAddressOf(const HeardUnit& unit) {
     UnitTarget target = unit.target();

@@ -61,10 +61,8 @@ private:
     void callAfter(std::chrono::milliseconds time, void (LastAddressRequests::*operation)());
     void finish();
 
-    using Identity = std::pair<std::string, std::string>; // serial number and hardware address
-
     std::vector<Asked> _units;
-    std::map<Identity, std::size_t> _places; // of the units in the list
+    std::map<UnitIdentity, std::size_t> _places; // of the units in the list
     HeardUnits _heard;
     std::size_t _next = 0; // the first unit that this try has not come to
     std::size_t _unanswered = 0;

@@ -85,7 +85,7 @@ void UnitWatch::unitDidTell(const HeardUnit& unit) {
     if (!_hasBegun || hasEnded()) {
         return;
     }
-    const std::pair key(std::string(unit.serialNumber()), std::string(unit.hardwareAddress()));
+    const UnitIdentity key = identityOf(unit);
     if (_units.size() == HeardUnits::defaultLimit && !_units.contains(key)) {
         return; // any host can invent units
     }

@@ -21,7 +21,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace kx {
@@ -73,7 +72,7 @@ private:
     void endWhenEnough();
 
     WatchPlan _plan;
-    std::map<std::pair<std::string, std::string>, Watched> _units; // by serial number, hardware
+    std::map<UnitIdentity, Watched> _units;
     bool _hasBegun = false;
     bool _hasAsked = false;
     std::optional<SendFailure> _failure;

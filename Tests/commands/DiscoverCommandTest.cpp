@@ -50,6 +50,39 @@ TEST_F(DiscoverCommandTest, AnInterfaceThatRefusesToSendLeavesTheOthersAndIsTold
     EXPECT_EQ(document()["warnings"][0]["code"], "socket");
 }
 
+TEST_F(DiscoverCommandTest, TwoHostsWithEverythingInCommonButTheirAddressAreAWarning) {
+    play({});
+    play({.late = 5ms}).unit.internalIP.back() = 77;
+    EXPECT_EQ(run({"discover", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 1U);
+    ASSERT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "ambiguous");
+    EXPECT_EQ(document()["warnings"][0]["message"],
+              "Two hosts answer as the unit 01 02 03 04 05 06: 192.168.1.10 and 192.168.1.77.");
+}
+
+TEST_F(DiscoverCommandTest, ASerialNumberUnderTwoHardwareAddressesIsOneWarning) {
+    play({});
+    PlayedUnit& twin = play({});
+    twin.unit.internalIP.back() = 77;
+    twin.unit.internalMAC.back() = 0x77;
+    EXPECT_EQ(run({"discover", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 2U);
+    EXPECT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "ambiguous");
+}
+
+TEST_F(DiscoverCommandTest, AUnitThatIsHeardOnTwoInterfacesIsAWarning) {
+    addInterface("kx2", secondLink, 0xC0A80102U);
+    play({});
+    play({.link = secondLink});
+    EXPECT_EQ(run({"discover", "-i", "all", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 1U);
+    ASSERT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "interfaces");
+    EXPECT_NE(console.notes.find("kx0 and kx2"), std::string::npos) << console.notes;
+}
+
 TEST_F(DiscoverCommandTest, WhereNothingCanBeSentItCannotAsk) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     EXPECT_EQ(run({"discover", "--json"}), 3);

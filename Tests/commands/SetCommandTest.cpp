@@ -52,6 +52,20 @@ TEST_F(SetCommandTest, AUnitThatTellsAnAddressOfManyGetsNoCommand) {
     EXPECT_EQ(commandsSent(), Words{});
 }
 
+TEST_F(SetCommandTest, NoCommandIsSentWhereTwoHostsAnswerAsOneUnit) {
+    play({});
+    play({.late = 5ms}).unit.internalIP.back() = 77; // the hardware address is the same
+    for (const Words& words :
+         {Words{"set", serial, "unit-id=AB"}, Words{"set", "id:42", "unit-id=AB"},
+          Words{"option", serial, "V"}, Words{"restore", serial, "--yes"}}) {
+        Words all = words;
+        all.emplace_back("--json");
+        EXPECT_EQ(run(all), 1) << words.front();
+        EXPECT_EQ(errorCode(), "ambiguous");
+    }
+    EXPECT_EQ(commandsSent(), Words{});
+}
+
 TEST_F(SetCommandTest, AUnitThatTellsNoAddressIsReachedWhereItsAnswerCameFrom) {
     at(5ms, [this] {
         systemCalls.queueDatagram(sparseReplyOf(SampleUnit()), dataForAddress(0xC0A80163U, 3520),
