@@ -315,6 +315,27 @@ CommandRun::Refusal CommandRun::findEveryone(std::vector<HeardUnit>& found) {
                : std::nullopt;
 }
 
+CommandRun::Refusal CommandRun::refusalOfSerialNumber(const std::string& serial) {
+    const UnitName name = SerialNumberOfUnit{serial};
+    Discovery discovery(exchange(),
+                        {.everybody = everybody(), .isEnough = [&name](const HeardUnits& units) {
+                             return !units.named(name).empty();
+                         }});
+    wait(discovery, [&discovery] { return std::to_string(discovery.units().count()); });
+    if (isInterrupted()) {
+        return interruption();
+    }
+    if (!discovery.hasAsked()) {
+        return refusalOfSend(discovery.failure());
+    }
+    const auto others = discovery.units().named(name);
+    return others.empty()
+               ? std::nullopt
+               : Refusal(failureOf(ErrorCode::ambiguous,
+                                   localizedText("Another unit has the serial number %@: %@.",
+                                                 {serial, hardwareAddressesOf(others)})));
+}
+
 CommandRun::Refusal CommandRun::findUnit(const UnitName& name, HeardUnit& unit) {
     std::vector<HeardUnit> found;
     if (auto refusal = findUnits({name}, found)) {

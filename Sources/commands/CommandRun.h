@@ -111,6 +111,9 @@ public:
     // address than the one that it tells.
     Refusal findUnit(const UnitName& name, HeardUnit& unit);
 
+    // Why a unit cannot get this serial number: another one has it. Asks everybody.
+    Refusal refusalOfSerialNumber(const std::string& serial);
+
     // The steps of a command for one unit: interfaces, listening, and the unit itself.
     Refusal reachUnit(const std::string& typedName, HeardUnit& unit);
 

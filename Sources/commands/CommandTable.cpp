@@ -141,7 +141,7 @@ constexpr std::array commands{
                "list the network interfaces",
                "Lists the network interfaces of this host. Units can be asked where the column "
                "can-ask says yes: there the interface carries datagrams, can broadcast, and has an "
-               "IPv4 address.",
+               "IPv4 address. With -i NAME it lists that one only.",
                {},
                interfacesExamples,
                interfacesKeys,

@@ -90,6 +90,15 @@ Refusal objectionOnLink(const CommandRun& run, std::uint32_t link, const Edits& 
     return own.empty() ? std::nullopt : objectionToNewAddress(run, own, edits);
 }
 
+// Two units with one serial number could not be told apart any more.
+Refusal objectionToNewSerialNumber(CommandRun& run, const std::vector<UnitChange>& changes) {
+    const auto change = std::ranges::find_if(changes, [](const UnitChange& each) {
+        return each.edit.edit.parameter == UnitParameter::serialNumber &&
+               each.state == ChangeState::planned;
+    });
+    return change != changes.end() ? run.refusalOfSerialNumber(change->to) : std::nullopt;
+}
+
 std::string_view nameOf(ChangeState state) {
     switch (state) {
     case ChangeState::planned:
@@ -276,6 +285,9 @@ int runSet(CommandRun& run) {
         }
     }
     auto changes = changesOfUnit(unit, edits);
+    if (auto refusal = objectionToNewSerialNumber(run, changes)) {
+        return run.finish(std::move(refusal));
+    }
     if (run.line().has("--dry-run")) {
         report(run, std::string(unit.serialNumber()), changes);
         return run.finish();

@@ -66,6 +66,26 @@ TEST_F(SetCommandTest, NoCommandIsSentWhereTwoHostsAnswerAsOneUnit) {
     EXPECT_EQ(commandsSent(), Words{});
 }
 
+TEST_F(SetCommandTest, ASerialNumberThatAnotherUnitHasIsRefused) {
+    play({.obey = obeyAll});
+    play({.unit = secondSampleUnit(), .late = 1500ms}); // nobody waits so long for the first one
+    EXPECT_EQ(run({"set", serial, "unit-id=AB", "serial=010203040507", "--json"}), 1);
+    EXPECT_EQ(errorCode(), "ambiguous");
+    EXPECT_EQ(message(),
+              "Another unit has the serial number 01 02 03 04 05 07: 00:1A:2B:3C:4D:5F.");
+    EXPECT_EQ(run({"set", serial, "serial=010203040507", "--dry-run", "--json"}), 1);
+    EXPECT_EQ(commandsSent(), Words{});
+    EXPECT_EQ(run({"set", serial, "unit-id=AB", "serial=010203040506", "--json"}), 0);
+    EXPECT_EQ(document()["changes"][1]["state"], "unchanged");
+}
+
+TEST_F(SetCommandTest, ASignalWhileOthersAreAskedForTheSerialNumberSendsNoCommand) {
+    play({.obey = obeyAll});
+    interruptAfter(500ms);
+    EXPECT_EQ(run({"set", serial, "serial=010203040508", "--json"}), 130);
+    EXPECT_EQ(commandsSent(), Words{});
+}
+
 TEST_F(SetCommandTest, AUnitThatTellsNoAddressIsReachedWhereItsAnswerCameFrom) {
     at(5ms, [this] {
         systemCalls.queueDatagram(sparseReplyOf(SampleUnit()), dataForAddress(0xC0A80163U, 3520),
