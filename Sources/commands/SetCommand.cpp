@@ -143,6 +143,14 @@ std::string holdersOf(const AddressHolders& holders) {
     return text;
 }
 
+// At a terminal without a desktop nobody can be asked.
+std::string textOfBinding(const AddressMove& move) {
+    const std::string text = textOfARPEntry(stringForIP(move.holders().address), move.binding());
+    return move.binding().state == ARPEntryState::rightsNotGiven
+               ? text + ' ' + localizedText("kxctl needs no question when root runs it.")
+               : text;
+}
+
 // Why the move to another address has not begun, or what is wrong after it.
 Refusal failureOfMove(const AddressMove& move) {
     switch (move.state()) {
@@ -155,8 +163,7 @@ Refusal failureOfMove(const AddressMove& move) {
                          localizedText("Whether somebody holds %@ could not be found out.",
                                        {stringForIP(move.holders().address)}));
     case MoveState::notBound:
-        return failureOf(ErrorCode::rights,
-                         textOfARPEntry(stringForIP(move.holders().address), move.binding()));
+        return failureOf(ErrorCode::rights, textOfBinding(move));
     case MoveState::foreignAnswer:
         return move.foreignHardwareAddress().empty()
                    ? failureOf(ErrorCode::half,
