@@ -4,6 +4,7 @@
 #include "commands/CommandRun.h"
 #include "commands/Commands.h"
 #include "commands/TextTable.h"
+#include "conversation/EditTrouble.h"
 #include "conversation/UnitEdits.h"
 #include "support/LocalizedText.h"
 #include "support/TextEncoding.h"
@@ -29,10 +30,18 @@ std::string_view identifierOf(const ExactEdit& edit) {
 
 // In the words that the window has for the same value.
 Refusal objectionToValue(const ExactEdit& edit) {
+    // With such an address a unit would never be found again.
+    const bool isOfMany = troubleOfEdit(edit.edit, {}) == EditTrouble::hardwareAddressOfMany;
+    if (!edit.isChanged && !isOfMany) {
+        return std::nullopt;
+    }
+    const std::string sentence = edit.isChanged
+                                     ? forecastOfValueAlone(edit.edit)
+                                     : localizedText("No unit can have it: it reaches many hosts.");
     return failureOf(
         ErrorCode::value,
         localizedText("%@ is refused without --loose. The window says of its value: %@",
-                      {identifierOf(edit), forecastOfValueAlone(edit.edit)}));
+                      {identifierOf(edit), sentence}));
 }
 
 Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
@@ -54,8 +63,8 @@ Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
                                                                {name}));
     }
     const auto& exact = std::get<ExactEdit>(edit);
-    if (exact.isChanged && !isLoose) {
-        return objectionToValue(exact);
+    if (auto refusal = objectionToValue(exact); refusal.has_value() && !isLoose) {
+        return refusal;
     }
     if (!asciiBytes(exact.edit.command).has_value() || exact.edit.isTooLong()) {
         return failureOf(ErrorCode::value,

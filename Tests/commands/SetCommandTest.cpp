@@ -172,6 +172,8 @@ TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent
          "the number 300, because that is how “300x” is read. Above 255 it does not "
          "show as a number."},
         {"unit-id=SEVENBY", "the text “SEVENBY”, though a unit ID has 6 bytes and this has 7."},
+        {"internal-mac=FF:FF:FF:FF:FF:FF", "No unit can have it: it reaches many hosts."},
+        {"internal-mac=01005e000001", "No unit can have it: it reaches many hosts."},
         {"internal-ip=x", "internal IP address 0.0.0.0, because “x” is not an IPv4 address."}};
     for (const auto& [word, reason] : cases) {
         EXPECT_EQ(run({"set", serial, word, "--json"}), 2) << word;
@@ -179,6 +181,9 @@ TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent
         EXPECT_TRUE(message().ends_with(reason)) << message();
     }
     EXPECT_TRUE(systemCalls.sentDatagrams().empty());
+    play({});
+    EXPECT_EQ(run({"set", serial, "internal-mac=FFFFFFFFFFFF", "--loose", "--dry-run"}), 0);
+    EXPECT_EQ(run({"set", serial, "destination-mac=FFFFFFFFFFFF", "--dry-run"}), 0);
 }
 
 } // namespace kx
