@@ -112,7 +112,8 @@ constexpr Text setText =
     "A value that the unit would get in another form than it was typed is refused; --loose takes "
     "it.\n\n"
     "A new internal-ip must lie in the interface's network and must be held by nobody. It needs "
-    "administrator rights for a moment, to enter the unit's hardware address into the ARP cache.";
+    "administrator rights for a moment, to enter the unit's hardware address into the ARP cache. "
+    "A new serial must be one that no other unit tells; everybody is asked for two seconds.";
 
 constexpr Text diagnoseText =
     "Checks the way from this host to the units and back: the link, the address, the port, the "
