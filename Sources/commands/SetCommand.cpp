@@ -160,6 +160,21 @@ std::string textOfBinding(const AddressMove& move) {
                : text;
 }
 
+// The unit shows the new address and does not answer for it, as far as this host can tell.
+std::string textOfForeignAnswer(const AddressMove& move) {
+    const std::string address = stringForIP(move.holders().address);
+    if (!move.foreignHardwareAddress().empty()) {
+        return localizedText("The unit %@ shows %@, but %@ answers ARP requests for it.",
+                             {move.hardwareAddress(), address, move.foreignHardwareAddress()});
+    }
+    return move.isStillBound()
+               ? localizedText("Whether the unit itself answers ARP requests for %@ could not be "
+                               "found out.",
+                               {address})
+               : localizedText("The unit shows %@ but does not answer ARP requests for it.",
+                               {address});
+}
+
 // Why the move to another address has not begun, or what is wrong after it.
 Refusal failureOfMove(const AddressMove& move) {
     switch (move.state()) {
@@ -174,17 +189,7 @@ Refusal failureOfMove(const AddressMove& move) {
     case MoveState::notBound:
         return failureOf(ErrorCode::rights, textOfBinding(move));
     case MoveState::foreignAnswer:
-        return move.foreignHardwareAddress().empty()
-                   ? failureOf(ErrorCode::half,
-                               localizedText("The unit shows %@ but does not answer ARP requests "
-                                             "for it.",
-                                             {stringForIP(move.holders().address)}))
-                   : failureOf(
-                         ErrorCode::half,
-                         localizedText("The unit %@ shows %@, but %@ answers ARP requests for "
-                                       "it.",
-                                       {move.hardwareAddress(), stringForIP(move.holders().address),
-                                        move.foreignHardwareAddress()}));
+        return failureOf(ErrorCode::half, textOfForeignAnswer(move));
     case MoveState::notBegun:
     case MoveState::commanded:
     case MoveState::moved:

@@ -19,6 +19,13 @@ protected:
         neighbours.entries[0xC0A80132U] = {.state = state, .hardwareAddress = hardware};
     }
 
+    // The new address is free, and the unit is reached there from its binding on.
+    void playAUnitThatMoves() {
+        PlayedUnit& unit = play({.obey = obeyAll});
+        bindings.onBind = [&unit] { unit.unit.internalIP.back() = 50; };
+        setEntry(NeighbourState::failed);
+    }
+
     std::string message() const { return document()["error"]["message"].get<std::string>(); }
 
     static constexpr auto otherHardware = "00:1A:2B:3C:4D:77";
@@ -145,6 +152,36 @@ TEST_F(SetCommandTest, NothingIsSentWhenSomebodyHoldsTheNewAddress) {
     EXPECT_NE(message().find(otherHardware), std::string::npos);
     EXPECT_EQ(document()["changes"][0]["state"], "refused");
     EXPECT_EQ(commandsSent(), Words{});
+}
+
+TEST_F(SetCommandTest, AnotherHardwareAddressThatAnswersForTheNewAddressIsToldWithTheUnitsOwn) {
+    playAUnitThatMoves();
+    bindings.onRelease = [this] { setEntry(NeighbourState::reachable, otherHardware); };
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "serial=010203040509", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_NE(message().find(otherHardware), std::string::npos) << message();
+    EXPECT_NE(message().find("00:1A:2B:3C:4D:5E"), std::string::npos) << message();
+    EXPECT_EQ(document()["changes"][0]["state"], "done");
+    EXPECT_EQ(document()["changes"][1]["state"], "refused");
+}
+
+TEST_F(SetCommandTest, AUnitThatDoesNotAnswerForItsNewAddressIsLeftHalf) {
+    playAUnitThatMoves();
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_NE(message().find("does not answer ARP requests"), std::string::npos) << message();
+}
+
+TEST_F(SetCommandTest, AnEntryThatCannotBeTakenOutAgainHidesWhoAnswers) {
+    playAUnitThatMoves();
+    bindings.answerToRelease = {.state = ARPEntryState::rightsNotGiven};
+    bindings.onRelease = [this] { setEntry(NeighbourState::permanent, "00:1A:2B:3C:4D:5E"); };
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_EQ(message(), "Whether the unit itself answers ARP requests for 192.168.1.50 could not "
+                         "be found out.");
+    EXPECT_EQ(document()["warnings"][0]["code"], "arp-entry");
+    EXPECT_NE(console.notes.find("taken out of the ARP cache"), std::string::npos);
 }
 
 TEST_F(SetCommandTest, HalfSaysWhyTheRestWasRefused) {

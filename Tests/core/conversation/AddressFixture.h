@@ -50,12 +50,16 @@ public:
     std::vector<std::string> calls;
     ARPEntry answerToBind{.state = ARPEntryState::started};
     ARPEntry answerToRelease{.state = ARPEntryState::started};
+    std::function<void()> onBind;
     std::function<void()> onRelease;
     bool asksAPerson = false; // who answers when the test calls `answer`
     Done answer;
 
     void bind(const std::string& address, const std::string& hardwareAddress, Done done) override {
         calls.push_back("bind " + address + " " + hardwareAddress);
+        if (onBind) {
+            onBind();
+        }
         if (asksAPerson) {
             answer = std::move(done);
         } else {
