@@ -51,6 +51,13 @@ std::string hardwareAddressesOf(const std::vector<const HeardUnit*>& units) {
     return text;
 }
 
+// A unit may have been named twice, by its serial number and by its unit ID.
+void addOnce(std::vector<HeardUnit>& units, const HeardUnit& unit) {
+    if (std::ranges::find(units, unit.serialNumber(), &HeardUnit::serialNumber) == units.end()) {
+        units.push_back(unit);
+    }
+}
+
 // Absent when exactly one unit has the name, one host answers as it, and no other unit has its
 // address.
 std::optional<Failure> objectionToUnits(const UnitName& name, const Discovery& discovery) {
@@ -287,7 +294,7 @@ CommandRun::Refusal CommandRun::findUnits(const std::vector<UnitName>& names,
     for (const UnitName& name : names) {
         auto refusal = objectionToUnits(name, discovery);
         if (!refusal.has_value()) {
-            found.push_back(*discovery.units().named(name).front());
+            addOnce(found, *discovery.units().named(name).front());
         } else if (!first.has_value()) {
             first = std::move(refusal);
         } else {

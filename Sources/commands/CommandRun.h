@@ -104,7 +104,7 @@ public:
     void wait(Operation& operation, std::function<std::string()> count = {});
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
-    // be taken for; the refusal tells all the others, with the code of the first.
+    // be taken for, each once; the refusal tells all the others, with the code of the first.
     Refusal findUnits(const std::vector<UnitName>& names, std::vector<HeardUnit>& found);
 
     // The same for one unit that will get a command. Warns when its answer came from another
