@@ -61,7 +61,7 @@ constexpr std::array restoreOptions{
     OptionRow{"--yes", "", ValueKind::none, "do not ask whether this is meant"},
 };
 constexpr std::array watchOptions{
-    OptionRow{"--every", "S", ValueKind::text, "ask every S seconds (2.0)"},
+    OptionRow{"--every", "S", ValueKind::text, "ask every S seconds (2.0), 0.1 at least"},
     OptionRow{"--for", "S", ValueKind::text, "end after S seconds"},
     OptionRow{"--until", "N", ValueKind::text,
               "end as soon as N units are there; with fewer at the end the exit status is 1"},
