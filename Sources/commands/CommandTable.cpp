@@ -113,6 +113,7 @@ constexpr Text setText =
     "it.\n\n"
     "A new internal-ip must lie in the interface's network and must be held by nobody. It needs "
     "administrator rights for a moment, to enter the unit's hardware address into the ARP cache. "
+    "Root has them; for others polkit asks at the desktop or, without one, in the terminal. "
     "A new serial must be one that no other unit tells; everybody is asked for two seconds.";
 
 constexpr Text diagnoseText =

@@ -174,6 +174,19 @@ TEST_F(DiscoverCommandTest, ASavedFileIsReplacedAtOnce) {
     EXPECT_EQ(savedText(), console.output);
 }
 
+TEST_F(DiscoverCommandTest, WhileAnotherProgramAsksAtTheTerminalNothingIsWrittenOverItsQuestion) {
+    console.isTerminal = true;
+    at(250ms, [this] { console.isLent = true; });
+    at(750ms, [this] { console.isLent = false; });
+    EXPECT_EQ(run({"discover", "--wait", "1", "--expect", "2"}), 1);
+    for (const char* shown : {"0.2 s", "0.8 s"}) {
+        EXPECT_NE(console.notes.find(shown), std::string::npos) << shown;
+    }
+    for (const char* hidden : {"0.3 s", "0.7 s"}) {
+        EXPECT_EQ(console.notes.find(hidden), std::string::npos) << hidden;
+    }
+}
+
 TEST_F(DiscoverCommandTest, ATerminalShowsTheCountAndTheTimeThoughNothingArrives) {
     console.isTerminal = true;
     play({});

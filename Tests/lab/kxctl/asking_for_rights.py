@@ -1,39 +1,39 @@
-"""kxctl of an ordinary user at a terminal, under a real polkit daemon, with a person at the dialogs and
+"""kxctl of an ordinary user, under a real polkit daemon, with a person at the dialogs of a desktop and
 without one. A new address of a unit needs administrator rights for a moment.
 """
 
 import os
 import pty
-import subprocess
+import signal
+import threading
 import time
 
-from program import PROGRAM, ROOT, Test, commands_heard, environment, heard, main, seen_until
+from program import PROGRAM, ROOT, Test, commands_heard, environment, heard, main, run_for_text, seen_until
 
 IN_POLKIT = str(ROOT / "Tests/linux/polkit/in_polkit.sh")
 MOVE = "set 4B5800000001 internal-ip=192.0.2.50"
 
 
-def at_terminal(*options, patience=25):
-    """The status of kxctl, and what a person sees. The terminal is also that of everything that kxctl
-    starts."""
-    words = [IN_POLKIT, *options, "--", "bash", "-c", f"exec {PROGRAM} {MOVE}"]
+def at_terminal(*options, command=f"exec {PROGRAM} {MOVE}", patience=25):
+    """The status of the command, and what a person sees. The terminal is also that of everything that
+    the command starts."""
+    words = [IN_POLKIT, *options, "--", "bash", "-c", command]
     process, terminal = pty.fork()
     if process == 0:
         os.execvpe(words[0], words, environment())
-    watchdog = subprocess.Popen(["sh", "-c", f"sleep {patience}; kill -TERM {process}"])
+    watchdog = threading.Timer(patience, os.kill, (process, signal.SIGTERM))
+    watchdog.start()
     try:
         seen = seen_until(terminal, None)
         status = os.waitstatus_to_exitcode(os.waitpid(process, 0)[1])
     finally:
-        watchdog.kill()
-        watchdog.wait()
+        watchdog.cancel()
         os.close(terminal)
     return status, seen
 
 
 def entry():
-    return subprocess.run(["ip", "neigh", "show", "192.0.2.50", "nud", "permanent"],
-                          capture_output=True, text=True, check=True).stdout
+    return run_for_text("ip", "neigh", "show", "192.0.2.50", "nud", "permanent")
 
 
 class Rights(Test):
@@ -45,8 +45,8 @@ class Rights(Test):
         self.assertEqual(commands_heard(self.before), [])
         self.assertEqual(entry(), "")
 
-    def test_where_nobody_can_be_asked_it_says_so_and_does_not_wait(self):
-        status, seen = at_terminal()
+    def test_where_its_words_go_to_no_terminal_nobody_is_asked_in_one(self):
+        status, seen = at_terminal(command=f"{PROGRAM} {MOVE} 2>&1 | cat; exit ${{PIPESTATUS[0]}}")
         self.assertEqual(status, 3, seen)
         self.assertIn("administrator rights were not given", seen)
         self.assertIn("root", seen)
