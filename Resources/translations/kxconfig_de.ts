@@ -381,13 +381,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>Die Befehlszeile ist nicht lesbar: %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Einer Option fehlt der Wert, oder ein Schalter hat einen. Siehe kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>Einer Option fehlt der Wert, oder ein Schalter hat einen. Siehe kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>Die Befehlszeile ist nicht lesbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -462,21 +462,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>Das Gerät %@ antwortet nicht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Mehrere Geräte antworten als %@: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
         <translation>Keine Netzwerkschnittstelle kann Broadcasts senden. Dazu braucht sie eine Verbindung und eine IPv4-Adresse.</translation>
     </message>
@@ -520,23 +505,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Kein Gerät hat geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
     </message>
@@ -554,6 +522,43 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Interrupted.</source>
         <translation>Unterbrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>Das Gerät %@ antwortet nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Mehrere Geräte antworten als %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Ein anderes Gerät hat die Seriennummer %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -725,6 +730,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ wird ohne --loose abgelehnt. Das Fenster sagt zu dem Wert: %@</translation>
     </message>
@@ -755,9 +766,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ gehört %@.</translation>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Als root ausgeführt, braucht kxctl keine Rückfrage.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>Ob das Gerät selbst die ARP-Anfragen für %@ beantwortet, ließ sich nicht feststellen.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -766,8 +786,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ gehört %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -803,6 +824,11 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nennen Sie Geräte oder schreiben Sie --all, nicht beides.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every nimmt mindestens 0.1 Sekunden: Jedes Gerät antwortet jedes Mal.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -2025,11 +2051,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>Das Gerät %@ hat sie.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

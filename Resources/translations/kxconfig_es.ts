@@ -381,13 +381,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>No se puede leer la línea de órdenes: %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>A una opción le falta su valor, o un indicador tiene uno. Véase kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>A una opción le falta su valor, o un indicador tiene uno. Véase kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>No se puede leer la línea de órdenes: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -462,21 +462,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>La unidad %@ no responde.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Varias unidades responden como %@: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
         <translation>Ninguna interfaz de red puede difundir. Necesita un enlace y una dirección IPv4.</translation>
     </message>
@@ -520,23 +505,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Ninguna unidad ha respondido.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ es la dirección de este mismo equipo.</translation>
     </message>
@@ -554,6 +522,43 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrumpido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>La unidad %@ no responde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Varias unidades responden como %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Ninguna unidad ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Otra unidad tiene el número de serie %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -725,6 +730,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ se rechaza sin --loose. La ventana dice de su valor: %@</translation>
     </message>
@@ -755,9 +766,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ está ocupada por %@.</translation>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Si lo ejecuta root, kxctl no necesita preguntar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>No se ha podido averiguar si la propia unidad responde a las peticiones ARP para %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -766,8 +786,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ está ocupada por %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -803,6 +824,11 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nombre unidades o escriba --all, no ambos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every admite 0.1 segundos como mínimo: cada unidad responde cada vez.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -2025,11 +2051,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>La unidad %@ la tiene.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

@@ -381,13 +381,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>La ligne de commande est illisible : %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Il manque la valeur d’une option, ou un drapeau en a une. Voir kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>Il manque la valeur d’une option, ou un drapeau en a une. Voir kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>La ligne de commande est illisible : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -462,21 +462,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>L’unité %@ ne répond pas.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Une autre unité a l’adresse de l’unité %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
         <translation>Aucune interface réseau ne peut diffuser. Il lui faut une liaison et une adresse IPv4.</translation>
     </message>
@@ -520,23 +505,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Aucune unité n’a répondu.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ est l’adresse de cet hôte lui-même.</translation>
     </message>
@@ -554,6 +522,43 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrompu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>L’unité %@ ne répond pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Une autre unité a l’adresse de l’unité %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Aucune unité n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Une autre unité a le numéro de série %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -725,6 +730,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ est refusé sans --loose. La fenêtre dit de sa valeur : %@</translation>
     </message>
@@ -755,9 +766,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ est occupée par %@.</translation>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Lancé par root, kxctl n’a pas de question à poser.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>Impossible d’établir si l’unité répond elle-même aux requêtes ARP pour %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -766,8 +786,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ est occupée par %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -803,6 +824,11 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>Nommez des unités ou écrivez --all, pas les deux.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every prend 0.1 seconde au moins : chaque unité répond à chaque fois.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -2025,11 +2051,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>L’unité %@ l’a.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>

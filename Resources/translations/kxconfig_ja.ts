@@ -381,13 +381,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>コマンドラインを読み取れません: %@。</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>オプションに値がないか、値を取らないオプションに値があります。kxctl --help を参照してください。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>オプションに値がないか、値を取らないオプションに値があります。kxctl --help を参照してください。</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>コマンドラインを読み取れません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -462,21 +462,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>ユニット %@ は応答しません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>複数のユニットが %@ として応答しています: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>No network interface can broadcast. It needs a link and an IPv4 address.</source>
         <translation>ブロードキャストできるネットワークインターフェイスがありません。リンクと IPv4 アドレスが必要です。</translation>
     </message>
@@ -520,23 +505,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>「%@」はユニットの名前ではありません。4B5800000001 のような 6 組の数字のシリアル番号か、id:TEXT を書いてください。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>応答したユニットはありません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ はこのホスト自身のアドレスです。</translation>
     </message>
@@ -554,6 +522,43 @@
         <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Interrupted.</source>
         <translation>中断しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>ユニット %@ は応答しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>複数のユニットが %@ として応答しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>「%@」はユニットの名前ではありません。4B5800000001 のような 6 組の数字のシリアル番号か、id:TEXT を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>応答したユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>別のユニットがシリアル番号 %@ を持っています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -725,6 +730,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>多数宛てなので、ユニットには使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ は --loose がないため拒否されました。この値についてウィンドウは次のように示します: %@</translation>
     </message>
@@ -755,9 +766,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ は %@ が使用しています。</translation>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>root で実行すれば、kxctl は確認なしで動きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>%@ への ARP 要求にユニット自身が応答しているかどうかは分かりませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -766,8 +786,9 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
+        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>%@ is held by %@.</source>
+        <translation>%@ は %@ が使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -803,6 +824,11 @@
         <location filename="../../Sources/commands/ShowCommand.cpp"/>
         <source>Name units, or write --all, not both.</source>
         <translation>ユニットの指定と --all はどちらか一方だけを書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every の値は 0.1 秒以上です。毎回すべてのユニットが応答します。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
@@ -2025,11 +2051,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>ユニット %@ が使用しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>多数宛てなので、ユニットには使えません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
