@@ -3,6 +3,7 @@
 #include "addresses/IPv4Address.h"
 #include "units/ParameterNumber.h"
 
+#include <algorithm>
 #include <string>
 
 namespace kx {
@@ -89,13 +90,23 @@ void IdentityWitness::compareClaims(std::string_view serial, std::uint64_t key,
         return;
     }
     Claim& claim = _claims.try_emplace(address, Claim{.serial = key}).first->second;
-    if (claim.serial != key && !claim.isTold) {
-        claim.isTold = true;
-        findings.push_back(TwoSerialsOfOneAddress{address, textOfSixBytes(claim.serial, " "),
-                                                  std::string(serial)});
+    if (claim.serial == key) {
+        return;
+    }
+    if (!claim.finding.has_value()) {
+        claim.finding = findings.size();
+        findings.push_back(
+            SerialsOfOneAddress{address, {textOfSixBytes(claim.serial, " "), std::string(serial)}});
+        return;
+    }
+    auto& serials = std::get<SerialsOfOneAddress>(findings.at(*claim.finding)).serials;
+    if (serials.size() < SerialsOfOneAddress::mostSerials &&
+        std::ranges::find(serials, serial) == serials.end()) {
+        serials.emplace_back(serial);
     }
 }
 
+// Of a claim that has been told, any unit may be the one that gives it up.
 void IdentityWitness::expectChange(std::string_view serial) {
     const std::uint64_t key = numberOfSixBytes(serial);
     const auto host = _hosts.find(key);
@@ -103,7 +114,8 @@ void IdentityWitness::expectChange(std::string_view serial) {
         return;
     }
     const auto claim = _claims.find(host->second.claimedAddress);
-    if (claim != _claims.end() && claim->second.serial == key) {
+    if (claim != _claims.end() &&
+        (claim->second.serial == key || claim->second.finding.has_value())) {
         _claims.erase(claim);
     }
     _hosts.erase(host);

@@ -16,6 +16,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
@@ -33,8 +34,9 @@ class IdentityWitness {
 public:
     static constexpr std::size_t mostSerials = 131'072;
 
-    // A unit told its parameters. Appends what this answer contradicts to `findings`. An answer
-    // without a serial number contradicts nothing.
+    // A unit told its parameters. Appends what this answer contradicts to `findings`, or adds its
+    // serial number to those of one address there; nobody else may change `findings` in between. An
+    // answer without a serial number contradicts nothing.
     void unitDidTell(const UnitRecord& record, const AnswerOrigin& origin,
                      std::vector<Finding>& findings);
 
@@ -62,8 +64,8 @@ private:
         bool isToldAsOtherSender = false; // as an answer from another address
     };
     struct Claim {
-        std::uint64_t serial = 0;
-        bool isTold = false; // as the address of two serial numbers
+        std::uint64_t serial = 0;                // the first that claimed the address
+        std::optional<std::size_t> finding = {}; // where it is told, once another claims it too
     };
 
     Host* hostOf(std::uint64_t serial, const Host& now);

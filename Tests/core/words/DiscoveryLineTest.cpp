@@ -191,7 +191,7 @@ TEST(DiscoveryLineText, AContradictionWeighsMoreThanLateUnitsAndTheyMoreThanDiff
     facts.late = 1;
     facts.units.added = {1, serial};
     EXPECT_EQ(discoveryLine(facts), "1 unit answered late. Discover again to list it.");
-    const TwoSerialsOfOneAddress twice{0xC000020BU, serial, "4B 58 00 00 00 04"};
+    const SerialsOfOneAddress twice{0xC000020BU, {serial, "4B 58 00 00 00 04"}};
     facts.finding = twice;
     EXPECT_EQ(discoveryLine(facts), textOfFinding(twice));
 }
