@@ -80,7 +80,9 @@ void KXConfigAppDelegate::showDiscoveryLine() {
     const auto nameOfLink = [this](std::uint32_t link) {
         return _services.systemCalls.nameForLink(link);
     };
-    _outlets.discoveryLine->setStringValue(discoveryLine(discoveryFacts(), nameOfLink));
+    const DiscoveryFacts facts = discoveryFacts();
+    _outlets.discoveryLine->setMeansTrouble(meansTrouble(facts));
+    _outlets.discoveryLine->setStringValue(discoveryLine(facts, nameOfLink));
     _outlets.unitSelectPopUp->refreshDimming();
 }
 

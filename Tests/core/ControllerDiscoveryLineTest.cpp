@@ -120,9 +120,13 @@ TEST_F(ControllerDiscoveryLine, WhenThePortIsTakenItSaysSoAtOnceAndUntilTheNextD
     EXPECT_EQ(discoveryLine(), "Port 3520 is taken by another program. Choose another port.");
     runLoop.advanceBy(2000ms);
     EXPECT_EQ(discoveryLine(), "Port 3520 is taken by another program. Choose another port.");
+    EXPECT_TRUE(window.discoveryLine.meansTrouble());
     window.udpPortPopUp.selectItemWithTitle("3521");
     controller.udpPortSelect();
     EXPECT_TRUE(discoveryLine().starts_with("Asking"));
+    EXPECT_FALSE(window.discoveryLine.meansTrouble());
+    runLoop.advanceBy(2000ms);
+    EXPECT_TRUE(window.discoveryLine.meansTrouble()) << "nobody has answered";
 }
 
 TEST_F(ControllerDiscoveryLine, WhenTheRequestDoesNotLeaveItSaysSoAtOnce) {
