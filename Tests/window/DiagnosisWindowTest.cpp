@@ -2,6 +2,7 @@
 
 #include "platform/qt/DiagnosisWindow.h"
 
+#include "Looks.h"
 #include "MainWindowFixture.h"
 #include "core/conversation/DiagnosisSamples.h"
 #include "doubles/ScriptedDiagnosticSockets.h"
@@ -47,6 +48,20 @@ protected:
         return *details()->findChild<Part*>(name);
     }
 
+    // The first row of pixels with a letter in it.
+    static int firstRowOfText(QWidget& widget) {
+        const QImage picture = widget.grab().toImage();
+        const QColor background = backgroundOf(picture);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (contrastOf(picture.pixelColor(x, y), background) > 3) {
+                    return y;
+                }
+            }
+        }
+        return -1;
+    }
+
     void openDetails() {
         say("No unit answered.");
         click("detailsButton");
@@ -80,6 +95,24 @@ TEST_F(DiagnosisWindowTest, TheLinkStandsBesideTheLineWhateverTheLineSays) {
         EXPECT_EQ(link.y(), line.y());
         EXPECT_GT(link.x(), line.geometry().right());
     }
+}
+
+TEST_F(DiagnosisWindowTest, TheLinkStandsOnTheBaselineOfTheLine) {
+    launchWithTwoUnits();
+    auto& link = control<QPushButton>("detailsButton");
+    auto& line = control<QLabel>("discoveryLine");
+    say(link.text().toStdString().c_str());
+    EXPECT_EQ(link.y() + firstRowOfText(link), line.y() + firstRowOfText(line));
+}
+
+TEST_F(DiagnosisWindowTest, TheLinkShowsThatItHasTheKeyboard) {
+    launchWithTwoUnits();
+    auto& link = control<QPushButton>("detailsButton");
+    control<QPushButton>("discoverButton").setFocus();
+    const QImage without = link.grab().toImage();
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(link.hasFocus());
+    EXPECT_NE(link.grab().toImage(), without);
 }
 
 TEST_F(DiagnosisWindowTest, WithoutADiagnosisThereIsNoLink) {
