@@ -13,6 +13,7 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 
 namespace kx {
@@ -21,7 +22,9 @@ namespace {
 
 class OneInterface final : public HostInterfaces {
 public:
-    std::vector<HostInterface> list() override { return {sampleInterface()}; }
+    std::vector<HostInterface> list() override { return {interface}; }
+
+    HostInterface interface = sampleInterface();
 };
 
 class DiagnosisWindowTest : public MainWindowTest {
@@ -82,6 +85,8 @@ protected:
                            .neighbours = neighbours,
                            .interfaces = hostInterfaces}};
 };
+
+class DiagnosisScreenFit : public DiagnosisWindowTest {}; // runs on small screens too
 
 } // namespace
 
@@ -150,15 +155,31 @@ TEST_F(DiagnosisWindowTest, ItAsksWhenItOpensAndAgainByItsButton) {
 
 TEST_F(DiagnosisWindowTest, AFailedCheckHasASignAWordAndAdvice) {
     launch();
+    hostInterfaces.interface.isRunning = false;
     openDetails();
     runLoop.advanceBy(std::chrono::seconds(1));
     const auto& table = part<QTableWidget>("diagnosisChecks");
-    int fails = 0;
-    for (int row = 0; row < table.rowCount(); ++row) {
-        fails += table.item(row, 1)->text() == "✗ Fails" ? 1 : 0;
-    }
-    EXPECT_EQ(fails == 0, diagnosis.report().causes.empty());
-    EXPECT_FALSE(part<QLabel>("diagnosisHeading").text().isEmpty());
+    EXPECT_EQ(table.item(0, 1)->text(), "✗ Fails");
+    EXPECT_EQ(table.item(0, 2)->text(), "The interface kx0 has no link.");
+    EXPECT_TRUE(table.item(0, 3)->text().startsWith("Plug in the cable"));
+    EXPECT_EQ(part<QLabel>("diagnosisHeading").text(), "The interface kx0 has no link.");
+}
+
+TEST_F(DiagnosisWindowTest, TheKeyboardStaysAtAskAgainWhileItAsks) {
+    launchWithTwoUnits();
+    openDetails();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(details()));
+    auto& button = part<QPushButton>("askAgainButton");
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_FALSE(button.isEnabled());
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_TRUE(button.hasFocus());
+    QTest::keyClick(&button, Qt::Key_Space);
+    part<QTableWidget>("diagnosisChecks").setFocus();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_FALSE(button.hasFocus()) << "a person has gone elsewhere meanwhile";
 }
 
 TEST_F(DiagnosisWindowTest, ItIsCopiedAsText) {
@@ -202,6 +223,16 @@ TEST_F(DiagnosisWindowTest, ItIsReachedByTheKeyboard) {
     EXPECT_TRUE(control<QPushButton>("detailsButton").hasFocus());
     press(Qt::Key_Return);
     EXPECT_NE(details(), nullptr);
+}
+
+TEST_F(DiagnosisScreenFit, TheWindowAndItsFrameAreOnTheScreen) {
+    launchWithTwoUnits();
+    openDetails();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(details()));
+    QTest::qWait(10);
+    const QRect screen = details()->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(details()->frameGeometry())) << details()->frameGeometry().height();
+    EXPECT_GT(details()->frameGeometry().height(), details()->height());
 }
 
 } // namespace kx

@@ -1,6 +1,7 @@
 #include "platform/qt/DiagnosisWindow.h"
 
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 
 #include <QApplication>
@@ -8,7 +9,6 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 #include <utility>
@@ -107,7 +107,7 @@ void DiagnosisWindow::layOut() {
     column->addWidget(_checks);
     column->addLayout(buttons);
     drawFrameOnPixels(*_checks);
-    resize(QSize(820, 560).boundedTo(screen()->availableGeometry().size()));
+    (new ScreenFit(*this))->resize(QSize(820, 560));
 }
 
 void DiagnosisWindow::showAndAsk() {
@@ -117,11 +117,17 @@ void DiagnosisWindow::showAndAsk() {
     ask();
 }
 
+// A button that is disabled gives the keyboard to the next one, where another press would do
+// something else. So it gets the keyboard back, unless a person has taken it elsewhere.
 void DiagnosisWindow::ask() {
+    QWidget* const before = focusWidget();
+    _focusBefore = nullptr;
     _diagnosis.ask([this] { showReport(); });
     if (_diagnosis.isAsking()) {
         _askButton->setEnabled(false);
         _copyButton->setEnabled(false);
+        _focusBefore = before;
+        _focusMeanwhile = focusWidget();
         _heading->say(localizedQtText("Asking. This takes a second, or three where nobody answers "
                                       "for an address."));
     }
@@ -143,8 +149,8 @@ void DiagnosisWindow::showReport() {
     showHeading();
     _askButton->setEnabled(true);
     _copyButton->setEnabled(true);
-    if (focusWidget() == nullptr) {
-        _askButton->setFocus();
+    if (_focusBefore != nullptr && focusWidget() == _focusMeanwhile) {
+        _focusBefore->setFocus();
     }
 }
 

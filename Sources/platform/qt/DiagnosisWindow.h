@@ -49,6 +49,8 @@ private:
     QPushButton* _copyButton;
     QPushButton* _helpButton;
     QPushButton* _closeButton;
+    QWidget* _focusBefore = nullptr; // when it began to ask; null when nobody had the keyboard
+    const QWidget* _focusMeanwhile = nullptr;
 };
 
 } // namespace kx
