@@ -193,8 +193,7 @@ int runOnThisHost(kx::QtRunLoop& runLoop, const QString& language) {
                                                ? std::optional<kx::UnitRecord>(unit->second)
                                                : std::nullopt;
                                 }});
-    window.setDiagnosis(&diagnosis,
-                        [&host] { kx::openHelpAnchor("no-answer", host.helpServices); });
+    window.setDiagnosis(&diagnosis, [&controller] { controller.openHelp("no-answer"); });
     const int result = runWindow(window, controller);
     window.setDiagnosis(nullptr, {});
     return result;
