@@ -30,6 +30,7 @@
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "support/LocalizedText.h"
 #include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
 
@@ -66,6 +67,19 @@ kx::CaptureTime timeNow() {
         std::chrono::system_clock::now().time_since_epoch());
 }
 
+// The event log has no line for it.
+void keepProbe(kx::SessionRecord& record, kx::CapturedDatagram datagram, kx::ByteView data) {
+    const std::string comment = kx::localizedText("A check of Details, not in the event log");
+    datagram.comment = comment;
+    record.keep(datagram, data);
+}
+
+kx::CaptureCounts countsOf(const kx::CapturingSystemCalls& calls,
+                           const kx::CapturingSystemCalls& others) {
+    return {.received = calls.counts().received + others.counts().received,
+            .dropped = calls.counts().dropped + others.counts().dropped};
+}
+
 // Only a file is replaced, and only one that may be written.
 std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
     const auto objection = kx::objectionToReplacing(path);
@@ -92,6 +106,15 @@ struct Host {
          .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
          .receiveBuffers = &receiveBuffers}};
 
+    // What the diagnosis asks and hears with its own sockets is recorded too.
+    kx::CapturingSystemCalls recordedProbes{
+        systemCalls,
+        {.take = [this](const kx::CapturedDatagram& datagram,
+                        kx::ByteView data) { keepProbe(sessionRecord, datagram, data); },
+         .now = timeNow,
+         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
+         .receiveBuffers = &receiveBuffers}};
+
     kx::LinuxNeighbourTable neighbours = {};
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
@@ -113,7 +136,7 @@ kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& in
                         std::chrono::steady_clock::now().time_since_epoch());
                 },
             .witness = host.witness,
-            .systemCalls = host.systemCalls,
+            .systemCalls = host.recordedProbes,
             .sockets = host.diagnosticSockets,
             .host = host.diagnostics,
             .neighbours = host.neighbours,
@@ -123,32 +146,31 @@ kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& in
 // The host must outlive the services.
 kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagnosis,
                                              kx::AuthorizationService* authorizationService) {
-    return {.runLoop = host.runLoop,
-            .hostResolver = host.hostResolver,
-            .systemCalls = host.recordedCalls,
-            .wallClock = host.wallClock,
-            .application = host.application,
-            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-            .openHelpAnchor =
-                [&help = host.helpServices](std::string_view anchor) {
-                    return kx::openHelpAnchor(anchor, help);
-                },
-            .authorizationService = authorizationService,
-            .receiveBuffers = &host.receiveBuffers,
-            .hasHelpPage = [&help = host.helpServices](
-                               std::string_view page) { return kx::hasHelpPage(page, help); },
-            .neighbours = &host.neighbours,
-            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
-            .openHelpInViewer =
-                [&help = host.helpServices](std::string_view anchor) {
-                    const auto book = help.helpBookName();
-                    return book.has_value() && help.openAnchorInBook(anchor, *book);
-                },
-            .saving = {.record = &host.sessionRecord,
-                       .application = "KXConfig " KX_VERSION,
-                       .counts = [&host] { return host.recordedCalls.counts(); },
-                       .now = timeNow,
-                       .writeFile = writeFile}};
+    return {
+        .runLoop = host.runLoop,
+        .hostResolver = host.hostResolver,
+        .systemCalls = host.recordedCalls,
+        .wallClock = host.wallClock,
+        .application = host.application,
+        .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+        .openHelpAnchor = [&help = host.helpServices](
+                              std::string_view anchor) { return kx::openHelpAnchor(anchor, help); },
+        .authorizationService = authorizationService,
+        .receiveBuffers = &host.receiveBuffers,
+        .hasHelpPage = [&help = host.helpServices](
+                           std::string_view page) { return kx::hasHelpPage(page, help); },
+        .neighbours = &host.neighbours,
+        .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
+        .openHelpInViewer =
+            [&help = host.helpServices](std::string_view anchor) {
+                const auto book = help.helpBookName();
+                return book.has_value() && help.openAnchorInBook(anchor, *book);
+            },
+        .saving = {.record = &host.sessionRecord,
+                   .application = "KXConfig " KX_VERSION,
+                   .counts = [&host] { return countsOf(host.recordedCalls, host.recordedProbes); },
+                   .now = timeNow,
+                   .writeFile = writeFile}};
 }
 
 // Runs the program until its end, which a person or a signal brings about.
