@@ -836,6 +836,11 @@
         <translation>%d von %d Geräten sind da.</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Eine Prüfung der Einzelheiten, nicht im Ereignisprotokoll</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>Das ARP-Programm erhält keinen Text, der mit „-“ beginnt.</translation>
@@ -2378,6 +2383,16 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Zwei Geräte geben als ihre Adresse %@ an: %@ und %@. Ein Befehl kann jedes von beiden erreichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d Geräte oder mehr geben als ihre Adresse %@ an, darunter %@ und %@. Ein Befehl kann jedes von ihnen erreichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d Geräte geben als ihre Adresse %@ an, darunter %@ und %@. Ein Befehl kann jedes von ihnen erreichen.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

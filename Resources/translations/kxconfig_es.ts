@@ -836,6 +836,11 @@
         <translation>Están %d de %d unidades.</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Una comprobación de Detalles que no está en el registro de eventos</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>La herramienta ARP no recibe ningún texto que empiece por «-».</translation>
@@ -2378,6 +2383,16 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Dos unidades dicen que su dirección es %@: %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unidades o más dicen que su dirección es %@, entre ellas %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unidades dicen que su dirección es %@, entre ellas %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

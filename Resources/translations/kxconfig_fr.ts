@@ -836,6 +836,11 @@
         <translation>%d unités sur %d sont là.</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Une vérification de Détails, absente du journal des événements</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>L’outil ARP ne reçoit aucun texte qui commence par « - ».</translation>
@@ -2378,6 +2383,16 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Deux unités indiquent comme adresse %@ : %@ et %@. Une commande peut atteindre l’une ou l’autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unités ou plus indiquent comme adresse %@, parmi elles %@ et %@. Une commande peut atteindre n’importe laquelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unités indiquent comme adresse %@, parmi elles %@ et %@. Une commande peut atteindre n’importe laquelle.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

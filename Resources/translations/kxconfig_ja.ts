@@ -836,6 +836,11 @@
         <translation>今あるユニット: %d、期待した数: %d。</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>詳細の確認（イベントログには記録されません）</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>「-」で始まるテキストは ARP ツールに渡されません。</translation>
@@ -2378,6 +2383,16 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>2 台のユニットがアドレス %@ を名乗っています: %@ と %@。コマンドはどちらに届くかわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d 台以上のユニットがアドレス %@ を名乗っています（%@ と %@ など）。コマンドはどれに届くかわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d 台のユニットがアドレス %@ を名乗っています（%@ と %@ など）。コマンドはどれに届くかわかりません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
