@@ -45,6 +45,17 @@ TEST_F(DiscoveryLineTest, KeepsItsPlaceSoThatNothingMovesWhenItsTextComesOrGoes)
     }
 }
 
+TEST_F(DiscoveryLineTest, KeepsItsPlaceAlsoForTheLongestUsualSentenceWithItsSign) {
+    const QRect unitsBefore = placeOf("unitSelectPopUp");
+    const QRect tableBefore = placeOf("unitParameterTableView");
+    window.outlets().discoveryLine->setMeansTrouble(true);
+    say("No unit answered. The 3 listed answered earlier. The request left, and nothing came back. "
+        "No interface is chosen: asked 255.255.255.255.");
+    EXPECT_GT(line().heightForWidth(line().width()), 2 * line().fontMetrics().lineSpacing());
+    EXPECT_EQ(placeOf("unitSelectPopUp"), unitsBefore);
+    EXPECT_EQ(placeOf("unitParameterTableView"), tableBefore);
+}
+
 TEST_F(DiscoveryLineTest, StandsBelowDiscoverAndIsShownWhole) {
     say(longSentence);
     EXPECT_GT(placeOf("discoveryLine").top(), placeOf("discoverButton").bottom());

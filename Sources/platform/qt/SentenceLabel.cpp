@@ -6,7 +6,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QStringList>
-#include <algorithm>
 
 namespace kx {
 
@@ -21,6 +20,11 @@ void SentenceLabel::setReservedLines(int lines) {
     updateGeometry();
 }
 
+void SentenceLabel::setLeastLines(int lines) {
+    _leastLines = lines;
+    updateGeometry();
+}
+
 void SentenceLabel::setMeansTrouble(bool meansTrouble) {
     if (meansTrouble != this->meansTrouble()) {
         AnnouncedLabel::setMeansTrouble(meansTrouble);
@@ -32,20 +36,20 @@ void SentenceLabel::setMeansTrouble(bool meansTrouble) {
 
 // The window decides the width: no text makes the label wider.
 QSize SentenceLabel::sizeHint() const {
-    return {0, std::max(heightForWidth(width()), heightOfReservedLines())};
+    return {0, std::max(heightForWidth(width()), heightOfLines(_reservedLines))};
 }
 
 QSize SentenceLabel::minimumSizeHint() const {
-    return sizeHint();
+    return {0, std::max(heightForWidth(width()), heightOfLines(leastLines()))};
 }
 
 // Letters that the label's font does not have come from another font, whose lines may be higher. So
 // this measures lines with both kinds of letters, as the label measures its text.
-int SentenceLabel::heightOfReservedLines() const {
+int SentenceLabel::heightOfLines(int count) const {
     const QString line = "Ag" + qtText(localizedText("Unit parameters"));
-    const QString lines = QStringList(_reservedLines, line).join('\n');
+    const QString lines = QStringList(count, line).join('\n');
     constexpr QRect room(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
-    return std::max(_reservedLines * fontMetrics().lineSpacing(),
+    return std::max(count * fontMetrics().lineSpacing(),
                     fontMetrics().boundingRect(room, 0, lines).height());
 }
 
