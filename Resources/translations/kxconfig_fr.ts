@@ -788,7 +788,7 @@
         <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@.</source>
-        <translation>%@ est occupée par %@.</translation>
+        <translation>%@ est à %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -1990,7 +1990,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP, ce qui nécessite les droits d’administrateur.</translation>
+        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP (droits d’administrateur requis).</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2412,7 +2412,7 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     <message>
         <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@, unit %@.</source>
-        <translation>%@ est occupée par %@, unité %@.</translation>
+        <translation>%@ est à %@, unité %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

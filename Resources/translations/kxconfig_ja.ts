@@ -1990,7 +1990,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>「適用」を押すと %@ を %@ として ARP キャッシュに登録します。これには管理者権限が必要です。</translation>
+        <translation>「適用」は %@ を %@ として ARP キャッシュに登録します (管理者権限が必要)。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
