@@ -39,7 +39,7 @@ class Details(unittest.TestCase):
         for check in ("Link", "Own broadcast", "Answers"):
             self.assertEqual(found[check], "✓ Fine")
         self.assertNotIn("✗ Fails", found.values())
-        program.wait_for_focus("table", "Checks")
+        program.wait_for_focus("table cell", "Link")
         press("Escape")
         wait_for("the end of the window", lambda: program.window_titled(TITLE) is None)
         program.window = self.main_window

@@ -7,7 +7,6 @@
 #include "core/conversation/DiagnosisSamples.h"
 #include "doubles/ScriptedDiagnosticSockets.h"
 #include "doubles/ScriptedHostDiagnostics.h"
-#include "doubles/ScriptedNeighbours.h"
 
 #include <QApplication>
 #include <QClipboard>
@@ -70,10 +69,18 @@ protected:
         click("detailsButton");
     }
 
+    // A listener asks everybody, and does not even hear itself.
+    void listenInVain() {
+        systemCalls.addLink("kx0", sampleLink);
+        const int listener = witness.socket();
+        witness.bind(listener, dataForAddress(0, 3520));
+        witness.sendToByLink(listener, textBytes("^^IdX"), dataForAddress(0xC0A801FFU, 3520),
+                             sampleLink);
+    }
+
     int helps = 0;
     ScriptedDiagnosticSockets sockets;
     ScriptedHostDiagnostics host;
-    ScriptedNeighbours neighbours;
     OneInterface hostInterfaces;
     ListenerWitness witness{systemCalls};
     KXDiagnosis diagnosis{{.runLoop = runLoop,
@@ -163,6 +170,33 @@ TEST_F(DiagnosisWindowTest, AFailedCheckHasASignAWordAndAdvice) {
     EXPECT_EQ(table.item(0, 2)->text(), "The interface kx0 has no link.");
     EXPECT_TRUE(table.item(0, 3)->text().startsWith("Plug in the cable"));
     EXPECT_EQ(part<QLabel>("diagnosisHeading").text(), "The interface kx0 has no link.");
+    EXPECT_TRUE(table.item(0, 0)->font().bold());
+    EXPECT_FALSE(table.isColumnHidden(3));
+}
+
+TEST_F(DiagnosisWindowTest, WhereThereIsNothingToDoWhatWasSeenHasTheRoom) {
+    launchWithTwoUnits();
+    openDetails();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    EXPECT_TRUE(table.isColumnHidden(3)) << part<QLabel>("diagnosisHeading").text().toStdString();
+    EXPECT_FALSE(table.item(0, 0)->font().bold());
+}
+
+TEST_F(DiagnosisWindowTest, WhatThereIsToDoIsInSightInALowWindowAndTheKeyboardBeginsThere) {
+    window.show();
+    listenInVain();
+    openDetails();
+    details()->resize(600, 220);
+    runLoop.advanceBy(std::chrono::seconds(1));
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    const int row = table.currentRow();
+    ASSERT_GE(row, 0);
+    EXPECT_EQ(table.item(row, 0)->text(), "Own broadcast");
+    EXPECT_FALSE(table.item(row, 3)->text().isEmpty());
+    EXPECT_TRUE(table.selectedItems().isEmpty());
+    const QRect place = table.visualItemRect(table.item(row, 0));
+    EXPECT_TRUE(table.viewport()->rect().contains(place));
 }
 
 TEST_F(DiagnosisWindowTest, TheKeyboardStaysAtAskAgainWhileItAsks) {

@@ -38,6 +38,8 @@ private:
     void layOut();
     void ask();
     void showReport();
+    void showChecks();
+    void showCheck(int row, const KXDiagnosis::Row& check);
     void showHeading();
     void copy() const;
 
