@@ -127,6 +127,7 @@ void KXConfigAppDelegate::sendEdit(UnitParameter parameter) {
         return;
     }
     const auto& sent = std::get<ParameterEdit>(edit);
+    expectSerialNumber(sent);
     if (sendCommand(sent.command)) {
         _quietLine.showOutcome(EditOutcome(sent, editedUnit(sent), _sendFailure));
         waitForAnswers();
@@ -169,6 +170,13 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
         unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
     }
     return unit;
+}
+
+void KXConfigAppDelegate::expectSerialNumber(const ParameterEdit& edit) {
+    if (edit.parameter == UnitParameter::serialNumber && edit.expectedText.has_value() &&
+        _selectedUnit.has_value() && !newSerialNumberIsTaken(edit)) {
+        _devicesD.expectSerialNumber(*_selectedUnit, *edit.expectedText);
+    }
 }
 
 bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) const {

@@ -171,6 +171,31 @@ TEST_F(ControllerDiscoveryLine, WhatAPersonHasChangedSinceIsNoDifference) {
     EXPECT_EQ(lineAfter({changed}), "1 unit answered.");
 }
 
+TEST_F(ControllerDiscoveryLine, AUnitWithANewSerialNumberIsNeitherLateNorMissedUnderItsOldOne) {
+    discoverTwo();
+    selectUnit(secondTitle);
+    apply(UnitParameter::serialNumber, "01 02 03 04 05 08");
+    SampleUnit renamed = secondSampleUnit();
+    renamed.serial.back() = 8;
+    receive(renamed.reply());
+    runLoop.advanceBy(100ms);
+    EXPECT_TRUE(discoveryLine().starts_with("2 units answered.")) << discoveryLine();
+    EXPECT_EQ(lineAfter({SampleUnit(), renamed}), "2 of the 3 listed answered.");
+    EXPECT_EQ(dimmed(), Titles{secondTitle});
+}
+
+TEST_F(ControllerDiscoveryLine, AnotherUnitWithTheSerialNumberThatWasTypedIsLate) {
+    discoverTwo();
+    selectUnit(secondTitle);
+    apply(UnitParameter::serialNumber, "01 02 03 04 05 08");
+    SampleUnit other = secondSampleUnit();
+    other.serial.back() = 8;
+    other.internalMAC.back() = 0x77;
+    receive(other.reply());
+    runLoop.advanceBy(100ms);
+    EXPECT_EQ(discoveryLine(), "1 unit answered late. Discover again to list it.");
+}
+
 TEST_F(ControllerDiscoveryLine, AnotherInterfaceIsNotComparedWithTheOneBefore) {
     discover({SampleUnit(), secondSampleUnit()});
     choose("Wi-Fi (wlan0)");
