@@ -13,6 +13,7 @@ Both sides of a comparison run in one go, interleaved in random order, nine roun
 one round; the table has the median, the least and the most.
 """
 
+import contextlib
 import json
 import os
 import pathlib
@@ -121,8 +122,9 @@ def start():
                              ("a program that does nothing", [program("kxnothing")])])
 
 
-def interfaces():
-    """Under in_private_host.sh, with a NetworkManager of this program's own."""
+@contextlib.contextmanager
+def network_manager():
+    """Under in_private_host.sh: a link kx0, and a NetworkManager of this program's own."""
     folder = pathlib.Path(os.environ["KX_PRIVATE_HOST"])
     for words in (["ip", "link", "set", "lo", "up"],
                   ["ip", "link", "add", "kx0", "type", "veth", "peer", "name", "kx1"],
@@ -145,13 +147,18 @@ def interfaces():
         while subprocess.run(["nm-online", "--wait-for-startup", "--quiet", "--timeout=20"],
                              check=False).returncode != 0:
             time.sleep(0.2)
-        compare("The interfaces", [("kxctl interfaces", [KXCTL, "interfaces"]),
-                                   ("nmcli device", ["nmcli", "device"]),
-                                   ("ip -json address", ["ip", "-json", "address"])])
+        yield
     finally:
         for process in beside:
             process.kill()
             process.wait()
+
+
+def interfaces():
+    with network_manager():
+        compare("The interfaces", [("kxctl interfaces", [KXCTL, "interfaces"]),
+                                   ("nmcli device", ["nmcli", "device"]),
+                                   ("ip -json address", ["ip", "-json", "address"])])
 
 
 def addresses():

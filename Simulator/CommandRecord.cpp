@@ -37,35 +37,51 @@ std::string dotted(IPv4 address) {
     return text;
 }
 
-// Whether everybody may make files in the folder. A folder that cannot be asked counts as such.
-bool isOpenToEverybody(int folder) {
+// Who can make files in a folder.
+struct FolderRights {
+    bool isOpenToEverybody = true;
+    uid_t owner = 0;
+
+    // Whether a stranger can. Root is none.
+    bool includeStrangers() const {
+        return isOpenToEverybody || (owner != ::geteuid() && owner != 0);
+    }
+};
+
+// A folder that cannot be asked counts as open to everybody.
+FolderRights rightsOf(int folder) {
     struct stat status {};
-    return ::fstat(folder, &status) != 0 || (status.st_mode & S_IWOTH) != 0;
+    return ::fstat(folder, &status) != 0
+               ? FolderRights()
+               : FolderRights{.isOpenToEverybody = (status.st_mode & S_IWOTH) != 0,
+                              .owner = status.st_uid};
 }
 
-// Whether nobody else can have made the file or given it another name.
-bool isOwnFile(int descriptor) {
+// Whether what is written goes to nobody but this process's user, or the one whose folder it is.
+bool isOfNobodyElse(int descriptor, const FolderRights& rights) {
     struct stat status {};
-    return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) &&
-           status.st_uid == ::geteuid() && status.st_nlink == 1;
+    return ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode) && status.st_nlink == 1 &&
+           (status.st_uid == ::geteuid() ||
+            (!rights.isOpenToEverybody && status.st_uid == rights.owner));
 }
 
 // -1, with errno set, when there is no such file to write to. The program often runs as root. In a
-// folder where everybody may make files a stranger can lay a link under the record's name, so that
-// root would write into a file of the stranger's choice. There neither a link nor a file of
-// somebody else is taken. The folder is opened once, so that it cannot be exchanged meanwhile.
+// folder where a stranger may make files, they can lay a link under the record's name, so that root
+// would write into a file of the stranger's choice. There neither a link nor a file of somebody
+// else is taken. The folder is opened once, so that it cannot be exchanged meanwhile.
 int openForAppending(const std::filesystem::path& path) {
     const auto folderPath = path.has_parent_path() ? path.parent_path() : ".";
     const int folder = ::open(folderPath.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
     if (folder < 0) {
         return -1;
     }
-    const bool mayBeForeign = isOpenToEverybody(folder);
+    const FolderRights rights = rightsOf(folder);
+    const bool mayBeForeign = rights.includeStrangers();
     const int flags =
         O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC | (mayBeForeign ? O_NOFOLLOW | O_NONBLOCK : 0);
     int descriptor = ::openat(folder, path.filename().c_str(), flags, 0644);
     int error = errno;
-    if (descriptor >= 0 && mayBeForeign && !isOwnFile(descriptor)) {
+    if (descriptor >= 0 && mayBeForeign && !isOfNobodyElse(descriptor, rights)) {
         ::close(std::exchange(descriptor, -1));
         error = EPERM;
     }

@@ -297,6 +297,9 @@ private:
                                const DatagramOrigin& origin);
 
     std::optional<SendFailure> sendRequest(std::string_view command, UnitDestination destination);
+    std::optional<SendFailure> sendTo(std::string_view command, UnitDestination destination);
+    // The unit of this serial number, or every unit when it is absent, may answer differently.
+    void expectChangeOf(const std::optional<std::string>& serial);
     std::optional<SendFailure> requestParametersOfUnit();
     void requestParametersAfterRestore();
     void requestParametersOwed();
@@ -321,6 +324,7 @@ private:
     std::string editedValue() const;
     void sendEdit(UnitParameter parameter);
     EditOutcome::Unit editedUnit(const ParameterEdit& edit) const;
+    void expectSerialNumber(const ParameterEdit& edit);
     bool newSerialNumberIsTaken(const ParameterEdit& edit) const;
     std::shared_ptr<Authorization> authorizationForARP();
     ARPEntry arpEntryAfter(const ToolEnd& end, const std::string& hardwareAddress,
@@ -377,9 +381,10 @@ private:
     DiscoveryFindings _findings;
     DiscoveryFacts _discovery; // facts that discoveryFacts() does not look up
     std::optional<Everybody>
-        _askedBefore;                // absent when nothing can be compared with that discovery
-    int _discoveriesUnderWay = 0;    // two when Discover was pressed twice
-    std::size_t _answeredBefore = 0; // the number of units that have answered, as told last
+        _askedBefore;                   // absent when nothing can be compared with that discovery
+    int _discoveriesUnderWay = 0;       // two when Discover was pressed twice
+    std::size_t _answeredBefore = 0;    // the number of units that have answered, as told last
+    std::size_t _renamedWhenListed = 0; // units that had taken another serial number by then
     bool _isDiscoveryLineDue = false;
     std::optional<std::string> _selectedUnit;
     std::shared_ptr<KXParameterEntry> _editTableEntry; // null before launch and after the end

@@ -41,6 +41,7 @@ void KXConfigAppDelegate::beginDiscovery(std::uint16_t port) {
     _findings.begin(std::move(fault), _devicesD.forgottenUnits());
     _devicesD.beginRound();
     _answeredBefore = 0;
+    _renamedWhenListed = 0;
     ++_discoveriesUnderWay;
 }
 
@@ -57,6 +58,7 @@ void KXConfigAppDelegate::discoveryDidAsk(const Everybody& asked,
 void KXConfigAppDelegate::endDiscovery() {
     _discoveriesUnderWay = std::max(0, _discoveriesUnderWay - 1);
     _discovery.listed = _devicesD.records().size();
+    _renamedWhenListed = _devicesD.round().renamed;
     if (_discoveriesUnderWay == 0 && _devicesD.round().answered == 0 && _services.likeliestCause) {
         _discovery.cause = _services.likeliestCause();
     }
@@ -69,7 +71,8 @@ DiscoveryFacts KXConfigAppDelegate::discoveryFacts() const {
     facts.finding = _findings.weightiest();
     facts.units = _devicesD.round();
     const std::size_t known = _devicesD.records().size();
-    facts.late = facts.isUnderWay ? 0 : known - std::min(known, facts.listed);
+    const std::size_t expected = facts.listed + facts.units.renamed - _renamedWhenListed;
+    facts.late = facts.isUnderWay ? 0 : known - std::min(known, expected);
     if (facts.units.silent == 1) {
         facts.silentUnit = _devicesD.silentUnit();
     }
@@ -80,7 +83,9 @@ void KXConfigAppDelegate::showDiscoveryLine() {
     const auto nameOfLink = [this](std::uint32_t link) {
         return _services.systemCalls.nameForLink(link);
     };
-    _outlets.discoveryLine->setStringValue(discoveryLine(discoveryFacts(), nameOfLink));
+    const DiscoveryFacts facts = discoveryFacts();
+    _outlets.discoveryLine->setMeansTrouble(meansTrouble(facts));
+    _outlets.discoveryLine->setStringValue(discoveryLine(facts, nameOfLink));
     _outlets.unitSelectPopUp->refreshDimming();
 }
 

@@ -127,6 +127,7 @@ void KXConfigAppDelegate::sendEdit(UnitParameter parameter) {
         return;
     }
     const auto& sent = std::get<ParameterEdit>(edit);
+    expectSerialNumber(sent);
     if (sendCommand(sent.command)) {
         _quietLine.showOutcome(EditOutcome(sent, editedUnit(sent), _sendFailure));
         waitForAnswers();
@@ -145,7 +146,6 @@ void KXConfigAppDelegate::edit_internalIP() {
     arpSetEAForIP(unit.hardwareAddress, move.typed);
     if (_selectedUnit.has_value()) {
         _devicesD.withdrawAddress(*_selectedUnit);
-        showTarget();
     }
     if (sendCommandToAddress(move.command, move.typed)) {
         EditOutcome outcome(move, std::move(unit), _sendFailure);
@@ -170,6 +170,13 @@ EditOutcome::Unit KXConfigAppDelegate::editedUnit(const ParameterEdit& edit) con
         unit.valueBefore = _devicesD.lastToldAddress(*_selectedUnit);
     }
     return unit;
+}
+
+void KXConfigAppDelegate::expectSerialNumber(const ParameterEdit& edit) {
+    if (edit.parameter == UnitParameter::serialNumber && edit.expectedText.has_value() &&
+        _selectedUnit.has_value() && !newSerialNumberIsTaken(edit)) {
+        _devicesD.expectSerialNumber(*_selectedUnit, *edit.expectedText);
+    }
 }
 
 bool KXConfigAppDelegate::newSerialNumberIsTaken(const ParameterEdit& edit) const {
@@ -281,12 +288,9 @@ void KXConfigAppDelegate::sendOptionButton() {
 
 void KXConfigAppDelegate::restoreDefaultSettings() {
     lookAtTarget();
-    if (_selectedUnit.has_value() && _shownTarget.has_value() &&
-        _shownTarget->reach == RequestReach::oneUnit) {
-        _findings.expectChange(*_selectedUnit);
-    } else {
-        _findings.expectChanges();
-    }
+    const bool isForOneUnit =
+        _shownTarget.has_value() && _shownTarget->reach == RequestReach::oneUnit;
+    expectChangeOf(isForOneUnit ? _selectedUnit : std::nullopt);
     const auto failure = sendRequest(restoreCommand, unitDestination());
     performAfterDelay(1000ms, &KXConfigAppDelegate::requestParametersAfterRestore);
     showRequest(RequestKind::restore, restoreCommand, failure);

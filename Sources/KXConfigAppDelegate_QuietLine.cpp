@@ -48,7 +48,11 @@ void KXConfigAppDelegate::lookAtTarget() {
         _knownNetwork.subnets =
             name.empty() ? _knownNetwork.own : addressesOfInterface(interfaces, name);
     }
-    _broadcastAddresses.push_back(broadcastAddress());
+    // Those of the choice are used, also when the interface has others by now. In a subnet of two
+    // addresses the other one is that of a single host.
+    if (const auto chosen = broadcastAddressOf({.address = localAddress, .mask = localMask})) {
+        _broadcastAddresses.push_back(*chosen);
+    }
     showTarget();
 }
 

@@ -25,14 +25,14 @@ bool KXConfigAppDelegate::sendCommandToAddress(const std::optional<std::string>&
     lookAtTarget();
     const std::uint32_t destination = ipForString(*address);
     if (isAddressOfMany(destination, _broadcastAddresses)) {
-        _findings.expectChanges();
-        _allUnits.expectChanges();
+        expectChangeOf(std::nullopt);
     } else if (_selectedUnit.has_value()) {
-        _findings.expectChange(*_selectedUnit);
-        _allUnits.expectChange(*_selectedUnit);
+        expectChangeOf(_selectedUnit);
     }
     _sendFailure =
-        _session.send(*command, destination, unitDestination().port, linkOfSelectedUnit());
+        sendTo(*command, {.address = destination,
+                          .port = unitDestination().port,
+                          .link = linkToAddress(destination, everybody(), linkOfSelectedUnit())});
     return true;
 }
 
@@ -40,11 +40,26 @@ bool KXConfigAppDelegate::sendCommand(const std::optional<std::string>& command)
     return sendCommandToAddress(command, selectedText(UnitParameter::internalIPAddress));
 }
 
+void KXConfigAppDelegate::expectChangeOf(const std::optional<std::string>& serial) {
+    if (serial.has_value()) {
+        _findings.expectChange(*serial);
+        _allUnits.expectChange(*serial);
+    } else {
+        _findings.expectChanges();
+        _allUnits.expectChanges();
+    }
+}
+
 std::optional<SendFailure> KXConfigAppDelegate::sendRequest(std::string_view command,
                                                             UnitDestination destination) {
     appendString(entryOfRequest(destination.address));
     commentNextSend(entryOfRequest(destination.address));
     _allUnits.requestDidLeave();
+    return sendTo(command, destination);
+}
+
+std::optional<SendFailure> KXConfigAppDelegate::sendTo(std::string_view command,
+                                                       UnitDestination destination) {
     if (destination.address == broadcastAddress() && !broadcastCanLeave()) {
         return _session.failToSend(posixError(ENETUNREACH));
     }

@@ -73,8 +73,9 @@ std::string KXSaving::capture() const {
     std::string text;
     append(text, captureHeader(_services.application, _services.record->forgotten()));
     _services.record->forEach([&text](CapturedDatagram datagram, ByteView data) {
-        const std::string line = datagram.isOwn ? std::string() : lineOfReceivedDatagram(data);
-        if (!datagram.isOwn) {
+        const bool isOfLog = !datagram.isOwn && datagram.comment.empty();
+        const std::string line = isOfLog ? lineOfReceivedDatagram(data) : std::string();
+        if (isOfLog) {
             datagram.comment = line;
         }
         append(text, capturedDatagram(datagram, data));

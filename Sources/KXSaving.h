@@ -50,7 +50,8 @@ public:
     // it. `log` must outlive this object.
     void saveLog(const LogText& log);
 
-    // The same for the datagrams that are kept, each with its line of the event log.
+    // The same for the datagrams that are kept, each with its comment, and those that came without
+    // one with their lines of the event log.
     void saveSession();
 
 private:

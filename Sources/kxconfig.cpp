@@ -34,6 +34,7 @@
 #include "platform/qtcore/QtLocalizedText.h"
 #include "platform/qtcore/QtRunLoop.h"
 #include "platform/qtcore/QtTranslations.h"
+#include "support/LocalizedText.h"
 #include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
 #include "support/SystemLog.h"
@@ -42,6 +43,7 @@
 
 #include <QApplication>
 #include <QSocketNotifier>
+#include <QString>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -73,6 +75,19 @@ Unit timeOf() {
 
 constexpr auto timeNow = timeOf<kx::CaptureTime, std::chrono::system_clock>;
 
+// The event log has no line for it.
+void keepProbe(kx::SessionRecord& record, kx::CapturedDatagram datagram, kx::ByteView data) {
+    const std::string comment = kx::localizedText("A check of Details, not in the event log");
+    datagram.comment = comment;
+    record.keep(datagram, data);
+}
+
+kx::CaptureCounts countsOf(const kx::CapturingSystemCalls& calls,
+                           const kx::CapturingSystemCalls& others) {
+    return {.received = calls.counts().received + others.counts().received,
+            .dropped = calls.counts().dropped + others.counts().dropped};
+}
+
 // Only a file is replaced, and only one that may be written.
 std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
     const auto objection = kx::objectionToReplacing(path);
@@ -82,6 +97,7 @@ std::optional<kx::Error> writeFile(const std::string& path, std::string_view tex
 // What this host gives to the controller, each after what it needs itself.
 struct Host {
     kx::QtRunLoop& runLoop;
+    QString language; // of the window
     kx::ThreadHostResolver hostResolver{runLoop};
     kx::DatagramSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
@@ -98,11 +114,20 @@ struct Host {
          .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
          .receiveBuffers = &receiveBuffers}};
 
+    // What the diagnosis asks and hears with its own sockets is recorded too.
+    kx::CapturingSystemCalls recordedProbes{
+        systemCalls,
+        {.take = [this](const kx::CapturedDatagram& datagram,
+                        kx::ByteView data) { keepProbe(sessionRecord, datagram, data); },
+         .now = timeNow,
+         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
+         .receiveBuffers = &receiveBuffers}};
+
     kx::LinuxNeighbourTable neighbours = {};
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
     kx::QtHelpServices helpServices{kx::installedResourceFolder(),
-                                    kx::QtHelpServices::browserForUser(::geteuid())};
+                                    kx::QtHelpServices::browserForUser(::geteuid()), language};
     kx::KernelLinks kernelLinks{runLoop};
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
     kx::NetworkManagerProfiles connectionProfiles = {};
@@ -155,7 +180,7 @@ kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& in
     return {.runLoop = host.runLoop,
             .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
             .witness = host.witness,
-            .systemCalls = host.systemCalls,
+            .systemCalls = host.recordedProbes,
             .sockets = host.diagnosticSockets,
             .host = host.diagnostics,
             .neighbours = host.neighbours,
@@ -165,32 +190,31 @@ kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& in
 // The host must outlive the services.
 kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagnosis,
                                              kx::AuthorizationService* authorizationService) {
-    return {.runLoop = host.runLoop,
-            .hostResolver = host.hostResolver,
-            .systemCalls = host.recordedCalls,
-            .wallClock = host.wallClock,
-            .application = host.application,
-            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-            .openHelpAnchor =
-                [&help = host.helpServices](std::string_view anchor) {
-                    return kx::openHelpAnchor(anchor, help);
-                },
-            .authorizationService = authorizationService,
-            .receiveBuffers = &host.receiveBuffers,
-            .hasHelpPage = [&help = host.helpServices](
-                               std::string_view page) { return kx::hasHelpPage(page, help); },
-            .neighbours = &host.neighbours,
-            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
-            .openHelpInViewer =
-                [&help = host.helpServices](std::string_view anchor) {
-                    const auto book = help.helpBookName();
-                    return book.has_value() && help.openAnchorInBook(anchor, *book);
-                },
-            .saving = {.record = &host.sessionRecord,
-                       .application = "KXConfig " KX_VERSION,
-                       .counts = [&host] { return host.recordedCalls.counts(); },
-                       .now = timeNow,
-                       .writeFile = writeFile}};
+    return {
+        .runLoop = host.runLoop,
+        .hostResolver = host.hostResolver,
+        .systemCalls = host.recordedCalls,
+        .wallClock = host.wallClock,
+        .application = host.application,
+        .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+        .openHelpAnchor = [&help = host.helpServices](
+                              std::string_view anchor) { return kx::openHelpAnchor(anchor, help); },
+        .authorizationService = authorizationService,
+        .receiveBuffers = &host.receiveBuffers,
+        .hasHelpPage = [&help = host.helpServices](
+                           std::string_view page) { return kx::hasHelpPage(page, help); },
+        .neighbours = &host.neighbours,
+        .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
+        .openHelpInViewer =
+            [&help = host.helpServices](std::string_view anchor) {
+                const auto book = help.helpBookName();
+                return book.has_value() && help.openAnchorInBook(anchor, *book);
+            },
+        .saving = {.record = &host.sessionRecord,
+                   .application = "KXConfig " KX_VERSION,
+                   .counts = [&host] { return countsOf(host.recordedCalls, host.recordedProbes); },
+                   .now = timeNow,
+                   .writeFile = writeFile}};
 }
 
 // What an order to end ends, each after what it needs itself.
@@ -238,8 +262,8 @@ int runWindow(Work work) {
     return QApplication::exec();
 }
 
-int runOnThisHost(kx::QtRunLoop& runLoop) {
-    Host host{runLoop};
+int runOnThisHost(kx::QtRunLoop& runLoop, const QString& language) {
+    Host host{runLoop, language};
     kx::SystemConfiguration::installSources(host.configurationStore, host.kernelQuery);
     kx::MainWindow window;
     kx::WaitingPanel waiting(window);
@@ -248,7 +272,7 @@ int runOnThisHost(kx::QtRunLoop& runLoop) {
     kx::KXDiagnosis diagnosis(diagnosisServicesOf(host, interfaces));
     kx::KXConfigAppDelegate controller(window.outlets(),
                                        servicesOf(host, diagnosis, authorizationService.get()));
-    kx::AuthorizedAddressBindings bindings(*authorizationService);
+    kx::AuthorizedAddressBindings bindings(*authorizationService, [&waiting] { waiting.giveUp(); });
     kx::KXTableRun tableRun(tableServicesOf(host, interfaces, bindings, controller));
     diagnosis.setSelection({.chosenInterface = [&] { return controller.nameOfChosenInterface(); },
                             .selectedUnit = [&] { return controller.selectedUnit(); },
@@ -259,9 +283,8 @@ int runOnThisHost(kx::QtRunLoop& runLoop) {
                                                ? std::optional<kx::UnitRecord>(unit->second)
                                                : std::nullopt;
                                 }});
-    window.setDiagnosis(&diagnosis,
-                        [&host] { kx::openHelpAnchor("no-answer", host.helpServices); });
-    window.setTableRun(&tableRun, [&host] { kx::openHelpAnchor("many-units", host.helpServices); });
+    window.setDiagnosis(&diagnosis, [&controller] { controller.openHelp("no-answer"); });
+    window.setTableRun(&tableRun, [&controller] { controller.openHelp("many-units"); });
     const int result = runWindow(
         {.window = window, .waiting = waiting, .controller = controller, .tableRun = tableRun});
     window.setTableRun(nullptr, {});
@@ -288,7 +311,7 @@ int main(int argc, char* argv[]) {
     kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
     kx::installSystemLog(&limitedLog);
     kx::installMemoryExhaustionHandler();
-    const int result = runOnThisHost(runLoop);
+    const int result = runOnThisHost(runLoop, translations.language());
 
     kx::installLocalizedText(nullptr);
     kx::installSystemLog(nullptr);

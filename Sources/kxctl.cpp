@@ -19,6 +19,7 @@
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/TerminalConsole.h"
+#include "platform/posix/TerminalWaiting.h"
 #include "platform/posix/ThreadHostResolver.h"
 #include "platform/qtcore/EventLoopWaiting.h"
 #include "platform/qtcore/QtLocalizedText.h"
@@ -40,7 +41,8 @@ Unit timeOf() {
     return std::chrono::duration_cast<Unit>(Clock::now().time_since_epoch());
 }
 
-int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Console& console) {
+int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
+                  kx::TerminalConsole& console) {
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::DatagramSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;
@@ -59,8 +61,11 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
     kx::LinuxHostDiagnostics diagnostics;
     kx::LinuxDiagnosticSockets diagnosticSockets(runLoop);
     kx::EventLoopWaiting waiting;
-    const auto authorizationService = kx::makeAuthorizationService(runLoop, waiting);
-    kx::AuthorizedAddressBindings bindings(*authorizationService);
+    kx::TerminalWaiting waitingAtTerminal(waiting, console);
+    const auto authorizationService = kx::makeAuthorizationService(
+        runLoop, waitingAtTerminal,
+        console.isNoteTerminal() ? kx::PersonAt::desktopOrTerminal : kx::PersonAt::desktop);
+    kx::AuthorizedAddressBindings bindings(*authorizationService, [&] { waiting.giveUp(); });
 
     kx::CommandRun run(line, {.session = {.runLoop = runLoop,
                                           .hostResolver = hostResolver,
@@ -88,7 +93,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop, kx::Conso
 }
 
 int runInLanguageOfUser(int argc, char* argv[], const std::vector<std::string>& arguments,
-                        kx::Console& console) {
+                        kx::TerminalConsole& console) {
     QCoreApplication qtApplication(argc, argv);
     const kx::QtTranslations translations;
     const kx::QtLocalizedText localizedText;

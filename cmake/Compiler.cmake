@@ -10,9 +10,7 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion
-    # When files are compiled together, a name can only hide a name of another file.
-    $<$<NOT:$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>:-Wshadow>)
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
 
 # When files are compiled together, GCC takes the anonymous namespace of an included file for the
 # namespace of a header.

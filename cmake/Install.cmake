@@ -91,4 +91,4 @@ install(FILES "${PROJECT_SOURCE_DIR}/Resources/icons/org.kxconfig.KXConfig-symbo
 
 install(FILES "${PROJECT_SOURCE_DIR}/Resources/wireshark/kxconfig.lua"
     DESTINATION "${data_dir}/wireshark")
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/Resources/homepage" DESTINATION "${data_dir}")
+install(DIRECTORY "${PROJECT_BINARY_DIR}/share/kxconfig/homepage" DESTINATION "${data_dir}")

@@ -56,6 +56,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/SentenceLabel.cpp"/>
         <source>Unit parameters</source>
         <translation>Geräteparameter</translation>
     </message>
@@ -559,13 +560,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>Die Befehlszeile ist nicht lesbar: %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Einer Option fehlt der Wert, oder ein Schalter hat einen. Siehe kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>Einer Option fehlt der Wert, oder ein Schalter hat einen. Siehe kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>Die Befehlszeile ist nicht lesbar: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -634,23 +635,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>Das Gerät %@ antwortet nicht.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Mehrere Geräte antworten als %@: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
         <translation>Mehrere Netzwerkschnittstellen können Broadcasts senden. Wählen Sie eine mit -i: %@.</translation>
     </message>
@@ -678,24 +662,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Kein Gerät hat geantwortet.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ ist die eigene Adresse dieses Rechners.</translation>
@@ -717,6 +683,46 @@
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Unterbrochen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>Das Gerät %@ antwortet nicht.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Mehrere Geräte antworten als %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Ein anderes Gerät hat die Adresse des Geräts %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>„%@“ benennt kein Gerät. Schreiben Sie eine Seriennummer aus sechs Ziffernpaaren wie 4B5800000001 oder id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Kein Gerät hat geantwortet.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Ein anderes Gerät hat die Seriennummer %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>Das Gerät %@ nennt eine Adresse vieler als seine eigene: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -914,6 +920,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ wird ohne --loose abgelehnt. Das Fenster sagt zu dem Wert: %@</translation>
     </message>
@@ -944,10 +956,19 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Als root ausgeführt, braucht kxctl keine Rückfrage.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ gehört %@.</translation>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>Ob das Gerät selbst die ARP-Anfragen für %@ beantwortet, ließ sich nicht feststellen.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -957,9 +978,10 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>Das Gerät %@ zeigt %@, doch %@ beantwortet die ARP-Anfragen dafür.</translation>
+        <source>%@ is held by %@.</source>
+        <translation>%@ gehört %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -1011,8 +1033,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every nimmt mindestens 0.1 Sekunden: Jedes Gerät antwortet jedes Mal.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
         <source>%d of %d units are there.</source>
         <translation>%d von %d Geräten sind da.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Eine Prüfung der Einzelheiten, nicht im Ereignisprotokoll</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
@@ -2347,11 +2379,6 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Kein Gerät kann sie haben: Sie erreicht viele Rechner.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>No unit can have it: it is the address of the subnet.</source>
         <translation>Kein Gerät kann sie haben: Sie ist die Adresse des Subnetzes.</translation>
     </message>
@@ -2676,6 +2703,16 @@ Geräte-ID ließ sich nicht in einen UTF-8-Text von 6 Bytes umwandeln</translati
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Zwei Geräte geben als ihre Adresse %@ an: %@ und %@. Ein Befehl kann jedes von beiden erreichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d Geräte oder mehr geben als ihre Adresse %@ an, darunter %@ und %@. Ein Befehl kann jedes von ihnen erreichen.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d Geräte geben als ihre Adresse %@ an, darunter %@ und %@. Ein Befehl kann jedes von ihnen erreichen.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

@@ -56,6 +56,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/SentenceLabel.cpp"/>
         <source>Unit parameters</source>
         <translation>Parámetros de la unidad</translation>
     </message>
@@ -559,13 +560,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>No se puede leer la línea de órdenes: %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>A una opción le falta su valor, o un indicador tiene uno. Véase kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>A una opción le falta su valor, o un indicador tiene uno. Véase kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>No se puede leer la línea de órdenes: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -634,23 +635,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>La unidad %@ no responde.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Varias unidades responden como %@: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
         <translation>Varias interfaces de red pueden difundir. Elija una con -i: %@.</translation>
     </message>
@@ -678,24 +662,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Ninguna unidad ha respondido.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ es la dirección de este mismo equipo.</translation>
@@ -717,6 +683,46 @@
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrumpido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>La unidad %@ no responde.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Varias unidades responden como %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Otra unidad tiene la dirección de la unidad %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>«%@» no designa ninguna unidad. Escriba un número de serie de seis pares de dígitos, como 4B5800000001, o id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Ninguna unidad ha respondido.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Otra unidad tiene el número de serie %@: %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>La unidad %@ da como suya una dirección colectiva: %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -914,6 +920,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ se rechaza sin --loose. La ventana dice de su valor: %@</translation>
     </message>
@@ -944,10 +956,19 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Si lo ejecuta root, kxctl no necesita preguntar.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ está ocupada por %@.</translation>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>No se ha podido averiguar si la propia unidad responde a las peticiones ARP para %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -957,9 +978,10 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>La unidad %@ muestra %@, pero %@ responde a las peticiones ARP para ella.</translation>
+        <source>%@ is held by %@.</source>
+        <translation>%@ está ocupada por %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -1011,8 +1033,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every admite 0.1 segundos como mínimo: cada unidad responde cada vez.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
         <source>%d of %d units are there.</source>
         <translation>Están %d de %d unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Una comprobación de Detalles que no está en el registro de eventos</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
@@ -2347,11 +2379,6 @@
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Ninguna unidad puede tenerla: llega a muchos equipos.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>No unit can have it: it is the address of the subnet.</source>
         <translation>Ninguna unidad puede tenerla: es la dirección de la subred.</translation>
     </message>
@@ -2676,6 +2703,16 @@ No se pudo convertir el identificador de unidad en un texto UTF-8 de 6 bytes</tr
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>Dos unidades dicen que su dirección es %@: %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unidades o más dicen que su dirección es %@, entre ellas %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unidades dicen que su dirección es %@, entre ellas %@ y %@. Una orden puede llegar a cualquiera de ellas.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

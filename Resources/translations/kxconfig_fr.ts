@@ -56,6 +56,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/SentenceLabel.cpp"/>
         <source>Unit parameters</source>
         <translation>Paramètres de l’unité</translation>
     </message>
@@ -559,13 +560,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>La ligne de commande est illisible : %@.</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>Il manque la valeur d’une option, ou un drapeau en a une. Voir kxctl --help.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>Il manque la valeur d’une option, ou un drapeau en a une. Voir kxctl --help.</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>La ligne de commande est illisible : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -634,23 +635,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>L’unité %@ ne répond pas.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>Une autre unité a l’adresse de l’unité %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
         <translation>Plusieurs interfaces réseau peuvent diffuser. Choisissez-en une avec -i : %@.</translation>
     </message>
@@ -678,24 +662,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>Aucune unité n’a répondu.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ est l’adresse de cet hôte lui-même.</translation>
@@ -717,6 +683,46 @@
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>Interrompu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>L’unité %@ ne répond pas.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>Plusieurs unités répondent en tant que %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>Une autre unité a l’adresse de l’unité %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>« %@ » ne désigne aucune unité. Écrivez un numéro de série de six paires de chiffres, comme 4B5800000001, ou id:TEXT.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>Aucune unité n’a répondu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>Une autre unité a le numéro de série %@ : %@.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>L’unité %@ donne comme sienne une adresse collective : %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -914,6 +920,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ est refusé sans --loose. La fenêtre dit de sa valeur : %@</translation>
     </message>
@@ -944,10 +956,19 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>Lancé par root, kxctl n’a pas de question à poser.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ est occupée par %@.</translation>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>Impossible d’établir si l’unité répond elle-même aux requêtes ARP pour %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -957,9 +978,10 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>L’unité %@ affiche %@, mais c’est %@ qui répond aux requêtes ARP pour cette adresse.</translation>
+        <source>%@ is held by %@.</source>
+        <translation>%@ est à %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -1011,8 +1033,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every prend 0.1 seconde au moins : chaque unité répond à chaque fois.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
         <source>%d of %d units are there.</source>
         <translation>%d unités sur %d sont là.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>Une vérification de Détails, absente du journal des événements</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
@@ -2278,7 +2310,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP, ce qui nécessite les droits d’administrateur.</translation>
+        <translation>« Appliquer » inscrit %@ avec %@ dans le cache ARP (droits d’administrateur requis).</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2344,11 +2376,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>L’unité %@ l’a.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>Aucune unité ne peut l’avoir : elle atteint plusieurs hôtes.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2679,6 +2706,16 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unités ou plus indiquent comme adresse %@, parmi elles %@ et %@. Une commande peut atteindre n’importe laquelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d unités indiquent comme adresse %@, parmi elles %@ et %@. Une commande peut atteindre n’importe laquelle.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
         <source>The unit %@ says that its address is %@, but its answer came from %@.</source>
         <translation>L’unité %@ indique comme adresse %@, mais sa réponse est venue de %@.</translation>
     </message>
@@ -2695,7 +2732,7 @@ L’identifiant d’unité n’a pas pu être converti en texte UTF-8 de 6 octet
     <message>
         <location filename="../../Sources/words/HolderText.cpp"/>
         <source>%@ is held by %@, unit %@.</source>
-        <translation>%@ est occupée par %@, unité %@.</translation>
+        <translation>%@ est à %@, unité %@.</translation>
     </message>
     <message>
         <location filename="../../Sources/words/InterfaceText.cpp"/>

@@ -56,6 +56,7 @@
     </message>
     <message>
         <location filename="../../Resources/MainWindow.ui"/>
+        <location filename="../../Sources/platform/qt/SentenceLabel.cpp"/>
         <source>Unit parameters</source>
         <translation>ユニットのパラメータ</translation>
     </message>
@@ -559,13 +560,13 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>The command line cannot be read: %@.</source>
-        <translation>コマンドラインを読み取れません: %@。</translation>
+        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
+        <translation>オプションに値がないか、値を取らないオプションに値があります。kxctl --help を参照してください。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
-        <source>An option lacks its value, or a flag has one. See kxctl --help.</source>
-        <translation>オプションに値がないか、値を取らないオプションに値があります。kxctl --help を参照してください。</translation>
+        <source>The command line cannot be read: %@.</source>
+        <translation>コマンドラインを読み取れません: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CommandLine.cpp"/>
@@ -634,23 +635,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ does not answer.</source>
-        <translation>ユニット %@ は応答しません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>Several units answer as %@: %@.</source>
-        <translation>複数のユニットが %@ として応答しています: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>Another unit has the address of the unit %@.</source>
-        <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <source>Several network interfaces can broadcast. Choose one with -i: %@.</source>
         <translation>ブロードキャストできるネットワークインターフェイスが複数あります。-i で選んでください: %@。</translation>
     </message>
@@ -678,24 +662,6 @@
     </message>
     <message>
         <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
-        <translation>「%@」はユニットの名前ではありません。4B5800000001 のような 6 組の数字のシリアル番号か、id:TEXT を書いてください。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
-        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
-        <source>No unit has answered.</source>
-        <translation>応答したユニットはありません。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
-        <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ tells an address of many as its own: %@.</source>
-        <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/commands/CommandRun.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>%@ is this host&apos;s own address.</source>
         <translation>%@ はこのホスト自身のアドレスです。</translation>
@@ -717,6 +683,46 @@
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
         <source>Interrupted.</source>
         <translation>中断しました。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ does not answer.</source>
+        <translation>ユニット %@ は応答しません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>Several units answer as %@: %@.</source>
+        <translation>複数のユニットが %@ として応答しています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the address of the unit %@.</source>
+        <translation>別のユニットがユニット %@ と同じアドレスを使っています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>“%@” names no unit. Write a serial number of six pairs of digits, such as 4B5800000001, or id:TEXT.</source>
+        <translation>「%@」はユニットの名前ではありません。4B5800000001 のような 6 組の数字のシリアル番号か、id:TEXT を書いてください。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/commands/DiscoverCommand.cpp"/>
+        <location filename="../../Sources/words/RequestOutcomeText.cpp"/>
+        <source>No unit has answered.</source>
+        <translation>応答したユニットはありません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <source>Another unit has the serial number %@: %@.</source>
+        <translation>別のユニットがシリアル番号 %@ を持っています: %@。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/CommandUnits.cpp"/>
+        <location filename="../../Sources/words/UnitPlanText.cpp"/>
+        <source>The unit %@ tells an address of many as its own: %@.</source>
+        <translation>ユニット %@ は多数宛てのアドレスを自分のものとしています: %@。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/CompareCommand.cpp"/>
@@ -914,6 +920,12 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/EditForecast.cpp"/>
+        <source>No unit can have it: it reaches many hosts.</source>
+        <translation>多数宛てなので、ユニットには使えません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <source>%@ is refused without --loose. The window says of its value: %@</source>
         <translation>%@ は --loose がないため拒否されました。この値についてウィンドウは次のように示します: %@</translation>
     </message>
@@ -944,10 +956,19 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
-        <location filename="../../Sources/words/HolderText.cpp"/>
+        <source>kxctl needs no question when root runs it.</source>
+        <translation>root で実行すれば、kxctl は確認なしで動きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>%@ is held by %@.</source>
-        <translation>%@ は %@ が使用しています。</translation>
+        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
+        <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <source>Whether the unit itself answers ARP requests for %@ could not be found out.</source>
+        <translation>%@ への ARP 要求にユニット自身が応答しているかどうかは分かりませんでした。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -957,9 +978,10 @@
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
+        <location filename="../../Sources/words/HolderText.cpp"/>
         <location filename="../../Sources/words/UnitPlanText.cpp"/>
-        <source>The unit %@ shows %@, but %@ answers ARP requests for it.</source>
-        <translation>ユニット %@ は %@ を示していますが、%@ がその ARP 要求に応答しています。</translation>
+        <source>%@ is held by %@.</source>
+        <translation>%@ は %@ が使用しています。</translation>
     </message>
     <message>
         <location filename="../../Sources/commands/SetCommand.cpp"/>
@@ -1011,8 +1033,18 @@
     </message>
     <message>
         <location filename="../../Sources/commands/WatchCommand.cpp"/>
+        <source>--every takes 0.1 seconds or more: every unit answers each time.</source>
+        <translation>--every の値は 0.1 秒以上です。毎回すべてのユニットが応答します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/commands/WatchCommand.cpp"/>
         <source>%d of %d units are there.</source>
         <translation>今あるユニット: %d、期待した数: %d。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>A check of Details, not in the event log</source>
+        <translation>詳細の確認（イベントログには記録されません）</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
@@ -2278,7 +2310,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>「適用」を押すと %@ を %@ として ARP キャッシュに登録します。これには管理者権限が必要です。</translation>
+        <translation>「適用」は %@ を %@ として ARP キャッシュに登録します (管理者権限が必要)。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2344,11 +2376,6 @@
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>The unit %@ has it.</source>
         <translation>ユニット %@ が使用しています。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/words/EditForecast.cpp"/>
-        <source>No unit can have it: it reaches many hosts.</source>
-        <translation>多数宛てなので、ユニットには使えません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2676,6 +2703,16 @@ Unit ID could not be converted to 6-byte UTF-8 string</source>
         <location filename="../../Sources/words/FindingText.cpp"/>
         <source>Two units say that their address is %@: %@ and %@. A command may reach either.</source>
         <translation>2 台のユニットがアドレス %@ を名乗っています: %@ と %@。コマンドはどちらに届くかわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units or more say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d 台以上のユニットがアドレス %@ を名乗っています（%@ と %@ など）。コマンドはどれに届くかわかりません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/words/FindingText.cpp"/>
+        <source>%d units say that their address is %@, among them %@ and %@. A command may reach any of them.</source>
+        <translation>%d 台のユニットがアドレス %@ を名乗っています（%@ と %@ など）。コマンドはどれに届くかわかりません。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/FindingText.cpp"/>

@@ -16,8 +16,6 @@ namespace kx {
 
 namespace {
 
-constexpr std::string_view sourcePath = "Sources/System Configuration/SystemConfiguration";
-
 template<class Make>
 auto unlessOutOfMemory(Make make) -> std::optional<decltype(make())> {
     try {
@@ -58,11 +56,11 @@ int MySCError(const ConfigurationStore& store, bool success) {
 int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStoreCallBack callback,
                                          void* info, std::unique_ptr<DynamicStoreSession>* storeRef,
                                          std::unique_ptr<ConfigurationChangeSource>* sourceRef) {
-    require(storeRef != nullptr, "storeRef != NULL", sourcePath);
-    require(sourceRef != nullptr, "sourceRef != NULL", sourcePath);
+    require(storeRef != nullptr, "storeRef != NULL", systemConfigurationPath);
+    require(sourceRef != nullptr, "sourceRef != NULL", systemConfigurationPath);
     // NOLINTBEGIN(clang-analyzer-core.NonNullParamChecker): require() does not return for null.
-    require(*storeRef == nullptr, "*storeRef == NULL", sourcePath);
-    require(*sourceRef == nullptr, "*sourceRef == NULL", sourcePath);
+    require(*storeRef == nullptr, "*storeRef == NULL", systemConfigurationPath);
+    require(*sourceRef == nullptr, "*sourceRef == NULL", systemConfigurationPath);
     // NOLINTEND(clang-analyzer-core.NonNullParamChecker)
 
     auto session = store.openSession(changeWatchSessionName, callback, info);
@@ -87,9 +85,9 @@ int CreateIPAddressListChangeCallbackSCF(ConfigurationStore& store, DynamicStore
 void requireWatchOutcome(int err, const DynamicStoreSession* store,
                          const ConfigurationChangeSource* source, std::source_location location) {
     require((err == noErr) == (store != nullptr), "(err == noErr) == (*storeRef != NULL)",
-            sourcePath, location);
+            systemConfigurationPath, location);
     require((err == noErr) == (source != nullptr), "(err == noErr) == (*sourceRef != NULL)",
-            sourcePath, location);
+            systemConfigurationPath, location);
 }
 
 } // namespace kx

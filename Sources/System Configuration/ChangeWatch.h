@@ -1,8 +1,8 @@
 // The watch on the host's IPv4 configuration: one session with the dynamic store, told about the
 // IPv4 state of every service, with its change feed. Main thread only.
 //
-// A wrong call breaks a contract and ends the process (support/Require.h, source path
-// "Sources/System Configuration/SystemConfiguration").
+// A wrong call breaks a contract and ends the process (support/Require.h), with the source path
+// below.
 
 #pragma once
 
@@ -10,8 +10,13 @@
 
 #include <memory>
 #include <source_location>
+#include <string_view>
 
 namespace kx {
+
+// The source path of every contract of this folder.
+inline constexpr std::string_view systemConfigurationPath =
+    "Sources/System Configuration/SystemConfiguration";
 
 // The status code of an operation with the store: 0 when it succeeded; otherwise the store's code
 // for it, or 1001 when the store has none.

@@ -41,6 +41,13 @@ public:
     serviceDataForDictionaryNameKey(std::string_view serviceID, std::string_view dictionaryName,
                                     std::string_view key) = 0;
 
+    // One entry of what the kernel's interface of this name has now, with the same dictionaries;
+    // absent when the interface, the dictionary or the entry does not exist. A service may have
+    // saved what its interface has not.
+    virtual std::optional<PropertyListValue>
+    interfaceDataForDictionaryNameKey(std::string_view bsdName, std::string_view dictionaryName,
+                                      std::string_view key) = 0;
+
     // The state of the kernel's interface of this name; absent when there is none, and when the
     // kernel does not tell.
     virtual std::optional<InterfaceState> interfaceState(std::string_view bsdName) = 0;

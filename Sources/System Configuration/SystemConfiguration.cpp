@@ -11,7 +11,6 @@ namespace kx {
 
 namespace {
 
-constexpr std::string_view sourcePath = "Sources/System Configuration/SystemConfiguration";
 constexpr std::size_t longestParameterName = 16;
 constexpr std::size_t parameterHeadroom = 512; // bytes
 
@@ -40,13 +39,14 @@ std::optional<std::string> serviceIDInKey(std::string_view key) {
 } // namespace
 
 void SystemConfiguration::installSources(ConfigurationStore& store, KernelQuery& kernelQuery) {
-    require(shared == nullptr, "sharedInstance == nil", sourcePath);
+    require(shared == nullptr, "sharedInstance == nil", systemConfigurationPath);
     installedSources.emplace(InstalledSources{store, kernelQuery});
 }
 
 SystemConfiguration& SystemConfiguration::sharedInstance() {
     if (shared == nullptr) {
-        const auto& sources = requireValue(installedSources, "sources != NULL", sourcePath);
+        const auto& sources =
+            requireValue(installedSources, "sources != NULL", systemConfigurationPath);
         shared = new SystemConfiguration(sources.store, sources.kernelQuery);
     }
     return *shared;

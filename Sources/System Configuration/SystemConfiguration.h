@@ -129,7 +129,7 @@ public:
     // One entry of the current state of an interface.
     std::optional<PropertyListValue>
     interfaceDataForDictionaryNameKey(std::string_view bsdName, std::string_view dictionaryName,
-                                      std::string_view key);
+                                      std::string_view key) override;
 
     // One entry of the current state of a service, or of its saved configuration when the state
     // does not have it.

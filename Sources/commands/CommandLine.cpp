@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <memory>
 #include <numeric>
 #include <span>
 
@@ -17,84 +16,104 @@ namespace kx {
 
 namespace {
 
+using Words = std::vector<std::string>;
+
+bool isFlag(const OptionRow& row) {
+    return row.kind == ValueKind::none;
+}
+
+Failure missingValue() {
+    return failureOf(ErrorCode::usage, localizedText("An option lacks its value, or a flag has "
+                                                     "one. See kxctl --help."));
+}
+
+// Takes the options of one part of the command line, and keeps the rest as it is.
+//
 // The library's own help, messages and exit codes are not used: it only takes options apart. It has
-// no positional arguments, because it would read lists into them: "[a,b]". What it does not know it
-// leaves as it is.
-class Parser {
+// no positional arguments, because it would read lists into them: "[a,b]"; and no subcommands,
+// because it would let "++" end them.
+class OptionParser {
 public:
-    Parser()
-        : _app("kxctl") {
+    explicit OptionParser(CommandLine& line)
+        : _line(line)
+        , _app("kxctl") {
         _app.set_help_flag();
-        _app.require_subcommand(0, 1);
         _app.allow_extras();
-        addOptions(_app, generalOptions());
-        for (const CommandRow& row : commandTable()) {
-            CLI::App* const command = _app.add_subcommand(std::string(row.name));
-            command->set_help_flag();
-            command->fallthrough();
-            command->allow_extras();
-            addOptions(*command, row.options);
-            command->callback([this, &row] { _line.command = &row; });
+    }
+
+    // Options behind the first word belong to the rest.
+    void endAtFirstWord() { _app.prefix_command(); }
+
+    // The last of an option counts.
+    void add(std::span<const OptionRow> options) {
+        for (const OptionRow& row : options) {
+            const std::string name(row.name);
+            if (isFlag(row)) {
+                _flags.push_back(name + '=');
+                _app.add_flag_callback(
+                    name, [this, name] { _line.options.insert_or_assign(name, std::string()); });
+            } else {
+                _app.add_option_function<std::string>(name,
+                                                      [this, name](const std::string& text) {
+                                                          _line.options.insert_or_assign(name,
+                                                                                         text);
+                                                      })
+                    ->take_last();
+            }
         }
     }
 
-    std::variant<CommandLine, Failure> parse(std::vector<std::string> arguments) {
-        // The library forgets behind a command that "--" makes everything a word.
-        const auto mark = std::ranges::find(arguments, "--");
-        const auto afterMark = mark != arguments.end() ? std::next(mark) : mark;
-        const std::vector<std::string> plainWords(afterMark, arguments.end());
-        arguments.erase(mark, arguments.end());
-        std::ranges::reverse(arguments); // the library takes them from the end
+    std::optional<Failure> parse(Words words) {
+        // The library would take "--json=true" for the flag, and "--json=false" for none.
+        const auto setFlags =
+            std::erase_if(words, [this](const std::string& word) { return isSetFlag(word); });
+        std::ranges::reverse(words); // the library takes them from the end
         try {
-            _app.parse(arguments);
+            _app.parse(words);
         } catch (const CLI::ArgumentMismatch& error) {
             return missingValue();
         } catch (const CLI::ParseError& error) {
             return failureOf(ErrorCode::usage,
                              localizedText("The command line cannot be read: %@.", {error.what()}));
         }
-        for (const auto& [name, value] : _values) {
-            if (value->isThere) {
-                _line.options.emplace(name, value->text);
-            }
-        }
-        return takeRest(plainWords);
+        return setFlags > 0 ? std::optional(missingValue()) : std::nullopt;
     }
+
+    Words rest() const { return _app.remaining(); }
 
 private:
-    struct Value {
-        bool isThere = false;
-        std::string text;
-    };
-
-    void addOptions(CLI::App& app, std::span<const OptionRow> options) {
-        for (const OptionRow& row : options) {
-            const std::string name(row.name);
-            Value& value = *_values.emplace(name, std::make_unique<Value>()).first->second;
-            if (row.kind == ValueKind::none) {
-                app.add_flag_callback(name, [&value] { value.isThere = true; });
-            } else {
-                app.add_option_function<std::string>(name,
-                                                     [&value](const std::string& text) {
-                                                         value = {.isThere = true, .text = text};
-                                                     })
-                    ->take_last();
-            }
-        }
+    bool isSetFlag(const std::string& word) const {
+        return std::ranges::any_of(
+            _flags, [&word](const std::string& flag) { return word.starts_with(flag); });
     }
 
-    Failure missingValue() const {
-        return failureOf(ErrorCode::usage, localizedText("An option lacks its value, or a flag has "
-                                                         "one. See kxctl --help."));
-    }
-
-    std::optional<Failure> takeExtras(const std::vector<std::string>& extras);
-    std::variant<CommandLine, Failure> takeRest(const std::vector<std::string>& plainWords);
-
+    CommandLine& _line;
     CLI::App _app;
-    CommandLine _line;
-    std::map<std::string, std::unique_ptr<Value>> _values;
+    Words _flags; // each with "="
 };
+
+bool isOption(const std::string& word) {
+    return word.size() > 1 && word.starts_with('-');
+}
+
+// A command line as far as its command.
+struct Beginning {
+    Words extras; // options that there are not
+    Words words;  // the name of the command, and all behind it
+};
+
+std::optional<Failure> takeBeginning(const Words& arguments, CommandLine& line,
+                                     Beginning& beginning) {
+    OptionParser parser(line);
+    parser.endAtFirstWord();
+    parser.add(generalOptions());
+    auto failure = parser.parse(arguments);
+    const Words rest = parser.rest();
+    const auto first = std::ranges::find_if_not(rest, isOption);
+    beginning = {.extras = {rest.begin(), first}, .words = {first, rest.end()}};
+    line.command = first != rest.end() ? commandForName(*first) : nullptr;
+    return failure;
+}
 
 bool isPairOfDigits(std::string_view word) {
     return word.size() == 2 && isHexDigit(word[0]) && isHexDigit(word[1]);
@@ -185,46 +204,59 @@ bool isOptionText(const CommandLine& line, const std::vector<std::string>& extra
            extras.size() == 1 && !extras.front().starts_with("--");
 }
 
-std::optional<Failure> Parser::takeExtras(const std::vector<std::string>& extras) {
-    if (_line.command == nullptr && !_line.words.empty()) {
-        return unknownCommand(_line.words.front());
-    }
-    if (extras.empty()) {
-        return std::nullopt;
-    }
-    if (isOptionText(_line, extras)) {
-        _line.words.push_back(extras.front());
-        return std::nullopt;
-    }
-    return failureOf(ErrorCode::usage,
-                     localizedText("There is no option “%@” here. See kxctl --help.",
-                                   {safeForSentence(extras.front())}));
+Failure unknownOption(const std::string& word) {
+    return failureOf(
+        ErrorCode::usage,
+        localizedText("There is no option “%@” here. See kxctl --help.", {safeForSentence(word)}));
 }
 
-std::variant<CommandLine, Failure> Parser::takeRest(const std::vector<std::string>& plainWords) {
-    if (_line.has("--help") || _line.has("--version")) {
-        return _line;
+// What stands behind the name of the command.
+std::optional<Failure> takeCommand(const Words& arguments, CommandLine& line, Words& extras) {
+    OptionParser parser(line);
+    parser.add(generalOptions());
+    if (line.command != nullptr) {
+        parser.add(line.command->options);
     }
-    std::vector<std::string> extras; // options that there are not
-    for (const std::string& word : _app.remaining(true)) {
-        const bool isOption = word.size() > 1 && word.starts_with('-');
-        (isOption ? extras : _line.words).push_back(word);
+    auto failure = parser.parse(arguments);
+    for (const std::string& word : parser.rest()) {
+        (isOption(word) ? extras : line.words).push_back(word);
     }
-    if (auto failure = takeExtras(extras)) {
-        return *failure;
+    return failure;
+}
+
+std::optional<Failure> objectionToRest(CommandLine& line, const Beginning& beginning,
+                                       const Words& extras) {
+    if (!beginning.extras.empty()) {
+        return unknownOption(beginning.extras.front());
     }
-    _line.words.insert(_line.words.end(), plainWords.begin(), plainWords.end());
-    if (_line.command == nullptr) {
+    if (line.command == nullptr && !beginning.words.empty()) {
+        return unknownCommand(beginning.words.front());
+    }
+    if (isOptionText(line, extras)) {
+        line.words.push_back(extras.front());
+    } else if (!extras.empty()) {
+        return unknownOption(extras.front());
+    }
+    return std::nullopt;
+}
+
+std::optional<Failure> objectionToLine(CommandLine& line) {
+    if (line.command == nullptr) {
         return failureOf(ErrorCode::usage,
                          localizedText("A command is missing. See kxctl --help."));
     }
-    for (const auto& objection : {objectionToSixWords(_line), objectionToNumberOfWords(_line),
-                                  objectionToForms(_line), takePorts(_line)}) {
+    for (const auto& objection : {objectionToSixWords(line), objectionToNumberOfWords(line),
+                                  objectionToForms(line), takePorts(line)}) {
         if (objection.has_value()) {
-            return *objection;
+            return objection;
         }
     }
-    return _line;
+    return std::nullopt;
+}
+
+// Behind "--" everything is a word.
+Words withoutPlainWords(const Words& arguments) {
+    return {arguments.begin(), std::ranges::find(arguments, "--")};
 }
 
 } // namespace
@@ -235,30 +267,49 @@ std::optional<std::string> CommandLine::valueOf(std::string_view option) const {
 }
 
 std::variant<CommandLine, Failure> commandLineOf(const std::vector<std::string>& arguments) {
-    return Parser().parse(arguments);
+    CommandLine line;
+    Beginning beginning;
+    const Words options = withoutPlainWords(arguments);
+    if (auto failure = takeBeginning(options, line, beginning)) {
+        return *failure;
+    }
+    Words extras;
+    if (!beginning.words.empty()) {
+        const Words behind(beginning.words.begin() + 1, beginning.words.end());
+        if (auto failure = takeCommand(behind, line, extras)) {
+            return *failure;
+        }
+    }
+    if (line.has("--help") || line.has("--version")) {
+        return line;
+    }
+    if (auto failure = objectionToRest(line, beginning, extras)) {
+        return *failure;
+    }
+    const auto mark = arguments.begin() + static_cast<std::ptrdiff_t>(options.size());
+    if (mark != arguments.end()) {
+        line.words.insert(line.words.end(), mark + 1, arguments.end());
+    }
+    if (auto failure = objectionToLine(line)) {
+        return *failure;
+    }
+    return line;
 }
-
-namespace {
-
-bool hasBeforeMark(const std::vector<std::string>& arguments, std::string_view option) {
-    const auto end = std::ranges::find(arguments, "--");
-    return std::find(arguments.begin(), end, option) != end;
-}
-
-} // namespace
 
 bool asksForDocument(const std::vector<std::string>& arguments) {
-    return hasBeforeMark(arguments, "--json");
+    return std::ranges::count(withoutPlainWords(arguments), "--json") > 0;
 }
 
 bool asksForHelp(const std::vector<std::string>& arguments) {
-    return hasBeforeMark(arguments, "--help") || hasBeforeMark(arguments, "--version");
+    const Words options = withoutPlainWords(arguments);
+    return std::ranges::count(options, "--help") + std::ranges::count(options, "--version") > 0;
 }
 
 std::optional<std::string> commandNameIn(const std::vector<std::string>& arguments) {
-    const auto found = std::ranges::find_if(
-        arguments, [](const std::string& word) { return commandForName(word) != nullptr; });
-    return found != arguments.end() ? std::optional(*found) : std::nullopt;
+    CommandLine line;
+    Beginning beginning;
+    takeBeginning(withoutPlainWords(arguments), line, beginning);
+    return line.command != nullptr ? std::optional(std::string(line.command->name)) : std::nullopt;
 }
 
 NumberOption wholeNumberOf(const CommandLine& line, std::string_view option) {

@@ -16,8 +16,6 @@ namespace {
 
 constexpr std::chrono::milliseconds timeBetweenProgress{100};
 
-constexpr std::string_view beginningOfLine = "\r\x1b[K"; // and nothing on it
-
 std::optional<Failure> outputFailure(const Console& console) {
     const auto& error = console.outputError();
     if (!error.has_value() || error->code == EPIPE) {
@@ -54,7 +52,7 @@ void CommandRun::warn(std::string_view code, const std::string& sentence) {
 }
 
 void CommandRun::awaitProgress() {
-    if (_count && !_line.has("--quiet") && _services.console.canRewriteNotes()) {
+    if (_count && !_line.has("--quiet") && _services.console.isNoteTerminal()) {
         _nextProgress = _services.session.runLoop.callOnceAfter(timeBetweenProgress, [this] {
             showProgress();
             awaitProgress();
@@ -63,18 +61,21 @@ void CommandRun::awaitProgress() {
 }
 
 void CommandRun::showProgress() {
+    if (!_services.console.canRewriteNotes()) {
+        return; // another program may have the terminal for a while
+    }
     const auto tenths = (_services.now() - _begun).count() / 100;
     std::array<char, 32> time{};
     std::snprintf(time.data(), time.size(), "  %lld.%lld s", static_cast<long long>(tenths / 10),
                   static_cast<long long>(tenths % 10));
-    _services.console.writeNote(std::string(beginningOfLine) + _count() + time.data() +
+    _services.console.writeNote(std::string(Console::beginningOfLine) + _count() + time.data() +
                                 (_left ? _left() : std::string()));
     _showsProgress = true;
 }
 
 void CommandRun::endProgress() {
     if (std::exchange(_showsProgress, false)) {
-        _services.console.writeNote(beginningOfLine);
+        _services.console.writeNote(Console::beginningOfLine);
     }
 }
 

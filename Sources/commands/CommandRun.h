@@ -14,7 +14,6 @@
 #include "conversation/AddressBindings.h"
 #include "conversation/AddressHolders.h"
 #include "conversation/DiagnosticSockets.h"
-#include "conversation/Discovery.h"
 #include "conversation/HostDiagnostics.h"
 #include "conversation/HostInterface.h"
 #include "conversation/Operation.h"
@@ -108,12 +107,15 @@ public:
               std::function<std::string()> left = {});
 
     // Finds the units of these names. `found` gets the units that answer and that no other unit can
-    // be taken for; the refusal tells all the others, with the code of the first.
+    // be taken for, each once; the refusal tells all the others, with the code of the first.
     Refusal findUnits(const std::vector<UnitName>& names, std::vector<HeardUnit>& found);
 
     // The same for one unit that will get a command. Warns when its answer came from another
     // address than the one that it tells.
     Refusal findUnit(const UnitName& name, HeardUnit& unit);
+
+    // Why a unit cannot get this serial number: another one has it. Asks everybody.
+    Refusal refusalOfSerialNumber(const std::string& serial);
 
     // The steps of a command for one unit: interfaces, listening, and the unit itself.
     Refusal reachUnit(const std::string& typedName, HeardUnit& unit);

@@ -61,7 +61,7 @@ constexpr std::array restoreOptions{
     OptionRow{"--yes", "", ValueKind::none, "do not ask whether this is meant"},
 };
 constexpr std::array watchOptions{
-    OptionRow{"--every", "S", ValueKind::text, "ask every S seconds (2.0)"},
+    OptionRow{"--every", "S", ValueKind::text, "ask every S seconds (2.0), 0.1 at least"},
     OptionRow{"--for", "S", ValueKind::text, "end after S seconds"},
     OptionRow{"--until", "N", ValueKind::text,
               "end as soon as N units are there; with fewer at the end the exit status is 1"},
@@ -135,7 +135,9 @@ constexpr Text setText =
     "A value that the unit would get in another form than it was typed is refused; --loose takes "
     "it.\n\n"
     "A new internal-ip must lie in the interface's network and must be held by nobody. It needs "
-    "administrator rights for a moment, to enter the unit's hardware address into the ARP cache.";
+    "administrator rights for a moment, to enter the unit's hardware address into the ARP cache. "
+    "Root has them; for others polkit asks at the desktop or, without one, in the terminal. "
+    "A new serial must be one that no other unit tells; everybody is asked for two seconds.";
 
 constexpr Text diagnoseText =
     "Checks the way from this host to the units and back: the link, the address, the port, the "
@@ -198,7 +200,7 @@ constexpr std::array commands{
                "list the network interfaces",
                "Lists the network interfaces of this host. Units can be asked where the column "
                "can-ask says yes: there the interface carries datagrams, can broadcast, and has an "
-               "IPv4 address.",
+               "IPv4 address. With -i NAME it lists that one only.",
                {},
                interfacesExamples,
                interfacesKeys,

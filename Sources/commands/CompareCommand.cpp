@@ -3,6 +3,7 @@
 #include "commands/CommandRun.h"
 #include "commands/Commands.h"
 #include "commands/SavedComparison.h"
+#include "conversation/Discovery.h"
 #include "support/LocalizedText.h"
 #include "words/QuotedText.h"
 

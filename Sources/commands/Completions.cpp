@@ -60,7 +60,7 @@ std::string patternOf(ValueKind kind) {
 }
 
 // Text within single quotation marks of a shell.
-std::string quoted(std::string_view text) {
+std::string inSingleQuotes(std::string_view text) {
     std::string result = "'";
     for (const char character : text) {
         result += character == '\'' ? std::string("'\\''") : std::string(1, character);
@@ -101,7 +101,7 @@ std::string zshOptions(std::span<const OptionRow> options) {
         if (row.kind != ValueKind::none) {
             specification += ":" + std::string(row.value) + ":" + zshAction(row.kind);
         }
-        result += " \\\n                " + quoted(specification);
+        result += " \\\n                " + inSingleQuotes(specification);
     }
     return result;
 }
@@ -111,18 +111,18 @@ std::string fishOptions(std::span<const OptionRow> options, std::string_view con
     for (const OptionRow& row : options) {
         const bool isLong = row.name.starts_with("--");
         result += "complete -c kxctl";
-        result += condition.empty() ? "" : " -n " + quoted(condition);
+        result += condition.empty() ? "" : " -n " + inSingleQuotes(condition);
         result += (isLong ? " -l " : " -s ") + std::string(row.name.substr(isLong ? 2 : 1));
         if (row.kind == ValueKind::file) {
             result += " -r -F";
         } else if (row.kind == ValueKind::interface) {
-            result += " -x -a " + quoted("all (ls /sys/class/net 2>/dev/null)");
+            result += " -x -a " + inSingleQuotes("all (ls /sys/class/net 2>/dev/null)");
         } else if (row.kind == ValueKind::port) {
-            result += " -x -a " + quoted(portNames);
+            result += " -x -a " + inSingleQuotes(portNames);
         } else if (row.kind != ValueKind::none) {
             result += " -x";
         }
-        result += " -d " + quoted(row.text) + "\n";
+        result += " -d " + inSingleQuotes(row.text) + "\n";
     }
     return result;
 }
@@ -182,7 +182,7 @@ std::string zshCompletion() {
                          "    case $state in\n    command)\n        _values command";
     for (const CommandRow& row : commandTable()) {
         script += " \\\n                " +
-                  quoted(std::string(row.name) + "[" + zshText(row.summary) + "]");
+                  inSingleQuotes(std::string(row.name) + "[" + zshText(row.summary) + "]");
     }
     script += "\n        ;;\n    argument)\n        case $line[1] in\n";
     for (const CommandRow& row : commandTable()) {
@@ -203,18 +203,18 @@ std::string fishCompletion() {
                          "complete -c kxctl -f\n";
     for (const CommandRow& row : commandTable()) {
         script += "complete -c kxctl -n " +
-                  quoted("not __fish_seen_subcommand_from " + joinedCommands()) + " -a " +
-                  std::string(row.name) + " -d " + quoted(row.summary) + "\n";
+                  inSingleQuotes("not __fish_seen_subcommand_from " + joinedCommands()) + " -a " +
+                  std::string(row.name) + " -d " + inSingleQuotes(row.summary) + "\n";
     }
     script += fishOptions(generalOptions(), "");
     for (const CommandRow& row : commandTable()) {
         const std::string condition = "__fish_seen_subcommand_from " + std::string(row.name);
         script += fishOptions(row.options, condition);
         if (row.words == ValueKind::parameter) {
-            script += "complete -c kxctl -n " + quoted(condition) + " -a " +
-                      quoted(joinedParameters()) + "\n";
+            script += "complete -c kxctl -n " + inSingleQuotes(condition) + " -a " +
+                      inSingleQuotes(joinedParameters()) + "\n";
         } else if (row.words == ValueKind::file) {
-            script += "complete -c kxctl -n " + quoted(condition) + " -F\n";
+            script += "complete -c kxctl -n " + inSingleQuotes(condition) + " -F\n";
         }
     }
     return script;

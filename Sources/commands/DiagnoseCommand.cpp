@@ -19,7 +19,8 @@ namespace {
 
 using Refusal = CommandRun::Refusal;
 
-struct Finding {
+// What was found out about one interface.
+struct Look {
     DiagnosisEvidence evidence;
     Diagnosis diagnosis;
 };
@@ -66,9 +67,8 @@ std::vector<std::uint32_t> ownAddresses(const std::vector<HostInterface>& interf
     return addresses;
 }
 
-Finding askOn(CommandRun& run, ListenerWitness& witness,
-              const std::optional<HostInterface>& interface,
-              const std::optional<DiagnosisTarget>& target) {
+Look askOn(CommandRun& run, ListenerWitness& witness, const std::optional<HostInterface>& interface,
+           const std::optional<DiagnosisTarget>& target) {
     DiagnosisQuestion question;
     question.interface = interface;
     question.interfaceName = interface.has_value() ? interface->name : std::string();
@@ -96,20 +96,20 @@ Finding askOn(CommandRun& run, ListenerWitness& witness,
 }
 
 // An interface on which units answer shows that they are not expected on the others.
-void forgiveSilence(std::vector<Finding>& findings, bool hasTarget) {
-    const auto isHealthy = [](const Finding& finding) { return finding.diagnosis.isHealthy; };
-    if (std::ranges::none_of(findings, isHealthy)) {
+void forgiveSilence(std::vector<Look>& looks, bool hasTarget) {
+    const auto isHealthy = [](const Look& look) { return look.diagnosis.isHealthy; };
+    if (std::ranges::none_of(looks, isHealthy)) {
         return;
     }
     if (hasTarget) {
-        std::erase_if(findings, std::not_fn(isHealthy));
+        std::erase_if(looks, std::not_fn(isHealthy));
         return;
     }
-    for (Finding& finding : findings) {
-        if (std::erase(finding.diagnosis.causes, Cause::nothingArrived) == 0) {
+    for (Look& look : looks) {
+        if (std::erase(look.diagnosis.causes, Cause::nothingArrived) == 0) {
             continue;
         }
-        for (Check& check : finding.diagnosis.checks) {
+        for (Check& check : look.diagnosis.checks) {
             if (check.cause == Cause::nothingArrived) {
                 check = {.kind = check.kind, .state = CheckState::warn, .cause = {}};
             }
@@ -117,14 +117,14 @@ void forgiveSilence(std::vector<Finding>& findings, bool hasTarget) {
     }
 }
 
-void reportChecks(CommandRun& run, const std::vector<Finding>& findings) {
+void reportChecks(CommandRun& run, const std::vector<Look>& looks) {
     TextTable table({"check", "state", "evidence"});
-    for (const Finding& finding : findings) {
-        for (const Check& check : finding.diagnosis.checks) {
+    for (const Look& look : looks) {
+        for (const Check& check : look.diagnosis.checks) {
             const std::string id(idOfCheck(check.kind));
             const std::string state(idOfState(check.state));
-            const std::string evidence = evidenceOfCheck(check, finding.evidence);
-            const auto advice = adviceOfCheck(check, finding.evidence);
+            const std::string evidence = evidenceOfCheck(check, look.evidence);
+            const auto advice = adviceOfCheck(check, look.evidence);
             Json json;
             json["id"] = id;
             json["state"] = state;
@@ -139,24 +139,24 @@ void reportChecks(CommandRun& run, const std::vector<Finding>& findings) {
 
 // The weightiest cause of all interfaces first; of equal ones that of the interface that comes
 // first.
-void reportCauses(CommandRun& run, const std::vector<Finding>& findings) {
-    std::vector<std::pair<Cause, const Finding*>> causes;
-    for (const Finding& finding : findings) {
-        for (const Cause cause : finding.diagnosis.causes) {
-            causes.emplace_back(cause, &finding);
+void reportCauses(CommandRun& run, const std::vector<Look>& looks) {
+    std::vector<std::pair<Cause, const Look*>> causes;
+    for (const Look& look : looks) {
+        for (const Cause cause : look.diagnosis.causes) {
+            causes.emplace_back(cause, &look);
         }
     }
     std::ranges::stable_sort(causes, {}, [](const auto& each) { return each.first; });
-    for (const auto& [cause, finding] : causes) {
+    for (const auto& [cause, look] : causes) {
         const std::string id(idOfCause(cause));
-        const std::string sentence = sentenceOfCause(cause, finding->evidence);
+        const std::string sentence = sentenceOfCause(cause, look->evidence);
         Json json;
         json["id"] = id;
         json["sentence"] = sentence;
         run.document()["causes"].push_back(std::move(json));
         std::string text = "\n" + id;
         text.append(": ").append(sentence).append("\n    ");
-        run.print(text.append(adviceOfCause(cause, finding->evidence)).append("\n"));
+        run.print(text.append(adviceOfCause(cause, look->evidence)).append("\n"));
     }
 }
 
@@ -186,27 +186,27 @@ int runDiagnose(CommandRun& run) {
     Refusal notOpened = run.openExchange([&](DatagramSystemCalls& inner) -> DatagramSystemCalls& {
         return witness.emplace(inner, run.services().session.receiveBuffers);
     });
-    std::vector<Finding> findings;
+    std::vector<Look> looks;
     for (const HostInterface& interface : run.chosen()) {
-        findings.push_back(askOn(run, *witness, interface, target));
+        looks.push_back(askOn(run, *witness, interface, target));
     }
     if (run.chosen().empty()) {
-        findings.push_back(askOn(run, *witness, std::nullopt, target));
+        looks.push_back(askOn(run, *witness, std::nullopt, target));
     }
     if (run.isInterrupted()) {
         run.closeExchange();
         return run.finish(); // half of the evidence would accuse wrongly
     }
-    forgiveSilence(findings, target.has_value());
-    reportChecks(run, findings);
-    reportCauses(run, findings);
+    forgiveSilence(looks, target.has_value());
+    reportChecks(run, looks);
+    reportCauses(run, looks);
     run.closeExchange();
-    if (std::ranges::any_of(findings,
-                            [](const Finding& each) { return !each.diagnosis.causes.empty(); })) {
+    if (std::ranges::any_of(looks,
+                            [](const Look& each) { return !each.diagnosis.causes.empty(); })) {
         return run.finish({}, exitNo);
     }
     const bool isHealthy =
-        std::ranges::any_of(findings, [](const Finding& each) { return each.diagnosis.isHealthy; });
+        std::ranges::any_of(looks, [](const Look& each) { return each.diagnosis.isHealthy; });
     return isHealthy ? run.finish() : run.finish(refusalWithoutCause(run, std::move(notOpened)));
 }
 

@@ -4,9 +4,11 @@
 #include "commands/Commands.h"
 #include "commands/SavedComparison.h"
 #include "commands/UnitTables.h"
+#include "conversation/Discovery.h"
 #include "conversation/UnitDestination.h"
 #include "support/LocalizedText.h"
 #include "units/UnitCommand.h"
+#include "words/FindingText.h"
 #include "words/QuotedText.h"
 
 #include <memory>
@@ -94,6 +96,24 @@ void warnOfDuplicates(CommandRun& run, const HeardUnits& units) {
     }
 }
 
+// The list of units has one line for these.
+void warnOfContradictions(CommandRun& run, const Discovery& discovery) {
+    const auto nameOfLink = [&run](std::uint32_t link) {
+        return nameOfInterface(run.interfaces(), link);
+    };
+    for (const Finding& finding : discovery.contradictions()) {
+        const auto* const hosts = std::get_if<TwoHostsOfOneSerial>(&finding);
+        const bool isOneUnit =
+            hosts != nullptr &&
+            discovery.units().named(SerialNumberOfUnit{hosts->serial}).size() == 1;
+        if (isOneUnit) {
+            run.warn("ambiguous", textOfFinding(finding));
+        } else if (std::holds_alternative<UnitOnTwoInterfaces>(finding)) {
+            run.warn("interfaces", textOfFinding(finding, nameOfLink));
+        }
+    }
+}
+
 void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits& units) {
     Document& document = run.document();
     const std::uint32_t dropped = run.exchange().dropped();
@@ -112,6 +132,7 @@ void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits&
                                           {static_cast<int>(dropped)}));
     }
     warnOfDuplicates(run, units);
+    warnOfContradictions(run, discovery);
     for (const HeardUnit* const unit : units.all()) {
         run.warnOfSender(*unit);
     }

@@ -7,6 +7,7 @@
 #include "support/LocalizedText.h"
 
 #include <bit>
+#include <utility>
 
 namespace kx {
 
@@ -47,7 +48,14 @@ void addRow(TextTable& table, const HostInterface& interface) {
 } // namespace
 
 int runInterfaces(CommandRun& run) {
-    const auto interfaces = run.services().interfaces.list();
+    const auto name = run.line().valueOf("-i");
+    const bool isNamed = name.has_value() && *name != "all";
+    if (isNamed) {
+        if (auto refusal = run.chooseInterfacesToLookAt()) {
+            return run.finish(std::move(refusal));
+        }
+    }
+    const auto interfaces = isNamed ? run.chosen() : run.services().interfaces.list();
     if (interfaces.empty()) {
         return run.finish(failureOf(ErrorCode::interface,
                                     localizedText("The system tells no network interfaces.")));

@@ -14,7 +14,7 @@ namespace {
 
 using Refusal = CommandRun::Refusal;
 
-Refusal objectionToWords(const CommandLine& line) {
+Refusal objectionToRestoredUnits(const CommandLine& line) {
     if (line.has("--everyone") == line.words.empty()) {
         return std::nullopt;
     }
@@ -123,7 +123,7 @@ int restoreEveryone(CommandRun& run) {
 } // namespace
 
 int runRestore(CommandRun& run) {
-    if (auto refusal = objectionToWords(run.line())) {
+    if (auto refusal = objectionToRestoredUnits(run.line())) {
         return run.finish(std::move(refusal));
     }
     if (auto refusal = objectionToSilence(run)) {

@@ -6,6 +6,7 @@
 #include "commands/JournalFiles.h"
 #include "commands/PlanReport.h"
 #include "commands/TextTable.h"
+#include "conversation/EditTrouble.h"
 #include "conversation/UnitEdits.h"
 #include "files/StateNames.h"
 #include "support/LocalizedText.h"
@@ -33,10 +34,18 @@ std::string_view identifierOf(const ExactEdit& edit) {
 
 // In the words that the window has for the same value.
 Refusal objectionToValue(const ExactEdit& edit) {
+    // With such an address a unit would never be found again.
+    const bool isOfMany = troubleOfEdit(edit.edit, {}) == EditTrouble::hardwareAddressOfMany;
+    if (!edit.isChanged && !isOfMany) {
+        return std::nullopt;
+    }
+    const std::string sentence = edit.isChanged
+                                     ? forecastOfValueAlone(edit.edit)
+                                     : localizedText("No unit can have it: it reaches many hosts.");
     return failureOf(
         ErrorCode::value,
         localizedText("%@ is refused without --loose. The window says of its value: %@",
-                      {identifierOf(edit), forecastOfValueAlone(edit.edit)}));
+                      {identifierOf(edit), sentence}));
 }
 
 Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
@@ -58,8 +67,8 @@ Refusal readEdit(const std::string& word, bool isLoose, Edits& edits) {
                                                                {name}));
     }
     const auto& exact = std::get<ExactEdit>(edit);
-    if (exact.isChanged && !isLoose) {
-        return objectionToValue(exact);
+    if (auto refusal = objectionToValue(exact); refusal.has_value() && !isLoose) {
+        return refusal;
     }
     if (!asciiBytes(exact.edit.command).has_value() || exact.edit.isTooLong()) {
         return failureOf(ErrorCode::value,
@@ -94,6 +103,15 @@ Refusal objectionOnLink(const CommandRun& run, std::uint32_t link, const Edits& 
     return own.empty() ? std::nullopt : objectionToNewAddress(run, own, edits);
 }
 
+// Two units with one serial number could not be told apart any more.
+Refusal objectionToNewSerialNumber(CommandRun& run, const std::vector<UnitChange>& changes) {
+    const auto change = std::ranges::find_if(changes, [](const UnitChange& each) {
+        return each.edit.edit.parameter == UnitParameter::serialNumber &&
+               each.state == ChangeState::planned;
+    });
+    return change != changes.end() ? run.refusalOfSerialNumber(change->to) : std::nullopt;
+}
+
 void report(CommandRun& run, const std::string& serial, const std::vector<UnitChange>& changes) {
     TextTable table({"parameter", "from", "to", "command", "state"});
     for (const UnitChange& change : changes) {
@@ -120,6 +138,29 @@ std::string holdersOf(const AddressHolders& holders) {
     return text;
 }
 
+// At a terminal without a desktop nobody can be asked.
+std::string textOfBinding(const AddressMove& move) {
+    const std::string text = textOfARPEntry(stringForIP(move.holders().address), move.binding());
+    return move.binding().state == ARPEntryState::rightsNotGiven
+               ? text + ' ' + localizedText("kxctl needs no question when root runs it.")
+               : text;
+}
+
+// The unit shows the new address and does not answer for it, as far as this host can tell.
+std::string textOfForeignAnswer(const AddressMove& move) {
+    const std::string address = stringForIP(move.holders().address);
+    if (!move.foreignHardwareAddress().empty()) {
+        return localizedText("The unit %@ shows %@, but %@ answers ARP requests for it.",
+                             {move.hardwareAddress(), address, move.foreignHardwareAddress()});
+    }
+    return move.isStillBound()
+               ? localizedText("Whether the unit itself answers ARP requests for %@ could not be "
+                               "found out.",
+                               {address})
+               : localizedText("The unit shows %@ but does not answer ARP requests for it.",
+                               {address});
+}
+
 // Why the move to another address has not begun, or what is wrong after it.
 Refusal failureOfMove(const AddressMove& move) {
     switch (move.state()) {
@@ -132,20 +173,9 @@ Refusal failureOfMove(const AddressMove& move) {
                          localizedText("Whether somebody holds %@ could not be found out.",
                                        {stringForIP(move.holders().address)}));
     case MoveState::notBound:
-        return failureOf(ErrorCode::rights,
-                         textOfARPEntry(stringForIP(move.holders().address), move.binding()));
+        return failureOf(ErrorCode::rights, textOfBinding(move));
     case MoveState::foreignAnswer:
-        return move.foreignHardwareAddress().empty()
-                   ? failureOf(ErrorCode::half,
-                               localizedText("The unit shows %@ but does not answer ARP requests "
-                                             "for it.",
-                                             {stringForIP(move.holders().address)}))
-                   : failureOf(
-                         ErrorCode::half,
-                         localizedText("The unit %@ shows %@, but %@ answers ARP requests for "
-                                       "it.",
-                                       {move.hardwareAddress(), stringForIP(move.holders().address),
-                                        move.foreignHardwareAddress()}));
+        return failureOf(ErrorCode::half, textOfForeignAnswer(move));
     case MoveState::notBegun:
     case MoveState::commanded:
     case MoveState::moved:
@@ -261,6 +291,9 @@ int runSet(CommandRun& run) {
         }
     }
     auto changes = changesOfUnit(unit, edits);
+    if (auto refusal = objectionToNewSerialNumber(run, changes)) {
+        return run.finish(std::move(refusal));
+    }
     if (run.line().has("--dry-run")) {
         report(run, std::string(unit.serialNumber()), changes);
         return run.finish();

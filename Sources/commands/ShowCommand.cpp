@@ -11,7 +11,7 @@ namespace {
 
 using Refusal = CommandRun::Refusal;
 
-Refusal objectionToWords(const CommandLine& line) {
+Refusal objectionToShownUnits(const CommandLine& line) {
     if (line.has("--all") == line.words.empty()) {
         return std::nullopt;
     }
@@ -36,7 +36,7 @@ void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {
 int runShow(CommandRun& run) {
     std::vector<UnitName> names;
     for (const auto& step : std::initializer_list<std::function<Refusal()>>{
-             [&] { return objectionToWords(run.line()); },
+             [&] { return objectionToShownUnits(run.line()); },
              [&] { return run.readNames(run.line().words, names); },
              [&] { return run.chooseInterfaces(); }, [&] { return run.openExchange(); }}) {
         if (auto refusal = step()) {

@@ -71,6 +71,9 @@ void tell(CommandRun& run, UnitEvent event, const HeardUnit& unit) {
 
 constexpr std::chrono::milliseconds timeBetweenLooks{200};
 
+// A watch may have no end.
+constexpr std::chrono::milliseconds shortestTimeBetweenRounds{100};
+
 // Without an event nothing is written, so that nothing would tell that nobody reads any more.
 void awaitEndOfReader(CommandRun& run, RunLoop::Handle& nextLook) {
     nextLook = run.services().session.runLoop.callOnceAfter(timeBetweenLooks, [&run, &nextLook] {
@@ -92,6 +95,11 @@ Refusal readOptions(const CommandLine& line, WatchPlan& plan) {
         }
     }
     plan.every = every.time.value_or(plan.every);
+    if (plan.every < shortestTimeBetweenRounds) {
+        return failureOf(ErrorCode::usage,
+                         localizedText("--every takes 0.1 seconds or more: every unit answers each "
+                                       "time."));
+    }
     plan.duration = duration.time;
     if (until.number.has_value()) {
         plan.until = static_cast<std::size_t>(*until.number);

@@ -43,8 +43,10 @@ struct AuthorizedAddressBindings::Turns {
     bool isMaking = false;
 };
 
-AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service)
-    : _turns(std::make_shared<Turns>(service)) {}
+AuthorizedAddressBindings::AuthorizedAddressBindings(AuthorizationService& service,
+                                                     std::function<void()> giveUpWaiting)
+    : _turns(std::make_shared<Turns>(service))
+    , _giveUpWaiting(std::move(giveUpWaiting)) {}
 
 AuthorizedAddressBindings::~AuthorizedAddressBindings() {
     _turns->waiting.clear();

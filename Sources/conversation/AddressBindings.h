@@ -30,6 +30,10 @@ public:
                       Done done) = 0;
     virtual void release(const std::string& address, const std::string& hardwareAddress,
                          Done done) = 0;
+
+    // Ends the waiting of a call that is under way: a question to a person is taken back, and the
+    // call's `done` is told that there are no rights. Work that has begun goes on.
+    virtual void giveUp() = 0;
 };
 
 // Changes the entries by the ARP tool, with rights from the host's authority.
@@ -39,8 +43,9 @@ public:
 // has waited while that person said no is told so without a question of their own.
 class AuthorizedAddressBindings final : public AddressBindings {
 public:
-    // `service` must outlive the object.
-    explicit AuthorizedAddressBindings(AuthorizationService& service);
+    // `service` must outlive the object. `giveUpWaiting` has the wait under way, which is the
+    // service's, end as if the person had given up.
+    AuthorizedAddressBindings(AuthorizationService& service, std::function<void()> giveUpWaiting);
 
     // Whoever still waits is not told any more.
     ~AuthorizedAddressBindings() override;
@@ -50,6 +55,7 @@ public:
     void bind(const std::string& address, const std::string& hardwareAddress, Done done) override;
     void release(const std::string& address, const std::string& hardwareAddress,
                  Done done) override;
+    void giveUp() override { _giveUpWaiting(); }
 
 private:
     struct Turns;
@@ -57,6 +63,7 @@ private:
     void run(std::vector<std::string> arguments, Done done);
 
     std::shared_ptr<Turns> _turns; // may have to outlive a call
+    std::function<void()> _giveUpWaiting;
 };
 
 } // namespace kx

@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // The table is looked at so often: a holder on the same link answers within milliseconds.
-constexpr auto timeBetweenLooks = 20ms;
+constexpr auto timeBetweenHolderLooks = 20ms;
 
 // PROBE_NUM and PROBE_MIN of RFC 5227.
 constexpr int probeCount = 3;
@@ -102,7 +102,7 @@ void HolderSearch::look() {
     } else if (areDecided) {
         _nextLook = exchange().runLoop().callOnceAfter(timeForSerialNumber, [this] { finish(); });
     } else {
-        _nextLook = exchange().runLoop().callOnceAfter(timeBetweenLooks, [this] { look(); });
+        _nextLook = exchange().runLoop().callOnceAfter(timeBetweenHolderLooks, [this] { look(); });
     }
 }
 

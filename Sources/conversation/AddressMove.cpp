@@ -12,7 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr auto timeBetweenLooks = 20ms;
+constexpr auto timeBetweenAnswerLooks = 20ms;
 
 // The system asks three times, once a second.
 constexpr auto patienceForOwnAnswer = 3200ms;
@@ -38,6 +38,8 @@ void AddressMove::interrupt() {
     _isInterrupted = true;
     if (_search != nullptr && !_search->hasEnded()) {
         endWith(MoveState::notBegun);
+    } else if (_isBinding) {
+        _services.bindings.giveUp();
     }
 }
 
@@ -72,7 +74,7 @@ void AddressMove::bindIfFree() {
                 if (isAlive.expired()) {
                     return;
                 }
-                if (mayGoOn) {
+                if (mayGoOn && !_isInterrupted) {
                     bind();
                 } else {
                     endWith(MoveState::notBegun);
@@ -82,6 +84,7 @@ void AddressMove::bindIfFree() {
 }
 
 void AddressMove::bind() {
+    _isBinding = true;
     _services.bindings.bind(stringForIP(_newAddress), _hardwareAddress,
                             [this, isAlive = std::weak_ptr(_isAlive)](const ARPEntry& entry) {
                                 if (!isAlive.expired()) {
@@ -91,6 +94,7 @@ void AddressMove::bind() {
 }
 
 void AddressMove::didBind(const ARPEntry& entry) {
+    _isBinding = false;
     _binding = entry;
     if (entry.state != ARPEntryState::started) {
         if (_services.witness != nullptr) {
@@ -141,7 +145,7 @@ void AddressMove::awaitOwnAnswer() {
         endWith(MoveState::foreignAnswer);
     } else {
         _nextStep =
-            _exchange.runLoop().callOnceAfter(timeBetweenLooks, [this] { awaitOwnAnswer(); });
+            _exchange.runLoop().callOnceAfter(timeBetweenAnswerLooks, [this] { awaitOwnAnswer(); });
     }
 }
 

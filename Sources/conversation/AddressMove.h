@@ -87,6 +87,8 @@ public:
     // In the state foreignAnswer, the hardware address that answers; empty when none does.
     const std::string& foreignHardwareAddress() const { return _foreignHardwareAddress; }
 
+    // Before the command this ends the move, and a question for rights is taken back. Afterwards
+    // the move is finished.
     void interrupt() override;
 
 private:
@@ -112,6 +114,7 @@ private:
     std::unique_ptr<HolderSearch> _search;
     std::unique_ptr<VerifiedCommand> _command;
     bool _isInterrupted = false;
+    bool _isBinding = false;
     bool _isStillBound = false;
     std::chrono::milliseconds _answerDeadline{0};
     RunLoop::Handle _nextStep;

@@ -26,10 +26,12 @@ std::optional<InterfaceFinding> faultOfInterface(NetworkInterfaces& interfaces,
     if (!state->canBroadcast || isSmallSubnet) {
         return found(InterfaceFault::withoutBroadcast);
     }
-    if (now == chosen.address) {
-        return std::nullopt;
+    const bool hasLostAll =
+        chosen.address.address != 0 && presentAddressesOfInterface(interfaces, chosen.name).empty();
+    if (hasLostAll) {
+        return found(InterfaceFault::lostAddress);
     }
-    return found(now.address == 0 ? InterfaceFault::lostAddress : InterfaceFault::outOfDate);
+    return now == chosen.address ? std::nullopt : std::optional(found(InterfaceFault::outOfDate));
 }
 
 bool broadcastCanLeave(NetworkInterfaces& interfaces, std::string_view bsdName,
@@ -37,7 +39,7 @@ bool broadcastCanLeave(NetworkInterfaces& interfaces, std::string_view bsdName,
     if (address == limitedBroadcastAddress || !interfaces.interfaceState(bsdName).has_value()) {
         return true;
     }
-    const auto all = addressesOfInterface(interfaces, bsdName);
+    const auto all = presentAddressesOfInterface(interfaces, bsdName);
     return std::ranges::any_of(all, [address](const InterfaceAddress& each) {
         return directedBroadcastAddress(each.address, each.mask) == address;
     });

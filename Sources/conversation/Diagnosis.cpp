@@ -201,11 +201,6 @@ std::optional<Cause> remainingCause(const Evidence& evidence) {
                                                             : Cause::nothingArrived;
 }
 
-// The unit as the address's holders are told apart.
-std::pair<std::string, std::string> identityOf(const HeardUnit& unit) {
-    return {std::string(unit.serialNumber()), std::string(unit.hardwareAddress())};
-}
-
 } // namespace
 
 bool canAsk(const DiagnosisEvidence& evidence) {
@@ -241,7 +236,7 @@ std::vector<const AnswerOnPort*> unitsOnOtherPorts(const DiagnosisEvidence& evid
 }
 
 std::vector<SharedAddress> sharedAddresses(const DiagnosisEvidence& evidence) {
-    std::map<std::uint32_t, std::set<std::pair<std::string, std::string>>> holders;
+    std::map<std::uint32_t, std::set<UnitIdentity>> holders;
     for (const HeardUnit* const unit : evidence.linkUnits.all()) {
         const auto told = unit->record.value(UnitParameter::internalIPAddress);
         const std::uint32_t address = told.has_value() ? ipForString(*told) : 0;
@@ -254,7 +249,7 @@ std::vector<SharedAddress> sharedAddresses(const DiagnosisEvidence& evidence) {
         if (units.size() < 2) {
             continue;
         }
-        const bool isOneSerial = units.begin()->first == units.rbegin()->first;
+        const bool isOneSerial = units.begin()->serialNumber == units.rbegin()->serialNumber;
         SharedAddress& each = shared.emplace_back(SharedAddress{.address = address, .units = {}});
         for (const auto& [serial, hardware] : units) {
             each.units.push_back(isOneSerial ? hardware : serial);

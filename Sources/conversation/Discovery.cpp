@@ -74,6 +74,16 @@ bool Discovery::hasEveryoneAnswered() const {
     });
 }
 
+std::optional<TwoHostsOfOneSerial> Discovery::twoHostsOf(std::string_view serial) const {
+    for (const Finding& finding : _contradictions) {
+        const auto* const hosts = std::get_if<TwoHostsOfOneSerial>(&finding);
+        if (hosts != nullptr && hosts->serial == serial) {
+            return *hosts;
+        }
+    }
+    return std::nullopt;
+}
+
 void Discovery::unitDidTell(const HeardUnit& unit) {
     if (hasEnded()) {
         return;
@@ -81,6 +91,7 @@ void Discovery::unitDidTell(const HeardUnit& unit) {
     HeardUnit heard = unit;
     heard.request = _requests;
     _units.add(heard);
+    _witness.unitDidTell(unit.record, {.sender = unit.sender, .link = unit.link}, _contradictions);
     if (_isSettling || !_plan.isEnough || !_plan.isEnough(_units)) {
         return;
     }

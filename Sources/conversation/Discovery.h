@@ -11,12 +11,14 @@
 #pragma once
 
 #include "conversation/HeardUnits.h"
+#include "conversation/IdentityWitness.h"
 #include "conversation/Operation.h"
 #include "conversation/UnitExchange.h"
 
 #include <chrono>
 #include <functional>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 namespace kx {
@@ -42,6 +44,13 @@ public:
 
     const HeardUnits& units() const { return _units; }
 
+    // What the answers contradict in each other and in their senders, in the order in which they
+    // came. Two hosts with one serial number and one hardware address are one unit in units().
+    const std::vector<Finding>& contradictions() const { return _contradictions; }
+
+    // Whether two hosts have answered under this serial number; the finding that tells them.
+    std::optional<TwoHostsOfOneSerial> twoHostsOf(std::string_view serial) const;
+
     // Why a request was not sent the last time; absent when all were sent. A first request that
     // fails everywhere ends the discovery.
     const std::optional<SendFailure>& failure() const { return _failure; }
@@ -61,6 +70,8 @@ private:
 
     DiscoveryPlan _plan;
     HeardUnits _units;
+    IdentityWitness _witness;
+    std::vector<Finding> _contradictions;
     std::optional<SendFailure> _failure;
     int _requests = 0;
     int _sent = 0;

@@ -1,5 +1,7 @@
 #include "conversation/DiscoveryFindings.h"
 
+#include "conversation/SenderAddress.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -20,12 +22,20 @@ bool DiscoveryFindings::setForgottenUnits(std::uint64_t forgottenUnits) {
     return true;
 }
 
+namespace {
+
+AnswerOrigin answerOrigin(const DatagramOrigin& origin) {
+    return {.sender = addressOfSender(origin), .link = origin.link};
+}
+
+} // namespace
+
 bool DiscoveryFindings::unitDidTell(const UnitRecord& record, const DatagramOrigin& origin) {
     const std::size_t before = _contradictions.size();
     if (before >= mostContradictions) {
         return false;
     }
-    _witness.unitDidTell(record, origin, _contradictions);
+    _witness.unitDidTell(record, answerOrigin(origin), _contradictions);
     return _contradictions.size() != before;
 }
 
@@ -34,7 +44,7 @@ bool DiscoveryFindings::replyDidCome(std::string_view serial, const DatagramOrig
     if (before >= mostContradictions) {
         return false;
     }
-    _witness.replyDidCome(serial, origin, _contradictions);
+    _witness.replyDidCome(serial, answerOrigin(origin), _contradictions);
     return _contradictions.size() != before;
 }
 

@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "DatagramSystemCalls.h"
 #include "conversation/Finding.h"
 #include "conversation/IdentityWitness.h"
 
@@ -32,7 +33,8 @@ public:
     // beginning was forgotten.
     bool setForgottenUnits(std::uint64_t forgottenUnits);
 
-    // A unit told its parameters. Returns whether anything new was found.
+    // A unit told its parameters. Returns whether anything new was found. One more unit of an
+    // address that several have already is nothing new.
     bool unitDidTell(const UnitRecord& record, const DatagramOrigin& origin);
 
     // A reply of any kind came in the name of this serial number. Returns whether anything new was

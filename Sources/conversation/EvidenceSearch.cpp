@@ -22,7 +22,7 @@ constexpr std::size_t mostNeighbours = 16;
 constexpr std::size_t mostComparedUnits = 256;
 constexpr std::size_t mostAnswersOnOtherPorts = 64;
 
-constexpr auto timeBetweenLooks = 50ms;
+constexpr auto timeBetweenEvidenceLooks = 50ms;
 
 std::uint32_t addressToldBy(const UnitRecord& record) {
     const auto told = record.value(UnitParameter::internalIPAddress);
@@ -345,8 +345,8 @@ void EvidenceSearch::finishOrWait() {
     if (isOpen && _services.now() - _begun < longestTime) {
         const auto entry = _services.neighbours.entry(target->address, link());
         if (entry.has_value() && entry->state == NeighbourState::asking) {
-            _deadline =
-                _services.runLoop.callOnceAfter(timeBetweenLooks, [this] { finishOrWait(); });
+            _deadline = _services.runLoop.callOnceAfter(timeBetweenEvidenceLooks,
+                                                        [this] { finishOrWait(); });
             return;
         }
     }

@@ -5,9 +5,11 @@
 
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <variant>
+#include <vector>
 
 namespace kx {
 
@@ -58,13 +60,15 @@ struct UnitOnTwoInterfaces {
     friend bool operator==(const UnitOnTwoInterfaces&, const UnitOnTwoInterfaces&) = default;
 };
 
-// Two serial numbers claim one address.
-struct TwoSerialsOfOneAddress {
-    std::uint32_t address = 0;
-    std::string firstSerial;
-    std::string secondSerial;
+// Several serial numbers claim one address.
+struct SerialsOfOneAddress {
+    // Anybody can invent serial numbers. When so many are listed, there may be more.
+    static constexpr std::size_t mostSerials = 100;
 
-    friend bool operator==(const TwoSerialsOfOneAddress&, const TwoSerialsOfOneAddress&) = default;
+    std::uint32_t address = 0;
+    std::vector<std::string> serials; // two or more, in the order in which they were heard
+
+    friend bool operator==(const SerialsOfOneAddress&, const SerialsOfOneAddress&) = default;
 };
 
 // An answer came from another address than the one that it claims.
@@ -79,6 +83,6 @@ struct SenderOfAnotherAddress {
 // The weightiest kind comes first.
 using Finding =
     std::variant<InterfaceFinding, DroppedDatagrams, ForgottenUnits, TwoHostsOfOneSerial,
-                 UnitOnTwoInterfaces, TwoSerialsOfOneAddress, SenderOfAnotherAddress>;
+                 UnitOnTwoInterfaces, SerialsOfOneAddress, SenderOfAnotherAddress>;
 
 } // namespace kx

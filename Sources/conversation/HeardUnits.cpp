@@ -31,6 +31,11 @@ UnitTarget HeardUnit::target() const {
     return {.address = destination.address, .port = destination.port, .link = link};
 }
 
+UnitIdentity identityOf(const HeardUnit& unit) {
+    return {.serialNumber = std::string(unit.serialNumber()),
+            .hardwareAddress = std::string(unit.hardwareAddress())};
+}
+
 void HeardUnits::add(const HeardUnit& unit) {
     const auto known = _units.find(unit.serialNumber());
     if (known != _units.end()) {
@@ -117,11 +122,10 @@ std::vector<DuplicateSerialNumber> HeardUnits::duplicateSerialNumbers() const {
 bool HeardUnits::isDuplicated(const HeardUnit& unit) const {
     const auto address = unit.record.value(UnitParameter::internalIPAddress);
     return std::ranges::any_of(all(), [&](const HeardUnit* other) {
-        const bool isSame = other->serialNumber() == unit.serialNumber() &&
-                            other->hardwareAddress() == unit.hardwareAddress();
-        return !isSame && (other->serialNumber() == unit.serialNumber() ||
-                           (address.has_value() &&
-                            other->record.value(UnitParameter::internalIPAddress) == address));
+        return identityOf(*other) != identityOf(unit) &&
+               (other->serialNumber() == unit.serialNumber() ||
+                (address.has_value() &&
+                 other->record.value(UnitParameter::internalIPAddress) == address));
     });
 }
 

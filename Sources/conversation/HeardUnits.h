@@ -9,6 +9,7 @@
 #include "units/UnitRecord.h"
 
 #include <chrono>
+#include <compare>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -48,6 +49,15 @@ struct HeardUnit {
     // command looks at that first (RequestTarget.h).
     UnitTarget target() const;
 };
+
+// What tells one unit from another: two answers are one unit's when both texts are the same.
+struct UnitIdentity {
+    std::string serialNumber;
+    std::string hardwareAddress; // empty when the unit does not tell it
+
+    friend auto operator<=>(const UnitIdentity&, const UnitIdentity&) = default;
+};
+UnitIdentity identityOf(const HeardUnit& unit);
 
 // Two units that cannot be told apart in one respect.
 struct DuplicateAddress {

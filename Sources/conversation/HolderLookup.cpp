@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 constexpr std::uint16_t discardPort = 9;
-constexpr auto timeBetweenLooks = 50ms;
+constexpr auto timeBetweenLookupLooks = 50ms;
 
 } // namespace
 
@@ -79,13 +79,13 @@ void HolderLookup::sendTo(const AddressQuestion& question) {
 
 void HolderLookup::lookSoon(const AddressQuestion& question) {
     if (_sinceAsked < lastLook) {
-        _next =
-            _services.runLoop.callOnceAfter(timeBetweenLooks, [this, question] { look(question); });
+        _next = _services.runLoop.callOnceAfter(timeBetweenLookupLooks,
+                                                [this, question] { look(question); });
     }
 }
 
 void HolderLookup::look(AddressQuestion question) {
-    _sinceAsked += timeBetweenLooks;
+    _sinceAsked += timeBetweenLookupLooks;
     const auto entry = _services.neighbours->entry(question.address, question.link);
     AddressHolders result{
         .address = question.address, .state = holderStateOf(entry, _sinceAsked), .holders = {}};

@@ -1,9 +1,9 @@
 #include "conversation/IdentityWitness.h"
 
 #include "addresses/IPv4Address.h"
-#include "conversation/SenderAddress.h"
 #include "units/ParameterNumber.h"
 
+#include <algorithm>
 #include <string>
 
 namespace kx {
@@ -21,7 +21,7 @@ bool differ(std::uint64_t left, std::uint64_t right) {
 
 } // namespace
 
-void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
+void IdentityWitness::unitDidTell(const UnitRecord& record, const AnswerOrigin& origin,
                                   std::vector<Finding>& findings) {
     const auto serial = record.value(UnitParameter::serialNumber);
     if (!serial.has_value()) {
@@ -30,7 +30,7 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin
     const std::uint64_t key = numberOfSixBytes(*serial);
     const Host now{.hardwareAddress =
                        numberOfSixBytes(record.value(UnitParameter::internalMACAddress)),
-                   .sender = addressOfSender(origin),
+                   .sender = origin.sender,
                    .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress)),
                    .link = origin.link,
                    .hasToldParameters = true};
@@ -45,9 +45,9 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const DatagramOrigin
     compareClaims(*serial, key, now.claimedAddress, findings);
 }
 
-void IdentityWitness::replyDidCome(std::string_view serial, const DatagramOrigin& origin,
+void IdentityWitness::replyDidCome(std::string_view serial, const AnswerOrigin& origin,
                                    std::vector<Finding>& findings) {
-    const Host now{.sender = addressOfSender(origin), .link = origin.link};
+    const Host now{.sender = origin.sender, .link = origin.link};
     if (Host* const first = hostOf(numberOfSixBytes(serial), now)) {
         compareHosts(serial, now, *first, findings);
     }
@@ -90,13 +90,23 @@ void IdentityWitness::compareClaims(std::string_view serial, std::uint64_t key,
         return;
     }
     Claim& claim = _claims.try_emplace(address, Claim{.serial = key}).first->second;
-    if (claim.serial != key && !claim.isTold) {
-        claim.isTold = true;
-        findings.push_back(TwoSerialsOfOneAddress{address, textOfSixBytes(claim.serial, " "),
-                                                  std::string(serial)});
+    if (claim.serial == key) {
+        return;
+    }
+    if (!claim.finding.has_value()) {
+        claim.finding = findings.size();
+        findings.push_back(
+            SerialsOfOneAddress{address, {textOfSixBytes(claim.serial, " "), std::string(serial)}});
+        return;
+    }
+    auto& serials = std::get<SerialsOfOneAddress>(findings.at(*claim.finding)).serials;
+    if (serials.size() < SerialsOfOneAddress::mostSerials &&
+        std::ranges::find(serials, serial) == serials.end()) {
+        serials.emplace_back(serial);
     }
 }
 
+// Of a claim that has been told, any unit may be the one that gives it up.
 void IdentityWitness::expectChange(std::string_view serial) {
     const std::uint64_t key = numberOfSixBytes(serial);
     const auto host = _hosts.find(key);
@@ -104,7 +114,8 @@ void IdentityWitness::expectChange(std::string_view serial) {
         return;
     }
     const auto claim = _claims.find(host->second.claimedAddress);
-    if (claim != _claims.end() && claim->second.serial == key) {
+    if (claim != _claims.end() &&
+        (claim->second.serial == key || claim->second.finding.has_value())) {
         _claims.erase(claim);
     }
     _hosts.erase(host);

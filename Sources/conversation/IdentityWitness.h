@@ -11,32 +11,40 @@
 
 #pragma once
 
-#include "DatagramSystemCalls.h"
 #include "conversation/Finding.h"
 #include "units/UnitRecord.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 namespace kx {
 
+// Where an answer came from: the sender's address in host byte order, and the index of the
+// interface. 0 stands for what is not known.
+struct AnswerOrigin {
+    std::uint32_t sender = 0;
+    std::uint32_t link = 0;
+};
+
 class IdentityWitness {
 public:
     static constexpr std::size_t mostSerials = 131'072;
 
-    // A unit told its parameters. Appends what this answer contradicts to `findings`. An answer
-    // without a serial number contradicts nothing.
-    void unitDidTell(const UnitRecord& record, const DatagramOrigin& origin,
+    // A unit told its parameters. Appends what this answer contradicts to `findings`, or adds its
+    // serial number to those of one address there; nobody else may change `findings` in between. An
+    // answer without a serial number contradicts nothing.
+    void unitDidTell(const UnitRecord& record, const AnswerOrigin& origin,
                      std::vector<Finding>& findings);
 
     // A reply of any kind came in the name of this serial number: parameters, "ok" or another text.
     // Appends what it contradicts to `findings`. Until the unit tells its parameters, a reply
     // without them stands for it; then it no longer counts, because a unit may accept a command at
     // its old address.
-    void replyDidCome(std::string_view serial, const DatagramOrigin& origin,
+    void replyDidCome(std::string_view serial, const AnswerOrigin& origin,
                       std::vector<Finding>& findings);
 
     // The unit of this serial number, or any unit, may answer differently from now on.
@@ -56,8 +64,8 @@ private:
         bool isToldAsOtherSender = false; // as an answer from another address
     };
     struct Claim {
-        std::uint64_t serial = 0;
-        bool isTold = false; // as the address of two serial numbers
+        std::uint64_t serial = 0;                // the first that claimed the address
+        std::optional<std::size_t> finding = {}; // where it is told, once another claims it too
     };
 
     Host* hostOf(std::uint64_t serial, const Host& now);

@@ -11,11 +11,9 @@ namespace kx {
 
 namespace {
 
-PropertyList listOfService(NetworkInterfaces& interfaces, std::string_view serviceID,
-                           std::string_view key) {
-    const auto value = interfaces.serviceDataForDictionaryNameKey(serviceID, "IPv4", key);
-    const PropertyList* const addresses = value.has_value() ? value->list() : nullptr;
-    return addresses != nullptr ? *addresses : PropertyList();
+PropertyList listIn(const std::optional<PropertyListValue>& value) {
+    const PropertyList* const list = value.has_value() ? value->list() : nullptr;
+    return list != nullptr ? *list : PropertyList();
 }
 
 // In a subnet of one or two addresses, the broadcast address is that of a host.
@@ -26,15 +24,23 @@ std::uint32_t addressAt(const PropertyList& addresses, std::size_t index) {
     return text != nullptr ? ipForString(*text) : 0;
 }
 
-std::vector<InterfaceAddress> addressesOfService(NetworkInterfaces& interfaces,
-                                                 std::string_view serviceID) {
-    const PropertyList addresses = listOfService(interfaces, serviceID, "Addresses");
-    const PropertyList masks = listOfService(interfaces, serviceID, "SubnetMasks");
+// `dataForKey` gives one entry of the IPv4 dictionary.
+template<class DataForKey>
+std::vector<InterfaceAddress> addressesIn(const DataForKey& dataForKey) {
+    const PropertyList addresses = listIn(dataForKey("Addresses"));
+    const PropertyList masks = listIn(dataForKey("SubnetMasks"));
     std::vector<InterfaceAddress> all(std::max(addresses.size(), masks.size()));
     for (std::size_t i = 0; i < all.size(); ++i) {
         all[i] = {.address = addressAt(addresses, i), .mask = addressAt(masks, i)};
     }
     return all;
+}
+
+std::vector<InterfaceAddress> addressesOfService(NetworkInterfaces& interfaces,
+                                                 std::string_view serviceID) {
+    return addressesIn([&](std::string_view key) {
+        return interfaces.serviceDataForDictionaryNameKey(serviceID, "IPv4", key);
+    });
 }
 
 } // namespace
@@ -49,6 +55,13 @@ std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces
     const auto serviceID = interfaces.serviceIDForInterface(bsdName);
     return serviceID.has_value() ? addressesOfService(interfaces, *serviceID)
                                  : std::vector<InterfaceAddress>();
+}
+
+std::vector<InterfaceAddress> presentAddressesOfInterface(NetworkInterfaces& interfaces,
+                                                          std::string_view bsdName) {
+    return addressesIn([&](std::string_view key) {
+        return interfaces.interfaceDataForDictionaryNameKey(bsdName, "IPv4", key);
+    });
 }
 
 std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address) {

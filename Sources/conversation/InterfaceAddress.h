@@ -28,6 +28,11 @@ InterfaceAddress addressOfInterface(NetworkInterfaces& interfaces, std::string_v
 std::vector<InterfaceAddress> addressesOfInterface(NetworkInterfaces& interfaces,
                                                    std::string_view bsdName);
 
+// The same of the kernel's interface itself. A service may tell addresses that are saved for it and
+// that its interface does not have; from those nothing leaves.
+std::vector<InterfaceAddress> presentAddressesOfInterface(NetworkInterfaces& interfaces,
+                                                          std::string_view bsdName);
+
 // All hosts of the address's subnet; absent when there is no address, and in a subnet of one or two
 // addresses, which has no broadcast address. An address whose mask is missing has 255.255.255.255.
 std::optional<std::uint32_t> broadcastAddressOf(const InterfaceAddress& address);

@@ -8,10 +8,6 @@ namespace kx {
 
 namespace {
 
-std::pair<std::string, std::string> identityOf(const HeardUnit& unit) {
-    return {std::string(unit.serialNumber()), std::string(unit.hardwareAddress())};
-}
-
 // A unit that has no address yet tells 0.0.0.0, where this host would ask itself.
 UnitTarget lastAddressOf(const HeardUnit& unit) {
     UnitTarget target = unit.target();
@@ -28,9 +24,11 @@ LastAddressRequests::LastAddressRequests(UnitExchange& exchange,
     : Listener(exchange)
     , _unanswered(units.size()) {
     _units.reserve(units.size());
+    std::map<std::uint32_t, int> unitsAt;
     for (const HeardUnit& unit : units) {
         _places.emplace(identityOf(unit), _units.size());
-        _units.push_back({.unit = unit});
+        const int count = ++unitsAt[lastAddressOf(unit).address];
+        _units.push_back({.unit = unit, .isOneTooMany = count > mostAtOneAddress});
     }
 }
 
@@ -56,7 +54,7 @@ void LastAddressRequests::beginTry() {
 
 void LastAddressRequests::askNextGroup() {
     for (std::size_t sent = 0; sent < unitsAtOnce && _next < _units.size(); ++_next) {
-        if (!_units[_next].hasAnswered) {
+        if (!_units[_next].hasAnswered && !_units[_next].isOneTooMany) {
             ask(_units[_next]);
             ++sent;
         }

@@ -3,7 +3,9 @@
 //
 // Each unit is asked until it answers, at most eight times, every 0.2 s. The operation ends when
 // all have answered, or when the last request has been given its time. Requests leave in small
-// groups, so that many answers do not come at the same instant.
+// groups, so that many answers do not come at the same instant. Anybody can tell somebody else's
+// address, or that of everybody, as that of many units. So of the units that tell one address, only
+// the first 16 are asked.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the operation.
 
@@ -28,6 +30,7 @@ public:
     static constexpr std::chrono::milliseconds timeBetweenTries{200};
     static constexpr std::chrono::milliseconds timeAfterTheLast{800};
     static constexpr std::size_t unitsAtOnce = 100;
+    static constexpr int mostAtOneAddress = 16;
     static constexpr std::chrono::milliseconds timeBetweenGroups{10};
 
     // A unit without an address is asked where its answer came from.
@@ -37,7 +40,7 @@ public:
     const HeardUnits& heard() const { return _heard; }
 
     // Whether a request left for the unit, which must be one of those given at the beginning.
-    // Nothing leaves for a unit whose address is not known.
+    // Nothing leaves for a unit whose address is not known, or is that of too many.
     bool wasAsked(const HeardUnit& unit) const;
 
     void interrupt() override { finish(); }
@@ -45,6 +48,7 @@ public:
 private:
     struct Asked {
         HeardUnit unit;
+        bool isOneTooMany = false; // at its address
         bool wasAsked = false;
         bool hasAnswered = false;
     };
@@ -57,10 +61,8 @@ private:
     void callAfter(std::chrono::milliseconds time, void (LastAddressRequests::*operation)());
     void finish();
 
-    using Identity = std::pair<std::string, std::string>; // serial number and hardware address
-
     std::vector<Asked> _units;
-    std::map<Identity, std::size_t> _places; // of the units in the list
+    std::map<UnitIdentity, std::size_t> _places; // of the units in the list
     HeardUnits _heard;
     std::size_t _next = 0; // the first unit that this try has not come to
     std::size_t _unanswered = 0;

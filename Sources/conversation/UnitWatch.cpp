@@ -3,6 +3,7 @@
 #include "units/UnitCommand.h"
 
 #include <algorithm>
+#include <set>
 #include <utility>
 
 namespace kx {
@@ -45,14 +46,21 @@ void UnitWatch::request() {
         end();
         return;
     }
+    askThoseThatMissedIt();
+    _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
+}
+
+void UnitWatch::askThoseThatMissedIt() {
+    std::set<std::uint32_t> asked;
     for (auto& entry : _units) {
         Watched& watched = entry.second;
-        if (watched.unanswered > 0) {
-            exchange().send(parameterRequestCommand, watched.unit.target());
+        const UnitTarget target = watched.unit.target();
+        if (watched.unanswered > 0 && !watched.isSilent && asked.size() < mostAskedAlone &&
+            asked.insert(target.address).second) {
+            exchange().send(parameterRequestCommand, target);
         }
         ++watched.unanswered;
     }
-    _nextRequest = exchange().runLoop().callOnceAfter(_plan.every, [this] { request(); });
 }
 
 void UnitWatch::askAt(const UnitTarget& everybody) {
@@ -77,7 +85,7 @@ void UnitWatch::unitDidTell(const HeardUnit& unit) {
     if (!_hasBegun || hasEnded()) {
         return;
     }
-    const std::pair key(std::string(unit.serialNumber()), std::string(unit.hardwareAddress()));
+    const UnitIdentity key = identityOf(unit);
     if (_units.size() == HeardUnits::defaultLimit && !_units.contains(key)) {
         return; // any host can invent units
     }

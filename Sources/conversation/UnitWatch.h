@@ -1,8 +1,11 @@
 // A watch over the units of a network: it asks everybody again and again, and tells who appears,
 // changes, falls silent and comes back.
 //
-// A unit is silent after three requests without an answer. From the second one on it is also asked
-// at the address that it told last, because a request to everybody gets lost more easily.
+// A unit is silent after three requests without an answer. Until then it is also asked, from the
+// second one on, at the address that it told last, because a request to everybody gets lost more
+// easily. Anybody can tell somebody else's address, or that of everybody, and be silent. So this is
+// done for a silent unit no longer, once for all units of one address, and for 200 addresses at a
+// time: nobody is flooded.
 //
 // Threading and ownership: see Operation.h. The exchange must outlive the watch.
 
@@ -18,7 +21,6 @@
 #include <map>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace kx {
@@ -38,6 +40,7 @@ struct WatchPlan {
 class UnitWatch final : public Operation, private UnitExchange::Listener {
 public:
     static constexpr int requestsUntilSilent = 3;
+    static constexpr std::size_t mostAskedAlone = 200;
 
     UnitWatch(UnitExchange& exchange, WatchPlan plan);
 
@@ -64,11 +67,12 @@ private:
     void unitDidTell(const HeardUnit& unit) override;
     void request();
     void askAt(const UnitTarget& everybody);
+    void askThoseThatMissedIt();
     void noteSilence();
     void endWhenEnough();
 
     WatchPlan _plan;
-    std::map<std::pair<std::string, std::string>, Watched> _units; // by serial number, hardware
+    std::map<UnitIdentity, Watched> _units;
     bool _hasBegun = false;
     bool _hasAsked = false;
     std::optional<SendFailure> _failure;

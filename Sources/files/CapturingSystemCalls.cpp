@@ -12,23 +12,24 @@ CapturingSystemCalls::CapturingSystemCalls(DatagramSystemCalls& inner, Services 
     , _services(std::move(services)) {}
 
 CaptureCounts CapturingSystemCalls::counts() const {
-    return {.received = _counts.received, .dropped = _counts.dropped + droppedOf(_bound)};
+    CaptureCounts counts = _counts;
+    for (const auto& [descriptor, endpoint] : _bound) {
+        counts.dropped += droppedOf(descriptor);
+    }
+    return counts;
 }
 
 int CapturingSystemCalls::bind(int descriptor, ByteView address) {
     const int result = inner().bind(descriptor, address);
     if (result == 0) {
-        _counts.dropped += droppedOf(_bound);
-        _bound = descriptor;
-        _boundTo = endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
+        _bound[descriptor] = endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
     }
     return result;
 }
 
 int CapturingSystemCalls::close(int descriptor) {
-    if (descriptor == _bound) {
-        _counts.dropped += droppedOf(_bound);
-        _bound = -1;
+    if (_bound.erase(descriptor) > 0) {
+        _counts.dropped += droppedOf(descriptor);
     }
     return inner().close(descriptor);
 }
@@ -69,12 +70,13 @@ CapturingSystemCalls::Endpoint CapturingSystemCalls::endpointOf(ByteView record)
 }
 
 CapturingSystemCalls::Endpoint CapturingSystemCalls::localEndpoint(int descriptor) const {
-    return descriptor == _bound ? _boundTo
-                                : endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
+    const auto bound = _bound.find(descriptor);
+    return bound != _bound.end() ? bound->second
+                                 : endpointOf(inner().localAddress(descriptor).value_or(Bytes()));
 }
 
 std::uint32_t CapturingSystemCalls::droppedOf(int descriptor) const {
-    return descriptor >= 0 && _services.receiveBuffers != nullptr
+    return _services.receiveBuffers != nullptr
                ? _services.receiveBuffers->droppedDatagrams(descriptor).value_or(0)
                : 0;
 }

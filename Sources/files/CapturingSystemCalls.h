@@ -12,6 +12,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <map>
 #include <optional>
 
 namespace kx {
@@ -59,11 +60,10 @@ private:
     void takeReceived(int descriptor, ByteView data, const DatagramOrigin& origin);
 
     Services _services;
-    // The socket that was bound last. Its address is known without asking the system, which takes
-    // a third of the time of reading a datagram.
-    int _bound = -1;
-    Endpoint _boundTo;
-    CaptureCounts _counts; // without what the system has dropped from the bound socket
+    // The sockets that are bound, by their descriptors. Their addresses are known without asking
+    // the system, which takes a third of the time of reading a datagram.
+    std::map<int, Endpoint> _bound;
+    CaptureCounts _counts; // without what the system has dropped from the bound sockets
 };
 
 } // namespace kx

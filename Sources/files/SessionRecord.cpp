@@ -34,7 +34,9 @@ std::uint8_t* put(std::uint8_t* place, const void* bytes, std::size_t length) {
 
 void SessionRecord::keep(const CapturedDatagram& datagram, ByteView data) {
     data = data.first(std::min(data.size(), longestPart));
-    const std::string_view comment = datagram.isOwn ? std::string_view(_nextComment) : "";
+    const bool isCommented = datagram.isOwn && datagram.comment.empty();
+    const std::string_view comment =
+        isCommented ? std::string_view(_nextComment) : datagram.comment.substr(0, longestPart);
     const Header header{.time = datagram.time.count(),
                         .source = datagram.source,
                         .destination = datagram.destination,
@@ -55,7 +57,7 @@ void SessionRecord::keep(const CapturedDatagram& datagram, ByteView data) {
     chunk.length += length;
     ++chunk.datagrams;
     ++_kept;
-    if (datagram.isOwn) {
+    if (isCommented) {
         _nextComment.clear();
     }
 }

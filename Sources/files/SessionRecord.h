@@ -30,12 +30,12 @@ public:
     explicit SessionRecord(std::size_t limit = keptBytes)
         : _limit(limit) {}
 
-    // Keeps one datagram, of which at most 65,535 bytes. The comment of an own one is that of
-    // commentNextSend().
+    // Keeps one datagram, and of its data and its comment at most 65,535 bytes each. An own one
+    // without a comment gets that of commentNextSend().
     void keep(const CapturedDatagram& datagram, ByteView data);
 
-    // The comment of the own datagram that is kept next, and of no other. At most 65,535 bytes, the
-    // rest is cut off.
+    // The comment of the own datagram without one that is kept next, and of no other. At most
+    // 65,535 bytes, the rest is cut off.
     void commentNextSend(std::string_view comment) {
         _nextComment = comment.substr(0, longestPart);
     }

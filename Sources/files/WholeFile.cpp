@@ -49,23 +49,73 @@ std::string withoutLinks(const std::string& path) {
     return failure ? path : found.string();
 }
 
+// A file that has no name yet, or a name that nobody else uses.
 struct NewFile {
-    std::string path;
+    std::string path;    // empty while it has no name
     int descriptor = -1; // -1 when it could not be made
 };
 
-NewFile makeFileIn(const std::string& folder) {
+// Calls `use` with one name after the other until it succeeds, or fails for another reason than
+// that the name is taken. Returns the name; absent when it failed.
+template<class Use>
+std::optional<std::string> useFreeNameIn(const std::string& folder, const Use& use) {
     constexpr int mostNames = 100; // of files that were left behind
-    NewFile file;
     for (int i = 0; i < mostNames; ++i) {
-        file.path = folder + "/.kxnew-" + std::to_string(::getpid()) + "-" + std::to_string(i);
-        file.descriptor =
-            ::open(file.path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
-        if (file.descriptor >= 0 || errno != EEXIST) {
+        std::string path =
+            folder + "/.kxnew-" + std::to_string(::getpid()) + "-" + std::to_string(i);
+        if (use(path)) {
+            return path;
+        }
+        if (errno != EEXIST) {
             break;
         }
     }
+    return std::nullopt;
+}
+
+// The way to an open file for a call that takes a path (proc(5)).
+std::string pathOfOpenFile(int descriptor) {
+    return "/proc/self/fd/" + std::to_string(descriptor);
+}
+
+// Of a file without a name nothing is left when this process is killed. Some file systems have
+// none, and without /proc it could not get a name.
+NewFile makeFileIn(const std::string& folder) {
+    NewFile file;
+    file.descriptor = ::open(folder.c_str(), O_WRONLY | O_TMPFILE | O_CLOEXEC, 0666);
+    if (file.descriptor >= 0 && ::access(pathOfOpenFile(file.descriptor).c_str(), F_OK) == 0) {
+        return file;
+    }
+    if (file.descriptor >= 0) {
+        ::close(file.descriptor);
+    }
+    const auto path = useFreeNameIn(folder, [&file](const std::string& each) {
+        file.descriptor =
+            ::open(each.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0666);
+        return file.descriptor >= 0;
+    });
+    file.path = path.value_or("");
     return file;
+}
+
+bool giveName(const NewFile& file, const std::string& path) {
+    return ::linkat(AT_FDCWD, pathOfOpenFile(file.descriptor).c_str(), AT_FDCWD, path.c_str(),
+                    AT_SYMLINK_FOLLOW) == 0;
+}
+
+// Gives the file the name `target`. A file without a name cannot take the place of another one, so
+// it gets a name for that moment.
+std::optional<Error> putInPlace(NewFile& file, const std::string& target) {
+    if (file.path.empty() && giveName(file, target)) {
+        return std::nullopt;
+    }
+    if (file.path.empty() && errno == EEXIST) {
+        const auto path = useFreeNameIn(
+            folderOf(target), [&file](const std::string& each) { return giveName(file, each); });
+        file.path = path.value_or("");
+    }
+    return file.path.empty() || ::rename(file.path.c_str(), target.c_str()) != 0 ? latestError()
+                                                                                 : std::nullopt;
 }
 
 // Only root can give a file to somebody else; for others it stays their own.
@@ -141,17 +191,17 @@ std::optional<Error> objectionToReplacing(const std::string& path) {
 
 std::optional<Error> replaceFile(const std::string& path, std::string_view text) {
     const std::string target = withoutLinks(path);
-    const NewFile file = makeFileIn(folderOf(target));
+    NewFile file = makeFileIn(folderOf(target));
     if (file.descriptor < 0) {
         return latestError();
     }
     const Descriptor closesItself(file.descriptor);
     takeOverPermissions(target, file.descriptor);
     auto error = writeAll(file.descriptor, text);
-    if (!error.has_value() && ::rename(file.path.c_str(), target.c_str()) != 0) {
-        error = latestError();
+    if (!error.has_value()) {
+        error = putInPlace(file, target);
     }
-    if (error.has_value()) {
+    if (error.has_value() && !file.path.empty()) {
         ::unlink(file.path.c_str());
     }
     return error;

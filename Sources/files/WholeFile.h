@@ -26,7 +26,9 @@ std::optional<Error> objectionToReplacing(const std::string& path);
 // Writes the text to a new file in the same folder and gives it the name `path` when all of it is
 // on the disk. So the name stands for the old contents or for the new ones, whatever happens in
 // between; after a failure it stands for the old ones. A symbolic link stays, and the file that it
-// names is replaced. The permissions of an existing file stay. Absent when it was done.
+// names is replaced. The permissions of an existing file stay. When this process is killed while it
+// writes, nothing is left where the file system has files without a name (open(2), O_TMPFILE).
+// Absent when it was done.
 std::optional<Error> replaceFile(const std::string& path, std::string_view text);
 
 } // namespace kx

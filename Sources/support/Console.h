@@ -17,6 +17,9 @@ namespace kx {
 
 class Console {
 public:
+    // Where words can be written over, this begins the line anew, with nothing on it.
+    static constexpr std::string_view beginningOfLine = "\r\x1b[K";
+
     virtual ~Console() = default;
 
     // Writes data to standard output, whole and at once. After a failure nothing more is written.
@@ -32,7 +35,8 @@ public:
     virtual bool isNoteTerminal() const = 0;
     virtual bool isInputTerminal() const = 0;
 
-    // Standard error is a terminal on which a line can be written over.
+    // Standard error is a terminal on which a line can be written over now. No other program asks
+    // the person there meanwhile.
     virtual bool canRewriteNotes() const = 0;
 
     // Whoever reads standard output has gone. It counts as a failure to write then.

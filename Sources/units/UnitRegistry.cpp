@@ -7,6 +7,7 @@ void UnitRegistry::clear() {
     _newest = nullptr;
     _serialNumbers.clear();
     _withdrawnAddresses.clear();
+    _serialBefore.clear();
     _tally = {};
 }
 
@@ -20,7 +21,8 @@ bool UnitRegistry::store(const UnitRecord& record) {
         unit->second.serial = &unit->first;
         _serialNumbers.add(unit->first);
     }
-    countAnswer(unit->second, isNew, record);
+    const bool isKnown = rename(unit->second, isNew, record) || !isNew;
+    countAnswer(unit->second, !isKnown, record);
     static_cast<UnitRecord&>(unit->second) = record;
     hear(unit->second);
     if (!_withdrawnAddresses.empty()) {
@@ -29,6 +31,29 @@ bool UnitRegistry::store(const UnitRecord& record) {
     if (_records.size() > _limit) {
         forgetOldest();
     }
+    return true;
+}
+
+void UnitRegistry::expectSerialNumber(std::string_view before, std::string_view after) {
+    _serialBefore = before;
+    _serialAfter = after;
+}
+
+// The unit goes on as it was before under its other number, and returns true for one that has.
+bool UnitRegistry::rename(Unit& unit, bool isNew, const UnitRecord& record) {
+    if (_serialBefore.empty() || *unit.serial != _serialAfter) {
+        return false;
+    }
+    const auto found = _records.find(_serialBefore);
+    if (found == _records.end() || &found->second == &unit ||
+        !record.hasHardwareAddressOf(found->second)) {
+        return false;
+    }
+    static_cast<UnitRecord&>(unit) = found->second;
+    unit.setValue(UnitParameter::serialNumber, _serialAfter);
+    unit.round = std::exchange(found->second.round, 0);
+    _tally.renamed += isNew ? 1 : 0;
+    _serialBefore.clear();
     return true;
 }
 

@@ -37,6 +37,9 @@ struct RoundTally {
 
     // Those that answered in the round before, and not yet in this one.
     std::size_t silent = 0;
+
+    // Serial numbers that known units have taken. They are no further units.
+    std::size_t renamed = 0;
 };
 
 class UnitRegistry {
@@ -89,6 +92,11 @@ public:
     // moving to another address. The unit's next record replaces this one.
     void withdrawAddress(std::string_view serial);
 
+    // A person gives the unit `before` the serial number `after`. When a record with that and with
+    // the same hardware address comes, it is the same unit, so it is neither new nor late, and its
+    // number before is not missed. The latest call counts.
+    void expectSerialNumber(std::string_view before, std::string_view after);
+
     // A known unit was heard by the interface with this index. Does nothing for another unit, and
     // for link 0, which tells nothing.
     void setLink(std::string_view serial, std::uint32_t link);
@@ -115,6 +123,7 @@ private:
     };
 
     void countAnswer(Unit& unit, bool isNew, const UnitRecord& record);
+    bool rename(Unit& unit, bool isNew, const UnitRecord& record);
     bool tellsTheSame(const Unit& unit, const UnitRecord& record) const;
     void hear(Unit& unit);
     void leaveRing(Unit& unit);
@@ -129,6 +138,8 @@ private:
     RoundTally _tally;
     OrderedSerialNumbers _serialNumbers;
     std::map<std::string, std::string, std::less<>> _withdrawnAddresses; // by serial number
+    std::string _serialBefore; // of the unit that gets a new serial number; empty without one
+    std::string _serialAfter;
 };
 
 } // namespace kx

@@ -172,4 +172,12 @@ std::string discoveryLine(const DiscoveryFacts& facts,
                    textOfChoice(facts)});
 }
 
+bool meansTrouble(const DiscoveryFacts& facts) {
+    const bool nobodyWasAsked = facts.listenerError.has_value() ||
+                                facts.requestFailure.has_value() ||
+                                (facts.finding.has_value() && isFault(*facts.finding));
+    return nobodyWasAsked ||
+           (!facts.isUnderWay && (facts.finding.has_value() || facts.units.answered == 0));
+}
+
 } // namespace kx

@@ -27,4 +27,8 @@ namespace kx {
 std::string discoveryLine(const DiscoveryFacts& facts,
                           const std::function<std::string(std::uint32_t link)>& nameOfLink = {});
 
+// Whether it is bad news: nobody was asked or has answered, or answers are doubtful. Units that are
+// missing, late or others than before may have good reasons.
+bool meansTrouble(const DiscoveryFacts& facts);
+
 } // namespace kx

@@ -156,13 +156,17 @@ std::string forecastOfARPEntry(std::string_view typed, const CommandTarget& targ
                              "rights.",
                              {safeForSentence(typed), *target.hardwareAddress});
     }
+    if (target.returnWasPressed) {
+        return {}; // it was read while the address was typed, and the line has no room for both
+    }
     return localizedText(
         "Apply enters %@ at %@ in the ARP cache, which needs administrator rights.",
         {typed, *target.hardwareAddress});
 }
 
 std::string forecastOfMove(const ParameterEdit& edit, const CommandTarget& target) {
-    std::string forecast = forecastOfARPEntry(edit.typed, target) + ' ';
+    std::string forecast = forecastOfARPEntry(edit.typed, target);
+    forecast += forecast.empty() ? "" : " ";
     if (!target.isListening) {
         return forecast + localizedText("Apply sends nothing: the UDP listener is not running.");
     }

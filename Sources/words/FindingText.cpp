@@ -57,10 +57,25 @@ std::string text(const TwoHostsOfOneSerial& hosts) {
                          {hosts.serial, hosts.firstHost, hosts.secondHost});
 }
 
-std::string text(const TwoSerialsOfOneAddress& serials) {
-    return localizedText("Two units say that their address is %@: %@ and %@. A command may reach "
-                         "either.",
-                         {stringForIP(serials.address), serials.firstSerial, serials.secondSerial});
+std::string text(const SerialsOfOneAddress& units) {
+    const std::string address = stringForIP(units.address);
+    const std::string& first = units.serials.front();
+    const std::string& second = units.serials.at(1);
+    const auto count = static_cast<long long>(units.serials.size());
+    switch (units.serials.size()) {
+    case 2:
+        return localizedText("Two units say that their address is %@: %@ and %@. A command may "
+                             "reach either.",
+                             {address, first, second});
+    case SerialsOfOneAddress::mostSerials:
+        return localizedText("%d units or more say that their address is %@, among them %@ and "
+                             "%@. A command may reach any of them.",
+                             {count, address, first, second});
+    default:
+        return localizedText("%d units say that their address is %@, among them %@ and %@. A "
+                             "command may reach any of them.",
+                             {count, address, first, second});
+    }
 }
 
 std::string text(const SenderOfAnotherAddress& answer) {

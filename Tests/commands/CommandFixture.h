@@ -28,6 +28,7 @@ public:
     std::vector<std::string> answers; // what the person types, the next one first
     std::optional<Error> error;
     bool isTerminal = false;
+    bool isLent = false; // another program asks the person at the terminal
     bool hasInputTerminal = false;
     std::chrono::milliseconds timeToAnswer{0};
 
@@ -38,7 +39,7 @@ public:
     bool isNoteTerminal() const override { return isTerminal; }
     bool isInputTerminal() const override { return hasInputTerminal; }
     bool isPlain() const override { return false; }
-    bool canRewriteNotes() const override { return isTerminal; }
+    bool canRewriteNotes() const override { return isTerminal && !isLent; }
     bool isReaderGone() override { return error.has_value(); }
     RunLoop::Handle readLine(RunLoop& loop,
                              std::function<void(std::optional<std::string>)> done) override {

@@ -138,12 +138,44 @@ TEST(CommandLine, TheDocumentIsWantedBeforeTheMarkOnly) {
 
 TEST(CommandLine, WordsStayAsTheyAre) {
     for (const char* word : {"[V]", "[a,b]", "[]", "{}", "%%", "", "-", "a b", "a,b", "\"V\"",
-                             "'V'", "V=", "show", "a\\n"}) {
+                             "'V'", "V=", "show", "a\\n", "++", "+"}) {
         EXPECT_EQ(lineOf({"option", "id:A", word}).words, (Words{"id:A", word}));
         EXPECT_EQ(lineOf({"option", "id:A", word, "--json"}).words, (Words{"id:A", word}));
         EXPECT_EQ(lineOf({"set", "id:A", "unit-id=B", word}).words,
                   (Words{"id:A", "unit-id=B", word}));
     }
+}
+
+TEST(CommandLine, ValuesStayAsTheyAre) {
+    for (const char* value : {"[V]", "[a,b]", "[]", "{}", "%%", "", "-", "++", "a b", "a,b",
+                              "\"V\"", "'V'", "V=", "=V", "show", "--json", "a\\n"}) {
+        EXPECT_EQ(lineOf({"discover", "--save", value}).valueOf("--save"), value);
+        EXPECT_EQ(lineOf({"-i", value, "discover"}).valueOf("-i"), value);
+        EXPECT_EQ(lineOf({"-i", value, "discover"}).command->name, "discover");
+    }
+    for (const char* value : {"[V]", "{}", "++", "a,b", "=V"}) {
+        EXPECT_EQ(lineOf({"discover", std::string("--save=") + value}).valueOf("--save"), value);
+    }
+}
+
+TEST(CommandLine, AFlagHasNoValue) {
+    for (const char* flag : {"--json=true", "--json=false", "--json={}", "--json=", "--json=0",
+                             "--yes=false", "--help=x"}) {
+        EXPECT_NE(objectionTo({flag, "restore", "id:A"}), "(none)") << flag;
+        EXPECT_NE(objectionTo({"restore", "id:A", flag}), "(none)") << flag;
+    }
+    EXPECT_EQ(lineOf({"option", "id:A", "--", "--json=x"}).words, (Words{"id:A", "--json=x"}));
+}
+
+TEST(CommandLine, TheCommandIsTheFirstWord) {
+    EXPECT_EQ(lineOf({"-i", "show", "discover"}).command->name, "discover");
+    EXPECT_EQ(lineOf({"option", "show", "discover"}).words, (Words{"show", "discover"}));
+    EXPECT_EQ(objectionTo({"++", "discover"}), "There is no command “++”. See kxctl --help.");
+    EXPECT_EQ(objectionTo({"--wait", "3", "discover"}),
+              "There is no option “--wait” here. See kxctl --help.");
+    EXPECT_EQ(commandNameIn({"-i", "show", "discover", "--all"}), "discover");
+    EXPECT_EQ(commandNameIn({"discover", "--json=x"}), "discover");
+    EXPECT_EQ(commandNameIn({"option", "id:A", "V", "watch"}), "option");
 }
 
 TEST(CommandLine, HelpIsGivenWhateverElseIsWrong) {

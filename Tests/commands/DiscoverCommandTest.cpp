@@ -50,6 +50,39 @@ TEST_F(DiscoverCommandTest, AnInterfaceThatRefusesToSendLeavesTheOthersAndIsTold
     EXPECT_EQ(document()["warnings"][0]["code"], "socket");
 }
 
+TEST_F(DiscoverCommandTest, TwoHostsWithEverythingInCommonButTheirAddressAreAWarning) {
+    play({});
+    play({.late = 5ms}).unit.internalIP.back() = 77;
+    EXPECT_EQ(run({"discover", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 1U);
+    ASSERT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "ambiguous");
+    EXPECT_EQ(document()["warnings"][0]["message"],
+              "Two hosts answer as the unit 01 02 03 04 05 06: 192.168.1.10 and 192.168.1.77.");
+}
+
+TEST_F(DiscoverCommandTest, ASerialNumberUnderTwoHardwareAddressesIsOneWarning) {
+    play({});
+    PlayedUnit& twin = play({});
+    twin.unit.internalIP.back() = 77;
+    twin.unit.internalMAC.back() = 0x77;
+    EXPECT_EQ(run({"discover", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 2U);
+    EXPECT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "ambiguous");
+}
+
+TEST_F(DiscoverCommandTest, AUnitThatIsHeardOnTwoInterfacesIsAWarning) {
+    addInterface("kx2", secondLink, 0xC0A80102U);
+    play({});
+    play({.link = secondLink});
+    EXPECT_EQ(run({"discover", "-i", "all", "--json"}), 0);
+    EXPECT_EQ(document()["units"].size(), 1U);
+    ASSERT_EQ(document()["warnings"].size(), 1U);
+    EXPECT_EQ(document()["warnings"][0]["code"], "interfaces");
+    EXPECT_NE(console.notes.find("kx0 and kx2"), std::string::npos) << console.notes;
+}
+
 TEST_F(DiscoverCommandTest, WhereNothingCanBeSentItCannotAsk) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     EXPECT_EQ(run({"discover", "--json"}), 3);
@@ -139,6 +172,19 @@ TEST_F(DiscoverCommandTest, ASavedFileIsReplacedAtOnce) {
     std::getline(reader, rest);
     EXPECT_EQ(word + rest, "old contents") << "who reads it meanwhile reads the old one";
     EXPECT_EQ(savedText(), console.output);
+}
+
+TEST_F(DiscoverCommandTest, WhileAnotherProgramAsksAtTheTerminalNothingIsWrittenOverItsQuestion) {
+    console.isTerminal = true;
+    at(250ms, [this] { console.isLent = true; });
+    at(750ms, [this] { console.isLent = false; });
+    EXPECT_EQ(run({"discover", "--wait", "1", "--expect", "2"}), 1);
+    for (const char* shown : {"0.2 s", "0.8 s"}) {
+        EXPECT_NE(console.notes.find(shown), std::string::npos) << shown;
+    }
+    for (const char* hidden : {"0.3 s", "0.7 s"}) {
+        EXPECT_EQ(console.notes.find(hidden), std::string::npos) << hidden;
+    }
 }
 
 TEST_F(DiscoverCommandTest, ATerminalShowsTheCountAndTheTimeThoughNothingArrives) {

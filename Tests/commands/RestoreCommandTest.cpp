@@ -26,6 +26,23 @@ TEST_F(RestoreCommandTest, NobodyIsAskedUnlessTheQuestionIsSeen) {
     EXPECT_EQ(run({"restore", serial, "--json"}), 0);
 }
 
+TEST_F(RestoreCommandTest, ARestoreThatWasSentIsReadBackAfterASignal) {
+    play({.obey = [](SampleUnit& unit, std::string_view) { unit.unitID.back() = 7; }});
+    interruptAfter(50ms); // the unit was found, and has the command
+    EXPECT_EQ(run({"restore", serial, "--yes", "--json"}), 130);
+    EXPECT_EQ(commandsSent(), Words{"192.168.1.10:10000 ^^IdZ"});
+    ASSERT_EQ(document()["units"].size(), 1U);
+    EXPECT_EQ(document()["units"][0]["unit_id"], "7");
+}
+
+TEST_F(RestoreCommandTest, AnOptionCommandThatWasSentIsAnsweredAfterASignal) {
+    play({.late = 30ms});
+    interruptAfter(100ms); // the answer comes at 120 ms
+    EXPECT_EQ(run({"option", serial, "V", "--json"}), 130);
+    EXPECT_EQ(commandsSent().size(), 1U);
+    EXPECT_EQ(document()["replies"].size(), 1U);
+}
+
 TEST_F(RestoreCommandTest, ASignalEndsAQuestionThatNobodyAnswers) {
     play({});
     console.hasInputTerminal = true;

@@ -19,6 +19,13 @@ protected:
         neighbours.entries[0xC0A80132U] = {.state = state, .hardwareAddress = hardware};
     }
 
+    // The new address is free, and the unit is reached there from its binding on.
+    void playAUnitThatMoves() {
+        PlayedUnit& unit = play({.obey = obeyAll});
+        bindings.onBind = [&unit] { unit.unit.internalIP.back() = 50; };
+        setEntry(NeighbourState::failed);
+    }
+
     std::string message() const { return document()["error"]["message"].get<std::string>(); }
 
     static constexpr auto otherHardware = "00:1A:2B:3C:4D:77";
@@ -49,6 +56,40 @@ TEST_F(SetCommandTest, AUnitThatTellsAnAddressOfManyGetsNoCommand) {
             EXPECT_EQ(errorCode(), "ambiguous");
         }
     }
+    EXPECT_EQ(commandsSent(), Words{});
+}
+
+TEST_F(SetCommandTest, NoCommandIsSentWhereTwoHostsAnswerAsOneUnit) {
+    play({});
+    play({.late = 5ms}).unit.internalIP.back() = 77; // the hardware address is the same
+    for (const Words& words :
+         {Words{"set", serial, "unit-id=AB"}, Words{"set", "id:42", "unit-id=AB"},
+          Words{"option", serial, "V"}, Words{"restore", serial, "--yes"}}) {
+        Words all = words;
+        all.emplace_back("--json");
+        EXPECT_EQ(run(all), 1) << words.front();
+        EXPECT_EQ(errorCode(), "ambiguous");
+    }
+    EXPECT_EQ(commandsSent(), Words{});
+}
+
+TEST_F(SetCommandTest, ASerialNumberThatAnotherUnitHasIsRefused) {
+    play({.obey = obeyAll});
+    play({.unit = secondSampleUnit(), .late = 1500ms}); // nobody waits so long for the first one
+    EXPECT_EQ(run({"set", serial, "unit-id=AB", "serial=010203040507", "--json"}), 1);
+    EXPECT_EQ(errorCode(), "ambiguous");
+    EXPECT_EQ(message(),
+              "Another unit has the serial number 01 02 03 04 05 07: 00:1A:2B:3C:4D:5F.");
+    EXPECT_EQ(run({"set", serial, "serial=010203040507", "--dry-run", "--json"}), 1);
+    EXPECT_EQ(commandsSent(), Words{});
+    EXPECT_EQ(run({"set", serial, "unit-id=AB", "serial=010203040506", "--json"}), 0);
+    EXPECT_EQ(document()["changes"][1]["state"], "unchanged");
+}
+
+TEST_F(SetCommandTest, ASignalWhileOthersAreAskedForTheSerialNumberSendsNoCommand) {
+    play({.obey = obeyAll});
+    interruptAfter(500ms);
+    EXPECT_EQ(run({"set", serial, "serial=010203040508", "--json"}), 130);
     EXPECT_EQ(commandsSent(), Words{});
 }
 
@@ -113,6 +154,36 @@ TEST_F(SetCommandTest, NothingIsSentWhenSomebodyHoldsTheNewAddress) {
     EXPECT_EQ(commandsSent(), Words{});
 }
 
+TEST_F(SetCommandTest, AnotherHardwareAddressThatAnswersForTheNewAddressIsToldWithTheUnitsOwn) {
+    playAUnitThatMoves();
+    bindings.onRelease = [this] { setEntry(NeighbourState::reachable, otherHardware); };
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "serial=010203040509", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_NE(message().find(otherHardware), std::string::npos) << message();
+    EXPECT_NE(message().find("00:1A:2B:3C:4D:5E"), std::string::npos) << message();
+    EXPECT_EQ(document()["changes"][0]["state"], "done");
+    EXPECT_EQ(document()["changes"][1]["state"], "refused");
+}
+
+TEST_F(SetCommandTest, AUnitThatDoesNotAnswerForItsNewAddressIsLeftHalf) {
+    playAUnitThatMoves();
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_NE(message().find("does not answer ARP requests"), std::string::npos) << message();
+}
+
+TEST_F(SetCommandTest, AnEntryThatCannotBeTakenOutAgainHidesWhoAnswers) {
+    playAUnitThatMoves();
+    bindings.answerToRelease = {.state = ARPEntryState::rightsNotGiven};
+    bindings.onRelease = [this] { setEntry(NeighbourState::permanent, "00:1A:2B:3C:4D:5E"); };
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "--json"}), 4);
+    EXPECT_EQ(errorCode(), "half");
+    EXPECT_EQ(message(), "Whether the unit itself answers ARP requests for 192.168.1.50 could not "
+                         "be found out.");
+    EXPECT_EQ(document()["warnings"][0]["code"], "arp-entry");
+    EXPECT_NE(console.notes.find("taken out of the ARP cache"), std::string::npos);
+}
+
 TEST_F(SetCommandTest, HalfSaysWhyTheRestWasRefused) {
     play({.obey = obeyAll});
     setEntry(NeighbourState::failed);
@@ -138,6 +209,8 @@ TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent
          "the number 300, because that is how “300x” is read. Above 255 it does not "
          "show as a number."},
         {"unit-id=SEVENBY", "the text “SEVENBY”, though a unit ID has 6 bytes and this has 7."},
+        {"internal-mac=FF:FF:FF:FF:FF:FF", "No unit can have it: it reaches many hosts."},
+        {"internal-mac=01005e000001", "No unit can have it: it reaches many hosts."},
         {"internal-ip=x", "internal IP address 0.0.0.0, because “x” is not an IPv4 address."}};
     for (const auto& [word, reason] : cases) {
         EXPECT_EQ(run({"set", serial, word, "--json"}), 2) << word;
@@ -145,6 +218,9 @@ TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent
         EXPECT_TRUE(message().ends_with(reason)) << message();
     }
     EXPECT_TRUE(systemCalls.sentDatagrams().empty());
+    play({});
+    EXPECT_EQ(run({"set", serial, "internal-mac=FFFFFFFFFFFF", "--loose", "--dry-run"}), 0);
+    EXPECT_EQ(run({"set", serial, "destination-mac=FFFFFFFFFFFF", "--dry-run"}), 0);
 }
 
 } // namespace kx

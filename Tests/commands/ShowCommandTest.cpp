@@ -20,4 +20,13 @@ TEST_F(ShowCommandTest, AUnitThatTellsAnAddressOfManyIsShown) {
     EXPECT_EQ(document()["units"][0]["internal_ip"], "192.168.1.255");
 }
 
+TEST_F(ShowCommandTest, AUnitThatIsNamedTwiceIsShownOnce) {
+    play({});
+    play({.unit = secondSampleUnit()});
+    EXPECT_EQ(run({"show", secondSerial, serial, "01:02:03:04:05:06", "--json"}), 0);
+    ASSERT_EQ(document()["units"].size(), 2U);
+    EXPECT_EQ(document()["units"][0]["serial"], "01 02 03 04 05 07") << "in the order of the names";
+    EXPECT_EQ(document()["units"][1]["serial"], "01 02 03 04 05 06");
+}
+
 } // namespace kx

@@ -13,4 +13,12 @@ TEST_F(WatchCommandTest, AWatchEndsQuietlyWhenItsReaderIsGoneThoughNothingHappen
     EXPECT_LE(runLoop.now(), 1200ms);
 }
 
+TEST_F(WatchCommandTest, RoundsThatWouldFloodTheUnitsAreRefused) {
+    play({});
+    EXPECT_EQ(run({"watch", "--every", "0.099", "--for", "1", "--json"}), 2);
+    EXPECT_EQ(errorCode(), "usage");
+    EXPECT_TRUE(systemCalls.sentDatagrams().empty());
+    EXPECT_EQ(run({"watch", "--every", "0.1", "--for", "1"}), 0);
+}
+
 } // namespace kx

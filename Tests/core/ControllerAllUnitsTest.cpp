@@ -78,6 +78,32 @@ TEST_F(ControllerAllUnits, AHardwareAddressThatAPersonChangesIsNoSecondUnit) {
     EXPECT_EQ(all().row(0).text(UnitParameter::internalMACAddress), "02:00:00:00:00:77");
 }
 
+// A unit has its hardware address from the factory back then.
+TEST_F(ControllerAllUnits, AHardwareAddressThatARestoreChangesIsNoSecondUnit) {
+    launch();
+    discoverTwo();
+    selectUnit(first);
+    controller.restoreDefaultSettings();
+    SampleUnit restored;
+    restored.internalMAC = {2, 0, 0, 0, 0, 0x77};
+    receive(restored.reply());
+    EXPECT_EQ(all().size(), 2U);
+    EXPECT_EQ(all().stateOf(0), UnitState::answered);
+}
+
+TEST_F(ControllerAllUnits, ARestoreOfEverybodyMayChangeTheHardwareAddressOfEveryUnit) {
+    launch();
+    discoverTwo();
+    selectUnit(first);
+    receive(sparseReplyOf(SampleUnit())); // nobody knows where the unit is
+    controller.restoreDefaultSettings();
+    SampleUnit restored = secondSampleUnit();
+    restored.internalMAC = {2, 0, 0, 0, 0, 0x78};
+    receive(restored.reply());
+    EXPECT_EQ(all().size(), 2U);
+    EXPECT_EQ(all().stateOf(1), UnitState::answered);
+}
+
 TEST_F(ControllerAllUnits, ALaunchBeginsWithoutUnits) {
     launch();
     discoverTwo();

@@ -120,9 +120,13 @@ TEST_F(ControllerDiscoveryLine, WhenThePortIsTakenItSaysSoAtOnceAndUntilTheNextD
     EXPECT_EQ(discoveryLine(), "Port 3520 is taken by another program. Choose another port.");
     runLoop.advanceBy(2000ms);
     EXPECT_EQ(discoveryLine(), "Port 3520 is taken by another program. Choose another port.");
+    EXPECT_TRUE(window.discoveryLine.meansTrouble());
     window.udpPortPopUp.selectItemWithTitle("3521");
     controller.udpPortSelect();
     EXPECT_TRUE(discoveryLine().starts_with("Asking"));
+    EXPECT_FALSE(window.discoveryLine.meansTrouble());
+    runLoop.advanceBy(2000ms);
+    EXPECT_TRUE(window.discoveryLine.meansTrouble()) << "nobody has answered";
 }
 
 TEST_F(ControllerDiscoveryLine, WhenTheRequestDoesNotLeaveItSaysSoAtOnce) {
@@ -165,6 +169,31 @@ TEST_F(ControllerDiscoveryLine, WhatAPersonHasChangedSinceIsNoDifference) {
     changed.devicePort = {0x0F, 0xA0};
     receive(changed.reply());
     EXPECT_EQ(lineAfter({changed}), "1 unit answered.");
+}
+
+TEST_F(ControllerDiscoveryLine, AUnitWithANewSerialNumberIsNeitherLateNorMissedUnderItsOldOne) {
+    discoverTwo();
+    selectUnit(secondTitle);
+    apply(UnitParameter::serialNumber, "01 02 03 04 05 08");
+    SampleUnit renamed = secondSampleUnit();
+    renamed.serial.back() = 8;
+    receive(renamed.reply());
+    runLoop.advanceBy(100ms);
+    EXPECT_TRUE(discoveryLine().starts_with("2 units answered.")) << discoveryLine();
+    EXPECT_EQ(lineAfter({SampleUnit(), renamed}), "2 of the 3 listed answered.");
+    EXPECT_EQ(dimmed(), Titles{secondTitle});
+}
+
+TEST_F(ControllerDiscoveryLine, AnotherUnitWithTheSerialNumberThatWasTypedIsLate) {
+    discoverTwo();
+    selectUnit(secondTitle);
+    apply(UnitParameter::serialNumber, "01 02 03 04 05 08");
+    SampleUnit other = secondSampleUnit();
+    other.serial.back() = 8;
+    other.internalMAC.back() = 0x77;
+    receive(other.reply());
+    runLoop.advanceBy(100ms);
+    EXPECT_EQ(discoveryLine(), "1 unit answered late. Discover again to list it.");
 }
 
 TEST_F(ControllerDiscoveryLine, AnotherInterfaceIsNotComparedWithTheOneBefore) {

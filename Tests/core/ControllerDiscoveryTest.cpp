@@ -354,6 +354,8 @@ TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheL
     window.unitSelectPopUp.selectItemWithTitle(other);
     small.unitSelectPopUp();
     EXPECT_EQ(small.selectedUnit(), other);
+    discoverRealUnits();
+    EXPECT_TRUE(isNothingFound()) << "nobody made room: " << discoveryLine();
 }
 
 TEST_F(ControllerDiscovery, ZeroBytesThatFillUpAUnitIDAreNotShownAndNotSentAgain) {

@@ -86,6 +86,16 @@ TEST_F(ControllerHolder, AnAddressThatASilentUnitHasToldIsNotCalledFree) {
     EXPECT_EQ(quietLine(), forecastOfMove + toldBySecond);
 }
 
+TEST_F(ControllerHolder, AfterReturnWhatAppliesStandsInThePlaceOfTheARPEntry) {
+    store("192.168.1.11");
+    setEntry(NeighbourState::reachable, "00:1A:2B:3C:4D:5F");
+    runLoop.advanceBy(550ms);
+    controller.editTextWasKept();
+    EXPECT_EQ(quietLine(), "Apply sends ^^IdIC0A8010B to 192.168.1.11. Return ends the typing; "
+                           "Ctrl+Return applies." +
+                               heldBySecond);
+}
+
 TEST_F(ControllerHolder, AHolderMeansTrouble) {
     controller.editTextDidChange("192.168.1.77");
     setEntry(NeighbourState::reachable, "02:00:00:00:00:99", "192.168.1.77");

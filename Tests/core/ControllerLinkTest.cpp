@@ -130,6 +130,38 @@ TEST_F(ControllerLink, AUnitWhoseAddressIsNotKnownIsLookedForOnTheChosenOne) {
     EXPECT_EQ(last(), "192.168.1.255:3520 ^^IdX by 2");
 }
 
+// A forged record does it.
+TEST_F(ControllerLink, AUnitThatTellsABroadcastAddressMovesNoBroadcastToItsLink) {
+    SampleUnit broadcaster;
+    for (const Bytes& address : {Bytes{192, 168, 1, 255}, Bytes{255, 255, 255, 255}}) {
+        broadcaster.internalIP = address;
+        choose();
+        controller.discoverButton();
+        receiveBy(otherLink, broadcaster.reply());
+        runLoop.advanceBy(2000ms);
+        controller.restoreDefaultSettings();
+        EXPECT_TRUE(last().ends_with("^^IdZ by 2")) << last();
+        controller.reloadUnitParameterButton();
+        EXPECT_TRUE(last().ends_with("^^IdX by 2")) << last();
+        apply(UnitParameter::destinationPortNumber, "3521");
+        EXPECT_TRUE(last().ends_with("^^IdT0DC1 by 2")) << last();
+        controller.sendOptionButton();
+        EXPECT_TRUE(last().ends_with("^^IdV\\r by 2")) << last();
+    }
+}
+
+TEST_F(ControllerLink, ACommandToABroadcastAddressThatTheInterfaceHasLostFails) {
+    SampleUnit broadcaster;
+    broadcaster.internalIP = {192, 168, 1, 255};
+    choose();
+    discover({broadcaster});
+    interfaces.clear();
+    const std::size_t before = sent().size();
+    apply(UnitParameter::destinationPortNumber, "3521");
+    EXPECT_EQ(quietLine(), "Not sent: " + posixErrorText(ENETUNREACH) + ".");
+    EXPECT_EQ(sent().size(), before);
+}
+
 TEST_F(ControllerLink, ACommandByALinkThatIsGoneFails) {
     discoverByOtherLink();
     systemCalls.removeLink("link 7");

@@ -124,6 +124,11 @@ TEST_F(ControllerSaving, EveryCommentIsALineOfTheEventLog) {
     EXPECT_TRUE(hasComment("Ignoring short packet"));
 }
 
+TEST_F(ControllerSaving, ADatagramThatTheLogLeavesOutKeepsTheCommentThatSaysSo) {
+    sessionRecord.keep({.source = 1, .destination = 2, .comment = "a check"}, SampleUnit().reply());
+    EXPECT_EQ(savedSession().packets.back().comment, "a check");
+}
+
 TEST_F(ControllerSaving, TheLogIsEmptiedByDiscoverAndTheSessionIsNot) {
     receive(SampleUnit().reply());
     controller.discoverButton();

@@ -111,6 +111,27 @@ TEST_F(ControllerTarget, IsEverybodyAtTheBroadcastAddressOfAnotherInterface) {
     expectEverybody(addressOfMany);
 }
 
+TEST_F(ControllerTarget, IsTheUnitAtTheOtherEndOfASubnetOfTwoAddresses) {
+    interfaces.clear();
+    interfaces.addService("Ethernet", "eth0", "192.168.1.20", "255.255.255.254");
+    chooseInterface();
+    SampleUnit other;
+    other.internalIP = {192, 168, 1, 21};
+    discover({other});
+    EXPECT_EQ(sent().back(), "192.168.1.21:3520 ^^IdX");
+    expectUnitAt("192.168.1.21");
+}
+
+TEST_F(ControllerTarget, IsEverybodyAtTheBroadcastAddressOfTheChoiceThatTheInterfaceHasLost) {
+    chooseInterface();
+    interfaces.clear();
+    interfaces.addService("Ethernet", "eth0", "10.1.2.3", "255.255.0.0");
+    SampleUnit broadcaster;
+    broadcaster.internalIP = {192, 168, 1, 255};
+    discover({broadcaster});
+    expectEverybody(addressOfMany);
+}
+
 TEST_F(ControllerTarget, IsLookedAtAgainWhenAButtonIsPressed) {
     SampleUnit broadcaster;
     broadcaster.internalIP = {10, 1, 255, 255};

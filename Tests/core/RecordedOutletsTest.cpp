@@ -3,6 +3,7 @@
 #include "doubles/RecordedOutlets.h"
 
 #include "contracts/OutletsContract.h"
+#include "contracts/PopUpButtonContract.h"
 #include "contracts/TableViewContract.h"
 #include "contracts/WindowContract.h"
 

@@ -1,9 +1,10 @@
 """The window of all units, as a screen reader sees it and as the keyboard uses it."""
 
 import os
+import signal
 import unittest
 
-from desktop import Application, Atspi, press, text_of, type_text, wait_for
+from desktop import Application, Atspi, perform, press, text_of, type_text, wait_for
 
 SERIALS = [f"4B 58 00 00 00 0{number}" for number in (1, 2, 3)]
 
@@ -39,6 +40,24 @@ class AllUnits(unittest.TestCase):
         wait_for("the third unit", lambda: program.pop_up("Unit:").get_name() == SERIALS[2])
         program.wait_for_focus("table", "Unit parameters")
         self.assertEqual(program.close(), 0)
+
+    def test_units_that_fall_silent_and_come_back_are_marked_in_words(self):
+        program = self.program
+        main_window = program.window
+        program.wait_for_units(3)
+        press("Ctrl+u")
+        table = wait_for("the window", lambda: program.window_titled("All Units"))
+        units = int(os.environ["KX_UNITS_PIDS"])
+        os.kill(units, signal.SIGSTOP)
+        self.addCleanup(os.kill, units, signal.SIGCONT)
+        program.window = main_window
+        perform(program.button("Discover"), "Press")
+        program.window = table
+        wait_for("the marks", lambda: [row[2] for row in program.rows_of("All Units")]
+                 == ["No answer"] * 3)
+        os.kill(units, signal.SIGCONT)
+        wait_for("their late answers", lambda: [row[2] for row in program.rows_of("All Units")]
+                 == ["Answered"] * 3)
 
 
 if __name__ == "__main__":

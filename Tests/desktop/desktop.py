@@ -123,10 +123,10 @@ def click(accessible, times=1):
 class Application:
     """The program, started anew; its controls by what a person calls them.
 
-    It finds no web browser here, whatever the machine has.
+    It finds no web browser here, whatever the machine has. `variables` are added to its environment.
     """
 
-    def __init__(self, program):
+    def __init__(self, program, **variables):
         self.focused = ("nothing", "")  # role and name of the last control that got the keyboard
         self.announced = []  # the texts of notifications, in order
         self.described = []  # the labels of controls with a new description
@@ -134,7 +134,7 @@ class Application:
                            self._listen("object:state-changed:showing", self._something_did_appear),
                            self._listen("object:property-change:accessible-description",
                                         self._something_was_described)]
-        environment = {**os.environ, "XDG_DATA_DIRS": "/nonexistent"}
+        environment = {**os.environ, "XDG_DATA_DIRS": "/nonexistent", **variables}
         environment.pop("BROWSER", None)
         self._process = subprocess.Popen([program], env=environment)
         self.root = wait_for("the program", lambda: self._named(Atspi.get_desktop(0), "KXConfig"))

@@ -6,6 +6,7 @@
 
 #include <map>
 #include <optional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -38,6 +39,10 @@ public:
     void setState(const std::string& bsdName, std::optional<InterfaceState> state) {
         _states[bsdName] = state;
     }
+
+    // Takes all addresses from the kernel's interface; its service still tells those that are saved
+    // for it. Without this call the interface has what its service tells.
+    void loseAddresses(const std::string& bsdName) { _withoutAddresses.insert(bsdName); }
 
     // Removes all interfaces.
     void clear() { *this = ScriptedNetworkInterfaces(); }
@@ -76,6 +81,15 @@ public:
         return found != _data.end() ? std::optional(found->second) : std::nullopt;
     }
 
+    std::optional<PropertyListValue>
+    interfaceDataForDictionaryNameKey(std::string_view bsdName, std::string_view dictionaryName,
+                                      std::string_view key) override {
+        const auto service = serviceIDForInterface(bsdName);
+        return service.has_value() && !_withoutAddresses.contains(bsdName)
+                   ? serviceDataForDictionaryNameKey(*service, dictionaryName, key)
+                   : std::nullopt;
+    }
+
     std::optional<InterfaceState> interfaceState(std::string_view bsdName) override {
         const auto found = _states.find(bsdName);
         return found != _states.end() ? found->second
@@ -90,6 +104,7 @@ private:
     std::map<std::string, std::string, std::less<>> _services;
     std::map<std::string, std::optional<InterfaceState>, std::less<>> _states;
     std::map<DataKey, PropertyListValue> _data;
+    std::set<std::string, std::less<>> _withoutAddresses;
 };
 
 } // namespace kx

@@ -1,7 +1,5 @@
 """The help book is complete in itself, and agrees with the program."""
 
-import importlib.machinery
-import importlib.util
 import pathlib
 import re
 import struct
@@ -27,7 +25,7 @@ class TheBook(unittest.TestCase):
 
     def test_has_every_page_that_a_person_needs(self):
         wanted = {"index", "first-steps", "controls", "parameters", "options", "address", "no-answer",
-                  "log", "trust", "command-line", "many-units", "all-units", "names", "saving"}
+                  "log", "trust", "command-line", "many-units", "all-units", "saving"}
         self.assertEqual({name.removesuffix(".html") for name in self.pages}, wanted)
 
     def test_every_reference_leads_somewhere_in_the_book(self):
@@ -136,14 +134,6 @@ class TheBookAndTheProgram(unittest.TestCase):
         for name in names:
             self.assertIn(name, headings)
             self.assertRegex(page, rf'<h2 id="[a-z-]+">{name}</h2>')
-
-    def test_the_names_in_other_languages_are_those_of_the_window(self):
-        loader = importlib.machinery.SourceFileLoader("help_names", str(ROOT / "scripts/help-names"))
-        spec = importlib.util.spec_from_loader("help_names", loader)
-        names = importlib.util.module_from_spec(spec)
-        loader.exec_module(names)
-        self.assertEqual(names.PAGE.read_text(encoding="utf-8"), names.page(), "run scripts/help-names")
-        self.assertIn('<td>Restore Defaults</td><td lang="de">Werkseinstellungen laden</td>', names.page())
 
     def test_every_option_is_on_the_page_about_options(self):
         options = {text for text in checks.strings_of(WINDOW, "text") if "  " in text}

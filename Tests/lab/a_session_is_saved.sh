@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# A person works with units, something goes wrong, and then the session and the event log are saved. tshark
-# reads in the session what dumpcap has seen on the link, byte for byte, and the comments are lines of the
-# log. Then the disk is full: it is said, what stood there stays, and another place takes everything.
+# A person works with units, something goes wrong, Details asks why, and then the session and the event
+# log are saved. tshark reads in the session what dumpcap has seen on the link, byte for byte, and the
+# comments are lines of the log. Then the disk is full: it is said, what stood there stays, and another
+# place takes everything.
 set -euo pipefail
 # shellcheck source=Tests/wireshark/dissection.sh
 source "${BASH_SOURCE[0]%/*}/../wireshark/dissection.sh"
@@ -35,6 +36,8 @@ export KX_STEPS="
     shows destination Port number: 3523
     press sendOptionButton
     logs simulated unit 1.0
+    press detailsButton
+    wait 1500
     save saveSessionAction $scratch/session.pcapng
     line The session was saved:
     save saveEventLogAction $scratch/log.txt
@@ -73,7 +76,13 @@ expect_equal 'datagrams without a direction' 0 "$(count_of "$session" '!frame.pa
 expect_equal 'datagrams with a wrong checksum' 0 \
     "$(dissect "$session" -o ip.check_checksum:TRUE -Y 'ip.checksum.status == 0' | wc -l)"
 expect_no_failure "$session"
-expect_equal 'datagrams that the dissector does not know' 0 "$(count_of "$session" '!kxconfig')"
+# The sockets of Details have other ports.
+check='frame.comment == "A check of Details, not in the event log"'
+expect_equal 'datagrams that the dissector does not know' 0 "$(count_of "$session" "!kxconfig && !($check)")"
+(($(count_of "$session" "$check && frame.packet_flags_direction == 2 && ip.dst == 255.255.255.255") == 3)) ||
+    fail 'the session lacks what Details has asked'
+(($(count_of "$session" "$check && frame.packet_flags_direction == 1 && ip.src == 192.0.2.12") > 0)) ||
+    fail 'the session lacks what Details has heard'
 expect_equal 'the command for the port' 1 \
     "$(count_of "$session" 'kxconfig.command == "^^IdT0DC3" && frame.packet_flags_direction == 2')"
 
@@ -85,7 +94,7 @@ expect_equal 'the comment of the command' 'Send to: 192.0.2.11 command: ^^IdT0DC
 while IFS= read -r comment; do
     [[ $comment == 'Request unit parameters with address: 255.255.255.255' ]] ||
         grep -qxF -- "$comment" "$scratch/log.txt" || fail "the log has no line: $comment"
-done < <(fields_of "$session" -e frame.comment)
+done < <(fields_of "$session" -Y "!($check)" -e frame.comment)
 expect_equal 'datagrams without a comment' 0 "$(count_of "$session" '!frame.comment')"
 
 capinfos "$session" >"$scratch/about" || fail 'capinfos cannot read the session'

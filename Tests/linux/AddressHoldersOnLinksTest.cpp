@@ -1,6 +1,7 @@
 // The neighbour table and the ARP probes on real links.
 
 #include "PrivateNetwork.h"
+#include "addresses/IPv4Address.h"
 #include "platform/linux/LinuxAddressProbes.h"
 #include "platform/linux/LinuxNeighbourTable.h"
 #include "platform/posix/PollRunLoop.h"
@@ -47,15 +48,19 @@ TEST_F(AddressHoldersOnLinks, AnAddressThatNobodyHasAskedForHasNoEntry) {
 
 TEST_F(AddressHoldersOnLinks, AnEntryTellsItsStateAndItsHardwareAddress) {
     const std::string hardware = "lladdr 02:4b:58:00:00:01 nud ";
+    std::uint32_t each = address;
     for (const auto& [word, state] :
          {std::pair{"reachable", NeighbourState::reachable},
           std::pair{"stale", NeighbourState::stale}, std::pair{"delay", NeighbourState::stale},
           std::pair{"permanent", NeighbourState::permanent},
           std::pair{"noarp", NeighbourState::permanent}}) {
-        setEntry(hardware + word);
-        ASSERT_TRUE(entry().has_value()) << word;
-        EXPECT_EQ(entry()->state, state) << word;
-        EXPECT_EQ(entry()->hardwareAddress, "02:4B:58:00:00:01");
+        // Each at an address of its own: what was reachable a moment ago soon is again.
+        ++each;
+        network.ip("neigh replace " + stringForIP(each) + " dev kx0 " + hardware + word);
+        const auto found = table.entry(each, link);
+        ASSERT_TRUE(found.has_value()) << word;
+        EXPECT_EQ(found->state, state) << word;
+        EXPECT_EQ(found->hardwareAddress, "02:4B:58:00:00:01");
     }
 }
 

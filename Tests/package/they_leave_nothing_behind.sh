@@ -34,7 +34,7 @@ files_of() {
             usr/share/applications/org.kxconfig.KXConfig.desktop \
             usr/share/metainfo/org.kxconfig.KXConfig.metainfo.xml \
             usr/share/icons/hicolor/scalable/apps/org.kxconfig.KXConfig.svg \
-            usr/share/kxconfig/homepage/index.html
+            usr/share/kxconfig/homepage/index.html usr/share/kxconfig/homepage/{de,es,fr,ja}/index.html
         ;;
     kxunits)
         printf '%s\n' usr/bin/kxunits usr/bin/kxunits-lab usr/share/man/man1/kxunits.1.gz \

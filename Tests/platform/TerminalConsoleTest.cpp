@@ -5,8 +5,10 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
+#include <pty.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <chrono>
@@ -14,6 +16,7 @@
 #include <cstdlib>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 
 namespace kx {
@@ -168,6 +171,30 @@ TEST(TerminalConsole, WordsInAPipeCannotBeWrittenOver) {
     Pipe notes;
     const Replaced err(STDERR_FILENO, notes.writingEnd.number());
     EXPECT_FALSE(TerminalConsole().canRewriteNotes());
+}
+
+TEST(TerminalConsole, ALentTerminalIsClearedAndNotWrittenOver) {
+    int master = -1;
+    int terminal = -1;
+    ASSERT_EQ(::openpty(&master, &terminal, nullptr, nullptr, nullptr), 0);
+    const FileDescriptor person(master);
+    const FileDescriptor program(terminal);
+    const Replaced err(STDERR_FILENO, program.number());
+    ::setenv("TERM", "xterm", 1);
+    TerminalConsole console;
+    EXPECT_TRUE(console.canRewriteNotes());
+    {
+        const TerminalConsole::Loan loan(console);
+        EXPECT_FALSE(console.canRewriteNotes());
+        { const TerminalConsole::Loan again(console); }
+        EXPECT_FALSE(console.canRewriteNotes());
+    }
+    EXPECT_TRUE(console.canRewriteNotes());
+    ::unsetenv("TERM");
+    std::array<char, 16> seen{};
+    const ssize_t count = ::read(person.number(), seen.data(), seen.size());
+    EXPECT_EQ(std::string_view(seen.data(), static_cast<std::size_t>(std::max<ssize_t>(count, 0))),
+              Console::beginningOfLine);
 }
 
 } // namespace kx

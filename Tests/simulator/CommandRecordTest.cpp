@@ -127,6 +127,29 @@ TEST(CommandRecord, AFileOfSomebodyElseIsNotTakenThereEither) {
     EXPECT_EQ(refusalOf(folder.file("theirs")), EPERM);
 }
 
+// A stranger can lay links in a folder of their own too, for example in one below /tmp.
+TEST(CommandRecord, ALinkInAFolderOfSomebodyElseIsNotFollowedAndAFileOfTheirsIsTaken) {
+    if (::geteuid() != 0) {
+        GTEST_SKIP() << "only root can make a folder for somebody else";
+    }
+    const Folder folder(0755);
+    const Folder elsewhere(0755);
+    const std::string victim = elsewhere.file("victim");
+    std::ofstream(victim) << "as it was";
+    std::filesystem::create_symlink(victim, folder.file("link"));
+    std::filesystem::create_hard_link(victim, folder.file("second"));
+    std::ofstream(folder.file("theirs")) << "as it was";
+    for (const std::string& path : {folder.file("theirs"), folder.file("")}) {
+        ASSERT_EQ(::chown(path.c_str(), 12345, 12345), 0);
+    }
+    EXPECT_EQ(refusalOf(folder.file("link")), ELOOP);
+    EXPECT_EQ(refusalOf(folder.file("second")), EPERM);
+    EXPECT_EQ(refusalOf(folder.file("theirs")), 0);
+    EXPECT_EQ(refusalOf(folder.file("new")), 0);
+    ASSERT_EQ(::chown(folder.file("theirs").c_str(), 54321, 54321), 0);
+    EXPECT_EQ(refusalOf(folder.file("theirs")), EPERM) << "it is a third user's";
+}
+
 TEST(CommandRecord, AnOwnFileIsTakenThereAndALinkInAnOwnFolderIsFollowed) {
     const Folder open(01777);
     EXPECT_EQ(refusalOf(open.file("own")), 0);

@@ -2,16 +2,17 @@
 
 #include "platform/qt/DiagnosisWindow.h"
 
+#include "Looks.h"
 #include "MainWindowFixture.h"
 #include "core/conversation/DiagnosisSamples.h"
 #include "doubles/ScriptedDiagnosticSockets.h"
 #include "doubles/ScriptedHostDiagnostics.h"
-#include "doubles/ScriptedNeighbours.h"
 
 #include <QApplication>
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableWidget>
 
 namespace kx {
@@ -20,7 +21,9 @@ namespace {
 
 class OneInterface final : public HostInterfaces {
 public:
-    std::vector<HostInterface> list() override { return {sampleInterface()}; }
+    std::vector<HostInterface> list() override { return {interface}; }
+
+    HostInterface interface = sampleInterface();
 };
 
 class DiagnosisWindowTest : public MainWindowTest {
@@ -47,15 +50,37 @@ protected:
         return *details()->findChild<Part*>(name);
     }
 
+    // The first row of pixels with a letter in it.
+    static int firstRowOfText(QWidget& widget) {
+        const QImage picture = widget.grab().toImage();
+        const QColor background = backgroundOf(picture);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (contrastOf(picture.pixelColor(x, y), background) > 3) {
+                    return y;
+                }
+            }
+        }
+        return -1;
+    }
+
     void openDetails() {
         say("No unit answered.");
         click("detailsButton");
     }
 
+    // A listener asks everybody, and does not even hear itself.
+    void listenInVain() {
+        systemCalls.addLink("kx0", sampleLink);
+        const int listener = witness.socket();
+        witness.bind(listener, dataForAddress(0, 3520));
+        witness.sendToByLink(listener, textBytes("^^IdX"), dataForAddress(0xC0A801FFU, 3520),
+                             sampleLink);
+    }
+
     int helps = 0;
     ScriptedDiagnosticSockets sockets;
     ScriptedHostDiagnostics host;
-    ScriptedNeighbours neighbours;
     OneInterface hostInterfaces;
     ListenerWitness witness{systemCalls};
     KXDiagnosis diagnosis{{.runLoop = runLoop,
@@ -67,6 +92,8 @@ protected:
                            .neighbours = neighbours,
                            .interfaces = hostInterfaces}};
 };
+
+class DiagnosisScreenFit : public DiagnosisWindowTest {}; // runs on small screens too
 
 } // namespace
 
@@ -80,6 +107,24 @@ TEST_F(DiagnosisWindowTest, TheLinkStandsBesideTheLineWhateverTheLineSays) {
         EXPECT_EQ(link.y(), line.y());
         EXPECT_GT(link.x(), line.geometry().right());
     }
+}
+
+TEST_F(DiagnosisWindowTest, TheLinkStandsOnTheBaselineOfTheLine) {
+    launchWithTwoUnits();
+    auto& link = control<QPushButton>("detailsButton");
+    auto& line = control<QLabel>("discoveryLine");
+    say(link.text().toStdString().c_str());
+    EXPECT_EQ(link.y() + firstRowOfText(link), line.y() + firstRowOfText(line));
+}
+
+TEST_F(DiagnosisWindowTest, TheLinkShowsThatItHasTheKeyboard) {
+    launchWithTwoUnits();
+    auto& link = control<QPushButton>("detailsButton");
+    control<QPushButton>("discoverButton").setFocus();
+    const QImage without = link.grab().toImage();
+    press(Qt::Key_Tab);
+    ASSERT_TRUE(link.hasFocus());
+    EXPECT_NE(link.grab().toImage(), without);
 }
 
 TEST_F(DiagnosisWindowTest, WithoutADiagnosisThereIsNoLink) {
@@ -117,15 +162,58 @@ TEST_F(DiagnosisWindowTest, ItAsksWhenItOpensAndAgainByItsButton) {
 
 TEST_F(DiagnosisWindowTest, AFailedCheckHasASignAWordAndAdvice) {
     launch();
+    hostInterfaces.interface.isRunning = false;
     openDetails();
     runLoop.advanceBy(std::chrono::seconds(1));
     const auto& table = part<QTableWidget>("diagnosisChecks");
-    int fails = 0;
-    for (int row = 0; row < table.rowCount(); ++row) {
-        fails += table.item(row, 1)->text() == "✗ Fails" ? 1 : 0;
-    }
-    EXPECT_EQ(fails == 0, diagnosis.report().causes.empty());
-    EXPECT_FALSE(part<QLabel>("diagnosisHeading").text().isEmpty());
+    EXPECT_EQ(table.item(0, 1)->text(), "✗ Fails");
+    EXPECT_EQ(table.item(0, 2)->text(), "The interface kx0 has no link.");
+    EXPECT_TRUE(table.item(0, 3)->text().startsWith("Plug in the cable"));
+    EXPECT_EQ(part<QLabel>("diagnosisHeading").text(), "The interface kx0 has no link.");
+    EXPECT_TRUE(table.item(0, 0)->font().bold());
+    EXPECT_FALSE(table.isColumnHidden(3));
+}
+
+TEST_F(DiagnosisWindowTest, WhereThereIsNothingToDoWhatWasSeenHasTheRoom) {
+    launchWithTwoUnits();
+    openDetails();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    EXPECT_TRUE(table.isColumnHidden(3)) << part<QLabel>("diagnosisHeading").text().toStdString();
+    EXPECT_FALSE(table.item(0, 0)->font().bold());
+}
+
+TEST_F(DiagnosisWindowTest, WhatThereIsToDoIsInSightInALowWindowAndTheKeyboardBeginsThere) {
+    window.show();
+    listenInVain();
+    openDetails();
+    details()->resize(600, 220);
+    runLoop.advanceBy(std::chrono::seconds(1));
+    const auto& table = part<QTableWidget>("diagnosisChecks");
+    const int row = table.currentRow();
+    ASSERT_GE(row, 0);
+    EXPECT_EQ(table.item(row, 0)->text(), "Own broadcast");
+    EXPECT_FALSE(table.item(row, 3)->text().isEmpty());
+    EXPECT_TRUE(table.selectedItems().isEmpty());
+    const QRect place = table.visualItemRect(table.item(row, 0));
+    EXPECT_TRUE(table.viewport()->rect().contains(place));
+}
+
+TEST_F(DiagnosisWindowTest, TheKeyboardStaysAtAskAgainWhileItAsks) {
+    launchWithTwoUnits();
+    openDetails();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(details()));
+    auto& button = part<QPushButton>("askAgainButton");
+    button.setFocus();
+    QTest::keyClick(&button, Qt::Key_Space);
+    EXPECT_FALSE(button.isEnabled());
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_TRUE(button.hasFocus());
+    QTest::keyClick(&button, Qt::Key_Space);
+    part<QTableWidget>("diagnosisChecks").setFocus();
+    runLoop.advanceBy(std::chrono::seconds(1));
+    EXPECT_FALSE(button.hasFocus()) << "a person has gone elsewhere meanwhile";
 }
 
 TEST_F(DiagnosisWindowTest, ItIsCopiedAsText) {
@@ -169,6 +257,16 @@ TEST_F(DiagnosisWindowTest, ItIsReachedByTheKeyboard) {
     EXPECT_TRUE(control<QPushButton>("detailsButton").hasFocus());
     press(Qt::Key_Return);
     EXPECT_NE(details(), nullptr);
+}
+
+TEST_F(DiagnosisScreenFit, TheWindowAndItsFrameAreOnTheScreen) {
+    launchWithTwoUnits();
+    openDetails();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(details()));
+    QTest::qWait(10);
+    const QRect screen = details()->screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(details()->frameGeometry())) << details()->frameGeometry().height();
+    EXPECT_GT(details()->frameGeometry().height(), details()->height());
 }
 
 } // namespace kx

@@ -6,8 +6,9 @@ namespace kx {
 
 namespace {
 
-constexpr const char* text = "The system dropped 1234 datagrams before they were read, so units "
-                             "may be missing. Help says how to allow a larger buffer.";
+constexpr const char* longSentence =
+    "The system dropped 1234 datagrams before they were read, so units "
+    "may be missing. Help says how to allow a larger buffer.";
 
 class DiscoveryLineTest : public MainWindowTest {
 protected:
@@ -37,20 +38,31 @@ private:
 TEST_F(DiscoveryLineTest, KeepsItsPlaceSoThatNothingMovesWhenItsTextComesOrGoes) {
     EXPECT_EQ(line().text(), "2 units answered. No interface is chosen: asked 255.255.255.255.");
     const QRect unitsBefore = placeOf("unitSelectPopUp");
-    for (const char* said : {text, "", "2 units answered."}) {
+    for (const char* said : {longSentence, "", "2 units answered."}) {
         say(said);
         EXPECT_TRUE(line().isVisible());
         EXPECT_EQ(placeOf("unitSelectPopUp"), unitsBefore) << said;
     }
 }
 
+TEST_F(DiscoveryLineTest, KeepsItsPlaceAlsoForTheLongestUsualSentenceWithItsSign) {
+    const QRect unitsBefore = placeOf("unitSelectPopUp");
+    const QRect tableBefore = placeOf("unitParameterTableView");
+    window.outlets().discoveryLine->setMeansTrouble(true);
+    say("No unit answered. The 3 listed answered earlier. The request left, and nothing came back. "
+        "No interface is chosen: asked 255.255.255.255.");
+    EXPECT_GT(line().heightForWidth(line().width()), 2 * line().fontMetrics().lineSpacing());
+    EXPECT_EQ(placeOf("unitSelectPopUp"), unitsBefore);
+    EXPECT_EQ(placeOf("unitParameterTableView"), tableBefore);
+}
+
 TEST_F(DiscoveryLineTest, StandsBelowDiscoverAndIsShownWhole) {
-    say(text);
+    say(longSentence);
     EXPECT_GT(placeOf("discoveryLine").top(), placeOf("discoverButton").bottom());
     EXPECT_LT(placeOf("discoveryLine").bottom(), placeOf("unitSelectPopUp").top());
     EXPECT_GE(line().height(), line().heightForWidth(line().width()));
     window.resize(420, 480);
-    say(text);
+    say(longSentence);
     EXPECT_GE(line().height(), line().heightForWidth(line().width()));
 }
 
@@ -65,15 +77,15 @@ TEST_F(DiscoveryLineTest, WhateverAPersonIsAboutToClickBelowTheTableStaysWhereIt
     };
     const std::vector<QRect> before = places();
     const QSize sizeBefore = window.size();
-    say(text);
+    say(longSentence);
     EXPECT_EQ(places(), before);
     EXPECT_EQ(window.size(), sizeBefore);
 }
 
 TEST_F(DiscoveryLineTest, CanBeCopied) {
-    say(text);
+    say(longSentence);
     EXPECT_TRUE(line().textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
-    EXPECT_EQ(line().text(), text);
+    EXPECT_EQ(line().text(), longSentence);
 }
 
 } // namespace kx

@@ -11,6 +11,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTemporaryDir>
@@ -76,11 +77,14 @@ class HelpFolder {
 public:
     HelpFolder() { QDir(_folder.path()).mkdir("homepage"); }
 
+    // `name` may begin with the folder of a language, as in "de/index".
     void addPage(const std::string& name, const QByteArray& body = {}) {
         const QByteArray page = "<!DOCTYPE html><html><head><title>Page " +
                                 QByteArray::fromStdString(name) + "</title></head><body>" + body +
                                 "</body></html>";
-        writeFile(pages() + '/' + QString::fromStdString(name) + ".html", page, QFile::ReadOwner);
+        const QString path = pages() + '/' + QString::fromStdString(name) + ".html";
+        QDir().mkpath(QFileInfo(path).path());
+        writeFile(path, page, QFile::ReadOwner);
     }
 
     QString path() const { return _folder.path(); }
@@ -218,6 +222,24 @@ TEST(QtHelpServices, AFolderIsNoPage) {
               std::nullopt);
 }
 
+TEST(QtHelpServices, APageIsOpenedInTheLanguageOfTheWindowAndOtherwiseInEnglish) {
+    HelpFolder folder;
+    for (const char* page : {"index", "log", "de/index", "fr/log"}) {
+        folder.addPage(page);
+    }
+    QtHelpServices german(folder.path(), QtHelpServices::Browser::isAllowed, "de");
+    const auto pathOf = [&](const char* page) {
+        return german.pathForResource(page, "html", "homepage").value_or("nowhere");
+    };
+    EXPECT_EQ(pathOf("index"), folder.pages().toStdString() + "/de/index.html");
+    EXPECT_EQ(pathOf("log"), folder.pages().toStdString() + "/log.html");
+    EXPECT_EQ(pathOf("trust"), "nowhere");
+    EXPECT_TRUE(german.openAnchorInBook("index", "Hilfe"));
+    EXPECT_EQ(openViewer()->windowTitle(), "Page de/index – Hilfe");
+    EXPECT_TRUE(german.openAnchorInBook("log", "Hilfe"));
+    EXPECT_EQ(openViewer()->windowTitle(), "Page log – Hilfe");
+}
+
 TEST(QtHelpServices, TheViewerGoesWithItsServices) {
     HelpFolder folder;
     folder.addPage("index");
@@ -272,6 +294,30 @@ TEST_F(HelpViewerTest, GoesBackAndForwardAndToTheContents) {
     EXPECT_EQ(pageInViewer(), "log");
     button("helpContentsButton").click();
     EXPECT_EQ(pageInViewer(), "index");
+}
+
+TEST_F(HelpViewerTest, StaysInItsLanguageAlongLinksAndOnTheWayToTheContents) {
+    folder.addPage("de/index", "<a href='log.html'>Log</a>");
+    folder.addPage("de/log");
+    viewer = std::make_unique<HelpViewer>(folder.pages(), "de");
+    viewer->showPage("index", "Hilfe");
+    ASSERT_TRUE(QTest::qWaitForWindowActive(viewer.get()));
+    followLink();
+    EXPECT_EQ(viewer->windowTitle(), "Page de/log – Hilfe");
+    button("helpContentsButton").click();
+    EXPECT_EQ(viewer->windowTitle(), "Page de/index – Hilfe");
+}
+
+TEST_F(HelpViewerTest, ShowsThePicturesThatTheLanguagesShare) {
+    folder.addPage("de/index");
+    QDir().mkpath(folder.pages() + "/pictures");
+    writeFile(folder.pages() + "/pictures/a.png", "picture", QFile::ReadOwner);
+    ASSERT_TRUE(QFile::link("../pictures", folder.pages() + "/de/pictures"));
+    viewer = std::make_unique<HelpViewer>(folder.pages(), "de");
+    viewer->showPage("index", "Hilfe");
+    const QVariant picture =
+        pages().loadResource(QTextDocument::ImageResource, QUrl("pictures/a.png"));
+    EXPECT_EQ(picture.toByteArray(), "picture");
 }
 
 TEST_F(HelpViewerTest, IsDrivenByTheKeyboardAlone) {

@@ -7,6 +7,7 @@
 #include "platform/qt/FindBar.h"
 #include "platform/qt/HelpViewer.h"
 #include "platform/qt/ParameterTableView.h"
+#include "words/DiscoveryLine.h"
 
 #include <QApplication>
 #include <QDir>
@@ -298,6 +299,40 @@ TEST_P(LanguagesTest, NothingMovesWhileAnAddressIsTyped) {
         EXPECT_EQ(placeOf("applyButton"), applyBefore) << quietLine();
         takePicture(window, address);
     }
+}
+
+TEST_P(LanguagesTest, NothingMovesWhenTheHolderOfAnAddressIsSaidAndReturnIsPressed) {
+    launchWithTwoUnits();
+    receive(SampleUnit().reply(), 2);
+    clickCell("unitParameterTableView", static_cast<int>(UnitParameter::internalIPAddress), 1);
+    const QRect applyBefore = control<QWidget>("applyButton").geometry();
+    neighbours.entries[ipForString("192.168.1.211")] = {.state = NeighbourState::reachable,
+                                                        .hardwareAddress = "00:1A:2B:3C:4D:5F"};
+    controller.editTextDidChange("192.168.1.211");
+    runLoop.advanceBy(std::chrono::milliseconds(550));
+    const auto expectHolder = [&](const char* what) {
+        QTest::qWait(1);
+        EXPECT_NE(quietLine().find("00:1A:2B:3C:4D:5F"), std::string::npos) << quietLine();
+        EXPECT_EQ(control<QWidget>("applyButton").geometry(), applyBefore) << quietLine();
+        takePicture(window, what);
+    };
+    expectHolder("held");
+    controller.editTextWasKept();
+    expectHolder("held-and-return");
+}
+
+TEST_P(LanguagesTest, NothingMovesWhenNobodyAnswersWithoutAnInterface) {
+    launchWithTwoUnits();
+    const QRect unitsBefore = control<QWidget>("unitSelectPopUp").geometry();
+    DiscoveryFacts facts;
+    facts.asked = Everybody{.address = limitedBroadcastAddress};
+    facts.listed = 200;
+    facts.cause = localizedText("The request left, and nothing came back.");
+    window.outlets().discoveryLine->setMeansTrouble(true);
+    window.outlets().discoveryLine->setStringValue(discoveryLine(facts));
+    QTest::qWait(1);
+    EXPECT_EQ(control<QWidget>("unitSelectPopUp").geometry(), unitsBefore) << discoveryLine(facts);
+    takePicture(window, "nobody");
 }
 
 TEST_P(LanguagesTest, TheMenusFitTheScreen) {

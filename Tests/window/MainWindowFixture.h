@@ -13,6 +13,7 @@
 #include "doubles/RecordedSystemLog.h"
 #include "doubles/ScriptedAuthorizationService.h"
 #include "doubles/ScriptedHostResolver.h"
+#include "doubles/ScriptedNeighbours.h"
 #include "doubles/ScriptedNetworkInterfaces.h"
 #include "doubles/ScriptedSystemCalls.h"
 #include "platform/qt/LogTextView.h"
@@ -67,8 +68,9 @@ protected:
         runLoop.advanceBy(std::chrono::seconds(2));
     }
 
-    void receive(const Bytes& datagram) {
-        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520));
+    // By the interface with the index `link`; 0 when the system does not tell it.
+    void receive(const Bytes& datagram, std::uint32_t link = 0) {
+        systemCalls.queueDatagram(datagram, dataForAddress(addressToldIn(datagram), 3520), link);
         runLoop.makeReadable(systemCalls.lastDescriptor());
     }
 
@@ -156,6 +158,7 @@ protected:
     std::function<bool()> openHelp = [] { return true; }; // result of opening the help
     bool helpIsThere = true;
     ScriptedAuthorizationService authority;
+    ScriptedNeighbours neighbours;
     SessionRecord sessionRecord;
     std::map<std::string, std::string> files; // that were saved
     MainWindow window;
@@ -174,6 +177,7 @@ protected:
              },
          .authorizationService = &authority,
          .hasHelpPage = [this](std::string_view) { return helpIsThere; },
+         .neighbours = &neighbours,
          .saving = {.record = &sessionRecord,
                     .application = "KXConfig 9.9",
                     .counts = [] { return CaptureCounts(); },

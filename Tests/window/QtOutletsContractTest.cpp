@@ -1,6 +1,7 @@
 // The Qt controls keep the rules of the outlets.
 
 #include "contracts/OutletsContract.h"
+#include "contracts/PopUpButtonContract.h"
 #include "contracts/TableViewContract.h"
 #include "contracts/WindowContract.h"
 #include "platform/qt/QtAlert.h"

@@ -3,6 +3,7 @@
 
 #include "platform/qt/ScreenFit.h"
 
+#include "AllUnitsFixture.h"
 #include "InLanguage.h"
 #include "MainWindowFixture.h"
 
@@ -30,6 +31,8 @@ protected:
                window.screen()->availableGeometry().contains(onScreen);
     }
 };
+
+class AllUnitsScreenFit : public AllUnitsWindowTest {};
 
 } // namespace
 
@@ -73,6 +76,15 @@ TEST(ScreenFit, AWindowBeyondTheEdgeComesBackAndASmallOneStays) {
     window.move(screen.bottomRight() - QPoint(50, 20)); // afterwards the place is the person's own
     QTest::qWait(10);
     EXPECT_FALSE(screen.contains(window.frameGeometry()));
+}
+
+TEST_F(AllUnitsScreenFit, TheWindowAndItsFrameAreOnTheScreen) {
+    hearFour();
+    open();
+    QTest::qWait(10);
+    const QRect screen = window.screen()->availableGeometry();
+    EXPECT_TRUE(screen.contains(window.frameGeometry())) << window.frameGeometry().height();
+    EXPECT_GT(window.frameGeometry().height(), window.height());
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, ScreenFitTest, ::testing::Values("en", "de", "es", "fr", "ja"),

@@ -67,7 +67,21 @@ private:
     WaitingPanel _panel{_window};
 };
 
+// The same by a program without a screen, whose person sends it a signal.
+class InterruptedWaitingTrait {
+public:
+    Waiting& waiting() { return _waiting; }
+    void giveUpInTheNextWait() {
+        afterAWhile([this] { _waiting.giveUp(); });
+    }
+    void run(const std::function<void()>& test) { test(); }
+
+private:
+    EventLoopWaiting _waiting;
+};
+
 INSTANTIATE_TYPED_TEST_SUITE_P(EventLoop, WaitingContract, EventLoopWaitingTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(Interrupted, WaitingContract, InterruptedWaitingTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Panel, WaitingContract, WaitingPanelTrait);
 
 // A window with a button, and the number of times that it was painted.
@@ -85,6 +99,13 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override { ++paintings; }
 };
+
+TEST(EventLoopWaiting, WhatWasGivenUpEndsNoLaterWait) {
+    EventLoopWaiting waiting;
+    waiting.giveUp();
+    int asked = 0;
+    EXPECT_TRUE(waiting.until([&] { return ++asked == 5; }, sentence));
+}
 
 class WaitingPanelTest : public testing::Test {
 protected:

@@ -76,6 +76,7 @@ std::int32_t LinuxAuthorizationReference::begin(const std::string& toolPath,
     if (::access(program.c_str(), X_OK) != 0) {
         return errAuthorizationToolExecuteFailure;
     }
+    const auto untilDecided = asker();
     auto tool = start(program, arguments);
     if (tool == nullptr) {
         return errAuthorizationToolExecuteFailure;

@@ -60,6 +60,9 @@ protected:
     // The status code for a launcher that ended with this exit status before it became the tool.
     virtual std::int32_t refusalOf(int launcherStatus) const = 0;
 
+    // What has to be there while a person may be asked; null when that is nothing.
+    virtual std::shared_ptr<void> asker() { return nullptr; }
+
     // Begins to watch the authority that the launcher asks. The result says, whenever it is called,
     // whether the authority has fallen silent.
     virtual std::function<bool()> watchForSilence() = 0;

@@ -69,6 +69,7 @@ bool Socket::prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop) {
         _calls.setStatusFlags(_descriptor, _calls.statusFlags(_descriptor) | O_NONBLOCK) != 0) {
         return false;
     }
+    _calls.enablePacketInfo(_descriptor); // a capture has the address to which an answer came
     std::uint32_t address = 0;
     IPv6Octets unused{};
     addressForData(_calls.localAddress(_descriptor).value_or(Bytes()), address, unused, &_port);

@@ -3,6 +3,7 @@
 #include "platform/linux/ARPTool.h"
 #include "platform/linux/LinuxAuthorizationReference.h"
 #include "platform/linux/PolkitCheck.h"
+#include "platform/linux/TerminalAgent.h"
 
 namespace kx {
 
@@ -45,8 +46,9 @@ std::int32_t statusOf(PolkitAnswer answer) {
 
 class PolkitReference final : public LinuxAuthorizationReference {
 public:
-    PolkitReference(RunningTools& runningTools, Waiting& waiting)
-        : LinuxAuthorizationReference(runningTools, waiting) {}
+    PolkitReference(RunningTools& runningTools, Waiting& waiting, bool asksInTerminal)
+        : LinuxAuthorizationReference(runningTools, waiting)
+        , _asksInTerminal(asksInTerminal) {}
 
 private:
     std::int32_t obtain(const AuthorizationItem& right, bool mayAskPerson) override {
@@ -66,8 +68,8 @@ private:
     }
 
     // The launcher gives the tool its own environment. It refuses to start the tool when it finds
-    // one of a few variables in doubt, so it gets none. It must not ask in a terminal, because the
-    // user of a window does not look there.
+    // one of a few variables in doubt, so it gets none. It must not ask in a terminal itself,
+    // because the user of a window does not look there.
     std::unique_ptr<StartedTool> start(const std::string& program,
                                        const std::vector<std::string>& arguments) override {
         std::vector<std::string> words{"--disable-internal-agent", program};
@@ -77,23 +79,32 @@ private:
 
     std::string launcher() const override { return launcherName; }
 
+    std::shared_ptr<void> asker() override {
+        return _asksInTerminal ? TerminalAgent::start() : nullptr;
+    }
+
     std::int32_t refusalOf(int launcherStatus) const override {
         return launcherStatus == launcherDismissed ? errAuthorizationCanceled
                                                    : errAuthorizationDenied;
     }
 
     std::function<bool()> watchForSilence() override { return watchPolkitForSilence(); }
+
+    bool _asksInTerminal;
 };
 
 } // namespace
 
-PolkitAuthorizationService::PolkitAuthorizationService(RunLoop& loop, Waiting& waiting)
+PolkitAuthorizationService::PolkitAuthorizationService(RunLoop& loop, Waiting& waiting,
+                                                       bool asksInTerminal)
     : _runningTools(loop)
-    , _waiting(waiting) {}
+    , _waiting(waiting)
+    , _asksInTerminal(asksInTerminal) {}
 
 std::unique_ptr<AuthorizationReference> PolkitAuthorizationService::create() {
-    return isPolkitThere(_waiting) ? std::make_unique<PolkitReference>(_runningTools, _waiting)
-                                   : nullptr;
+    return isPolkitThere(_waiting)
+               ? std::make_unique<PolkitReference>(_runningTools, _waiting, _asksInTerminal)
+               : nullptr;
 }
 
 std::optional<std::string>

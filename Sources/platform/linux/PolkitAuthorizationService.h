@@ -38,8 +38,9 @@ namespace kx {
 
 class PolkitAuthorizationService final : public AuthorizationService {
 public:
-    // `loop` and `waiting` must outlive the service. Needs a QCoreApplication.
-    PolkitAuthorizationService(RunLoop& loop, Waiting& waiting);
+    // `loop` and `waiting` must outlive the service. Needs a QCoreApplication. `asksInTerminal`
+    // tells whether a person may be asked in the terminal of this process, where no desktop asks.
+    PolkitAuthorizationService(RunLoop& loop, Waiting& waiting, bool asksInTerminal);
 
     std::unique_ptr<AuthorizationReference> create() override;
     std::optional<std::string>
@@ -49,6 +50,7 @@ public:
 private:
     RunningTools _runningTools;
     Waiting& _waiting;
+    bool _asksInTerminal;
 };
 
 } // namespace kx

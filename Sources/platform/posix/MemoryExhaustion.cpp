@@ -10,7 +10,6 @@
 #include <memory>
 #include <new>
 #include <string_view>
-#include <vector>
 
 namespace kx {
 
@@ -18,10 +17,11 @@ namespace {
 
 constexpr std::string_view lastSentence = "There is no memory left, so the program ends.";
 
-// Freed for the last line, because writing a line takes memory.
-std::vector<std::byte>& reserve() {
+// Address space that is freed for the last line, because writing a line takes memory. Nothing
+// writes to it, so the system gives it no pages.
+std::unique_ptr<std::byte[]>& reserve() {
     constexpr std::size_t enoughForALine = std::size_t{1} << 20U;
-    static std::vector<std::byte> bytes(enoughForALine);
+    static auto bytes = std::make_unique_for_overwrite<std::byte[]>(enoughForALine);
     return bytes;
 }
 
@@ -46,7 +46,7 @@ bool isForWantOfMemory() {
         otherHandler();
         std::abort();
     }
-    reserve() = std::vector<std::byte>();
+    reserve().reset();
     try {
         logLastToSystem(lastSentence);
     } catch (...) {

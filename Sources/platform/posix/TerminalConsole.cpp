@@ -37,6 +37,14 @@ bool isDumb() {
 
 } // namespace
 
+TerminalConsole::Loan::Loan(TerminalConsole& console)
+    : _console(console) {
+    if (_console.canRewriteNotes()) {
+        _console.writeNote(beginningOfLine);
+    }
+    ++_console._loans;
+}
+
 void TerminalConsole::writeOutput(std::string_view text) {
     if (_outputError.has_value()) {
         return;
@@ -64,7 +72,7 @@ bool TerminalConsole::isInputTerminal() const {
 }
 
 bool TerminalConsole::canRewriteNotes() const {
-    return isNoteTerminal() && !isDumb();
+    return isNoteTerminal() && !isDumb() && _loans == 0;
 }
 
 bool TerminalConsole::isReaderGone() {

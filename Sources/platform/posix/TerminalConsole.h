@@ -8,6 +8,19 @@ namespace kx {
 
 class TerminalConsole final : public Console {
 public:
+    // While this object lives, another program may ask the person at the terminal. Its line is
+    // clear, and nothing is written over it.
+    class Loan {
+    public:
+        explicit Loan(TerminalConsole& console);
+        ~Loan() { --_console._loans; }
+        Loan(const Loan&) = delete;
+        Loan& operator=(const Loan&) = delete;
+
+    private:
+        TerminalConsole& _console;
+    };
+
     void writeOutput(std::string_view text) override;
     void writeNote(std::string_view text) override;
     const std::optional<Error>& outputError() const override { return _outputError; }
@@ -22,6 +35,7 @@ public:
 
 private:
     std::optional<Error> _outputError;
+    int _loans = 0; // one inside the other
 };
 
 } // namespace kx

@@ -7,6 +7,7 @@
 #include "platform/qt/AllUnitsView.h"
 #include "platform/qt/AnnouncedLabel.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 #include "words/QuotedText.h"
 
@@ -18,7 +19,6 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
 
@@ -92,7 +92,7 @@ AllUnitsWindow::AllUnitsWindow(AllUnits& units, Actions actions, QWidget* parent
                            layout->contentsMargins().right(),
                        preferredRows * _table.verticalHeader()->defaultSectionSize() +
                            sizeHint().height() - _table.sizeHint().height());
-    resize(wanted.boundedTo(screen()->availableGeometry().size()));
+    (new ScreenFit(*this))->resize(wanted);
     tellCount();
 }
 

@@ -1,6 +1,7 @@
 #include "platform/qt/DiagnosisWindow.h"
 
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
 
 #include <QApplication>
@@ -8,9 +9,9 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
-#include <QScreen>
 #include <QShortcut>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <utility>
 
 namespace kx {
@@ -90,6 +91,7 @@ void DiagnosisWindow::layOut() {
     _checks->setSelectionBehavior(QAbstractItemView::SelectRows);
     _checks->setTabKeyNavigation(false);
     _checks->setWordWrap(true);
+    _checks->horizontalHeader()->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     _checks->verticalHeader()->hide();
     _checks->verticalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     _checks->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
@@ -107,7 +109,7 @@ void DiagnosisWindow::layOut() {
     column->addWidget(_checks);
     column->addLayout(buttons);
     drawFrameOnPixels(*_checks);
-    resize(QSize(820, 560).boundedTo(screen()->availableGeometry().size()));
+    (new ScreenFit(*this))->resize(QSize(820, 560));
 }
 
 void DiagnosisWindow::showAndAsk() {
@@ -117,35 +119,66 @@ void DiagnosisWindow::showAndAsk() {
     ask();
 }
 
+// A button that is disabled gives the keyboard to the next one, where another press would do
+// something else. So it gets the keyboard back, unless a person has taken it elsewhere.
 void DiagnosisWindow::ask() {
+    QWidget* const before = focusWidget();
+    _focusBefore = nullptr;
     _diagnosis.ask([this] { showReport(); });
     if (_diagnosis.isAsking()) {
         _askButton->setEnabled(false);
         _copyButton->setEnabled(false);
+        _focusBefore = before;
+        _focusMeanwhile = focusWidget();
         _heading->say(localizedQtText("Asking. This takes a second, or three where nobody answers "
                                       "for an address."));
     }
 }
 
 void DiagnosisWindow::showReport() {
-    const auto& rows = _diagnosis.report().rows;
-    _checks->setRowCount(static_cast<int>(rows.size()));
-    for (int row = 0; row < _checks->rowCount(); ++row) {
-        const KXDiagnosis::Row& each = rows[static_cast<std::size_t>(row)];
-        const auto set = [this, row](Column column, const QString& text) {
-            _checks->setItem(row, column, new QTableWidgetItem(text));
-        };
-        set(checkColumn, qtText(each.title));
-        set(stateColumn, signOf(each.state) + ' ' + qtText(each.word));
-        set(evidenceColumn, qtText(each.evidence));
-        set(adviceColumn, qtText(each.advice));
-    }
+    showChecks();
     showHeading();
     _askButton->setEnabled(true);
     _copyButton->setEnabled(true);
-    if (focusWidget() == nullptr) {
-        _askButton->setFocus();
+    if (_focusBefore != nullptr && focusWidget() == _focusMeanwhile) {
+        _focusBefore->setFocus();
     }
+}
+
+// Where there is nothing to do, what was seen has the room. Otherwise the keyboard begins where
+// there is something to do, so that this is in sight in a low window, too.
+void DiagnosisWindow::showChecks() {
+    const auto& rows = _diagnosis.report().rows;
+    _checks->setRowCount(static_cast<int>(rows.size()));
+    int firstWithAdvice = -1;
+    for (int row = 0; row < _checks->rowCount(); ++row) {
+        const KXDiagnosis::Row& each = rows[static_cast<std::size_t>(row)];
+        showCheck(row, each);
+        if (firstWithAdvice < 0 && !each.advice.empty()) {
+            firstWithAdvice = row;
+        }
+    }
+    _checks->setColumnHidden(adviceColumn, firstWithAdvice < 0);
+    const QModelIndex start = _checks->model()->index(std::max(firstWithAdvice, 0), checkColumn);
+    _checks->selectionModel()->setCurrentIndex(start, QItemSelectionModel::NoUpdate);
+    _checks->resizeRowsToContents();
+    _checks->scrollTo(start);
+}
+
+void DiagnosisWindow::showCheck(int row, const KXDiagnosis::Row& check) {
+    QFont font;
+    font.setBold(check.state == CheckState::fail);
+    const auto set = [&](Column column, const QString& text) {
+        auto* const item = new QTableWidgetItem(text);
+        if (column == checkColumn || column == stateColumn) {
+            item->setFont(font);
+        }
+        _checks->setItem(row, column, item);
+    };
+    set(checkColumn, qtText(check.title));
+    set(stateColumn, signOf(check.state) + ' ' + qtText(check.word));
+    set(evidenceColumn, qtText(check.evidence));
+    set(adviceColumn, qtText(check.advice));
 }
 
 void DiagnosisWindow::showHeading() {

@@ -38,6 +38,8 @@ private:
     void layOut();
     void ask();
     void showReport();
+    void showChecks();
+    void showCheck(int row, const KXDiagnosis::Row& check);
     void showHeading();
     void copy() const;
 
@@ -49,6 +51,8 @@ private:
     QPushButton* _copyButton;
     QPushButton* _helpButton;
     QPushButton* _closeButton;
+    QWidget* _focusBefore = nullptr; // when it began to ask; null when nobody had the keyboard
+    const QWidget* _focusMeanwhile = nullptr;
 };
 
 } // namespace kx

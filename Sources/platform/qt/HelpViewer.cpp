@@ -1,6 +1,7 @@
 #include "platform/qt/HelpViewer.h"
 
 #include "platform/qt/Contrast.h"
+#include "platform/qt/HelpLanguage.h"
 #include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qt/ScreenFit.h"
 #include "platform/qtcore/QtText.h"
@@ -51,9 +52,10 @@ void HelpPageView::changeEvent(QEvent* event) {
     }
 }
 
-HelpViewer::HelpViewer(const QString& folder, QWidget* parent)
+HelpViewer::HelpViewer(const QString& folder, const QString& language, QWidget* parent)
     : QWidget(parent, Qt::Window)
     , _folder(folder)
+    , _language(language)
     , _pages(new HelpPageView(folder, this))
     , _findField(new QLineEdit(this))
     , _findResult(new AnnouncedLabel(this)) {
@@ -102,7 +104,7 @@ QPushButton* HelpViewer::addButton(const char* objectName, const QString& text,
 }
 
 QUrl HelpViewer::urlOfPage(const QString& page) const {
-    return QUrl::fromLocalFile(QDir(_folder).absoluteFilePath(page + ".html"));
+    return QUrl::fromLocalFile(fileInLanguage(QDir(_folder), page + ".html", _language));
 }
 
 void HelpViewer::showPage(const QString& page, const QString& book) {

@@ -46,8 +46,10 @@ class HelpViewer final : public QWidget {
     Q_OBJECT
 
 public:
-    // `folder` holds the pages; the first of them is "index.html".
-    explicit HelpViewer(const QString& folder, QWidget* parent = nullptr);
+    // `folder` holds the pages, in English and below it in other languages; see HelpLanguage.h. The
+    // first page is "index.html". Pages are shown in `language`, a name such as "de".
+    explicit HelpViewer(const QString& folder, const QString& language = "en",
+                        QWidget* parent = nullptr);
 
     // Shows the page "`page`.html" and brings the window to the front. The window's title has the
     // title of the page and `book`.
@@ -61,6 +63,7 @@ private:
     void find(QTextDocument::FindFlags direction);
 
     QString _folder;
+    QString _language;
     QString _book;
     HelpPageView* _pages; // the window owns these, and the buttons
     QLineEdit* _findField;

@@ -1,5 +1,6 @@
 #include "platform/qt/QtHelpServices.h"
 
+#include "platform/qt/HelpLanguage.h"
 #include "platform/qt/HelpViewer.h"
 #include "platform/qtcore/QtText.h"
 #include "support/LocalizedText.h"
@@ -46,9 +47,10 @@ bool desktopKnowsABrowser() {
 
 } // namespace
 
-QtHelpServices::QtHelpServices(QString resourceFolder, Browser browser)
+QtHelpServices::QtHelpServices(QString resourceFolder, Browser browser, QString language)
     : _resourceFolder(std::move(resourceFolder))
-    , _browser(browser) {}
+    , _browser(browser)
+    , _language(std::move(language)) {}
 
 QtHelpServices::Browser QtHelpServices::browserForUser(unsigned userID) {
     return userID == 0 ? Browser::isNot : Browser::isAllowed;
@@ -67,7 +69,7 @@ std::optional<std::string> QtHelpServices::pathForResource(std::string_view name
         return std::nullopt;
     }
     const QDir resources(QDir(_resourceFolder).filePath(qtText(folder)));
-    const QFileInfo file(resources, qtText(name) + '.' + qtText(type));
+    const QFileInfo file(fileInLanguage(resources, qtText(name) + '.' + qtText(type), _language));
     return file.isFile() ? std::optional(utf8Text(file.absoluteFilePath())) : std::nullopt;
 }
 
@@ -89,7 +91,8 @@ bool QtHelpServices::openAnchorInBook(std::string_view anchor, std::string_view 
         return false;
     }
     if (_viewer == nullptr || _viewer->isHidden()) {
-        _viewer = std::make_unique<HelpViewer>(QDir(_resourceFolder).filePath("homepage"));
+        _viewer =
+            std::make_unique<HelpViewer>(QDir(_resourceFolder).filePath("homepage"), _language);
     }
     _viewer->showPage(qtText(anchor), qtText(book));
     return true;

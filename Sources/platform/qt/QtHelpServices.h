@@ -20,8 +20,10 @@ public:
     };
 
     // `resourceFolder` is the folder of the program's resources. The pages are in its folder
-    // "homepage".
-    explicit QtHelpServices(QString resourceFolder, Browser browser = Browser::isAllowed);
+    // "homepage". `language`, a name such as "de", is that of the window; a page is opened in it
+    // where there is one, and in English elsewhere.
+    explicit QtHelpServices(QString resourceFolder, Browser browser = Browser::isAllowed,
+                            QString language = "en");
 
     // A browser that root starts shows the pages of the whole world with the rights of root, so
     // root reads the help in the viewer.
@@ -39,6 +41,7 @@ public:
 private:
     QString _resourceFolder;
     Browser _browser;
+    QString _language;
     std::unique_ptr<HelpViewer>
         _viewer; // null until it is first needed; a viewer that was closed is made anew
 };

@@ -1,8 +1,11 @@
 #include "platform/qt/SentenceLabel.h"
 
+#include "platform/qtcore/QtText.h"
+#include "support/LocalizedText.h"
+
 #include <QPainter>
 #include <QPainterPath>
-#include <algorithm>
+#include <QStringList>
 
 namespace kx {
 
@@ -17,6 +20,11 @@ void SentenceLabel::setReservedLines(int lines) {
     updateGeometry();
 }
 
+void SentenceLabel::setLeastLines(int lines) {
+    _leastLines = lines;
+    updateGeometry();
+}
+
 void SentenceLabel::setMeansTrouble(bool meansTrouble) {
     if (meansTrouble != this->meansTrouble()) {
         AnnouncedLabel::setMeansTrouble(meansTrouble);
@@ -28,11 +36,21 @@ void SentenceLabel::setMeansTrouble(bool meansTrouble) {
 
 // The window decides the width: no text makes the label wider.
 QSize SentenceLabel::sizeHint() const {
-    return {0, std::max(heightForWidth(width()), _reservedLines * fontMetrics().lineSpacing())};
+    return {0, std::max(heightForWidth(width()), heightOfLines(_reservedLines))};
 }
 
 QSize SentenceLabel::minimumSizeHint() const {
-    return sizeHint();
+    return {0, std::max(heightForWidth(width()), heightOfLines(leastLines()))};
+}
+
+// Letters that the label's font does not have come from another font, whose lines may be higher. So
+// this measures lines with both kinds of letters, as the label measures its text.
+int SentenceLabel::heightOfLines(int count) const {
+    const QString line = "Ag" + qtText(localizedText("Unit parameters"));
+    const QString lines = QStringList(count, line).join('\n');
+    constexpr QRect room(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    return std::max(count * fontMetrics().lineSpacing(),
+                    fontMetrics().boundingRect(room, 0, lines).height());
 }
 
 int SentenceLabel::widthOfSign() const {

@@ -11,17 +11,26 @@
 
 #include "platform/qt/AnnouncedLabel.h"
 
+#include <algorithm>
+#include <limits>
+
 namespace kx {
 
 class SentenceLabel final : public AnnouncedLabel {
     Q_OBJECT
     Q_PROPERTY(int reservedLines READ reservedLines WRITE setReservedLines)
+    Q_PROPERTY(int leastLines READ leastLines WRITE setLeastLines)
 
 public:
     explicit SentenceLabel(QWidget* parent = nullptr);
 
     int reservedLines() const { return _reservedLines; }
     void setReservedLines(int lines);
+
+    // A window that is too low for all of it keeps room for so many lines only. Without this, it
+    // keeps room for all reserved lines.
+    int leastLines() const { return std::min(_leastLines, _reservedLines); }
+    void setLeastLines(int lines);
 
     void setMeansTrouble(bool meansTrouble) override;
 
@@ -34,9 +43,11 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
 
 private:
+    int heightOfLines(int count) const;
     int widthOfSign() const;
 
     int _reservedLines = 2;
+    int _leastLines = std::numeric_limits<int>::max();
 };
 
 } // namespace kx

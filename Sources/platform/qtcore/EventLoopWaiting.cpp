@@ -47,8 +47,14 @@ EventsEnd handleEventsUntil(const std::function<bool()>& isDone, std::chrono::mi
 }
 
 bool EventLoopWaiting::until(const std::function<bool()>& isDone, std::string_view /*sentence*/) {
-    return handleEventsUntil(isDone, RunLoop::longestDelay, QEventLoop::ExcludeUserInputEvents) ==
-           EventsEnd::done;
+    const unsigned before = _timesGivenUp;
+    bool wasDone = false;
+    const auto isOver = [&] {
+        wasDone = isDone();
+        return wasDone || _timesGivenUp != before;
+    };
+    handleEventsUntil(isOver, RunLoop::longestDelay, QEventLoop::ExcludeUserInputEvents);
+    return wasDone;
 }
 
 } // namespace kx

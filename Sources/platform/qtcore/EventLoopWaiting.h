@@ -22,10 +22,16 @@ enum class EventsEnd {
 EventsEnd handleEventsUntil(const std::function<bool()>& isDone, std::chrono::milliseconds longest,
                             QEventLoop::ProcessEventsFlags flags);
 
-// Waits without a screen. Nobody can give up, but the application can be asked to end.
+// Waits without a screen. The application can be asked to end.
 class EventLoopWaiting final : public Waiting {
 public:
     bool until(const std::function<bool()>& isDone, std::string_view sentence) override;
+
+    // The person gives up what is waited for now. A later wait knows nothing of it.
+    void giveUp() { ++_timesGivenUp; }
+
+private:
+    unsigned _timesGivenUp = 0;
 };
 
 } // namespace kx

@@ -29,13 +29,14 @@ QString newConnectionName() {
     return QString("kx-system-bus-%1").arg(++count);
 }
 
-// The connection; it is not open when the bus does not answer.
-QDBusConnection connectionToBus(std::chrono::milliseconds patience) {
+// Absent when the bus does not answer. The toolkit starts a thread for its first connection, open
+// or not; a host without a bus does without that.
+std::optional<QDBusConnection> connectionToBus(std::chrono::milliseconds patience) {
     const QString address = busAddress();
-    const QString name = newConnectionName();
-    return busAnswers(address.toLocal8Bit().toStdString(), patience)
-               ? QDBusConnection::connectToPeer(address, name)
-               : QDBusConnection(name);
+    if (!busAnswers(address.toLocal8Bit().toStdString(), patience)) {
+        return std::nullopt;
+    }
+    return QDBusConnection::connectToPeer(address, newConnectionName());
 }
 
 } // namespace
@@ -44,16 +45,18 @@ SystemBus::SystemBus(std::function<void(const QDBusMessage&)> heard,
                      std::chrono::milliseconds patience)
     : _heard(std::move(heard))
     , _connection(connectionToBus(patience)) {
-    if (!isOpen()) {
+    if (!_connection.has_value() || !_connection->isConnected()) {
         return;
     }
-    _connection.connect(QString(), localPath, localInterface, disconnectedSignal, this,
-                        SLOT(receive(QDBusMessage)));
-    _connection.send(busCall("Hello"));
+    _connection->connect(QString(), localPath, localInterface, disconnectedSignal, this,
+                         SLOT(receive(QDBusMessage)));
+    _connection->send(busCall("Hello"));
 }
 
 SystemBus::~SystemBus() {
-    QDBusConnection::disconnectFromPeer(_connection.name());
+    if (_connection.has_value()) {
+        QDBusConnection::disconnectFromPeer(_connection->name());
+    }
 }
 
 bool SystemBus::endsConnection(const QDBusMessage& signal) {
@@ -62,6 +65,9 @@ bool SystemBus::endsConnection(const QDBusMessage& signal) {
 
 void SystemBus::hearSignals(const QString& sender, const QString& interface, const QString& name,
                             const QString& firstArgument) {
+    if (!_connection.has_value()) {
+        return;
+    }
     QString rule = QString("type='signal',sender='%1',interface='%2',member='%3'")
                        .arg(sender, interface, name);
     if (!firstArgument.isEmpty()) {
@@ -69,10 +75,10 @@ void SystemBus::hearSignals(const QString& sender, const QString& interface, con
     }
     QDBusMessage request = busCall("AddMatch");
     request << rule;
-    _connection.send(request);
+    _connection->send(request);
     // The second call for an interface and a name, with another first argument, is refused and is
     // not needed.
-    _connection.connect(QString(), QString(), interface, name, this, SLOT(receive(QDBusMessage)));
+    _connection->connect(QString(), QString(), interface, name, this, SLOT(receive(QDBusMessage)));
 }
 
 QDBusPendingCall SystemBus::owner(const QString& service) {
@@ -82,8 +88,12 @@ QDBusPendingCall SystemBus::owner(const QString& service) {
 }
 
 QDBusPendingCall SystemBus::call(QDBusMessage message, std::chrono::milliseconds patience) {
+    if (!_connection.has_value()) {
+        return QDBusPendingCall::fromError(
+            QDBusError(QDBusError::Disconnected, "There is no connection to the bus"));
+    }
     message.setAutoStartService(false);
-    return _connection.asyncCall(message, static_cast<int>(patience.count()));
+    return _connection->asyncCall(message, static_cast<int>(patience.count()));
 }
 
 void SystemBus::receive(const QDBusMessage& signal) {

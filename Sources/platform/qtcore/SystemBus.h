@@ -18,6 +18,7 @@
 #include <QString>
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace kx {
 
@@ -36,7 +37,7 @@ public:
 
     // Whether there is a connection. When the connection ends, a signal arrives for which
     // endsConnection() is true.
-    bool isOpen() const { return _connection.isConnected(); }
+    bool isOpen() const { return _connection.has_value() && _connection->isConnected(); }
     static bool endsConnection(const QDBusMessage& signal);
 
     // Asks the bus for a sender's signals with a name and, where one is given, with this text as
@@ -64,7 +65,7 @@ private:
     QDBusMessage busCall(const QString& method) const;
 
     std::function<void(const QDBusMessage&)> _heard;
-    QDBusConnection _connection;
+    std::optional<QDBusConnection> _connection; // absent without a bus
 };
 
 } // namespace kx

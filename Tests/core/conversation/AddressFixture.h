@@ -13,6 +13,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kx {
@@ -49,11 +50,21 @@ public:
     std::vector<std::string> calls;
     ARPEntry answerToBind{.state = ARPEntryState::started};
     ARPEntry answerToRelease{.state = ARPEntryState::started};
+    std::function<void()> onBind;
     std::function<void()> onRelease;
+    bool asksAPerson = false; // who answers when the test calls `answer`
+    Done answer;
 
     void bind(const std::string& address, const std::string& hardwareAddress, Done done) override {
         calls.push_back("bind " + address + " " + hardwareAddress);
-        done(answerToBind);
+        if (onBind) {
+            onBind();
+        }
+        if (asksAPerson) {
+            answer = std::move(done);
+        } else {
+            done(answerToBind);
+        }
     }
     void release(const std::string& address, const std::string& hardwareAddress,
                  Done done) override {
@@ -62,6 +73,12 @@ public:
             onRelease();
         }
         done(answerToRelease);
+    }
+    void giveUp() override {
+        calls.emplace_back("give up");
+        if (answer) {
+            std::exchange(answer, nullptr)({.state = ARPEntryState::rightsNotGiven});
+        }
     }
 };
 

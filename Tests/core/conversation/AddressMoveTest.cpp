@@ -154,9 +154,34 @@ TEST_F(AddressMoveTest, AnInterruptionBeforeTheCommandSendsNothing) {
     EXPECT_TRUE(bindings.calls.empty());
 }
 
+TEST_F(AddressMoveTest, AnInterruptionTakesTheQuestionForRightsBack) {
+    bindings.asksAPerson = true;
+    beginAtFreeAddress();
+    sent();
+    move->interrupt();
+    EXPECT_TRUE(hasEnded);
+    EXPECT_EQ(move->state(), MoveState::notBound);
+    EXPECT_EQ(bindings.calls.back(), "give up");
+    runLoop.advanceBy(5000ms);
+    EXPECT_EQ(sent(), Lines{});
+}
+
+TEST_F(AddressMoveTest, AnEntryThatWasMadeDuringAnInterruptionIsTakenOutAgain) {
+    bindings.asksAPerson = true;
+    beginAtFreeAddress();
+    const auto answer = std::exchange(bindings.answer, nullptr); // it is too late to give up
+    move->interrupt();
+    EXPECT_FALSE(hasEnded);
+    answer({.state = ARPEntryState::started});
+    EXPECT_TRUE(hasEnded);
+    EXPECT_EQ(bindings.calls.back(), "release 192.168.1.50 00:1A:2B:3C:4D:5E");
+    EXPECT_EQ(move->command(), nullptr);
+}
+
 TEST_F(AddressMoveTest, AnInterruptionAfterTheCommandFinishesTheMove) {
     beginAtFreeAddress();
     move->interrupt();
+    EXPECT_EQ(bindings.calls.size(), 1U) << "nothing is given up any more";
     EXPECT_FALSE(hasEnded);
     answerAtNewAddress();
     setEntry(NeighbourState::reachable, unitHardware);

@@ -73,6 +73,20 @@ TEST_F(ChosenInterfaceTest, SaysWhenItHasLostItsAddress) {
     EXPECT_EQ(faultOf(before), "lost its address");
 }
 
+TEST_F(ChosenInterfaceTest, AnAddressThatIsOnlySavedForItIsLost) {
+    const ChosenInterface before = chosen();
+    interfaces.loseAddresses("eth0");
+    EXPECT_EQ(chosen().address, before.address) << "choosing it again would give the same";
+    EXPECT_EQ(faultOf(before), "lost its address");
+    EXPECT_FALSE(broadcastCanLeave(interfaces, "eth0", ipForString("192.168.1.255")));
+    EXPECT_TRUE(broadcastCanLeave(interfaces, "eth0", ipForString("255.255.255.255")));
+}
+
+TEST_F(ChosenInterfaceTest, AnInterfaceThatNeverHadAnAddressHasLostNone) {
+    interfaces.clear();
+    EXPECT_EQ(faultOf(chosen()), "none");
+}
+
 TEST_F(ChosenInterfaceTest, ReachesNobodyByBroadcastInASubnetOfTwoAddressesOrOne) {
     for (const char* const mask : {"255.255.255.255", "255.255.255.254"}) {
         configure("192.168.1.20", mask);

@@ -141,7 +141,41 @@ TEST_F(DiscoveryFindingsTest, TwoSerialNumbersMayNotHaveOneAddress) {
     tell({});
     EXPECT_TRUE(tell({.serial = secondUnit, .hardwareAddress = secondMAC}));
     EXPECT_EQ(findings.all(),
-              Findings{(TwoSerialsOfOneAddress{0xC0A8010AU, firstUnit, secondUnit})});
+              Findings{(SerialsOfOneAddress{0xC0A8010AU, {firstUnit, secondUnit}})});
+}
+
+TEST_F(DiscoveryFindingsTest, EverySerialNumberOfOneAddressIsListedOnce) {
+    const std::string thirdUnit = "01 02 03 04 05 08";
+    for (int i = 0; i < 2; ++i) {
+        for (const std::string& unit : {firstUnit, secondUnit, thirdUnit}) {
+            tell({.serial = unit, .hardwareAddress = ""});
+        }
+    }
+    EXPECT_EQ(findings.all(),
+              Findings{(SerialsOfOneAddress{0xC0A8010AU, {firstUnit, secondUnit, thirdUnit}})});
+}
+
+TEST_F(DiscoveryFindingsTest, NotMoreThanAHundredSerialNumbersOfOneAddressAreListed) {
+    for (int i = 100; i < 300; ++i) {
+        tell({.serial = "01 02 03 04 0" + std::to_string(i / 100) + ' ' +
+                        std::to_string(i % 100 + 100).substr(1),
+              .hardwareAddress = ""});
+    }
+    ASSERT_EQ(findings.all().size(), 1U);
+    const auto found = findings.all();
+    EXPECT_EQ(std::get<SerialsOfOneAddress>(found.front()).serials.size(), 100U);
+}
+
+TEST_F(DiscoveryFindingsTest, AUnitThatGivesTheAddressUpIsNoneOfThoseThatHaveIt) {
+    const std::string thirdUnit = "01 02 03 04 05 08";
+    tell({.hardwareAddress = ""});
+    tell({.serial = secondUnit, .hardwareAddress = ""});
+    findings.expectChange(secondUnit);
+    tell({secondUnit, "192.168.1.11", "192.168.1.11", ""});
+    tell({.hardwareAddress = ""});
+    tell({.serial = thirdUnit, .hardwareAddress = ""});
+    EXPECT_EQ(findings.all(), (Findings{SerialsOfOneAddress{0xC0A8010AU, {firstUnit, secondUnit}},
+                                        SerialsOfOneAddress{0xC0A8010AU, {firstUnit, thirdUnit}}}));
 }
 
 TEST_F(DiscoveryFindingsTest, UnitsWithoutAnAddressDoNotShareOne) {

@@ -121,6 +121,7 @@ TEST_F(LastAddressRequestsTest, ManyUnitsAreAskedInGroups) {
     for (int i = 0; i < 250; ++i) {
         SampleUnit unit;
         unit.serial.back() = static_cast<std::uint8_t>(i);
+        unit.internalIP = {10, 0, 0, static_cast<std::uint8_t>(i)};
         many.push_back(heardUnit(unit));
     }
     begin(many);
@@ -131,6 +132,23 @@ TEST_F(LastAddressRequestsTest, ManyUnitsAreAskedInGroups) {
     EXPECT_EQ(sent().size(), 50U);
     runLoop.advanceBy(180ms);
     EXPECT_EQ(sent().size(), 100U) << "the next try begins 0.2 s after the one before";
+}
+
+// Somebody tells the address of a host that has nothing to do with it, as that of many units.
+TEST_F(LastAddressRequestsTest, InventedUnitsFloodNobody) {
+    std::vector<HeardUnit> invented;
+    for (int i = 0; i < 250; ++i) {
+        SampleUnit unit;
+        unit.serial.back() = static_cast<std::uint8_t>(i);
+        invented.push_back(heardUnit(unit));
+        invented.back().record.setValue(UnitParameter::devicePortNumber, std::to_string(1000 + i));
+    }
+    begin(invented);
+    runLoop.advanceBy(5000ms);
+    EXPECT_EQ(sent().size(), 128U) << "16 units, eight times";
+    EXPECT_TRUE(requests->wasAsked(invented[15]));
+    EXPECT_FALSE(requests->wasAsked(invented[16])) << "so nobody calls it missing";
+    EXPECT_TRUE(requests->hasEnded());
 }
 
 TEST_F(LastAddressRequestsTest, AnInterruptionEndsIt) {

@@ -81,6 +81,19 @@ TEST(UnitDestination, EverybodyIsReachedByTheChosenLink) {
     EXPECT_EQ(destinationOfUnit(nullptr, Everybody()).link, 0U);
 }
 
+TEST(UnitDestination, ABroadcastLeavesByTheChosenLinkWhicheverUnitTellsItAsItsAddress) {
+    const auto linkTo = [](std::string_view address, Everybody all) {
+        UnitRecord record;
+        record.setValue(internalIPAddress, address);
+        record.setLink(3);
+        return destinationOfUnit(&record, all).link;
+    };
+    EXPECT_EQ(linkTo("255.255.255.255", everybody), 7U);
+    EXPECT_EQ(linkTo("192.168.1.255", everybody), 7U);
+    EXPECT_EQ(linkTo("192.168.1.254", everybody), 3U);
+    EXPECT_EQ(linkTo("255.255.255.255", Everybody()), 3U) << "nothing is chosen";
+}
+
 TEST(UnitDestination, APortIsCutTo16Bits) {
     EXPECT_EQ(destinationOf("192.168.1.10", "70000").port, 4464);
 }

@@ -86,6 +86,56 @@ TEST_F(UnitWatchTest, AUnitThatMissedARequestIsAskedAtItsOwnAddressToo) {
     EXPECT_EQ(sent(), Lines{request});
 }
 
+TEST_F(UnitWatchTest, ASilentUnitIsAskedWithEverybodyOnly) {
+    begin({});
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(3000ms);
+    sent();
+    runLoop.advanceBy(1000ms);
+    EXPECT_EQ(taken().back(), "silent 06");
+    EXPECT_EQ(sent(), Lines{request});
+    runLoop.advanceBy(3000ms);
+    EXPECT_EQ(sent(), (Lines{request, request, request}));
+    receive(SampleUnit().reply());
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(sent(), (Lines{request, request, requestToUnit})) << "it is back";
+}
+
+// Somebody tells the address of a host that has nothing to do with it, as that of many units.
+TEST_F(UnitWatchTest, InventedUnitsFloodNobody) {
+    begin({});
+    SampleUnit invented;
+    for (int i = 0; i < 1000; ++i) {
+        invented.serial[4] = static_cast<std::uint8_t>(i / 256);
+        invented.serial[5] = static_cast<std::uint8_t>(i % 256);
+        receive(invented.reply());
+    }
+    runLoop.advanceBy(1000ms);
+    sent();
+    runLoop.advanceBy(2000ms);
+    EXPECT_EQ(sent(), (Lines{request, requestToUnit, request, requestToUnit}));
+    runLoop.advanceBy(60000ms);
+    EXPECT_EQ(sent(), Lines(60, request));
+}
+
+TEST_F(UnitWatchTest, InventedUnitsOfManyAddressesHaveItSendLittle) {
+    begin({});
+    SampleUnit invented;
+    for (int i = 0; i < 1000; ++i) {
+        invented.serial[4] = invented.internalIP[2] = static_cast<std::uint8_t>(i / 256);
+        invented.serial[5] = invented.internalIP[3] = static_cast<std::uint8_t>(i % 256);
+        receive(invented.reply());
+    }
+    runLoop.advanceBy(1000ms);
+    sent();
+    for (int i = 0; i < 2; ++i) {
+        runLoop.advanceBy(1000ms);
+        EXPECT_EQ(sent().size(), 1 + UnitWatch::mostAskedAlone);
+    }
+    runLoop.advanceBy(60000ms);
+    EXPECT_EQ(sent(), Lines(60, request));
+}
+
 TEST_F(UnitWatchTest, EndsAfterItsTime) {
     begin({.duration = 2500ms});
     runLoop.advanceBy(10000ms);

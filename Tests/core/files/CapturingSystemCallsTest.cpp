@@ -161,4 +161,26 @@ TEST_F(CapturingSystemCallsTest, CountsWhatCameAndWhatTheSystemDroppedFromEveryS
     EXPECT_EQ(calls.counts().dropped, 6U);
 }
 
+TEST_F(CapturingSystemCallsTest, CountsWhatTheSystemDropsFromSeveralSocketsAtTheSameTime) {
+    const int second = calls.socket();
+    calls.bind(second, dataForAddress(0, 3521));
+    receiveBuffers.drop(descriptor, 4);
+    receiveBuffers.drop(second, 2);
+    EXPECT_EQ(calls.counts().dropped, 6U);
+    calls.close(descriptor);
+    EXPECT_EQ(calls.counts().dropped, 6U);
+    calls.close(second);
+    EXPECT_EQ(calls.counts().dropped, 6U);
+}
+
+TEST_F(CapturingSystemCallsTest, EachOfSeveralSocketsIsReadWithoutAskingTheSystemForAnythingElse) {
+    const int second = calls.socket();
+    calls.bind(second, dataForAddress(0, 3521));
+    inner.queueDatagram(threeBytes, dataForAddress(unit, 10000));
+    const std::size_t before = inner.calls().size();
+    EXPECT_EQ(receive(), 3);
+    EXPECT_EQ(inner.calls().size(), before + 1);
+    EXPECT_EQ(latest(), "5 192.0.2.11:10000 > 0.0.0.0:3520");
+}
+
 } // namespace kx

@@ -91,6 +91,24 @@ TEST(SessionRecord, ACommentIsThatOfTheNextOwnDatagramAndOfNoOther) {
     EXPECT_EQ(all[3].comment, "");
 }
 
+TEST(SessionRecord, ACommentThatADatagramBringsAlongIsItsOwn) {
+    SessionRecord record;
+    record.commentNextSend("a request");
+    CapturedDatagram probe = datagramAt(1, true);
+    probe.comment = "a probe";
+    record.keep(probe, Bytes{1});
+    record.keep(datagramAt(2, true), Bytes{2});
+    CapturedDatagram answer = datagramAt(3);
+    const std::string longComment(70'000, 'x');
+    answer.comment = longComment;
+    record.keep(answer, Bytes{3});
+    const auto all = allOf(record);
+    ASSERT_EQ(all.size(), 3U);
+    EXPECT_EQ(all[0].comment, "a probe");
+    EXPECT_EQ(all[1].comment, "a request");
+    EXPECT_EQ(all[2].comment, longComment.substr(0, 65'535));
+}
+
 TEST(SessionRecord, KeepsTheLastFourMebibytesAndForgetsTheOldestFirst) {
     SessionRecord record;
     constexpr int sent = 200'000;

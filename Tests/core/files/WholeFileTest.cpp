@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -141,9 +142,34 @@ TEST_F(WholeFileTest, WhereNoFileCanBeReplacedIsSeenBefore) {
 TEST_F(WholeFileTest, AFileThatWasLeftBehindIsNotTakenForItsOwn) {
     const std::string left = ".kxnew-" + std::to_string(::getpid()) + "-0";
     put(left, "of a process that was killed");
-    ASSERT_EQ(replaceFile(path("file"), "new"), std::nullopt);
-    EXPECT_EQ(contentsOf(path("file")), "new");
+    for (const char* text : {"made", "replaced"}) {
+        ASSERT_EQ(replaceFile(path("file"), text), std::nullopt);
+        EXPECT_EQ(contentsOf(path("file")), text);
+    }
     EXPECT_EQ(contentsOf(path(left)), "of a process that was killed");
+    EXPECT_EQ(filesInFolder(), 2U);
+}
+
+// The system kills the child when its file grows beyond the limit.
+TEST_F(WholeFileTest, AProcessThatIsKilledWhileItWritesLeavesNothing) {
+    put("file", "old");
+    for (const char* name : {"file", "fresh"}) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            const rlimit limit{10, 10};
+            const rlimit noCore{0, 0};
+            ::setrlimit(RLIMIT_FSIZE, &limit);
+            ::setrlimit(RLIMIT_CORE, &noCore);
+            replaceFile(path(name), std::string(100, 'x'));
+            ::_exit(0);
+        }
+        int status = 0;
+        ASSERT_EQ(::waitpid(child, &status, 0), child);
+        EXPECT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGXFSZ) << status;
+    }
+    EXPECT_EQ(contentsOf(path("file")), "old");
+    EXPECT_EQ(filesInFolder(), 1U);
 }
 
 } // namespace kx

@@ -20,8 +20,11 @@ constexpr std::string_view thirdOfRounds = "01 02 03 04 05 08";
 class UnitRegistryRounds : public testing::Test {
 protected:
     void tell(std::string_view serial, std::string_view port = "10000",
-              std::string_view address = "192.0.2.11") {
+              std::string_view address = "192.0.2.11", std::string_view hardware = "") {
         UnitRecord record;
+        if (!hardware.empty()) {
+            record.setValue(internalMACAddress, hardware);
+        }
         record.setValue(serialNumber, serial);
         record.setValue(devicePortNumber, port);
         record.setValue(internalIPAddress, address);
@@ -113,6 +116,36 @@ TEST_F(UnitRegistryRounds, AForgottenUnitIsNeitherSilentNorOneThatAnswered) {
     tell("01 02 03 04 05 0A");
     EXPECT_EQ(registry.round().answered, 3U) << "the second one is forgotten";
     EXPECT_FALSE(registry.hasAnswered(secondOfRounds));
+}
+
+TEST_F(UnitRegistryRounds, AUnitThatTakesTheExpectedSerialNumberStaysTheSameUnit) {
+    const auto tellAs = [this](std::string_view serial) {
+        tell(serial, "10000", "192.0.2.11", "02:00:00:00:00:01");
+    };
+    registry.beginRound();
+    tellAs(firstOfRounds);
+    registry.expectSerialNumber(firstOfRounds, secondOfRounds);
+    tellAs(secondOfRounds);
+    EXPECT_EQ(tally(), "answered 1 added 1 changed 0 back 0 silent 0");
+    EXPECT_EQ(registry.round().renamed, 1U);
+    registry.beginRound();
+    EXPECT_EQ(tally(), "answered 0 added 0 changed 0 back 0 silent 1");
+    EXPECT_EQ(registry.silentUnit(), secondOfRounds) << "the other number is nobody's";
+    tellAs(secondOfRounds);
+    EXPECT_EQ(tally(), "answered 1 added 0 changed 0 back 0 silent 0");
+    registry.expectSerialNumber(secondOfRounds, firstOfRounds);
+    tellAs(firstOfRounds);
+    EXPECT_EQ(tally(), "answered 1 added 0 changed 0 back 0 silent 0") << "and back again";
+    EXPECT_EQ(registry.round().renamed, 0U) << "the number was known";
+}
+
+TEST_F(UnitRegistryRounds, ANewSerialNumberOfAnotherHardwareAddressIsAnotherUnit) {
+    registry.beginRound();
+    tell(firstOfRounds, "10000", "192.0.2.11", "02:00:00:00:00:01");
+    registry.expectSerialNumber(firstOfRounds, secondOfRounds);
+    tell(secondOfRounds, "10000", "192.0.2.11", "02:00:00:00:00:02");
+    EXPECT_EQ(tally(), "answered 2 added 2 changed 0 back 0 silent 0");
+    EXPECT_EQ(registry.round().renamed, 0U);
 }
 
 TEST_F(UnitRegistryRounds, WhoIsNotKnownHasNotAnswered) {

@@ -191,9 +191,42 @@ TEST(DiscoveryLineText, AContradictionWeighsMoreThanLateUnitsAndTheyMoreThanDiff
     facts.late = 1;
     facts.units.added = {1, serial};
     EXPECT_EQ(discoveryLine(facts), "1 unit answered late. Discover again to list it.");
-    const TwoSerialsOfOneAddress twice{0xC000020BU, serial, "4B 58 00 00 00 04"};
+    const SerialsOfOneAddress twice{0xC000020BU, {serial, "4B 58 00 00 00 04"}};
     facts.finding = twice;
     EXPECT_EQ(discoveryLine(facts), textOfFinding(twice));
+}
+
+TEST(DiscoveryLineText, MeansTroubleWhenNobodyWasAskedOrHasAnsweredAndWhenAnswersAreDoubtful) {
+    EXPECT_FALSE(meansTrouble(underWay(0)));
+    EXPECT_FALSE(meansTrouble(factsOf(2, 2)));
+    EXPECT_TRUE(meansTrouble(factsOf(0, 2)));
+    DiscoveryFacts facts = underWay(0);
+    facts.finding = DroppedDatagrams{5};
+    EXPECT_FALSE(meansTrouble(facts)) << "the line counts";
+    facts.isUnderWay = false;
+    facts.units.answered = 2;
+    EXPECT_TRUE(meansTrouble(facts));
+    facts = underWay(0);
+    facts.finding = InterfaceFinding{InterfaceFault::gone, "kx0"};
+    EXPECT_TRUE(meansTrouble(facts));
+    facts = underWay(0);
+    facts.requestFailure = "Network is unreachable";
+    EXPECT_TRUE(meansTrouble(facts));
+    facts = underWay(0);
+    facts.listenerError = posixError(EADDRINUSE);
+    EXPECT_TRUE(meansTrouble(facts));
+}
+
+TEST(DiscoveryLineText, UnitsThatAreMissingLateOrChangedMeanNoTrouble) {
+    DiscoveryFacts facts = factsOf(2, 4);
+    facts.units.silent = 2;
+    EXPECT_FALSE(meansTrouble(facts));
+    facts = factsOf(2, 2);
+    facts.late = 1;
+    EXPECT_FALSE(meansTrouble(facts));
+    facts = factsOf(2, 2);
+    facts.units.changed = {1, serial};
+    EXPECT_FALSE(meansTrouble(facts));
 }
 
 TEST(DiscoveryLineText, NamesInterfacesAsTheHostDoes) {

@@ -49,13 +49,24 @@ TEST(FindingText, SaysThatTheListLeavesUnitsOut) {
               "heard for longest.");
 }
 
+TEST(FindingText, SaysHowManyUnitsHaveOneAddressWhereThereAreMoreThanTwo) {
+    SerialsOfOneAddress units{0x0A000007U,
+                              {"01 02 03 04 05 06", "01 02 03 04 05 07", "01 02 03 04 05 08"}};
+    EXPECT_EQ(textOfFinding(units),
+              "3 units say that their address is 10.0.0.7, among them 01 02 03 04 05 06 and 01 02 "
+              "03 04 05 07. A command may reach any of them.");
+    units.serials.resize(SerialsOfOneAddress::mostSerials);
+    EXPECT_TRUE(textOfFinding(units).starts_with(
+        "100 units or more say that their address is 10.0.0.7, among them"));
+}
+
 TEST(FindingText, NamesTheHostsAndUnitsThatContradictEachOther) {
     EXPECT_EQ(textOfFinding(TwoHostsOfOneSerial{"01 02 03 04 05 06", "10.0.0.7", "10.0.0.9"}),
               "Two hosts answer as the unit 01 02 03 04 05 06: 10.0.0.7 and 10.0.0.9.");
-    EXPECT_EQ(textOfFinding(
-                  TwoSerialsOfOneAddress{0x0A000007U, "01 02 03 04 05 06", "01 02 03 04 05 07"}),
-              "Two units say that their address is 10.0.0.7: 01 02 03 04 05 06 and 01 02 03 04 05 "
-              "07. A command may reach either.");
+    EXPECT_EQ(
+        textOfFinding(SerialsOfOneAddress{0x0A000007U, {"01 02 03 04 05 06", "01 02 03 04 05 07"}}),
+        "Two units say that their address is 10.0.0.7: 01 02 03 04 05 06 and 01 02 03 04 05 "
+        "07. A command may reach either.");
     EXPECT_EQ(textOfFinding(SenderOfAnotherAddress{"01 02 03 04 05 06", 0x0A000007U, 0x0A000009U}),
               "The unit 01 02 03 04 05 06 says that its address is 10.0.0.7, but its answer came "
               "from 10.0.0.9.");

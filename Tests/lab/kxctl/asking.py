@@ -175,6 +175,7 @@ class Discover(Test):
         quiet = kxctl("discover", "--expect", "3", "--quiet")
         self.assertEqual(quiet.err, "")
         self.assertEqual(kxctl("discover", "--expect", "3").err, "")
+        self.assertIn("does not answer", kxctl("show", "4B58000000FF", "--quiet").err)
 
 
 class Show(Test):

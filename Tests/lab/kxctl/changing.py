@@ -3,10 +3,11 @@
 import os
 import pty
 import signal
+import socket
 import subprocess
 import time
 
-from program import (FIRST, Test, commands_heard, end_of, heard, kxctl, main, restore_units,
+from program import (FIRST, Test, commands_heard, end_of, eventually, heard, kxctl, main, restore_units,
                      seen_until, start)
 
 
@@ -121,7 +122,10 @@ class Set(Test):
         self.assertEqual(commands_heard(before), [])
 
     def test_a_serial_number_that_two_have_is_ambiguous(self):
-        self.changed("serial=4B5800000001", unit="4B5800000002")
+        before = len(heard())
+        with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as sender:  # kxctl would refuse it
+            sender.sendto(b"^^IdS4B5800000001", ("192.0.2.12", 10000))
+        self.assertTrue(eventually(lambda: commands_heard(before)))
         discovered = kxctl("discover", "--json").document
         self.assertEqual(discovered["duplicates"],
                          [{"serial": FIRST, "internal_macs": ["02:4B:58:00:00:01",
@@ -129,6 +133,13 @@ class Set(Test):
         self.assertEqual([warning["code"] for warning in discovered["warnings"]], ["ambiguous"])
         before = len(heard())
         self.assertEnds(kxctl("set", "4B5800000001", "unit-id=A", "--json"), 1, "ambiguous")
+        self.assertEqual(commands_heard(before), [])
+
+    def test_a_serial_number_that_another_unit_has_is_refused(self):
+        before = len(heard())
+        result = kxctl("set", "4B5800000002", "unit-id=A", "serial=4B5800000001", "--json")
+        self.assertEnds(result, 1, "ambiguous")
+        self.assertIn("02:4B:58:00:00:01", result.err)
         self.assertEqual(commands_heard(before), [])
 
     def test_a_unit_id_that_two_have_is_ambiguous(self):
@@ -217,7 +228,7 @@ class Option(Test):
         self.assertEqual(commands_heard(before), [("4B5800000001", "^^Idnonsense\r")])
 
     def test_a_text_is_sent_as_it_stands(self):
-        for text in ("[V]", "[a,b]", "{}", "a,b"):
+        for text in ("[V]", "[a,b]", "{}", "a,b", "++"):
             before = len(heard())
             kxctl("option", "4B5800000001", text)
             self.assertEqual(commands_heard(before), [("4B5800000001", f"^^Id{text}\r")])

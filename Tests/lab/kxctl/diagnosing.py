@@ -9,6 +9,7 @@ import pathlib
 import shutil
 import signal
 import socket
+import struct
 import subprocess
 import sys
 import tempfile
@@ -273,6 +274,16 @@ class CommandLine(Test):
             self.assertEnds(kxctl("diagnose", "--capture", path), 0)
             capture = pathlib.Path(path).read_bytes()
         self.assertIn(socket.inet_aton("255.255.255.255"), capture)
+
+    def test_a_capture_counts_what_the_listener_lost_while_other_sockets_were_open(self):
+        with tempfile.TemporaryDirectory() as folder:
+            path = os.path.join(folder, "capture")
+            result = diagnose_with_a_full_buffer("--capture", path)
+            end = pathlib.Path(path).read_bytes()[-52:]
+        self.assertEqual(causes_of(result), ["dropped"], result.out)
+        *_, option, length, dropped = struct.unpack_from("=HHQHHQ", end, 20)
+        self.assertEqual((option, length), (5, 8))
+        self.assertGreater(dropped, 0)
 
 
 class WithoutRights(Test):

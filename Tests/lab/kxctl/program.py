@@ -109,6 +109,11 @@ def run(*words):
     subprocess.run(words, check=True)
 
 
+def run_for_text(*words):
+    """What another program prints."""
+    return subprocess.run(words, capture_output=True, text=True, check=True).stdout
+
+
 # --- The record of the simulated units ---
 
 def heard():

@@ -2,7 +2,9 @@
 
 #include "PrivateHost.h"
 #include "System Configuration/InterfaceTitles.h"
+#include "addresses/IPv4Address.h"
 #include "contracts/ConfigurationStoreContract.h"
+#include "conversation/ChosenInterface.h"
 #include "doubles/SharedConfigurationDoubles.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
@@ -140,6 +142,20 @@ TEST_F(NetworkManagerNames, ALinkLocalAddressBesideARealOneIsNotTheOneThatIsChos
     })) << addresses();
     EXPECT_TRUE(addresses().starts_with("192.0.2.5,169.254.")) << addresses();
     EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");
+}
+
+// The profile still has the address, so choosing the interface gives it. But no broadcast leaves.
+TEST_F(NetworkManagerNames, AnAddressThatTheKernelHasLostIsLostThoughItsProfileIsActive) {
+    startAndList();
+    const ChosenInterface chosen{.name = "kx0",
+                                 .address = addressOfInterface(sources->configuration, "kx0")};
+    EXPECT_EQ(faultOfInterface(sources->configuration, chosen, true), std::nullopt);
+    EXPECT_TRUE(broadcastCanLeave(sources->configuration, "kx0", ipForString("192.0.2.255")));
+    host.network.ip("address flush dev kx0");
+    EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");
+    EXPECT_EQ(faultOfInterface(sources->configuration, chosen, true),
+              (InterfaceFinding{.fault = InterfaceFault::lostAddress, .interface = "kx0"}));
+    EXPECT_FALSE(broadcastCanLeave(sources->configuration, "kx0", ipForString("192.0.2.255")));
 }
 
 TEST_F(NetworkManagerNames, ChoosingOneGivesItsAddressAndMask) {

@@ -29,6 +29,7 @@
 # OPTIONS
 #   --person ANSWER  who sits at the dialogs: one who will allow, refuse (by a wrong password),
 #                    dismiss, or think without an end; without this option nobody does
+#   --password TEXT  the password of root, for an agent that asks for it; without this option none is right
 #   --after SECONDS  how long the person takes for each answer; default 0
 #   --rule RESULT    what the host's rules say of the user's questions, before any dialog: yes or
 #                    no; without this option what the actions themselves say
@@ -73,6 +74,15 @@ mount_copy() {
     mount --bind -- "$copy" "$1"
 }
 
+set_password() {
+    local proof='!' others
+    if [[ -n $password ]]; then
+        proof=$(perl -e 'print crypt($ARGV[0], q($6$salt$))' -- "$password")
+    fi
+    others=$(grep -v '^root:' /etc/shadow)
+    printf 'root:%s:19000:0:99999:7:::\n%s\n' "$proof" "$others" >/etc/shadow
+}
+
 add_user() {
     mount_copy /etc/passwd
     mount_copy /etc/group
@@ -80,6 +90,7 @@ add_user() {
     printf '%s:x:%d:%d::%s:/bin/bash\n' "$user" "$user_id" "$user_id" "$home" >>/etc/passwd
     printf '%s:x:%d:\n' "$user" "$user_id" >>/etc/group
     printf '%s:!:19000:0:99999:7:::\n' "$user" >>/etc/shadow
+    set_password
     install -d -m 700 -o "$user_id" -g "$user_id" "$home"
 }
 
@@ -252,7 +263,7 @@ top=${script%/Tests/linux/polkit/in_polkit.sh}
 kxperson=${KX_BUILD_DIR:-$top/build/dev}/bin/kxperson
 kxarp=${KX_BUILD_DIR:-$top/build/dev}/bin/kxarp
 
-options=() person='' seconds=0 rule='' without='' as_root=false inside=false
+options=() person='' password='' seconds=0 rule='' without='' as_root=false inside=false
 while (($# > 0)); do
     case $1 in
     --help)
@@ -264,10 +275,11 @@ while (($# > 0)); do
         as_root=true
         options+=("$1")
         ;;
-    --person | --after | --rule | --without)
+    --person | --password | --after | --rule | --without)
         (($# > 1)) || die "$usage_failed" "$1 needs a value"
         case $1 in
         --person) person=$2 ;;
+        --password) password=$2 ;;
         --after) seconds=$2 ;;
         --rule) rule=$2 ;;
         --without) without=$2 ;;

@@ -14,7 +14,7 @@ using std::chrono::seconds;
 constexpr seconds longestFirstPart{60};
 
 // The time that the end of the visit takes.
-constexpr seconds end{16};
+constexpr seconds timeToEnd{16};
 
 // Longer than a discovery, and longer than the delay of a late reply.
 constexpr milliseconds discoveryTakes{2500};
@@ -47,7 +47,7 @@ void Soak::run() {
     takeStepsUntil(begin + std::min(longestFirstPart, whole / 3));
     const ResourceUse before = useAtRest();
     print("After the first part: " + before.text());
-    takeStepsUntil(begin + whole - end);
+    takeStepsUntil(begin + whole - timeToEnd);
     const ResourceUse after = useAtRest();
     print(QString("After %1 steps: %2").arg(_steps).arg(after.text()));
 
