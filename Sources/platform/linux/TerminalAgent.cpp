@@ -26,7 +26,7 @@ constexpr auto agentPath = "/usr/bin/pkttyagent";
 // It has to reach polkit over the bus, and to end when it is told to.
 constexpr std::chrono::milliseconds longestStart{2000};
 constexpr std::chrono::milliseconds longestEnd{1000};
-constexpr std::chrono::milliseconds betweenLooks{5};
+constexpr std::chrono::milliseconds betweenLooksAtTheAgent{5};
 
 bool isSet(const char* name) {
     const char* const value = std::getenv(name); // no other thread of ours sets one
@@ -87,7 +87,7 @@ TerminalAgent::~TerminalAgent() {
     const auto end = Clock::now() + longestEnd;
     _agent.terminate();
     while (!_agent.exitStatus().has_value() && Clock::now() < end) {
-        std::this_thread::sleep_for(betweenLooks);
+        std::this_thread::sleep_for(betweenLooksAtTheAgent);
     }
 }
 
