@@ -29,22 +29,14 @@ struct SeenUnit {
     std::optional<UnitIDBytes> unitIDBytes = {};
 };
 
-// The names that tell a unit from all others. An empty hardware address stands for any.
-struct UnitIdentity {
-    std::string serialNumber;
-    std::string hardwareAddress;
-
-    friend bool operator==(const UnitIdentity&, const UnitIdentity&) = default;
-};
-
 struct WantedRow {
     std::size_t line = 0;              // in the file; the header is line 1
     std::string serialNumber;          // as units show it: "4B 58 00 00 00 01"
     std::vector<ExactEdit> edits;      // at most one for each parameter; a new serial number is one
     std::optional<SeenUnit> seen = {}; // absent for a row of a table
 
-    // The names under which the unit may answer after a run has begun to change them. Empty: the
-    // serial number alone names the unit.
+    // The names under which the unit may answer after a run has begun to change them; an empty
+    // hardware address stands for any. Without names the serial number alone names the unit.
     std::vector<UnitIdentity> identities = {};
 
     // The names that it had before these. They count when the unit answers under none of

@@ -16,7 +16,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::string_view kind = "journal";
+constexpr std::string_view journalKind = "journal";
 
 // The kinds of entries, by the key "event".
 constexpr std::string_view commandEvent = "command";
@@ -62,7 +62,7 @@ void write(Json& json, const JournalledBinding& binding) {
     json["is_made"] = binding.isMade;
 }
 
-JournalledUnit unitOf(const Json& json) {
+JournalledUnit journalledUnitOf(const Json& json) {
     JournalledUnit unit;
     unit.line = numberOf(valueOf(json, "line"), std::numeric_limits<std::int32_t>::max());
     unit.rowSerialNumber = sixPairsOf(presentTextOf(json, "row_serial"), ' ');
@@ -83,7 +83,7 @@ UnitParameter parameterOf(const Json& json) {
 
 JournalEntry commandOf(const Json& json) {
     JournalledCommand command;
-    command.unit = unitOf(json);
+    command.unit = journalledUnitOf(json);
     command.parameter = parameterOf(json);
     command.from = textOf(json, "from");
     if (const auto bytes = textOf(json, "from_bytes")) {
@@ -99,7 +99,7 @@ JournalEntry outcomeOf(const Json& json) {
     if (!state.has_value()) {
         throw JSONDamage();
     }
-    return JournalledOutcome{.unit = unitOf(json),
+    return JournalledOutcome{.unit = journalledUnitOf(json),
                              .parameter = parameterOf(json),
                              .state = *state,
                              .shown = textOf(json, "shown")};
@@ -147,7 +147,7 @@ bool takeLine(Journal& journal, std::string_view line) {
 }
 
 std::optional<DocumentFault> takeHead(JournalHead& head, std::string_view line) {
-    const auto read = unsealedDocument(line, kind, journalVersion);
+    const auto read = unsealedDocument(line, journalKind, journalVersion);
     if (const auto* const fault = std::get_if<DocumentFault>(&read)) {
         return *fault;
     }
@@ -180,7 +180,7 @@ std::string sealedEntry(const Json& json) {
 
 std::string JournalLines::head(const JournalHead& head) {
     Json json;
-    json["kind"] = kind;
+    json["kind"] = journalKind;
     json["schema"] = journalVersion;
     json["started"] = head.started;
     json["source"] = head.source;

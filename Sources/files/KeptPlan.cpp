@@ -10,7 +10,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::string_view kind = "plan";
+constexpr std::string_view planKind = "plan";
 
 using SeenUnits = std::map<std::size_t, SeenUnit>; // by line
 
@@ -47,7 +47,7 @@ bool looksLikeKeptPlan(std::string_view text) {
 
 std::string textOfKeptPlan(std::string_view table, std::span<const WantedRow> rows) {
     Json head;
-    head["kind"] = kind;
+    head["kind"] = planKind;
     head["schema"] = keptPlanVersion;
     head["table"] = table;
     std::string text = textOfJson(head);
@@ -68,7 +68,7 @@ std::string textOfKeptPlan(std::string_view table, std::span<const WantedRow> ro
 }
 
 std::variant<UnitTable, DocumentFault> readKeptPlan(std::string_view text) {
-    const auto read = unsealedDocument(text, kind, keptPlanVersion);
+    const auto read = unsealedDocument(text, planKind, keptPlanVersion);
     if (const auto* const fault = std::get_if<DocumentFault>(&read)) {
         return *fault;
     }

@@ -39,7 +39,7 @@ protected:
 
     ScriptedAuthorizationService service;
     std::unique_ptr<AuthorizedAddressBindings> bindings =
-        std::make_unique<AuthorizedAddressBindings>(service);
+        std::make_unique<AuthorizedAddressBindings>(service, [] {});
     Texts ended;
 };
 

@@ -114,6 +114,7 @@ public:
         }
         done(answerToRelease);
     }
+    void giveUp() override {} // nobody is asked
 };
 
 class RecordedJournal final : public RunJournal {
