@@ -6,13 +6,13 @@ namespace kx {
 
 namespace {
 
-const std::string unit = "01 02 03 04 05 06";
+const std::string askedUnit = "01 02 03 04 05 06";
 const std::string otherUnit = "01 02 03 04 05 07";
-constexpr std::uint32_t address = 0xC0A8010AU;
+constexpr std::uint32_t askedAddress = 0xC0A8010AU;
 constexpr std::uint32_t elsewhere = 0xC0A8010BU;
 
 RequestOutcome toUnit(RequestKind kind) {
-    return {kind, "^^IdV\r", {.reach = RequestReach::oneUnit, .address = address}, unit};
+    return {kind, "^^IdV\r", {.reach = RequestReach::oneUnit, .address = askedAddress}, askedUnit};
 }
 
 RequestOutcome toAll(RequestKind kind) {
@@ -23,37 +23,37 @@ RequestOutcome toAll(RequestKind kind) {
 
 TEST(RequestOutcome, CountsEachUnitOnceThatAcceptsARestore) {
     RequestOutcome outcome = toAll(RequestKind::restore);
-    EXPECT_TRUE(outcome.unitDidAccept(unit, address));
-    EXPECT_FALSE(outcome.unitDidAccept(unit, address));
+    EXPECT_TRUE(outcome.unitDidAccept(askedUnit, askedAddress));
+    EXPECT_FALSE(outcome.unitDidAccept(askedUnit, askedAddress));
     EXPECT_TRUE(outcome.unitDidAccept(otherUnit, elsewhere));
-    EXPECT_FALSE(outcome.unitDidTell(unit, address));
+    EXPECT_FALSE(outcome.unitDidTell(askedUnit, askedAddress));
     EXPECT_EQ(outcome.answers(), 2U);
 }
 
 TEST(RequestOutcome, AReloadIsAnsweredByParametersAlone) {
     RequestOutcome outcome = toAll(RequestKind::reload);
-    EXPECT_FALSE(outcome.unitDidAccept(unit, address));
-    EXPECT_FALSE(outcome.unitDidAnswer(unit, address, "V1"));
-    EXPECT_TRUE(outcome.unitDidTell(unit, address));
+    EXPECT_FALSE(outcome.unitDidAccept(askedUnit, askedAddress));
+    EXPECT_FALSE(outcome.unitDidAnswer(askedUnit, askedAddress, "V1"));
+    EXPECT_TRUE(outcome.unitDidTell(askedUnit, askedAddress));
     EXPECT_EQ(outcome.answers(), 1U);
 }
 
 TEST(RequestOutcome, KnowsTheUnitThatWasMeantFromAnotherAtItsAddress) {
     RequestOutcome outcome = toUnit(RequestKind::restore);
     EXPECT_FALSE(outcome.unitDidAccept(otherUnit, elsewhere));
-    EXPECT_TRUE(outcome.unitDidAccept(otherUnit, address));
+    EXPECT_TRUE(outcome.unitDidAccept(otherUnit, askedAddress));
     EXPECT_EQ(outcome.otherUnit(), otherUnit);
     EXPECT_FALSE(outcome.hasUnitAnswered());
-    EXPECT_TRUE(outcome.unitDidAccept(unit, elsewhere)); // it may have restored its address
+    EXPECT_TRUE(outcome.unitDidAccept(askedUnit, elsewhere)); // it may have restored its address
     EXPECT_TRUE(outcome.hasUnitAnswered());
 }
 
 TEST(RequestOutcome, KeepsTheLatestAnswerToAnOptionCommand) {
     RequestOutcome outcome = toUnit(RequestKind::optionCommand);
-    EXPECT_TRUE(outcome.unitDidAccept(unit, address));
+    EXPECT_TRUE(outcome.unitDidAccept(askedUnit, askedAddress));
     EXPECT_EQ(outcome.answer(), std::nullopt);
-    EXPECT_TRUE(outcome.unitDidAnswer(unit, address, "V1"));
-    EXPECT_TRUE(outcome.unitDidAnswer(unit, address, "V2"));
+    EXPECT_TRUE(outcome.unitDidAnswer(askedUnit, askedAddress, "V1"));
+    EXPECT_TRUE(outcome.unitDidAnswer(askedUnit, askedAddress, "V2"));
     EXPECT_FALSE(outcome.unitDidAnswer(otherUnit, elsewhere, "V3"));
     EXPECT_EQ(outcome.answer(), "V2");
 }
@@ -63,16 +63,16 @@ TEST(RequestOutcome, TheEndOfPatienceChangesOnlyASilence) {
     EXPECT_TRUE(silent.patienceDidEnd());
     EXPECT_TRUE(silent.isPatienceOver());
     RequestOutcome answered = toUnit(RequestKind::reload);
-    answered.unitDidTell(unit, address);
+    answered.unitDidTell(askedUnit, askedAddress);
     EXPECT_FALSE(answered.patienceDidEnd());
 }
 
 TEST(RequestOutcome, InventedUnitsTakeNoMemoryBeyondALimit) {
     RequestOutcome outcome = toAll(RequestKind::restore);
     for (std::size_t invented = 0; invented < RequestOutcome::mostUnits; ++invented) {
-        ASSERT_TRUE(outcome.unitDidAccept(std::to_string(invented), address));
+        ASSERT_TRUE(outcome.unitDidAccept(std::to_string(invented), askedAddress));
     }
-    EXPECT_FALSE(outcome.unitDidAccept(unit, address));
+    EXPECT_FALSE(outcome.unitDidAccept(askedUnit, askedAddress));
     EXPECT_EQ(outcome.answers(), RequestOutcome::mostUnits);
 }
 
