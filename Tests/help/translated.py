@@ -77,8 +77,9 @@ class Window:
         """The translation of a text of the window that has an end without words, such as an address."""
         for _, pattern, translation in self._patterns:
             match = pattern.match(english)
-            if match and not pattern.groups and not re.search("[A-Za-z]{2}", english[match.end():]):
-                return single_spaced(translation + english[match.end():])
+            end = english[match.end():] if match and not pattern.groups else ""
+            if re.search("[0-9A-Z…]", end) and not re.search("[A-Za-z]{2}", end):
+                return single_spaced(translation + end)
         return None
 
     def wordings_of_part(self, english):

@@ -23,7 +23,9 @@ class TheScript(unittest.TestCase):
         self.update()
         for path in self.catalogues.glob("*.po"):
             head, _, rest = path.read_text(encoding="utf-8").partition("\n\n")
-            path.write_text(head + "\n\n" + rest.replace('msgstr ""', 'msgstr "marked"'), encoding="utf-8")
+            # A translation ends with a line break where the English text does.
+            rest = rest.replace('\\n"\nmsgstr ""', '\\n"\nmsgstr "marked\\n"').replace('msgstr ""', 'msgstr "marked"')
+            path.write_text(f"{head}\n\n{rest}", encoding="utf-8")
 
     def update(self):
         book.update(self.catalogues, self.pages)

@@ -42,7 +42,8 @@ TEST_F(SavingTest, TheMenuFileHasBothAboveQuit) {
     for (const QAction* item : control<QMenu>("fileMenu").actions()) {
         items += item->isSeparator() ? "-" : item->text().remove('&');
     }
-    EXPECT_EQ(items.join(" | ").toStdString(), "Configure from File… | - | Save Event Log… | Save Session… | - | Quit");
+    EXPECT_EQ(items.join(" | ").toStdString(),
+              "Configure from File… | - | Save Event Log… | Save Session… | - | Quit");
 }
 
 TEST_F(SavingTest, ControlSSavesTheEventLog) {

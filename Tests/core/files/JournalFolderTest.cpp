@@ -28,7 +28,8 @@ protected:
         JournalLines lines;
         std::string text = JournalLines::head({.started = "2026-11-22T18:00:00Z", .source = "a"});
         for (int entry = 0; entry < entries; ++entry) {
-            text += lines.entry(JournalledBinding{.address = "192.0.2.1", .hardwareAddress = "02:4B:58:00:00:01"});
+            text += lines.entry(
+                JournalledBinding{.address = "192.0.2.1", .hardwareAddress = "02:4B:58:00:00:01"});
         }
         return text;
     }
