@@ -47,6 +47,7 @@
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -75,19 +76,6 @@ Unit timeOf() {
 
 constexpr auto timeNow = timeOf<kx::CaptureTime, std::chrono::system_clock>;
 
-// The event log has no line for it.
-void keepProbe(kx::SessionRecord& record, kx::CapturedDatagram datagram, kx::ByteView data) {
-    const std::string comment = kx::localizedText("A check of Details, not in the event log");
-    datagram.comment = comment;
-    record.keep(datagram, data);
-}
-
-kx::CaptureCounts countsOf(const kx::CapturingSystemCalls& calls,
-                           const kx::CapturingSystemCalls& others) {
-    return {.received = calls.counts().received + others.counts().received,
-            .dropped = calls.counts().dropped + others.counts().dropped};
-}
-
 // Only a file is replaced, and only one that may be written.
 std::optional<kx::Error> writeFile(const std::string& path, std::string_view text) {
     const auto objection = kx::objectionToReplacing(path);
@@ -106,22 +94,16 @@ struct Host {
     // itself, and what is left is recorded.
     kx::ListenerWitness witness{systemCalls, &receiveBuffers};
     kx::SessionRecord sessionRecord = kx::SessionRecord();
-    kx::CapturingSystemCalls recordedCalls{
-        witness,
-        {.take = [this](const kx::CapturedDatagram& datagram,
-                        kx::ByteView data) { sessionRecord.keep(datagram, data); },
-         .now = timeNow,
-         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
-         .receiveBuffers = &receiveBuffers}};
+    kx::CapturingSystemCalls recordedCalls{witness, recorder({})};
 
-    // What the diagnosis asks and hears with its own sockets is recorded too.
+    // What others ask and hear with sockets of their own is recorded too. The event log has no line
+    // for it.
     kx::CapturingSystemCalls recordedProbes{
         systemCalls,
-        {.take = [this](const kx::CapturedDatagram& datagram,
-                        kx::ByteView data) { keepProbe(sessionRecord, datagram, data); },
-         .now = timeNow,
-         .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
-         .receiveBuffers = &receiveBuffers}};
+        recorder([] { return kx::localizedText("A check of Details, not in the event log"); })};
+    kx::CapturingSystemCalls recordedRuns{
+        systemCalls,
+        recorder([] { return kx::localizedText("Configure from File, not in the event log"); })};
 
     kx::LinuxNeighbourTable neighbours = {};
     kx::SystemWallClock wallClock = {};
@@ -136,6 +118,29 @@ struct Host {
     kx::LinuxHostDiagnostics diagnostics = kx::LinuxHostDiagnostics();
     kx::LinuxAddressProbes probes{runLoop};
     kx::LinuxRunLock runLock = {};
+
+    // Keeps each datagram in the session record, with the comment that `comment` makes.
+    kx::CapturingSystemCalls::Services recorder(std::function<std::string()> comment) {
+        return {
+            .take =
+                [this, comment](kx::CapturedDatagram datagram, kx::ByteView data) {
+                    const std::string text = comment ? comment() : std::string();
+                    datagram.comment = text;
+                    sessionRecord.keep(datagram, data);
+                },
+            .now = timeNow,
+            .ownAddress = [this](std::uint32_t link) { return ownAddressOn(systemCalls, link); },
+            .receiveBuffers = &receiveBuffers};
+    }
+
+    kx::CaptureCounts recordedCounts() const {
+        kx::CaptureCounts sum;
+        for (const auto* calls : {&recordedCalls, &recordedProbes, &recordedRuns}) {
+            sum.received += calls->counts().received;
+            sum.dropped += calls->counts().dropped;
+        }
+        return sum;
+    }
 };
 
 // By the XDG Base Directory Specification; empty when the user has no home.
@@ -152,13 +157,13 @@ std::string stateFolder() {
     return home.empty() ? std::string() : home + "/.local/state/kxconfig";
 }
 
-// The run has a socket of its own, which is neither witnessed nor recorded.
+// The run has a socket of its own, which is not witnessed.
 kx::KXTableRun::Services tableServicesOf(Host& host, kx::HostInterfaces& interfaces,
                                          kx::AddressBindings& bindings,
                                          kx::KXConfigAppDelegate& controller) {
     return {.session = {.runLoop = host.runLoop,
                         .hostResolver = host.hostResolver,
-                        .systemCalls = host.systemCalls,
+                        .systemCalls = host.recordedRuns,
                         .receiveBuffers = &host.receiveBuffers},
             .now = timeOf<std::chrono::milliseconds, std::chrono::steady_clock>,
             .utc = timeOf<std::chrono::seconds, std::chrono::system_clock>,
@@ -190,31 +195,32 @@ kx::KXDiagnosis::Services diagnosisServicesOf(Host& host, kx::HostInterfaces& in
 // The host must outlive the services.
 kx::KXConfigAppDelegate::Services servicesOf(Host& host, kx::KXDiagnosis& diagnosis,
                                              kx::AuthorizationService* authorizationService) {
-    return {
-        .runLoop = host.runLoop,
-        .hostResolver = host.hostResolver,
-        .systemCalls = host.recordedCalls,
-        .wallClock = host.wallClock,
-        .application = host.application,
-        .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
-        .openHelpAnchor = [&help = host.helpServices](
-                              std::string_view anchor) { return kx::openHelpAnchor(anchor, help); },
-        .authorizationService = authorizationService,
-        .receiveBuffers = &host.receiveBuffers,
-        .hasHelpPage = [&help = host.helpServices](
-                           std::string_view page) { return kx::hasHelpPage(page, help); },
-        .neighbours = &host.neighbours,
-        .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
-        .openHelpInViewer =
-            [&help = host.helpServices](std::string_view anchor) {
-                const auto book = help.helpBookName();
-                return book.has_value() && help.openAnchorInBook(anchor, *book);
-            },
-        .saving = {.record = &host.sessionRecord,
-                   .application = "KXConfig " KX_VERSION,
-                   .counts = [&host] { return countsOf(host.recordedCalls, host.recordedProbes); },
-                   .now = timeNow,
-                   .writeFile = writeFile}};
+    return {.runLoop = host.runLoop,
+            .hostResolver = host.hostResolver,
+            .systemCalls = host.recordedCalls,
+            .wallClock = host.wallClock,
+            .application = host.application,
+            .networkInterfaces = &kx::SystemConfiguration::sharedInstance(),
+            .openHelpAnchor =
+                [&help = host.helpServices](std::string_view anchor) {
+                    return kx::openHelpAnchor(anchor, help);
+                },
+            .authorizationService = authorizationService,
+            .receiveBuffers = &host.receiveBuffers,
+            .hasHelpPage = [&help = host.helpServices](
+                               std::string_view page) { return kx::hasHelpPage(page, help); },
+            .neighbours = &host.neighbours,
+            .likeliestCause = [&diagnosis] { return diagnosis.likeliestCause(); },
+            .openHelpInViewer =
+                [&help = host.helpServices](std::string_view anchor) {
+                    const auto book = help.helpBookName();
+                    return book.has_value() && help.openAnchorInBook(anchor, *book);
+                },
+            .saving = {.record = &host.sessionRecord,
+                       .application = "KXConfig " KX_VERSION,
+                       .counts = [&host] { return host.recordedCounts(); },
+                       .now = timeNow,
+                       .writeFile = writeFile}};
 }
 
 // What an order to end ends, each after what it needs itself.

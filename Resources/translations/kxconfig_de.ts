@@ -1047,6 +1047,11 @@
         <translation>Eine Prüfung der Einzelheiten, nicht im Ereignisprotokoll</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>Configure from File, not in the event log</source>
+        <translation>Aus Datei konfigurieren, nicht im Ereignisprotokoll</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>Das ARP-Programm erhält keinen Text, der mit „-“ beginnt.</translation>

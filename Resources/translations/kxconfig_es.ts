@@ -1047,6 +1047,11 @@
         <translation>Una comprobación de Detalles que no está en el registro de eventos</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>Configure from File, not in the event log</source>
+        <translation>Configurar desde un archivo; no está en el registro de eventos</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>La herramienta ARP no recibe ningún texto que empiece por «-».</translation>

@@ -1047,6 +1047,11 @@
         <translation>Une vérification de Détails, absente du journal des événements</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>Configure from File, not in the event log</source>
+        <translation>Configurer depuis un fichier, absent du journal des événements</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>L’outil ARP ne reçoit aucun texte qui commence par « - ».</translation>

@@ -1047,6 +1047,11 @@
         <translation>詳細の確認（イベントログには記録されません）</translation>
     </message>
     <message>
+        <location filename="../../Sources/kxconfig.cpp"/>
+        <source>Configure from File, not in the event log</source>
+        <translation>ファイルから設定（イベントログには記録されません）</translation>
+    </message>
+    <message>
         <location filename="../../Sources/platform/linux/ARPTool.cpp"/>
         <source>The ARP tool gets no text that begins with “-”.</source>
         <translation>「-」で始まるテキストは ARP ツールに渡されません。</translation>

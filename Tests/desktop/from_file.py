@@ -50,6 +50,17 @@ class FromFile(unittest.TestCase):
         wait_for(name, lambda: "enabled" in states(self.program.button(name)))
         perform(self.program.button(name), "Press")
 
+    def save(self, key, title, name):
+        """Saves with the keyboard alone, and returns the file's path."""
+        press(key)
+        wait_for("the panel", lambda: self.program.window_titled(title))
+        self.program.wait_for_focus("text", "File name:")
+        press("Ctrl+a")
+        type_text(str(self.folder / name))
+        press("Return")
+        wait_for(name, (self.folder / name).exists)
+        return self.folder / name
+
     def test_a_table_is_planned_applied_reported_and_reverted(self):
         program = self.program
         log = program.open_log()
@@ -69,14 +80,7 @@ class FromFile(unittest.TestCase):
         self.assertEqual(len(journals), 1)
         self.assertIn("^^IdT0DC1", journals[0].read_text())
 
-        press("Ctrl+s")
-        wait_for("the panel", lambda: program.window_titled("Save Report"))
-        program.wait_for_focus("text", "File name:")
-        press("Ctrl+a")
-        type_text(str(self.folder / "report.csv"))
-        press("Return")
-        report = self.folder / "report.csv"
-        wait_for("the report", report.exists)
+        report = self.save("Ctrl+s", "Save Report", "report.csv")
         self.assertEqual(report.read_text().splitlines()[1:],
                          [f"{SERIALS[0]},RACK7A,3521,done,", f"{SERIALS[1]},RACK7B,3521,done,"])
 
@@ -91,6 +95,9 @@ class FromFile(unittest.TestCase):
         program.window = self.main_window
         self.assertEqual(program.wait_for_log(), log, "the event log is the main window's own")
         wait_for("the main window", lambda: "active" in states(self.main_window))
+        session = self.save("Ctrl+Shift+s", "Save Session", "session.pcapng").read_bytes()
+        self.assertIn(b"Configure from File, not in the event log", session)
+        self.assertIn(b"^^IdT0DC1", session)
         self.assertEqual(program.close(), 0)
 
     def test_units_move_to_other_addresses_and_hand_one_on(self):
