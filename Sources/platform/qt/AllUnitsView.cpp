@@ -1,49 +1,16 @@
 #include "platform/qt/AllUnitsView.h"
 
 #include "platform/qt/AllUnitsModel.h"
-#include "platform/qt/Placeholder.h"
 #include "platform/qtcore/QtText.h"
 
-#include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
-#include <algorithm>
+#include <string>
 
 namespace kx {
 
 namespace {
-
-// A text as wide as the widest that a column usually has.
-QString widestTextOf(UnitColumn column, const QFontMetrics& metrics) {
-    switch (column) {
-    case UnitColumn::serialNumber:
-        return "4B 58 00 00 00 00";
-    case UnitColumn::unitID:
-        return "RACK00";
-    case UnitColumn::internalMACAddress:
-    case UnitColumn::destinationMACAddress:
-        return "02:4B:58:00:00:00";
-    case UnitColumn::internalIPAddress:
-    case UnitColumn::destinationIPAddress:
-    case UnitColumn::sender:
-        return "255.255.255.255";
-    case UnitColumn::interface:
-        return "enp0s31f6";
-    case UnitColumn::state: {
-        QString widest;
-        for (const std::string& words : UnitTexts::wordsOfStates()) {
-            const QString text = "⚠ " + qtText(words);
-            const bool isWider =
-                metrics.horizontalAdvance(text) > metrics.horizontalAdvance(widest);
-            widest = isWider ? text : widest;
-        }
-        return widest;
-    }
-    default:
-        return "00:00:00";
-    }
-}
 
 // Dims the rows of silent units, whose state says so in words. The colour follows the palette.
 class DimmingDelegate final : public QStyledItemDelegate {
@@ -64,25 +31,11 @@ protected:
 } // namespace
 
 AllUnitsView::AllUnitsView(AllUnitsModel& model, QWidget* parent)
-    : QTableView(parent)
+    : RowTableView(model, parent)
     , _model(model)
     , _columnMenu(this) {
-    setModel(&model);
     setItemDelegate(new DimmingDelegate(this));
-    setShowGrid(false);
-    setWordWrap(false);
-    setAlternatingRowColors(true);
-    setTabKeyNavigation(false);
-    setCornerButtonEnabled(false);
-    setSelectionBehavior(SelectRows);
-    setSelectionMode(ExtendedSelection);
-    setEditTriggers(NoEditTriggers);
-    setHorizontalScrollMode(ScrollPerPixel);
-    verticalHeader()->hide();
-    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     horizontalHeader()->setSectionsMovable(true);
-    horizontalHeader()->setHighlightSections(false);
-    horizontalHeader()->setStretchLastSection(true);
     horizontalHeader()->setSortIndicator(0, Qt::AscendingOrder);
     setSortingEnabled(true);
     fitToFont();
@@ -130,23 +83,12 @@ void AllUnitsView::addRowAction(QAction& action) {
     insertAction(_columnActions.front(), &action);
 }
 
-void AllUnitsView::setPlaceholderText(const QString& text) {
-    if (text != _placeholderText) {
-        _placeholderText = text;
-        setAccessibleDescription(text);
-        viewport()->update();
-    }
-}
-
 // --- Columns ---
 
 std::vector<UnitColumn> AllUnitsView::shownColumns() const {
     std::vector<UnitColumn> columns;
-    for (int place = 0; place < horizontalHeader()->count(); ++place) {
-        const int column = horizontalHeader()->logicalIndex(place);
-        if (!isColumnHidden(column)) {
-            columns.push_back(static_cast<UnitColumn>(column));
-        }
+    for (const int column : shownColumnNumbers()) {
+        columns.push_back(static_cast<UnitColumn>(column));
     }
     return columns;
 }
@@ -210,17 +152,30 @@ void AllUnitsView::moveCurrentColumn(int step) {
     }
 }
 
-int AllUnitsView::widthOf(UnitColumn column) const {
-    const int text = fontMetrics().horizontalAdvance(widestTextOf(column, fontMetrics()));
-    const int padding = 3 * fontMetrics().averageCharWidth();
-    return std::max(text + padding, horizontalHeader()->sectionSizeHint(static_cast<int>(column)));
-}
-
-void AllUnitsView::fitToFont() {
-    verticalHeader()->setMinimumSectionSize(fontMetrics().height());
-    verticalHeader()->setDefaultSectionSize(fontMetrics().height() * 3 / 2);
-    for (std::size_t column = 0; column < unitColumnCount; ++column) {
-        setColumnWidth(static_cast<int>(column), widthOf(static_cast<UnitColumn>(column)));
+QStringList AllUnitsView::widestTextsOf(int column) const {
+    switch (static_cast<UnitColumn>(column)) {
+    case UnitColumn::serialNumber:
+        return {"4B 58 00 00 00 00"};
+    case UnitColumn::unitID:
+        return {"RACK00"};
+    case UnitColumn::internalMACAddress:
+    case UnitColumn::destinationMACAddress:
+        return {"02:4B:58:00:00:00"};
+    case UnitColumn::internalIPAddress:
+    case UnitColumn::destinationIPAddress:
+    case UnitColumn::sender:
+        return {"255.255.255.255"};
+    case UnitColumn::interface:
+        return {"enp0s31f6"};
+    case UnitColumn::state: {
+        QStringList states;
+        for (const std::string& words : UnitTexts::wordsOfStates()) {
+            states.append("⚠ " + qtText(words));
+        }
+        return states;
+    }
+    default:
+        return {"00:00:00"};
     }
 }
 
@@ -230,31 +185,6 @@ int AllUnitsView::wholeWidth() const {
 }
 
 // --- Rows ---
-
-QString AllUnitsView::selectedRowsText() const {
-    std::vector<int> rows;
-    for (const QItemSelectionRange& range : selectionModel()->selection()) {
-        for (int row = range.top(); row <= range.bottom(); ++row) {
-            rows.push_back(row);
-        }
-    }
-    if (rows.empty()) {
-        return {};
-    }
-    std::ranges::sort(rows);
-    const auto columns = shownColumns();
-    QString text;
-    for (const UnitColumn column : columns) {
-        text += AllUnitsModel::title(column) + (column == columns.back() ? '\n' : '\t');
-    }
-    for (const int row : rows) {
-        for (const UnitColumn column : columns) {
-            text += _model.index(row, static_cast<int>(column)).data().toString();
-            text += column == columns.back() ? '\n' : '\t';
-        }
-    }
-    return text;
-}
 
 QString AllUnitsView::currentText() const {
     return currentIndex().data().toString();
@@ -280,13 +210,6 @@ void AllUnitsView::chooseRow(int row) {
     }
 }
 
-void AllUnitsView::changeEvent(QEvent* event) {
-    QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange) {
-        fitToFont();
-    }
-}
-
 void AllUnitsView::keyPressEvent(QKeyEvent* event) {
     const bool isPlain =
         (event->modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier)) == Qt::NoModifier;
@@ -297,14 +220,7 @@ void AllUnitsView::keyPressEvent(QKeyEvent* event) {
     } else if (isPlain && !text.isEmpty() && text.front().isPrint() && text.front() != ' ') {
         emit textTyped(text);
     } else {
-        QTableView::keyPressEvent(event);
-    }
-}
-
-void AllUnitsView::paintEvent(QPaintEvent* event) {
-    QTableView::paintEvent(event);
-    if (_model.rowCount() == 0) {
-        paintPlaceholder(*viewport(), _placeholderText);
+        RowTableView::keyPressEvent(event);
     }
 }
 

@@ -3,32 +3,28 @@
 //
 // Everything goes without a mouse, too: the column with the keyboard is sorted by, moved and hidden
 // by the actions of columnActions(), which have keys. Return and a double click choose a unit.
-// Letters and digits that are typed here belong to the filter. While there are no rows, the table
-// shows a text in their place; the text is also its description for a screen reader.
+// Letters and digits that are typed here belong to the filter.
 //
 // Main thread only.
 
 #pragma once
 
+#include "platform/qt/RowTableView.h"
 #include "words/UnitColumns.h"
 
 #include <QAction>
 #include <QMenu>
-#include <QTableView>
 
 namespace kx {
 
 class AllUnitsModel;
 
-class AllUnitsView final : public QTableView {
+class AllUnitsView final : public RowTableView {
     Q_OBJECT
 
 public:
     // The model must outlive it.
     explicit AllUnitsView(AllUnitsModel& model, QWidget* parent = nullptr);
-
-    void setPlaceholderText(const QString& text);
-    const QString& placeholderText() const { return _placeholderText; }
 
     // The columns from left to right, without the hidden ones.
     std::vector<UnitColumn> shownColumns() const;
@@ -42,10 +38,6 @@ public:
     // The menu of the columns: one item for each, and what can be done with the one that has the
     // keyboard. It belongs to the view.
     QMenu& columnMenu() { return _columnMenu; }
-
-    // The selected rows as a table: the heads of the shown columns, then a line for each row, with
-    // tabs between the cells. Empty when nothing is selected.
-    QString selectedRowsText() const;
 
     // The text of the cell with the keyboard.
     QString currentText() const;
@@ -62,13 +54,10 @@ signals:
     void shownColumnsDidChange();
 
 protected:
-    void changeEvent(QEvent* event) override;
+    QStringList widestTextsOf(int column) const override;
     void keyPressEvent(QKeyEvent* event) override;
-    void paintEvent(QPaintEvent* event) override;
 
 private:
-    void fitToFont();
-    int widthOf(UnitColumn column) const;
     void addColumnAction(const QString& text, const QKeySequence& key, void (AllUnitsView::*act)());
     void fillColumnMenu();
     void chooseRow(int row);
@@ -87,7 +76,6 @@ private:
     AllUnitsModel& _model;
     QMenu _columnMenu;
     QList<QAction*> _columnActions; // of the column with the keyboard, a separator first
-    QString _placeholderText;
 };
 
 } // namespace kx
