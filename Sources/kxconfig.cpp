@@ -50,6 +50,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace {
 
@@ -123,7 +124,8 @@ struct Host {
     kx::CapturingSystemCalls::Services recorder(std::function<std::string()> comment) {
         return {
             .take =
-                [this, comment](kx::CapturedDatagram datagram, kx::ByteView data) {
+                [this, comment = std::move(comment)](kx::CapturedDatagram datagram,
+                                                     kx::ByteView data) {
                     const std::string text = comment ? comment() : std::string();
                     datagram.comment = text;
                     sessionRecord.keep(datagram, data);

@@ -11,6 +11,7 @@
 #include <charconv>
 #include <numeric>
 #include <span>
+#include <utility>
 
 namespace kx {
 
@@ -44,20 +45,16 @@ public:
     // Options behind the first word belong to the rest.
     void endAtFirstWord() { _app.prefix_command(); }
 
-    // The last of an option counts.
+    // The last of an option counts. The rows must outlive the object.
     void add(std::span<const OptionRow> options) {
         for (const OptionRow& row : options) {
             const std::string name(row.name);
             if (isFlag(row)) {
                 _flags.push_back(name + '=');
-                _app.add_flag_callback(
-                    name, [this, name] { _line.options.insert_or_assign(name, std::string()); });
+                _app.add_flag_callback(name, [this, &row] { take(row, {}); });
             } else {
-                _app.add_option_function<std::string>(name,
-                                                      [this, name](const std::string& text) {
-                                                          _line.options.insert_or_assign(name,
-                                                                                         text);
-                                                      })
+                _app.add_option_function<std::string>(
+                        name, [this, &row](const std::string& text) { take(row, text); })
                     ->take_last();
             }
         }
@@ -82,6 +79,10 @@ public:
     Words rest() const { return _app.remaining(); }
 
 private:
+    void take(const OptionRow& row, std::string text) {
+        _line.options.insert_or_assign(std::string(row.name), std::move(text));
+    }
+
     bool isSetFlag(const std::string& word) const {
         return std::ranges::any_of(
             _flags, [&word](const std::string& flag) { return word.starts_with(flag); });

@@ -177,7 +177,7 @@ private:
         // A quotation mark stands between the bytes of one character.
         for (const CSVRecord& record : records) {
             if (record.fault.has_value()) {
-                complainAboutQuotation(record);
+                complainAboutQuotation(record, *record.fault);
             }
         }
     }
@@ -193,7 +193,7 @@ private:
             return column.kind != Column::Kind::unknown && column.kind != Column::Kind::nameless;
         };
         if (header.fault.has_value()) {
-            complainAboutQuotation(header);
+            complainAboutQuotation(header, *header.fault);
         } else if (std::ranges::none_of(_columns, isKnown)) {
             complain({.line = header.line,
                       .fault = TableFault::noHeader,
@@ -234,7 +234,7 @@ private:
 
     void readLine(const CSVRecord& record) {
         if (record.fault.has_value()) {
-            complainAboutQuotation(record);
+            complainAboutQuotation(record, *record.fault);
         } else if (record.fields.size() != _columns.size()) {
             complain({.line = record.line,
                       .fault = record.fields.size() < _columns.size() ? TableFault::tooFewCells
@@ -249,12 +249,11 @@ private:
         }
     }
 
-    void complainAboutQuotation(const CSVRecord& record) {
-        complain({.line = record.fault->line,
-                  .column = nameOfColumn(record.fault->field),
-                  .fault = record.fault->isOpen ? TableFault::quoteNotClosed
-                                                : TableFault::textBehindQuote,
-                  .cell = record.fields[record.fault->field]});
+    void complainAboutQuotation(const CSVRecord& record, const CSVFault& fault) {
+        complain({.line = fault.line,
+                  .column = nameOfColumn(fault.field),
+                  .fault = fault.isOpen ? TableFault::quoteNotClosed : TableFault::textBehindQuote,
+                  .cell = record.fields[fault.field]});
     }
 
     // `place` is a complaint about the cell, but for its fault.

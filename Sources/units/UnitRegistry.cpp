@@ -49,7 +49,8 @@ bool UnitRegistry::rename(Unit& unit, bool isNew, const UnitRecord& record) {
         !record.hasHardwareAddressOf(found->second)) {
         return false;
     }
-    static_cast<UnitRecord&>(unit) = found->second;
+    const UnitRecord& before = found->second;
+    static_cast<UnitRecord&>(unit) = before;
     unit.setValue(UnitParameter::serialNumber, _serialAfter);
     unit.round = std::exchange(found->second.round, 0);
     _tally.renamed += isNew ? 1 : 0;

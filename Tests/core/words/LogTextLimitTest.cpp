@@ -11,12 +11,12 @@ namespace kx {
 
 namespace {
 
-constexpr std::size_t limit = 300'000;
+constexpr std::size_t longestText = 300'000;
 constexpr std::string_view notice = "[Older text is gone]";
 
 LogText limitedText() {
     LogText text;
-    text.setLimit(limit, notice);
+    text.setLimit(longestText, notice);
     return text;
 }
 
@@ -26,7 +26,7 @@ void appendLines(LogText& text, int count, int first = 0) {
         text.append("\nline " + std::to_string(line) + " " +
                     std::string(static_cast<std::size_t>(line % 90), 'x'));
         text.trim();
-        ASSERT_LE(text.size(), limit);
+        ASSERT_LE(text.size(), longestText);
     }
 }
 
@@ -34,7 +34,7 @@ void appendLines(LogText& text, int count, int first = 0) {
 
 TEST(LogTextLimit, WithinItsLimitATextIsWhole) {
     LogText text = limitedText();
-    const std::string whole(limit, 'x');
+    const std::string whole(longestText, 'x');
     text.append(whole);
     EXPECT_EQ(text.surplus(), 0U);
     EXPECT_EQ(text.trim().bytes, 0U);
@@ -47,8 +47,8 @@ TEST(LogTextLimit, BeyondItsLimitTheOldestPiecesGoAndOneLineSaysSo) {
     LogText text = limitedText();
     appendLines(text, 20'000);
     const std::string kept = text.text();
-    EXPECT_LE(kept.size(), limit);
-    EXPECT_GT(kept.size(), limit - 2 * std::size_t{65'536}) << "and no more than needed";
+    EXPECT_LE(kept.size(), longestText);
+    EXPECT_GT(kept.size(), longestText - 2 * std::size_t{65'536}) << "and no more than needed";
     EXPECT_TRUE(kept.starts_with(std::string(notice) + "\n"));
     EXPECT_EQ(kept.find(notice, 1), std::string::npos) << "the line is there once";
     EXPECT_TRUE(kept.ends_with("\nline 19999 " + std::string(19'999 % 90, 'x')));
