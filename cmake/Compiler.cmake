@@ -10,7 +10,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
-    -Wall -Wextra -Wpedantic -Wconversion -Wshadow)
+    -Wall -Wextra -Wpedantic -Wconversion
+    # When files are compiled together, clang takes names of other files for hidden ones. GCC does not.
+    $<$<NOT:$<AND:$<CXX_COMPILER_ID:Clang>,$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>>>:-Wshadow>)
 
 # When files are compiled together, GCC takes the anonymous namespace of an included file for the
 # namespace of a header.
