@@ -19,6 +19,8 @@
 
 namespace kx {
 
+using namespace std::string_view_literals;
+
 class HostileUnits {
 public:
     // The same units on every machine, in the order of their serial numbers.
@@ -120,8 +122,7 @@ private:
     static constexpr std::string_view letters = "0123456789.,:/-+eE% $()JanFMrTUWHtrue";
     static constexpr std::string_view names =
         "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz019 -.";
-    static constexpr std::string_view signs{"=+-@'\"\t\r\n,;\0 #!?&\\|\xC3\xA4\xE2\x82\xAC\xFF",
-                                            28};
+    static constexpr std::string_view signs = "=+-@'\"\t\r\n,;\0 #!?&\\|\xC3\xA4\xE2\x82\xAC\xFF"sv;
     static constexpr std::array<std::string_view, 60> planned{
         "000123",   "1E5",   "1E+5",   "12E45", "TRUE",   "true",         "False",   "WAHR",
         "falsch",   "vrai",  "=1+1",   "=A1",   "+1",     "-1",           "@A1",     "'1",
