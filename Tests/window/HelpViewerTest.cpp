@@ -4,6 +4,7 @@
 
 #include "HelpFolder.h"
 #include "Looks.h"
+#include "platform/qt/QtHelpServices.h"
 
 #include <QLabel>
 #include <QLineEdit>

@@ -94,31 +94,31 @@ TEST(HostInterface, EveryNetworkHasTwoAddressesOfMany) {
 }
 
 TEST(HostInterface, AnAddressOfThisHostIsFoundOnEveryInterface) {
-    const auto all = twoInterfaces();
-    const std::vector asked{all.front()};
+    const auto both = twoInterfaces();
+    const std::vector asked{both.front()};
     for (const std::uint32_t own : {0xC0000201U, 0x0A000001U, 0xC6336402U}) {
-        EXPECT_EQ(objectionToAddress(own, all, asked), AddressObjection::isOwn) << own;
+        EXPECT_EQ(objectionToAddress(own, both, asked), AddressObjection::isOwn) << own;
     }
 }
 
 TEST(HostInterface, AnAddressOfAWholeNetworkIsFoundInEveryNetwork) {
-    const auto all = twoInterfaces();
+    const auto both = twoInterfaces();
     for (const std::uint32_t ofNetwork : {0xC0000200U, 0xC00002FFU, 0x0A000000U, 0x0AFFFFFFU}) {
-        EXPECT_EQ(objectionToAddress(ofNetwork, all, {all.back()}), AddressObjection::isOfNetwork)
+        EXPECT_EQ(objectionToAddress(ofNetwork, both, {both.back()}), AddressObjection::isOfNetwork)
             << ofNetwork;
     }
 }
 
 TEST(HostInterface, BothAddressesOfANetworkOfTwoAreHosts) {
-    const auto all = twoInterfaces();
-    EXPECT_EQ(objectionToAddress(0xC6336403U, all, all), AddressObjection::none);
+    const auto both = twoInterfaces();
+    EXPECT_EQ(objectionToAddress(0xC6336403U, both, both), AddressObjection::none);
 }
 
 TEST(HostInterface, AnAddressMustLieInANetworkThatIsAsked) {
-    const auto all = twoInterfaces();
-    EXPECT_EQ(objectionToAddress(0x0A010203U, all, {all.front()}), AddressObjection::none);
-    EXPECT_EQ(objectionToAddress(0x0A010203U, all, {all.back()}), AddressObjection::isOutside);
-    EXPECT_EQ(objectionToAddress(0x0B000000U, all, all), AddressObjection::isOutside);
+    const auto both = twoInterfaces();
+    EXPECT_EQ(objectionToAddress(0x0A010203U, both, {both.front()}), AddressObjection::none);
+    EXPECT_EQ(objectionToAddress(0x0A010203U, both, {both.back()}), AddressObjection::isOutside);
+    EXPECT_EQ(objectionToAddress(0x0B000000U, both, both), AddressObjection::isOutside);
 }
 
 } // namespace kx

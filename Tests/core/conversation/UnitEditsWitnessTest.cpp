@@ -20,12 +20,13 @@ protected:
         bool saysYes = true;
         Answer answer;
 
-        void commandWillGo(const HeardUnit& unit, const UnitChange& change, Answer asked) override {
-            heard.push_back(std::string(unit.serialNumber()) + " will get " + change.command);
+        void commandWillGo(const HeardUnit& edited, const UnitChange& change,
+                           Answer asked) override {
+            heard.push_back(std::string(edited.serialNumber()) + " will get " + change.command);
             reply(std::move(asked));
         }
-        void changeDidEnd(const HeardUnit& unit, const UnitChange& change) override {
-            heard.push_back(std::string(unit.serialNumber()) + " shows " +
+        void changeDidEnd(const HeardUnit& edited, const UnitChange& change) override {
+            heard.push_back(std::string(edited.serialNumber()) + " shows " +
                             change.shown.value_or("nothing"));
         }
         void bindingWillBeMade(const std::string& address, const std::string& hardwareAddress,

@@ -9,7 +9,7 @@ import tempfile
 import unittest
 
 from playbooks import EXAMPLE, play, recap, rows_of
-from sites import Office, serial_of
+from sites import NO_LEAK_SEARCH, Office, serial_of
 
 UNITS = 200
 # The units answer so many milliseconds late, so that a run takes its time by waiting and not by computing.
@@ -203,7 +203,7 @@ class Watching(SitesTest):
 
     def carry_out(self, service, **environment):
         command = self.command(service).replace("/etc/kxconfig/kx0.json", str(self.list))
-        variables = {"PATH": self.PATH, "LC_ALL": "C.UTF-8", **environment}
+        variables = {"PATH": self.PATH, "LC_ALL": "C.UTF-8", **NO_LEAK_SEARCH, **environment}
         given = " ".join(f"{name}={shlex.quote(value)}" for name, value in variables.items())
         return self.office.on_host(self.site, f"env -i {given} {command} 2>&1")
 

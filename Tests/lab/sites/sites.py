@@ -26,14 +26,17 @@ status=0
 echo "$begun $(date +%s.%N) $*" >>{calls}
 exit $status
 """
+# An instrumented kxctl cannot look for leaks in a namespace of processes.
+NO_LEAK_SEARCH = {"ASAN_OPTIONS": "detect_leaks=0"}
+
 SSHD = """\
 ListenAddress {address}:{port}
 HostKey {folder}/host_key
 PasswordAuthentication no
 UsePAM no
 PidFile none
-SetEnv ASAN_OPTIONS=detect_leaks=0
-"""  # an instrumented kxctl cannot look for leaks in a namespace of processes
+SetEnv {environment}
+"""
 
 
 def eventually(condition, what, patience=20):
@@ -79,7 +82,8 @@ class Site:
         (self.folder / "passwd").write_text(PASSWD.format(home=self.folder / "home"), encoding="utf-8")
         (self.folder / "home/.ssh/authorized_keys").write_text(authorized_key + "\n", encoding="utf-8")
         (self.folder / "sshd_config").write_text(
-            SSHD.format(address=self.address, port=self.port, folder=self.folder), encoding="utf-8")
+            SSHD.format(address=self.address, port=self.port, folder=self.folder,
+                        environment=" ".join(map("=".join, NO_LEAK_SEARCH.items()))), encoding="utf-8")
         return new_key(self.folder / "host_key")
 
     def _accepts(self):
