@@ -45,6 +45,7 @@ void lookAt(const UnitTable& table, std::size_t lines) {
 
 std::vector<ReportedRow> outcomesOf(const UnitTable& table) {
     std::vector<ReportedRow> outcomes;
+    outcomes.reserve(table.rows.size());
     for (const WantedRow& row : table.rows) {
         outcomes.push_back({row.line, "done", row.line % 2 == 0 ? "because, \"so\"" : ""});
     }
