@@ -243,14 +243,9 @@ void KXTableRun::didAsk() {
     }
     _plan = planOfAnswers();
     _newAddresses = newAddressesOf(_plan);
-    std::vector<AddressQuestion> questions;
-    questions.reserve(_newAddresses.size());
-    for (const NewAddress& address : _newAddresses) {
-        questions.push_back(address.question);
-    }
     _holders = std::make_unique<NewAddressSearch>(
         *_exchange, HolderSearch::Services{.neighbours = _services.moves.holders.neighbours},
-        std::move(questions));
+        questionsAbout(_newAddresses));
     _holders->begin([this] { goOn(&KXTableRun::didFindHolders); });
 }
 

@@ -24,17 +24,12 @@ CommandRun::Refusal findUnitsOfRows(CommandRun& run, std::span<const WantedRow> 
 
 void findHolders(CommandRun& run, UnitPlan& plan, AddressProbes* probes) {
     const std::vector<NewAddress> addresses = newAddressesOf(plan);
-    std::vector<AddressQuestion> questions;
-    questions.reserve(addresses.size());
-    for (const NewAddress& address : addresses) {
-        questions.push_back(address.question);
-    }
-    if (questions.empty()) {
+    if (addresses.empty()) {
         return;
     }
     NewAddressSearch search(run.exchange(),
                             {.neighbours = run.services().neighbours, .probes = probes},
-                            std::move(questions));
+                            questionsAbout(addresses));
     run.wait(search, [&plan] { return std::to_string(plan.sum(RowState::planned)); });
     for (std::size_t i = 0; i < addresses.size() && !run.isInterrupted(); ++i) {
         noteHolders(plan, addresses[i].row, search.results()[i]);

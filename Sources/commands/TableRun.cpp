@@ -55,7 +55,6 @@ private:
     std::unique_ptr<OutputFile> _report; // null without one
     NewJournal _journal;
     std::unique_ptr<HeldRunLock> _lock;
-    std::vector<KeptJournal> _before;
     UnitPlan _plan;
 };
 
@@ -110,12 +109,11 @@ void endInterruptedSearch(UnitPlan& plan) {
 // Journals of runs before tell where a unit may be that was cut off in the middle of a move, and
 // which entries of the ARP cache lead astray.
 Refusal TableRun::plan() {
-    _before = journalsLeft(_journal.path());
-    takeOutLeftEntries(_run, _before);
-    for (const KeptJournal& found : _before) {
+    const std::vector<KeptJournal> before = journalsLeft(_journal.path());
+    takeOutLeftEntries(_run, before);
+    for (const KeptJournal& found : before) {
         _file.rows = resumedRows(std::move(_file.rows), found.journal.entries);
     }
-    _before.clear();
     HeardUnits heard;
     if (auto refusal = findUnitsOfRows(_run, _file.rows, heard)) {
         return refusal;

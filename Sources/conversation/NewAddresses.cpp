@@ -45,6 +45,15 @@ std::vector<NewAddress> newAddressesOf(const UnitPlan& plan) {
     return addresses;
 }
 
+std::vector<AddressQuestion> questionsAbout(const std::vector<NewAddress>& addresses) {
+    std::vector<AddressQuestion> questions;
+    questions.reserve(addresses.size());
+    for (const NewAddress& address : addresses) {
+        questions.push_back(address.question);
+    }
+    return questions;
+}
+
 void noteHolders(UnitPlan& plan, std::size_t place, const AddressHolders& holders) {
     PlannedRow& row = plan.rows[place];
     if (row.state != RowState::planned) {

@@ -24,6 +24,9 @@ struct NewAddress {
 // Those of the planned rows, in the order of the plan.
 std::vector<NewAddress> newAddressesOf(const UnitPlan& plan);
 
+// What has to be found out about them, in the same order.
+std::vector<AddressQuestion> questionsAbout(const std::vector<NewAddress>& addresses);
+
 // Refuses a planned row whose new address somebody holds, or of whose holder nothing is known, and
 // the rows that wait for it. The unit itself may hold the address, and so may a unit that gives it
 // up for this one.

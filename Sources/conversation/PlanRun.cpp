@@ -39,17 +39,12 @@ void PlanRun::start() {
         return;
     }
     _newAddresses = newAddressesOf(_plan);
-    std::vector<AddressQuestion> questions;
-    questions.reserve(_newAddresses.size());
-    for (const NewAddress& address : _newAddresses) {
-        questions.push_back(address.question);
-    }
-    if (questions.empty()) {
+    if (_newAddresses.empty()) {
         beginRows();
         return;
     }
-    _search =
-        std::make_unique<NewAddressSearch>(_exchange, _moveServices.holders, std::move(questions));
+    _search = std::make_unique<NewAddressSearch>(_exchange, _moveServices.holders,
+                                                 questionsAbout(_newAddresses));
     _search->begin([this] { didSearch(); });
 }
 

@@ -1,16 +1,15 @@
 // Export in the window of all units: both formats, hostile unit IDs, files that cannot be written.
 
 #include "AllUnitsFixture.h"
+#include "doubles/FileSizeLimit.h"
 #include "files/CSV.h"
 
 #include <nlohmann/json.hpp>
-#include <sys/resource.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QTemporaryDir>
-#include <csignal>
 
 namespace kx {
 
@@ -26,28 +25,6 @@ protected:
     }
 
     QTemporaryDir folder;
-};
-
-// No file can grow beyond some bytes meanwhile, as if the disk were full.
-class NoRoomForFiles {
-public:
-    NoRoomForFiles()
-        : _signal(std::signal(SIGXFSZ, SIG_IGN)) {
-        ::getrlimit(RLIMIT_FSIZE, &_before);
-        rlimit little = _before;
-        little.rlim_cur = 100;
-        ::setrlimit(RLIMIT_FSIZE, &little);
-    }
-    ~NoRoomForFiles() {
-        ::setrlimit(RLIMIT_FSIZE, &_before);
-        std::signal(SIGXFSZ, _signal);
-    }
-    NoRoomForFiles(const NoRoomForFiles&) = delete;
-    NoRoomForFiles& operator=(const NoRoomForFiles&) = delete;
-
-private:
-    rlimit _before{};
-    void (*_signal)(int);
 };
 
 } // namespace
@@ -114,7 +91,7 @@ TEST_F(AllUnitsExport, AFileThatDoesNotFitOnTheDiskLeavesTheOldOneAndNoOther) {
     ASSERT_TRUE(old.open(QIODevice::WriteOnly));
     old.write("old");
     old.close();
-    const NoRoomForFiles noRoom;
+    const FileSizeLimit limit(100);
     window.exportTo(path("units.csv"), AllUnitsWindow::FileFormat::csv);
     EXPECT_TRUE(note().ends_with("cannot be written: File too large.")) << note();
     EXPECT_EQ(contents(path("units.csv")), "old");

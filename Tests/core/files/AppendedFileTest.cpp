@@ -1,6 +1,6 @@
 #include "files/AppendedFile.h"
 
-#include "FileSizeLimit.h"
+#include "doubles/FileSizeLimit.h"
 #include "files/WholeFile.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "files/JournalFile.h"
 
-#include "FileSizeLimit.h"
+#include "doubles/FileSizeLimit.h"
 #include "doubles/ManualRunLoop.h"
 #include "files/WholeFile.h"
 

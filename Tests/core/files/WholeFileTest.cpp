@@ -1,6 +1,6 @@
 #include "files/WholeFile.h"
 
-#include "FileSizeLimit.h"
+#include "doubles/FileSizeLimit.h"
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
