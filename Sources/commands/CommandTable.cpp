@@ -164,35 +164,31 @@ constexpr Text planText =
     "Reads a table of units, asks the units for their parameters, and prints what would change, "
     "line by line, and the sum. No command is sent.\n\n"
     "The table is a file of comma-separated values in UTF-8, as \"kxctl discover --csv\" writes "
-    "it. "
-    "Commas may be semicolons or tabs. Its first line names the columns, in any order: serial, and "
-    "the parameters that shall change: unit-id, internal-ip, internal-mac, destination-ip, "
-    "destination-mac, destination-port, device-port and new-serial. An empty cell leaves the "
-    "parameter as it is. The columns note, state and reason, and those of an export that are no "
-    "parameters, are passed over.\n\n"
-    "A fault in the file is told by its line and column, and nobody is asked: exit status 2. Where "
-    "a "
-    "unit does not answer, somebody holds a new address, or addresses change hands in a ring, the "
-    "exit status is 1.";
+    "it. Commas may be semicolons or tabs. Its first line names the columns, in any order: "
+    "serial, and the parameters that shall change: unit-id, internal-ip, internal-mac, "
+    "destination-ip, destination-mac, destination-port, device-port and new-serial. An empty "
+    "cell leaves the parameter as it is. The columns note, state and reason, and those of an "
+    "export that are no parameters, are passed over.\n\n"
+    "A fault in the file is told by its line and column, and nobody is asked: exit status 2. "
+    "Where a unit does not answer, somebody holds a new address, or addresses change hands in a "
+    "ring, the exit status is 1.";
 constexpr Text applyText =
-    "Makes the units of a table, or of a plan that \"kxctl plan --out\" has kept, show the values "
-    "that stand there. It plans, shows the plan and asks; then it changes one unit alone, and "
-    "after "
-    "that several at once. Every value is read back. Nothing is sent when a unit is refused or "
-    "does "
-    "not answer, and nothing new is begun after a unit was left half configured or silent, unless "
-    "--keep-going says so. A kept plan refuses a unit that shows another value since.\n\n"
+    "Makes the units of a table, or of a plan that \"kxctl plan --out\" has kept, show the "
+    "values that stand there. It plans, shows the plan and asks; then it changes one unit alone, "
+    "and after that several at once. Every value is read back. Nothing is sent when a unit is "
+    "refused or does not answer, and nothing new is begun after a unit was left half configured "
+    "or silent, unless --keep-going says so. A kept plan refuses a unit that shows another value "
+    "since.\n\n"
     "The journal gets a line on the disk before each command, with the old value. To resume an "
-    "apply that was cut off, apply again, with the same journal: what the units show decides what "
-    "is "
-    "left to do. \"kxctl revert\" brings the old values back.\n\n"
+    "apply that was cut off, apply again, with the same journal: what the units show decides "
+    "what is left to do. \"kxctl revert\" brings the old values back.\n\n"
     "Only one apply or revert runs on a host at a time; a second one ends with exit status 3.\n\n"
-    "The final states are done, unchanged, refused, untouched, half and silent. The report is the "
-    "table with the columns state and reason, and can be applied again.";
+    "The final states are done, unchanged, refused, untouched, half and silent. The report is "
+    "the table with the columns state and reason, and can be applied again.";
 constexpr Text revertText =
     "Brings back the values that the units had before the run of \"kxctl apply\" that wrote the "
-    "journal. A unit is found under its old or its new serial number and address. It plans, shows "
-    "the plan, asks and runs as apply does, and writes a journal of its own.";
+    "journal. A unit is found under its old or its new serial number and address. It plans, "
+    "shows the plan, asks and runs as apply does, and writes a journal of its own.";
 
 constexpr std::array commands{
     CommandRow{"interfaces",
