@@ -26,8 +26,6 @@ QString inPairs(const QString& digits, QChar separator) {
     return pairs.join(separator);
 }
 
-// Adds a number when the first five bytes are zero, otherwise a text. Adds nothing when the bytes
-// are no text.
 // A window marks the characters that nobody sees and that act on a line. Those that the units of
 // these tests can get are controls.
 QString withMarks(QString text) {
@@ -39,6 +37,16 @@ QString withMarks(QString text) {
     return text;
 }
 
+// Units fill a short unit ID up with zero bytes, which a window leaves out.
+QString withoutZeroBytesAtItsEnd(QString text) {
+    while (text.endsWith(QChar::Null)) {
+        text.chop(1);
+    }
+    return text;
+}
+
+// Adds a number when the first five bytes are zero, otherwise a text. Adds nothing when the bytes
+// are no text.
 void addUnitID(ShownParameters& shown, const QString& digits) {
     const QByteArray bytes = QByteArray::fromHex(digits.toLatin1());
     if (bytes.startsWith(QByteArray(5, '\0'))) {
@@ -48,7 +56,7 @@ void addUnitID(ShownParameters& shown, const QString& digits) {
     QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
     const QString text = decoder(bytes);
     if (!decoder.hasError()) {
-        shown["unit ID"] = withMarks(text);
+        shown["unit ID"] = withMarks(withoutZeroBytesAtItsEnd(text));
     }
 }
 
