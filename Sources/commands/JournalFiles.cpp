@@ -79,6 +79,7 @@ std::vector<KeptJournal> journalsLeft(const std::string& path) {
     KeptJournal named;
     if (isFilled(path) && !readJournalFile(path, named).has_value()) {
         journals.push_back(std::move(named));
+        sortByBeginning(journals);
     }
     return journals;
 }

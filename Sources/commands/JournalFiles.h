@@ -22,8 +22,8 @@ namespace kx {
 // Reads a journal, or says why it is none.
 CommandRun::Refusal readJournalFile(const std::string& path, KeptJournal& found);
 
-// The journals of the current folder that kxctl has named itself, the oldest first, and the one at
-// `path` where that is another one. What cannot be read is passed over.
+// The journals of the current folder that kxctl has named itself, and the one at `path` where that
+// is another one, the oldest first. What cannot be read is passed over.
 std::vector<KeptJournal> journalsLeft(const std::string& path = {});
 
 // Takes out the entries of the ARP cache that the journals name and that are still there, and notes

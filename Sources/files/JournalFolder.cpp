@@ -6,7 +6,9 @@
 #include <algorithm>
 #include <array>
 #include <filesystem>
+#include <iterator>
 #include <string_view>
+#include <tuple>
 #include <utility>
 
 namespace kx {
@@ -15,6 +17,17 @@ namespace {
 
 constexpr std::string_view beginningOfName = "kxctl-journal-";
 constexpr std::string_view endOfName = ".jsonl";
+
+// The time in the name of a journal, and what follows it: nothing for the first run of a second,
+// "-2" for the second one.
+std::tuple<std::string_view, std::size_t, std::string_view> placeInTime(std::string_view name) {
+    constexpr std::string_view form = "20260102-030405";
+    name.remove_prefix(beginningOfName.size());
+    name.remove_suffix(endOfName.size());
+    const std::string_view time = name.substr(0, form.size());
+    name.remove_prefix(time.size());
+    return {time, name.size(), name}; // "-10" is behind "-9"
+}
 
 } // namespace
 
@@ -55,24 +68,47 @@ std::string timeOfJournal(std::chrono::seconds sinceEpoch) {
 }
 
 std::vector<KeptJournal> journalsIn(const std::string& folder) {
-    std::vector<std::string> paths;
+    std::vector<std::string> names;
     std::error_code error;
     const std::filesystem::directory_iterator entries(folder.empty() ? "." : folder, error);
     for (const auto& entry : entries) {
         const std::string name = entry.path().filename().string();
         if (name.starts_with(beginningOfName) && name.ends_with(endOfName)) {
-            paths.push_back((std::filesystem::path(folder) / name).string());
+            names.push_back(name);
         }
     }
-    std::ranges::sort(paths);
+    std::ranges::sort(names, {}, placeInTime);
     std::vector<KeptJournal> journals;
-    for (const std::string& path : paths) {
-        auto read = readKeptJournal(path);
+    for (const std::string& name : names) {
+        auto read = readKeptJournal((std::filesystem::path(folder) / name).string());
         if (auto* const kept = std::get_if<KeptJournal>(&read)) {
             journals.push_back(std::move(*kept));
         }
     }
+    sortByBeginning(journals);
     return journals;
+}
+
+std::vector<KeptJournal> journalsOfFolders(const std::vector<std::string>& folders) {
+    std::vector<std::filesystem::path> places;
+    std::vector<KeptJournal> journals;
+    for (const std::string& folder : folders) {
+        std::error_code error;
+        auto place = std::filesystem::canonical(folder, error);
+        if (!error && std::ranges::find(places, place) == places.end()) {
+            places.push_back(std::move(place));
+            std::ranges::move(journalsIn(folder), std::back_inserter(journals));
+        }
+    }
+    sortByBeginning(journals);
+    return journals;
+}
+
+// Times of one form and one zone, so their texts are in their order.
+void sortByBeginning(std::vector<KeptJournal>& journals) {
+    std::ranges::stable_sort(journals, {}, [](const KeptJournal& kept) -> const std::string& {
+        return kept.journal.head.started;
+    });
 }
 
 std::string_view wholeLinesOfJournal(std::string_view text) {
