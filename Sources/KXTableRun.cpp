@@ -105,6 +105,7 @@ void KXTableRun::use(TableFile file) {
     _lines.clear();
     ++_listNumber;
     _journalPath.clear();
+    _interfaceOfPlan.clear();
     if (!_file.table.complaints.empty()) {
         show(Stage::faulty);
     } else if (!_file.path.empty()) {
@@ -121,7 +122,7 @@ void KXTableRun::refreshInterfaces() {
 }
 
 std::optional<std::size_t> KXTableRun::chosenInterface() const {
-    std::string name = _interfaceName;
+    std::string name = _interfaceName.empty() ? _interfaceOfPlan : _interfaceName;
     if (name.empty() && _services.chosenInterface) {
         name = _services.chosenInterface().value_or("");
     }
@@ -164,6 +165,7 @@ void KXTableRun::ask() {
     if (!openExchange()) {
         return;
     }
+    _interfaceOfPlan = _askable[chosenInterface().value_or(0)].name;
     _isStopping = false;
     _plan = {};
     _lines.clear();
@@ -207,10 +209,8 @@ bool KXTableRun::openExchange() {
 // Runs of before tell under which other names a unit may answer.
 void KXTableRun::search(Continuation next) {
     std::vector<WantedRow> rows = _file.rows;
-    for (const std::string& folder : {folderOfFile(), _services.stateFolder}) {
-        for (const KeptJournal& kept : journalsIn(folder)) {
-            rows = resumedRows(std::move(rows), kept.journal.entries);
-        }
+    for (const KeptJournal& kept : journalsBefore()) {
+        rows = resumedRows(std::move(rows), kept.journal.entries);
     }
     const auto chosen = chosenInterface();
     _search = std::make_unique<RowSearch>(*_exchange, std::move(rows),
@@ -312,7 +312,7 @@ void KXTableRun::show(Stage stage, std::string message) {
     _faultOfReport.clear();
     changed();
     if (canChoose()) {
-        if (const auto ended = std::exchange(_hasStopped, nullptr)) {
+        for (const auto& ended : std::exchange(_whenStopped, {})) {
             ended();
         }
     }

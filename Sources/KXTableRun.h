@@ -117,8 +117,11 @@ public:
     void saveReport();
 
     // Stops, and calls `ended` when nothing is under way any more: at once when nothing is now.
-    // When it was called before, a unit under way gets no further command.
+    // When several wait for that, they are called in their order.
     void stopThen(std::function<void()> ended);
+
+    // Stops, and a unit under way gets no further command. It may be left half configured.
+    void breakOff();
 
     bool canChoose() const;
     bool canAsk() const;
@@ -131,6 +134,9 @@ public:
     // Commands are sent, or are about to be.
     bool isApplying() const { return _stage == Stage::applying; }
 
+    // Nothing new begins any more; what is under way has not ended yet.
+    bool isStopping() const { return _isStopping; }
+
     // A unit of the run is half configured, or has not answered since a command; and what is to be
     // said about each of them.
     bool needsALook() const;
@@ -142,7 +148,8 @@ public:
     const std::string& path() const { return _file.path; } // of the file; empty without one
 
     // The interfaces on which units can be asked, and the place of the one that is asked; absent
-    // while a person has to choose.
+    // while a person has to choose. A plan keeps its interface, whatever is chosen in the main
+    // window later.
     const std::vector<HostInterface>& interfaces() const { return _askable; }
     std::optional<std::size_t> chosenInterface() const;
 
@@ -151,7 +158,7 @@ public:
 
     // How things are, in one or two sentences; and whether they mean trouble.
     std::string heading() const;
-    bool meansTrouble() const { return !_message.empty() || !_faultOfReport.empty(); }
+    bool meansTrouble() const;
 
     // Where the journal is, or will be; empty without a file.
     std::string journalLine() const;
@@ -197,6 +204,7 @@ private:
     void didAsk();
     void didFindHolders();
 
+    std::vector<KeptJournal> journalsBefore() const;
     void releaseLeftEntries();
     void didRelease();
     void searchAgain();
@@ -213,7 +221,7 @@ private:
     Services _services;
     Panels _panels;
     std::function<void()> _didChange;
-    std::function<void()> _hasStopped; // waits for the end of what is under way
+    std::vector<std::function<void()>> _whenStopped; // wait for the end of what is under way
 
     Stage _stage = Stage::empty;
     TableFile _file;
@@ -227,7 +235,8 @@ private:
     std::string _journalPath;
     std::vector<HostInterface> _all;
     std::vector<HostInterface> _askable;
-    std::string _interfaceName; // chosen here; empty before
+    std::string _interfaceName;   // chosen here; empty before
+    std::string _interfaceOfPlan; // on which the units of the file were asked; empty before
     PlanRun::Options _options;
     bool _isStopping = false;
     std::chrono::milliseconds _firstCommand{0};

@@ -9,7 +9,6 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <iterator>
 #include <utility>
 
 namespace kx {
@@ -46,9 +45,7 @@ void KXTableRun::apply() {
     _leftEntry.clear();
     show(Stage::applying);
     tick();
-    for (const std::string& folder : {folderOfFile(), _services.stateFolder}) {
-        std::ranges::move(journalsIn(folder), std::back_inserter(_left));
-    }
+    _left = journalsBefore();
     std::erase_if(
         _left, [](const KeptJournal& kept) { return bindingsLeft(kept.journal.entries).empty(); });
     releaseLeftEntries();
@@ -158,6 +155,10 @@ std::string KXTableRun::folderOfFile() const {
     return folder.empty() ? "." : folder.string();
 }
 
+std::vector<KeptJournal> KXTableRun::journalsBefore() const {
+    return journalsOfFolders({folderOfFile(), _services.stateFolder});
+}
+
 std::optional<Error> KXTableRun::openJournalIn(const std::string& folder) {
     _journal = std::make_unique<WrittenJournal>(_services.session.runLoop);
     const std::string path = newJournalPath(folder, _services.wallClock.localTime());
@@ -232,11 +233,14 @@ void KXTableRun::stopThen(std::function<void()> ended) {
         ended();
         return;
     }
-    _hasStopped = std::move(ended);
-    if (canStop()) {
-        stop();
-    } else if (_run != nullptr) {
-        _run->interrupt();
+    _whenStopped.push_back(std::move(ended));
+    stop();
+}
+
+void KXTableRun::breakOff() {
+    stop();
+    if (_run != nullptr) {
+        _run->interrupt(); // for the second time
     }
 }
 

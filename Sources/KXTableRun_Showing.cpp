@@ -64,12 +64,30 @@ std::string KXTableRun::sentenceOfStage() const {
 }
 
 std::string KXTableRun::sentenceOfAsking() const {
-    if (_isStopping || _search == nullptr) {
+    if (_isStopping) {
         return localizedText("Stopping.");
     }
+    const std::size_t answered = _search != nullptr ? _search->heard().count() : 0;
     return _holders != nullptr ? localizedText("Finding out who holds the new addresses.")
                                : localizedText("Asking the units. %d have answered.",
-                                               {static_cast<long long>(_search->heard().count())});
+                                               {static_cast<long long>(answered)});
+}
+
+// A run that a person has stopped is none, as long as every unit that was begun is done.
+bool KXTableRun::meansTrouble() const {
+    if (!_message.empty() || !_faultOfReport.empty()) {
+        return true;
+    }
+    switch (_stage) {
+    case Stage::faulty:
+        return true;
+    case Stage::planned:
+        return !objectionToApply().empty();
+    case Stage::ended:
+        return _plan.hasObjections() || needsALook();
+    default:
+        return false;
+    }
 }
 
 std::string KXTableRun::journalLine() const {
@@ -106,7 +124,7 @@ std::string KXTableRun::objectionToApply() const {
     }
     if (_plan.hasObjections() && !_options.keepsGoing && _plan.sum(RowState::planned) > 0) {
         return localizedText("Apply sends nothing while lines are refused or without an answer, "
-                             "unless it is to keep going.");
+                             "unless “Keep going” is ticked.");
     }
     return {};
 }

@@ -231,6 +231,7 @@ struct Work {
     kx::WaitingPanel& waiting;
     kx::KXConfigAppDelegate& controller;
     kx::KXTableRun& tableRun;
+    bool isOrderedToEnd = false; // by a signal before
 
     void end() {
         window.disconnectActions();
@@ -241,6 +242,10 @@ struct Work {
     // know of them goes to the system log. A second order sends them no further command.
     void endByOrder() {
         waiting.giveUp();
+        if (std::exchange(isOrderedToEnd, true) && tableRun.isStopping()) {
+            tableRun.breakOff();
+            return;
+        }
         tableRun.stopThen([this] {
             for (const std::string& sentence : tableRun.sentencesAboutUnitsToLookAt()) {
                 kx::logToSystem(sentence);

@@ -3,8 +3,11 @@
 #include "KXTableRun.h"
 
 #include "TableRunFixture.h"
+#include "files/KeptPlan.h"
+#include "files/SealedJSON.h"
 
 #include <cerrno>
+#include <set>
 
 namespace kx {
 
@@ -110,11 +113,53 @@ TEST_F(KXTableRunTest, AFileThatCannotBeReadIsNamedWithTheReason) {
     EXPECT_EQ(tableRun.path(), "");
 }
 
-TEST_F(KXTableRunTest, ADamagedPlanIsToldFromATable) {
-    openAndAsk(file("kept.plan", R"({"format": "kxconfig-plan", "version": 1)"));
-    EXPECT_EQ(tableRun.stage(), tableRun.lineCount() > 0 ? Stage::faulty : Stage::empty);
-    EXPECT_FALSE(tableRun.heading().empty());
+TEST_F(KXTableRunTest, ADamagedPlanAndOneOfAnotherVersionAreToldFromATableAndFromEachOther) {
+    const std::string kept = textOfKeptPlan("serial,unit-id\n" + serial(1) + ",A\n", {});
+    const std::string path = folder + "/kept.plan";
+    openAndAsk(file("kept.plan", kept.substr(0, kept.size() / 2)));
+    EXPECT_EQ(tableRun.stage(), Stage::empty);
+    EXPECT_EQ(tableRun.heading(), "“" + path + "” is damaged.");
+    openAndAsk(file("kept.plan", sealedText(R"({"kind":"plan","schema":2})")));
+    EXPECT_EQ(tableRun.stage(), Stage::empty);
+    EXPECT_EQ(tableRun.heading(), "“" + path + "” has the format of another version of kxctl.");
+    EXPECT_TRUE(tableRun.meansTrouble());
     EXPECT_FALSE(tableRun.canApply());
+}
+
+TEST_F(KXTableRunTest, AKeptPlanRefusesAUnitThatShowsAnotherValueSinceAndNamesTheParameter) {
+    addUnits(1, 1);
+    SeenUnit seen;
+    seen.record.setValue(UnitParameter::serialNumber, serial(1));
+    seen.record.setValue(UnitParameter::destinationPortNumber, "3520");
+    seen.record.setValue(UnitParameter::devicePortNumber, "10000");
+    const std::string table = "serial,destination-port\n" + serial(1) + ",3521\n";
+    const WantedRow row{.line = 2, .serialNumber = serial(1), .edits = {}, .seen = seen};
+    const std::string plan = file("kept.plan", textOfKeptPlan(table, std::vector{row}));
+    openAndAsk(plan);
+    EXPECT_EQ(states(), Texts{"· To change"}) << tableRun.cell(0, PlanColumn::reason);
+    unit(1).settings.devicePort = {0x27, 0x11};
+    openAndAsk(plan);
+    EXPECT_EQ(states(), Texts{"✗ Refused"});
+    EXPECT_EQ(tableRun.cell(0, PlanColumn::reason),
+              "The plan is out of date: device-port was “10000” and is “10001” now.");
+}
+
+TEST_F(KXTableRunTest, FromTheFirstMomentItIsSaidThatUnitsAreAsked) {
+    std::set<std::string> said;
+    tableRun.setFollower([&] { said.insert(tableRun.heading()); });
+    tableRun.open(table(1, 1));
+    EXPECT_EQ(said, (std::set<std::string>{"", "Asking the units. 0 have answered."}));
+    tableRun.setFollower({});
+}
+
+TEST_F(KXTableRunTest, WhatHoldsApplyBackMeansTroubleAndAFaultyFileToo) {
+    addUnits(1, 1);
+    openAndAsk(table(1, 2));
+    EXPECT_TRUE(tableRun.meansTrouble()) << "a unit does not answer";
+    tableRun.setKeepsGoing(true);
+    EXPECT_FALSE(tableRun.meansTrouble()) << "the person goes on";
+    openAndAsk(file("faulty.csv", "serial,unit-id\n4.7E+11,A\n"));
+    EXPECT_TRUE(tableRun.meansTrouble());
 }
 
 TEST_F(KXTableRunTest, TheFileIsChosenInAPanelAndCancelChangesNothing) {
@@ -212,6 +257,25 @@ TEST_F(KXTableRunTest, TheInterfaceOfTheMainWindowIsTakenUntilAnotherOneIsChosen
     EXPECT_EQ(tableRun.chosenInterface(), 0U);
     chosenInMainWindow = "lo";
     EXPECT_EQ(tableRun.chosenInterface(), 0U);
+}
+
+TEST_F(KXTableRunTest, APlanKeepsItsInterfaceWhateverIsChosenInTheMainWindowLater) {
+    HostInterface second = ownInterface();
+    second.name = "kx1";
+    second.networks = {{.address = 0x0A000001U, .mask = 0xFF000000U}}; // 10.0.0.1
+    hostInterfaces.interfaces.push_back(second);
+    chosenInMainWindow = "kx0";
+    addUnits(1, 1);
+    openAndAsk(table(1, 1));
+    ASSERT_EQ(tableRun.stage(), Stage::planned);
+    chosenInMainWindow = "kx1";
+    EXPECT_EQ(tableRun.chosenInterface(), 0U);
+    tableRun.apply();
+    settle();
+    EXPECT_EQ(states(), Texts(2, "✓ Done")) << tableRun.heading();
+    tableRun.open(table(1, 1));
+    EXPECT_EQ(tableRun.chosenInterface(), 1U) << "another file takes what is chosen now";
+    settle();
 }
 
 TEST_F(KXTableRunTest, ChoosingTheSameInterfaceAgainKeepsWhatThereIsToSee) {

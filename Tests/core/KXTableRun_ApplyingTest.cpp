@@ -199,19 +199,52 @@ TEST_F(TableApplyingTest, WhoWaitsForTheEndIsToldWhenNothingIsUnderWay) {
     EXPECT_EQ(states().front(), "✓ Done");
 }
 
-TEST_F(TableApplyingTest, TheSecondOrderToStopSendsAUnitUnderWayNoFurtherCommand) {
+TEST_F(TableApplyingTest, WhoStopsAndThenWaitsForTheEndLeavesNoUnitHalfConfigured) {
     addUnits(1, 1);
     openAndAsk(table(1, 1));
     tableRun.apply();
     passUntil([this] { return commands() == 1; });
+    EXPECT_FALSE(tableRun.isStopping());
     tableRun.stop();
+    EXPECT_TRUE(tableRun.isStopping());
+    std::string told;
+    tableRun.stopThen([&] { told += "first "; });
+    tableRun.stopThen([&] { told += "second"; });
+    settle();
+    EXPECT_EQ(told, "first second");
+    EXPECT_EQ(states(), Texts(2, "✓ Done"));
+    EXPECT_FALSE(tableRun.needsALook());
+    EXPECT_FALSE(tableRun.isStopping());
+}
+
+TEST_F(TableApplyingTest, ARunThatIsBrokenOffSendsAUnitUnderWayNoFurtherCommand) {
+    addUnits(1, 1);
+    openAndAsk(table(1, 1));
+    tableRun.apply();
+    passUntil([this] { return commands() == 1; });
     int told = 0;
     tableRun.stopThen([&] { ++told; });
+    tableRun.breakOff();
     settle();
     EXPECT_EQ(told, 1);
     EXPECT_EQ(commands(), 1);
     EXPECT_EQ(tableRun.stage(), Stage::ended);
     EXPECT_TRUE(tableRun.needsALook());
+}
+
+TEST_F(TableApplyingTest, ARunWithARefusedUnitMeansTroubleAndOneThatWasStoppedDoesNot) {
+    addUnits(1, 4);
+    openAndAsk(table(1, 4));
+    tableRun.apply();
+    passUntil([this] { return commands() == 1; });
+    tableRun.stop();
+    settle();
+    EXPECT_FALSE(tableRun.meansTrouble()) << tableRun.heading();
+    bindings.answerToBind = {.state = ARPEntryState::rightsNotGiven};
+    openAndAsk(moves(2, 3));
+    applyAndWait();
+    ASSERT_EQ(tableRun.stage(), Stage::ended);
+    EXPECT_TRUE(tableRun.meansTrouble()) << tableRun.heading();
 }
 
 TEST_F(TableApplyingTest, AHalfConfiguredUnitStopsTheRunAndIsNamed) {

@@ -109,6 +109,28 @@ TEST_F(FromFileWindowTest, TheReasonThatMattersMostIsThereWithoutASearch) {
     EXPECT_EQ(label("fromFileReason"), "") << "all is well";
 }
 
+TEST_F(FromFileWindowTest, AFileThatIsStillFaultyShowsItsFirstFaultAgain) {
+    show();
+    openAndAsk(file("rack.csv", "serial,unit-id\n4.7E+11,A\n4758000001,B\n"));
+    EXPECT_TRUE(isIn(label("fromFileReason"), "4.7E+11"));
+    openAndAsk(file("rack.csv", "serial,unit-id\n" + serial(1) + ",A\n4758000001,B\n"));
+    EXPECT_EQ(shownTable().currentIndex().row(), 0);
+    EXPECT_TRUE(isIn(label("fromFileReason"), "4758000001"));
+    EXPECT_TRUE(control<AnnouncedLabel>("fromFileHeading").meansTrouble());
+}
+
+TEST_F(FromFileWindowTest, EveryButtonNamesItsKeyInItsToolTip) {
+    const std::map<std::string, std::string> keys{
+        {"fromFileChooseButton", "(Ctrl+O)"},     {"fromFileAskButton", "(F5)"},
+        {"fromFileApplyButton", "(Ctrl+Return)"}, {"fromFileStopButton", "(Ctrl+.)"},
+        {"fromFileReportButton", "(Ctrl+S)"},     {"fromFileHelpButton", "(F1)"},
+        {"fromFileCloseButton", "(Esc)"}};
+    for (const auto& [name, key] : keys) {
+        EXPECT_TRUE(isIn(utf8Text(button(name.c_str()).toolTip()), key)) << name;
+        EXPECT_FALSE(button(name.c_str()).accessibleDescription().isEmpty()) << name;
+    }
+}
+
 TEST_F(FromFileWindowTest, LongNamesDoNotMakeTheWindowWider) {
     hostInterfaces.interfaces.front().title = std::string(300, 'w');
     tableRun.refreshInterfaces();
@@ -277,6 +299,23 @@ TEST_F(FromFileWindowTest, StopInTheQuestionFinishesWhatIsUnderWayAndTheWindowSh
     EXPECT_EQ(utf8Text(cell(2, PlanColumn::state)), "– Not begun");
 }
 
+TEST_F(FromFileWindowTest, ClosingAfterStopAsksNobodyAndTheUnitUnderWayIsFinished) {
+    addUnits(1, 4);
+    show();
+    openAndAsk(table(1, 4));
+    tableRun.apply();
+    passUntil([this] { return commands() == 1; });
+    button("fromFileStopButton").click();
+    window.close();
+    EXPECT_EQ(question(), nullptr);
+    EXPECT_TRUE(window.isVisible());
+    settle();
+    EXPECT_EQ(commands(), 2);
+    EXPECT_EQ(utf8Text(cell(1, PlanColumn::state)), "✓ Done");
+    window.close();
+    EXPECT_FALSE(window.isVisible());
+}
+
 TEST_F(FromFileWindowTest, TheQuestionGoesWhenTheRunHasEndedMeanwhile) {
     addUnits(1, 1);
     show();
@@ -341,6 +380,24 @@ TEST_F(MainWindowFromFileTest, TheMainWindowDoesNotCloseWhileUnitsAreConfigured)
     settle();
     EXPECT_FALSE(window.isVisible()) << "it closes when the units under way are read back";
     EXPECT_EQ(commands(), 2);
+}
+
+TEST_F(MainWindowFromFileTest, TheMainWindowThatIsClosedTwiceWaitsForTheUnitUnderWay) {
+    window.setTableRun(&tableRun, {});
+    window.show();
+    addUnits(1, 4);
+    openAndAsk(table(1, 4));
+    tableRun.apply();
+    passUntil([this] { return commands() == 1; });
+    window.close();
+    answerStop();
+    window.close();
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "it was answered";
+    EXPECT_TRUE(window.isVisible());
+    settle();
+    EXPECT_FALSE(window.isVisible());
+    EXPECT_EQ(commands(), 2);
+    EXPECT_FALSE(tableRun.needsALook());
 }
 
 TEST_F(MainWindowFromFileTest, AUnitThatNeedsALookKeepsTheMainWindowOpen) {

@@ -3,6 +3,7 @@
 #include "platform/qt/FromFileModel.h"
 #include "platform/qt/FromFileTable.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/QtButton.h"
 #include "platform/qt/RefreshedComboBox.h"
 #include "platform/qt/ScreenFit.h"
 #include "platform/qt/SentenceLabel.h"
@@ -103,9 +104,8 @@ QLayout* FromFileWindow::makeFileRow() {
                               &KXTableRun::chooseFile);
     _journalButton = addButton("fromFileJournalButton", localizedQtText("Choose &Journal…"),
                                &KXTableRun::chooseJournal);
-    _journalButton->setToolTip(
-        localizedQtText("Makes the plan that takes the run of a journal back."));
-    _journalButton->setAccessibleDescription(_journalButton->toolTip());
+    describeButton(*_journalButton,
+                   localizedQtText("Makes the plan that takes the run of a journal back."), {});
     auto* const row = new QHBoxLayout;
     row->addWidget(_chooseButton);
     row->addWidget(_journalButton);
@@ -133,9 +133,9 @@ QLayout* FromFileWindow::makeButtonRow() {
     _stopButton = addButton("fromFileStopButton", localizedQtText("&Stop"), &KXTableRun::stop);
     _revertButton =
         addButton("fromFileRevertButton", localizedQtText("Re&vert"), &KXTableRun::revert);
-    _revertButton->setToolTip(
-        localizedQtText("Makes the plan that takes this run back. Apply then carries it out."));
-    _revertButton->setAccessibleDescription(_revertButton->toolTip());
+    describeButton(
+        *_revertButton,
+        localizedQtText("Makes the plan that takes this run back. Apply then carries it out."), {});
     _reportButton = addButton("fromFileReportButton", localizedQtText("Save &Report…"),
                               &KXTableRun::saveReport);
     _helpButton = addButton("fromFileHelpButton", localizedQtText("&Help"), nullptr);
@@ -184,19 +184,25 @@ void FromFileWindow::layOut() {
                   rows + sizeHint().height() - _table->sizeHint().height()});
 }
 
-void FromFileWindow::addKey(const QKeySequence& key, QPushButton* button) {
+void FromFileWindow::addKey(const QKeySequence& key, QPushButton* button, const QString& sentence) {
     connect(new QShortcut(key, this), &QShortcut::activated, button, [button] { button->click(); });
+    describeButton(*button, sentence, key);
 }
 
 void FromFileWindow::connectKeys() {
-    addKey(QKeySequence::Open, _chooseButton);
-    addKey(Qt::Key_F5, _askButton);
-    addKey(Qt::CTRL | Qt::Key_Return, _applyButton);
-    addKey(Qt::CTRL | Qt::Key_Period, _stopButton);
-    addKey(QKeySequence::Save, _reportButton);
-    addKey(Qt::Key_F1, _helpButton);
-    addKey(Qt::Key_Escape, _closeButton);
-    addKey(QKeySequence::Close, _closeButton);
+    addKey(QKeySequence::Open, _chooseButton,
+           localizedQtText("Reads a table of units or a kept plan, and asks the units."));
+    addKey(Qt::Key_F5, _askButton,
+           localizedQtText("Asks the units again, and makes the plan anew."));
+    addKey(Qt::CTRL | Qt::Key_Return, _applyButton,
+           localizedQtText("Makes the units show what the plan wants."));
+    addKey(Qt::CTRL | Qt::Key_Period, _stopButton,
+           localizedQtText("Finishes the units under way, and begins no other."));
+    addKey(QKeySequence::Save, _reportButton,
+           localizedQtText("Writes the table with what became of each line."));
+    addKey(Qt::Key_F1, _helpButton, localizedQtText("Opens the help."));
+    addKey(QKeySequence::Close, _closeButton, localizedQtText("Closes the window."));
+    addKey(Qt::Key_Escape, _closeButton, localizedQtText("Closes the window."));
     auto* const copy = new QAction(localizedQtText("&Copy"), this);
     copy->setShortcut(QKeySequence::Copy);
     copy->setShortcutContext(Qt::WidgetShortcut);
@@ -296,7 +302,9 @@ void FromFileWindow::showFileName() {
 
 // The reason of the line that matters most is there without a search for it.
 void FromFileWindow::showLineToLookAt() {
-    if (std::exchange(_stage, _run.stage()) == _run.stage()) {
+    const bool isSameStage = std::exchange(_stage, _run.stage()) == _run.stage();
+    const bool isSameList = std::exchange(_listNumber, _run.listNumber()) == _run.listNumber();
+    if (isSameStage && isSameList) {
         return;
     }
     const auto line = _run.canChoose() ? _run.lineToLookAt() : std::nullopt;
@@ -339,6 +347,10 @@ void FromFileWindow::copyRows() {
 // --- The end ---
 
 void FromFileWindow::askToStop(std::function<void()> stopped) {
+    if (_run.isStopping()) {
+        stopThen(std::move(stopped));
+        return;
+    }
     if (_question != nullptr) {
         _question->raise();
         return;
@@ -356,15 +368,22 @@ void FromFileWindow::askToStop(std::function<void()> stopped) {
     auto* const goOn = question->addButton(localizedQtText("Go On"), QMessageBox::RejectRole);
     question->setDefaultButton(goOn);
     question->setEscapeButton(goOn);
-    connect(stop, &QPushButton::clicked, this, [this, stopped = std::move(stopped)] {
-        _run.stopThen([this, stopped] {
-            if (stopped && !_run.needsALook()) {
-                stopped();
-            }
-        });
-    });
+    connect(stop, &QPushButton::clicked, this,
+            [this, stopped = std::move(stopped)] { stopThen(stopped); });
     connect(question, &QDialog::finished, this, [this] { _question = nullptr; });
     question->open();
+}
+
+void FromFileWindow::stopThen(std::function<void()> stopped) {
+    if (stopped) {
+        _stopped = std::move(stopped);
+    }
+    _run.stopThen([this] {
+        const auto ended = std::exchange(_stopped, nullptr);
+        if (ended && !_run.needsALook()) {
+            ended();
+        }
+    });
 }
 
 void FromFileWindow::closeEvent(QCloseEvent* event) {

@@ -40,8 +40,9 @@ public:
     // Shows the window in front of the others. Without a file it asks for one.
     void present();
 
-    // Asks whether to stop the run. When a person wants that, `stopped` is called as soon as
-    // nothing is under way any more, unless a unit needs a look. It may be empty.
+    // Asks whether to stop the run. When a person wants that, or has stopped it already, `stopped`
+    // is called as soon as nothing is under way any more, unless a unit needs a look. It may be
+    // empty. Of several calls, the last one that is not empty counts.
     void askToStop(std::function<void()> stopped);
 
 protected:
@@ -56,7 +57,7 @@ private:
     QLayout* makeButtonRow();
     void layOut();
     void connectKeys();
-    void addKey(const QKeySequence& key, QPushButton* button);
+    void addKey(const QKeySequence& key, QPushButton* button, const QString& sentence);
 
     void follow();
     void enableControls();
@@ -67,6 +68,7 @@ private:
     void showReason();
     QString placeholder() const;
     void copyRows();
+    void stopThen(std::function<void()> stopped);
 
     KXTableRun& _run;
     std::function<void()> _openHelp;
@@ -91,7 +93,9 @@ private:
     QPushButton* _helpButton = nullptr;
     QPushButton* _closeButton = nullptr;
     QMessageBox* _question = nullptr; // whether to stop; null while nobody is asked
+    std::function<void()> _stopped;   // to be called when the run has stopped; may be empty
     KXTableRun::Stage _stage = KXTableRun::Stage::empty; // that is shown
+    std::size_t _listNumber = 0;                         // of the lines that are shown
     QWidget* _focusBefore = nullptr;                     // lost the keyboard when it was disabled
 };
 
