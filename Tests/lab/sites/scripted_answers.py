@@ -20,7 +20,8 @@ from playbooks import EXAMPLE, play, recap, rows_of  # noqa: E402
 from program import VALIDATORS, kxctl  # noqa: E402
 
 FIRST, SECOND = "4B 58 00 00 00 01", "4B 58 00 00 00 02"
-STATES = ("done", "unchanged", "refused", "untouched", "half", "silent")
+STATES = {"apply": ("done", "unchanged", "refused", "untouched", "half", "silent"),
+          "plan": ("planned", "unchanged", "refused", "silent")}
 STAND_IN = """\
 #!/bin/sh
 echo "$*" >>{folder}/calls
@@ -31,18 +32,22 @@ exit $(cat {folder}/$3.status)
 
 def row(state, *states_of_changes, serial=FIRST):
     return {"line": 2, "serial": serial, "state": state,
-            "reason": None if state in ("done", "unchanged") else "because of \"this\", and that",
+            "reason": None if state in ("done", "unchanged", "planned") else "because of \"this\", and that",
             "changes": [{"serial": serial, "parameter": "unit-id", "from": "1", "to": "RACK7A",
                          "command": "^^IdURACK7A", "state": each} for each in states_of_changes]}
 
 
-def answer(status, *rows, code=None, warnings=()):
-    document = {"schema": 1, "command": "apply", "exit": status,
+def answer(status, *rows, code=None, warnings=(), command="apply"):
+    document = {"schema": 1, "command": command, "exit": status,
                 "error": code and {"code": code, "message": f"It is {code}."},
                 "warnings": [{"code": "arp-entry", "message": each} for each in warnings], "rows": list(rows),
-                "sums": {state: sum(each["state"] == state for each in rows) for state in STATES}}
-    VALIDATORS["apply"].validate(document)
+                "sums": {state: sum(each["state"] == state for each in rows) for state in STATES[command]}}
+    VALIDATORS[command].validate(document)
     return json.dumps(document), status
+
+
+def plan(status, *rows, code=None):
+    return answer(status, *rows, code=code, command="plan")
 
 
 # By the name of the case: the answer, and whether the site has changed and whether it has failed.
@@ -64,9 +69,27 @@ CASES = {
     "no-document": (("units: 200\n", 0), 1, 1),
     "crashed": (("", 139), 1, 1),
 }
+# The same for the plan of check mode, where nothing has changed: whether a unit would.
+PLANS = {
+    "would-change": (plan(0, row("planned", "planned")), 1, 0),
+    "nothing-to-do": (plan(0, row("unchanged", "unchanged")), 0, 0),
+    "held-back-by-silence": (plan(1, row("planned", "planned"), row("silent", "refused", serial=SECOND),
+                                  code="not-found"), 0, 1),
+    "held-back-by-a-holder": (plan(1, row("planned", "planned"), row("refused", "refused", serial=SECOND),
+                                   code="held"), 0, 1),
+    "would-go-on": (plan(1, row("planned", "planned"), row("silent", "refused", serial=SECOND),
+                         code="not-found"), 1, 1),
+    "plan-of-a-faulty-table": (plan(2, code="file"), 0, 1),
+    "plan-crashed": (("", 139), 0, 1),
+}
+KEEP_GOING = ("went-on", "would-go-on")
 
 
-class ScriptedAnswers(unittest.TestCase):
+class Answers(unittest.TestCase):
+    """Plays apply.yml for one host for each case."""
+
+    cases, words = {}, ()
+
     @classmethod
     def setUpClass(cls):
         folder = tempfile.TemporaryDirectory()
@@ -76,25 +99,47 @@ class ScriptedAnswers(unittest.TestCase):
         program = cls.folder / "kxctl"
         program.write_text(STAND_IN.format(folder=cls.folder), encoding="utf-8")
         program.chmod(0o755)
-        for name, ((text, status), _, _) in CASES.items():
+        for name, ((text, status), _, _) in cls.cases.items():
             (cls.folder / f"{name}.out").write_text(text, encoding="utf-8")
             (cls.folder / f"{name}.status").write_text(str(status), encoding="utf-8")
             (cls.folder / f"{name}.csv").write_text(f"serial,unit-id\n{FIRST},RACK7A\n", encoding="utf-8")
         inventory = cls.folder / "inventory.yml"
         inventory.write_text("sites:\n  vars: {ansible_connection: local}\n  hosts:\n" + "".join(
-            f"    {name}: {{kx_interface: {name}, kx_keep_going: {str(name == 'went-on').lower()}}}\n"
-            for name in CASES), encoding="utf-8")
+            f"    {name}: {{kx_interface: {name}, kx_keep_going: {str(name in KEEP_GOING).lower()}}}\n"
+            for name in cls.cases), encoding="utf-8")
         cls.report = cls.folder / "report.csv"
         cls.status, cls.printed = play(
-            "apply.yml", inventory, "--diff", "-e", f"tables={folder.name}", "-e", f"report={cls.report}",
-            home=cls.folder / "home", PATH=f"{folder.name}:{os.environ['PATH']}")
+            "apply.yml", inventory, "--diff", *cls.words, "-e", f"tables={folder.name}", "-e",
+            f"report={cls.report}", home=cls.folder / "home", PATH=f"{folder.name}:{os.environ['PATH']}")
 
-    def test_changed_and_failed_are_as_the_units_are(self):
+    def assert_outcomes_are_told(self):
         self.assertEqual(self.status, 2)
         self.assertEqual({site: (counts["changed"], counts["failed"])
                           for site, counts in recap(self.printed).items()},
-                         {name: (changed, failed) for name, (_, changed, failed) in CASES.items()},
+                         {name: (changed, failed) for name, (_, changed, failed) in self.cases.items()},
                          self.printed)
+
+
+class Planning(Answers):
+    cases, words = PLANS, ("--check",)
+
+    def test_a_site_is_changed_in_check_mode_where_apply_would_change_a_unit(self):
+        self.assert_outcomes_are_told()
+
+    def test_nothing_but_plans_are_asked_for(self):
+        calls = (self.folder / "calls").read_text(encoding="utf-8").splitlines()
+        self.assertEqual([call.split()[3] for call in calls], ["plan"] * len(PLANS))
+
+    def test_a_difference_is_shown_where_apply_would_make_it(self):
+        self.assertEqual(self.printed.count(f"+{FIRST} unit-id: RACK7A"), 1, self.printed)
+        self.assertNotIn(f"+{SECOND}", self.printed)
+
+
+class ScriptedAnswers(Answers):
+    cases = CASES
+
+    def test_changed_and_failed_are_as_the_units_are(self):
+        self.assert_outcomes_are_told()
 
     def test_the_error_of_kxctl_is_the_message(self):
         for name, said in (("half", "It is half."), ("faulty-table", "It is file."),

@@ -15,6 +15,8 @@ description:
   - C(changed) is true when a unit shows a new value, and when it may have one, because it fell silent after a
     command or because kxctl did not end by itself.
   - In check mode C(apply) makes the plan only. Units get requests for their parameters, and no command.
+    C(changed) is then true when a unit would change. None would where a row is refused or a unit does not
+    answer, because that holds C(apply) back, unless I(keep_going) is set.
 options:
   command: {choices: [apply, discover], required: true, description: What kxctl does.}
   interface: {type: str, description: The network interface that the units hear.}
@@ -71,13 +73,15 @@ def changes_of(document, *states):
     return [change for row in rows for change in row["changes"] if change["state"] in states]
 
 
-def result_of(document):
-    """A value that was read back, or that a plan would set, is in the difference that --diff shows."""
-    certain = "planned" if document["command"] == "plan" else "done"
+def result_of(document, keeps_going):
+    """A value that was read back, or that apply would set, is in the difference that --diff shows."""
+    is_plan = document["command"] == "plan"
+    is_held_back = is_plan and document["exit"] != 0 and not keeps_going
+    certain = [] if is_held_back else ["planned" if is_plan else "done"]
     values = {key: "".join(f"{change['serial']} {change['parameter']}: {change[told]}\n"
-                           for change in changes_of(document, certain))
+                           for change in changes_of(document, *certain))
               for key, told in (("before", "from"), ("after", "to"))}
-    return {"changed": bool(changes_of(document, certain, "different", "silent")), "diff": values,
+    return {"changed": bool(changes_of(document, *certain, "different", "silent")), "diff": values,
             "lines": lines_of(document),
             "document": {key: value for key, value in document.items() if key not in ("rows", "units")}}
 
@@ -94,10 +98,11 @@ def main():
         module.fail_json(msg=told, changed="apply" in words)
     for warning in document["warnings"]:
         module.warn(warning["message"])
+    result = result_of(document, module.params["keep_going"])
     if status != 0:
         error = document["error"] or {"message": f"kxctl ended with {status}."}
-        module.fail_json(msg=error["message"], **result_of(document))
-    module.exit_json(**result_of(document))
+        module.fail_json(msg=error["message"], **result)
+    module.exit_json(**result)
 
 
 if __name__ == "__main__":
