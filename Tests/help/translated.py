@@ -18,7 +18,7 @@ KEYS = {
            "Right": "Derecha", "Up": "Arriba", "Down": "Abajo"},
     "ja": {"Left": "←", "Right": "→", "Up": "↑", "Down": "↓"},
 }
-KEY = re.compile(r"(?:(?:Ctrl|Shift|Alt)\+)*(?:Ctrl|Shift|Alt|Return|Esc|Tab|Home|Left|Right|Up|Down|F\d+|[A-Z])")
+KEY = re.compile(r"(?:(?:Ctrl|Shift|Alt)\+)*(?:Ctrl|Shift|Alt|Return|Esc|Tab|Home|Left|Right|Up|Down|F\d+|[A-Z]|\.)")
 
 
 def plain(text):

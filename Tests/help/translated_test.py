@@ -121,6 +121,8 @@ class AFault(unittest.TestCase):
     def test_is_another_name_of_a_key(self):
         self.expect("Press <kbd>Ctrl+Shift+S</kbd>.", "Drücken Sie <kbd>Strg+Umschalt+S</kbd>.",
                     "Drücken Sie <kbd>Ctrl+Shift+S</kbd>.", "Drücken Sie <kbd>Strg+S</kbd>.")
+        self.expect("Press <kbd>Ctrl+.</kbd>.", "Drücken Sie <kbd>Strg+.</kbd>.",
+                    "Drücken Sie <kbd>Ctrl+.</kbd>.")
 
     def test_is_another_code(self):
         self.expect("Type <code>man kxctl</code>.", "Tippen Sie <code>man kxctl</code>.",
