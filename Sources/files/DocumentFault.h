@@ -7,7 +7,7 @@
 namespace kx {
 
 enum class DocumentFault {
-    damaged,      // no JSON, cut short, changed, or a value that the format does not allow
+    damaged,      // cut short, changed, or a value that the format does not allow
     otherKind,    // something else: JSON of another kind, or no JSON at all
     otherVersion, // of the same kind
 };

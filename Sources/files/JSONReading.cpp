@@ -10,6 +10,12 @@
 
 namespace kx {
 
+bool isNoJSONAtAll(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t\r\n");
+    return first != std::string_view::npos && text[first] != '{' && text[first] != '[' &&
+           text.find("\"schema\"") == std::string_view::npos;
+}
+
 const Json& valueOf(const Json& object, const char* key) {
     const auto found = object.find(key);
     if (found == object.end()) {

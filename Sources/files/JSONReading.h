@@ -11,11 +11,17 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace kx {
 
 // A value that the format does not allow, or a key that is not there. Each reader catches it.
 struct JSONDamage {};
+
+// Whether a text that is no JSON is something else, such as a table, and not a damaged document: it
+// does not begin as JSON does, and has no key "schema", which every document has. False for a text
+// of nothing but blanks, which may be all that is left of one.
+bool isNoJSONAtAll(std::string_view text);
 
 const Json& valueOf(const Json& object, const char* key);
 

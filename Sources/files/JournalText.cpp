@@ -203,9 +203,15 @@ std::string JournalLines::end() {
 
 std::variant<Journal, JournalFault> readJournal(std::string_view text) {
     Journal journal;
+    const std::string_view whole = text;
     const Line head = takeLine(text);
     if (const auto fault = takeHead(journal.head, head.text)) {
-        return JournalFault{.fault = *fault, .line = 1};
+        // A document of several lines, such as a kept plan, is none that is damaged.
+        const auto asWhole = unsealedDocument(whole, journalKind, journalVersion);
+        const auto* const faultOfWhole = std::get_if<DocumentFault>(&asWhole);
+        const bool isOther = *fault == DocumentFault::damaged && faultOfWhole != nullptr &&
+                             *faultOfWhole == DocumentFault::otherKind;
+        return JournalFault{.fault = isOther ? DocumentFault::otherKind : *fault, .line = 1};
     }
     if (!head.isWhole) {
         return JournalFault{.fault = DocumentFault::damaged, .line = 1};

@@ -56,7 +56,8 @@ std::variant<SavedDiscovery, SavedDiscoveryFault> readSavedDiscovery(std::string
     try {
         const Json json = Json::parse(text, nullptr, false);
         if (json.is_discarded()) {
-            return SavedDiscoveryFault::damaged;
+            return isNoJSONAtAll(text) ? SavedDiscoveryFault::otherDocument
+                                       : SavedDiscoveryFault::damaged;
         }
         if (const auto fault = objectionTo(json)) {
             return *fault;

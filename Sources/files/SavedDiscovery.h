@@ -40,8 +40,8 @@ struct SavedDiscovery {
 
 // Why a text holds no discovery that can be compared.
 enum class SavedDiscoveryFault {
-    damaged,       // no JSON, cut short, or a value that the format does not allow
-    otherDocument, // JSON of another kind, such as the document of another command
+    damaged,       // cut short, changed, or a value that the format does not allow
+    otherDocument, // something else, such as the document of another command, or a table
     otherVersion,
     neverAsked, // a discovery that could not ask anybody
 };

@@ -1,5 +1,7 @@
 #include "files/SealedJSON.h"
 
+#include "files/JSONReading.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -44,6 +46,10 @@ bool isObjectWith(const Json& json, const char* key) {
     return json.is_object() && json.contains(key);
 }
 
+bool isOfKind(const Json& json, std::string_view kind) {
+    return json.contains("kind") && json["kind"] == kind;
+}
+
 // Writing a value goes as deep as the value does. What lies deeper than any format is left out,
 // and the checksum then tells so.
 Json parsed(std::string_view text) {
@@ -70,16 +76,27 @@ std::optional<Json> unsealedObject(std::string_view text) {
     return checksum == checksumOf(textOfJson(json)) ? std::optional(std::move(json)) : std::nullopt;
 }
 
+namespace {
+
+// Whether a text without a seal is something else, and not a damaged document of this kind.
+bool isSomethingElse(std::string_view text, std::string_view kind) {
+    const Json json = parsed(text);
+    if (!json.is_discarded()) {
+        return !isObjectWith(json, checksumKey) && !isObjectWith(json, "kind");
+    }
+    const auto firstLine = unsealedObject(text.substr(0, text.find('\n')));
+    return firstLine.has_value() ? !isOfKind(*firstLine, kind) : isNoJSONAtAll(text);
+}
+
+} // namespace
+
 std::variant<Json, DocumentFault> unsealedDocument(std::string_view text, std::string_view kind,
                                                    int version) {
     auto object = unsealedObject(text);
     if (!object.has_value()) {
-        const Json json = parsed(text);
-        const bool isOther =
-            !json.is_discarded() && !isObjectWith(json, checksumKey) && !isObjectWith(json, "kind");
-        return isOther ? DocumentFault::otherKind : DocumentFault::damaged;
+        return isSomethingElse(text, kind) ? DocumentFault::otherKind : DocumentFault::damaged;
     }
-    if (!object->contains("kind") || (*object)["kind"] != kind) {
+    if (!isOfKind(*object, kind)) {
         return DocumentFault::otherKind;
     }
     if (!object->contains("schema") || (*object)["schema"] != version) {

@@ -32,4 +32,11 @@ TEST(JSONReading, AnyOtherValueIsDamage) {
     EXPECT_THROW(unitIDOf("FF"), JSONDamage);
 }
 
+TEST(JSONReading, ATableWasNeverJSONAndWhatIsLeftOfADocumentMayHaveBeen) {
+    EXPECT_TRUE(isNoJSONAtAll("serial,unit-id\n"));
+    for (const char* text : {"", "\n", "{\"kind\":", " [", "x\"schema\":1}"}) {
+        EXPECT_FALSE(isNoJSONAtAll(text)) << text;
+    }
+}
+
 } // namespace kx

@@ -230,6 +230,11 @@ TEST(JournalText, AnotherVersionAndAnotherKindAreToldByTheirNames) {
               (Fault{1, DocumentFault::otherKind}));
     EXPECT_EQ(faultOfJournal("{\"schema\":1,\"command\":\"apply\"}\n"),
               (Fault{1, DocumentFault::otherKind}));
+    EXPECT_EQ(faultOfJournal(sealedText("{\"kind\":\"plan\",\n\"schema\":1}")),
+              (Fault{1, DocumentFault::otherKind}))
+        << "a document of several lines";
+    EXPECT_EQ(faultOfJournal("serial,unit-id\n4B 58 00 00 00 01,A\n"),
+              (Fault{1, DocumentFault::otherKind}));
 }
 
 TEST(JournalText, AValueThatTheFormatDoesNotAllowIsDamage) {

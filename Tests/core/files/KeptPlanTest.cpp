@@ -1,5 +1,7 @@
 #include "files/KeptPlan.h"
 
+#include "files/JournalText.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -113,6 +115,8 @@ TEST(KeptPlan, AnotherVersionAndAnotherKindAreToldByTheirNames) {
               DocumentFault::otherKind);
     EXPECT_EQ(faultOfPlan(R"({"schema":1,"command":"plan","rows":[]})"), DocumentFault::otherKind)
         << "the document of the command is not the plan";
+    const std::string journal = JournalLines::head({.started = "", .source = ""});
+    EXPECT_EQ(faultOfPlan(journal + JournalLines().end()), DocumentFault::otherKind);
 }
 
 TEST(KeptPlan, AValueThatTheFormatDoesNotAllowIsDamage) {

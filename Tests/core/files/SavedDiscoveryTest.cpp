@@ -179,7 +179,7 @@ TEST(SavedDiscovery, AnotherVersionIsToldApartFromDamage) {
 TEST(SavedDiscovery, AnotherDocumentIsToldApartFromDamage) {
     for (const std::string& text :
          {std::string("{}"), std::string("[]"), std::string("1"), std::string("null"),
-          with(documentOf(""), R"("discover")", R"("show")"),
+          std::string("serial,unit-id\n"), with(documentOf(""), R"("discover")", R"("show")"),
           with(documentOf(""), R"("discover")", "null"),
           with(documentOf(""), R"("schema":1)", R"("schema":"1")")}) {
         EXPECT_EQ(faultOf(text), SavedDiscoveryFault::otherDocument) << text;

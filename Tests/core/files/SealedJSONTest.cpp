@@ -94,7 +94,21 @@ TEST(SealedJSON, JSONWithoutASealIsOfAnotherKindUnlessItNamesOne) {
     }
     EXPECT_EQ(faultOfSealed(R"({"kind":"plan","schema":1})"), DocumentFault::damaged);
     EXPECT_EQ(faultOfSealed(R"({"checksum":7})"), DocumentFault::damaged);
-    EXPECT_EQ(faultOfSealed("serial,unit-id\n"), DocumentFault::damaged);
+}
+
+TEST(SealedJSON, ATextThatWasNeverJSONIsOfAnotherKindAndNothingAtAllIsDamage) {
+    for (const char* text : {"serial,unit-id\n", "\n\nserial\n", "\xEF\xBB\xBFserial", "x"}) {
+        EXPECT_EQ(faultOfSealed(text), DocumentFault::otherKind) << text;
+    }
+    for (const char* text : {"", "\n", " \t\r\n", "[", "x\"kind\":\"plan\",\"schema\":1}"}) {
+        EXPECT_EQ(faultOfSealed(text), DocumentFault::damaged) << text;
+    }
+}
+
+TEST(SealedJSON, LinesThatBeginWithADocumentOfAnotherKindAreOfAnotherKind) {
+    const std::string journal = sealedText(R"({"kind":"journal","schema":1})");
+    EXPECT_EQ(faultOfSealed(journal + journal), DocumentFault::otherKind);
+    EXPECT_EQ(faultOfSealed(sealedSample + '\n' + sealedSample), DocumentFault::damaged);
 }
 
 } // namespace kx

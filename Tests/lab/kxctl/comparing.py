@@ -168,9 +168,10 @@ class FilesThatAreNone(Files):
         document = self.save(self.before)
         whole = json.dumps(document)
         cases = {
-            "is damaged": ["", "no JSON", whole[:-40], whole.replace('"schema": 1', '"schema": 1,,')],
+            "is damaged": ["", whole[:-40], whole.replace('"schema": 1', '"schema": 1,,')],
             "another version": [json.dumps({**document, "schema": 2})],
-            "is no saved discovery": ["{}", json.dumps({**document, "command": "show"})],
+            "is no saved discovery": ["{}", "serial,unit-id\n",
+                                      json.dumps({**document, "command": "show"})],
             "could not ask": [json.dumps({**document, "port": None})],
         }
         before = len(heard())

@@ -47,7 +47,7 @@ class Reverting(TableTest):
         before = len(heard())
         for changed, reason in ((text.replace("RACK7A", "RACK7B"), "damaged"),
                                 (of_another_version(text), "another version"),
-                                ("{}\n", "another kind"), ("serial,unit-id\n", "damaged"),
+                                ("{}\n", "another kind"), ("serial,unit-id\n", "another kind"),
                                 ("", "damaged")):
             self.write(changed, "other")
             result = kxctl("revert", "other", "--yes", "--json")
