@@ -182,6 +182,8 @@ class Watching(SitesTest):
     as systemd would."""
 
     MISSING = "4B 58 00 00 77 01"
+    HEAD = ("To: root\n"
+            "Subject: hall-c: units on kx0 differ from the list, or could not be asked\n\n")
     # The path that systemd gives to services.
     PATH = "/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin"
 
@@ -232,8 +234,14 @@ class Watching(SitesTest):
         self.assertEqual(done.returncode, 1, done.stdout)
         for serial, what in ((self.MISSING, "missing"), (new, "new")):
             self.assertRegex(done.stdout, rf"(?m)^{what} +{serial}")
-        self.assertEqual(self.mail_about(done.stdout),
-                         "To: root\nSubject: hall-c: units on kx0 differ from the list\n\n" + done.stdout)
+        self.assertEqual(self.mail_about(done.stdout), self.HEAD + done.stdout)
+
+    def test_a_comparison_that_could_not_ask_is_mailed_with_its_reason(self):
+        self.list.unlink()
+        done = self.carry_out("compare")
+        self.assertEqual(done.returncode, 2, done.stdout)
+        self.assertIn("cannot be read: No such file or directory", done.stdout)
+        self.assertEqual(self.mail_about(done.stdout), self.HEAD + done.stdout)
 
     def mail_about(self, logged):
         """What sendmail gets. A stand-in for journalctl has what the comparison wrote to the journal."""
