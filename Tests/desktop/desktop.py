@@ -146,6 +146,11 @@ class Application:
         press("Ctrl+q")
         return self._process.wait(PATIENCE_IN_SECONDS)
 
+    def order_to_end(self):
+        """Tells the program to end, as the end of a session does, and returns the exit status."""
+        self._process.terminate()
+        return self._process.wait(PATIENCE_IN_SECONDS)
+
     def end(self):
         """Ends the program if it still runs."""
         for listener, event in self._listeners:

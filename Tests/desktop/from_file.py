@@ -1,5 +1,6 @@
 """Units configured from a file in the window, as a screen reader sees it and as the keyboard uses it."""
 
+import json
 import os
 import pathlib
 import tempfile
@@ -99,6 +100,19 @@ class FromFile(unittest.TestCase):
         self.assertIn(b"Configure from File, not in the event log", session)
         self.assertIn(b"^^IdT0DC1", session)
         self.assertEqual(program.close(), 0)
+
+    def test_an_order_to_end_waits_for_the_unit_under_way(self):
+        self.open(self.table(f"serial,unit-id,internal-ip\n{SERIALS[2]},RACK7C,192.0.2.43\n"))
+        self.wait_for_states(*["To change"] * 2)
+        press("Ctrl+Return")
+        journal = wait_for("the journal", lambda: list(self.folder.glob("kxctl-journal-*.jsonl")))[0]
+        wait_for("the first command", lambda: '"event":"command"' in journal.read_text())
+        self.assertEqual(self.program.order_to_end(), 0)
+        entries = [json.loads(line) for line in journal.read_text().splitlines()]
+        self.assertEqual(entries[-1]["event"], "end")
+        self.assertEqual([(entry["parameter"], entry["state"]) for entry in entries
+                          if entry.get("event") == "outcome"],
+                         [("unit-id", "done"), ("internal-ip", "done")])
 
     def test_units_move_to_other_addresses_and_hand_one_on(self):
         self.open(self.table("serial,internal-ip\n"
