@@ -499,8 +499,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
-        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
-        <translation>„Anwenden“ sendet nichts, solange Zeilen abgelehnt oder ohne Antwort sind, es sei denn, es soll weitermachen.</translation>
+        <source>Apply sends nothing while lines are refused or without an answer, unless “Keep going” is ticked.</source>
+        <translation>„Anwenden“ sendet nichts, solange Zeilen abgelehnt oder ohne Antwort sind, außer wenn „Weitermachen“ angekreuzt ist.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
@@ -1412,6 +1412,42 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Reads a table of units or a kept plan, and asks the units.</source>
+        <translation>Liest eine Gerätetabelle oder einen aufbewahrten Plan und fragt die Geräte.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asks the units again, and makes the plan anew.</source>
+        <translation>Fragt die Geräte noch einmal und erstellt den Plan neu.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the units show what the plan wants.</source>
+        <translation>Gibt den Geräten die Werte, die der Plan verlangt.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Finishes the units under way, and begins no other.</source>
+        <translation>Stellt die begonnenen Geräte fertig und beginnt kein weiteres.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Writes the table with what became of each line.</source>
+        <translation>Schreibt die Tabelle mit dem, was aus jeder Zeile geworden ist.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Öffnet die Hilfe.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Closes the window.</source>
+        <translation>Schließt das Fenster.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
         <translation>Wählen Sie eine Gerätetabelle: kommagetrennte Werte mit einer Spalte „serial“ und einer für jeden Parameter, der sich ändern soll.</translation>
     </message>
@@ -1505,11 +1541,6 @@
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
         <source>Shows or hides the event log.</source>
         <translation>Zeigt oder verbirgt das Ereignisprotokoll.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
-        <source>Opens the help.</source>
-        <translation>Öffnet die Hilfe.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>

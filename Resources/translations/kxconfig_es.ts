@@ -499,8 +499,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
-        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
-        <translation>«Aplicar» no envía nada mientras haya líneas rechazadas o sin respuesta, salvo que deba continuar.</translation>
+        <source>Apply sends nothing while lines are refused or without an answer, unless “Keep going” is ticked.</source>
+        <translation>«Aplicar» no envía nada mientras haya líneas rechazadas o sin respuesta, salvo que esté marcado «Continuar».</translation>
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
@@ -1412,6 +1412,42 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Reads a table of units or a kept plan, and asks the units.</source>
+        <translation>Lee una tabla de unidades o un plan guardado y pregunta a las unidades.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asks the units again, and makes the plan anew.</source>
+        <translation>Pregunta de nuevo a las unidades y rehace el plan.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the units show what the plan wants.</source>
+        <translation>Da a las unidades los valores que pide el plan.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Finishes the units under way, and begins no other.</source>
+        <translation>Termina las unidades empezadas y no empieza ninguna otra.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Writes the table with what became of each line.</source>
+        <translation>Escribe la tabla con lo que ha sido de cada línea.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Abre la ayuda.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Closes the window.</source>
+        <translation>Cierra la ventana.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
         <translation>Elija una tabla de unidades: valores separados por comas con una columna «serial» y una por cada parámetro que debe cambiar.</translation>
     </message>
@@ -1505,11 +1541,6 @@
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
         <source>Shows or hides the event log.</source>
         <translation>Muestra u oculta el registro de eventos.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
-        <source>Opens the help.</source>
-        <translation>Abre la ayuda.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>

@@ -499,8 +499,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
-        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
-        <translation>« Appliquer » n’envoie rien tant que des lignes sont refusées ou sans réponse, sauf s’il doit continuer.</translation>
+        <source>Apply sends nothing while lines are refused or without an answer, unless “Keep going” is ticked.</source>
+        <translation>« Appliquer » n’envoie rien tant que des lignes sont refusées ou sans réponse, sauf si « Continuer » est coché.</translation>
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
@@ -1412,6 +1412,42 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Reads a table of units or a kept plan, and asks the units.</source>
+        <translation>Lit un tableau d’unités ou un plan enregistré, et interroge les unités.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asks the units again, and makes the plan anew.</source>
+        <translation>Interroge de nouveau les unités, et refait le plan.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the units show what the plan wants.</source>
+        <translation>Donne aux unités les valeurs que le plan demande.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Finishes the units under way, and begins no other.</source>
+        <translation>Termine les unités commencées, et n’en commence aucune autre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Writes the table with what became of each line.</source>
+        <translation>Écrit le tableau avec ce qu’il est advenu de chaque ligne.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>Ouvre l’aide.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Closes the window.</source>
+        <translation>Ferme la fenêtre.</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
         <translation>Choisissez un tableau d’unités : des valeurs séparées par des virgules avec une colonne « serial » et une pour chaque paramètre à changer.</translation>
     </message>
@@ -1505,11 +1541,6 @@
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
         <source>Shows or hides the event log.</source>
         <translation>Affiche ou masque le journal des événements.</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
-        <source>Opens the help.</source>
-        <translation>Ouvre l’aide.</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>

@@ -499,8 +499,8 @@
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
-        <source>Apply sends nothing while lines are refused or without an answer, unless it is to keep going.</source>
-        <translation>拒否された行や応答のない行がある間、「適用」は何も送信しません。続行を選ぶと送信します。</translation>
+        <source>Apply sends nothing while lines are refused or without an answer, unless “Keep going” is ticked.</source>
+        <translation>拒否された行や応答のない行がある間は、「続行」にチェックマークを付けない限り、「適用」を押しても何も送信されません。</translation>
     </message>
     <message>
         <location filename="../../Sources/KXTableRun_Showing.cpp"/>
@@ -1412,6 +1412,42 @@
     </message>
     <message>
         <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Reads a table of units or a kept plan, and asks the units.</source>
+        <translation>ユニットの表または保存した計画を読み込み、ユニットに問い合わせます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Asks the units again, and makes the plan anew.</source>
+        <translation>ユニットにもう一度問い合わせ、計画を作り直します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Makes the units show what the plan wants.</source>
+        <translation>ユニットを計画どおりの値に設定します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Finishes the units under way, and begins no other.</source>
+        <translation>処理中のユニットを最後まで設定し、ほかのユニットを始めません。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Writes the table with what became of each line.</source>
+        <translation>各行の結果を加えた表を書き出します。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
+        <source>Opens the help.</source>
+        <translation>ヘルプを開きます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
+        <source>Closes the window.</source>
+        <translation>ウィンドウを閉じます。</translation>
+    </message>
+    <message>
+        <location filename="../../Sources/platform/qt/FromFileWindow.cpp"/>
         <source>Choose a table of units: comma-separated values with a column “serial” and one for each parameter that is to change.</source>
         <translation>ユニットの表を選んでください。「serial」の列と、変更するパラメータごとの列を持つ、カンマ区切りのファイルです。</translation>
     </message>
@@ -1505,11 +1541,6 @@
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
         <source>Shows or hides the event log.</source>
         <translation>イベントログを表示または非表示にします。</translation>
-    </message>
-    <message>
-        <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
-        <source>Opens the help.</source>
-        <translation>ヘルプを開きます。</translation>
     </message>
     <message>
         <location filename="../../Sources/platform/qt/MainWindow_Speech.cpp"/>
