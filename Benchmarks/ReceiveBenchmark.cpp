@@ -4,6 +4,7 @@
 
 #include "Comparison.h"
 #include "LoopbackBatches.h"
+#include "ReadAheadSystemCalls.h"
 #include "UDPEcho.h"
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/ScriptedHostResolver.h"
@@ -38,7 +39,7 @@ public:
 void receiveThroughEndpoint(benchmark::State& state, RunLoop& runLoop,
                             const std::function<void()>& oneTurn) {
     ScriptedHostResolver resolver;
-    DatagramSystemCalls systemCalls;
+    ReadAheadSystemCalls systemCalls;
     Counter counter;
     const auto echo = UDPEcho::make(runLoop, resolver, systemCalls);
     echo->setDelegate(&counter);
@@ -135,6 +136,12 @@ const Comparison pollComparison("receive through the endpoint on the poll loop, 
                                 "receiveOnPollLoop", "receiveBare");
 const Comparison qtComparison("receive through the endpoint on the Qt loop, beside bare epoll",
                               "receiveOnQtLoop", "receiveBare");
+const Comparison pollWithoutLink(
+    "receive through the endpoint on the poll loop, beside bare epoll without the link",
+    "receiveOnPollLoop", "receiveBareWithoutLink");
+const Comparison
+    qtWithoutLink("receive through the endpoint on the Qt loop, beside bare epoll without the link",
+                  "receiveOnQtLoop", "receiveBareWithoutLink");
 const Comparison linkComparison("receive on bare epoll with the link, beside without",
                                 "receiveBare", "receiveBareWithoutLink");
 

@@ -169,13 +169,24 @@ ssize_t DatagramSystemCalls::receiveFrom(int descriptor, std::span<std::uint8_t>
     message.msg_controllen = control.size();
     const ssize_t received = ::recvmsg(descriptor, &message, 0);
     if (received >= 0) {
-        // Written in place: a record that is made elsewhere and moved costs 10 ns more.
-        setRecordOf(sender, message.msg_namelen, origin.sender);
-        const in_pktinfo information = informationOf(message);
-        origin.link = static_cast<std::uint32_t>(information.ipi_ifindex);
-        origin.destination = ntohl(information.ipi_addr.s_addr);
+        setOrigin(message, origin);
     }
     return received;
+}
+
+void DatagramSystemCalls::allowReadingAhead(int /*descriptor*/) {}
+
+bool DatagramSystemCalls::hasReadAhead(int /*descriptor*/) const {
+    return false;
+}
+
+void DatagramSystemCalls::setOrigin(const msghdr& message, DatagramOrigin& origin) {
+    // Written in place: a record that is made elsewhere and moved costs 10 ns more.
+    setRecordOf(*static_cast<const sockaddr_in*>(message.msg_name), message.msg_namelen,
+                origin.sender);
+    const in_pktinfo information = informationOf(message);
+    origin.link = static_cast<std::uint32_t>(information.ipi_ifindex);
+    origin.destination = ntohl(information.ipi_addr.s_addr);
 }
 
 std::optional<Bytes> DatagramSystemCalls::localAddress(int descriptor) {

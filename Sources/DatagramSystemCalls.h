@@ -19,6 +19,8 @@
 #include <span>
 #include <string>
 
+struct msghdr;
+
 namespace kx {
 
 // Flags of a socket wrapper (EndpointSocket in UDPEcho.h).
@@ -89,6 +91,13 @@ public:
     virtual ssize_t receiveFrom(int descriptor, std::span<std::uint8_t> buffer,
                                 DatagramOrigin& origin);
 
+    // From now on receiveFrom() may read ahead of this descriptor, until the descriptor is closed.
+    // The caller has to read all that is ahead by itself: the descriptor need not be readable then.
+    virtual void allowReadingAhead(int descriptor);
+
+    // Whether receiveFrom() has the next datagram of this descriptor without a system call.
+    virtual bool hasReadAhead(int descriptor) const;
+
     // getsockname(2) and getpeername(2) as records; absent when the call fails, and empty for
     // another family than IPv4.
     virtual std::optional<Bytes> localAddress(int descriptor);
@@ -99,6 +108,11 @@ public:
 
     // The flags that a new socket wrapper starts with.
     virtual std::uint32_t socketFlags() { return kCFSocketCloseOnInvalidate; }
+
+protected:
+    // Fills `origin` with what the system told of a received message. Its name is a sockaddr_in,
+    // and it has room for the control message IP_PKTINFO alone.
+    static void setOrigin(const msghdr& message, DatagramOrigin& origin);
 };
 
 } // namespace kx

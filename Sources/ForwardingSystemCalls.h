@@ -38,6 +38,8 @@ public:
                         DatagramOrigin& origin) override {
         return _inner.receiveFrom(descriptor, buffer, origin);
     }
+    void allowReadingAhead(int descriptor) override { _inner.allowReadingAhead(descriptor); }
+    bool hasReadAhead(int descriptor) const override { return _inner.hasReadAhead(descriptor); }
     std::optional<Bytes> localAddress(int descriptor) override {
         return _inner.localAddress(descriptor);
     }

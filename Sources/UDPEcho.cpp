@@ -66,9 +66,46 @@ EndpointSocket::EndpointSocket(DatagramSystemCalls& systemCalls, int descriptor)
     , _flags(systemCalls.socketFlags()) {}
 
 EndpointSocket::~EndpointSocket() {
+    if (_isGone != nullptr) {
+        *_isGone = true;
+    }
     _source.reset(); // a watched descriptor must be open
     if ((_flags & kCFSocketCloseOnInvalidate) != 0) {
         _systemCalls.close(_descriptor);
+    }
+}
+
+bool EndpointSocket::watch(RunLoop& runLoop, CallbackInfo& info) {
+    _runLoop = &runLoop;
+    _info = &info;
+    _systemCalls.allowReadingAhead(_descriptor);
+    _source = runLoop.watchForReading(_descriptor, [this] { readAll(); });
+    return _source != nullptr;
+}
+
+// The descriptor need not be readable again when all has been read ahead.
+void EndpointSocket::didRead() {
+    if (_runInside == nullptr && _runLoop != nullptr && _systemCalls.hasReadAhead(_descriptor)) {
+        _runInside = _runLoop->callOnceAfter({}, [this] {
+            _runInside = nullptr;
+            readAll();
+        });
+    }
+}
+
+// Each call may destroy this object, and may run the loop, which comes back here.
+void EndpointSocket::readAll() {
+    bool isGone = false;
+    bool* const outer = std::exchange(_isGone, &isGone);
+    CallbackInfo* const info = _info;
+    do {
+        SocketReadCallback(this, SocketCallbackType::read, nullptr, nullptr, info);
+    } while (!isGone && _systemCalls.hasReadAhead(_descriptor));
+    if (!isGone) {
+        _isGone = outer;
+        _runInside = nullptr;
+    } else if (outer != nullptr) {
+        *outer = true;
     }
 }
 
@@ -179,11 +216,8 @@ void UDPEcho::_scheduleSocket(int sock) {
 
     // The delegate may release the endpoint inside the event. Nothing of it is used afterwards, so
     // the callback need not hold it, which would cost two atomic operations for each datagram.
-    auto rls = _runLoop.watchForReading(sock, [this, socket = _cfSocket.get()] {
-        SocketReadCallback(socket, SocketCallbackType::read, nullptr, nullptr, this);
-    });
-    require(rls != nullptr, "rls != NULL", sourcePath);
-    _cfSocket->setSource(std::move(rls));
+    const bool rls = _cfSocket->watch(_runLoop, *this);
+    require(rls, "rls != NULL", sourcePath);
 }
 
 // --- Resolution ---
@@ -289,6 +323,8 @@ void UDPEcho::_readData() {
     std::array<std::uint8_t, receiveBufferLength> buffer; // the system fills as much as it needs
     DatagramOrigin origin;
     const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, origin);
+    const int err = bytesRead == 0 ? EPIPE : errno;
+    _cfSocket->didRead();
     if (bytesRead > 0) {
         const auto copy = copyOfBytes(buffer, static_cast<std::size_t>(bytesRead));
         const Bytes& dataObj = requireValue(copy, "dataObj != nil", sourcePath);
@@ -299,7 +335,6 @@ void UDPEcho::_readData() {
         }
         return;
     }
-    const int err = bytesRead == 0 ? EPIPE : errno;
     if (err != 0 && _delegate != nullptr) {
         _delegate->echoDidReceiveError(*this, posixError(err));
     }

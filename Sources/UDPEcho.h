@@ -11,8 +11,8 @@
 // socket option; its owner may do so through nativeSocket().
 //
 // Threading: everything, callbacks included, on the thread of the run loop. Sends and reads never
-// block. One datagram is read for each readable event, so a flood on this socket cannot keep other
-// events waiting.
+// block. One datagram is read for each call of the run loop, and besides those that the system
+// calls have read ahead, which are few. So a flood on this socket cannot keep other events waiting.
 //
 // Ownership: endpoints are held by std::shared_ptr, and made by make() only. The delegate is not
 // owned; it must outlive the endpoint or be cleared before it ends. Run loop, resolver and system
@@ -93,7 +93,8 @@ enum class SocketCallbackType { none = 0, read = 1, accept = 2, data = 3, connec
 enum class HostInfoType { addresses = 0, names = 1, reachability = 2 };
 
 // A descriptor with its watch on the run loop. Destroying it ends the watch and, with
-// kCFSocketCloseOnInvalidate among its flags, closes the descriptor.
+// kCFSocketCloseOnInvalidate among its flags, closes the descriptor. It may be destroyed inside the
+// watch's call.
 class EndpointSocket {
 public:
     EndpointSocket(DatagramSystemCalls& systemCalls, int descriptor);
@@ -103,13 +104,26 @@ public:
 
     int native() const { return _descriptor; }
     std::uint32_t flags() const { return _flags; }
-    void setSource(RunLoop::Handle source) { _source = std::move(source); }
+
+    // Calls SocketReadCallback() with `info` whenever a datagram can be read, and again for each
+    // that the system calls have read ahead. False when the system cannot watch the descriptor.
+    bool watch(RunLoop& runLoop, CallbackInfo& info);
+
+    // Has to be called between a read and what follows from it. When datagrams have been read
+    // ahead, a run of the loop inside the event hands them out too.
+    void didRead();
 
 private:
+    void readAll();
+
     DatagramSystemCalls& _systemCalls;
     int _descriptor;
     std::uint32_t _flags;
+    RunLoop* _runLoop = nullptr;
+    CallbackInfo* _info = nullptr;
     RunLoop::Handle _source;
+    RunLoop::Handle _runInside;
+    bool* _isGone = nullptr; // of the innermost readAll()
 };
 
 class UDPEcho : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {

@@ -3,6 +3,7 @@
 #include "KXConfigAppDelegate.h"
 #include "KXDiagnosis.h"
 #include "KXTableRun.h"
+#include "ReadAheadSystemCalls.h"
 #include "System Configuration/SystemConfiguration.h"
 #include "conversation/AddressBindings.h"
 #include "conversation/InterfaceAddress.h"
@@ -88,7 +89,7 @@ struct Host {
     kx::QtRunLoop& runLoop;
     QString language; // of the window
     kx::ThreadHostResolver hostResolver{runLoop};
-    kx::DatagramSystemCalls systemCalls = {};
+    kx::ReadAheadSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
 
     // Between the listener and the system: the witness takes out what the diagnosis sends to

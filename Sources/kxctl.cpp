@@ -1,5 +1,6 @@
 // kxctl: wires the core and the commands to the platform and runs one command.
 
+#include "ReadAheadSystemCalls.h"
 #include "System Configuration/SystemConfiguration.h"
 #include "commands/CommandRun.h"
 #include "conversation/AddressBindings.h"
@@ -44,7 +45,7 @@ Unit timeOf() {
 int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
                   kx::TerminalConsole& console) {
     kx::ThreadHostResolver hostResolver(runLoop);
-    kx::DatagramSystemCalls systemCalls;
+    kx::ReadAheadSystemCalls systemCalls;
     kx::LinuxReceiveBufferControl receiveBuffers;
     const kx::SystemWallClock wallClock;
 

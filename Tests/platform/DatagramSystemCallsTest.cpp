@@ -1,5 +1,6 @@
 // The boundary to the host's own sockets. All traffic stays on the loopback interface.
 
+#include "ReadAheadSystemCalls.h"
 #include "contracts/DatagramSystemCallsContract.h"
 
 #include <net/if.h>
@@ -11,6 +12,7 @@ namespace {
 
 constexpr std::uint32_t ipv4Loopback = 0x7F000001U;
 
+template<class SystemCalls>
 class SystemTrait {
 public:
     SystemTrait() { EXPECT_EQ(_calls.bind(_sender, dataForAddress(ipv4Loopback, 0)), 0); }
@@ -30,6 +32,7 @@ public:
     }
 
     Bytes deliver(int descriptor, const Bytes& data) {
+        _calls.allowReadingAhead(descriptor);
         const Bytes destination = _calls.localAddress(descriptor).value_or(Bytes{});
         EXPECT_EQ(_calls.sendTo(_sender, data, ByteView(destination)),
                   static_cast<ssize_t>(data.size()));
@@ -43,11 +46,14 @@ public:
     std::string linkName() { return "lo"; }
 
 private:
-    DatagramSystemCalls _calls;
+    SystemCalls _calls;
     int _sender = _calls.socket();
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(System, DatagramSystemCallsContract, SystemTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(System, DatagramSystemCallsContract,
+                               SystemTrait<DatagramSystemCalls>);
+INSTANTIATE_TYPED_TEST_SUITE_P(ReadAhead, DatagramSystemCallsContract,
+                               SystemTrait<ReadAheadSystemCalls>);
 
 } // namespace
 
