@@ -46,8 +46,11 @@ QtTranslations::QtTranslations(const QStringList& languages)
 
 QStringList QtTranslations::available() {
     QStringList languages;
-    for (const QString& file : QDir(folder).entryList({"kxconfig_*.qm"}, QDir::Files, QDir::Name)) {
-        languages.append(file.section('_', 1).section('.', 0, 0));
+    // A filter of names would load and compile regular expressions at every start.
+    for (const QString& file : QDir(folder).entryList(QDir::Files, QDir::Name)) {
+        if (file.startsWith("kxconfig_") && file.endsWith(".qm")) {
+            languages.append(file.section('_', 1).section('.', 0, 0));
+        }
     }
     return languages;
 }
