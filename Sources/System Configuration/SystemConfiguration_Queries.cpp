@@ -8,7 +8,6 @@
 #include "addresses/IPv4Address.h"
 #include "support/LocalizedText.h"
 #include "support/SystemLog.h"
-#include "support/TextEncoding.h"
 #include "support/TextFormat.h"
 
 #include <algorithm>
@@ -31,9 +30,9 @@ std::optional<PropertyListValue> elementOf(const PropertyList& list, std::size_t
     return index < list.size() ? std::optional(list[index]) : std::nullopt;
 }
 
+// There is no prefix of length 0: a mask without bits counts as none.
 std::string prefixForMask(const std::optional<PropertyListValue>& mask) {
-    const auto prefix = prefixForMaskStr(textOf(mask));
-    return prefix.has_value() && integerValue(*prefix) != 0 ? *prefix : "32";
+    return prefixForMaskStr(textOf(mask)).value_or("32");
 }
 
 std::string linkStatusText(bool isActive) {

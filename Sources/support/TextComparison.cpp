@@ -76,7 +76,8 @@ std::u32string canonicallyDecomposed(std::u32string_view characters) {
     return result;
 }
 
-// The form of canonical caseless matching (the Unicode Standard, definition D145).
+// The form of canonical caseless matching (the Unicode Standard, definition D145). The result is in
+// canonical order as well: no folding has a mark, and of the marks only the last one folds.
 std::u32string folded(std::u32string_view characters) {
     std::u32string result;
     for (const char32_t character : canonicallyDecomposed(characters)) {
@@ -84,7 +85,6 @@ std::u32string folded(std::u32string_view characters) {
             result += character;
         }
     }
-    orderCombiningMarks(result);
     return result;
 }
 

@@ -94,6 +94,10 @@ TEST(CommandLine, UnitsMustFitTheirNetworkAndTheirNumbers) {
     EXPECT_EQ(complaintAbout({"--count", "245"}), "--network is too small for so many units");
     EXPECT_EQ(complaintAbout({"--network", "10.0.0.0/8", "--first", "99999", "--count", "2"}),
               "unit numbers end at 99999");
+    EXPECT_EQ(complaintAbout({"--network", "10.0.0.0/8", "--first", "99999", "--count", "1"}),
+              "none");
+    EXPECT_EQ(complaintAbout({"--network", "10.0.0.0/8", "--first", "99998", "--count", "2"}),
+              "none");
 }
 
 } // namespace

@@ -133,6 +133,8 @@ TEST_F(InterfaceData, AMissingOrUselessMaskCountsAsAPrefixOf32) {
     setServiceIPv4({"10.0.0.1", "10.0.0.2", "10.0.0.3", "10.0.0.4"},
                    {"255.0.0.0", "0.0.0.0", "nonsense"});
     EXPECT_EQ(service("netNumber"), "10.0.0.1/8,10.0.0.2/32,10.0.0.3/32,10.0.0.4/32");
+    setServiceIPv4({"10.0.0.1"}, {"128.0.0.0"});
+    EXPECT_EQ(service("netNumber"), "10.0.0.1/1") << "a prefix of 1 is one";
     store.setValue("State:/Network/Service/A/IPv4",
                    {{"Addresses", PropertyList{"10.0.0.1"}}, {"SubnetMasks", PropertyList{7}}});
     EXPECT_EQ(service("netNumber"), "10.0.0.1/32");

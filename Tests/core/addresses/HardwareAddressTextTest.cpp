@@ -297,6 +297,20 @@ TEST(Ha16ForString, SixteenGroupsFailAtOnceAndMoreAreNotRead) {
     EXPECT_EQ(log.lines(), Lines{});
 }
 
+// What lies behind the text would complete it.
+TEST(HardwareAddressText, GroupsBehindTheEndOfATextAreNotRead) {
+    const RecordedSystemLog log;
+    const std::string_view whole = "00:11:22:33:44:55:66:77";
+    const EthernetText five(whole.substr(0, 14));
+    EXPECT_FALSE(five.isParsed);
+    EXPECT_EQ(five.octets, (Octets{0x00, 0x11, 0x22, 0x33, 0x44, 0xEE}));
+    const GroupText six(whole.substr(0, 17));
+    EXPECT_TRUE(six.isParsed);
+    EXPECT_EQ(six.count, 6U);
+    EXPECT_EQ(six.octets[6], 0xEE);
+    EXPECT_FALSE(GroupText(whole.substr(0, 14)).isParsed);
+}
+
 TEST(HardwareAddressText, NoTextIsReadBeyondItsEnd) {
     const RecordedSystemLog log;
     const std::string text = "01:02-03:\xC3\xA9:04:05:06:07:08:\xF0\x9F\x98\x80";

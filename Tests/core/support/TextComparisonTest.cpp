@@ -1,7 +1,10 @@
 #include "support/TextComparison.h"
 
+#include "support/UnicodeTables.h"
+
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 namespace kx {
@@ -64,6 +67,28 @@ TEST(TextComparison, TheOrderOfIndependentMarksDoesNotCount) {
     expectCaseInsensitive(same, "a\u0323\u0302", "a\u0302\u0323"); // one mark is below, one above
     expectCaseInsensitive(same, "ậ", "A\u0302\u0323");
     expectCaseInsensitive(different, "a\u0301\u0300", "a\u0300\u0301"); // both above: order counts
+    EXPECT_EQ(compareTexts("a\u0323\u0302", "a\u0302\u0323"), std::weak_ordering::equivalent);
+    EXPECT_EQ(compareTexts("ậ", "a\u0302\u0323"), std::weak_ordering::equivalent);
+    EXPECT_EQ(compareTexts("a\u0300\u0301", "a\u0301\u0300"), std::weak_ordering::less);
+}
+
+// So marks that are in order stay in order when their text is folded.
+TEST(TextComparison, OnlyTheMarkThatComesLastFolds) {
+    const auto classOf = [](char32_t character) {
+        const auto ranges = combiningClasses();
+        const auto range =
+            std::ranges::find_if(ranges, [character](const CombiningClassRange& each) {
+                return each.first <= character && character <= each.last;
+            });
+        return range == ranges.end() ? 0 : range->combiningClass;
+    };
+    const int last = std::ranges::max(combiningClasses(), {}, &CombiningClassRange::combiningClass)
+                         .combiningClass;
+    for (const CharacterMapping& folding : caseFoldings()) {
+        EXPECT_TRUE(classOf(folding.from) == 0 || classOf(folding.from) == last);
+        EXPECT_TRUE(std::ranges::all_of(
+            folding.to, [&](char32_t character) { return classOf(character) == 0; }));
+    }
 }
 
 // The iota below a letter folds to a letter of its own, behind every other mark.

@@ -19,12 +19,16 @@ TEST(UUIDText, WritesFiveGroupsOfUpperCaseDigits) {
     EXPECT_EQ(uuidText({}), "00000000-0000-0000-0000-000000000000");
 }
 
-TEST(UUIDText, ANewOneIsOfTheRandomKind) {
-    const std::string text = stringWithUUID();
-    ASSERT_EQ(text.size(), 36U);
-    EXPECT_EQ(text[14], '4'); // the version
-    EXPECT_NE(std::string_view("89AB").find(text[19]), std::string_view::npos) << text; // variant
-    EXPECT_EQ(text.find_first_not_of("0123456789ABCDEF-"), std::string::npos) << text;
+// A random digit would be right by chance, one of sixteen times or four, but not 200 times.
+TEST(UUIDText, EveryNewOneIsOfTheRandomKind) {
+    for (int count = 0; count < 200; ++count) {
+        const std::string text = stringWithUUID();
+        ASSERT_EQ(text.size(), 36U);
+        EXPECT_EQ(text[14], '4') << text; // the version
+        EXPECT_NE(std::string_view("89AB").find(text[19]), std::string_view::npos)
+            << text; // the variant
+        EXPECT_EQ(text.find_first_not_of("0123456789ABCDEF-"), std::string::npos) << text;
+    }
 }
 
 TEST(UUIDText, NoTwoAreEqual) {
