@@ -364,10 +364,18 @@ class Interrupted(ApplyTest):
     def killed_in_a_move(self):
         """A run that is killed while an entry of the ARP cache of its own is there."""
         self.table(f"{FIRST},192.0.2.70", header="serial,internal-ip")
+        before = len(heard())
         process = start("apply", "rack.csv", "--yes", "--json")
-        self.assertTrue(eventually(lambda: "192.0.2.70" in self.permanent(), 20))
-        process.kill()
-        end_of(process)
+        # Units that answer the discovery, and then no more, keep the entry there for some seconds.
+        self.assertTrue(eventually(lambda: len(heard()) > before))
+        time.sleep(0.5)
+        os.kill(units_process(), signal.SIGSTOP)
+        try:
+            self.assertTrue(eventually(lambda: "192.0.2.70" in self.permanent(), 20))
+        finally:
+            process.kill()
+            end_of(process)
+            os.kill(units_process(), signal.SIGCONT)
         self.assertIn("192.0.2.70", self.permanent())
 
     def test_an_entry_of_a_killed_run_is_taken_out_by_the_next_apply(self):
