@@ -191,6 +191,19 @@ std::optional<ExactEdit> editBackTo(UnitParameter parameter, const OldValue& val
     return exact != nullptr && !exact->isChanged ? std::optional(*exact) : std::nullopt;
 }
 
+void addEditBack(UnitParameter parameter, const OldValue& value, WantedRow& row,
+                 RevertedRows& reverted) {
+    const auto edit = editBackTo(parameter, value);
+    if (edit.has_value()) {
+        row.edits.push_back(*edit);
+    } else {
+        reverted.lost.push_back({.line = row.line,
+                                 .serialNumber = row.serialNumber,
+                                 .parameter = parameter,
+                                 .value = value.text});
+    }
+}
+
 void ChangedUnits::revertUnit(const ChangedUnit& unit, const UnitTrack& track,
                               RevertedRows& reverted) {
     WantedRow row{.line = unit.line,
@@ -199,16 +212,8 @@ void ChangedUnits::revertUnit(const ChangedUnit& unit, const UnitTrack& track,
                   .identities = track.identities(),
                   .formerIdentities = track.formerIdentities()};
     for (const auto& [parameter, value] : unit.values) {
-        if (!value.mayBeChanged()) {
-            continue;
-        }
-        if (auto edit = editBackTo(parameter, value)) {
-            row.edits.push_back(std::move(*edit));
-        } else {
-            reverted.lost.push_back({.line = unit.line,
-                                     .serialNumber = row.serialNumber,
-                                     .parameter = parameter,
-                                     .value = value.text});
+        if (value.mayBeChanged()) {
+            addEditBack(parameter, value, row, reverted);
         }
     }
     if (!row.edits.empty()) {
