@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -18,6 +19,9 @@ constexpr std::string_view sourcePath = "Sources/UDPEcho";
 
 // More than any datagram over IPv4 can carry.
 constexpr std::size_t receiveBufferLength = 65536;
+
+// Datagrams that are ahead are handed out for this time. Then other events get their turn.
+constexpr std::chrono::milliseconds longestTurn{1};
 
 // The peer's record with another port. A short record is filled with zeros.
 Bytes connectRecord(const Bytes& address, std::size_t port) {
@@ -85,9 +89,9 @@ bool EndpointSocket::watch(RunLoop& runLoop, CallbackInfo& info) {
 
 // The descriptor need not be readable again when all has been read ahead.
 void EndpointSocket::didRead() {
-    if (_runInside == nullptr && _runLoop != nullptr && _systemCalls.hasReadAhead(_descriptor)) {
-        _runInside = _runLoop->callOnceAfter({}, [this] {
-            _runInside = nullptr;
+    if (_nextTurn == nullptr && _runLoop != nullptr && _systemCalls.hasReadAhead(_descriptor)) {
+        _nextTurn = _runLoop->callOnceAfter({}, [this] {
+            _nextTurn = nullptr;
             readAll();
         });
     }
@@ -98,12 +102,16 @@ void EndpointSocket::readAll() {
     bool isGone = false;
     bool* const outer = std::exchange(_isGone, &isGone);
     CallbackInfo* const info = _info;
+    const auto end = std::chrono::steady_clock::now() + longestTurn;
     do {
         SocketReadCallback(this, SocketCallbackType::read, nullptr, nullptr, info);
-    } while (!isGone && _systemCalls.hasReadAhead(_descriptor));
+    } while (!isGone && _systemCalls.hasReadAhead(_descriptor) &&
+             std::chrono::steady_clock::now() < end);
     if (!isGone) {
         _isGone = outer;
-        _runInside = nullptr;
+        if (!_systemCalls.hasReadAhead(_descriptor)) {
+            _nextTurn = nullptr;
+        }
     } else if (outer != nullptr) {
         *outer = true;
     }

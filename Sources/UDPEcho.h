@@ -110,7 +110,7 @@ public:
     bool watch(RunLoop& runLoop, CallbackInfo& info);
 
     // Has to be called between a read and what follows from it. When datagrams have been read
-    // ahead, a run of the loop inside the event hands them out too.
+    // ahead, the next turn of the loop hands them out, also one inside the event.
     void didRead();
 
 private:
@@ -122,7 +122,7 @@ private:
     RunLoop* _runLoop = nullptr;
     CallbackInfo* _info = nullptr;
     RunLoop::Handle _source;
-    RunLoop::Handle _runInside;
+    RunLoop::Handle _nextTurn;
     bool* _isGone = nullptr; // of the innermost readAll()
 };
 
