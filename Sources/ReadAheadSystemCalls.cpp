@@ -6,7 +6,6 @@
 
 #include <algorithm>
 #include <array>
-#include <vector>
 
 namespace kx {
 
@@ -15,8 +14,10 @@ class ReadAheadSystemCalls::Batch {
 public:
     Batch();
 
-    // Whether datagrams of this descriptor, or of any, are left.
+    // Whether datagrams of this descriptor are left.
     bool holds(int descriptor) const { return !isEmpty() && _descriptor == descriptor; }
+
+    // Whether none of any descriptor is left.
     bool isEmpty() const { return _next == _count; }
     void clear() { _next = _count = 0; }
 

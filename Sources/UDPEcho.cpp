@@ -5,9 +5,9 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
-#include <chrono>
 #include <string_view>
 #include <utility>
 
@@ -20,8 +20,9 @@ constexpr std::string_view sourcePath = "Sources/UDPEcho";
 // More than any datagram over IPv4 can carry.
 constexpr std::size_t receiveBufferLength = 65536;
 
-// Datagrams that are ahead are handed out for this time. Then other events get their turn.
-constexpr std::chrono::milliseconds longestTurn{1};
+// When datagrams of so many bytes have been handed out, other events get their turn before those
+// that are ahead. A long text takes its reader as long as hundreds of replies.
+constexpr std::size_t longestTurn = 8192;
 
 // The peer's record with another port. A short record is filled with zeros.
 Bytes connectRecord(const Bytes& address, std::size_t port) {
@@ -88,7 +89,8 @@ bool EndpointSocket::watch(RunLoop& runLoop, CallbackInfo& info) {
 }
 
 // The descriptor need not be readable again when all has been read ahead.
-void EndpointSocket::didRead() {
+void EndpointSocket::didRead(std::size_t length) {
+    _bytesInTurn += length;
     if (_nextTurn == nullptr && _runLoop != nullptr && _systemCalls.hasReadAhead(_descriptor)) {
         _nextTurn = _runLoop->callOnceAfter({}, [this] {
             _nextTurn = nullptr;
@@ -102,11 +104,10 @@ void EndpointSocket::readAll() {
     bool isGone = false;
     bool* const outer = std::exchange(_isGone, &isGone);
     CallbackInfo* const info = _info;
-    const auto end = std::chrono::steady_clock::now() + longestTurn;
+    _bytesInTurn = 0;
     do {
         SocketReadCallback(this, SocketCallbackType::read, nullptr, nullptr, info);
-    } while (!isGone && _systemCalls.hasReadAhead(_descriptor) &&
-             std::chrono::steady_clock::now() < end);
+    } while (!isGone && _bytesInTurn < longestTurn && _systemCalls.hasReadAhead(_descriptor));
     if (!isGone) {
         _isGone = outer;
         if (!_systemCalls.hasReadAhead(_descriptor)) {
@@ -332,7 +333,7 @@ void UDPEcho::_readData() {
     DatagramOrigin origin;
     const ssize_t bytesRead = _systemCalls.receiveFrom(sock, buffer, origin);
     const int err = bytesRead == 0 ? EPIPE : errno;
-    _cfSocket->didRead();
+    _cfSocket->didRead(static_cast<std::size_t>(std::max<ssize_t>(bytesRead, 0)));
     if (bytesRead > 0) {
         const auto copy = copyOfBytes(buffer, static_cast<std::size_t>(bytesRead));
         const Bytes& dataObj = requireValue(copy, "dataObj != nil", sourcePath);

@@ -12,7 +12,8 @@
 //
 // Threading: everything, callbacks included, on the thread of the run loop. Sends and reads never
 // block. One datagram is read for each call of the run loop, and besides those that the system
-// calls have read ahead, which are few. So a flood on this socket cannot keep other events waiting.
+// calls have read ahead, up to a few kilobytes. So a flood on this socket cannot keep other events
+// waiting.
 //
 // Ownership: endpoints are held by std::shared_ptr, and made by make() only. The delegate is not
 // owned; it must outlive the endpoint or be cleared before it ends. Run loop, resolver and system
@@ -109,9 +110,9 @@ public:
     // that the system calls have read ahead. False when the system cannot watch the descriptor.
     bool watch(RunLoop& runLoop, CallbackInfo& info);
 
-    // Has to be called between a read and what follows from it. When datagrams have been read
-    // ahead, the next turn of the loop hands them out, also one inside the event.
-    void didRead();
+    // Has to be called between a read of this many bytes and what follows from it. When datagrams
+    // have been read ahead, the next turn of the loop hands them out, also one inside the event.
+    void didRead(std::size_t length);
 
 private:
     void readAll();
@@ -123,6 +124,7 @@ private:
     CallbackInfo* _info = nullptr;
     RunLoop::Handle _source;
     RunLoop::Handle _nextTurn;
+    std::size_t _bytesInTurn = 0;
     bool* _isGone = nullptr; // of the innermost readAll()
 };
 

@@ -3,7 +3,6 @@
 #include "support/Require.h"
 
 #include <fcntl.h>
-#include <poll.h>
 
 #include <QEventLoop>
 #include <QSocketNotifier>
@@ -24,16 +23,6 @@ using std::chrono::milliseconds;
 
 // Qt's timers count milliseconds in an int, so a longer delay is waited for in several rounds.
 constexpr milliseconds longestRound{std::numeric_limits<int>::max()};
-
-// The number of our turns that one turn of Qt's loop may hold for one watch. Qt spends several
-// times as long on an event as the system on a datagram, so a burst is read in small batches. A
-// batch ends long before a person notices it.
-constexpr int mostTurnsInOne = 32;
-
-bool canBeRead(int descriptor) {
-    pollfd polled{descriptor, POLLIN, 0};
-    return ::poll(&polled, 1, 0) > 0 && (polled.revents & POLLNVAL) == 0;
-}
 
 class Registration final : public RunLoop::Source {
 public:
@@ -128,37 +117,20 @@ struct QtRunLoop::State {
 class QtRunLoop::ReadWatch final : public Source {
 public:
     ReadWatch(State& state, int descriptor, std::function<void()> readable)
-        : _watched(std::make_shared<Watched>(Watched{state, descriptor, std::move(readable)}))
+        : _state(state)
+        , _readable(std::make_shared<std::function<void()>>(std::move(readable)))
         , _notifier(descriptor, QSocketNotifier::Read) {
         _notifier.setEnabled(!state.isHeld());
         state.notifiers.insert(&_notifier);
+        // The call may end the watch, and is kept until it returns.
         QObject::connect(&_notifier, &QSocketNotifier::activated, &_notifier,
-                         [watched = _watched] { takeTurns(watched); });
+                         [this] { (*std::shared_ptr(_readable))(); });
     }
-    ~ReadWatch() override {
-        _watched->hasEnded = true;
-        _watched->state.notifiers.erase(&_notifier);
-    }
+    ~ReadWatch() override { _state.notifiers.erase(&_notifier); }
 
 private:
-    struct Watched {
-        State& state;
-        int descriptor;
-        std::function<void()> readable;
-        bool hasEnded = false;
-    };
-
-    // By value: a call may end the watch, and then this is the last share.
-    static void takeTurns(std::shared_ptr<Watched> watched) { // NOLINT(*-unnecessary-value-param)
-        int turns = 0;
-        do {
-            watched->readable();
-            ++turns;
-        } while (turns < mostTurnsInOne && !watched->hasEnded && !watched->state.isHeld() &&
-                 canBeRead(watched->descriptor));
-    }
-
-    std::shared_ptr<Watched> _watched;
+    State& _state;
+    std::shared_ptr<std::function<void()>> _readable;
     QSocketNotifier _notifier;
 };
 
