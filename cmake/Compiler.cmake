@@ -8,6 +8,9 @@ set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# Whatever tests run ends where it reads beyond a vector, a text or a view, or an absent value.
+add_compile_definitions($<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
+
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion
