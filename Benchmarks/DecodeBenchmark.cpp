@@ -76,7 +76,7 @@ PlainUnit plainDecode(const Bytes& list) {
 
 void decodePlainly(benchmark::State& state) {
     if (plainDecode(parameterList).displayText !=
-        linesOfParameters(decodeUnitParameters(parameterList).items, shownParameterNames())) {
+        linesOfParameters(decodeUnitParameters(parameterList).items, parameterLineStarts())) {
         state.SkipWithError("the two decoders disagree");
     }
     for (auto _ : state) {
@@ -87,11 +87,11 @@ BENCHMARK(decodePlainly);
 
 // Decodes and makes the lines, as the application does for its log.
 void decode(benchmark::State& state) {
-    const ShownParameterNames names = shownParameterNames();
+    const ParameterLineStarts starts = parameterLineStarts();
     for (auto _ : state) {
         const auto decoded = decodeUnitParameters(parameterList);
         benchmark::DoNotOptimize(decoded.record);
-        benchmark::DoNotOptimize(linesOfParameters(decoded.items, names));
+        benchmark::DoNotOptimize(linesOfParameters(decoded.items, starts));
     }
 }
 BENCHMARK(decode);

@@ -48,7 +48,7 @@ void KXConfigAppDelegate::applicationDidFinishLaunching() {
     logText.clear();
     _outlets.eventLogDrawer->close();
 
-    _shownNames = shownParameterNames();
+    _lineStarts = parameterLineStarts();
     listInterfaces(currentInterfaceTitles());
 
     _session.stop();

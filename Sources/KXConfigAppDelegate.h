@@ -375,7 +375,7 @@ private:
     UnitSession _session;
     const std::shared_ptr<UDPEcho>& _udpListener = _session.listener(); // null when there is none
     std::optional<SendFailure> _sendFailure; // failure of the latest command; absent when it left
-    ShownParameterNames _shownNames;         // those of the language at the launch
+    ParameterLineStarts _lineStarts;         // those of the language at the launch
     RequestPace _requestPace;
     std::optional<std::string> _acceptedSince; // selected unit whose request is owed
     DiscoveryFindings _findings;

@@ -186,7 +186,7 @@ std::string KXConfigAppDelegate::unitParameters(const DecodedUnitParameters& par
         }
         _quietLine.unitDidTell(*serial, parameters.record, addressOfSender(origin));
     }
-    return linesOfParameters(parameters.items, _shownNames);
+    return linesOfParameters(parameters.items, _lineStarts);
 }
 
 // The log has the request before the acknowledgement. When too many acknowledgements come at once,

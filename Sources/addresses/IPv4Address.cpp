@@ -1,11 +1,12 @@
 #include "addresses/IPv4Address.h"
 
-#include "addresses/AppendBuffer.h"
 #include "addresses/CharacterClass.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <charconv>
+#include <cstddef>
 
 namespace kx {
 
@@ -13,9 +14,7 @@ namespace {
 
 constexpr std::size_t longestAddressText = 254;
 
-// Room for the longest text, "255.255.255.255/32", and the part of it that appends may occupy.
-constexpr std::size_t formattedTextRoom = 32;
-constexpr std::uint32_t formattedTextCapacity = 31;
+constexpr std::size_t longestNetNumber = std::string_view("255.255.255.255/32").size();
 
 std::uint32_t readSegment(const char* buffer, std::int32_t& position, std::int32_t& consumed,
                           int mostDecimalDigits) {
@@ -41,20 +40,6 @@ std::uint32_t readSegment(const char* buffer, std::int32_t& position, std::int32
 bool isSkippedInFront(char character) {
     return character == ' ' || character == ',' || character == '-' || character == '\t' ||
            character == '\r';
-}
-
-// A separator always fits, because appends stay within the capacity, one byte below the room.
-void appendSeparator(AppendBuffer& buffer, char separator) {
-    buffer.bytes[buffer.offset++] = separator;
-}
-
-void appendAddress(AppendBuffer& buffer, std::uint32_t address) {
-    for (int shift = 24; shift >= 0; shift -= 8) {
-        appendInt(buffer, static_cast<std::int32_t>((address >> shift) & 0xFFU));
-        if (shift > 0) {
-            appendSeparator(buffer, '.');
-        }
-    }
 }
 
 // The lowest set bit alone decides, so a mask with holes still gets a prefix length.
@@ -103,14 +88,24 @@ std::string stringForIP(std::uint32_t address) {
 }
 
 std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask) {
-    std::array<char, formattedTextRoom> room{};
-    AppendBuffer buffer{room.data(), 0, formattedTextCapacity, 0};
-    appendAddress(buffer, address);
+    std::array<char, longestNetNumber> room{};
+    char* end = writeIP(room.data(), address);
     if (mask != 0) {
-        appendSeparator(buffer, '/');
-        appendInt(buffer, prefixLengthOfMask(mask));
+        *end++ = '/';
+        end = std::to_chars(end, &room.back() + 1, prefixLengthOfMask(mask)).ptr;
     }
-    return {room.data(), buffer.offset};
+    return {room.data(), end};
+}
+
+char* writeIP(char* end, std::uint32_t address) {
+    constexpr std::ptrdiff_t longestOctet = 3;
+    for (int shift = 24; shift >= 0; shift -= 8) {
+        end = std::to_chars(end, end + longestOctet, (address >> shift) & 0xFFU).ptr;
+        if (shift > 0) {
+            *end++ = '.';
+        }
+    }
+    return end;
 }
 
 std::optional<std::string> prefixForMaskStr(const std::optional<std::string>& maskText) {

@@ -38,6 +38,9 @@ std::uint32_t ipSegment1FromBuf(const char* buffer, std::int32_t& position, std:
 // "a.b.c.d" without zero padding.
 std::string stringForIP(std::uint32_t address);
 
+// Writes the same without a terminator, in at most 15 bytes, and returns the end.
+char* writeIP(char* text, std::uint32_t address);
+
 // "a.b.c.d/n", with n the position of the mask's least significant set bit; "a.b.c.d" for a mask of
 // 0. The lowest set bit alone decides, so a mask with holes still gets a prefix length.
 std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask);

@@ -1,26 +1,31 @@
 #include "support/QuotedLines.h"
 
+#include <cstddef>
+
 namespace kx {
 
 namespace {
 
-// Nearly all texts have none of them, so the search is what counts.
-void replaceEach(std::string& text, char byte, char replacement) {
-    for (auto at = text.find(byte); at != std::string::npos; at = text.find(byte, at + 1)) {
+// `at` is the first place of the byte.
+void replaceEach(std::string& text, std::size_t at, char byte, char replacement) {
+    for (; at != std::string::npos; at = text.find(byte, at + 1)) {
         text[at] = replacement;
     }
 }
 
 } // namespace
 
+// Nearly all texts have no line feed, so the search is what counts. The given text is searched,
+// because the processor waits when it searches a copy that it has just made.
 std::string quotedLines(std::string_view text) {
+    const std::size_t first = text.find('\n');
     std::string quoted(text);
-    replaceEach(quoted, '\n', quotedLineFeed);
+    replaceEach(quoted, first, '\n', quotedLineFeed);
     return quoted;
 }
 
 std::string unquotedLines(std::string text) {
-    replaceEach(text, quotedLineFeed, '\n');
+    replaceEach(text, text.find(quotedLineFeed), quotedLineFeed, '\n');
     return text;
 }
 

@@ -57,33 +57,14 @@ const Item* itemAtFrontOf(ByteView list) {
     return index < itemCount ? &items[index] : nullptr;
 }
 
-// Room for the text of one value.
-class ValueText {
-public:
-    void setHex(ByteView octets, char separator) {
-        char* end = _text.data();
-        for (const std::uint8_t octet : octets) {
-            if (end != _text.data()) {
-                *end++ = separator;
-            }
-            end = writeHexDigits(end, octet);
-        }
-        _length = static_cast<std::size_t>(end - _text.data());
+char* writeHex(char* end, ByteView octets, char separator) {
+    end = writeHexDigits(end, octets.front());
+    for (const std::uint8_t octet : octets.subspan(1)) {
+        *end++ = separator;
+        end = writeHexDigits(end, octet);
     }
-
-    void setNumber(std::uint32_t number) {
-        const auto result = std::to_chars(_text.data(), _text.data() + _text.size(), number);
-        _length = static_cast<std::size_t>(result.ptr - _text.data());
-    }
-
-    void setText(std::string_view text) { _length = text.copy(_text.data(), _text.size()); }
-
-    std::string_view view() const { return {_text.data(), _length}; }
-
-private:
-    std::array<char, UnitRecord::longestText> _text;
-    std::size_t _length = 0;
-};
+    return end;
+}
 
 std::uint32_t bigEndianNumber(ByteView bytes) {
     std::uint32_t number = 0;
@@ -93,66 +74,55 @@ std::uint32_t bigEndianNumber(ByteView bytes) {
     return number;
 }
 
-// False when the value has no text.
-bool takeValue(ValueForm form, ByteView value, ValueText& text) {
+void takeUnitID(ByteView value, DecodedUnitParameters& decoded) {
+    auto& bytes = decoded.unitIDBytes.emplace();
+    std::copy_n(value.begin(), bytes.size(), bytes.begin());
+}
+
+// Written in its place, because the processor waits when it copies bytes that it has just written.
+void writeValue(ValueForm form, ByteView value, ValueText& text) {
     switch (form) {
     case ValueForm::hardwareAddress:
-        text.setHex(value, ':');
-        return true;
+        text.write([value](char* room) { return writeHex(room, value, ':'); });
+        return;
     case ValueForm::serialNumber:
-        text.setHex(value, ' ');
-        return true;
+        text.write([value](char* room) { return writeHex(room, value, ' '); });
+        return;
     case ValueForm::ipv4Address:
-        text.setText(stringForIP(bigEndianNumber(value)));
-        return true;
+        text.write([value](char* room) { return writeIP(room, bigEndianNumber(value)); });
+        return;
     case ValueForm::listeningPort:
     case ValueForm::anyPort:
-        text.setNumber(bigEndianNumber(value));
-        return true;
+        text.write([value](char* room) {
+            return std::to_chars(room, room + ValueText::longestText, bigEndianNumber(value)).ptr;
+        });
+        return;
     case ValueForm::unitID:
     case ValueForm::none:
         break;
     }
-    const auto identity = unitIDforData(value);
-    text.setText(identity.value_or(std::string()));
-    return identity.has_value();
-}
-
-void decodeItem(const Item& item, ByteView value, DecodedUnitParameters& decoded) {
-    ValueText text;
-    const bool hasText = takeValue(item.form, value, text);
-    decoded.items.emplace_back(item.parameter, hasText ? std::optional(text.view()) : std::nullopt);
-    if (!item.parameter.has_value()) {
-        return;
-    }
-    if (item.form == ValueForm::unitID) {
-        auto& bytes = decoded.unitIDBytes.emplace();
-        std::copy_n(value.begin(), bytes.size(), bytes.begin());
-    }
-    if (hasText) {
-        decoded.record.setValue(*item.parameter, text.view());
-    } else {
-        decoded.record.removeValue(*item.parameter);
+    if (const auto identity = unitIDforData(value)) {
+        text = ValueText(*identity);
     }
 }
 
 } // namespace
 
-ToldParameter::ToldParameter(std::optional<UnitParameter> parameter,
-                             std::optional<std::string_view> text)
-    : _parameter(parameter)
-    , _hasText(text.has_value()) {
-    if (_hasText) {
-        _length = static_cast<std::uint8_t>(text->copy(_text.data(), _text.size()));
-    }
-}
-
 DecodedUnitParameters decodeUnitParameters(ByteView list) {
     DecodedUnitParameters decoded;
     decoded.items.reserve(itemCount);
     while (const Item* item = itemAtFrontOf(list)) {
-        decodeItem(*item, subrange(list, tagLength, item->valueLength), decoded);
+        const ByteView value = subrange(list, tagLength, item->valueLength);
+        writeValue(item->form, value, decoded.items.emplace_back(item->parameter).text);
+        if (item->form == ValueForm::unitID) {
+            takeUnitID(value, decoded);
+        }
         list = list.subspan(tagLength + item->valueLength);
+    }
+    for (const ToldParameter& told : decoded.items) {
+        if (told.parameter.has_value()) {
+            decoded.record.setValue(*told.parameter, told.text);
+        }
     }
     return decoded;
 }

@@ -12,9 +12,9 @@
 #include "support/ByteRange.h"
 #include "units/IdentityText.h"
 #include "units/UnitRecord.h"
+#include "units/ValueText.h"
 
 #include <array>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
@@ -25,25 +25,10 @@ namespace kx {
 // The tag of the item that is told and not kept, which has no name.
 inline constexpr std::string_view tagOfUninterpretedItem = "<O>";
 
-// One item as it was told. A value without heap storage.
-class ToldParameter {
-public:
-    // `parameter` is absent for the item that is not kept. `text` has at most
-    // UnitRecord::longestText bytes.
-    ToldParameter(std::optional<UnitParameter> parameter, std::optional<std::string_view> text);
-
-    const std::optional<UnitParameter>& parameter() const { return _parameter; }
-
-    // Absent for a unit ID that is not UTF-8. A view of this value.
-    std::optional<std::string_view> text() const {
-        return _hasText ? std::optional(std::string_view(_text.data(), _length)) : std::nullopt;
-    }
-
-private:
-    std::optional<UnitParameter> _parameter;
-    bool _hasText;
-    std::uint8_t _length = 0;
-    std::array<char, UnitRecord::longestText> _text;
+// One item as it was told.
+struct ToldParameter {
+    std::optional<UnitParameter> parameter; // absent for the item that is not kept
+    ValueText text{};                       // none for a unit ID that is not UTF-8
 };
 
 using UnitIDBytes = std::array<std::uint8_t, identityLength>;

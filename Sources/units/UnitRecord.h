@@ -5,6 +5,7 @@
 #pragma once
 
 #include "units/UnitParameter.h"
+#include "units/ValueText.h"
 
 #include <array>
 #include <cstddef>
@@ -16,22 +17,27 @@ namespace kx {
 
 class UnitRecord {
 public:
-    // The longest value text in bytes, that of a hardware address or a serial number.
-    static constexpr std::size_t longestText = 17;
+    // The longest value text in bytes.
+    static constexpr std::size_t longestText = ValueText::longestText;
 
     // The text of a parameter, absent when the record has none. It is a view of the record and
     // lives until the record is changed or destroyed.
     std::optional<std::string_view> value(UnitParameter parameter) const {
-        const Slot& slot = _slots[indexOf(parameter)];
-        return slot.isPresent ? std::optional(std::string_view(slot.text.data(), slot.length))
-                              : std::nullopt;
+        return _texts[indexOf(parameter)].view();
     }
 
     // Sets or replaces a text of at most `longestText` bytes. Contract: "text.size() <=
     // longestText".
-    void setValue(UnitParameter parameter, std::string_view text);
+    void setValue(UnitParameter parameter, std::string_view text) {
+        setValue(parameter, ValueText(text));
+    }
 
-    void removeValue(UnitParameter parameter) { _slots[indexOf(parameter)] = Slot{}; }
+    // Sets or replaces a text. None removes it.
+    void setValue(UnitParameter parameter, const ValueText& text) {
+        _texts[indexOf(parameter)] = text;
+    }
+
+    void removeValue(UnitParameter parameter) { setValue(parameter, ValueText()); }
 
     // Whether both tell the same internal MAC address: then they are of one unit, also under two
     // serial numbers.
@@ -48,13 +54,7 @@ public:
     friend bool operator==(const UnitRecord& left, const UnitRecord& right);
 
 private:
-    struct Slot {
-        std::array<char, longestText> text{};
-        std::uint8_t length = 0;
-        bool isPresent = false;
-    };
-
-    std::array<Slot, unitParameterCount> _slots;
+    std::array<ValueText, unitParameterCount> _texts;
     std::uint32_t _link = 0;
 };
 

@@ -12,17 +12,17 @@
 
 namespace kx {
 
-// The name that people see for each parameter, by indexOf().
-using ShownParameterNames = std::array<std::string, unitParameterCount>;
+// The beginning of each parameter's line, "\n\tNAME: " with the name that people see, by indexOf().
+using ParameterLineStarts = std::array<std::string, unitParameterCount>;
 
-// The names in the present language. Looking them up takes longer than decoding a reply, so keep
-// them while the language does not change.
-ShownParameterNames shownParameterNames();
+// Those in the present language. Looking them up takes longer than decoding a reply, so keep them
+// while the language does not change.
+ParameterLineStarts parameterLineStarts();
 
 // One line for each item, "\n\tNAME: TEXT", in the order of the list. An item without a parameter
 // has its tag as its name, and one without a text has "(null)". Line feeds of a unit ID are quoted
 // (support/QuotedLines.h).
 std::string linesOfParameters(const std::vector<ToldParameter>& items,
-                              const ShownParameterNames& names);
+                              const ParameterLineStarts& starts);
 
 } // namespace kx

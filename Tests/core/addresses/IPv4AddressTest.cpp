@@ -182,6 +182,14 @@ TEST(IPv4Segment, LongVariantStillReadsTwoHexadecimalDigits) {
     EXPECT_EQ(consumed, 4);
 }
 
+TEST(IPv4Text, IsWrittenIntoRoomForTheLongestWithoutATerminator) {
+    std::string room(16, '#');
+    EXPECT_EQ(writeIP(room.data(), 0xFFFFFFFFU), room.data() + 15);
+    EXPECT_EQ(room, "255.255.255.255#");
+    EXPECT_EQ(writeIP(room.data(), 0x00000009U), room.data() + 7);
+    EXPECT_EQ(room.substr(0, 8), "0.0.0.9.");
+}
+
 TEST(IPv4Text, HasNoZeroPadding) {
     EXPECT_EQ(stringForIP(0x0A000001U), "10.0.0.1");
     EXPECT_EQ(stringForIP(0), "0.0.0.0");

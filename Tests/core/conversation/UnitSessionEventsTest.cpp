@@ -76,7 +76,7 @@ TEST_F(UnitSessionEvents, ParametersWithoutASerialNumberAreToldAndNotKept) {
     EXPECT_EQ(eventsOf(joined({SampleUnit().header(), list})),
               (Events{"datagram of 30", "parameters of " + unitItself}));
     ASSERT_EQ(observer.lastParameters.items.size(), 1U);
-    EXPECT_EQ(observer.lastParameters.items[0].parameter(), UnitParameter::internalMACAddress);
+    EXPECT_EQ(observer.lastParameters.items[0].parameter, UnitParameter::internalMACAddress);
     EXPECT_TRUE(registry.records().empty());
 }
 

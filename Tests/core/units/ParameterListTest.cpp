@@ -19,9 +19,9 @@ std::string told(const DecodedUnitParameters& decoded) {
     std::string text;
     for (const ToldParameter& item : decoded.items) {
         text += '\n';
-        text += item.parameter().has_value() ? nameOfUnitParameter(*item.parameter()) : "(none)";
+        text += item.parameter.has_value() ? nameOfUnitParameter(*item.parameter) : "(none)";
         text += ": ";
-        text += item.text().value_or("(absent)");
+        text += item.text.view().value_or("(absent)");
     }
     return text;
 }

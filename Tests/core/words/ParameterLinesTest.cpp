@@ -10,7 +10,7 @@ namespace kx {
 namespace {
 
 std::string linesOf(const Bytes& list) {
-    return linesOfParameters(decodeUnitParameters(list).items, shownParameterNames());
+    return linesOfParameters(decodeUnitParameters(list).items, parameterLineStarts());
 }
 
 } // namespace
