@@ -76,24 +76,6 @@ TEST(DatagramSystemCalls, ASenderOfAnotherFamilyLeavesNothingOfTheSenderBefore) 
     }
 }
 
-TEST(DatagramSystemCalls, ASenderOfAnotherFamilyLeavesNothingOfTheSenderBefore) {
-    std::array<int, 2> ends{};
-    ASSERT_EQ(::socketpair(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC, 0, ends.data()), 0);
-    ASSERT_EQ(::send(ends[0], "x", 1, 0), 1);
-    DatagramSystemCalls calls;
-    DatagramOrigin origin{
-        .sender = dataForAddress(ipv4Loopback, 3520), .link = 7, .destination = 9};
-    std::array<std::uint8_t, 2> buffer{};
-    EXPECT_EQ(calls.receiveFrom(ends[1], buffer, origin), 1);
-    EXPECT_EQ(origin.sender, Bytes{});
-    EXPECT_EQ(origin.link, 0U);
-    EXPECT_EQ(origin.destination, 0U);
-    EXPECT_EQ(calls.localAddress(ends[0]), Bytes{});
-    for (const int descriptor : ends) {
-        calls.close(descriptor);
-    }
-}
-
 } // namespace
 
 } // namespace kx

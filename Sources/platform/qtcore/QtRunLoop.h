@@ -3,9 +3,7 @@
 // Threading: belongs to the thread that makes it, which needs a QCoreApplication. Callbacks run
 // from that thread's event loop, nested loops (menus, dialogues) included; an action that shows a
 // dialogue holds them back. At rest nothing wakes up: a watch is a socket notifier, and one
-// single-shot timer waits for the first of the delayed calls. While a descriptor stays readable,
-// one turn of Qt's loop may hold several turns of this one, 32 at most, because a turn of Qt's loop
-// costs more than most reads.
+// single-shot timer waits for the first of the delayed calls.
 
 #pragma once
 
