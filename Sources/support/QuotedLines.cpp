@@ -8,7 +8,7 @@ namespace {
 
 // `at` is the first place of the byte.
 void replaceEach(std::string& text, std::size_t at, char byte, char replacement) {
-    for (; at != std::string::npos; at = text.find(byte, at + 1)) {
+    for (; at != std::string::npos; at = text.find(byte, at)) {
         text[at] = replacement;
     }
 }
