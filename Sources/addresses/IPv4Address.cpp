@@ -92,7 +92,7 @@ std::string stringForNetNumber(std::uint32_t address, std::uint32_t mask) {
     char* end = writeIP(room.data(), address);
     if (mask != 0) {
         *end++ = '/';
-        end = std::to_chars(end, &room.back() + 1, prefixLengthOfMask(mask)).ptr;
+        end = std::to_chars(end, room.data() + room.size(), prefixLengthOfMask(mask)).ptr;
     }
     return {room.data(), end};
 }
@@ -101,7 +101,7 @@ char* writeIP(char* end, std::uint32_t address) {
     constexpr std::ptrdiff_t longestOctet = 3;
     for (int shift = 24; shift >= 0; shift -= 8) {
         end = std::to_chars(end, end + longestOctet, (address >> shift) & 0xFFU).ptr;
-        if (shift > 0) {
+        if (shift != 0) {
             *end++ = '.';
         }
     }
