@@ -186,7 +186,6 @@ class Finder:
             self._replace(start + match.start(group), start + match.end(group), text)
 
 
-
 WORDS = {
     CursorKind.CXX_BOOL_LITERAL_EXPR: {"true": "false", "false": "true"},
     CursorKind.CONTINUE_STMT: {"continue": "break"},
