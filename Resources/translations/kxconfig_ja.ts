@@ -2346,7 +2346,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply enters %@ at %@ in the ARP cache, which needs administrator rights.</source>
-        <translation>「適用」は %@ を %@ として ARP キャッシュに登録します (管理者権限が必要)。</translation>
+        <translation>「適用」は %@ を %@ として ARP キャッシュに登録します (要管理者権限)。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
@@ -2371,7 +2371,7 @@
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
         <source>Apply sends %@ to %@.</source>
-        <translation>「適用」を押すと %@ を %@ に送信します。</translation>
+        <translation>「適用」は %@ を %@ に送信します。</translation>
     </message>
     <message>
         <location filename="../../Sources/words/EditForecast.cpp"/>
