@@ -13,4 +13,13 @@ function(kx_library NAME)
     add_library(${NAME} STATIC ${sources})
     target_include_directories(${NAME} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
     target_link_libraries(${NAME} PUBLIC ${ARG_USES} PRIVATE kxwarnings)
+    # The tests make the libraries do much and do little themselves, so only the libraries are worth the time
+    # that the compiler takes to make sanitized code faster.
+    if(KX_SANITIZE)
+        target_compile_options(${NAME} PRIVATE -O1)
+    endif()
+    if(KX_COUNT_LINES)
+        target_compile_options(${NAME} PRIVATE --coverage -fprofile-abs-path)
+        target_link_options(${NAME} PUBLIC --coverage)
+    endif()
 endfunction()
