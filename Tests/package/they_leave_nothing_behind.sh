@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
-# Installs the packages in fresh root file systems, each with no more than its dependencies, runs what they
-# install, follows the installed help book, purges the packages again, and compares each file system with
-# its state before. What is run of each package is in debian/tests.
+# Installs the packages in a fresh root file system, runs what they install, follows the installed help book,
+# purges the packages again, and compares the file system with its state before. What is run of each package
+# is in debian/tests.
+#
+# A package finds its dependencies there and those of the packages tried before it. So kxctl is first: what
+# kxunits depends on besides would hide that kxctl needs it too.
 #
 # usage: they_leave_nothing_behind.sh FOLDER      needs root, and the machine's package mirror
 #   FOLDER    has the three packages
@@ -51,26 +54,25 @@ package_file() {
     printf '%s' "${found[0]}"
 }
 
-# The packages of Debian on which the packages NAME... depend, separated by commas.
+# The packages of Debian on which the packages NAME... depend.
 dependencies() {
     local name
     for name in "$@"; do
         dpkg-deb --field "$(package_file "$name")" Depends
     done | tr ',' '\n' | sed 's/|.*//; s/([^)]*)//; s/ //g' | sort --unique |
-        grep -vxF "$(printf '%s\n' "${names[@]}")" | paste --serial --delimiters=,
+        grep -vxF "$(printf '%s\n' "${names[@]}")"
 }
 
-# Debian's essential packages, the package system, and the dependencies of the packages NAME..., from the
-# source of this machine's own packages. The file system also has our packages and what runs them.
+# Debian's essential packages and the package system, from the source of this machine's own packages. The file
+# system also has our packages and what runs them.
 make_root() {
     local suite name
     # shellcheck disable=SC1091
     suite=$(. /etc/os-release && printf '%s' "$VERSION_CODENAME")
-    rm -rf --one-file-system -- "$root"
     "$here/../../.ci/package-source" "$suite" "$scratch"
-    mmdebstrap --quiet --variant=apt --include="$(dependencies "$@")" \
-        --aptopt="$scratch/apt.conf" --dpkgopt=force-unsafe-io "$suite" "$root" "$scratch/sources" ||
-        fail 'the root file system was not made'
+    mmdebstrap --quiet --variant=apt --aptopt="$scratch/apt.conf" --dpkgopt=force-unsafe-io \
+        "$suite" "$root" "$scratch/sources" || fail 'the root file system was not made'
+    inside apt-get update -qq
     # Sets the environment that a login gives a person.
     install -d -m 700 -o nobody -g nogroup "$root/home/person" "$root/run/person"
     mkdir "$root/packages"
@@ -89,6 +91,13 @@ inside() {
         mount -t proc proc "$root/proc"
         exec env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
             chroot "$root" "$@"' inside "$root" "$@"
+}
+
+# Installs the dependencies of the packages NAME... and nothing else.
+install_dependencies() {
+    local packages
+    mapfile -t packages < <(dependencies "$@")
+    inside apt-get install -qq --yes --no-install-recommends --option Dpkg::Use-Pty=0 "${packages[@]}" >/dev/null
 }
 
 # Every entry with its kind, rights and owner, and every file with its checksum too. The package system's
@@ -195,9 +204,10 @@ all_of_them() {
     inside dpkg --remove "${names[@]}"
 }
 
-# usage: leaves_nothing_behind USE
+# usage: leaves_nothing_behind USE NAME...      USE is a function that uses the packages NAME...
 leaves_nothing_behind() {
     printf '%s (%d s)\n' "$1" "$SECONDS"
+    install_dependencies "${@:2}"
     snapshot >"$scratch/before"
     "$1"
     snapshot >"$scratch/after"
@@ -207,10 +217,8 @@ leaves_nothing_behind() {
 for name in "${names[@]}"; do
     dpkg-deb --extract "$(package_file "$name")" "$scratch/unpacked"
 done
-make_root kxctl
-leaves_nothing_behind kxctl_alone
-make_root kxunits
-leaves_nothing_behind kxunits_alone
-make_root "${names[@]}"
+make_root
+leaves_nothing_behind kxctl_alone kxctl
+leaves_nothing_behind kxunits_alone kxunits
 make_old_package
-leaves_nothing_behind all_of_them
+leaves_nothing_behind all_of_them "${names[@]}"
