@@ -13,152 +13,36 @@ Both sides of a comparison run in one go, interleaved in random order, nine roun
 one round; the table has the median, the least and the most.
 """
 
-import contextlib
 import json
 import os
 import pathlib
 import random
-import re
 import socket
-import statistics
 import subprocess
 import sys
 import tempfile
-import threading
 import time
 
-ROOT = pathlib.Path(__file__).resolve().parents[1]
-BUILD = pathlib.Path(os.environ.get("KX_BUILD_DIR", ROOT / "build/release")).resolve()
-PRIVATE_HOST = ROOT / "Tests/linux/networkmanager/in_private_host.sh"
-ROUNDS = 9
+from measuring import (BUILD, KXCTL, PRIVATE_HOST, ROOT, ROUNDS, LastReply, Run, compare, heading, last_reply_of,
+                       mebibytes, milliseconds, network_manager, program, ratio, row, successful)
+
 UNIT = "4B5800000001"
-
-
-def program(name):
-    return str(BUILD / "bin" / name)
-
-
-KXCTL = program("kxctl")
-
-
-class Run:
-    """One run of a program: seconds, peak memory in KiB, status and standard output."""
-
-    def __init__(self, words):
-        reading, writing = os.pipe()
-        null = os.open(os.devnull, os.O_RDWR)
-        began = time.perf_counter()
-        process = os.posix_spawnp(words[0], words, {**os.environ, "LC_ALL": "C.UTF-8"}, file_actions=[
-            (os.POSIX_SPAWN_DUP2, null, 0), (os.POSIX_SPAWN_DUP2, writing, 1),
-            (os.POSIX_SPAWN_DUP2, null, 2)])
-        os.close(writing)
-        os.close(null)
-        pieces = []
-        self.first_output = None
-        while piece := os.read(reading, 1 << 20):
-            self.first_output = self.first_output or time.perf_counter()
-            pieces.append(piece)
-        self.last_output = time.perf_counter()
-        os.close(reading)
-        _, status, usage = os.wait4(process, 0)
-        self.ended = time.perf_counter()
-        self.seconds = self.ended - began
-        self.status = os.waitstatus_to_exitcode(status)
-        self.memory = usage.ru_maxrss
-        self.output = b"".join(pieces)
-
-    @property
-    def writing(self):
-        return self.last_output - (self.first_output or self.last_output)
-
-
-def successful(words, statuses=(0,)):
-    run = Run(words)
-    if run.status not in statuses:
-        sys.exit(f"command_line.py: {' '.join(words)} ended with {run.status}")
-    return run
-
-
-def heading(text):
-    print(f"\n| {text} | Median | Least | Most |\n|---|---|---|---|", flush=True)
-
-
-def row(name, values, form):
-    middle, least, most = statistics.median(values), min(values), max(values)
-    print(f"| {name} | {form(middle)} | {form(least)} | {form(most)} |", flush=True)
-
-
-def milliseconds(seconds):
-    return f"{1000 * seconds:.1f} ms"
-
-
-def ratio(value):
-    return f"{value:.2f}"
-
-
-def mebibytes(kibibytes):
-    return f"{kibibytes / 1024:.1f} MiB"
-
-
-def compare(what, sides, measure=lambda run: run.seconds, repeats=5, statuses=(0,)):
-    """Measures each side, the first beside the others. `sides`: name and words of the program."""
-    times = {name: [] for name, _ in sides}
-    for _ in range(ROUNDS):
-        for name, words in random.sample(sides, len(sides)):
-            times[name].append(min(measure(successful(words, statuses)) for _ in range(repeats)))
-    heading(what)
-    for name, values in times.items():
-        row(name, values, milliseconds)
-    ours, *others = times
-    for other in others:
-        row(f"{ours}, beside {other}",
-            [a / b for a, b in zip(times[ours], times[other])], ratio)
 
 
 # --- The sections. Each runs in a private network. ---
 
 def start():
     compare("Start to end", [("kxctl --version", [KXCTL, "--version"]),
-                             ("a program that does nothing", [program("kxnothing")])])
-
-
-@contextlib.contextmanager
-def network_manager():
-    """Under in_private_host.sh: a link kx0, and a NetworkManager of this program's own."""
-    folder = pathlib.Path(os.environ["KX_PRIVATE_HOST"])
-    for words in (["ip", "link", "set", "lo", "up"],
-                  ["ip", "link", "add", "kx0", "type", "veth", "peer", "name", "kx1"],
-                  ["ip", "link", "set", "kx0", "up"], ["ip", "link", "set", "kx1", "up"],
-                  ["ip", "address", "add", "192.0.2.1/24", "brd", "+", "dev", "kx0"]):
-        subprocess.run(words, check=True)
-    bus = folder / "bus"
-    (folder / "bus.conf").write_text(
-        "<busconfig><type>system</type>"
-        f"<listen>unix:path={bus}</listen><auth>EXTERNAL</auth><policy context='default'>"
-        "<allow user='*'/><allow own='*'/><allow send_destination='*'/><allow receive_sender='*'/>"
-        "</policy></busconfig>", encoding="utf-8")
-    os.environ["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={bus}"
-    log = open(folder / "log", "ab")
-    beside = [subprocess.Popen(words, stdout=log, stderr=log) for words in (
-        ["dbus-daemon", "--nofork", "--nopidfile", "--nosyslog", f"--config-file={folder}/bus.conf"],
-        ["unshare", "--mount", "sh", "-c", f"until test -S {bus}; do sleep 0.1; done; "
-         "mount -t sysfs -o ro sysfs /sys && exec NetworkManager --no-daemon"])]
-    try:
-        while subprocess.run(["nm-online", "--wait-for-startup", "--quiet", "--timeout=20"],
-                             check=False).returncode != 0:
-            time.sleep(0.2)
-        yield
-    finally:
-        for process in beside:
-            process.kill()
-            process.wait()
+                             ("a program that does nothing", [program("kxnothing")])],
+            {"a program that does nothing": "1.2"})
 
 
 def interfaces():
     with network_manager():
         compare("The interfaces", [("kxctl interfaces", [KXCTL, "interfaces"]),
                                    ("nmcli device", ["nmcli", "device"]),
-                                   ("ip -json address", ["ip", "-json", "address"])])
+                                   ("ip -json address", ["ip", "-json", "address"])],
+                {"nmcli device": "below 1", "ip -json address": "3"})
 
 
 def addresses():
@@ -174,35 +58,8 @@ def discover():
     compare("200 units", [("kxctl discover --expect 200", [KXCTL, "discover", *expect]),
                           ("a bare loop", [program("kxbarediscovery"), "192.0.2.255", "200"]),
                           ("arp-scan of the subnet, for information",
-                           ["arp-scan", "-q", "-I", "kx0", "192.0.2.0/24"])], repeats=3)
-
-
-class LastReply:
-    """Notes when the last datagram from a unit came."""
-
-    def __init__(self):
-        self._socket = socket.socket(socket.AF_PACKET, socket.SOCK_DGRAM, socket.htons(0x0800))
-        self._socket.bind(("kx0", 0))
-        self._socket.settimeout(0.1)
-        self._is_over = False
-        self.time = None
-        self._thread = threading.Thread(target=self._listen)
-        self._thread.start()
-
-    def _listen(self):
-        buffer = bytearray(64)
-        while not self._is_over:
-            try:
-                _, sender = self._socket.recvfrom_into(buffer)
-            except TimeoutError:
-                continue
-            if sender[2] != socket.PACKET_OUTGOING and buffer[9] == socket.IPPROTO_UDP:
-                self.time = time.perf_counter()
-
-    def end(self):
-        self._is_over = True
-        self._thread.join()
-        self._socket.close()
+                           ["arp-scan", "-q", "-I", "kx0", "192.0.2.0/24"])],
+            {"a bare loop": "1.5"}, repeats=3)
 
 
 def discovery_of_many():
@@ -216,9 +73,9 @@ def discovery_of_many():
 def many():
     runs = [discovery_of_many() for _ in range(ROUNDS)]
     heading("10,000 units: kxctl discover --expect 10000")
-    row("units listed", [units for units, _, _ in runs], str)
-    row("peak memory", [memory for _, memory, _ in runs], mebibytes)
-    row("end after the last reply", [rest for _, _, rest in runs], milliseconds)
+    row("units listed", [units for units, _, _ in runs], str, "10000")
+    row("peak memory", [memory for _, memory, _ in runs], mebibytes, "64 MiB")
+    row("end after the last reply", [rest for _, _, rest in runs], milliseconds, "50 ms")
     with tempfile.NamedTemporaryFile() as same:
         document = successful([KXCTL, "show", "--all", "--json"]).output
         same.write(document)
@@ -227,7 +84,7 @@ def many():
                 "from the first byte to the last",
                 [("kxctl show --all --json", [KXCTL, "show", "--all", "--json"]),
                  ("cat of the same bytes", ["cat", same.name])],
-                measure=lambda run: run.writing, repeats=1)
+                {"cat of the same bytes": "10"}, measure=lambda run: run.writing, repeats=1)
 
 
 def answer_time():
@@ -255,14 +112,14 @@ def set_value():
     successful([KXCTL, "set", UNIT, "destination-port=3520"])
     heading("kxctl set of one value")
     row("from start to verified", whole, milliseconds)
-    row("more than the unit's own answer times", more, milliseconds)
+    row("more than the unit's own answer times", more, milliseconds, "20 ms")
 
 
 def losses():
     counts = [len(json.loads(Run([KXCTL, "discover", "--json"]).output)["units"])
               for _ in range(20)]
     heading("200 units that lose 30 %: kxctl discover")
-    row("units found in 20 runs", counts, str)
+    row("units found in 20 runs", counts, str, "200")
     print(f"\nAll 200 in {counts.count(200)} of 20 runs.")
 
 
@@ -322,7 +179,7 @@ def apply_table():
     heading("200 units, three edits each")
     row("kxctl apply", ours, milliseconds)
     row("a bare loop with eight in flight", bare, milliseconds)
-    row("kxctl apply, beside a bare loop", [a / b for a, b in zip(ours, bare)], ratio)
+    row("kxctl apply, beside a bare loop", [a / b for a, b in zip(ours, bare)], ratio, "2")
 
 
 def time_of_edit(lost, chance):
@@ -366,16 +223,8 @@ def apply_with_losses(percent):
         runs = [applied(write_table(pathlib.Path(name), count, next(choose)), count)
                 for _ in range(ROUNDS)]
     heading(f"200 units that lose {percent} % of their answers, three edits each")
-    row("kxctl apply, all of them done", [run.seconds for run in runs], milliseconds)
+    row("kxctl apply, all of them done", [run.seconds for run in runs], milliseconds, "the waits")
     row("the waits of its retries alone, computed", waits, milliseconds)
-
-
-def last_reply_of(words):
-    """A run of a program, and the time from the last datagram of a unit to its end."""
-    listener = LastReply()
-    run = successful(words)
-    listener.end()
-    return run, run.ended - listener.time
 
 
 def apply_many(count):
@@ -393,8 +242,8 @@ def apply_many(count):
             memory.append(run.memory)
     heading(f"{count:,} units, three edits each")
     row("kxctl apply, all of them done", seconds, milliseconds)
-    row("its peak memory", memory, mebibytes)
-    row("kxctl plan: end after the last reply", plans, milliseconds)
+    row("its peak memory", memory, mebibytes, "128 MiB" if count == 10_000 else "")
+    row("kxctl plan: end after the last reply", plans, milliseconds, "3 s" if count == 10_000 else "")
 
 
 LAB = [str(ROOT / "scripts/lab")]

@@ -22,7 +22,7 @@ import subprocess
 import sys
 import tempfile
 
-from command_line import PRIVATE_HOST, network_manager
+from measuring import PRIVATE_HOST, network_manager
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
 LAB = str(ROOT / "scripts/lab")
