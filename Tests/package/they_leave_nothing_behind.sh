@@ -165,10 +165,10 @@ make_old_package() {
     rm -r -- "$scratch/unpacked/DEBIAN"
 }
 
-# Installs packages as a person does.
+# Installs packages as a person does, without what they recommend.
 install_with_apt() {
     local files=("${@/#//packages/}")
-    inside apt-get install -qq --yes --option Dpkg::Use-Pty=0 "${files[@]/%/.deb}"
+    inside apt-get install -qq --yes --no-install-recommends --option Dpkg::Use-Pty=0 "${files[@]/%/.deb}"
 }
 
 kxctl_alone() {
