@@ -4,6 +4,7 @@
 #include "RunFixture.h"
 #include "conversation/BindingRelease.h"
 #include "conversation/RunHistory.h"
+#include "model/RandomSteps.h"
 
 #include <algorithm>
 #include <array>
@@ -123,9 +124,9 @@ protected:
 
     // The number of runs until one of them has ended with everything as wanted.
     template<class Rows>
-    int applyUntilAllIsDone(const Rows& rows) {
-        constexpr int mostRuns = 200;
-        for (int i = 1; i <= mostRuns; ++i) {
+    std::uint32_t applyUntilAllIsDone(const Rows& rows) {
+        constexpr std::uint32_t mostRuns = 200;
+        for (std::uint32_t i = 1; i <= mostRuns; ++i) {
             if (applyOnce(rows())) {
                 return i;
             }
@@ -140,9 +141,9 @@ protected:
 } // namespace
 
 TEST_F(RandomRunsTest, ARunThatIsKilledIsCarriedOnAndTakenBack) {
-    int runs = 0;
-    constexpr int rounds = 500;
-    for (int round = 0; round < rounds; ++round) {
+    std::uint32_t runs = 0;
+    const std::uint32_t rounds = model::fewerWithSanitizers(500);
+    for (std::uint32_t round = 0; round < rounds; ++round) {
         removeUnits();
         addUnits(1, 3 + below(8));
         journal.clear();
