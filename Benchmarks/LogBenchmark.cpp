@@ -1,9 +1,11 @@
 // The event log in the real window: replies with the drawer open and closed, appending to long
 // logs, the memory that long logs take, and opening the drawer on them.
 
+#include "AllocatedBytes.h"
 #include "Comparison.h"
 #include "LogWindow.h"
 #include "ProcessorTime.h"
+#include "UnitDatagrams.h"
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
@@ -125,12 +127,6 @@ BENCHMARK(appendToLongLog)->UseManualTime()->Iterations(2)->Unit(benchmark::kMil
 
 const Comparison appendRow("append to a log of 1,000,000 lines beside one of 100,000, drawer open",
                            "appendToLongLog", "appendToShortLog");
-
-// The bytes that the allocator has given out.
-double allocatedBytes() {
-    const struct mallinfo2 allocated = mallinfo2();
-    return static_cast<double>(allocated.uordblks) + static_cast<double>(allocated.hblkhd);
-}
 
 // Measures the most memory over the second half of the log, including the controller's own copy of
 // the text. A buffer that grows by doubling takes the most memory just after it has grown.
