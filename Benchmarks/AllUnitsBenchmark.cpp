@@ -95,7 +95,7 @@ void openAllUnits(benchmark::State& state) {
 }
 BENCHMARK(openAllUnits)->Iterations(1)->Unit(benchmark::kMillisecond);
 
-const MeasuredRatio openRow("open All Units with 100,000 units, beside 100 ms", "openAllUnits");
+const MeasuredRatio openRow("open All Units with 100,000 units, beside 100 ms", "openAllUnits", 1);
 
 // The slowest of all columns, in both directions.
 void sortAllUnits(benchmark::State& state) {
@@ -117,8 +117,8 @@ void sortAllUnits(benchmark::State& state) {
 }
 BENCHMARK(sortAllUnits)->Iterations(1)->Unit(benchmark::kMillisecond);
 
-const MeasuredRatio sortRow("sort 100,000 units, the slowest column, beside 100 ms",
-                            "sortAllUnits");
+const MeasuredRatio sortRow("sort 100,000 units, the slowest column, beside 100 ms", "sortAllUnits",
+                            1);
 
 // The slowest of the keys of a text that more and more units do not contain.
 void filterAllUnits(benchmark::State& state) {
@@ -143,7 +143,7 @@ void filterAllUnits(benchmark::State& state) {
 BENCHMARK(filterAllUnits)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 const MeasuredRatio filterRow("filter 100,000 units, the slowest key, beside 100 ms",
-                              "filterAllUnits");
+                              "filterAllUnits", 1);
 
 // The longest turn of the event loop, or of a key itself, while units arrive and a person types and
 // sorts.
@@ -179,7 +179,7 @@ void typeWhileUnitsArrive(benchmark::State& state) {
 BENCHMARK(typeWhileUnitsArrive)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 const MeasuredRatio arriveRow("10,000 units arrive at 100,000: longest wait of a key, beside 50 ms",
-                              "typeWhileUnitsArrive");
+                              "typeWhileUnitsArrive", 1);
 
 } // namespace
 

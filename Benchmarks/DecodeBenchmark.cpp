@@ -97,7 +97,7 @@ void decode(benchmark::State& state) {
 BENCHMARK(decode);
 
 const Comparison comparison("decode the 81-byte reply, beside std::string and std::map code",
-                            "decode", "decodePlainly");
+                            "decode", "decodePlainly", 0.10);
 
 } // namespace
 

@@ -1,9 +1,11 @@
 // The event log in the real window: replies with the drawer open and closed, appending to long
 // logs, the memory that long logs take, and opening the drawer on them.
 
+#include "AllocatedBytes.h"
 #include "Comparison.h"
 #include "LogWindow.h"
 #include "ProcessorTime.h"
+#include "UnitDatagrams.h"
 
 #include <benchmark/benchmark.h>
 #include <malloc.h>
@@ -84,7 +86,7 @@ BENCHMARK(longestTurnDuringReplies)->Iterations(1)->Unit(benchmark::kMillisecond
 
 const MeasuredRatio
     longestTurnRow("10,000 replies, drawer open: longest turn of the loop, beside 50 ms",
-                   "longestTurnDuringReplies");
+                   "longestTurnDuringReplies", 1);
 
 // New pages of memory cost more than used ones. Memory left by earlier rounds would be enough only
 // for the shorter log, so both logs get new pages.
@@ -126,12 +128,6 @@ BENCHMARK(appendToLongLog)->UseManualTime()->Iterations(2)->Unit(benchmark::kMil
 const Comparison appendRow("append to a log of 1,000,000 lines beside one of 100,000, drawer open",
                            "appendToLongLog", "appendToShortLog");
 
-// The bytes that the allocator has given out.
-double allocatedBytes() {
-    const struct mallinfo2 allocated = mallinfo2();
-    return static_cast<double>(allocated.uordblks) + static_cast<double>(allocated.hblkhd);
-}
-
 // Measures the most memory over the second half of the log, including the controller's own copy of
 // the text. A buffer that grows by doubling takes the most memory just after it has grown.
 void memoryOfLongLog(benchmark::State& state) {
@@ -155,30 +151,19 @@ void memoryOfLongLog(benchmark::State& state) {
 BENCHMARK(memoryOfLongLog)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 const MeasuredRatio memoryRow("memory of a log of 1,000,000 lines, drawer open, beside its text",
-                              "memoryOfLongLog");
+                              "memoryOfLongLog", 1.3);
 
-// Reports when the first paint of a widget is over.
+// Notes the first paint of a widget, which is over when the turn of the loop is.
 class FirstPaint final : public QObject {
 public:
-    explicit FirstPaint(QObject& widget)
-        : _widget(widget) {
-        widget.installEventFilter(this);
-    }
+    explicit FirstPaint(QObject& widget) { widget.installEventFilter(this); }
 
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::Paint) {
-            _widget.removeEventFilter(this);
-            watched->event(event);
-            isOver = true;
-            return true;
-        }
+    bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+        hasCome = hasCome || event->type() == QEvent::Paint;
         return false;
     }
 
-    bool isOver = false;
-
-private:
-    QObject& _widget;
+    bool hasCome = false;
 };
 
 void openDrawerOnLongLog(benchmark::State& state) {
@@ -190,7 +175,7 @@ void openDrawerOnLongLog(benchmark::State& state) {
         const auto start = Clock::now();
         FirstPaint paint(*window.view().viewport());
         window.controller().logDrawerButton();
-        while (!paint.isOver) {
+        while (!paint.hasCome) {
             QApplication::processEvents(QEventLoop::WaitForMoreEvents);
         }
         taken = Clock::now() - start;
@@ -201,7 +186,7 @@ BENCHMARK(openDrawerOnLongLog)->Iterations(1)->Unit(benchmark::kMillisecond);
 
 const MeasuredRatio
     openRow("open the drawer on 1,000,000 lines: time to the first paint, beside 200 ms",
-            "openDrawerOnLongLog");
+            "openDrawerOnLongLog", 1);
 
 } // namespace
 

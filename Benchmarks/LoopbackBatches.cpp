@@ -1,42 +1,9 @@
 #include "LoopbackBatches.h"
 
-#include <arpa/inet.h>
-#include <netinet/in.h>
-#include <sys/socket.h>
-#include <unistd.h>
-
+#include <algorithm>
 #include <chrono>
 
 namespace kx {
-
-namespace {
-
-// Sends from its own socket to the port on loopback.
-class Sender {
-public:
-    Sender()
-        : _socket(::socket(AF_INET, SOCK_DGRAM | SOCK_CLOEXEC, 0)) {
-        _address.sin_family = AF_INET;
-        _address.sin_port = htons(port);
-        _address.sin_addr.s_addr = htonl(loopbackAddress);
-    }
-    ~Sender() { ::close(_socket); }
-    Sender(const Sender&) = delete;
-    Sender& operator=(const Sender&) = delete;
-
-    void sendBatch(const Bytes& datagram) const {
-        for (int i = 0; i < batch; ++i) {
-            ::sendto(_socket, datagram.data(), datagram.size(), 0,
-                     reinterpret_cast<const sockaddr*>(&_address), sizeof _address);
-        }
-    }
-
-private:
-    int _socket;
-    sockaddr_in _address{};
-};
-
-} // namespace
 
 void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch) {
     timeBatchesBy(state, [&] {
@@ -48,12 +15,24 @@ void timeBatches(benchmark::State& state, const std::function<void()>& receiveBa
 
 void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch,
                    const Bytes& datagram) {
-    const Sender sender;
+    const std::vector<LoopbackDatagram> datagrams(batch, {.data = datagram});
     for (auto _ : state) {
-        sender.sendBatch(datagram);
-        state.SetIterationTime(receiveBatch());
+        state.SetIterationTime(secondsInBatches(datagrams, [&](int) { return receiveBatch(); }));
     }
     state.SetItemsProcessed(state.iterations() * batch);
+}
+
+double secondsInBatches(std::span<const LoopbackDatagram> datagrams,
+                        const std::function<double(int count)>& receive) {
+    const LoopbackSender sender;
+    double seconds = 0;
+    while (!datagrams.empty()) {
+        const auto next = datagrams.first(std::min<std::size_t>(batch, datagrams.size()));
+        sender.send(next);
+        seconds += receive(static_cast<int>(next.size()));
+        datagrams = datagrams.subspan(next.size());
+    }
+    return seconds;
 }
 
 } // namespace kx

@@ -4,19 +4,17 @@
 
 #pragma once
 
-#include "support/ByteRange.h"
+#include "LoopbackSender.h"
 
 #include <benchmark/benchmark.h>
 
-#include <cstdint>
 #include <functional>
+#include <span>
 
 namespace kx {
 
 inline constexpr int batch = 128;
 inline constexpr std::size_t datagramLength = 81; // length of a unit's reply
-inline constexpr std::uint16_t port = 35200;
-inline constexpr std::uint32_t loopbackAddress = 0x7F000001;
 
 // Times `receiveBatch`, which returns when a whole batch has arrived at `port`.
 void timeBatches(benchmark::State& state, const std::function<void()>& receiveBatch);
@@ -25,5 +23,10 @@ void timeBatches(benchmark::State& state, const std::function<void()>& receiveBa
 // took. Every datagram of the batch is `datagram`.
 void timeBatchesBy(benchmark::State& state, const std::function<double()>& receiveBatch,
                    const Bytes& datagram = Bytes(datagramLength));
+
+// Sends the datagrams batch by batch. `receive` returns when so many have arrived, with the seconds
+// that it took; the result is their sum.
+double secondsInBatches(std::span<const LoopbackDatagram> datagrams,
+                        const std::function<double(int count)>& receive);
 
 } // namespace kx

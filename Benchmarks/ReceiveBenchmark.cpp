@@ -133,15 +133,15 @@ void receiveOnQtLoop(benchmark::State& state) {
 BENCHMARK(receiveOnQtLoop)->UseManualTime();
 
 const Comparison pollComparison("receive through the endpoint on the poll loop, beside bare epoll",
-                                "receiveOnPollLoop", "receiveBare");
+                                "receiveOnPollLoop", "receiveBare", 0.6);
 const Comparison qtComparison("receive through the endpoint on the Qt loop, beside bare epoll",
-                              "receiveOnQtLoop", "receiveBare");
+                              "receiveOnQtLoop", "receiveBare", 0.6);
 const Comparison pollWithoutLink(
     "receive through the endpoint on the poll loop, beside bare epoll without the link",
-    "receiveOnPollLoop", "receiveBareWithoutLink");
+    "receiveOnPollLoop", "receiveBareWithoutLink", 0.6);
 const Comparison
     qtWithoutLink("receive through the endpoint on the Qt loop, beside bare epoll without the link",
-                  "receiveOnQtLoop", "receiveBareWithoutLink");
+                  "receiveOnQtLoop", "receiveBareWithoutLink", 0.6);
 const Comparison linkComparison("receive on bare epoll with the link, beside without",
                                 "receiveBare", "receiveBareWithoutLink");
 

@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdio>
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,7 @@ struct Row {
     std::string what;
     std::string ours;
     std::string reference; // empty when `ours` finds the ratio itself
+    std::optional<double> goal;
 };
 
 std::vector<Row>& rows() {
@@ -87,25 +89,35 @@ private:
     std::map<std::string, std::vector<double>> _ratios;
 };
 
+std::string textOfGoal(const std::optional<double>& goal) {
+    std::array<char, 32> text{};
+    if (goal.has_value()) {
+        std::snprintf(text.data(), text.size(), "%g", *goal);
+    }
+    return text.data();
+}
+
 void printTable(const RepetitionReporter& reporter) {
-    std::printf("\n| What | Median ratio | Least | Most |\n|---|---|---|---|\n");
+    std::printf("\n| What | Goal | Median ratio | Least | Most |\n|---|---|---|---|---|\n");
     for (const Row& row : rows()) {
         const auto ratios = reporter.ratios(row);
         if (!ratios.empty()) {
-            std::printf("| %s | %.2f | %.2f | %.2f |\n", row.what.c_str(),
-                        ratios[ratios.size() / 2], ratios.front(), ratios.back());
+            std::printf("| %s | %s | %.2f | %.2f | %.2f |\n", row.what.c_str(),
+                        textOfGoal(row.goal).c_str(), ratios[ratios.size() / 2], ratios.front(),
+                        ratios.back());
         }
     }
 }
 
 } // namespace
 
-Comparison::Comparison(std::string what, std::string ours, std::string reference) {
-    rows().push_back({std::move(what), std::move(ours), std::move(reference)});
+Comparison::Comparison(std::string what, std::string ours, std::string reference,
+                       std::optional<double> goal) {
+    rows().push_back({std::move(what), std::move(ours), std::move(reference), goal});
 }
 
-MeasuredRatio::MeasuredRatio(std::string what, std::string benchmark) {
-    rows().push_back({std::move(what), std::move(benchmark), {}});
+MeasuredRatio::MeasuredRatio(std::string what, std::string benchmark, std::optional<double> goal) {
+    rows().push_back({std::move(what), std::move(benchmark), {}, goal});
 }
 
 } // namespace kx
