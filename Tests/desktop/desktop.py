@@ -4,6 +4,7 @@ accessibility bus, and with keyboard and mouse.
 Functions that wait do so for twenty seconds at most, and fail when the wait was in vain.
 """
 
+import contextlib
 import os
 import subprocess
 import time
@@ -96,11 +97,20 @@ def perform(accessible, action):
 def press(combination):
     """Presses a key with the modifiers that are named before it, as in "Ctrl+Shift+Return"."""
     *modifiers, key = combination.split("+")
-    for modifier in modifiers:
-        Atspi.generate_keyboard_event(MODIFIERS[modifier], None, Atspi.KeySynthType.PRESS)
-    Atspi.generate_keyboard_event(KEYS.get(key) or ord(key), None, Atspi.KeySynthType.SYM)
-    for modifier in modifiers:
-        Atspi.generate_keyboard_event(MODIFIERS[modifier], None, Atspi.KeySynthType.RELEASE)
+    with held(*(MODIFIERS[modifier] for modifier in modifiers)):
+        Atspi.generate_keyboard_event(KEYS.get(key) or ord(key), None, Atspi.KeySynthType.SYM)
+
+
+@contextlib.contextmanager
+def held(*codes):
+    """Holds the keys with these codes down."""
+    for code in codes:
+        Atspi.generate_keyboard_event(code, None, Atspi.KeySynthType.PRESS)
+    try:
+        yield
+    finally:
+        for code in codes:
+            Atspi.generate_keyboard_event(code, None, Atspi.KeySynthType.RELEASE)
 
 
 def type_text(text):
@@ -145,6 +155,9 @@ class Application:
         """Closes the window with the keyboard, and returns the exit status."""
         press("Ctrl+q")
         return self._process.wait(PATIENCE_IN_SECONDS)
+
+    def process_id(self):
+        return self._process.pid
 
     def order_to_end(self):
         """Tells the program to end, as the end of a session does, and returns the exit status."""

@@ -10,11 +10,13 @@
 #   there. Programs on this desktop tell the accessibility bus what they show, as they do when a
 #   screen reader runs. Nothing of it is left when the command has ended.
 #
-#   It needs dbus-daemon, at-spi2-core, openbox and xvfb. The network is the caller's: run it inside
-#   scripts/lab for a private one with units.
+#   It needs dbus-daemon, at-spi2-core, openbox and xvfb, and weston for Wayland. The network is the
+#   caller's: run it inside scripts/lab for a private one with units.
 #
 # OPTIONS
 #   --screen SIZE    the size of the screen; default 1366x768
+#   --wayland        a Wayland compositor fills the screen, and programs show themselves there; it takes
+#                    the keys that the X server gets, and answers weston-debug and weston-screenshooter
 #   --help           this text
 #
 # EXIT STATUS
@@ -36,7 +38,7 @@ die() {
 
 end_desktop() {
     local pid
-    for pid in ${manager_pid:-} ${server_pid:-}; do
+    for pid in ${compositor_pid:-} ${manager_pid:-} ${server_pid:-}; do
         kill -TERM "$pid" 2>/dev/null || true
         wait "$pid" 2>/dev/null || true
     done
@@ -64,7 +66,22 @@ start_manager() {
     die "$failed" "no window manager: $(<"$scratch/manager")"
 }
 
-screen=1366x768
+# Programs look for this socket when WAYLAND_DISPLAY names none. A test must not have that variable,
+# because with it the bindings of the accessibility bus crash at the first key.
+start_compositor() {
+    local tenths
+    setpriv --pdeathsig TERM weston --backend=x11-backend.so --use-pixman --no-config --debug --idle-time=0 \
+        --fullscreen --width="${screen%x*}" --height="${screen#*x}" --socket=wayland-0 \
+        >"$scratch/compositor" 2>&1 &
+    compositor_pid=$!
+    for ((tenths = 0; tenths < tenths_to_ready; tenths++)); do
+        [[ ! -S $scratch/wayland-0 ]] || return 0
+        sleep 0.1
+    done
+    die "$failed" "no compositor: $(<"$scratch/compositor")"
+}
+
+screen=1366x768 platform=xcb
 while (($# > 0)); do
     case $1 in
     --help)
@@ -76,6 +93,7 @@ while (($# > 0)); do
         screen=$2
         shift
         ;;
+    --wayland) platform=wayland ;;
     --)
         shift
         break
@@ -95,7 +113,8 @@ export HOME=$scratch XDG_RUNTIME_DIR=$scratch
 unset XDG_CONFIG_HOME XDG_CACHE_HOME XDG_DATA_HOME WAYLAND_DISPLAY DBUS_SESSION_BUS_ADDRESS
 start_server
 start_manager
-export QT_QPA_PLATFORM=xcb QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+[[ $platform != wayland ]] || start_compositor
+export QT_QPA_PLATFORM=$platform QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
 status=0
 dbus-run-session -- "$@" || status=$?
 exit "$status"

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -208,6 +209,61 @@ TEST_F(KeyboardTest, AnOpenListIsChosenFromWithArrowAndReturn) {
     EXPECT_EQ(selected("unitSelectPopUp"), "01 02 03 04 05 07");
     EXPECT_EQ(control<QLineEdit>("unitIDField").text(), "43");
     EXPECT_EQ(newlySent(), Texts{}); // Return must not press a button behind the list
+}
+
+// As on Wayland: the key is announced to the list, which it closes, and then comes to the pop-up.
+TEST_F(KeyboardTest, TheKeyThatClosesTheListOfAPopUpDoesNothingMoreUntilItIsReleased) {
+    launchWithTwoUnits();
+    newlySent();
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    const auto send = [](QObject& receiver, QEvent::Type type, Qt::Key key, bool isRepeated) {
+        QKeyEvent event(type, key, Qt::NoModifier, QString(), isRepeated);
+        QApplication::sendEvent(&receiver, &event);
+    };
+    units.setFocus();
+    units.showPopup();
+    units.view()->setCurrentIndex(units.model()->index(1, 0));
+    send(*units.view(), QEvent::ShortcutOverride, Qt::Key_Return, false);
+    send(units, QEvent::KeyPress, Qt::Key_Return, false);
+    send(units, QEvent::KeyRelease, Qt::Key_Return, true);
+    send(units, QEvent::KeyPress, Qt::Key_Return, true);
+    EXPECT_EQ(selected("unitSelectPopUp"), "01 02 03 04 05 07");
+    EXPECT_EQ(newlySent(), Texts{});
+    send(units, QEvent::KeyRelease, Qt::Key_Return, false);
+
+    units.showPopup();
+    send(*units.view(), QEvent::ShortcutOverride, Qt::Key_F4, false);
+    send(units, QEvent::KeyPress, Qt::Key_F4, false);
+    send(units, QEvent::KeyRelease, Qt::Key_F4, false);
+    EXPECT_FALSE(units.view()->isVisible());
+
+    send(units, QEvent::KeyPress, Qt::Key_Return, false);
+    EXPECT_EQ(newlySent(), Texts{"^^IdX"});
+}
+
+TEST_F(KeyboardTest, AReleaseInTheListOrAnotherControlEndsTheKeyOfAList) {
+    launchWithTwoUnits();
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    const auto hearReturn = [&](QObject& receiver, QEvent::Type type) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&receiver, &event);
+    };
+    units.setFocus();
+    units.showPopup();
+    hearReturn(*units.view(), QEvent::ShortcutOverride);
+    hearReturn(*units.view(), QEvent::KeyRelease);
+    newlySent();
+    hearReturn(units, QEvent::KeyPress);
+    EXPECT_EQ(newlySent(), Texts{"^^IdX"});
+
+    control<QWidget>("udpPortPopUp").setFocus();
+    control<QComboBox>("udpPortPopUp").showPopup();
+    hearReturn(*control<QComboBox>("udpPortPopUp").view(), QEvent::ShortcutOverride);
+    control<QWidget>("optionCommandField").setFocus();
+    control<QWidget>("udpPortPopUp").setFocus();
+    newlySent();
+    hearReturn(control<QObject>("udpPortPopUp"), QEvent::KeyPress);
+    EXPECT_EQ(newlySent(), Texts{"^^IdX"});
 }
 
 TEST_F(KeyboardTest, ArrowsChooseInAClosedPopUp) {

@@ -1,5 +1,6 @@
 #include "platform/qt/QtDrawer.h"
 
+#include <QGuiApplication>
 #include <QLayout>
 #include <QScreen>
 #include <QStyle>
@@ -7,6 +8,20 @@
 #include <utility>
 
 namespace kx {
+
+namespace {
+
+// How much taller the window may become. Wayland tells no program where its windows are, and puts
+// most of them in the middle or higher.
+int roomBelow(const QWidget& window) {
+    const QRect screen = window.screen()->availableGeometry();
+    const QRect framed = window.frameGeometry();
+    return QGuiApplication::platformName().startsWith("wayland")
+               ? (screen.height() - framed.height()) / 2
+               : screen.bottom() - framed.bottom();
+}
+
+} // namespace
 
 QtDrawer::QtDrawer(QSplitter& splitter, QWidget& content, QWidget& drawer, QWidget& panel)
     : _splitter(splitter)
@@ -87,10 +102,8 @@ void QtDrawer::slid() {
 void QtDrawer::makeRoom() {
     QWidget* window = _drawer.window();
     const bool canGrow = window->isVisible() && !window->isMaximized() && !window->isFullScreen();
-    const int room =
-        window->screen()->availableGeometry().bottom() - window->frameGeometry().bottom();
     const int wanted = _height + _splitter.handleWidth();
-    _grownBy = canGrow ? std::clamp(room, 0, wanted) : 0;
+    _grownBy = canGrow ? std::clamp(roomBelow(*window), 0, wanted) : 0;
 
     const int panes = _splitter.height() + _grownBy - _splitter.handleWidth();
     const int spare = panes - _content.minimumSizeHint().height();

@@ -7,7 +7,7 @@ namespace kx {
 void RefreshedComboBox::showPopup() {
     emit aboutToOpen();
     if (isEnabled()) {
-        QComboBox::showPopup();
+        PopUpComboBox::showPopup();
     }
 }
 
@@ -15,7 +15,7 @@ bool RefreshedComboBox::event(QEvent* event) {
     if (event->type() == QEvent::MouseButtonPress && !isEnabled()) {
         emit aboutToOpen();
     }
-    return QComboBox::event(event);
+    return PopUpComboBox::event(event);
 }
 
 } // namespace kx

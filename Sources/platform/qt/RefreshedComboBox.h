@@ -6,15 +6,15 @@
 
 #pragma once
 
-#include <QComboBox>
+#include "platform/qt/PopUpComboBox.h"
 
 namespace kx {
 
-class RefreshedComboBox final : public QComboBox {
+class RefreshedComboBox final : public PopUpComboBox {
     Q_OBJECT
 
 public:
-    using QComboBox::QComboBox;
+    using PopUpComboBox::PopUpComboBox;
 
     // Does not open the list when the receiver of aboutToOpen() has disabled the combo box.
     void showPopup() override;

@@ -1,0 +1,46 @@
+#include "platform/qt/PopUpComboBox.h"
+
+#include <QAbstractItemView>
+#include <QKeyEvent>
+
+namespace kx {
+
+void PopUpComboBox::showPopup() {
+    QComboBox::showPopup();
+    view()->installEventFilter(this);
+}
+
+bool PopUpComboBox::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::ShortcutOverride) {
+        _keyOfList = static_cast<QKeyEvent*>(event)->key();
+    } else if (event->type() == QEvent::KeyRelease) {
+        noteRelease(*static_cast<QKeyEvent*>(event));
+    }
+    return QComboBox::eventFilter(watched, event);
+}
+
+void PopUpComboBox::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == _keyOfList) {
+        event->accept();
+        return;
+    }
+    QComboBox::keyPressEvent(event);
+}
+
+void PopUpComboBox::keyReleaseEvent(QKeyEvent* event) {
+    noteRelease(*event);
+    QComboBox::keyReleaseEvent(event);
+}
+
+void PopUpComboBox::focusOutEvent(QFocusEvent* event) {
+    _keyOfList = 0;
+    QComboBox::focusOutEvent(event);
+}
+
+void PopUpComboBox::noteRelease(const QKeyEvent& event) {
+    if (!event.isAutoRepeat()) {
+        _keyOfList = 0;
+    }
+}
+
+} // namespace kx
