@@ -17,6 +17,12 @@ if(KX_JOIN)
     add_compile_options($<$<NOT:$<CONFIG:Release>>:-g1>)
 endif()
 
+# The tests count lines too, because they compile the inline functions of the headers once more.
+if(KX_COUNT_LINES)
+    add_compile_options(--coverage -fprofile-abs-path)
+    add_link_options(--coverage)
+endif()
+
 add_library(kxwarnings INTERFACE)
 target_compile_options(kxwarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion
