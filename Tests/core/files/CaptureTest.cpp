@@ -11,11 +11,15 @@ namespace kx {
 
 namespace {
 
-std::uint32_t wordAt(const Bytes& bytes, std::size_t offset) {
-    std::uint32_t word = 0;
-    std::memcpy(&word, bytes.data() + offset, sizeof word);
-    return word;
+// Numbers are in the byte order of the host.
+template<class Number>
+Number numberAt(const Bytes& bytes, std::size_t offset) {
+    Number number = 0;
+    std::memcpy(&number, bytes.data() + offset, sizeof number);
+    return number;
 }
+
+constexpr auto wordAt = numberAt<std::uint32_t>;
 
 const CapturedDatagram sample{.time = std::chrono::microseconds(0x0001'0000'0002),
                               .isOwn = true,
@@ -40,7 +44,7 @@ TEST(Capture, BlocksTellTheirLengthAtBothEnds) {
     EXPECT_EQ(wordAt(header, 0), 0x0A0D0D0AU);
     EXPECT_EQ(wordAt(header, first - 4), first);
     EXPECT_EQ(wordAt(header, first), 1U);
-    EXPECT_EQ(wordAt(header, first + 8) & 0xFFFFU, 228U);
+    EXPECT_EQ(numberAt<std::uint16_t>(header, first + 8), 228U);
     EXPECT_EQ(first + wordAt(header, first + 4), header.size());
 
     const Bytes block = capturedDatagram(sample, fiveBytes);
