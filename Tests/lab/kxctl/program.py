@@ -132,7 +132,8 @@ def commands_heard(since=0):
     return [(unit, text) for unit, address, port, text in heard()[since:] if text != "^^IdX"]
 
 
-def eventually(condition, patience=5):
+def eventually(condition, patience=20):
+    """Whether it becomes true. The patience is for a machine with much other work."""
     deadline = time.monotonic() + patience
     while not condition():
         if time.monotonic() > deadline:
@@ -147,7 +148,7 @@ def restore_units():
     with socket.socket(socket.AF_INET, socket.SOCK_DGRAM) as sender:
         sender.setsockopt(socket.SOL_SOCKET, socket.SO_BROADCAST, 1)
         sender.sendto(b"^^IdZ", ("192.0.2.255", 3520))
-    if not eventually(lambda: len(commands_heard(before)) >= 3, 20):
+    if not eventually(lambda: len(commands_heard(before)) >= 3):
         raise AssertionError("the units were not restored")
 
 

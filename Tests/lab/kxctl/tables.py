@@ -25,7 +25,7 @@ def unit_states(count=3):
     def told():
         text = path.read_bytes()[begin:].decode("latin-1")
         return [line for line in text.split("\n")[:-1] if line.startswith("state ")]
-    if not eventually(lambda: len(told()) >= count, 20):
+    if not eventually(lambda: len(told()) >= count):
         raise AssertionError("the units do not tell their states")
     found = {}
     for line in told():
