@@ -33,13 +33,13 @@ void PopUpComboBox::keyReleaseEvent(QKeyEvent* event) {
 }
 
 void PopUpComboBox::focusOutEvent(QFocusEvent* event) {
-    _keyOfList = 0;
+    _keyOfList.reset();
     QComboBox::focusOutEvent(event);
 }
 
 void PopUpComboBox::noteRelease(const QKeyEvent& event) {
     if (!event.isAutoRepeat()) {
-        _keyOfList = 0;
+        _keyOfList.reset();
     }
 }
 

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <optional>
 
 namespace kx {
 
@@ -30,7 +31,7 @@ protected:
 private:
     void noteRelease(const QKeyEvent& event);
 
-    int _keyOfList = 0; // the held key that was announced to the list last, 0 without one
+    std::optional<int> _keyOfList; // the held key that was announced to the list last
 };
 
 } // namespace kx

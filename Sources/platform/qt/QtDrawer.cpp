@@ -9,19 +9,10 @@
 
 namespace kx {
 
-namespace {
-
-// How much taller the window may become. Wayland tells no program where its windows are, and puts
-// most of them in the middle or higher.
-int roomBelow(const QWidget& window) {
-    const QRect screen = window.screen()->availableGeometry();
-    const QRect framed = window.frameGeometry();
-    return QGuiApplication::platformName().startsWith("wayland")
-               ? (screen.height() - framed.height()) / 2
-               : screen.bottom() - framed.bottom();
+int roomBelow(const QRect& window, const QRect& screen, bool isPlaceTold) {
+    return isPlaceTold ? screen.bottom() - window.bottom()
+                       : (screen.height() - window.height()) / 2;
 }
-
-} // namespace
 
 QtDrawer::QtDrawer(QSplitter& splitter, QWidget& content, QWidget& drawer, QWidget& panel)
     : _splitter(splitter)
@@ -103,7 +94,9 @@ void QtDrawer::makeRoom() {
     QWidget* window = _drawer.window();
     const bool canGrow = window->isVisible() && !window->isMaximized() && !window->isFullScreen();
     const int wanted = _height + _splitter.handleWidth();
-    _grownBy = canGrow ? std::clamp(roomBelow(*window), 0, wanted) : 0;
+    const int room = roomBelow(window->frameGeometry(), window->screen()->availableGeometry(),
+                               !QGuiApplication::platformName().startsWith("wayland"));
+    _grownBy = canGrow ? std::clamp(room, 0, wanted) : 0;
 
     const int panes = _splitter.height() + _grownBy - _splitter.handleWidth();
     const int spare = panes - _content.minimumSizeHint().height();

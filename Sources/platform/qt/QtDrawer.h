@@ -11,11 +11,18 @@
 
 #include "Outlets.h"
 
+#include <QRect>
 #include <QSplitter>
 #include <QVariantAnimation>
 #include <functional>
 
 namespace kx {
+
+// How much taller a window may become without leaving the screen below, in device-independent
+// pixels; less than 0 when it is below already. Wayland tells no program where its windows are, and
+// puts most of them in the middle or higher. There the place is not told, and half of what the
+// screen has more than the window is the answer.
+int roomBelow(const QRect& window, const QRect& screen, bool isPlaceTold);
 
 class QtDrawer final : public Drawer {
 public:
