@@ -102,10 +102,11 @@ def included_by(folder, text):
 
 
 class Program:
-    """A program of tests, and the tests of CTest that run it. A faulty program can take its place in them."""
+    """A program of tests, and the tests of CTest that run it. A faulty program can take its place in them.
+    `linked_anew` makes the program once more without any fault, in another folder as the faulty ones."""
 
-    def __init__(self, path, descriptions, end):
-        self.path, self._end = str(path), end
+    def __init__(self, path, descriptions, linked_anew, end):
+        self.path, self._linked_anew, self._end = str(path), functools.cache(linked_anew), end
         self._runs = [each for each in descriptions if self.path in each.get("command", [])]
         self._wholes = [each for each in self._runs if not any("--gtest_filter" in word for word in each["command"])]
         self._seconds, self._lock = {}, threading.Lock()
@@ -119,7 +120,7 @@ class Program:
         with self._lock:
             if suites not in self._seconds:
                 begun = time.monotonic()
-                failed = self._first_failing(self.path, suites, 600)
+                failed = self._first_failing(self._linked_anew(), suites, 600)
                 if failed:
                     raise SystemExit(f"mutation: without any fault {failed} fails in {self.path}")
                 self._seconds[suites] = 20 + 4 * (time.monotonic() - begun)
@@ -165,7 +166,9 @@ class Build:
                                  stdout=subprocess.PIPE, check=True)
         descriptions = json.loads(listing.stdout)["tests"]
         self.end = time.monotonic() + seconds
-        self._programs = {name: Program(self.folder / "bin" / name, descriptions, self.end) for name in PROGRAMS}
+        self._anew = tempfile.TemporaryDirectory()
+        self._programs = {name: Program(self.folder / "bin" / name, descriptions, functools.partial(
+            self.link, name, {}, pathlib.Path(self._anew.name) / name), self.end) for name in PROGRAMS}
         entries = json.loads((self.folder / "compile_commands.json").read_text(encoding="utf-8"))
         self._commands = {re.search(r" -o (\S+)", each["command"])[1]: each for each in entries}
         self._readers = self._objects_by_file()
@@ -243,8 +246,12 @@ class Build:
         return name in words or any(word.endswith(f"/lib{library}.a") for word in words)
 
     def link(self, program, objects, scratch):
-        """Links a program with other objects. An object in front is taken instead of that in a library."""
-        result = scratch / program
+        """Links a program with other objects. An object in front is taken instead of that in a library. The program
+        finds its resources beside its own folder, as in the build."""
+        result = scratch / "bin" / program
+        result.parent.mkdir(parents=True, exist_ok=True)
+        if not (scratch / "share").exists():
+            (scratch / "share").symlink_to(self.folder / "share")
         words = list(self._link_command(program))
         for name, file in objects.items():
             if name in words:
