@@ -241,6 +241,27 @@ TEST_F(KeyboardTest, TheKeyThatClosesTheListOfAPopUpDoesNothingMoreUntilItIsRele
     EXPECT_EQ(newlySent(), Texts{"^^IdX"});
 }
 
+TEST_F(KeyboardTest, APopUpThatLosesTheKeyboardIsPaintedAnew) {
+    class PaintCount final : public QObject {
+    public:
+        int count = 0;
+
+    protected:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+            count += event->type() == QEvent::Paint ? 1 : 0;
+            return false;
+        }
+    };
+    launchWithTwoUnits();
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    units.setFocus();
+    QCoreApplication::processEvents();
+    PaintCount paints;
+    units.installEventFilter(&paints);
+    control<QWidget>("optionCommandField").setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return paints.count > 0; }, 1000));
+}
+
 TEST_F(KeyboardTest, AReleaseInTheListOrAnotherControlEndsTheKeyOfAList) {
     launchWithTwoUnits();
     auto& units = control<QComboBox>("unitSelectPopUp");
