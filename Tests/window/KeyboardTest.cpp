@@ -241,6 +241,24 @@ TEST_F(KeyboardTest, TheKeyThatClosesTheListOfAPopUpDoesNothingMoreUntilItIsRele
     EXPECT_EQ(newlySent(), Texts{"^^IdX"});
 }
 
+TEST_F(KeyboardTest, TheKeyThatClosedAListCountsAgainOnceItWasReleased) {
+    launchWithTwoUnits();
+    auto& units = control<QComboBox>("unitSelectPopUp");
+    const auto hearReturn = [](QObject& receiver, QEvent::Type type) {
+        QKeyEvent event(type, Qt::Key_Return, Qt::NoModifier);
+        QApplication::sendEvent(&receiver, &event);
+    };
+    units.setFocus();
+    units.showPopup();
+    hearReturn(*units.view(), QEvent::ShortcutOverride);
+    newlySent();
+    hearReturn(units, QEvent::KeyPress);
+    EXPECT_EQ(newlySent(), Texts{});
+    hearReturn(units, QEvent::KeyRelease);
+    hearReturn(units, QEvent::KeyPress);
+    EXPECT_EQ(newlySent(), Texts{"^^IdX"});
+}
+
 TEST_F(KeyboardTest, APopUpThatLosesTheKeyboardIsPaintedAnew) {
     class PaintCount final : public QObject {
     public:

@@ -20,11 +20,9 @@ bool PopUpComboBox::eventFilter(QObject* watched, QEvent* event) {
 }
 
 void PopUpComboBox::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == _keyOfList) {
-        event->accept();
-        return;
+    if (event->key() != _keyOfList) {
+        QComboBox::keyPressEvent(event);
     }
-    QComboBox::keyPressEvent(event);
 }
 
 void PopUpComboBox::keyReleaseEvent(QKeyEvent* event) {
