@@ -16,7 +16,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 PATIENCE_IN_SECONDS = 20.0
 
-KEYS = {"Tab": 0xFF09, "Return": 0xFF0D, "Escape": 0xFF1B, "Down": 0xFF54, "F1": 0xFFBE}
+KEYS = {"Tab": 0xFF09, "Return": 0xFF0D, "Escape": 0xFF1B, "Down": 0xFF54, "End": 0xFF57, "F1": 0xFFBE}
 MODIFIERS = {"Shift": 50, "Ctrl": 37, "Alt": 64}  # key codes
 
 
