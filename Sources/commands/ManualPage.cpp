@@ -49,7 +49,7 @@ std::string lines(std::string_view text) {
     return result;
 }
 
-std::string paragraphs(std::string_view text) {
+std::string manualParagraphs(std::string_view text) {
     std::string result;
     while (!text.empty()) {
         const std::size_t end = text.find("\n\n");
@@ -79,7 +79,7 @@ std::string commandSection(const CommandRow& row) {
     if (!row.arguments.empty()) {
         result += ".I " + escaped(row.arguments) + "\n";
     }
-    result += ".PP\n" + paragraphs(row.text);
+    result += ".PP\n" + manualParagraphs(row.text);
     result += optionEntries(row.options);
     if (!row.keys.empty()) {
         result += ".PP\nKeys of the document:\n";

@@ -13,7 +13,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::size_t mostRequests = 64; // senders of requests that are kept
+constexpr std::size_t mostRequestSenders = 64; // those that are kept
 
 std::string_view textOf(ByteView datagram) {
     return {reinterpret_cast<const char*>(datagram.data()), datagram.size()};
@@ -168,7 +168,7 @@ bool ListenerWitness::isOfOtherListener(ByteView datagram, const Sender& sender)
 void ListenerWitness::noteDatagram(ByteView datagram, const DatagramOrigin& origin) {
     const Sender sender = senderOf(origin.sender);
     if (textOf(datagram) == parameterRequestCommand) {
-        if (_requests.size() < mostRequests) {
+        if (_requests.size() < mostRequestSenders) {
             _requests.insert(sender);
         }
     } else if (!looksLikeAnswer(datagram)) {

@@ -13,17 +13,14 @@ namespace kx {
 
 namespace {
 
-std::optional<Error> latestError() {
-    return posixError(errno);
-}
-
 // The folder has the file's name.
 std::optional<Error> syncFolderOf(const std::string& path) {
     std::error_code failure;
     const auto file = std::filesystem::canonical(path, failure);
     const FileDescriptor folder(
         ::open(file.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return folder.number() < 0 || ::fsync(folder.number()) != 0 ? latestError() : std::nullopt;
+    const bool isDone = folder.number() >= 0 && ::fsync(folder.number()) == 0;
+    return isDone ? std::nullopt : std::optional(posixError(errno));
 }
 
 } // namespace
@@ -33,7 +30,7 @@ std::optional<Error> AppendedFile::begin(const std::string& path, std::string_vi
         return error;
     }
     _file = FileDescriptor(::open(path.c_str(), O_WRONLY | O_APPEND | O_CLOEXEC | O_NOCTTY));
-    _failure = _file.number() < 0 ? latestError() : syncFolderOf(path);
+    _failure = _file.number() < 0 ? posixError(errno) : syncFolderOf(path);
     return _failure;
 }
 
@@ -43,11 +40,11 @@ std::optional<Error> AppendedFile::append(std::string_view text) {
         if (count >= 0) {
             text.remove_prefix(static_cast<std::size_t>(count));
         } else if (errno != EINTR) {
-            _failure = latestError();
+            _failure = posixError(errno);
         }
     }
     if (!_failure.has_value() && ::fdatasync(_file.number()) != 0) {
-        _failure = latestError();
+        _failure = posixError(errno);
     }
     return _failure;
 }

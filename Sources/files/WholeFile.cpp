@@ -1,5 +1,7 @@
 #include "files/WholeFile.h"
 
+#include "support/Pipe.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -13,25 +15,6 @@
 namespace kx {
 
 namespace {
-
-// Closes its descriptor at the end.
-class Descriptor {
-public:
-    explicit Descriptor(int descriptor)
-        : _descriptor(descriptor) {}
-    ~Descriptor() {
-        if (_descriptor >= 0) {
-            ::close(_descriptor);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return _descriptor; }
-
-private:
-    int _descriptor;
-};
 
 std::optional<Error> latestError() {
     return posixError(errno);
@@ -143,9 +126,9 @@ std::optional<Error> writeAll(int descriptor, std::string_view text) {
 
 std::variant<std::string, Error> contentsOfFile(const std::string& path, std::size_t mostBytes) {
     // Without O_NONBLOCK a pipe would wait for a writer.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
     struct stat status {};
-    if (file.get() < 0 || ::fstat(file.get(), &status) != 0) {
+    if (file.number() < 0 || ::fstat(file.number(), &status) != 0) {
         return posixError(errno);
     }
     if (!S_ISREG(status.st_mode)) {
@@ -154,7 +137,7 @@ std::variant<std::string, Error> contentsOfFile(const std::string& path, std::si
     std::string contents;
     std::array<char, 65'536> buffer{};
     for (;;) {
-        const ssize_t count = ::read(file.get(), buffer.data(), buffer.size());
+        const ssize_t count = ::read(file.number(), buffer.data(), buffer.size());
         if (count == 0) {
             return contents;
         }
@@ -195,7 +178,7 @@ std::optional<Error> replaceFile(const std::string& path, std::string_view text)
     if (file.descriptor < 0) {
         return latestError();
     }
-    const Descriptor closesItself(file.descriptor);
+    const FileDescriptor closesItself(file.descriptor);
     takeOverPermissions(target, file.descriptor);
     auto error = writeAll(file.descriptor, text);
     if (!error.has_value()) {

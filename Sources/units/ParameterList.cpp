@@ -47,10 +47,10 @@ constexpr std::array<std::uint8_t, 256> itemForLetter = [] {
     return indexes;
 }();
 
-constexpr std::size_t tagLength = 3;
+constexpr std::size_t itemTagLength = 3;
 
 const Item* itemAtFrontOf(ByteView list) {
-    if (list.size() < tagLength || list[0] != '<' || list[2] != '>') {
+    if (list.size() < itemTagLength || list[0] != '<' || list[2] != '>') {
         return nullptr;
     }
     const std::size_t index = itemForLetter[list[1]];
@@ -112,12 +112,12 @@ DecodedUnitParameters decodeUnitParameters(ByteView list) {
     DecodedUnitParameters decoded;
     decoded.items.reserve(itemCount);
     while (const Item* item = itemAtFrontOf(list)) {
-        const ByteView value = subrange(list, tagLength, item->valueLength);
+        const ByteView value = subrange(list, itemTagLength, item->valueLength);
         writeValue(item->form, value, decoded.items.emplace_back(item->parameter).text);
         if (item->form == ValueForm::unitID) {
             takeUnitID(value, decoded);
         }
-        list = list.subspan(tagLength + item->valueLength);
+        list = list.subspan(itemTagLength + item->valueLength);
     }
     for (const ToldParameter& told : decoded.items) {
         if (told.parameter.has_value()) {

@@ -14,7 +14,7 @@ namespace kx {
 
 namespace {
 
-constexpr auto toolPath = "/usr/sbin/arp";
+constexpr auto arpPath = "/usr/sbin/arp";
 constexpr mode_t executable = 0755;
 
 // A network that is ready, with an entry in its table.
@@ -36,7 +36,7 @@ protected:
 } // namespace
 
 TEST_F(ARPTableLookup, WhileTheNetworkIsNotReadyTheToolIsNotRun) {
-    const ReplacedFile tool(toolPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
+    const ReplacedFile tool(arpPath, recording.program(saying("? at 0:5:2:a:b:c")), executable);
     sharedHost().network.ip("link set p-kx5 down");
     ASSERT_TRUE(eventually([] { return !networkIsReady(); }));
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), std::nullopt);
@@ -54,8 +54,8 @@ TEST_F(ARPTableLookup, TheTableOfNetToolsHoldsNoSentence) {
 
 TEST_F(ARPTableLookup, TheSentenceOfNetToolsIsUnderstood) {
     const std::string original = recording.folder() + "/arp";
-    std::filesystem::copy_file(toolPath, original);
-    const ReplacedFile tool(toolPath, recording.program(original + " -a \"$1\""), executable);
+    std::filesystem::copy_file(arpPath, original);
+    const ReplacedFile tool(arpPath, recording.program(original + " -a \"$1\""), executable);
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.5"), "00:05:02:0A:0B:0C");
     EXPECT_EQ(hwAddressStringForIPString("10.0.0.9"), std::nullopt);
     EXPECT_EQ(recording.words(), "10.0.0.5\n10.0.0.9\n");

@@ -13,7 +13,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::uint32_t address = 0xC000020BU; // 192.0.2.11
+constexpr std::uint32_t nearAddress = 0xC000020BU; // 192.0.2.11
 constexpr std::uint32_t farAddress = 0xC0000202U;
 
 class AddressHoldersOnLinks : public testing::Test {
@@ -24,7 +24,7 @@ protected:
         link = ::if_nametoindex("kx0");
     }
 
-    std::optional<Neighbour> entry() { return table.entry(address, link); }
+    std::optional<Neighbour> entry() { return table.entry(nearAddress, link); }
 
     void setEntry(const std::string& words) {
         network.ip("neigh replace 192.0.2.11 dev kx0 " + words);
@@ -41,14 +41,14 @@ TEST_F(AddressHoldersOnLinks, AnAddressThatNobodyHasAskedForHasNoEntry) {
     EXPECT_FALSE(entry().has_value());
     setEntry("lladdr 02:4b:58:00:00:01 nud reachable");
     EXPECT_TRUE(entry().has_value());
-    EXPECT_FALSE(table.entry(address + 1, link).has_value());
-    EXPECT_FALSE(table.entry(address, link + 1000).has_value());
+    EXPECT_FALSE(table.entry(nearAddress + 1, link).has_value());
+    EXPECT_FALSE(table.entry(nearAddress, link + 1000).has_value());
     EXPECT_TRUE(entry().has_value()) << "a question without an answer does not disturb the next";
 }
 
 TEST_F(AddressHoldersOnLinks, AnEntryTellsItsStateAndItsHardwareAddress) {
     const std::string hardware = "lladdr 02:4b:58:00:00:01 nud ";
-    std::uint32_t each = address;
+    std::uint32_t each = nearAddress;
     for (const auto& [word, state] :
          {std::pair{"reachable", NeighbourState::reachable},
           std::pair{"stale", NeighbourState::stale}, std::pair{"delay", NeighbourState::stale},
@@ -77,11 +77,11 @@ TEST_F(AddressHoldersOnLinks, EntriesThatTheSystemDoesNotGiveUpAreCounted) {
 
 TEST_F(AddressHoldersOnLinks, AnEntryIsForgottenUnlessSomebodyHasEnteredItByHand) {
     setEntry("lladdr 02:4b:58:00:00:01 nud reachable");
-    table.forget(address, link);
+    table.forget(nearAddress, link);
     EXPECT_FALSE(entry().has_value());
-    table.forget(address, link); // nothing is there any more
+    table.forget(nearAddress, link); // nothing is there any more
     setEntry("lladdr 02:4b:58:00:00:01 nud permanent");
-    table.forget(address, link);
+    table.forget(nearAddress, link);
     ASSERT_TRUE(entry().has_value());
     EXPECT_EQ(entry()->state, NeighbourState::permanent);
 }

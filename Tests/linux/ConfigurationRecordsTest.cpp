@@ -2,6 +2,7 @@
 
 #include "platform/linux/ConfigurationRecords.h"
 
+#include "NetworkLinks.h"
 #include "addresses/IPv4Address.h"
 #include "doubles/MarkedLocalizedText.h"
 
@@ -12,21 +13,6 @@
 namespace kx {
 
 namespace {
-
-NetworkLink link(int index, std::string name, LinkKind kind = LinkKind::ethernet) {
-    NetworkLink result;
-    result.index = index;
-    result.name = std::move(name);
-    result.kind = kind;
-    result.isUp = result.isRunning = result.canBroadcast = true;
-    return result;
-}
-
-NetworkLink linkWithAddress(int index, std::string name, LinkKind kind = LinkKind::ethernet) {
-    NetworkLink result = link(index, std::move(name), kind);
-    result.ipv4Addresses = {{0xC0000200U + static_cast<unsigned>(index), 24}};
-    return result;
-}
 
 NetworkLink loopback() {
     NetworkLink result = linkWithAddress(1, "lo", LinkKind::other);

@@ -15,13 +15,13 @@ namespace kx {
 namespace {
 
 const ConnectionProfile office{"1234", "Office", "kx0", {{0xC0000205U, 24}}};
-const ConnectionProfile line{"5678", "Production line", "kx1", {}};
+const ConnectionProfile productionLine{"5678", "Production line", "kx1", {}};
 
 class MemoryProfilesTrait {
 public:
     MemoryProfilesTrait() { _profiles.setProfiles(wanted()); }
     ConnectionProfiles& profiles() { return _profiles; }
-    std::vector<ConnectionProfile> wanted() { return {office, line}; }
+    std::vector<ConnectionProfile> wanted() { return {office, productionLine}; }
     void rename(const std::string& identifier, const std::string& name) {
         auto profiles = _profiles.activeProfiles();
         find(profiles, identifier)->name = name;

@@ -1,23 +1,12 @@
 #include "platform/linux/LinuxHostInterfaces.h"
 
+#include "NetworkLinks.h"
+
 #include <gtest/gtest.h>
 
 namespace kx {
 
 namespace {
-
-NetworkLink link(int index, std::string name, LinkKind kind) {
-    NetworkLink made;
-    made.index = index;
-    made.name = std::move(name);
-    made.kind = kind;
-    made.isUp = made.isRunning = made.canBroadcast = true;
-    IPv4InterfaceAddress address;
-    address.address = 0xC0000201U;
-    address.prefixLength = 24;
-    made.ipv4Addresses = {address};
-    return made;
-}
 
 HostInterface interfaceOf(const NetworkLink& made) {
     return hostInterfaces({"Name (" + made.name + ")"}, {"link-" + made.name}, {made}).at(0);
@@ -28,8 +17,8 @@ HostInterface interfaceOf(const NetworkLink& made) {
 TEST(LinuxHostInterfaces, HaveTheTitlesOfThePopUpInItsOrder) {
     const auto interfaces = hostInterfaces(
         {"Office (kx2)", "Ethernet (kx0)", "Loopback (lo)"}, {"0b1c-uuid", "link-kx0", "=lo"},
-        {link(1, "lo", LinkKind::other), link(2, "kx0", LinkKind::ethernet),
-         link(3, "kx2", LinkKind::vlan)});
+        {linkWithAddress(1, "lo", LinkKind::other), linkWithAddress(2, "kx0"),
+         linkWithAddress(3, "kx2", LinkKind::vlan)});
     ASSERT_EQ(interfaces.size(), 3U);
     EXPECT_EQ(interfaces[0].name, "kx2");
     EXPECT_EQ(interfaces[0].userName, "Office");
@@ -41,14 +30,14 @@ TEST(LinuxHostInterfaces, HaveTheTitlesOfThePopUpInItsOrder) {
 }
 
 TEST(LinuxHostInterfaces, HaveTheNetworksOfTheirLink) {
-    const HostInterface interface = interfaceOf(link(2, "kx0", LinkKind::ethernet));
+    const HostInterface interface = interfaceOf(linkWithAddress(2, "kx0"));
     ASSERT_EQ(interface.networks.size(), 1U);
-    EXPECT_EQ(interface.networks[0].address, 0xC0000201U);
+    EXPECT_EQ(interface.networks[0].address, 0xC0000202U);
     EXPECT_EQ(interface.networks[0].mask, 0xFFFFFF00U);
 }
 
 TEST(LinuxHostInterfaces, CanAskOnlyWithALinkABroadcastAndAnAddress) {
-    const NetworkLink whole = link(2, "kx0", LinkKind::ethernet);
+    const NetworkLink whole = linkWithAddress(2, "kx0");
     EXPECT_TRUE(interfaceOf(whole).canAsk);
     NetworkLink without = whole;
     without.isRunning = false;

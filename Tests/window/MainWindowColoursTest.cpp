@@ -8,7 +8,7 @@ namespace kx {
 
 namespace {
 
-constexpr double readable = 4.5;
+constexpr double readableContrast = 4.5;
 
 class MainWindowColours : public MainWindowTest, public ::testing::WithParamInterface<Looks> {
 protected:
@@ -63,7 +63,7 @@ TEST_P(MainWindowColours, EveryTextStandsOut) {
                              "helpButton",
                              "menuBar",
                              "logFindField"}) {
-        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), readable) << name;
+        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), readableContrast) << name;
     }
 }
 
@@ -72,7 +72,7 @@ TEST_P(MainWindowColours, EmptyStatesStandOut) {
     launch();
     for (const char* name : {"unitSelectPopUp", "unitParameterTableView", "editParameterTableView",
                              "interfacePopUp"}) {
-        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), readable) << name;
+        EXPECT_GE(contrastOfTextIn(control<QWidget>(name)), readableContrast) << name;
     }
 }
 
@@ -81,7 +81,7 @@ TEST_P(MainWindowColours, TheResultOfASearchStandsOut) {
     launchWithEverything();
     type("x");
     ASSERT_EQ(control<QLabel>("logFindResult").text(), "Not found");
-    EXPECT_GE(contrastOfTextIn(control<QLabel>("logFindResult")), readable);
+    EXPECT_GE(contrastOfTextIn(control<QLabel>("logFindResult")), readableContrast);
 }
 
 TEST_P(MainWindowColours, TheSignsOnTheFindBarStandOut) {

@@ -26,7 +26,7 @@ namespace kx {
 
 namespace {
 
-constexpr int preferredRows = 20;
+constexpr int preferredUnitRows = 20;
 
 QPushButton* makeButton(const char* objectName, const QString& text, QWidget* parent) {
     auto* const button = new QPushButton(text, parent);
@@ -90,7 +90,7 @@ AllUnitsWindow::AllUnitsWindow(AllUnits& units, Actions actions, QWidget* parent
     connectKeys();
     const QSize wanted(_table.wholeWidth() + layout->contentsMargins().left() +
                            layout->contentsMargins().right(),
-                       preferredRows * _table.verticalHeader()->defaultSectionSize() +
+                       preferredUnitRows * _table.verticalHeader()->defaultSectionSize() +
                            sizeHint().height() - _table.sizeHint().height());
     (new ScreenFit(*this))->resize(wanted);
     tellCount();

@@ -29,7 +29,7 @@ namespace kx {
 
 namespace {
 
-constexpr int preferredRows = 14;
+constexpr int preferredPlanRows = 14;
 
 SentenceLabel* makeSentence(const char* objectName, int lines, QWidget* parent) {
     auto* const label = new SentenceLabel(parent);
@@ -178,7 +178,7 @@ void FromFileWindow::layOut() {
         before = next;
     }
     const QMargins margins = column->contentsMargins();
-    const int rows = preferredRows * _table->verticalHeader()->defaultSectionSize();
+    const int rows = preferredPlanRows * _table->verticalHeader()->defaultSectionSize();
     (new ScreenFit(*this))
         ->resize({_table->usefulWidth() + margins.left() + margins.right(),
                   rows + sizeHint().height() - _table->sizeHint().height()});

@@ -16,7 +16,7 @@ HostInterface interface(std::string name, std::string userName, bool hasProfile,
     return made;
 }
 
-const std::vector<HostInterface> all{
+const std::vector<HostInterface> allInterfaces{
     interface("kx0", "Office", true, true), interface("kx2", "Ethernet", false, true),
     interface("lo", "Loopback", false, false), interface("kx4", "kx0", true, false)};
 
@@ -33,19 +33,19 @@ using Names = std::vector<std::string>;
 } // namespace
 
 TEST(HostInterface, IsNamedByItsNameItsTitleOrItsProfile) {
-    EXPECT_EQ(namesOf(interfacesNamed(all, "kx2")), Names{"kx2"});
-    EXPECT_EQ(namesOf(interfacesNamed(all, "Office (kx0)")), Names{"kx0"});
-    EXPECT_EQ(namesOf(interfacesNamed(all, "Office")), Names{"kx0"});
-    EXPECT_EQ(namesOf(interfacesNamed(all, "kx9")), Names{});
-    EXPECT_EQ(namesOf(interfacesNamed(all, "")), Names{});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "kx2")), Names{"kx2"});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "Office (kx0)")), Names{"kx0"});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "Office")), Names{"kx0"});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "kx9")), Names{});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "")), Names{});
 }
 
 TEST(HostInterface, TheKindInFrontOfATitleIsNoName) {
-    EXPECT_EQ(namesOf(interfacesNamed(all, "Ethernet")), Names{});
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "Ethernet")), Names{});
 }
 
 TEST(HostInterface, AProfileWithTheNameOfAnotherInterfaceIsAmbiguous) {
-    EXPECT_EQ(namesOf(interfacesNamed(all, "kx0")), (Names{"kx0", "kx4"}));
+    EXPECT_EQ(namesOf(interfacesNamed(allInterfaces, "kx0")), (Names{"kx0", "kx4"}));
 }
 
 TEST(HostInterface, OneWithTwoProfilesIsOneInterface) {
@@ -57,7 +57,7 @@ TEST(HostInterface, OneWithTwoProfilesIsOneInterface) {
 }
 
 TEST(HostInterface, OnlySomeCanAsk) {
-    EXPECT_EQ(namesOf(askableInterfaces(all)), (Names{"kx0", "kx2"}));
+    EXPECT_EQ(namesOf(askableInterfaces(allInterfaces)), (Names{"kx0", "kx2"}));
 }
 
 TEST(HostInterface, KnowsItsNetworks) {

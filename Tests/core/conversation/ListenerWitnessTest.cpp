@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::uint32_t ownAddress = 0xC0A80101U;
 constexpr std::uint32_t unitAddress = 0xC0A8010AU;
-constexpr std::uint32_t everybody = 0xC0A801FFU;
+constexpr std::uint32_t everybodyThere = 0xC0A801FFU;
 constexpr std::uint16_t probePort = 40000;
 
 class ListenerWitnessTest : public testing::Test {
@@ -35,7 +35,7 @@ protected:
     }
 
     ssize_t ask(std::uint16_t port = 3520) {
-        return witness.sendToByLink(descriptor, request, dataForAddress(everybody, port), 3);
+        return witness.sendToByLink(descriptor, request, dataForAddress(everybodyThere, port), 3);
     }
 
     // What the listener's owner reads; absent when it reads nothing.

@@ -6,7 +6,7 @@ namespace kx {
 
 namespace {
 
-std::optional<UnitName> serial(std::string text) {
+std::optional<UnitName> nameOfSerialNumber(std::string text) {
     return SerialNumberOfUnit{std::move(text)};
 }
 
@@ -15,7 +15,7 @@ std::optional<UnitName> serial(std::string text) {
 TEST(UnitName, TakesSixPairsWithBlanksColonsDashesOrNothingInEitherCase) {
     for (const char* typed :
          {"4B 58 00 00 00 0A", "4b:58:00:00:00:0a", "4B-58-00-00-00-0a", "4b580000000A"}) {
-        EXPECT_EQ(unitNameForText(typed), serial("4B 58 00 00 00 0A")) << typed;
+        EXPECT_EQ(unitNameForText(typed), nameOfSerialNumber("4B 58 00 00 00 0A")) << typed;
     }
 }
 
