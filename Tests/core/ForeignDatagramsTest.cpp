@@ -71,7 +71,10 @@ protected:
     std::map<std::string, ReferenceRecord> registry;
 };
 
-// `length` bytes: a beginning, and then a pattern that repeats.
+// A beginning, and a pattern that repeats behind it.
+using Filling = std::pair<Bytes, Bytes>;
+class FilledDatagrams : public ForeignDatagrams, public testing::WithParamInterface<Filling> {};
+
 Bytes filled(const Bytes& beginning, const Bytes& pattern, std::size_t length) {
     Bytes result = beginning;
     while (result.size() < length) {
@@ -93,30 +96,30 @@ Bytes withByte(Bytes bytes, std::size_t offset, unsigned value) {
 
 } // namespace
 
-TEST_F(ForeignDatagrams, OfEveryLengthAndSeveralFillings) {
-    const SampleUnit unit;
-    const std::vector<std::pair<Bytes, Bytes>> fillings{
-        {{}, {0x00}},
-        {{}, {0xFF}},
-        {{}, textBytes("^^<U>")},
-        {unit.header(), textBytes("text ")},
-        {unit.header(), {0xC3, 0xA4}}, // at every other length this is valid UTF-8
-        {unit.header(), item("<M>", unit.internalMAC)},
-        {unit.header(), unit.parameterList()},
-        {unit.reply(), item("<O>", unit.serial)},
-        {unit.acknowledgement(), {0x00}},
-    };
-    for (const auto& [beginning, pattern] : fillings) {
-        for (std::size_t length = 0; length <= 2000; ++length) {
-            expectOutcome(filled(beginning, pattern, length));
-            ASSERT_FALSE(HasFatalFailure()) << "length " << length;
-        }
-        expectWholeRegistry();
-        controller.discoverButton();
+// Each filling has a log of its own, because every datagram is compared with the end of the whole
+// log.
+TEST_P(FilledDatagrams, OfEveryLength) {
+    const auto& [beginning, pattern] = GetParam();
+    for (std::size_t length = 0; length <= 2000; ++length) {
+        expectOutcome(filled(beginning, pattern, length));
+        ASSERT_FALSE(HasFatalFailure()) << "length " << length;
     }
-    receive(unit.reply());
+    expectWholeRegistry();
+    receive(SampleUnit().reply());
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
 }
+
+const SampleUnit sampleUnit;
+INSTANTIATE_TEST_SUITE_P(
+    SeveralFillings, FilledDatagrams,
+    testing::Values(Filling{{}, {0x00}}, Filling{{}, {0xFF}}, Filling{{}, textBytes("^^<U>")},
+                    Filling{sampleUnit.header(), textBytes("text ")},
+                    Filling{sampleUnit.header(),
+                            {0xC3, 0xA4}}, // at every other length this is valid UTF-8
+                    Filling{sampleUnit.header(), item("<M>", sampleUnit.internalMAC)},
+                    Filling{sampleUnit.header(), sampleUnit.parameterList()},
+                    Filling{sampleUnit.reply(), item("<O>", sampleUnit.serial)},
+                    Filling{sampleUnit.acknowledgement(), {0x00}}));
 
 TEST_F(ForeignDatagrams, RepliesCutAtEveryLength) {
     const SampleUnit unit;
