@@ -133,7 +133,7 @@ class Saving(Files):
         saved = self.save(self.before)
         os.kill(units_process(), signal.SIGSTOP)
         try:
-            result = kxctl("discover", "--wait", "0.3", "--save", self.before, "--json")
+            result = kxctl("discover", "--wait", "1", "--save", self.before, "--json")
         finally:
             os.kill(units_process(), signal.SIGCONT)
         self.assertEnds(result, 1, "not-found")

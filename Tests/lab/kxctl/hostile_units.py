@@ -88,7 +88,7 @@ class Replies(Test):
             return [reply(), b"^^", b"hello", b"^^<U>1", header() + b"what", header() + b"<M>12",
                     reply(serial_item=False)] if data == REQUEST else []
         with OwnUnit(answer):
-            result = kxctl("discover", "--tries", "1", "--wait", "0.4", "--json")
+            result = kxctl("discover", "--tries", "1", "--wait", "1", "--json")
         self.assertEnds(result, 0)
         self.assertEqual((len(result.document["units"]), result.document["rejected"]), (1, 6))
 
@@ -107,7 +107,7 @@ class Replies(Test):
         def answer(data):
             return [reply(), reply(serial="4B5800000002", hardware=OTHER)] if data == REQUEST else []
         with OwnUnit(answer) as unit:
-            document = kxctl("discover", "--wait", "0.3", "--json").document
+            document = kxctl("discover", "--wait", "1", "--json").document
             self.assertEqual(document["duplicates"], [
                 {"internal_ip": "192.0.2.1", "serials": ["4B 58 00 00 00 02", OWN]}])
             self.assertEqual(len(document["warnings"]), 1)
