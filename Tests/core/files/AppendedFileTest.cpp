@@ -2,12 +2,16 @@
 
 #include "doubles/FileSizeLimit.h"
 #include "files/WholeFile.h"
+#include "support/Pipe.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cerrno>
 #include <cstdlib>
 #include <filesystem>
+#include <string>
+#include <system_error>
 #include <variant>
 
 namespace kx {
@@ -25,6 +29,17 @@ protected:
     std::string contents(const std::string& name = "journal") const {
         const auto read = contentsOfFile(folder + "/" + name, 1000);
         return std::holds_alternative<Error>(read) ? "(none)" : std::get<std::string>(read);
+    }
+
+    // The descriptor by which this process has the file open; -1 without one.
+    static int descriptorOf(const std::filesystem::path& path) {
+        for (const auto& each : std::filesystem::directory_iterator("/proc/self/fd")) {
+            std::error_code isClosed; // the one for this walk, in the end
+            if (std::filesystem::read_symlink(each, isClosed) == path) {
+                return std::stoi(each.path().filename());
+            }
+        }
+        return -1;
     }
 
     std::string folder;
@@ -61,6 +76,15 @@ TEST_F(AppendedFileTest, NothingIsAddedAfterAFailure) {
     EXPECT_EQ(contents(), "one\na long");
     EXPECT_EQ(file.append("two\n"), posixError(EFBIG));
     EXPECT_EQ(contents(), "one\na long");
+}
+
+// A pipe takes the text, and the system cannot put it on a disk.
+TEST_F(AppendedFileTest, ATextThatDoesNotReachTheDiskIsAFailure) {
+    EXPECT_EQ(file.begin(folder + "/journal", "one\n"), std::nullopt);
+    const Pipe pipe;
+    ASSERT_NE(::dup2(pipe.writingEnd.number(), descriptorOf(folder + "/journal")), -1);
+    EXPECT_EQ(file.append("two\n"), posixError(EINVAL));
+    EXPECT_EQ(file.append("three\n"), posixError(EINVAL));
 }
 
 } // namespace kx
