@@ -18,7 +18,7 @@ namespace kx {
 
 namespace {
 
-enum Column { checkColumn, stateColumn, evidenceColumn, adviceColumn, columnCount };
+enum Column { checkColumn, resultColumn, evidenceColumn, adviceColumn, columnCount };
 
 // Beside the word, so that a state is seen without reading and without its colour.
 QString signOf(CheckState state) {
@@ -170,13 +170,13 @@ void DiagnosisWindow::showCheck(int row, const KXDiagnosis::Row& check) {
     font.setBold(check.state == CheckState::fail);
     const auto set = [&](Column column, const QString& text) {
         auto* const item = new QTableWidgetItem(text);
-        if (column == checkColumn || column == stateColumn) {
+        if (column == checkColumn || column == resultColumn) {
             item->setFont(font);
         }
         _checks->setItem(row, column, item);
     };
     set(checkColumn, qtText(check.title));
-    set(stateColumn, signOf(check.state) + ' ' + qtText(check.word));
+    set(resultColumn, signOf(check.state) + ' ' + qtText(check.word));
     set(evidenceColumn, qtText(check.evidence));
     set(adviceColumn, qtText(check.advice));
 }
