@@ -18,8 +18,8 @@ constexpr int firstStatusOfRefusal = 126;
 constexpr int lastStatusOfRefusal = 127;
 
 // How long a launcher that is asked to end may take. It only has to be scheduled.
-constexpr std::chrono::milliseconds longestEnd{1000};
-constexpr std::chrono::milliseconds betweenLooks{5};
+constexpr std::chrono::milliseconds longestEndOfLauncher{1000};
+constexpr std::chrono::milliseconds betweenLooksAtTheLauncher{5};
 
 } // namespace
 
@@ -112,10 +112,10 @@ std::int32_t LinuxAuthorizationReference::awaitPerson(StartedTool& tool) {
 
 // False when the launcher has become the tool before it could be ended.
 bool LinuxAuthorizationReference::takeBack(StartedTool& tool) const {
-    const auto end = Clock::now() + longestEnd;
+    const auto end = Clock::now() + longestEndOfLauncher;
     tool.askToEnd();
     while (!tool.hasEnded() && isLauncher(tool) && Clock::now() < end) {
-        std::this_thread::sleep_for(betweenLooks);
+        std::this_thread::sleep_for(betweenLooksAtTheLauncher);
     }
     return isLauncher(tool);
 }

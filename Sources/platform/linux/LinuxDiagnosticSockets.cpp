@@ -21,21 +21,21 @@ namespace {
 // One turn of the run loop reads at most so many datagrams.
 constexpr int mostInOneTurn = 64;
 
-class Socket final : public DiagnosticSocket {
+class WatchedSocket final : public DiagnosticSocket {
 public:
-    Socket(DatagramSystemCalls& calls, DiagnosticSockets::Events events)
+    WatchedSocket(DatagramSystemCalls& calls, DiagnosticSockets::Events events)
         : _calls(calls)
         , _events(std::move(events))
         , _descriptor(calls.socket()) {}
-    ~Socket() override {
+    ~WatchedSocket() override {
         *_isAlive = false;
         _watch.reset();
         if (_descriptor >= 0) {
             _calls.close(_descriptor);
         }
     }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
+    WatchedSocket(const WatchedSocket&) = delete;
+    WatchedSocket& operator=(const WatchedSocket&) = delete;
 
     bool prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop);
 
@@ -55,12 +55,12 @@ private:
     RunLoop::Handle _watch;
 };
 
-bool Socket::bindToInterface(const std::string& name) const {
+bool WatchedSocket::bindToInterface(const std::string& name) const {
     return name.empty() || ::setsockopt(_descriptor, SOL_SOCKET, SO_BINDTODEVICE, name.c_str(),
                                         static_cast<socklen_t>(name.size())) == 0;
 }
 
-bool Socket::prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop) {
+bool WatchedSocket::prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop) {
     const int on = 1;
     if (_descriptor < 0 || !bindToInterface(wish.interface) ||
         ::setsockopt(_descriptor, IPPROTO_IP, IP_RECVERR, &on, sizeof on) != 0 ||
@@ -78,7 +78,7 @@ bool Socket::prepare(const DiagnosticSockets::Wish& wish, RunLoop& runLoop) {
 }
 
 // An error that came back for an earlier datagram fails the next send, which then has not left.
-std::optional<Error> Socket::send(std::string_view text, const UnitTarget& target) {
+std::optional<Error> WatchedSocket::send(std::string_view text, const UnitTarget& target) {
     const ByteView bytes(reinterpret_cast<const std::uint8_t*>(text.data()), text.size());
     const Bytes record = dataForAddress(target.address, target.port);
     const auto sendOnce = [&] {
@@ -95,7 +95,7 @@ std::optional<Error> Socket::send(std::string_view text, const UnitTarget& targe
 }
 
 // An event may destroy the socket.
-void Socket::receive() {
+void WatchedSocket::receive() {
     const auto isAlive = _isAlive;
     std::array<std::uint8_t, 2048> buffer;
     for (int i = 0; i < mostInOneTurn && *isAlive; ++i) {
@@ -116,7 +116,7 @@ void Socket::receive() {
 }
 
 // Takes one error from the queue of errors (ip(7), IP_RECVERR). False when there is none.
-bool Socket::receiveFailure() {
+bool WatchedSocket::receiveFailure() {
     sockaddr_in destination{};
     std::array<std::byte, 64> data{};
     iovec bytes{.iov_base = data.data(), .iov_len = data.size()};
@@ -157,7 +157,7 @@ bool Socket::receiveFailure() {
 
 std::unique_ptr<DiagnosticSocket> LinuxDiagnosticSockets::open(DatagramSystemCalls& calls,
                                                                const Wish& wish, Events events) {
-    auto socket = std::make_unique<Socket>(calls, std::move(events));
+    auto socket = std::make_unique<WatchedSocket>(calls, std::move(events));
     return socket->prepare(wish, _runLoop) ? std::move(socket) : nullptr;
 }
 

@@ -26,7 +26,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // The kernel answers within the call that asks.
-constexpr timeval patience{.tv_sec = 0, .tv_usec = 200'000};
+constexpr timeval patienceForARoute{.tv_sec = 0, .tv_usec = 200'000};
 
 std::string textOfFile(const fs::path& path) {
     std::ifstream file(path);
@@ -194,7 +194,8 @@ std::optional<HostRoute> LinuxHostDiagnostics::route(std::uint32_t address) {
     const RouteRequest request = requestForRoute(address);
     alignas(nlmsghdr) std::array<char, 4096> buffer{};
     if (socket.number() < 0 ||
-        ::setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience) != 0 ||
+        ::setsockopt(socket.number(), SOL_SOCKET, SO_RCVTIMEO, &patienceForARoute,
+                     sizeof patienceForARoute) != 0 ||
         ::send(socket.number(), &request, sizeof request, 0) != ssize_t{sizeof request}) {
         return std::nullopt;
     }

@@ -46,7 +46,7 @@ std::string textOf(nl_addr* address) {
     return hexStringForData(ByteView(bytes, nl_addr_get_len(address)), ":");
 }
 
-int messageReceived(nl_msg* message, void* found) {
+int neighbourReceived(nl_msg* message, void* found) {
     rtnl_neigh* parsed = nullptr;
     if (rtnl_neigh_parse(nlmsg_hdr(message), &parsed) >= 0) {
         const std::unique_ptr<rtnl_neigh, NeighbourRelease> neighbour(parsed);
@@ -144,7 +144,7 @@ std::optional<Neighbour> LinuxNeighbourTable::entry(std::uint32_t address, std::
         return std::nullopt;
     }
     std::optional<Neighbour> found;
-    nl_socket_modify_cb(_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, messageReceived, &found);
+    nl_socket_modify_cb(_socket.get(), NL_CB_VALID, NL_CB_CUSTOM, neighbourReceived, &found);
     nl_recvmsgs_default(_socket.get()); // an error means that there is no entry
     // The acknowledgement that follows the entry.
     if (found.has_value()) {

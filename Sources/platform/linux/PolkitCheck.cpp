@@ -36,7 +36,7 @@ constexpr std::chrono::milliseconds patienceWithBus{1000};
 constexpr std::chrono::milliseconds patienceWithStart{2000};
 
 // The time between two looks at a polkit that has a person asked.
-constexpr std::chrono::milliseconds betweenLooks{1000};
+constexpr std::chrono::milliseconds betweenLooksAtPolkit{1000};
 
 using Details = QMap<QString, QString>;
 
@@ -159,7 +159,7 @@ public:
         } else if (_look->isFinished()) {
             _isSilent = _look->isError();
             _look.reset();
-            _nextLook = Clock::now() + betweenLooks;
+            _nextLook = Clock::now() + betweenLooksAtPolkit;
         }
         return _isSilent;
     }
@@ -169,7 +169,7 @@ private:
 
     SystemBus _bus{hearNothing, patienceWithBus};
     std::optional<QDBusPendingCall> _look;
-    Clock::time_point _nextLook = Clock::now() + betweenLooks;
+    Clock::time_point _nextLook = Clock::now() + betweenLooksAtPolkit;
     bool _isSilent = false;
 };
 

@@ -37,14 +37,14 @@ struct SocketRelease {
 struct RouteRelease {
     void operator()(rtnl_route* route) const { rtnl_route_put(route); }
 };
-using Socket = std::unique_ptr<nl_sock, SocketRelease>;
+using NetlinkSocket = std::unique_ptr<nl_sock, SocketRelease>;
 using Clock = std::chrono::steady_clock;
 using Route = std::unique_ptr<rtnl_route, RouteRelease>;
 
 using LinksByIndex = std::map<int, NetworkLink>;
 
 // Short, because the caller may have waited for the connection profiles before.
-constexpr std::chrono::milliseconds patience{200};
+constexpr std::chrono::milliseconds patienceForLists{200};
 constexpr std::chrono::milliseconds patienceForRoutes{40}; // at least this
 
 // When a list changes while the kernel tells it, it is asked for again, at most so many times in
@@ -71,8 +71,8 @@ int errnoOfCode(int code) {
 }
 
 // Null, with errno set, when the system refuses.
-Socket openSocket() {
-    Socket socket(nl_socket_alloc());
+NetlinkSocket openSocket() {
+    NetlinkSocket socket(nl_socket_alloc());
     if (socket == nullptr) {
         errno = ENOMEM;
         return nullptr;
@@ -172,7 +172,7 @@ struct Dump {
     bool isInterrupted = false; // the list changed while the kernel told it
 };
 
-int messageReceived(nl_msg* message, void* dump) {
+int entryOfListReceived(nl_msg* message, void* dump) {
     auto& asked = *static_cast<Dump*>(dump);
     asked.isStopped = asked.isStopped || !asked.take(message);
     return asked.isStopped ? NL_STOP : NL_OK;
@@ -203,7 +203,7 @@ bool canRead(nl_sock* socket, Clock::time_point deadline) {
 // library, which is negative for a failure.
 template<class Request>
 int ask(nl_sock* socket, int type, Request request, Dump dump) {
-    nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, messageReceived, &dump);
+    nl_socket_modify_cb(socket, NL_CB_VALID, NL_CB_CUSTOM, entryOfListReceived, &dump);
     nl_socket_modify_cb(socket, NL_CB_FINISH, NL_CB_CUSTOM, answerEnded, &dump);
     nl_socket_modify_cb(socket, NL_CB_DUMP_INTR, NL_CB_CUSTOM, answerInterrupted, &dump);
     const int sent = nl_send_simple(socket, type, NLM_F_DUMP, &request, sizeof request);
@@ -315,8 +315,8 @@ int readDefaultRoutes(nl_sock* socket, Clock::time_point deadline, LinksByIndex&
 } // namespace
 
 std::optional<LinkSnapshot> readNetworkLinks() {
-    const auto deadline = Clock::now() + patience;
-    const Socket socket = openSocket();
+    const auto deadline = Clock::now() + patienceForLists;
+    const NetlinkSocket socket = openSocket();
     if (socket == nullptr) {
         return std::nullopt;
     }

@@ -24,8 +24,8 @@ using Clock = std::chrono::steady_clock;
 constexpr auto agentPath = "/usr/bin/pkttyagent";
 
 // It has to reach polkit over the bus, and to end when it is told to.
-constexpr std::chrono::milliseconds longestStart{2000};
-constexpr std::chrono::milliseconds longestEnd{1000};
+constexpr std::chrono::milliseconds longestStartOfAgent{2000};
+constexpr std::chrono::milliseconds longestEndOfAgent{1000};
 constexpr std::chrono::milliseconds betweenLooksAtTheAgent{5};
 
 bool isSet(const char* name) {
@@ -72,7 +72,7 @@ std::unique_ptr<TerminalAgent> TerminalAgent::start() {
                                             .standardOutput = readiness.writingEnd.number(),
                                             .standardError = nothing.number()})));
         readiness.writingEnd.close();
-        awaitEnd(readiness.readingEnd, longestStart);
+        awaitEnd(readiness.readingEnd, longestStartOfAgent);
         return agent->_agent.exitStatus().has_value() ? nullptr : std::move(agent);
     } catch (const PlatformException& exception) {
         logToSystem(exception.reason());
@@ -84,7 +84,7 @@ TerminalAgent::TerminalAgent(ChildProcess agent)
     : _agent(std::move(agent)) {}
 
 TerminalAgent::~TerminalAgent() {
-    const auto end = Clock::now() + longestEnd;
+    const auto end = Clock::now() + longestEndOfAgent;
     _agent.terminate();
     while (!_agent.exitStatus().has_value() && Clock::now() < end) {
         std::this_thread::sleep_for(betweenLooksAtTheAgent);
