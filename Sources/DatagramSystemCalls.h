@@ -23,12 +23,15 @@ struct msghdr;
 
 namespace kx {
 
-// Flags of a socket wrapper (EndpointSocket in UDPEcho.h).
+// Flags of a socket wrapper (EndpointSocket.h).
 inline constexpr std::uint32_t kCFSocketCloseOnInvalidate = 128;
 
 // The index of no interface: a send by it fails. Indexes of interfaces are positive 32-bit
 // integers, and Linux counts them up from 1.
 inline constexpr std::uint32_t noSuchLink = 0x7FFFFFFFU;
+
+// Bytes of a buffer that any datagram over IPv4 fits in (RFC 791, Total Length).
+inline constexpr std::size_t receiveBufferLength = 65536;
 
 // Where a datagram came from.
 struct DatagramOrigin {

@@ -28,9 +28,6 @@ public:
 private:
     static constexpr std::size_t most = 32;
 
-    // More than any datagram over IPv4 can carry.
-    static constexpr std::size_t longestDatagram = 65536;
-
     using Control = std::array<std::byte, CMSG_SPACE(sizeof(in_pktinfo))>;
 
     std::unique_ptr<std::uint8_t[]> _bytes; // not filled, so that no page is touched
@@ -44,9 +41,10 @@ private:
 };
 
 ReadAheadSystemCalls::Batch::Batch()
-    : _bytes(new std::uint8_t[most * longestDatagram]) {
+    : _bytes(new std::uint8_t[most * receiveBufferLength]) {
     for (std::size_t place = 0; place < most; ++place) {
-        _parts[place] = {.iov_base = &_bytes[place * longestDatagram], .iov_len = longestDatagram};
+        _parts[place] = {.iov_base = &_bytes[place * receiveBufferLength],
+                         .iov_len = receiveBufferLength};
         msghdr& message = _messages[place].msg_hdr;
         message.msg_name = &_senders[place];
         message.msg_iov = &_parts[place];
@@ -70,7 +68,7 @@ int ReadAheadSystemCalls::Batch::fill(int descriptor) {
 ssize_t ReadAheadSystemCalls::Batch::take(std::span<std::uint8_t> buffer, DatagramOrigin& origin) {
     const mmsghdr& message = _messages[_next];
     const std::size_t length = std::min<std::size_t>(message.msg_len, buffer.size());
-    std::copy_n(&_bytes[_next * longestDatagram], length, buffer.begin());
+    std::copy_n(&_bytes[_next * receiveBufferLength], length, buffer.begin());
     setOrigin(message.msg_hdr, origin);
     ++_next;
     return static_cast<ssize_t>(length);

@@ -9,20 +9,12 @@
 #include <array>
 #include <cerrno>
 #include <string_view>
-#include <utility>
 
 namespace kx {
 
 namespace {
 
 constexpr std::string_view sourcePath = "Sources/UDPEcho";
-
-// More than any datagram over IPv4 can carry.
-constexpr std::size_t receiveBufferLength = 65536;
-
-// When datagrams of so many bytes have been handed out, other events get their turn before those
-// that are ahead. A long text takes its reader as long as hundreds of replies.
-constexpr std::size_t longestTurn = 8192;
 
 // The peer's record with another port. A short record is filled with zeros.
 Bytes connectRecord(const Bytes& address, std::size_t port) {
@@ -62,61 +54,6 @@ void UDPEchoDelegate::echoDidFailToSendDataToAddressError(UDPEcho&, const Bytes&
                                                           const Error&) {}
 void UDPEchoDelegate::echoDidStartWithAddress(UDPEcho&, const Bytes&) {}
 void UDPEchoDelegate::echoDidStopWithError(UDPEcho&, const Error&) {}
-
-// --- The socket ---
-
-EndpointSocket::EndpointSocket(DatagramSystemCalls& systemCalls, int descriptor)
-    : _systemCalls(systemCalls)
-    , _descriptor(descriptor)
-    , _flags(systemCalls.socketFlags()) {}
-
-EndpointSocket::~EndpointSocket() {
-    if (_isGone != nullptr) {
-        *_isGone = true;
-    }
-    _source.reset(); // a watched descriptor must be open
-    if ((_flags & kCFSocketCloseOnInvalidate) != 0) {
-        _systemCalls.close(_descriptor);
-    }
-}
-
-bool EndpointSocket::watch(RunLoop& runLoop, CallbackInfo& info) {
-    _runLoop = &runLoop;
-    _info = &info;
-    _systemCalls.allowReadingAhead(_descriptor);
-    _source = runLoop.watchForReading(_descriptor, [this] { readAll(); });
-    return _source != nullptr;
-}
-
-// The descriptor need not be readable again when all has been read ahead.
-void EndpointSocket::didRead(std::size_t length) {
-    _bytesInTurn += length;
-    if (_nextTurn == nullptr && _runLoop != nullptr && _systemCalls.hasReadAhead(_descriptor)) {
-        _nextTurn = _runLoop->callOnceAfter({}, [this] {
-            _nextTurn = nullptr;
-            readAll();
-        });
-    }
-}
-
-// Each call may destroy this object, and may run the loop, which comes back here.
-void EndpointSocket::readAll() {
-    bool isGone = false;
-    bool* const outer = std::exchange(_isGone, &isGone);
-    CallbackInfo* const info = _info;
-    _bytesInTurn = 0;
-    do {
-        SocketReadCallback(this, SocketCallbackType::read, nullptr, nullptr, info);
-    } while (!isGone && _bytesInTurn < longestTurn && _systemCalls.hasReadAhead(_descriptor));
-    if (!isGone) {
-        _isGone = outer;
-        if (!_systemCalls.hasReadAhead(_descriptor)) {
-            _nextTurn = nullptr;
-        }
-    } else if (outer != nullptr) {
-        *outer = true;
-    }
-}
 
 // --- Life and start ---
 
@@ -225,7 +162,7 @@ void UDPEcho::_scheduleSocket(int sock) {
 
     // The delegate may release the endpoint inside the event. Nothing of it is used afterwards, so
     // the callback need not hold it, which would cost two atomic operations for each datagram.
-    const bool rls = _cfSocket->watch(_runLoop, *this);
+    const bool rls = _cfSocket->watch(_runLoop, SocketReadCallback, *this);
     require(rls, "rls != NULL", sourcePath);
 }
 

@@ -27,6 +27,7 @@
 #pragma once
 
 #include "DatagramSystemCalls.h"
+#include "EndpointSocket.h"
 #include "support/ByteRange.h"
 #include "support/Error.h"
 #include "support/HostResolver.h"
@@ -80,53 +81,7 @@ public:
     virtual void echoDidStopWithError(UDPEcho& echo, const Error& error);
 };
 
-// The base of the object that a plain callback is given as its context.
-class CallbackInfo {
-public:
-    virtual ~CallbackInfo() = default;
-
-    // The object itself when it is an endpoint, otherwise null. A dynamic cast would take longer
-    // than everything else that a callback checks.
-    virtual UDPEcho* endpoint() { return nullptr; }
-};
-
-enum class SocketCallbackType { none = 0, read = 1, accept = 2, data = 3, connect = 4 };
 enum class HostInfoType { addresses = 0, names = 1, reachability = 2 };
-
-// A descriptor with its watch on the run loop. Destroying it ends the watch and, with
-// kCFSocketCloseOnInvalidate among its flags, closes the descriptor. It may be destroyed inside the
-// watch's call.
-class EndpointSocket {
-public:
-    EndpointSocket(DatagramSystemCalls& systemCalls, int descriptor);
-    ~EndpointSocket();
-    EndpointSocket(const EndpointSocket&) = delete;
-    EndpointSocket& operator=(const EndpointSocket&) = delete;
-
-    int native() const { return _descriptor; }
-    std::uint32_t flags() const { return _flags; }
-
-    // Calls SocketReadCallback() with `info` whenever a datagram can be read, and again for each
-    // that the system calls have read ahead. False when the system cannot watch the descriptor.
-    bool watch(RunLoop& runLoop, CallbackInfo& info);
-
-    // Has to be called between a read of this many bytes and what follows from it. When datagrams
-    // have been read ahead, the next turn of the loop hands them out, also one inside the event.
-    void didRead(std::size_t length);
-
-private:
-    void readAll();
-
-    DatagramSystemCalls& _systemCalls;
-    int _descriptor;
-    std::uint32_t _flags;
-    RunLoop* _runLoop = nullptr;
-    CallbackInfo* _info = nullptr;
-    RunLoop::Handle _source;
-    RunLoop::Handle _nextTurn;
-    std::size_t _bytesInTurn = 0;
-    bool* _isGone = nullptr; // of the innermost readAll()
-};
 
 class UDPEcho : public CallbackInfo, public std::enable_shared_from_this<UDPEcho> {
 public:
