@@ -45,10 +45,12 @@ end_desktop() {
     rm -rf -- "$scratch"
 }
 
+# A number that no other server has. Servers of several network namespaces do not see each other's numbers, and
+# two that start at once under one number spoil each other's keymap, which lies in a file of that number.
 start_server() {
-    local number
+    local number=$((RANDOM * 32768 + RANDOM))
     mkfifo -- "$scratch/display"
-    setpriv --pdeathsig TERM Xvfb -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp \
+    setpriv --pdeathsig TERM Xvfb ":$number" -displayfd 3 -screen 0 "${screen}x24" -nolisten tcp \
         3>"$scratch/display" 2>"$scratch/server" &
     server_pid=$!
     read -r number <"$scratch/display" || die "$failed" "no X server: $(<"$scratch/server")"

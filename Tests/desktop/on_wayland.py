@@ -20,11 +20,18 @@ KEY_CODES = {"f": 41, "Return": 36, "Right": 114, "Down": 116}
 
 
 def hold(codes, condition):
-    """Holds the keys until the condition is true, or for three seconds. No key repeats itself here."""
-    deadline = time.monotonic() + 3.0
-    with held(*codes):
-        while not condition() and time.monotonic() < deadline:
-            time.sleep(0.02)
+    """Holds the keys until the condition is true, or for three seconds. No key repeats itself here.
+
+    The last key comes a moment after the others, as from a person. The toolkit asks assistive technology about
+    each key first, and a menu that is open before Alt gets through takes Alt for the order to close.
+    """
+    *modifiers, key = codes
+    with held(*modifiers):
+        time.sleep(0.2 if modifiers else 0.0)
+        deadline = time.monotonic() + 3.0
+        with held(key):
+            while not condition() and time.monotonic() < deadline:
+                time.sleep(0.02)
 
 
 def views_of(program):

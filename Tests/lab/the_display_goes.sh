@@ -22,7 +22,8 @@ processes_here() {
     done 2>/dev/null
 }
 
-exec {ready}< <(exec Xvfb -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
+# A number that no other server has (Tests/desktop/in_desktop.sh).
+exec {ready}< <(exec Xvfb ":$((RANDOM * 32768 + RANDOM))" -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
 server=$!
 read -r -t 20 -u "$ready" display || fail "the X server does not start: $(<"$scratch/server")"
 # Removes the files that a killed server leaves behind.
