@@ -46,8 +46,8 @@ double bytesOfEqualLog(KXConfigAppDelegate& controller) {
 }
 
 bool knowsAll(KXConfigAppDelegate& controller) {
-    return controller.devices().size() == units && controller.allUnits().size() == units &&
-           controller.selectedUnit().has_value();
+    return controller.devices().records().size() == units &&
+           controller.allUnits().size() == units && controller.selectedUnit().has_value();
 }
 
 void memoryOfUnits(benchmark::State& state) {

@@ -60,9 +60,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     runLoop.advanceBy(std::chrono::seconds(3));
 
-    requireInvariant(controller.devices().size() <= datagrams.size(),
+    requireInvariant(controller.devices().records().size() <= datagrams.size(),
                      "a datagram registers one unit at most");
-    requireInvariant(controller.selectedUnit().has_value() == !controller.devices().empty(),
+    requireInvariant(controller.selectedUnit().has_value() ==
+                         !controller.devices().records().empty(),
                      "a completed discovery selects a unit when there is one");
     controller.applicationWillTerminate();
     requireInvariant(systemCalls.openDescriptors().empty(), "no descriptor is left open");

@@ -244,7 +244,7 @@ public:
 
     std::string eventLog() const { return logText.text(); }                       // a copy
     std::string shownLog() const { return logText.shownText(0, logText.size()); } // as it is shown
-    const UnitRegistry::Records& devices() const { return _devicesD.records(); }
+    const UnitRegistry& devices() const { return _devicesD; }
     const std::optional<std::string>& selectedUnit() const { return _selectedUnit; }
     std::optional<std::string> nameOfChosenInterface() const; // in the system; absent before
     const UDPEcho* udpListener() const { return _udpListener.get(); } // null when there is none

@@ -5,8 +5,6 @@
 #include "words/RequestTargetText.h"
 #include "words/SendFailureText.h"
 
-#include <algorithm>
-
 namespace kx {
 
 using namespace std::chrono_literals;
@@ -146,10 +144,9 @@ std::optional<AddressQuestion> KXConfigAppDelegate::questionOfHolder() const {
 
 std::optional<std::string>
 KXConfigAppDelegate::unitOfHardwareAddress(std::string_view hardwareAddress) const {
-    const auto found = std::ranges::find_if(_devicesD.records(), [&](const auto& unit) {
-        return unit.second.value(UnitParameter::internalMACAddress) == hardwareAddress;
+    return _devicesD.lowestWhere([&](const UnitRecord& record) {
+        return record.value(UnitParameter::internalMACAddress) == hardwareAddress;
     });
-    return found != _devicesD.records().end() ? std::optional(found->first) : std::nullopt;
 }
 
 void KXConfigAppDelegate::showForecast() {

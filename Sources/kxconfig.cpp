@@ -288,15 +288,14 @@ int runOnThisHost(kx::QtRunLoop& runLoop, const QString& language) {
                                        servicesOf(host, diagnosis, authorizationService.get()));
     kx::AuthorizedAddressBindings bindings(*authorizationService, [&waiting] { waiting.giveUp(); });
     kx::KXTableRun tableRun(tableServicesOf(host, interfaces, bindings, controller));
-    diagnosis.setSelection({.chosenInterface = [&] { return controller.nameOfChosenInterface(); },
-                            .selectedUnit = [&] { return controller.selectedUnit(); },
-                            .record =
-                                [&](const std::string& serial) {
-                                    const auto unit = controller.devices().find(serial);
-                                    return unit != controller.devices().end()
-                                               ? std::optional<kx::UnitRecord>(unit->second)
-                                               : std::nullopt;
-                                }});
+    diagnosis.setSelection(
+        {.chosenInterface = [&] { return controller.nameOfChosenInterface(); },
+         .selectedUnit = [&] { return controller.selectedUnit(); },
+         .record =
+             [&](const std::string& serial) {
+                 const kx::UnitRecord* const unit = controller.devices().find(serial);
+                 return unit != nullptr ? std::optional<kx::UnitRecord>(*unit) : std::nullopt;
+             }});
     window.setDiagnosis(&diagnosis, [&controller] { controller.openHelp("no-answer"); });
     window.setTableRun(&tableRun, [&controller] { controller.openHelp("many-units"); });
     const int result = runWindow(

@@ -1,5 +1,6 @@
 #include "conversation/AllUnits.h"
 
+#include "support/SlowGrowth.h"
 #include "units/ParameterNumber.h"
 
 #include <algorithm>
@@ -44,6 +45,8 @@ AllUnits::AllUnits(NameOfLink nameOfLink, std::size_t limit, Clock clock)
     : _nameOfLink(std::move(nameOfLink))
     , _limit(limit)
     , _clock(std::move(clock))
+    , _ofSerialNumber(valueOf(UnitParameter::serialNumber))
+    , _ofAddress(valueOf(UnitParameter::internalIPAddress))
     , _latestRequest(_clock.steady()) {}
 
 void AllUnits::clear() {
@@ -104,15 +107,17 @@ bool AllUnits::isSilent(const Unit& unit) const {
 
 // --- Answers ---
 
-std::size_t AllUnits::HashOfIdentity::operator()(const Identity& identity) const {
-    constexpr std::uint64_t oddFactor = 0x9E3779B97F4A7C15; // spreads neighbouring numbers
-    return static_cast<std::size_t>((identity.serial * oddFactor ^ identity.hardwareAddress) *
-                                    oddFactor);
-}
-
 AllUnits::Identity AllUnits::identityOf(const UnitRow& row) {
     return {.serial = row.number(UnitParameter::serialNumber),
             .hardwareAddress = row.number(UnitParameter::internalMACAddress)};
+}
+
+std::uint64_t AllUnits::keyOf(const Identity& identity) {
+    return NumberIndex::keyOf(identity.serial, identity.hardwareAddress);
+}
+
+UnitsOfValue::ValueOf AllUnits::valueOf(UnitParameter parameter) const {
+    return [this, parameter](std::uint32_t unit) { return row(unit).number(parameter); };
 }
 
 void AllUnits::unitDidTell(const HeardUnit& unit) {
@@ -132,21 +137,23 @@ void AllUnits::unitDidTell(const HeardUnit& unit) {
 
 // The number that the unit has or gets. It is in no list of values and ready for another row.
 std::uint32_t AllUnits::numberFor(const Identity& identity) {
-    const auto known = _numbers.find(identity);
-    std::uint32_t number = known != _numbers.end() ? known->second : unitThatMayBecome(identity);
-    if (known == _numbers.end()) {
+    const std::uint32_t known = _numbers.find(
+        keyOf(identity), [&](std::uint32_t unit) { return identityOf(row(unit)) == identity; });
+    std::uint32_t number = known != nobody ? known : unitThatMayBecome(identity);
+    if (known == nobody) {
         if (number == nobody && _units.size() < _limit) {
             number = static_cast<std::uint32_t>(_units.size());
+            makeRoomForOneMore(_units);
             _units.emplace_back();
-            _numbers.emplace(identity, number);
+            _numbers.add(keyOf(identity), number);
             return number;
         }
         if (number == nobody) {
             number = _oldest;
             _isIncomplete = true;
         }
-        _numbers.erase(identityOf(_units[number].row));
-        _numbers.emplace(identity, number);
+        _numbers.remove(keyOf(identityOf(row(number))), number);
+        _numbers.add(keyOf(identity), number);
         _units[number].mayChange = false;
     }
     leave(number);
@@ -167,10 +174,10 @@ std::uint32_t AllUnits::unitThatMayBecome(const Identity& identity) const {
 
 void AllUnits::enter(std::uint32_t unit) {
     const UnitRow& row = _units[unit].row;
-    _ofSerialNumber.add(row.number(UnitParameter::serialNumber), unit);
+    _ofSerialNumber.add(unit);
     bool isShared = _ofSerialNumber.isShared(unit);
     if (row.tells(UnitParameter::internalIPAddress)) {
-        _ofAddress.add(row.number(UnitParameter::internalIPAddress), unit);
+        _ofAddress.add(unit);
         isShared = isShared || _ofAddress.isShared(unit);
     }
     _changesOfOthers += isShared ? 1 : 0;
@@ -179,10 +186,10 @@ void AllUnits::enter(std::uint32_t unit) {
 void AllUnits::leave(std::uint32_t unit) {
     const UnitRow& row = _units[unit].row;
     bool isShared = _ofSerialNumber.isShared(unit);
-    _ofSerialNumber.remove(row.number(UnitParameter::serialNumber), unit);
+    _ofSerialNumber.remove(unit);
     if (row.tells(UnitParameter::internalIPAddress)) {
         isShared = isShared || _ofAddress.isShared(unit);
-        _ofAddress.remove(row.number(UnitParameter::internalIPAddress), unit);
+        _ofAddress.remove(unit);
     }
     _changesOfOthers += isShared ? 1 : 0;
 }

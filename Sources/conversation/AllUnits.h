@@ -15,6 +15,7 @@
 #include "conversation/HeardUnits.h"
 #include "conversation/UnitRow.h"
 #include "conversation/UnitsOfValue.h"
+#include "support/NumberIndex.h"
 
 #include <chrono>
 #include <cstddef>
@@ -25,7 +26,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace kx {
@@ -40,7 +40,7 @@ enum class UnitState : std::uint8_t {
 
 class AllUnits {
 public:
-    // More than any network has. They take some 30 MB of memory.
+    // More than any network has. They take some 20 MB of memory.
     static constexpr std::size_t defaultLimit = 131'072;
 
     static constexpr std::uint32_t nobody = UnitsOfValue::nobody;
@@ -141,9 +141,6 @@ private:
 
         friend bool operator==(const Identity&, const Identity&) = default;
     };
-    struct HashOfIdentity {
-        std::size_t operator()(const Identity& identity) const;
-    };
     struct Unit {
         UnitRow row;
         std::uint64_t hearing = 0;
@@ -157,6 +154,8 @@ private:
     };
 
     static Identity identityOf(const UnitRow& row);
+    static std::uint64_t keyOf(const Identity& identity);
+    UnitsOfValue::ValueOf valueOf(UnitParameter parameter) const;
     std::uint32_t numberFor(const Identity& identity);
     std::uint32_t unitThatMayBecome(const Identity& identity) const;
     void enter(std::uint32_t unit);
@@ -171,7 +170,7 @@ private:
     std::size_t _limit;
     Clock _clock;
     std::vector<Unit> _units;
-    std::unordered_map<Identity, std::uint32_t, HashOfIdentity> _numbers;
+    NumberIndex _numbers; // by identity
     UnitsOfValue _ofSerialNumber;
     UnitsOfValue _ofAddress;
     std::uint32_t _oldest = nobody;

@@ -76,12 +76,9 @@ void ListedHolder::seek(const UnitRegistry& units, std::uint32_t address,
     _except = except;
     const UnitRecord* const record = except.has_value() ? units.find(*except) : nullptr;
     _exceptRecord = record != nullptr ? std::optional(*record) : std::nullopt;
-    _holder.reset();
-    const auto tells = [this](const auto& unit) { return tellsIt(unit.second, unit.first); };
-    const auto found = std::ranges::find_if(units.records(), tells);
-    if (found != units.records().end()) {
-        _holder = found->first;
-    }
+    _holder = units.lowestWhere([this](const UnitRecord& unit) {
+        return tellsIt(unit, unit.value(UnitParameter::serialNumber).value_or(""));
+    });
 }
 
 void ListedHolder::unitDidTell(const UnitRecord& record) {

@@ -28,13 +28,14 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const AnswerOrigin& 
         return;
     }
     const std::uint64_t key = numberOfSixBytes(*serial);
-    const Host now{.hardwareAddress =
+    const Host now{.serial = key,
+                   .hardwareAddress =
                        numberOfSixBytes(record.value(UnitParameter::internalMACAddress)),
                    .sender = origin.sender,
                    .claimedAddress = addressOfText(record.value(UnitParameter::internalIPAddress)),
                    .link = origin.link,
                    .hasToldParameters = true};
-    Host* const first = hostOf(key, now);
+    Host* const first = hostOf(now);
     if (first == nullptr) {
         return;
     }
@@ -47,18 +48,20 @@ void IdentityWitness::unitDidTell(const UnitRecord& record, const AnswerOrigin& 
 
 void IdentityWitness::replyDidCome(std::string_view serial, const AnswerOrigin& origin,
                                    std::vector<Finding>& findings) {
-    const Host now{.sender = origin.sender, .link = origin.link};
-    if (Host* const first = hostOf(numberOfSixBytes(serial), now)) {
+    const Host now{
+        .serial = numberOfSixBytes(serial), .sender = origin.sender, .link = origin.link};
+    if (Host* const first = hostOf(now)) {
         compareHosts(serial, now, *first, findings);
     }
 }
 
 // Null for one serial number too many.
-IdentityWitness::Host* IdentityWitness::hostOf(std::uint64_t serial, const Host& now) {
-    if (_hosts.size() >= mostSerials && !_hosts.contains(serial)) {
-        return nullptr;
+IdentityWitness::Host* IdentityWitness::hostOf(const Host& now) {
+    Host* const known = _hosts.find(now.serial);
+    if (known != nullptr || _hosts.size() >= mostSerials) {
+        return known;
     }
-    return &_hosts.try_emplace(serial, now).first->second;
+    return &_hosts.add(now);
 }
 
 void IdentityWitness::compareHosts(std::string_view serial, const Host& now, Host& first,
@@ -86,20 +89,26 @@ void IdentityWitness::compareHosts(std::string_view serial, const Host& now, Hos
 
 void IdentityWitness::compareClaims(std::string_view serial, std::uint64_t key,
                                     std::uint32_t address, std::vector<Finding>& findings) {
-    if (address == 0 || (_claims.size() >= mostSerials && !_claims.contains(address))) {
+    if (address == 0) {
         return;
     }
-    Claim& claim = _claims.try_emplace(address, Claim{.serial = key}).first->second;
-    if (claim.serial == key) {
+    Claim* const claim = _claims.find(address);
+    if (claim == nullptr) {
+        if (_claims.size() < mostSerials) {
+            _claims.add({.serial = key, .address = address});
+        }
         return;
     }
-    if (!claim.finding.has_value()) {
-        claim.finding = findings.size();
-        findings.push_back(
-            SerialsOfOneAddress{address, {textOfSixBytes(claim.serial, " "), std::string(serial)}});
+    if (claim->serial == key) {
         return;
     }
-    auto& serials = std::get<SerialsOfOneAddress>(findings.at(*claim.finding)).serials;
+    if (claim->finding == notTold) {
+        claim->finding = static_cast<std::uint32_t>(findings.size());
+        findings.push_back(SerialsOfOneAddress{
+            address, {textOfSixBytes(claim->serial, " "), std::string(serial)}});
+        return;
+    }
+    auto& serials = std::get<SerialsOfOneAddress>(findings.at(claim->finding)).serials;
     if (serials.size() < SerialsOfOneAddress::mostSerials &&
         std::ranges::find(serials, serial) == serials.end()) {
         serials.emplace_back(serial);
@@ -109,16 +118,15 @@ void IdentityWitness::compareClaims(std::string_view serial, std::uint64_t key,
 // Of a claim that has been told, any unit may be the one that gives it up.
 void IdentityWitness::expectChange(std::string_view serial) {
     const std::uint64_t key = numberOfSixBytes(serial);
-    const auto host = _hosts.find(key);
-    if (host == _hosts.end()) {
+    const Host* const host = _hosts.find(key);
+    if (host == nullptr) {
         return;
     }
-    const auto claim = _claims.find(host->second.claimedAddress);
-    if (claim != _claims.end() &&
-        (claim->second.serial == key || claim->second.finding.has_value())) {
-        _claims.erase(claim);
+    const Claim* const claim = _claims.find(host->claimedAddress);
+    if (claim != nullptr && (claim->serial == key || claim->finding != notTold)) {
+        _claims.remove(claim->address);
     }
-    _hosts.erase(host);
+    _hosts.remove(key);
 }
 
 } // namespace kx

@@ -5,20 +5,20 @@
 // answer proves who sent it. An honest unit changes what it tells only after a command, so a
 // front announces each command with expectChange(); what the unit told before is then forgotten.
 //
-// A value type; any thread, one at a time. It remembers the first 131,072 serial numbers, about 20
+// A value type; any thread, one at a time. It remembers the first 131,072 serial numbers, about 10
 // MB of memory, and ignores the ones after them, because anybody can invent serial numbers. Every
 // contradiction is told once.
 
 #pragma once
 
 #include "conversation/Finding.h"
+#include "support/KeyedEntries.h"
 #include "units/UnitRecord.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 namespace kx {
@@ -54,6 +54,9 @@ public:
 private:
     // The first answer under a serial number. 0 stands for what was not told.
     struct Host {
+        std::uint64_t key() const { return serial; }
+
+        std::uint64_t serial = 0;
         std::uint64_t hardwareAddress = 0;
         std::uint32_t sender = 0;
         std::uint32_t claimedAddress = 0;
@@ -64,18 +67,22 @@ private:
         bool isToldAsOtherSender = false; // as an answer from another address
     };
     struct Claim {
-        std::uint64_t serial = 0;                // the first that claimed the address
-        std::optional<std::size_t> finding = {}; // where it is told, once another claims it too
-    };
+        std::uint64_t key() const { return address; }
 
-    Host* hostOf(std::uint64_t serial, const Host& now);
+        std::uint64_t serial = 0; // the first that claimed the address
+        std::uint32_t address = 0;
+        std::uint32_t finding = notTold; // where it is told, once another claims it too
+    };
+    static constexpr std::uint32_t notTold = 0xFFFFFFFF;
+
+    Host* hostOf(const Host& now);
     void compareHosts(std::string_view serial, const Host& now, Host& first,
                       std::vector<Finding>& findings);
     void compareClaims(std::string_view serial, std::uint64_t key, std::uint32_t address,
                        std::vector<Finding>& findings);
 
-    std::unordered_map<std::uint64_t, Host> _hosts;   // by serial number
-    std::unordered_map<std::uint32_t, Claim> _claims; // by claimed address
+    KeyedEntries<Host> _hosts;   // by serial number
+    KeyedEntries<Claim> _claims; // by claimed address
 };
 
 } // namespace kx

@@ -9,18 +9,14 @@ UnitRow::UnitRow(const HeardUnit& unit)
     : sender(unit.sender)
     , link(unit.link)
     , answered(unit.answered) {
-    const auto tell = [this](UnitParameter parameter, std::uint64_t number) {
-        _numbers[indexOf(parameter)] = number;
-        _told = static_cast<std::uint8_t>(_told | 1U << indexOf(parameter));
-    };
     for (const UnitParameter parameter : allUnitParameters) {
         const auto text = unit.record.value(parameter);
         if (parameter != UnitParameter::unitID && text.has_value()) {
-            tell(parameter, numberOfParameter(parameter, *text));
+            _values.set(parameter, numberOfParameter(parameter, *text));
         }
     }
     if (unit.unitIDBytes.has_value()) {
-        tell(UnitParameter::unitID, numberOfUnitID(*unit.unitIDBytes));
+        _values.set(UnitParameter::unitID, numberOfUnitID(*unit.unitIDBytes));
     }
 }
 

@@ -6,9 +6,9 @@
 #pragma once
 
 #include "conversation/HeardUnits.h"
+#include "units/PackedValues.h"
 #include "units/UnitParameter.h"
 
-#include <array>
 #include <chrono>
 #include <cstdint>
 #include <optional>
@@ -21,11 +21,11 @@ public:
     UnitRow() = default;
     explicit UnitRow(const HeardUnit& unit);
 
-    bool tells(UnitParameter parameter) const { return (_told >> indexOf(parameter) & 1U) != 0; }
+    bool tells(UnitParameter parameter) const { return _values.has(parameter); }
 
     // The value as units/ParameterNumber.h has it, for the unit ID that of its six bytes. 0 when
     // the unit does not tell it.
-    std::uint64_t number(UnitParameter parameter) const { return _numbers[indexOf(parameter)]; }
+    std::uint64_t number(UnitParameter parameter) const { return _values.number(parameter); }
 
     // The text that a record has: absent when the unit does not tell the value, and for a unit ID
     // that is not UTF-8.
@@ -40,9 +40,7 @@ public:
     std::chrono::system_clock::time_point heard;
 
 private:
-    std::array<std::uint64_t, unitParameterCount> _numbers{};
-    std::uint8_t _told = 0; // a bit for each parameter
-    static_assert(unitParameterCount <= 8);
+    PackedValues _values;
 };
 
 } // namespace kx

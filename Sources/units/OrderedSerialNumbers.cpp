@@ -1,6 +1,7 @@
 #include "units/OrderedSerialNumbers.h"
 
 #include "support/Require.h"
+#include "support/SlowGrowth.h"
 
 #include <algorithm>
 #include <bit>
@@ -16,6 +17,7 @@ constexpr std::size_t shortestRun = 64;
 } // namespace
 
 void OrderedSerialNumbers::Runs::add(Number number) {
+    makeRoomForOneMore(numbers);
     numbers.push_back(number);
     if (numbers.size() % shortestRun != 0) {
         return;

@@ -1,10 +1,14 @@
 #include "units/UnitRegistry.h"
 
+#include "support/SlowGrowth.h"
+#include "units/ParameterNumber.h"
+
 namespace kx {
 
 void UnitRegistry::clear() {
-    _records.clear();
-    _newest = nullptr;
+    _units.clear();
+    _places.clear();
+    _newest = nobody;
     _serialNumbers.clear();
     _withdrawnAddresses.clear();
     _serialBefore.clear();
@@ -16,22 +20,52 @@ bool UnitRegistry::store(const UnitRecord& record) {
     if (!serial.has_value()) {
         return false;
     }
-    const auto [unit, isNew] = _records.try_emplace(std::string(*serial));
-    if (isNew) {
-        unit->second.serial = &unit->first;
-        _serialNumbers.add(unit->first);
-    }
-    const bool isKnown = rename(unit->second, isNew, record) || !isNew;
-    countAnswer(unit->second, !isKnown, record);
-    static_cast<UnitRecord&>(unit->second) = record;
-    hear(unit->second);
+    const std::uint32_t known = placeOf(*serial);
+    const bool isNew = known == nobody;
+    const std::uint32_t place = isNew ? addUnit(*serial) : known;
+    Unit& unit = _units[place];
+    const bool isKnown = rename(unit, isNew, record) || !isNew;
+    countAnswer(unit, !isKnown, record);
+    static_cast<UnitRecord&>(unit) = record;
+    hear(place);
     if (!_withdrawnAddresses.empty()) {
-        _withdrawnAddresses.erase(unit->first);
+        _withdrawnAddresses.erase(std::string(*serial));
     }
-    if (_records.size() > _limit) {
+    if (_units.size() > _limit) {
         forgetOldest();
     }
     return true;
+}
+
+std::uint32_t UnitRegistry::placeOf(std::string_view serial) const {
+    return _places.find(numberOfSixBytes(serial), [this, serial](std::uint32_t place) {
+        return _units[place].serial() == serial;
+    });
+}
+
+std::uint32_t UnitRegistry::addUnit(std::string_view serial) {
+    const auto place = static_cast<std::uint32_t>(_units.size());
+    makeRoomForOneMore(_units);
+    _units.emplace_back().setValue(UnitParameter::serialNumber, serial);
+    _places.add(numberOfSixBytes(serial), place);
+    _serialNumbers.add(serial);
+    return place;
+}
+
+// The last unit takes the place. The unit has left the ring before.
+void UnitRegistry::removeUnit(std::uint32_t place) {
+    const std::string_view serial = _units[place].serial();
+    _serialNumbers.remove(serial);
+    _places.remove(numberOfSixBytes(serial), place);
+    const auto last = static_cast<std::uint32_t>(_units.size() - 1);
+    if (place != last) {
+        const Unit& moved = _units[last];
+        _places.renumber(numberOfSixBytes(moved.serial()), last, place);
+        _units[moved.older].newer = _units[moved.newer].older = place;
+        _newest = _newest == last ? place : _newest;
+        _units[place] = moved;
+    }
+    _units.pop_back();
 }
 
 void UnitRegistry::expectSerialNumber(std::string_view before, std::string_view after) {
@@ -41,18 +75,17 @@ void UnitRegistry::expectSerialNumber(std::string_view before, std::string_view 
 
 // The unit goes on as it was before under its other number, and returns true for one that has.
 bool UnitRegistry::rename(Unit& unit, bool isNew, const UnitRecord& record) {
-    if (_serialBefore.empty() || *unit.serial != _serialAfter) {
+    if (_serialBefore.empty() || unit.serial() != _serialAfter) {
         return false;
     }
-    const auto found = _records.find(_serialBefore);
-    if (found == _records.end() || &found->second == &unit ||
-        !record.hasHardwareAddressOf(found->second)) {
+    const std::uint32_t found = placeOf(_serialBefore);
+    if (found == nobody || &_units[found] == &unit || !record.hasHardwareAddressOf(_units[found])) {
         return false;
     }
-    const UnitRecord& before = found->second;
+    Unit& before = _units[found];
     static_cast<UnitRecord&>(unit) = before;
     unit.setValue(UnitParameter::serialNumber, _serialAfter);
-    unit.round = std::exchange(found->second.round, 0);
+    unit.round = std::exchange(before.round, 0);
     _tally.renamed += isNew ? 1 : 0;
     _serialBefore.clear();
     return true;
@@ -72,7 +105,7 @@ void UnitRegistry::countAnswer(Unit& unit, bool isNew, const UnitRecord& record)
     }
     const auto count = [&unit](RoundTally::Units& units) {
         ++units.count;
-        units.latest = *unit.serial;
+        units.latest = unit.serial();
     };
     ++_tally.answered;
     if (isNew) {
@@ -91,7 +124,7 @@ void UnitRegistry::countAnswer(Unit& unit, bool isNew, const UnitRecord& record)
 
 // A unit that has not moved to its new address tells the one that was withdrawn.
 bool UnitRegistry::tellsTheSame(const Unit& unit, const UnitRecord& record) const {
-    const auto withdrawn = _withdrawnAddresses.find(*unit.serial);
+    const auto withdrawn = _withdrawnAddresses.find(unit.serial());
     if (withdrawn == _withdrawnAddresses.end()) {
         return unit == record;
     }
@@ -101,8 +134,8 @@ bool UnitRegistry::tellsTheSame(const Unit& unit, const UnitRecord& record) cons
 }
 
 bool UnitRegistry::hasAnswered(std::string_view serial) const {
-    const auto found = _records.find(serial);
-    return found != _records.end() && found->second.round == _round;
+    const std::uint32_t place = placeOf(serial);
+    return place != nobody && _units[place].round == _round;
 }
 
 // The ring is in the order in which units were heard, so those of this round are its newest part.
@@ -110,77 +143,77 @@ std::optional<std::string> UnitRegistry::silentUnit() const {
     if (_tally.silent == 0) {
         return std::nullopt;
     }
-    const Unit* unit = _newest->newer;
-    while (unit->round + 1 != _round && unit != _newest) {
-        unit = unit->newer;
+    std::uint32_t place = _units[_newest].newer;
+    while (_units[place].round + 1 != _round && place != _newest) {
+        place = _units[place].newer;
     }
-    return *unit->serial;
+    return std::string(_units[place].serial());
 }
 
 // Never called for the newest unit, which stays where it is.
-void UnitRegistry::leaveRing(Unit& unit) {
-    unit.older->newer = unit.newer;
-    unit.newer->older = unit.older;
+void UnitRegistry::leaveRing(const Unit& unit) {
+    _units[unit.older].newer = unit.newer;
+    _units[unit.newer].older = unit.older;
 }
 
 // Puts the unit behind the newest one.
-void UnitRegistry::hear(Unit& unit) {
-    if (_newest == &unit) {
+void UnitRegistry::hear(std::uint32_t place) {
+    if (_newest == place) {
         return;
     }
-    if (unit.older != nullptr) {
+    Unit& unit = _units[place];
+    if (unit.older != nobody) {
         leaveRing(unit);
     }
-    if (_newest == nullptr) {
-        unit.older = unit.newer = &unit;
+    if (_newest == nobody) {
+        unit.older = unit.newer = place;
     } else {
         unit.older = _newest;
-        unit.newer = _newest->newer;
-        unit.older->newer = unit.newer->older = &unit;
+        unit.newer = _units[_newest].newer;
+        _units[unit.older].newer = _units[unit.newer].older = place;
     }
-    _newest = &unit;
+    _newest = place;
 }
 
 // With the kept unit passed over there is another one, because the limit is at least 2.
 void UnitRegistry::forgetOldest() {
-    Unit* oldest = _newest->newer;
-    if (_kept.has_value() && *_kept == *oldest->serial) {
-        oldest = oldest->newer;
+    std::uint32_t oldest = _units[_newest].newer;
+    if (_kept.has_value() && *_kept == _units[oldest].serial()) {
+        oldest = _units[oldest].newer;
     }
-    leaveRing(*oldest);
-    if (oldest->round == _round) {
+    const Unit& unit = _units[oldest];
+    leaveRing(unit);
+    if (unit.round == _round) {
         --_tally.answered;
-    } else if (oldest->round + 1 == _round) {
+    } else if (unit.round + 1 == _round) {
         --_tally.silent;
     }
-    const auto forgotten = _records.find(*oldest->serial);
-    _serialNumbers.remove(forgotten->first);
-    _withdrawnAddresses.erase(forgotten->first);
-    _records.erase(forgotten);
+    _withdrawnAddresses.erase(std::string(unit.serial()));
+    removeUnit(oldest);
     ++_forgotten;
 }
 
 const UnitRecord* UnitRegistry::find(std::string_view serial) const {
-    const auto found = _records.find(serial);
-    return found != _records.end() ? &found->second : nullptr;
+    const std::uint32_t place = placeOf(serial);
+    return place != nobody ? &_units[place] : nullptr;
 }
 
 void UnitRegistry::withdrawAddress(std::string_view serial) {
-    const auto found = _records.find(serial);
-    if (found == _records.end()) {
+    const std::uint32_t place = placeOf(serial);
+    if (place == nobody) {
         return;
     }
-    const auto address = found->second.value(UnitParameter::internalIPAddress);
+    const auto address = _units[place].value(UnitParameter::internalIPAddress);
     if (address.has_value()) {
-        _withdrawnAddresses.insert_or_assign(found->first, std::string(*address));
-        found->second.removeValue(UnitParameter::internalIPAddress);
+        _withdrawnAddresses.insert_or_assign(std::string(serial), std::string(*address));
+        _units[place].removeValue(UnitParameter::internalIPAddress);
     }
 }
 
 void UnitRegistry::setLink(std::string_view serial, std::uint32_t link) {
-    const auto found = _records.find(serial);
-    if (found != _records.end() && link != 0) {
-        found->second.setLink(link);
+    const std::uint32_t place = placeOf(serial);
+    if (place != nobody && link != 0) {
+        _units[place].setLink(link);
     }
 }
 

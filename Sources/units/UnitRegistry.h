@@ -7,6 +7,7 @@
 
 #pragma once
 
+#include "support/NumberIndex.h"
 #include "support/TitleList.h"
 #include "units/OrderedSerialNumbers.h"
 #include "units/UnitRecord.h"
@@ -16,9 +17,11 @@
 #include <functional>
 #include <map>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 namespace kx {
 
@@ -49,8 +52,6 @@ private:
 public:
     // More than any network has, and small enough for a desktop's memory.
     static constexpr std::size_t defaultLimit = 1'048'576;
-
-    using Records = std::map<std::string, Unit, std::less<>>; // values are UnitRecords
 
     // `limit` is the most units that it keeps, at least 2.
     explicit UnitRegistry(std::size_t limit = defaultLimit)
@@ -105,33 +106,54 @@ public:
     // told its record; absent when the unit told none.
     std::optional<std::string_view> lastToldAddress(std::string_view serial) const;
 
-    // Ascending by serial number.
-    const Records& records() const { return _records; }
+    // The record of every unit, in no order. Each tells a serial number. Valid until the next
+    // store() or clear().
+    std::span<const Unit> records() const { return _units; }
 
-    // Every serial number once, in ascending order. These are the keys of records(), but the list
-    // is ready in a fraction of the time that a walk over the records takes.
+    // Every serial number once, in ascending order.
     TitleList serialNumbers() { return _serialNumbers.list(); }
 
+    // The serial number of the unit whose record `tells` says it of; of several units the lowest
+    // number, absent without one. Looks at every unit.
+    template<class Tells>
+    std::optional<std::string> lowestWhere(const Tells& tells) const {
+        std::optional<std::string_view> lowest;
+        for (const Unit& unit : _units) {
+            if (tells(static_cast<const UnitRecord&>(unit)) &&
+                (!lowest.has_value() || unit.serial() < *lowest)) {
+                lowest = unit.serial();
+            }
+        }
+        return lowest.has_value() ? std::optional<std::string>(*lowest) : std::nullopt;
+    }
+
 private:
+    static constexpr std::uint32_t nobody = NumberIndex::nothing;
+
     // The units form a ring in the order in which they were heard, so that finding the next one to
-    // forget takes no search.
+    // forget takes no search. They stand for themselves by their places.
     struct Unit : UnitRecord {
-        Unit* older = nullptr;
-        Unit* newer = nullptr;
-        const std::string* serial = nullptr; // the key of this unit
-        std::uint32_t round = 0;             // the latest one in which it answered
+        std::string_view serial() const { return value(UnitParameter::serialNumber).value_or(""); }
+
+        std::uint32_t older = nobody;
+        std::uint32_t newer = nobody;
+        std::uint32_t round = 0; // the latest one in which it answered
     };
 
+    std::uint32_t placeOf(std::string_view serial) const;
+    std::uint32_t addUnit(std::string_view serial);
+    void removeUnit(std::uint32_t place);
     void countAnswer(Unit& unit, bool isNew, const UnitRecord& record);
     bool rename(Unit& unit, bool isNew, const UnitRecord& record);
     bool tellsTheSame(const Unit& unit, const UnitRecord& record) const;
-    void hear(Unit& unit);
-    void leaveRing(Unit& unit);
+    void hear(std::uint32_t place);
+    void leaveRing(const Unit& unit);
     void forgetOldest();
 
     std::size_t _limit;
-    Records _records;
-    Unit* _newest = nullptr; // null while there is no unit; its `newer` is the oldest
+    std::vector<Unit> _units;
+    NumberIndex _places;            // of units, by their serial numbers
+    std::uint32_t _newest = nobody; // its `newer` is the oldest
     std::optional<std::string> _kept;
     std::uint64_t _forgotten = 0;
     std::uint32_t _round = 1;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "KXConfigAppDelegate.h"
+#include "RegistryRecords.h"
 #include "doubles/FixedWallClock.h"
 #include "doubles/ManualRunLoop.h"
 #include "doubles/RecordedOutlets.h"
@@ -217,7 +218,7 @@ private:
 
     std::string registryOfProgram() const {
         Lines lines;
-        for (const auto& [serial, record] : controller.devices()) {
+        for (const auto& [serial, record] : recordsBySerialNumber(controller.devices())) {
             lines.push_back(serial);
             for (const UnitParameter parameter : allUnitParameters) {
                 if (const auto value = record.value(parameter)) {

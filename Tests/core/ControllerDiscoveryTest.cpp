@@ -143,7 +143,7 @@ TEST_F(ControllerDiscovery, KeepsFieldAndTableUntilItIsComplete) {
     controller.discoverButton();
     EXPECT_EQ(window.unitIDField.stringValue(), "5");
     EXPECT_EQ(parameterRows(), rows);
-    EXPECT_EQ(controller.devices().size(), 1U);
+    EXPECT_EQ(controller.devices().records().size(), 1U);
     EXPECT_EQ(selectedUnit(), serialFive);
     EXPECT_EQ(window.unitSelectPopUp.titles(), Titles{});
 }
@@ -153,7 +153,7 @@ TEST_F(ControllerDiscovery, LateAnswerIsListedOnlyByTheNextDiscover) {
     runLoop.advanceBy(1000ms);
     receive(unitWithSerial(6).reply());
     EXPECT_EQ(window.unitSelectPopUp.titles(), Titles{serialFive});
-    EXPECT_EQ(controller.devices().size(), 2U);
+    EXPECT_EQ(controller.devices().records().size(), 2U);
     discover({});
     EXPECT_EQ(window.unitSelectPopUp.titles(), (Titles{serialFive, serialSix}));
 }
@@ -342,9 +342,9 @@ TEST_F(ControllerDiscovery, InventedUnitsLeaveTheSelectedOneAndTheRealOnesInTheL
         "More than 1,048,576 units have answered, so the list leaves out those that were not heard "
         "for longest.";
     EXPECT_EQ(discoveryLine(), sentence);
-    EXPECT_EQ(small.devices().size(), 50U);
-    EXPECT_TRUE(small.devices().contains(selected));
-    EXPECT_FALSE(small.devices().contains(other)) << "it was not heard for longest";
+    EXPECT_EQ(small.devices().records().size(), 50U);
+    EXPECT_NE(small.devices().find(selected), nullptr);
+    EXPECT_EQ(small.devices().find(other), nullptr) << "it was not heard for longest";
 
     small.discoverButton();
     EXPECT_TRUE(isNothingFound()) << "the line is about the latest Discover";

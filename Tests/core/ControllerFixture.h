@@ -148,10 +148,9 @@ protected:
     }
 
     std::string value(const std::string& serial, UnitParameter parameter) const {
-        const auto found = controller.devices().find(serial);
-        return found != controller.devices().end()
-                   ? std::string(found->second.value(parameter).value_or("(absent)"))
-                   : "(no such unit)";
+        const UnitRecord* const found = controller.devices().find(serial);
+        return found != nullptr ? std::string(found->value(parameter).value_or("(absent)"))
+                                : "(no such unit)";
     }
 
     std::string selectedUnit() const { return controller.selectedUnit().value_or("(none)"); }

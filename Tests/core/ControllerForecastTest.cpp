@@ -1,6 +1,7 @@
 // The forecast on the quiet line is true at every moment.
 
 #include "ControllerFixture.h"
+#include "RegistryRecords.h"
 #include "units/IdentityText.h"
 #include "words/EditForecast.h"
 
@@ -209,7 +210,7 @@ protected:
 
     // The unit that the line says to have the address, if what it says is true.
     std::optional<std::string> truthfulHolder(const ParameterEdit& edit) const {
-        for (const auto& [serial, record] : controller.devices()) {
+        for (const auto& [serial, record] : recordsBySerialNumber(controller.devices())) {
             const auto hardware = record.value(internalMACAddress);
             const bool isItself =
                 serial == controller.selectedUnit() ||
@@ -239,10 +240,10 @@ protected:
                              .hardwareAddress = selectedValue(internalMACAddress),
                              .isListening = controller.udpListener()->port() != 0};
         if (const auto* const planned = std::get_if<ParameterEdit>(&edit)) {
-            target.newSerialNumberIsTaken = *parameter == serialNumber &&
-                                            planned->expectedText.has_value() &&
-                                            planned->expectedText != controller.selectedUnit() &&
-                                            controller.devices().contains(*planned->expectedText);
+            target.newSerialNumberIsTaken =
+                *parameter == serialNumber && planned->expectedText.has_value() &&
+                planned->expectedText != controller.selectedUnit() &&
+                controller.devices().find(*planned->expectedText) != nullptr;
             const bool isAnother = unitOfRow.has_value() && unitOfRow != controller.selectedUnit();
             target.unitInPlaceOfRow = isAnother ? controller.selectedUnit() : std::nullopt;
             const auto holder =
@@ -255,9 +256,9 @@ protected:
     }
 
     std::optional<std::string> selectedValue(UnitParameter parameter) const {
-        const auto found = controller.devices().find(controller.selectedUnit().value_or(""));
-        const auto text =
-            found != controller.devices().end() ? found->second.value(parameter) : std::nullopt;
+        const UnitRecord* const found =
+            controller.devices().find(controller.selectedUnit().value_or(""));
+        const auto text = found != nullptr ? found->value(parameter) : std::nullopt;
         return text.has_value() ? std::optional<std::string>(*text) : std::nullopt;
     }
 

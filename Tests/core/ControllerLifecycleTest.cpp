@@ -57,7 +57,7 @@ TEST_F(ControllerLifecycle, LaunchSelectsNoUnit) {
     ASSERT_EQ(selectedUnit(), "01 02 03 04 05 06");
     launch();
     EXPECT_EQ(controller.selectedUnit(), std::nullopt);
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
 }
 
 TEST_F(ControllerLifecycle, AnotherPortRestartsTheListenerOnIt) {
@@ -168,7 +168,7 @@ TEST_F(ControllerLifecycle, FailedReadIsLoggedAndTheListenerGoesOn) {
     EXPECT_EQ(logSince(length),
               (Lines{"UDP did receive error.", "  " + posixErrorText(ECONNREFUSED)}));
     receive(SampleUnit().reply());
-    EXPECT_EQ(controller.devices().size(), 1U);
+    EXPECT_EQ(controller.devices().records().size(), 1U);
 }
 
 TEST_F(ControllerLifecycle, EmptyDatagramIsLoggedAsAnError) {
@@ -290,7 +290,7 @@ TEST_F(ControllerLifecycle, TerminationClosesTheSocketAndReleasesEverything) {
     controller.applicationWillTerminate();
     EXPECT_EQ(controller.eventLog(), "");
     EXPECT_EQ(controller.udpListener(), nullptr);
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
     EXPECT_EQ(controller.selectedUnit(), std::nullopt);
     EXPECT_EQ(systemCalls.closeCount(socket), 1U);
     EXPECT_EQ(runLoop.watchCount(), 0U);

@@ -123,7 +123,7 @@ TEST_F(ControllerReceiveBuffer, WithoutTheServiceTheListenerWorksAllTheSame) {
     plain.applicationDidFinishLaunching();
     drop(5);
     runLoop.advanceBy(2000ms);
-    EXPECT_EQ(plain.devices().size(), 1U);
+    EXPECT_EQ(plain.devices().records().size(), 1U);
     EXPECT_TRUE(isNothingFound()) << discoveryLine();
 }
 

@@ -1,6 +1,7 @@
 // Replies in: what of a datagram is logged and kept, and what is sent after it.
 
 #include "ControllerFixture.h"
+#include "RegistryRecords.h"
 #include "doubles/BrokenText.h"
 
 #include <stdexcept>
@@ -51,7 +52,7 @@ TEST_F(ControllerReplies, TagAloneOfAUnitIsARangeFailure) {
     EXPECT_EQ(logOf(textBytes("^^<U>")), Lines{});
     EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
                                        "range {5, 6} exceeds data length 5"});
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
 }
 
 TEST_F(ControllerReplies, SerialNumberCutShortIsARangeFailure) {
@@ -62,14 +63,14 @@ TEST_F(ControllerReplies, SerialNumberCutShortIsARangeFailure) {
 
 TEST_F(ControllerReplies, ItemCutShortStoresNothingAndKeepsTheEarlierRecord) {
     discover({SampleUnit()});
-    const auto before = controller.devices();
+    const auto before = recordsBySerialNumber(controller.devices());
     Bytes datagram = SampleUnit().reply();
     datagram.pop_back(); // the serial number has five bytes left
     datagram[36] = 99;   // the address is another one
     EXPECT_EQ(logOf(datagram), Lines{});
     EXPECT_EQ(systemLog.lines(), Lines{"Exception during echo:didReceiveData:fromAddress: "
                                        "range {3, 6} exceeds data length 8"});
-    EXPECT_EQ(controller.devices(), before);
+    EXPECT_EQ(recordsBySerialNumber(controller.devices()), before);
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::internalIPAddress), "192.168.1.10");
 }
 
@@ -152,8 +153,8 @@ TEST_F(ControllerReplies, ParameterReplyIsLoggedValueByValueAndStored) {
                      "\tdestination Port number: 3520", "\tdevice Port number: 10000",
                      "\tunit ID: 42", "\tdestination MAC address: 00:0A:0B:0C:0D:0E",
                      "\tserial number: 01 02 03 04 05 06"}));
-    ASSERT_EQ(controller.devices().size(), 1U);
-    EXPECT_EQ(controller.devices().at("01 02 03 04 05 06"),
+    ASSERT_EQ(controller.devices().records().size(), 1U);
+    EXPECT_EQ(recordsBySerialNumber(controller.devices()).at("01 02 03 04 05 06"),
               decodeUnitParameters(SampleUnit().parameterList()).record);
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
 }
@@ -161,28 +162,28 @@ TEST_F(ControllerReplies, ParameterReplyIsLoggedValueByValueAndStored) {
 TEST_F(ControllerReplies, RegistryTakesSerialAndUnitFromTheListNotTheHeader) {
     logOf(joined({replyHeader(unitSeven, serialOfSeven), SampleUnit().parameterList()}));
     EXPECT_EQ(value("01 02 03 04 05 06", UnitParameter::unitID), "42");
-    EXPECT_EQ(controller.devices().size(), 1U);
+    EXPECT_EQ(controller.devices().records().size(), 1U);
 }
 
 TEST_F(ControllerReplies, ParameterListUnderAnotherTagIsStoredThoughNotShown) {
     Bytes datagram = SampleUnit().reply();
     datagram[3] = 'X';
     EXPECT_EQ(logOf(datagram), Lines{"Received command: ^^<X>"});
-    EXPECT_EQ(controller.devices().size(), 1U);
+    EXPECT_EQ(controller.devices().records().size(), 1U);
 }
 
 TEST_F(ControllerReplies, ListWithoutASerialNumberIsShownAndNotStored) {
     EXPECT_EQ(logOf(joined({SampleUnit().header(), item("<M>", {1, 2, 3, 4, 5, 6})})),
               (Lines{"Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:",
                      "\tinternal MAC address: 01:02:03:04:05:06"}));
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
 }
 
 TEST_F(ControllerReplies, ListThatDoesNotBeginWithTheMACAddressIsText) {
     const Bytes list = item("<S>", textBytes("ABCDEF"));
     EXPECT_EQ(logOf(joined({SampleUnit().header(), list})).at(0),
               "Received command: ^^<U> unit:42 serial:01 02 03 04 05 06 cidString:$<S>ABCDEF");
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
 }
 
 TEST_F(ControllerReplies, CarriageReturnBehindTheListChangesNothing) {
@@ -213,7 +214,7 @@ TEST_F(ControllerReplies, DatagramOfAnotherEndpointIsIgnoredSilently) {
     const auto before = controller.eventLog();
     controller.echoDidReceiveDataFromAddress(*stranger, SampleUnit().reply(), {});
     EXPECT_EQ(controller.eventLog(), before);
-    EXPECT_TRUE(controller.devices().empty());
+    EXPECT_TRUE(controller.devices().records().empty());
 }
 
 TEST_F(ControllerReplies, SenderOfADatagramDoesNotMatter) {

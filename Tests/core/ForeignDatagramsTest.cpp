@@ -2,6 +2,7 @@
 // say, and the program running.
 
 #include "ControllerFixture.h"
+#include "RegistryRecords.h"
 #include "units/ReferenceDecoder.h"
 
 #include <random>
@@ -39,10 +40,11 @@ protected:
         if (expected.record.has_value()) {
             const std::string& serial = expected.record->at("serial number");
             registry[serial] = *expected.record;
-            ASSERT_EQ(controller.devices().count(serial), 1U);
-            ASSERT_EQ(plain(controller.devices().at(serial)), *expected.record);
+            const UnitRecord* const stored = controller.devices().find(serial);
+            ASSERT_NE(stored, nullptr);
+            ASSERT_EQ(plain(*stored), *expected.record);
         }
-        ASSERT_EQ(controller.devices().size(), registry.size());
+        ASSERT_EQ(controller.devices().records().size(), registry.size());
     }
 
     // No time passes here, so only the first acknowledgements are followed by a request at once.
@@ -55,7 +57,7 @@ protected:
     }
 
     void expectWholeRegistry() {
-        for (const auto& [serial, record] : controller.devices()) {
+        for (const auto& [serial, record] : recordsBySerialNumber(controller.devices())) {
             ASSERT_EQ(plain(record), registry.at(serial));
         }
     }
@@ -141,10 +143,10 @@ TEST_F(ForeignDatagrams, ReplyIsStoredAtItsFullLengthAlone) {
     const Bytes reply = SampleUnit().reply();
     for (std::size_t length = 1; length < reply.size(); ++length) {
         receive(cut(reply, length));
-        ASSERT_TRUE(controller.devices().empty()) << length;
+        ASSERT_TRUE(controller.devices().records().empty()) << length;
     }
     receive(reply);
-    EXPECT_EQ(controller.devices().size(), 1U);
+    EXPECT_EQ(controller.devices().records().size(), 1U);
 }
 
 TEST_F(ForeignDatagrams, RepliesWithAnySingleByteChanged) {
