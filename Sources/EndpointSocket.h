@@ -1,5 +1,5 @@
-// The socket of an endpoint: a descriptor, its watch on the run loop, and what has been read ahead
-// of it.
+// The socket of an endpoint: a descriptor with its watch on the run loop. It has what the system
+// calls have read ahead read too, in turns that leave time for other events.
 //
 // Threading: everything, callbacks included, on the thread of the run loop. Ownership: run loop,
 // system calls and the callback's context must outlive the socket.

@@ -4,6 +4,7 @@
 #include "units/ParameterNumber.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 
 namespace kx {

@@ -12,6 +12,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <utility>
 #include <vector>
 
 namespace kx {
@@ -26,6 +27,8 @@ public:
     // What `valueOf` says of a unit must not change between its add() and its remove().
     explicit UnitsOfValue(ValueOf valueOf)
         : _valueOf(std::move(valueOf)) {}
+    UnitsOfValue(const UnitsOfValue&) = delete; // a copy would ask the same owner
+    UnitsOfValue& operator=(const UnitsOfValue&) = delete;
 
     // Forgets all units.
     void clear();

@@ -1,5 +1,6 @@
 // Entries that are found by a number of their own, which they tell by `std::uint64_t key() const`.
-// They lie side by side, so each takes some fifteen bytes more than itself.
+// They lie side by side, and each takes ten to twenty bytes more than itself for the index. The key
+// of an entry must not change while it is there.
 //
 // A value type; any thread, one at a time. Pointers to entries are valid until one is added or
 // removed.

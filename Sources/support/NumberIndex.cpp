@@ -1,6 +1,7 @@
 #include "support/NumberIndex.h"
 
 #include <random>
+#include <utility>
 
 namespace kx {
 
@@ -8,33 +9,38 @@ namespace {
 
 constexpr std::size_t fewestSlots = 16;
 
-std::uint64_t secretOfProcess() {
-    static const std::uint64_t secret = [] {
+struct Secrets {
+    std::uint64_t summand = 0;
+    std::uint64_t firstFactor = 0; // factors are odd, so no two keys become one
+    std::uint64_t secondFactor = 0;
+};
+
+const Secrets& secretsOfProcess() {
+    static const Secrets secrets = [] {
         std::random_device source;
-        return std::uint64_t{source()} << 32U | source();
+        const auto number = [&source] { return std::uint64_t{source()} << 32U | source(); };
+        return Secrets{
+            .summand = number(), .firstFactor = number() | 1U, .secondFactor = number() | 1U};
     }();
-    return secret;
+    return secrets;
 }
 
-// Every bit of the key changes half of the bits of the result. These are the steps and numbers of
-// the finalizer of MurmurHash3.
+// Different keys stay different. The upper bits of the result depend on all bits of the key.
 std::uint64_t mixed(std::uint64_t key) {
-    key ^= key >> 33U;
-    key *= 0xFF51AFD7ED558CCD;
-    key ^= key >> 33U;
-    key *= 0xC4CEB9FE1A85EC53;
-    key ^= key >> 33U;
+    const Secrets& secrets = secretsOfProcess();
+    key = (key + secrets.summand) * secrets.firstFactor;
+    key = (key ^ key >> 32U) * secrets.secondFactor;
     return key;
 }
 
 } // namespace
 
 std::uint64_t NumberIndex::keyOf(std::uint64_t first, std::uint64_t second) {
-    return mixed(first ^ secretOfProcess()) ^ second;
+    return mixed(first) ^ second;
 }
 
 std::uint32_t NumberIndex::hashOf(std::uint64_t key) {
-    return static_cast<std::uint32_t>(mixed(key + secretOfProcess()));
+    return static_cast<std::uint32_t>(mixed(key) >> 32U);
 }
 
 void NumberIndex::clear() {

@@ -1,8 +1,11 @@
 // Finds things by a key that the things themselves hold. The index keeps their numbers alone, such
-// as their places in a vector, and a part of the hash of each key: some ten bytes for each thing.
+// as their places in a vector, and a part of the hash of each key: ten to twenty bytes for each
+// thing. Each number is there once at most.
 //
-// The hash has a secret of the process, so a stranger who chooses the keys cannot make many of them
-// meet. A table of open addresses, probed in order.
+// The hash depends on secrets of the process, so a stranger who chooses the keys has no practical
+// way to give many of them the same place. The first use of all asks the system for the secrets,
+// and throws the exception of std::random_device when it has none. Open addressing with linear
+// probing.
 //
 // A value type; any thread, one at a time.
 
@@ -45,10 +48,10 @@ public:
     // Adds a thing that is not there.
     void add(std::uint64_t key, std::uint32_t number);
 
-    // Removes a thing that is there with this key.
+    // Removes a thing. It must be there with this key.
     void remove(std::uint64_t key, std::uint32_t number);
 
-    // The thing of this key and number has another number from now on.
+    // A thing that is there with this key has another number from now on.
     void renumber(std::uint64_t key, std::uint32_t before, std::uint32_t after);
 
 private:
@@ -64,7 +67,9 @@ private:
     void enter(Slot slot);
     void grow();
 
-    std::vector<Slot> _slots; // as many as a power of two, and a fifth of them free
+    // As many as a power of two, and at least three sixteenths of them free. Every search ends at a
+    // free one.
+    std::vector<Slot> _slots;
     std::size_t _size = 0;
 };
 

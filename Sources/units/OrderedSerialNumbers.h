@@ -1,5 +1,5 @@
-// Serial numbers in ascending order, for any number of units. A list of them is ready in a fraction
-// of the time of a walk over the registry's records, because those lie scattered in memory.
+// Serial numbers in ascending order, for any number of units. The registry's records are in no
+// order, and to sort them for each list would take many times as long.
 //
 // They are short texts, compared by their bytes. Any thread, one at a time.
 

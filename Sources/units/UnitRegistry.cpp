@@ -1,12 +1,18 @@
 #include "units/UnitRegistry.h"
 
+#include "support/Require.h"
 #include "support/SlowGrowth.h"
 #include "units/ParameterNumber.h"
 
 namespace kx {
 
+UnitRegistry::UnitRegistry(std::size_t limit)
+    : _limit(limit) {
+    require(limit >= 2, "limit >= 2", "Sources/units/UnitRegistry");
+}
+
 void UnitRegistry::clear() {
-    _units.clear();
+    _units = {};
     _places.clear();
     _newest = nobody;
     _serialNumbers.clear();
@@ -52,7 +58,7 @@ std::uint32_t UnitRegistry::addUnit(std::string_view serial) {
     return place;
 }
 
-// The last unit takes the place. The unit has left the ring before.
+// The unit must have left the ring before. The last unit moves to its place.
 void UnitRegistry::removeUnit(std::uint32_t place) {
     const std::string_view serial = _units[place].serial();
     _serialNumbers.remove(serial);

@@ -53,9 +53,8 @@ public:
     // More than any network has, and small enough for a desktop's memory.
     static constexpr std::size_t defaultLimit = 1'048'576;
 
-    // `limit` is the most units that it keeps, at least 2.
-    explicit UnitRegistry(std::size_t limit = defaultLimit)
-        : _limit(limit) {}
+    // `limit` is the most units that it keeps. Contract: "limit >= 2".
+    explicit UnitRegistry(std::size_t limit = defaultLimit);
     UnitRegistry(const UnitRegistry&) = delete;
     UnitRegistry& operator=(const UnitRegistry&) = delete;
 
@@ -63,7 +62,9 @@ public:
     void clear();
 
     // Adds a unit, or replaces the whole record of a known unit; either is now the one that was
-    // heard last. For a record without a serial number, returns false and stores nothing.
+    // heard last. For a record without a serial number, returns false and stores nothing. Serial
+    // numbers of other forms than replies give (ValueForm::serialNumber) are stored too, but many
+    // of them take long to find.
     bool store(const UnitRecord& record);
 
     // The unit of this serial number never makes room for another one. Absent: no unit is kept so.
@@ -131,7 +132,7 @@ private:
     static constexpr std::uint32_t nobody = NumberIndex::nothing;
 
     // The units form a ring in the order in which they were heard, so that finding the next one to
-    // forget takes no search. They stand for themselves by their places.
+    // forget takes no search. A link of the ring is a place in `_units`.
     struct Unit : UnitRecord {
         std::string_view serial() const { return value(UnitParameter::serialNumber).value_or(""); }
 
@@ -156,7 +157,7 @@ private:
     std::uint32_t _newest = nobody; // its `newer` is the oldest
     std::optional<std::string> _kept;
     std::uint64_t _forgotten = 0;
-    std::uint32_t _round = 1;
+    std::uint32_t _round = 2; // 0 is then neither this round nor the one before
     RoundTally _tally;
     OrderedSerialNumbers _serialNumbers;
     std::map<std::string, std::string, std::less<>> _withdrawnAddresses; // by serial number

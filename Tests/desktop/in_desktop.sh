@@ -45,8 +45,8 @@ end_desktop() {
     rm -rf -- "$scratch"
 }
 
-# A number that no other server has. Servers of several network namespaces do not see each other's numbers, and
-# two that start at once under one number spoil each other's keymap, which lies in a file of that number.
+# The number is a random one, because servers of several network namespaces do not see each other's numbers, and two
+# that start at once under one number spoil each other's keymap, which lies in a file of that number.
 start_server() {
     local number=$((RANDOM * 32768 + RANDOM))
     mkfifo -- "$scratch/display"

@@ -22,7 +22,7 @@ processes_here() {
     done 2>/dev/null
 }
 
-# A number that no other server has (Tests/desktop/in_desktop.sh).
+# Tests/desktop/in_desktop.sh says why the number is a random one.
 exec {ready}< <(exec Xvfb ":$((RANDOM * 32768 + RANDOM))" -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
 server=$!
 read -r -t 20 -u "$ready" display || fail "the X server does not start: $(<"$scratch/server")"

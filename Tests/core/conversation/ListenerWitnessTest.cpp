@@ -15,7 +15,7 @@ namespace kx {
 
 namespace {
 
-constexpr std::uint32_t ownAddress = 0xC0A80101U;
+constexpr std::uint32_t listenersAddress = 0xC0A80101U;
 constexpr std::uint32_t unitAddress = 0xC0A8010AU;
 constexpr std::uint32_t everybodyThere = 0xC0A801FFU;
 constexpr std::uint16_t probePort = 40000;
@@ -52,7 +52,7 @@ protected:
     ListenerEvidence evidence() { return witness.evidence(own); }
 
     const Bytes request = textBytes("^^IdX");
-    const std::vector<std::uint32_t> own{ownAddress};
+    const std::vector<std::uint32_t> own{listenersAddress};
     ScriptedSystemCalls calls;
     ScriptedReceiveBufferControl buffers;
     ListenerWitness witness{calls, &buffers};
@@ -107,7 +107,7 @@ TEST_F(ListenerWitnessTest, HearsItsOwnBroadcastAndNotThatOfAnotherComputer) {
     EXPECT_EQ(evidence().ownBroadcast, OwnBroadcast::notHeard);
     receive(request, unitAddress);
     EXPECT_EQ(evidence().ownBroadcast, OwnBroadcast::notHeard);
-    EXPECT_EQ(receive(request, ownAddress), request) << "its owner reads it too";
+    EXPECT_EQ(receive(request, listenersAddress), request) << "its owner reads it too";
     EXPECT_EQ(evidence().ownBroadcast, OwnBroadcast::heard);
 }
 
@@ -119,15 +119,15 @@ TEST_F(ListenerWitnessTest, OnAnotherPortItsOwnBroadcastCannotComeBack) {
 
 TEST_F(ListenerWitnessTest, TakesOutAProbeOfThisHostAndNothingElse) {
     witness.expectProbes({probePort}, own);
-    EXPECT_EQ(receive(request, ownAddress, probePort), std::nullopt);
+    EXPECT_EQ(receive(request, listenersAddress, probePort), std::nullopt);
     EXPECT_EQ(errno, 0);
     EXPECT_TRUE(witness.hasHeardProbe());
     EXPECT_EQ(evidence().ownBroadcast, OwnBroadcast::heard);
     EXPECT_TRUE(receive(request, unitAddress, probePort).has_value());
-    EXPECT_TRUE(receive(request, ownAddress, 3520).has_value());
-    EXPECT_TRUE(receive(SampleUnit().reply(), ownAddress, probePort).has_value());
+    EXPECT_TRUE(receive(request, listenersAddress, 3520).has_value());
+    EXPECT_TRUE(receive(SampleUnit().reply(), listenersAddress, probePort).has_value());
     witness.expectProbes({}, {});
-    EXPECT_TRUE(receive(request, ownAddress, probePort).has_value());
+    EXPECT_TRUE(receive(request, listenersAddress, probePort).has_value());
 }
 
 TEST_F(ListenerWitnessTest, TellsAnswersThatCannotBeDecodedFromWhateverElseComes) {
@@ -164,13 +164,13 @@ TEST_F(ListenerWitnessTest, DecodesNoMoreThanItsShareOfAFlood) {
 
 TEST_F(ListenerWitnessTest, RequestsOfAnotherListenerOfTheProgramAreTakenOutAndNoOther) {
     witness.passOverRequestsFrom(3521, own);
-    EXPECT_EQ(receive(request, ownAddress, 3521), std::nullopt);
-    EXPECT_EQ(receive(request, ownAddress, 3520), request) << "the listener's own";
+    EXPECT_EQ(receive(request, listenersAddress, 3521), std::nullopt);
+    EXPECT_EQ(receive(request, listenersAddress, 3520), request) << "the listener's own";
     EXPECT_EQ(receive(request, unitAddress, 3521), request) << "of another host";
-    EXPECT_EQ(receive(textBytes("^^IdZ"), ownAddress, 3521), textBytes("^^IdZ"))
+    EXPECT_EQ(receive(textBytes("^^IdZ"), listenersAddress, 3521), textBytes("^^IdZ"))
         << "no request for parameters";
     witness.passOverRequestsFrom(0, {});
-    EXPECT_EQ(receive(request, ownAddress, 3521), request);
+    EXPECT_EQ(receive(request, listenersAddress, 3521), request);
 }
 
 } // namespace kx

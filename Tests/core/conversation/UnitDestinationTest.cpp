@@ -8,13 +8,13 @@ namespace {
 
 using enum UnitParameter;
 
-constexpr Everybody everybody{.address = 0xC0A801FFU, .link = 7}; // 192.168.1.255
+constexpr Everybody toEverybody{.address = 0xC0A801FFU, .link = 7}; // 192.168.1.255
 
 UnitDestination destinationOf(std::string_view address, std::string_view port) {
     UnitRecord record;
     record.setValue(internalIPAddress, address);
     record.setValue(devicePortNumber, port);
-    return destinationOfUnit(&record, everybody);
+    return destinationOfUnit(&record, toEverybody);
 }
 
 } // namespace
@@ -38,24 +38,24 @@ TEST(UnitDestination, IsWhatTheUnitHasToldOfItself) {
 }
 
 TEST(UnitDestination, WithoutARecordIsEverybodyOnTheDefaultPort) {
-    const UnitDestination nobody = destinationOfUnit(nullptr, everybody);
-    EXPECT_EQ(nobody.address, everybody.address);
+    const UnitDestination nobody = destinationOfUnit(nullptr, toEverybody);
+    EXPECT_EQ(nobody.address, toEverybody.address);
     EXPECT_EQ(nobody.port, 3520);
 }
 
 TEST(UnitDestination, WithoutAnAddressIsEverybodyOnTheUnitsOwnPort) {
     UnitRecord record;
     record.setValue(devicePortNumber, "10000");
-    const UnitDestination moving = destinationOfUnit(&record, everybody);
-    EXPECT_EQ(moving.address, everybody.address);
+    const UnitDestination moving = destinationOfUnit(&record, toEverybody);
+    EXPECT_EQ(moving.address, toEverybody.address);
     EXPECT_EQ(moving.port, 10000);
 }
 
 TEST(UnitDestination, WithoutAPortIsTheUnitOnTheDefaultPort) {
     UnitRecord record;
     record.setValue(internalIPAddress, "192.168.1.10");
-    EXPECT_EQ(destinationOfUnit(&record, everybody).address, 0xC0A8010AU);
-    EXPECT_EQ(destinationOfUnit(&record, everybody).port, 3520);
+    EXPECT_EQ(destinationOfUnit(&record, toEverybody).address, 0xC0A8010AU);
+    EXPECT_EQ(destinationOfUnit(&record, toEverybody).port, 3520);
     EXPECT_EQ(destinationOf("192.168.1.10", "").port, 3520);
 }
 
@@ -68,15 +68,15 @@ TEST(UnitDestination, IsReachedByTheLinkOnWhichTheUnitWasHeard) {
     UnitRecord record;
     record.setValue(internalIPAddress, "10.0.0.7");
     record.setLink(3);
-    EXPECT_EQ(destinationOfUnit(&record, everybody).link, 3U);
+    EXPECT_EQ(destinationOfUnit(&record, toEverybody).link, 3U);
     EXPECT_EQ(destinationOf("192.168.1.10", "10000").link, 0U) << "no link was told";
 }
 
 TEST(UnitDestination, EverybodyIsReachedByTheChosenLink) {
-    EXPECT_EQ(destinationOfUnit(nullptr, everybody).link, 7U);
+    EXPECT_EQ(destinationOfUnit(nullptr, toEverybody).link, 7U);
     UnitRecord withoutAddress;
     withoutAddress.setLink(3);
-    EXPECT_EQ(destinationOfUnit(&withoutAddress, everybody).link, 7U);
+    EXPECT_EQ(destinationOfUnit(&withoutAddress, toEverybody).link, 7U);
     EXPECT_EQ(destinationOfUnit(nullptr, Everybody()).address, limitedBroadcastAddress);
     EXPECT_EQ(destinationOfUnit(nullptr, Everybody()).link, 0U);
 }
@@ -88,9 +88,9 @@ TEST(UnitDestination, ABroadcastLeavesByTheChosenLinkWhicheverUnitTellsItAsItsAd
         record.setLink(3);
         return destinationOfUnit(&record, all).link;
     };
-    EXPECT_EQ(linkTo("255.255.255.255", everybody), 7U);
-    EXPECT_EQ(linkTo("192.168.1.255", everybody), 7U);
-    EXPECT_EQ(linkTo("192.168.1.254", everybody), 3U);
+    EXPECT_EQ(linkTo("255.255.255.255", toEverybody), 7U);
+    EXPECT_EQ(linkTo("192.168.1.255", toEverybody), 7U);
+    EXPECT_EQ(linkTo("192.168.1.254", toEverybody), 3U);
     EXPECT_EQ(linkTo("255.255.255.255", Everybody()), 3U) << "nothing is chosen";
 }
 

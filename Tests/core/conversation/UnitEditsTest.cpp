@@ -51,7 +51,7 @@ protected:
     bool hasEnded = false;
 };
 
-using States = std::vector<ChangeState>;
+using ChangeStates = std::vector<ChangeState>;
 
 } // namespace
 
@@ -69,7 +69,7 @@ TEST_F(UnitEditsTest, GoFromTheHarmlessToTheSerialNumber) {
     EXPECT_EQ(latest(), "192.168.1.10:4000 ^^IdS010203040509");
     obey([](SampleUnit& each) { each.serial.back() = 9; });
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), States(4, ChangeState::done));
+    EXPECT_EQ(states(), ChangeStates(4, ChangeState::done));
     EXPECT_EQ(edits->unit().serialNumber(), "01 02 03 04 05 09");
     EXPECT_FALSE(edits->isAmbiguous());
 }
@@ -77,7 +77,7 @@ TEST_F(UnitEditsTest, GoFromTheHarmlessToTheSerialNumber) {
 TEST_F(UnitEditsTest, AValueThatIsThereIsNotSent) {
     begin({{UnitParameter::unitID, "42"}, {UnitParameter::devicePortNumber, "10000"}});
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), States(2, ChangeState::unchanged));
+    EXPECT_EQ(states(), ChangeStates(2, ChangeState::unchanged));
     EXPECT_EQ(latest(), "(nothing)");
 }
 
@@ -86,7 +86,7 @@ TEST_F(UnitEditsTest, AUnitIDIsShownWhenItsBytesAreFilledUpWithZeros) {
     obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 1}; });
     EXPECT_FALSE(hasEnded);
     obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 0}; });
-    EXPECT_EQ(states(), States{ChangeState::done});
+    EXPECT_EQ(states(), ChangeStates{ChangeState::done});
     EXPECT_EQ(edits->changes()[0].from, "42");
     EXPECT_EQ(edits->changes()[0].to, "AB");
 }
@@ -98,7 +98,7 @@ TEST_F(UnitEditsTest, AnotherValueDoesNotHoldUpTheHarmlessOnes) {
     runLoop.advanceBy(1000ms);
     EXPECT_EQ(latest(), "192.168.1.10:10000 ^^IdT0DC3");
     obey([](SampleUnit& each) { each.destinationPort = {0x0D, 0xC3}; });
-    EXPECT_EQ(states(), (States{ChangeState::different, ChangeState::done}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::different, ChangeState::done}));
     EXPECT_EQ(edits->changes()[0].shown, "42");
 }
 
@@ -109,14 +109,14 @@ TEST_F(UnitEditsTest, NothingFollowsAStepThatFailedOnTheWayToTheUnit) {
     receive(unit.reply());
     runLoop.advanceBy(1000ms);
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), (States{ChangeState::refused, ChangeState::different}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::refused, ChangeState::different}));
 }
 
 TEST_F(UnitEditsTest, NothingFollowsSilence) {
     begin({{UnitParameter::unitID, "AB"}, {UnitParameter::destinationPortNumber, "3523"}});
     runLoop.advanceBy(3000ms);
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), (States{ChangeState::silent, ChangeState::refused}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::silent, ChangeState::refused}));
 }
 
 TEST_F(UnitEditsTest, AUnitIsAskedAtItsNewAndItsOldDevicePort) {
@@ -130,7 +130,7 @@ TEST_F(UnitEditsTest, ACommandThatTheNetworkRefusesEndsThem) {
     systemCalls.failNext(Operation::sendTo, ENETUNREACH);
     begin({{UnitParameter::unitID, "AB"}});
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), States{ChangeState::refused});
+    EXPECT_EQ(states(), ChangeStates{ChangeState::refused});
     EXPECT_EQ(edits->failure()->error, posixError(ENETUNREACH));
 }
 
@@ -142,7 +142,7 @@ TEST_F(UnitEditsTest, AnotherUnitWithTheSameSerialNumberEndsThem) {
     obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 0}; });
     EXPECT_TRUE(hasEnded);
     EXPECT_TRUE(edits->isAmbiguous());
-    EXPECT_EQ(states(), (States{ChangeState::done, ChangeState::refused}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::done, ChangeState::refused}));
 }
 
 TEST_F(UnitEditsTest, AnInterruptionWaitsForTheCommandAndSendsNoOther) {
@@ -151,7 +151,7 @@ TEST_F(UnitEditsTest, AnInterruptionWaitsForTheCommandAndSendsNoOther) {
     EXPECT_FALSE(hasEnded);
     obey([](SampleUnit& each) { each.unitID = {'A', 'B', 0, 0, 0, 0}; });
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), (States{ChangeState::done, ChangeState::refused}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::done, ChangeState::refused}));
 }
 
 TEST_F(UnitEditsTest, AMoveIsOneOfTheSteps) {
@@ -166,7 +166,7 @@ TEST_F(UnitEditsTest, AMoveIsOneOfTheSteps) {
     runLoop.advanceBy(20ms);
     EXPECT_EQ(latest(), "192.168.1.50:10000 ^^IdS010203040509");
     obey([](SampleUnit& each) { each.serial.back() = 9; });
-    EXPECT_EQ(states(), States(2, ChangeState::done));
+    EXPECT_EQ(states(), ChangeStates(2, ChangeState::done));
     EXPECT_EQ(edits->move()->state(), MoveState::moved);
 }
 
@@ -177,7 +177,7 @@ TEST_F(UnitEditsTest, AMoveThatIsNotBegunLeavesTheRestAlone) {
            {UnitParameter::serialNumber, "010203040509"}});
     runLoop.advanceBy(300ms);
     EXPECT_TRUE(hasEnded);
-    EXPECT_EQ(states(), States(2, ChangeState::refused));
+    EXPECT_EQ(states(), ChangeStates(2, ChangeState::refused));
     EXPECT_EQ(edits->move()->state(), MoveState::held);
 }
 
@@ -188,7 +188,7 @@ TEST_F(UnitEditsTest, NothingIsSentWhenSomebodyHoldsTheNewAddress) {
     runLoop.advanceBy(300ms);
     EXPECT_TRUE(hasEnded);
     EXPECT_EQ(latest(), "(nothing)");
-    EXPECT_EQ(states(), States(2, ChangeState::refused));
+    EXPECT_EQ(states(), ChangeStates(2, ChangeState::refused));
     EXPECT_EQ(edits->move()->state(), MoveState::held);
     EXPECT_EQ(edits->move()->holders().holders.at(0).hardwareAddress, otherHardware);
 }
@@ -209,7 +209,7 @@ TEST_F(UnitEditsTest, AnInterruptionOfTheSearchSendsNothing) {
     EXPECT_TRUE(hasEnded);
     runLoop.advanceBy(5000ms);
     EXPECT_EQ(latest(), "(nothing)");
-    EXPECT_EQ(states(), States(2, ChangeState::refused));
+    EXPECT_EQ(states(), ChangeStates(2, ChangeState::refused));
     EXPECT_EQ(edits->move(), nullptr);
 }
 
@@ -224,7 +224,7 @@ TEST_F(UnitEditsTest, NothingFollowsAMoveAfterWhichAnotherAnswersForTheAddress) 
     runLoop.advanceBy(20ms);
     EXPECT_TRUE(hasEnded);
     EXPECT_EQ(edits->move()->state(), MoveState::foreignAnswer);
-    EXPECT_EQ(states(), (States{ChangeState::done, ChangeState::refused}));
+    EXPECT_EQ(states(), (ChangeStates{ChangeState::done, ChangeState::refused}));
     EXPECT_EQ(latest(), "192.168.1.50:10000 ^^IdIC0A80132");
 }
 

@@ -21,13 +21,13 @@ Number numberAt(const Bytes& bytes, std::size_t offset) {
 
 constexpr auto wordAt = numberAt<std::uint32_t>;
 
-const CapturedDatagram sample{.time = std::chrono::microseconds(0x0001'0000'0002),
-                              .isOwn = true,
-                              .source = 0xC0000201U,
-                              .destination = 0xC00002FFU,
-                              .sourcePort = 3520,
-                              .destinationPort = 3521,
-                              .comment = "note"};
+const CapturedDatagram sampleDatagram{.time = std::chrono::microseconds(0x0001'0000'0002),
+                                      .isOwn = true,
+                                      .source = 0xC0000201U,
+                                      .destination = 0xC00002FFU,
+                                      .sourcePort = 3520,
+                                      .destinationPort = 3521,
+                                      .comment = "note"};
 const Bytes fiveBytes{'^', '^', 'I', 'd', 'X'};
 
 constexpr std::size_t packetOffset = 28; // in its block
@@ -47,14 +47,14 @@ TEST(Capture, BlocksTellTheirLengthAtBothEnds) {
     EXPECT_EQ(numberAt<std::uint16_t>(header, first + 8), 228U);
     EXPECT_EQ(first + wordAt(header, first + 4), header.size());
 
-    const Bytes block = capturedDatagram(sample, fiveBytes);
+    const Bytes block = capturedDatagram(sampleDatagram, fiveBytes);
     EXPECT_EQ(block.size() % 4, 0U);
     EXPECT_EQ(wordAt(block, 4), block.size());
     EXPECT_EQ(wordAt(block, block.size() - 4), block.size());
 }
 
 TEST(Capture, APacketHasTheHeadersOfItsDatagram) {
-    const Bytes block = capturedDatagram(sample, fiveBytes);
+    const Bytes block = capturedDatagram(sampleDatagram, fiveBytes);
     EXPECT_EQ(wordAt(block, 12), 1U); // the high word of the time, then the low one
     EXPECT_EQ(wordAt(block, 16), 2U);
     EXPECT_EQ(wordAt(block, 20), 33U);
@@ -65,19 +65,19 @@ TEST(Capture, APacketHasTheHeadersOfItsDatagram) {
 }
 
 TEST(Capture, ADatagramTellsItsDirectionAndItsComment) {
-    const Bytes own = capturedDatagram(sample, fiveBytes);
+    const Bytes own = capturedDatagram(sampleDatagram, fiveBytes);
     const std::string text(own.begin(), own.end());
     EXPECT_NE(text.find("note"), std::string::npos);
     const std::size_t options = packetOffset + 36; // the packet is filled up to whole words
     EXPECT_EQ(wordAt(own, options + 4), 2U);
-    CapturedDatagram foreign = sample;
+    CapturedDatagram foreign = sampleDatagram;
     foreign.isOwn = false;
     foreign.comment = {};
     EXPECT_EQ(wordAt(capturedDatagram(foreign, fiveBytes), options + 4), 1U);
 }
 
 TEST(Capture, DataThatFitIntoNoPacketAreCut) {
-    const Bytes block = capturedDatagram(sample, Bytes(70'000, 7));
+    const Bytes block = capturedDatagram(sampleDatagram, Bytes(70'000, 7));
     EXPECT_EQ(wordAt(block, 20), 65'535U);
 }
 
@@ -107,7 +107,7 @@ TEST(Capture, TheCountsOfItsEndAreThoseOfAllThatReachedTheSocket) {
 }
 
 TEST(Capture, ACommentThatNoOptionHoldsIsCut) {
-    CapturedDatagram datagram = sample;
+    CapturedDatagram datagram = sampleDatagram;
     const std::string comment(70'000, 'x');
     datagram.comment = comment;
     const CaptureReader read(textOf(capturedDatagram(datagram, fiveBytes)));

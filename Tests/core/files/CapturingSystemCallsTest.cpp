@@ -15,8 +15,8 @@ namespace kx {
 namespace {
 
 constexpr std::uint32_t host = 0xC0000201U;
-constexpr std::uint32_t everybodyThere = 0xC00002FFU;
-constexpr std::uint32_t unitAddress = 0xC000020BU;
+constexpr std::uint32_t everyUnitThere = 0xC00002FFU;
+constexpr std::uint32_t addressOfUnitThere = 0xC000020BU;
 
 class CapturingSystemCallsTest : public testing::Test {
 protected:
@@ -77,13 +77,13 @@ protected:
 
 TEST_F(CapturingSystemCallsTest, ADatagramThatIsSentHasTheAddressOfItsLink) {
     EXPECT_EQ(
-        calls.sendToByLink(descriptor, threeBytes, dataForAddress(everybodyThere, 3521), link), 3);
+        calls.sendToByLink(descriptor, threeBytes, dataForAddress(everyUnitThere, 3521), link), 3);
     EXPECT_EQ(latest(), "own 5 192.0.2.1:3520 > 192.0.2.255:3521");
     EXPECT_EQ(taken.back().data, threeBytes);
 }
 
 TEST_F(CapturingSystemCallsTest, WhereTheRoutesChoseTheLinkTheOwnAddressIsNotKnown) {
-    const Bytes address = dataForAddress(everybodyThere, 3521);
+    const Bytes address = dataForAddress(everyUnitThere, 3521);
     EXPECT_EQ(calls.sendTo(descriptor, threeBytes, ByteView(address)), 3);
     EXPECT_EQ(latest(), "own 5 0.0.0.0:3520 > 192.0.2.255:3521");
 }
@@ -91,34 +91,36 @@ TEST_F(CapturingSystemCallsTest, WhereTheRoutesChoseTheLinkTheOwnAddressIsNotKno
 TEST_F(CapturingSystemCallsTest, ASocketThatIsNotBoundIsAskedForItsAddress) {
     const int other = calls.socket();
     inner.bind(other, dataForAddress(0xC0000202U, 4000)); // the system chose it
-    EXPECT_EQ(calls.sendToByLink(other, {}, dataForAddress(unitAddress, 9), link), 0);
+    EXPECT_EQ(calls.sendToByLink(other, {}, dataForAddress(addressOfUnitThere, 9), link), 0);
     EXPECT_EQ(latest(), "own 5 192.0.2.2:4000 > 192.0.2.11:9");
     EXPECT_TRUE(taken.back().data.empty());
 }
 
 TEST_F(CapturingSystemCallsTest, AConnectedSocketSendsToItsPeer) {
     const int other = calls.socket();
-    calls.connect(other, dataForAddress(unitAddress, 10000));
+    calls.connect(other, dataForAddress(addressOfUnitThere, 10000));
     EXPECT_EQ(calls.sendTo(other, threeBytes, std::nullopt), 3);
     EXPECT_EQ(latest(), "own 5 0.0.0.0:0 > 192.0.2.11:10000");
 }
 
 TEST_F(CapturingSystemCallsTest, ADatagramThatComesHasTheAddressToWhichItWasSent) {
     calls.enablePacketInfo(descriptor);
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000), link, everybodyThere);
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000), link,
+                        everyUnitThere);
     EXPECT_EQ(receive(), 3);
     EXPECT_EQ(latest(), "5 192.0.2.11:10000 > 192.0.2.255:3520");
     EXPECT_EQ(taken.back().data, threeBytes);
 }
 
 TEST_F(CapturingSystemCallsTest, WithoutItsDestinationItCameToTheAddressOfTheSocket) {
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000), link, everybodyThere);
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000), link,
+                        everyUnitThere);
     EXPECT_EQ(receive(), 3);
     EXPECT_EQ(latest(), "5 192.0.2.11:10000 > 0.0.0.0:3520");
 }
 
 TEST_F(CapturingSystemCallsTest, ReadingADatagramAsksTheSystemForNothingElse) {
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000));
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000));
     const std::size_t before = inner.calls().size();
     receive();
     EXPECT_EQ(inner.calls().size(), before + 1);
@@ -142,13 +144,13 @@ TEST_F(CapturingSystemCallsTest, ABindThatFailsChangesNothing) {
     const int other = calls.socket();
     EXPECT_EQ(calls.bind(other, dataForAddress(0, 3520)), -1);
     EXPECT_EQ(errno, EADDRINUSE);
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000));
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000));
     receive();
     EXPECT_EQ(latest(), "5 192.0.2.11:10000 > 0.0.0.0:3520");
 }
 
 TEST_F(CapturingSystemCallsTest, CountsWhatCameAndWhatTheSystemDroppedFromEverySocket) {
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000));
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000));
     receive();
     receiveBuffers.drop(descriptor, 4);
     EXPECT_EQ(calls.counts().received, 1U);
@@ -176,7 +178,7 @@ TEST_F(CapturingSystemCallsTest, CountsWhatTheSystemDropsFromSeveralSocketsAtThe
 TEST_F(CapturingSystemCallsTest, EachOfSeveralSocketsIsReadWithoutAskingTheSystemForAnythingElse) {
     const int second = calls.socket();
     calls.bind(second, dataForAddress(0, 3521));
-    inner.queueDatagram(threeBytes, dataForAddress(unitAddress, 10000));
+    inner.queueDatagram(threeBytes, dataForAddress(addressOfUnitThere, 10000));
     const std::size_t before = inner.calls().size();
     EXPECT_EQ(receive(), 3);
     EXPECT_EQ(inner.calls().size(), before + 1);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+
 namespace kx {
 
 namespace {
@@ -40,6 +42,13 @@ TEST(PackedValues, EachValueKeepsItsPlace) {
                       parameter == changed ? 1 : largest(parameter) - indexOf(parameter));
         }
     }
+}
+
+TEST(PackedValues, OfANumberTooLargeTheLastBytesCount) {
+    PackedValues values;
+    values.set(UnitParameter::devicePortNumber, 0x1234567);
+    EXPECT_EQ(values.number(UnitParameter::devicePortNumber), 0x4567U);
+    EXPECT_EQ(values.number(UnitParameter::destinationPortNumber), 0U);
 }
 
 TEST(PackedValues, TakesNoMoreThanTheBytesOfAReply) {

@@ -12,7 +12,7 @@ namespace {
 
 using enum UnitParameter;
 
-ParameterEdit editOf(UnitParameter parameter, std::string_view typed) {
+ParameterEdit planned(UnitParameter parameter, std::string_view typed) {
     return std::get<ParameterEdit>(editOfParameter(parameter, typed));
 }
 
@@ -44,7 +44,7 @@ TEST(ParameterEdit, KnowsHowAUnitShowsTheValue) {
         {unitID, "99999999999", std::nullopt},
     };
     for (const auto& [parameter, typed, shown] : cases) {
-        EXPECT_EQ(editOf(parameter, typed).expectedText, shown)
+        EXPECT_EQ(planned(parameter, typed).expectedText, shown)
             << nameOfUnitParameter(parameter) << ", " << typed;
     }
 }
@@ -80,15 +80,15 @@ TEST(ParameterEdit, SaysHowTheValueWasChangedOnTheWay) {
         {unitID, "RACK7AB", "RACK7AB", ValueChange::wrongLength},
     };
     for (const auto& [parameter, typed, value, change] : cases) {
-        const ParameterEdit edit = editOf(parameter, typed);
+        const ParameterEdit edit = planned(parameter, typed);
         EXPECT_EQ(edit.value, value) << nameOfUnitParameter(parameter) << ", " << typed;
         EXPECT_EQ(edit.change, change) << nameOfUnitParameter(parameter) << ", " << typed;
     }
 }
 
 TEST(ParameterEdit, HasTheCommandThatIsSent) {
-    EXPECT_EQ(editOf(destinationPortNumber, "3521").command, "^^IdT0DC1");
-    EXPECT_EQ(editOf(unitID, "AB").command, "^^IdU4142");
+    EXPECT_EQ(planned(destinationPortNumber, "3521").command, "^^IdT0DC1");
+    EXPECT_EQ(planned(unitID, "AB").command, "^^IdU4142");
 }
 
 TEST(ParameterEdit, AnEmptyTextAndAUnitIDThatIsNoTextAreRefused) {
@@ -99,8 +99,8 @@ TEST(ParameterEdit, AnEmptyTextAndAUnitIDThatIsNoTextAreRefused) {
 }
 
 TEST(ParameterEdit, IsTooLongBeyondTheLongestDatagram) {
-    EXPECT_FALSE(editOf(serialNumber, std::string(65'502, '1')).isTooLong());
-    EXPECT_TRUE(editOf(serialNumber, std::string(65'503, '1')).isTooLong());
+    EXPECT_FALSE(planned(serialNumber, std::string(65'502, '1')).isTooLong());
+    EXPECT_TRUE(planned(serialNumber, std::string(65'503, '1')).isTooLong());
 }
 
 TEST(LeadingNumber, IsTheSignAndTheDigitsAsTheyWereTyped) {

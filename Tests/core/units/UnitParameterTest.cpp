@@ -11,7 +11,7 @@ namespace kx {
 
 namespace {
 
-using Texts = std::vector<std::string_view>;
+using ParameterTexts = std::vector<std::string_view>;
 
 // One field of every row, in the order of the table.
 template<class Field>
@@ -26,28 +26,29 @@ auto fieldOfEveryRow(Field ParameterDescription::*field) {
 } // namespace
 
 TEST(UnitParameter, NamesStandInTheOrderInWhichPeopleSeeThem) {
-    EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::name),
-              (Texts{"destination IP address", "destination MAC address", "destination Port number",
-                     "device Port number", "internal IP address", "internal MAC address",
-                     "serial number", "unit ID"}));
+    EXPECT_EQ(
+        fieldOfEveryRow(&ParameterDescription::name),
+        (ParameterTexts{"destination IP address", "destination MAC address",
+                        "destination Port number", "device Port number", "internal IP address",
+                        "internal MAC address", "serial number", "unit ID"}));
 }
 
 TEST(UnitParameter, PhrasesHaveTheValueWithinASentence) {
     EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::phrase),
-              (Texts{"destination IP address %@", "destination MAC address %@",
-                     "destination port %@", "device port %@", "internal IP address %@",
-                     "internal MAC address %@", "serial number %@", "unit ID %@"}));
+              (ParameterTexts{"destination IP address %@", "destination MAC address %@",
+                              "destination port %@", "device port %@", "internal IP address %@",
+                              "internal MAC address %@", "serial number %@", "unit ID %@"}));
 }
 
 TEST(UnitParameter, IdentifiersForScriptsNeverChange) {
     EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::identifier),
-              (Texts{"destination-ip", "destination-mac", "destination-port", "device-port",
-                     "internal-ip", "internal-mac", "serial", "unit-id"}));
+              (ParameterTexts{"destination-ip", "destination-mac", "destination-port",
+                              "device-port", "internal-ip", "internal-mac", "serial", "unit-id"}));
 }
 
 TEST(UnitParameter, TagsAndCommandLettersAreThoseOfTheUnits) {
     EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::tag),
-              (Texts{"<D>", "<C>", "<T>", "<P>", "<I>", "<M>", "<S>", "<U>"}));
+              (ParameterTexts{"<D>", "<C>", "<T>", "<P>", "<I>", "<M>", "<S>", "<U>"}));
     EXPECT_EQ(fieldOfEveryRow(&ParameterDescription::commandLetter),
               (std::vector<char>{'D', 'C', 'T', 'P', 'I', 'M', 'S', 'U'}));
 }

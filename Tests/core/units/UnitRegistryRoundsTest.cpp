@@ -139,6 +139,35 @@ TEST_F(UnitRegistryRounds, AUnitThatTakesTheExpectedSerialNumberStaysTheSameUnit
     EXPECT_EQ(registry.round().renamed, 0U) << "the number was known";
 }
 
+TEST_F(UnitRegistryRounds, AUnitIsTheSameUnitAlsoWhenItsNumberBeforeIsForgottenAtOnce) {
+    const auto tellAs = [this](std::string_view serial) {
+        tell(serial, "10000", "192.0.2.11", "02:00:00:00:00:01");
+    };
+    registry.beginRound();
+    tellAs(firstOfRounds);
+    tell(secondOfRounds);
+    tell(thirdOfRounds);
+    registry.expectSerialNumber(firstOfRounds, "01 02 03 04 05 09");
+    tellAs("01 02 03 04 05 09");
+    EXPECT_EQ(registry.forgottenUnits(), 1U);
+    EXPECT_EQ(registry.find(firstOfRounds), nullptr);
+    EXPECT_TRUE(registry.hasAnswered("01 02 03 04 05 09"));
+    EXPECT_EQ(tally(), "answered 3 added 3 changed 0 back 0 silent 0");
+    registry.beginRound();
+    EXPECT_EQ(registry.silentUnit(), secondOfRounds) << "the order is that of hearing";
+}
+
+TEST_F(UnitRegistryRounds, WhoseNumberWasTakenBeforeTheFirstRoundIsNotSilent) {
+    const auto tellAs = [this](std::string_view serial) {
+        tell(serial, "10000", "192.0.2.11", "02:00:00:00:00:01");
+    };
+    tellAs(firstOfRounds);
+    registry.expectSerialNumber(firstOfRounds, secondOfRounds);
+    tellAs(secondOfRounds);
+    tellAs(firstOfRounds);
+    EXPECT_EQ(tally(), "answered 2 added 1 changed 0 back 1 silent 0");
+}
+
 TEST_F(UnitRegistryRounds, ANewSerialNumberOfAnotherHardwareAddressIsAnotherUnit) {
     registry.beginRound();
     tell(firstOfRounds, "10000", "192.0.2.11", "02:00:00:00:00:01");

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <random>
 #include <string>
 #include <string_view>
@@ -221,27 +222,64 @@ TEST(UnitRegistry, AClearedRegistryTakesAsManyUnitsAgain) {
     EXPECT_EQ(registry.forgottenUnits(), 0U);
 }
 
-// The same by a plain list of the serial numbers in the order in which they were heard.
+namespace {
+
+// A unit as a plain list keeps it, in the order in which units were heard.
+struct PlainUnit {
+    std::string serial;
+    std::string address;
+    bool hasAnsweredInRound = false;
+};
+
+void expectSame(UnitRegistry& registry, const std::vector<PlainUnit>& heard) {
+    std::vector<std::string> serials;
+    for (const PlainUnit& unit : heard) {
+        const UnitRecord* const record = registry.find(unit.serial);
+        ASSERT_NE(record, nullptr) << unit.serial;
+        ASSERT_EQ(*record, recordAt(unit.serial, unit.address));
+        ASSERT_EQ(registry.hasAnswered(unit.serial), unit.hasAnsweredInRound) << unit.serial;
+        serials.push_back(unit.serial);
+    }
+    std::ranges::sort(serials);
+    ASSERT_EQ(listedIn(registry), serials);
+    ASSERT_EQ(registry.records().size(), heard.size());
+}
+
+} // namespace
+
 TEST(UnitRegistry, AgreesWithAPlainListOverManyRandomReplies) {
-    constexpr std::size_t most = 500;
-    UnitRegistry registry(most);
-    std::vector<std::string> heard;
-    std::mt19937 random(1);
-    for (int reply = 0; reply < 20'000; ++reply) {
-        const std::string serial = serialOf(static_cast<int>(random() % 900));
-        registry.store(recordAt(serial, "192.168.1.10"));
-        std::erase(heard, serial);
-        heard.push_back(serial);
-        if (heard.size() > most) {
-            heard.erase(heard.begin());
-        }
-        if (reply % 997 == 0) {
-            std::vector<std::string> expected = heard;
-            std::ranges::sort(expected);
-            ASSERT_EQ(listedIn(registry), expected) << reply;
-            ASSERT_EQ(registry.records().size(), expected.size());
+    for (const std::size_t most : {2U, 3U, 200U}) {
+        UnitRegistry registry(most);
+        std::vector<PlainUnit> heard;
+        std::string kept;
+        std::mt19937 random(1);
+        for (int reply = 0; reply < 20'000; ++reply) {
+            const std::string serial = serialOf(static_cast<int>(random() % (most * 2)));
+            const std::string address = "192.168.1." + std::to_string(random() % 256);
+            registry.store(recordAt(serial, address));
+            std::erase_if(heard, [&](const PlainUnit& unit) { return unit.serial == serial; });
+            heard.push_back({serial, address, true});
+            if (heard.size() > most) {
+                heard.erase(heard.begin() + (heard.front().serial == kept ? 1 : 0));
+            }
+            if (random() % 50 == 0) {
+                registry.beginRound();
+                std::ranges::for_each(heard,
+                                      [](PlainUnit& unit) { unit.hasAnsweredInRound = false; });
+            }
+            if (random() % 50 == 0) {
+                kept = heard[random() % heard.size()].serial;
+                registry.keep(kept);
+            }
+            if (most < 10 || reply % 97 == 0) {
+                ASSERT_NO_FATAL_FAILURE(expectSame(registry, heard)) << reply;
+            }
         }
     }
+}
+
+TEST(UnitRegistryDeathTest, NeedsRoomForTwoUnits) {
+    EXPECT_DEATH(UnitRegistry(1), "limit >= 2");
 }
 
 TEST(UnitRegistry, TheLowestOfSeveralUnitsIsFound) {
