@@ -69,6 +69,27 @@ TEST_F(IdentityWitnessTest, OneUnitThatMayChangeLeavesTheOthersRemembered) {
     }
 }
 
+TEST_F(IdentityWitnessTest, RemembersTheFirstAddressesAndIgnoresTheOthers) {
+    constexpr auto most = static_cast<std::uint32_t>(IdentityWitness::mostSerials);
+    for (std::uint32_t count = 0; count <= most; ++count) {
+        tell(0, addressOf(count), addressOf(0)); // one unit claims them all
+    }
+    EXPECT_EQ(tell(1, addressOf(most), addressOf(most)), 0U) << "it came after the others";
+    EXPECT_EQ(tell(2, addressOf(most - 1), addressOf(most - 1)), 1U);
+}
+
+TEST_F(IdentityWitnessTest, OfTwoUnitsThatShareAnAddressEitherMayGiveItUp) {
+    for (const std::uint32_t changing : {1U, 2U}) {
+        witness.expectChanges();
+        const std::uint32_t shared = addressOf(1);
+        tell(1, shared, shared);
+        EXPECT_EQ(tell(2, shared, shared), 1U);
+        witness.expectChange(serialOf(changing));
+        EXPECT_EQ(tell(3 - changing, shared, shared), 0U);
+        EXPECT_EQ(tell(3, shared, shared), 1U);
+    }
+}
+
 TEST_F(IdentityWitnessTest, AUnitThatNobodyHeardMayChangeToo) {
     tell(1);
     witness.expectChange(serialOf(2));
