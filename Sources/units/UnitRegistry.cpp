@@ -89,7 +89,7 @@ bool UnitRegistry::rename(Unit& unit, bool isNew, const UnitRecord& record) {
         return false;
     }
     Unit& before = _units[found];
-    static_cast<UnitRecord&>(unit) = before;
+    static_cast<UnitRecord&>(unit) = static_cast<const UnitRecord&>(before);
     unit.setValue(UnitParameter::serialNumber, _serialAfter);
     unit.round = std::exchange(before.round, 0);
     _tally.renamed += isNew ? 1 : 0;
