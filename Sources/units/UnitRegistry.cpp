@@ -6,6 +6,19 @@
 
 namespace kx {
 
+namespace {
+
+// Makes no text of the key, as erase() does.
+template<class Map>
+void eraseKey(Map& map, std::string_view key) {
+    const auto found = map.find(key);
+    if (found != map.end()) {
+        map.erase(found);
+    }
+}
+
+} // namespace
+
 UnitRegistry::UnitRegistry(std::size_t limit)
     : _limit(limit) {
     require(limit >= 2, "limit >= 2", "Sources/units/UnitRegistry");
@@ -34,9 +47,7 @@ bool UnitRegistry::store(const UnitRecord& record) {
     countAnswer(unit, !isKnown, record);
     static_cast<UnitRecord&>(unit) = record;
     hear(place);
-    if (!_withdrawnAddresses.empty()) {
-        _withdrawnAddresses.erase(std::string(*serial));
-    }
+    eraseKey(_withdrawnAddresses, *serial);
     if (_units.size() > _limit) {
         forgetOldest();
     }
@@ -194,7 +205,7 @@ void UnitRegistry::forgetOldest() {
     } else if (unit.round + 1 == _round) {
         --_tally.silent;
     }
-    _withdrawnAddresses.erase(std::string(unit.serial()));
+    eraseKey(_withdrawnAddresses, unit.serial());
     removeUnit(oldest);
     ++_forgotten;
 }

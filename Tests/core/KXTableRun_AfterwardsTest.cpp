@@ -20,6 +20,11 @@ protected:
         }
         return file("kxctl-journal-20261122-180000.jsonl", text);
     }
+
+    void saveReport() {
+        savePanel.choice = folder + "/report.csv";
+        tableRun.saveReport();
+    }
 };
 
 } // namespace
@@ -112,8 +117,7 @@ TEST_F(TableAfterwardsTest, TheReportIsTheTableWithWhatBecameOfEachRow) {
     unit(1).ignored = "T";
     openAndAsk(table(1, 2));
     applyAndWait();
-    savePanel.choice = folder + "/report.csv";
-    tableRun.saveReport();
+    saveReport();
     EXPECT_EQ(savePanel.suggestion, "rack-report.csv");
     const std::string report = written.at(*savePanel.choice);
     EXPECT_TRUE(report.starts_with("serial,unit-id,destination-port,state,reason\n" + serial(1) +
@@ -127,8 +131,7 @@ TEST_F(TableAfterwardsTest, AReportThatCannotBeWrittenIsSaidAndTheStatesStay) {
     openAndAsk(table(1, 1));
     applyAndWait();
     writeError = posixError(ENOSPC);
-    savePanel.choice = folder + "/report.csv";
-    tableRun.saveReport();
+    saveReport();
     EXPECT_TRUE(
         isIn(tableRun.heading(), "“" + folder + "/report.csv” cannot be written: No space"));
     EXPECT_EQ(states(), Texts(2, "✓ Done"));
@@ -142,37 +145,8 @@ TEST_F(TableAfterwardsTest, ASavedReportDoesNotHideUnitsThatNeedALook) {
     unit(1).ignored = "T";
     openAndAsk(table(1, 1));
     applyAndWait();
-    savePanel.choice = folder + "/report.csv";
-    tableRun.saveReport();
+    saveReport();
     EXPECT_TRUE(isIn(tableRun.heading(), "Look at the units that are half configured"));
-}
-
-TEST_F(TableAfterwardsTest, WhatEndsInTheMiddleLeavesNoSocketAndNoLock) {
-    addUnits(1, 4);
-    const auto before = systemCalls.openDescriptors();
-    {
-        KXTableRun other({.session = {.runLoop = runLoop,
-                                      .hostResolver = hostResolver,
-                                      .systemCalls = systemCalls,
-                                      .receiveBuffers = &receiveBuffers},
-                          .now = [this] { return runLoop.now(); },
-                          .utc = [] { return std::chrono::seconds(0); },
-                          .wallClock = wallClock,
-                          .interfaces = hostInterfaces,
-                          .moves = services,
-                          .lock = lock,
-                          .writeFile = [](const std::string&,
-                                          std::string_view) { return std::optional<Error>(); },
-                          .stateFolder = stateFolder});
-        other.open(table(1, 4));
-        passUntil([&] { return other.canChoose(); });
-        other.apply();
-        passUntil([this] { return commands() == 1; });
-        EXPECT_EQ(lock.held, 1);
-    }
-    EXPECT_EQ(systemCalls.openDescriptors(), before);
-    EXPECT_EQ(lock.held, 0);
-    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
 }
 
 } // namespace kx

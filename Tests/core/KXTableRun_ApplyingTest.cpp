@@ -280,4 +280,32 @@ TEST_F(TableApplyingTest, AnEntryThatStaysIsSaidWithItsAddress) {
              "The entry for " + address(101) + " could not be taken out of the ARP cache again."));
 }
 
+TEST_F(TableApplyingTest, WhatEndsInTheMiddleLeavesNoSocketAndNoLock) {
+    addUnits(1, 4);
+    const auto before = systemCalls.openDescriptors();
+    {
+        KXTableRun other({.session = {.runLoop = runLoop,
+                                      .hostResolver = hostResolver,
+                                      .systemCalls = systemCalls,
+                                      .receiveBuffers = &receiveBuffers},
+                          .now = [this] { return runLoop.now(); },
+                          .utc = [] { return std::chrono::seconds(0); },
+                          .wallClock = wallClock,
+                          .interfaces = hostInterfaces,
+                          .moves = services,
+                          .lock = lock,
+                          .writeFile = [](const std::string&,
+                                          std::string_view) { return std::optional<Error>(); },
+                          .stateFolder = stateFolder});
+        other.open(table(1, 4));
+        passUntil([&] { return other.canChoose(); });
+        other.apply();
+        passUntil([this] { return commands() == 1; });
+        EXPECT_EQ(lock.held, 1);
+    }
+    EXPECT_EQ(systemCalls.openDescriptors(), before);
+    EXPECT_EQ(lock.held, 0);
+    EXPECT_EQ(runLoop.pendingCallCount(), 0U);
+}
+
 } // namespace kx

@@ -23,7 +23,8 @@ processes_here() {
 }
 
 # Tests/desktop/in_desktop.sh says why the number is a random one.
-exec {ready}< <(exec Xvfb ":$((RANDOM * 32768 + RANDOM))" -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
+number=$((RANDOM * 32768 + RANDOM))
+exec {ready}< <(exec Xvfb ":$number" -displayfd 1 -screen 0 1024x768x24 -nolisten tcp 2>"$scratch/server")
 server=$!
 read -r -t 20 -u "$ready" display || fail "the X server does not start: $(<"$scratch/server")"
 # Removes the files that a killed server leaves behind.
