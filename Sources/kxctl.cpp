@@ -32,6 +32,7 @@
 #include <QCoreApplication>
 #include <chrono>
 #include <csignal>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -40,6 +41,12 @@ namespace {
 template<class Unit, class Clock>
 Unit timeOf() {
     return std::chrono::duration_cast<Unit>(Clock::now().time_since_epoch());
+}
+
+// A terminal that is closed ends the program as an order to end does.
+std::optional<int> orderToEnd(kx::SignalPipe& signalPipe) {
+    const auto signal = signalPipe.take();
+    return signal == SIGHUP ? SIGTERM : signal;
 }
 
 int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
@@ -68,6 +75,8 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
         console.isNoteTerminal() ? kx::PersonAt::desktopOrTerminal : kx::PersonAt::desktop);
     kx::AuthorizedAddressBindings bindings(*authorizationService, [&] { waiting.giveUp(); });
 
+    kx::SignalPipe signalPipe({SIGINT, SIGTERM, SIGHUP});
+
     kx::CommandRun run(line, {.session = {.runLoop = runLoop,
                                           .hostResolver = hostResolver,
                                           .systemCalls = systemCalls,
@@ -82,14 +91,10 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
                               .probes = &probes,
                               .bindings = bindings,
                               .diagnostics = diagnostics,
-                              .diagnosticSockets = diagnosticSockets});
-    kx::SignalPipe signalPipe({SIGINT, SIGTERM, SIGHUP});
-    const auto watch = runLoop.watchForReading(signalPipe.descriptor(), [&] {
-        if (const auto signal = signalPipe.take()) {
-            // A terminal that is closed ends the program as an order to end does.
-            run.interrupt(*signal == SIGHUP ? SIGTERM : *signal);
-        }
-    });
+                              .diagnosticSockets = diagnosticSockets,
+                              .takeSignal = [&] { return orderToEnd(signalPipe); }});
+    const auto watch =
+        runLoop.watchForReading(signalPipe.descriptor(), [&run] { run.takeSignals(); });
     return run.run();
 }
 

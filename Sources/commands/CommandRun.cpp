@@ -42,10 +42,10 @@ int CommandRun::run() {
     return _line.command->run(*this);
 }
 
-void CommandRun::interrupt(int signal) {
-    _signal = signal;
-    if (_operation != nullptr) {
-        _operation->interrupt();
+void CommandRun::takeSignals() {
+    while (const auto signal = _services.takeSignal()) {
+        _signal = *signal;
+        endEarly();
     }
 }
 
@@ -199,6 +199,9 @@ void CommandRun::wait(Operation& operation, std::function<std::string()> count,
     _count = {};
     _left = {};
     endProgress();
+    // A signal from the terminal ends a program that asks there too, perhaps before the loop has
+    // seen the signal.
+    takeSignals();
 }
 
 CommandRun::Refusal CommandRun::refusalOfAddress(AddressObjection objection,

@@ -47,6 +47,7 @@ struct CommandServices {
     AddressBindings& bindings;
     HostDiagnostics& diagnostics;
     DiagnosticSockets& diagnosticSockets;
+    std::function<std::optional<int>()> takeSignal; // one that asks to end; absent when none waits
 };
 
 class CommandRun {
@@ -59,8 +60,8 @@ public:
     // Runs the command of the line to its end, and returns the exit status.
     int run();
 
-    // A signal came. The operation under way is told.
-    void interrupt(int signal);
+    // Call it when a signal has come. The operation under way is told.
+    void takeSignals();
 
     // --- For the functions of Commands.h ---
 

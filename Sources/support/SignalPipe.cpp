@@ -1,5 +1,6 @@
 #include "support/SignalPipe.h"
 
+#include <poll.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -49,6 +50,10 @@ SignalPipe::~SignalPipe() {
 }
 
 std::optional<int> SignalPipe::take() {
+    pollfd polled{.fd = descriptor(), .events = POLLIN, .revents = 0};
+    if (::poll(&polled, 1, 0) != 1) {
+        return std::nullopt;
+    }
     unsigned char signal = 0;
     return ::read(descriptor(), &signal, 1) == 1 ? std::optional<int>(signal) : std::nullopt;
 }

@@ -30,8 +30,7 @@ public:
     // Readable while a signal waits.
     int descriptor() const { return _pipe.readingEnd.number(); }
 
-    // The number of the signal that has waited longest. Call it when the descriptor is readable;
-    // absent when it cannot be read.
+    // The number of the signal that has waited longest; absent when none waits. Never blocks.
     std::optional<int> take();
 
 private:

@@ -130,7 +130,10 @@ protected:
 
     // The signal comes so long after now.
     void interruptAfter(std::chrono::milliseconds time) {
-        at(time, [this] { command->interrupt(SIGINT); });
+        at(time, [this] {
+            signal = SIGINT;
+            command->takeSignals();
+        });
     }
 
     void at(std::chrono::milliseconds time, std::function<void()> action) {
@@ -163,6 +166,7 @@ protected:
     std::vector<std::unique_ptr<PlayedUnit>> units;
     CommandLine line;
     std::unique_ptr<CommandRun> command;
+    std::optional<int> signal; // waits to be taken
     std::vector<RunLoop::Handle> later;
     std::vector<RunLoop::Handle> replies;
 
@@ -181,7 +185,8 @@ private:
                 .neighbours = neighbours,
                 .bindings = bindings,
                 .diagnostics = diagnostics,
-                .diagnosticSockets = diagnosticSockets};
+                .diagnosticSockets = diagnosticSockets,
+                .takeSignal = [this] { return std::exchange(signal, std::nullopt); }};
     }
 
     void deliver(const ScriptedSystemCalls::Call& call) {

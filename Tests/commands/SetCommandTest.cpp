@@ -196,6 +196,16 @@ TEST_F(SetCommandTest, HalfSaysWhyTheRestWasRefused) {
     EXPECT_NE(console.notes.find(reason), std::string::npos) << console.notes;
 }
 
+TEST_F(SetCommandTest, AnInterruptionThatAlsoEndedTheQuestionForRightsIsNoRefusal) {
+    play({.obey = obeyAll});
+    setEntry(NeighbourState::failed);
+    bindings.answerToBind = {.state = ARPEntryState::rightsNotGiven};
+    bindings.onBind = [this] { signal = SIGINT; };
+    EXPECT_EQ(run({"set", serial, "internal-ip=192.168.1.50", "--json"}), 130);
+    EXPECT_EQ(errorCode(), "interrupted");
+    EXPECT_EQ(document()["changes"][0]["state"], "refused");
+}
+
 TEST_F(SetCommandTest, AValueThatAConversionWouldChangeIsToldWithWhatWouldBeSent) {
     const std::map<std::string, std::string> cases{
         {"destination-port=3524", "destination port 3520, because 3524 is outside 3520 to 3523."},

@@ -6,6 +6,7 @@
 
 #include <chrono>
 #include <csignal>
+#include <optional>
 #include <vector>
 
 namespace kx {
@@ -30,6 +31,14 @@ TEST(SignalPipe, TakesSignalsInTheirOrder) {
     EXPECT_EQ(pipe.take(), SIGTERM);
     EXPECT_EQ(pipe.take(), SIGHUP);
     EXPECT_EQ(pipe.take(), SIGINT);
+}
+
+TEST(SignalPipe, HasNothingToTakeBeforeASignal) {
+    SignalPipe pipe({SIGTERM});
+    EXPECT_EQ(pipe.take(), std::nullopt);
+    std::raise(SIGTERM);
+    EXPECT_EQ(pipe.take(), SIGTERM);
+    EXPECT_EQ(pipe.take(), std::nullopt);
 }
 
 TEST(SignalPipe, MakesSignalsEventsOfARunLoop) {

@@ -13,8 +13,8 @@ import subprocess
 import tempfile
 import time
 
-from program import (FIRST, SECOND, Test, checked, end_of, eventually, heard, kxctl, main,
-                     restore_units, seen_until, start)
+from program import (FIRST, SECOND, START, Test, checked, end_of, eventually, heard, kxctl,
+                     main, restore_units, seen_until, start)
 
 
 class Interfaces(Test):
@@ -74,7 +74,9 @@ class Discover(Test):
         before = len(heard())
         began = time.monotonic()
         kxctl("discover", "--wait", "0.6")
-        self.assertAlmostEqual(time.monotonic() - began, 0.65, delta=0.3)
+        took = time.monotonic() - began
+        self.assertGreater(took, 0.6)
+        self.assertLess(took, 0.6 + START)
         self.assertTrue(eventually(lambda: len(heard()) - before >= 2 * 3))
         self.assertEqual(len(heard()) - before, 2 * 3)
 
@@ -86,8 +88,8 @@ class Discover(Test):
 
     def test_ends_as_soon_as_enough_have_answered(self):
         began = time.monotonic()
-        self.assertEnds(kxctl("discover", "--expect", "3", "--wait", "5"), 0)
-        self.assertLess(time.monotonic() - began, 1)
+        self.assertEnds(kxctl("discover", "--expect", "3", "--wait", "20"), 0)
+        self.assertLess(time.monotonic() - began, 0.5 + START)
 
     def test_fewer_than_expected_is_no_success_and_all_the_same_listed(self):
         result = kxctl("discover", "--expect", "4", "--wait", "1", "--json")
@@ -193,7 +195,10 @@ class Show(Test):
     def test_does_not_wait_for_others(self):
         began = time.monotonic()
         self.assertEnds(kxctl("show", "4B5800000001", "4B5800000002"), 0)
-        self.assertLess(time.monotonic() - began, 1)
+        took = time.monotonic() - began
+        self.assertEnds(kxctl("show", "4B5800000001", "4B58000000FF"), 1)
+        whole_wait = time.monotonic() - began - took
+        self.assertLess(took, whole_wait - 0.5)
 
     def test_shows_those_that_answer_and_says_who_does_not(self):
         result = kxctl("show", "4B5800000001", "4B58000000FF", "--json")

@@ -33,6 +33,13 @@ def descendants(process):
             yield from descendants(child)
 
 
+def is_running(process):
+    try:
+        return "\nState:\tZ" not in pathlib.Path(f"/proc/{process}/status").read_text("ascii")
+    except OSError:  # it is gone
+        return False
+
+
 class AtTerminal:
     """kxctl in a session of a user, with a terminal of its own. What is typed at the test's terminal
     goes there as it is. The session is ended when it takes too long."""
@@ -57,6 +64,16 @@ class AtTerminal:
         """The number of kxctl's process."""
         return next(each for each in descendants(self._process) if os.path.realpath(
             f"/proc/{each}/exe") == os.path.realpath(PROGRAM))
+
+    def interrupt_while_the_program_does_not_run(self):
+        """The question ends before the program can attend to the interruption."""
+        program = self.program()
+        os.kill(program, signal.SIGSTOP)
+        asking = list(descendants(program))
+        self.type("\x03")
+        if not asking or not eventually(lambda: not any(is_running(each) for each in asking)):
+            raise AssertionError("the question goes on")
+        os.kill(program, signal.SIGCONT)
 
     def shows_what_is_typed(self):
         terminal = os.open(f"/proc/{self.program()}/fd/2", os.O_RDWR | os.O_NOCTTY)
@@ -130,6 +147,7 @@ class InTheTerminal(Test):
 
     def test_an_interruption_takes_the_question_back_and_what_is_typed_is_shown_again(self):
         ways = ((lambda session: session.type("\x03"), 130),
+                (AtTerminal.interrupt_while_the_program_does_not_run, 130),
                 (lambda session: os.kill(session.program(), signal.SIGINT), 130),
                 (lambda session: os.kill(session.program(), signal.SIGTERM), 143))
         for interrupt, wanted in ways:

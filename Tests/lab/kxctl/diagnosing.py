@@ -19,11 +19,10 @@ import program
 from planted import (ALONE, FAR_HOST, FIRST_ADDRESS, STATEFUL, STRAYS, command, far_host, firewall,
                      in_units_network, input_chain, no_route_back, other_subnet, port_taken, rules,
                      same_address, setting, silence, stale_arp)
-from program import Test, end_of, eventually, heard, kxctl, main, run, start
+from program import SLOW, Test, end_of, eventually, heard, kxctl, main, run, start
 
 LIMIT = 1.0               # seconds to the verdict
 LIMIT_OF_ARP = 3.5        # where nobody answers for an address
-SLOW = float(os.environ.get("KX_SLOW", "1"))
 
 SENDING = """
 import socket, sys

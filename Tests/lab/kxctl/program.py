@@ -20,6 +20,12 @@ ROOT = pathlib.Path(__file__).resolve().parents[3]
 SCHEMAS = ROOT / "docs/json-schema"
 PROGRAM = os.environ["KXCTL"]
 
+# Limits of time stand for a quiet machine. Where tests run side by side, and with instrumented
+# programs, everything takes longer by this factor.
+SLOW = float(os.environ.get("KX_SLOW", "1"))
+# The longest time in which the program starts and ends.
+START = 0.5 * SLOW
+
 FIRST = "4B 58 00 00 00 01"
 SECOND = "4B 58 00 00 00 02"
 
