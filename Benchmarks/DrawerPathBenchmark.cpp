@@ -17,7 +17,7 @@
 #include "ShownWindow.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
 #include "platform/posix/PollRunLoop.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 #include "units/ParameterList.h"
 #include "units/UnitReply.h"
 

@@ -11,7 +11,7 @@
 #include "ReadAheadSystemCalls.h"
 #include "ShownWindow.h"
 #include "platform/linux/LinuxReceiveBufferControl.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <benchmark/benchmark.h>
 #include <netinet/in.h>

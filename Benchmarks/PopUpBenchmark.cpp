@@ -5,7 +5,7 @@
 #include "Comparison.h"
 #include "ProcessorTime.h"
 #include "platform/qt/QtPopUpButton.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <benchmark/benchmark.h>
 

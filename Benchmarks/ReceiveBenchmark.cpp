@@ -9,7 +9,7 @@
 #include "addresses/SocketAddressRecord.h"
 #include "doubles/ScriptedHostResolver.h"
 #include "platform/posix/PollRunLoop.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <arpa/inet.h>
 #include <benchmark/benchmark.h>

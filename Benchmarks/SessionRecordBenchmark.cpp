@@ -6,7 +6,7 @@
 #include "LoopbackBatches.h"
 #include "LoopbackCalls.h"
 #include "ShownWindow.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <benchmark/benchmark.h>
 

@@ -31,14 +31,16 @@
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtHelpServices.h"
+#include "platform/qt/QtRunLoop.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QtTranslations.h"
 #include "platform/qt/WaitingPanel.h"
-#include "platform/qtcore/QtLocalizedText.h"
-#include "platform/qtcore/QtRunLoop.h"
-#include "platform/qtcore/QtTranslations.h"
 #include "support/LocalizedText.h"
 #include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
 #include "support/SystemLog.h"
+#include "support/TextCatalogue.h"
+#include "translations/Translations.h"
 
 #include <unistd.h>
 
@@ -87,7 +89,7 @@ std::optional<kx::Error> writeFile(const std::string& path, std::string_view tex
 // What this host gives to the controller, each after what it needs itself.
 struct Host {
     kx::QtRunLoop& runLoop;
-    QString language; // of the window
+    std::string language; // of the window
     kx::ThreadHostResolver hostResolver{runLoop};
     kx::ReadAheadSystemCalls systemCalls = {};
     kx::LinuxReceiveBufferControl receiveBuffers = {};
@@ -111,10 +113,11 @@ struct Host {
     kx::SystemWallClock wallClock = {};
     kx::QtApplication application = {};
     kx::QtHelpServices helpServices{kx::installedResourceFolder(),
-                                    kx::QtHelpServices::browserForUser(::geteuid()), language};
+                                    kx::QtHelpServices::browserForUser(::geteuid()),
+                                    kx::qtText(language)};
     kx::KernelLinks kernelLinks{runLoop};
     kx::LinuxKernelQuery kernelQuery{kernelLinks};
-    kx::NetworkManagerProfiles connectionProfiles = {};
+    kx::NetworkManagerProfiles connectionProfiles{runLoop};
     kx::LinuxConfigurationStore configurationStore{runLoop, kernelLinks, &connectionProfiles};
     kx::LinuxDiagnosticSockets diagnosticSockets{runLoop};
     kx::LinuxHostDiagnostics diagnostics = kx::LinuxHostDiagnostics();
@@ -276,7 +279,7 @@ int runWindow(Work work) {
     return QApplication::exec();
 }
 
-int runOnThisHost(kx::QtRunLoop& runLoop, const QString& language) {
+int runOnThisHost(kx::QtRunLoop& runLoop, const std::string& language) {
     Host host{runLoop, language};
     kx::SystemConfiguration::installSources(host.configurationStore, host.kernelQuery);
     kx::MainWindow window;
@@ -316,15 +319,16 @@ int main(int argc, char* argv[]) {
 
     kx::SyslogSystemLog systemLog("kxconfig");
     kx::installSystemLog(&systemLog);
-    const kx::QtTranslations translations;
-    const kx::QtLocalizedText localizedText;
-    kx::installLocalizedText(&localizedText);
+    const auto translation = kx::firstTranslation(kx::languagesOfUser());
+    const kx::QtTranslations textsOfQt(translation.language);
+    const kx::TextCatalogue texts(translation.entries);
+    kx::installLocalizedText(&texts);
 
     kx::QtRunLoop runLoop;
     kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
     kx::installSystemLog(&limitedLog);
     kx::installMemoryExhaustionHandler();
-    const int result = runOnThisHost(runLoop, translations.language());
+    const int result = runOnThisHost(runLoop, std::string(translation.language));
 
     kx::installLocalizedText(nullptr);
     kx::installSystemLog(nullptr);

@@ -17,23 +17,25 @@
 #include "platform/linux/LinuxRunLock.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/posix/MemoryExhaustion.h"
+#include "platform/posix/PollRunLoop.h"
 #include "platform/posix/SyslogSystemLog.h"
 #include "platform/posix/SystemWallClock.h"
 #include "platform/posix/TerminalConsole.h"
 #include "platform/posix/TerminalWaiting.h"
 #include "platform/posix/ThreadHostResolver.h"
-#include "platform/qtcore/EventLoopWaiting.h"
-#include "platform/qtcore/QtLocalizedText.h"
-#include "platform/qtcore/QtRunLoop.h"
-#include "platform/qtcore/QtTranslations.h"
 #include "support/RateLimitedSystemLog.h"
 #include "support/SignalPipe.h"
+#include "support/TextCatalogue.h"
+#include "translations/Translations.h"
 
-#include <QCoreApplication>
+#include <langinfo.h>
+
 #include <chrono>
+#include <clocale>
 #include <csignal>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace {
@@ -49,7 +51,15 @@ std::optional<int> orderToEnd(kx::SignalPipe& signalPipe) {
     return signal == SIGHUP ? SIGTERM : signal;
 }
 
-int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
+// The texts of the system's errors are in the user's language too, where they are in UTF-8.
+void takeLocaleOfUser() {
+    std::setlocale(LC_ALL, "");
+    if (std::string_view(::nl_langinfo(CODESET)) != "UTF-8") {
+        std::setlocale(LC_ALL, "C");
+    }
+}
+
+int runOnThisHost(const kx::CommandLine& line, kx::PollRunLoop& runLoop,
                   kx::TerminalConsole& console) {
     kx::ThreadHostResolver hostResolver(runLoop);
     kx::ReadAheadSystemCalls systemCalls;
@@ -58,7 +68,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
 
     kx::KernelLinks kernelLinks(runLoop);
     kx::LinuxKernelQuery kernelQuery(kernelLinks);
-    kx::NetworkManagerProfiles connectionProfiles;
+    kx::NetworkManagerProfiles connectionProfiles(runLoop);
     kx::LinuxConfigurationStore configurationStore(runLoop, kernelLinks, &connectionProfiles);
     kx::SystemConfiguration::installSources(configurationStore, kernelQuery);
     kx::LinuxHostInterfaces interfaces(kx::SystemConfiguration::sharedInstance(), kernelLinks);
@@ -68,10 +78,9 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
     kx::LinuxAddressProbes probes(runLoop);
     kx::LinuxHostDiagnostics diagnostics;
     kx::LinuxDiagnosticSockets diagnosticSockets(runLoop);
-    kx::EventLoopWaiting waiting;
-    kx::TerminalWaiting waitingAtTerminal(waiting, console);
+    kx::TerminalWaiting waiting(runLoop, console);
     const auto authorizationService = kx::makeAuthorizationService(
-        runLoop, waitingAtTerminal,
+        runLoop, waiting,
         console.isNoteTerminal() ? kx::PersonAt::desktopOrTerminal : kx::PersonAt::desktop);
     kx::AuthorizedAddressBindings bindings(*authorizationService, [&] { waiting.giveUp(); });
 
@@ -98,14 +107,12 @@ int runOnThisHost(const kx::CommandLine& line, kx::QtRunLoop& runLoop,
     return run.run();
 }
 
-int runInLanguageOfUser(int argc, char* argv[], const std::vector<std::string>& arguments,
-                        kx::TerminalConsole& console) {
-    QCoreApplication qtApplication(argc, argv);
-    const kx::QtTranslations translations;
-    const kx::QtLocalizedText localizedText;
-    kx::installLocalizedText(&localizedText);
+int runInLanguageOfUser(const std::vector<std::string>& arguments, kx::TerminalConsole& console) {
+    takeLocaleOfUser();
+    const kx::TextCatalogue texts(kx::firstTranslation(kx::languagesOfUser()).entries);
+    kx::installLocalizedText(&texts);
     kx::SyslogSystemLog systemLog("kxctl", "/dev/log", kx::SyslogSystemLog::Copies::last);
-    kx::QtRunLoop runLoop;
+    kx::PollRunLoop runLoop;
     kx::RateLimitedSystemLog limitedLog(systemLog, runLoop);
     kx::installSystemLog(&limitedLog);
     kx::installMemoryExhaustionHandler();
@@ -136,5 +143,5 @@ int main(int argc, char* argv[]) {
             return std::get<int>(kx::readCommandLine(arguments, console));
         }
     }
-    return runInLanguageOfUser(argc, argv, arguments, console);
+    return runInLanguageOfUser(arguments, console);
 }

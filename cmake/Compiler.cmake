@@ -11,10 +11,11 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 # Whatever tests run ends where it reads beyond a vector, a text or a view, or an absent value.
 add_compile_definitions($<$<NOT:$<CONFIG:Release>>:_GLIBCXX_ASSERTIONS>)
 
-# Nobody debugs a build that is made once and thrown away. Its reports name lines, and the compiler takes a
-# quarter less time than for all that a debugger shows.
-if(KX_JOIN)
+# Nobody debugs a build that is made once and thrown away. Only what the sanitizers report names lines.
+if(KX_JOIN AND KX_SANITIZE)
     add_compile_options($<$<NOT:$<CONFIG:Release>>:-g1>)
+elseif(KX_JOIN)
+    add_compile_options($<$<NOT:$<CONFIG:Release>>:-g0>)
 endif()
 
 # The tests count lines too, because they compile the inline functions of the headers once more.

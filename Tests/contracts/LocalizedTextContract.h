@@ -2,7 +2,7 @@
 //
 // A test program runs them against its source by
 //
-//     INSTANTIATE_TYPED_TEST_SUITE_P(Qt, LocalizedTextContract, QtLocalizedTextTrait);
+//     INSTANTIATE_TYPED_TEST_SUITE_P(Table, LocalizedTextContract, TextCatalogueTrait);
 //
 // with a trait that is made anew for each test and has
 //

@@ -7,7 +7,7 @@
 #include "platform/qt/AllUnitsModel.h"
 #include "platform/qt/AllUnitsView.h"
 #include "platform/qt/AllUnitsWindow.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

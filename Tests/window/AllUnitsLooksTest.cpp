@@ -34,7 +34,7 @@ private:
 // The language is there before the window is made.
 class AllUnitsSpeaking : private InLanguage, public AllUnitsWindowTest {
 protected:
-    explicit AllUnitsSpeaking(const QString& language)
+    explicit AllUnitsSpeaking(const std::string& language)
         : InLanguage(language) {}
     using InLanguage::language;
 };
@@ -43,7 +43,7 @@ class AllUnitsLanguagesTest : public ::testing::WithParamInterface<std::string>,
                               public AllUnitsSpeaking {
 protected:
     AllUnitsLanguagesTest()
-        : AllUnitsSpeaking(QString::fromStdString(GetParam())) {}
+        : AllUnitsSpeaking(GetParam()) {}
 };
 
 class WithMarks {

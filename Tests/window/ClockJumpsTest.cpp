@@ -1,5 +1,5 @@
 #include "contracts/ClockJumpsContract.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 namespace kx {
 

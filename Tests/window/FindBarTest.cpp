@@ -3,7 +3,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "MainWindowFixture.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 namespace kx {
 

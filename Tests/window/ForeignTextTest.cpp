@@ -2,7 +2,7 @@
 // each character that acts on the screen, and the text itself stays as it is.
 
 #include "MainWindowFixture.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/VisibleText.h"
 
 #include <QClipboard>

@@ -7,7 +7,7 @@
 #include "platform/qt/FromFileTable.h"
 #include "platform/qt/FromFileWindow.h"
 #include "platform/qt/MainWindow.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QAction>
 #include <QApplication>

@@ -34,7 +34,7 @@ private:
 // The language is there before the window is made.
 class FromFileSpeaking : private InLanguage, public FromFileWindowTest {
 protected:
-    explicit FromFileSpeaking(const QString& language)
+    explicit FromFileSpeaking(const std::string& language)
         : InLanguage(language) {}
     using InLanguage::language;
 };
@@ -43,7 +43,7 @@ class FromFileLanguagesTest : public ::testing::WithParamInterface<std::string>,
                               public FromFileSpeaking {
 protected:
     FromFileLanguagesTest()
-        : FromFileSpeaking(QString::fromStdString(GetParam())) {}
+        : FromFileSpeaking(GetParam()) {}
 
     void expectRoomForTexts() {
         for (const auto* each : window.findChildren<QLabel*>()) {

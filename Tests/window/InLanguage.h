@@ -2,25 +2,30 @@
 
 #pragma once
 
-#include "platform/qtcore/QtLocalizedText.h"
-#include "platform/qtcore/QtTranslations.h"
+#include "platform/qt/QtText.h"
+#include "platform/qt/QtTranslations.h"
+#include "support/TextCatalogue.h"
+#include "translations/Translations.h"
+
+#include <string>
 
 namespace kx {
 
 class InLanguage {
 public:
-    explicit InLanguage(const QString& language)
-        : _translations({language})
+    explicit InLanguage(const std::string& language)
+        : _translation(firstTranslation({language}))
         , _previous(installLocalizedText(&_texts)) {}
     ~InLanguage() { installLocalizedText(_previous); }
     InLanguage(const InLanguage&) = delete;
     InLanguage& operator=(const InLanguage&) = delete;
 
-    QString language() const { return _translations.language(); }
+    QString language() const { return qtText(_translation.language); }
 
 private:
-    QtTranslations _translations;
-    QtLocalizedText _texts;
+    Translation _translation;
+    QtTranslations _textsOfQt{_translation.language};
+    TextCatalogue _texts{_translation.entries};
     const LocalizedText* _previous;
 };
 

@@ -135,7 +135,7 @@ class LanguagesTest : public ::testing::WithParamInterface<std::string>,
                       public MainWindowTest {
 public:
     LanguagesTest()
-        : InLanguage(QString::fromStdString(GetParam())) {}
+        : InLanguage(GetParam()) {}
 
 protected:
     // Saves a picture when KX_PICTURES names a folder.

@@ -2,7 +2,7 @@
 
 #include "ScreenReader.h"
 #include "platform/qt/LogTextView.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "platform/qt/LogSearch.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

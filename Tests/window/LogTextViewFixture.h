@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/qt/LogTextView.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // A pop-up with as many titles as a network has units.
 
 #include "platform/qt/QtPopUpButton.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/UniformListView.h"
-#include "platform/qtcore/QtText.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "MainWindowFixture.h"
 #include "platform/qt/AllUnitsView.h"
 #include "platform/qt/AllUnitsWindow.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QAction>
 #include <QApplication>

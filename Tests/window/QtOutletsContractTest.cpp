@@ -11,11 +11,11 @@
 #include "platform/qt/QtPopUpButton.h"
 #include "platform/qt/QtSavePanel.h"
 #include "platform/qt/QtTableView.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/QtTextField.h"
 #include "platform/qt/QtTextLabel.h"
 #include "platform/qt/QtTextView.h"
 #include "platform/qt/QtWindow.h"
-#include "platform/qtcore/QtText.h"
 
 #include <QAbstractButton>
 #include <QApplication>

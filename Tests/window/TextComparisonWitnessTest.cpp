@@ -2,7 +2,7 @@
 // knowledge of Unicode. The toolkit folds each character to one, so this test cannot check
 // characters that fold to several.
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/TextComparison.h"
 
 #include <gtest/gtest.h>

@@ -1,10 +1,9 @@
-// Waiting with a panel above the window, and without a screen.
+// Waiting with a panel above the window.
 
 #include "platform/qt/WaitingPanel.h"
 
 #include "contracts/WaitingContract.h"
-#include "platform/qtcore/EventLoopWaiting.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <qpa/qwindowsysteminterface.h>
 
@@ -34,25 +33,6 @@ void afterAWhile(const std::function<void()>& action) {
     QTimer::singleShot(longAfterThePanel, qApp, action);
 }
 
-class EventLoopWaitingTrait {
-public:
-    Waiting& waiting() { return _waiting; }
-    void giveUpInTheNextWait() {
-        afterAWhile([] { QCoreApplication::exit(0); });
-    }
-    // Inside the application's own loop, so that a request to end is over afterwards.
-    void run(const std::function<void()>& test) {
-        QTimer::singleShot(0, qApp, [&] {
-            test();
-            QCoreApplication::exit(0);
-        });
-        QCoreApplication::exec();
-    }
-
-private:
-    EventLoopWaiting _waiting;
-};
-
 class WaitingPanelTrait {
 public:
     WaitingPanelTrait() { _window.show(); }
@@ -67,22 +47,30 @@ private:
     WaitingPanel _panel{_window};
 };
 
-// The same by a program without a screen, whose person sends it a signal.
-class InterruptedWaitingTrait {
+// The same in an application that is asked to end.
+class EndingApplicationTrait {
 public:
-    Waiting& waiting() { return _waiting; }
+    EndingApplicationTrait() { _window.show(); }
+    Waiting& waiting() { return _panel; }
     void giveUpInTheNextWait() {
-        afterAWhile([this] { _waiting.giveUp(); });
+        afterAWhile([] { QCoreApplication::exit(0); });
     }
-    void run(const std::function<void()>& test) { test(); }
+    // Inside the application's own loop, so that a request to end is over afterwards.
+    void run(const std::function<void()>& test) {
+        QTimer::singleShot(0, qApp, [&] {
+            test();
+            QCoreApplication::exit(0);
+        });
+        QCoreApplication::exec();
+    }
 
 private:
-    EventLoopWaiting _waiting;
+    QWidget _window;
+    WaitingPanel _panel{_window};
 };
 
-INSTANTIATE_TYPED_TEST_SUITE_P(EventLoop, WaitingContract, EventLoopWaitingTrait);
-INSTANTIATE_TYPED_TEST_SUITE_P(Interrupted, WaitingContract, InterruptedWaitingTrait);
 INSTANTIATE_TYPED_TEST_SUITE_P(Panel, WaitingContract, WaitingPanelTrait);
+INSTANTIATE_TYPED_TEST_SUITE_P(EndingApplication, WaitingContract, EndingApplicationTrait);
 
 // A window with a button, and the number of times that it was painted.
 class WindowBelow final : public QWidget {
@@ -99,13 +87,6 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override { ++paintings; }
 };
-
-TEST(EventLoopWaiting, WhatWasGivenUpEndsNoLaterWait) {
-    EventLoopWaiting waiting;
-    waiting.giveUp();
-    int asked = 0;
-    EXPECT_TRUE(waiting.until([&] { return ++asked == 5; }, sentence));
-}
 
 class WaitingPanelTest : public testing::Test {
 protected:

@@ -12,14 +12,15 @@
 
 #include "platform/linux/ConnectionProfiles.h"
 
-#include <QDBusMessage>
 #include <vector>
+
+struct sd_bus_message;
 
 namespace kx {
 
 // The profiles in the order in which NetworkManager lists them, each once with its link. A profile
 // with several devices comes once for each of them. Addresses that cannot be read are left out. An
-// answer of another shape gives no profiles.
-std::vector<ConnectionProfile> activeConnections(const QDBusMessage& managedObjects);
+// answer of another shape gives no profiles. The message is read from its beginning.
+std::vector<ConnectionProfile> activeConnections(sd_bus_message* managedObjects);
 
 } // namespace kx

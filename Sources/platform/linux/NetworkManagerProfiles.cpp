@@ -1,13 +1,12 @@
 #include "platform/linux/NetworkManagerProfiles.h"
 
 #include "platform/linux/ActiveConnections.h"
-#include "platform/qtcore/SystemBus.h"
+#include "platform/linux/SystemBus.h"
 
-#include <QDBusError>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QVariant>
+#include <systemd/sd-bus.h>
+
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace kx {
@@ -23,8 +22,8 @@ constexpr int restAfterATry = 8; // times the duration of the try
 constexpr auto service = "org.freedesktop.NetworkManager";
 constexpr auto rootPath = "/org/freedesktop";
 constexpr auto objectManagerInterface = "org.freedesktop.DBus.ObjectManager";
-constexpr auto busService = "org.freedesktop.DBus";
-constexpr auto ownerChanged = "NameOwnerChanged";
+constexpr auto propertiesInterface = "org.freedesktop.DBus.Properties";
+constexpr std::string_view ownerChanged = "NameOwnerChanged";
 
 // The interfaces of NetworkManager from which profiles are read. Others change all the time, for
 // example the strength of radio signals.
@@ -37,19 +36,15 @@ constexpr const char* readInterfaces[] = {
 
 } // namespace
 
-// The watcher may be the sender of the running signal, so it is deleted later.
-void NetworkManagerProfiles::EndOfCall::operator()(QDBusPendingCallWatcher* call) const {
-    call->disconnect();
-    call->deleteLater();
-}
-
-NetworkManagerProfiles::NetworkManagerProfiles() {
+NetworkManagerProfiles::NetworkManagerProfiles(RunLoop& loop)
+    : _loop(loop) {
     connectToBus();
 }
 
 NetworkManagerProfiles::~NetworkManagerProfiles() = default;
 
 const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
+    _bus->process(); // the bus may have ended
     if (!_bus->isOpen()) {
         forget();
         if (Clock::now() >= _nextTry) {
@@ -57,42 +52,52 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
         }
     }
     if (_isFirstReading) {
-        // This waits on the call itself. Its watcher would take the answer while it waits.
-        _reading->QDBusPendingCall::waitForFinished();
-        takeAnswer();
+        _bus->processUntil([this] { return !_isFirstReading; });
     }
     return _profiles;
 }
 
 void NetworkManagerProfiles::connectToBus() {
     const auto begin = Clock::now();
-    _bus = std::make_unique<SystemBus>([this](const QDBusMessage& signal) { hear(signal); },
-                                       firstPatience);
+    _watch.reset();
+    _bus = std::make_unique<SystemBus>(
+        firstPatience, [this](sd_bus_message* signal) { hear(signal); }, [this] { forget(); });
     const auto end = Clock::now();
     _nextTry = end + std::max<Clock::duration>(timeBetweenTries, restAfterATry * (end - begin));
     if (!_bus->isOpen()) {
         return;
     }
-    _bus->hearSignals(busService, busService, ownerChanged, service);
-    _ownerAnswer.reset(new QDBusPendingCallWatcher(_bus->owner(service)));
+    _watch = _loop.watchForReading(_bus->descriptor(), [this] { _bus->process(); });
+    _bus->hearSignals(busService, busService, std::string(ownerChanged), service);
+    // The answer comes before any signal of a later change of the owner, and before the answer to a
+    // call that is made later.
+    auto question = _bus->method(busService, busPath, busService, "GetNameOwner");
+    sd_bus_message_append_basic(question.get(), SD_BUS_TYPE_STRING, service);
+    _ownerAnswer = _bus->call(std::move(question), SystemBus::endlessPatience);
     for (const auto* const interface : readInterfaces) {
-        _bus->hearSignals(service, "org.freedesktop.DBus.Properties", "PropertiesChanged",
-                          interface);
+        _bus->hearSignals(service, propertiesInterface, "PropertiesChanged", interface);
     }
     read(firstPatience);
-    _isFirstReading = true;
+    if (_reading != nullptr) {
+        _isFirstReading = true;
+        _endOfPatience = _loop.callOnceAfter(firstPatience, [this] { _bus->process(); });
+    }
 }
 
 void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
-    const auto request = QDBusMessage::createMethodCall(service, rootPath, objectManagerInterface,
-                                                        "GetManagedObjects");
-    _reading.reset(new QDBusPendingCallWatcher(_bus->call(request, patience)));
-    QObject::connect(_reading.get(), &QDBusPendingCallWatcher::finished, _reading.get(),
-                     [this] { takeAnswer(); });
+    _reading =
+        _bus->call(_bus->method(service, rootPath, objectManagerInterface, "GetManagedObjects"),
+                   patience, [this] { takeAnswer(); });
+    if (_reading->isFinished()) {
+        forget(); // the connection has ended
+    }
 }
 
 // The connection that told the profiles is gone and will not answer any more.
 void NetworkManagerProfiles::forget() {
+    if (!_bus->isOpen()) {
+        _watch.reset();
+    }
     endReading();
     _ownerAnswer.reset();
     _owner.clear();
@@ -101,21 +106,22 @@ void NetworkManagerProfiles::forget() {
 
 void NetworkManagerProfiles::endReading() {
     _reading.reset();
+    _endOfPatience.reset();
     _isFirstReading = _isOutdated = false;
 }
 
 void NetworkManagerProfiles::takeAnswer() {
-    const QDBusMessage answer = _reading->reply();
+    const auto answered = std::move(_reading);
     bool mustReadAgain = _isOutdated;
     endReading();
-    if (answer.type() == QDBusMessage::ReplyMessage) {
-        setProfiles(activeConnections(answer));
-    } else if (QDBusError(answer).type() == QDBusError::NoReply) {
+    if (sd_bus_message* const reply = answered->reply()) {
+        setProfiles(activeConnections(reply));
+    } else if (answered->isWithoutReply()) {
         mustReadAgain = true; // NetworkManager hangs, or ended just now
     } else {
         setProfiles({});
     }
-    if (mustReadAgain) {
+    if (mustReadAgain && _reading == nullptr) {
         read(SystemBus::endlessPatience);
     }
 }
@@ -132,36 +138,34 @@ void NetworkManagerProfiles::setProfiles(std::vector<ConnectionProfile> profiles
 
 // Any connection on the bus may send a signal to this end directly, whatever this end has asked
 // for.
-void NetworkManagerProfiles::hear(const QDBusMessage& signal) {
-    if (SystemBus::endsConnection(signal)) {
-        forget();
-    } else if (signal.member() == ownerChanged) {
-        const auto arguments = signal.arguments();
-        if (signal.service() == busService && arguments.value(0).toString() == service) {
-            hearOwner(arguments.value(2).toString());
+void NetworkManagerProfiles::hear(sd_bus_message* signal) {
+    if (sd_bus_message_get_member(signal) == ownerChanged) {
+        const auto arguments = textsIn(signal, 3);
+        if (senderOf(signal) == busService && arguments.has_value() &&
+            arguments->front() == service) {
+            hearOwner(arguments->back());
         }
     } else if (_reading != nullptr) {
-        _isOutdated = _isOutdated || owner().isEmpty() || signal.service() == owner();
-    } else if (!owner().isEmpty() && signal.service() == owner()) {
+        _isOutdated = _isOutdated || owner().empty() || senderOf(signal) == owner();
+    } else if (!owner().empty() && senderOf(signal) == owner()) {
         read(SystemBus::endlessPatience);
     }
 }
 
-const QString& NetworkManagerProfiles::owner() {
+const std::string& NetworkManagerProfiles::owner() {
     if (_ownerAnswer != nullptr && _ownerAnswer->isFinished()) {
-        const QDBusMessage answer = _ownerAnswer->reply();
-        if (answer.type() == QDBusMessage::ReplyMessage) { // otherwise there is no owner
-            _owner = answer.arguments().value(0).toString();
+        if (sd_bus_message* const answer = _ownerAnswer->reply()) { // otherwise there is no owner
+            _owner = textsIn(answer, 1).value_or(std::vector<std::string>{""}).front();
         }
         _ownerAnswer.reset();
     }
     return _owner;
 }
 
-void NetworkManagerProfiles::hearOwner(const QString& owner) {
+void NetworkManagerProfiles::hearOwner(const std::string& owner) {
     forget();
     _owner = owner;
-    if (_bus->isOpen() && !owner.isEmpty()) {
+    if (_bus->isOpen() && !owner.empty()) {
         read(SystemBus::endlessPatience);
     }
 }

@@ -11,30 +11,32 @@
 // are at least one second apart, and six seconds after a try that a stopped bus has held up. At
 // rest nothing wakes up, with a bus or without.
 //
-// Threading: the main thread only, which needs a QCoreApplication whose event loop runs.
+// Threading: the thread of the run loop only.
 
 #pragma once
 
 #include "platform/linux/ConnectionProfiles.h"
+#include "support/RunLoop.h"
 
-#include <QString>
 #include <chrono>
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
-class QDBusMessage;
-class QDBusPendingCallWatcher;
+struct sd_bus_message;
 
 namespace kx {
 
+class BusCall;
 class SystemBus;
 
 class NetworkManagerProfiles final : public ConnectionProfiles {
 public:
-    // Asks for the profiles, so that they have usually arrived when they are needed.
-    NetworkManagerProfiles();
+    // Asks for the profiles, so that they have usually arrived when they are needed. `loop` must
+    // outlive the object.
+    explicit NetworkManagerProfiles(RunLoop& loop);
     ~NetworkManagerProfiles() override;
     NetworkManagerProfiles(const NetworkManagerProfiles&) = delete;
     NetworkManagerProfiles& operator=(const NetworkManagerProfiles&) = delete;
@@ -47,28 +49,26 @@ public:
     }
 
 private:
-    struct EndOfCall {
-        void operator()(QDBusPendingCallWatcher* call) const;
-    };
-    using Call = std::unique_ptr<QDBusPendingCallWatcher, EndOfCall>;
-
     void connectToBus();
-    void hear(const QDBusMessage& signal);
-    void hearOwner(const QString& owner);
-    const QString& owner(); // NetworkManager's own name on the bus; empty while it is not known
+    void hear(sd_bus_message* signal);
+    void hearOwner(const std::string& owner);
+    const std::string& owner(); // NetworkManager's own name on the bus; empty while it is not known
     void read(std::chrono::milliseconds patience);
     void forget();
     void endReading();
     void takeAnswer();
     void setProfiles(std::vector<ConnectionProfile> profiles);
 
+    RunLoop& _loop;
     std::unique_ptr<SystemBus> _bus;
     std::chrono::steady_clock::time_point _nextTry; // the earliest time to try to reach a bus
-    Call _reading;                                  // the call that is under way, or null
+    RunLoop::Handle _watch;                         // of the bus
+    RunLoop::Handle _endOfPatience;                 // with the first reading
+    std::unique_ptr<BusCall> _reading;              // the call that is under way, or null
     bool _isFirstReading = false; // _reading is the first on this bus, and has a time limit
     bool _isOutdated = false;     // the answer to _reading will be outdated
-    Call _ownerAnswer;            // pending answer of the bus about the owner, or null
-    QString _owner;               // as told last; owner() reads it
+    std::unique_ptr<BusCall> _ownerAnswer; // pending answer of the bus about the owner, or null
+    std::string _owner;                    // as told last; owner() reads it
     std::vector<ConnectionProfile> _profiles;
     std::uint64_t _generation = 0;
     std::function<void()> _changeAction;

@@ -38,8 +38,8 @@ namespace kx {
 
 class PolkitAuthorizationService final : public AuthorizationService {
 public:
-    // `loop` and `waiting` must outlive the service. Needs a QCoreApplication. `asksInTerminal`
-    // tells whether a person may be asked in the terminal of this process, where no desktop asks.
+    // `loop` and `waiting` must outlive the service. `asksInTerminal` tells whether a person may be
+    // asked in the terminal of this process, where no desktop asks.
     PolkitAuthorizationService(RunLoop& loop, Waiting& waiting, bool asksInTerminal);
 
     std::unique_ptr<AuthorizationReference> create() override;

@@ -1,35 +1,26 @@
 #include "platform/linux/PolkitCheck.h"
 
-#include "platform/qtcore/SystemBus.h"
+#include "platform/linux/SystemBus.h"
 #include "support/LocalizedText.h"
 
+#include <systemd/sd-bus.h>
 #include <unistd.h>
 
-#include <QDBusArgument>
-#include <QDBusMessage>
-#include <QDBusPendingCall>
-#include <QMap>
-#include <QString>
-#include <QVariant>
-#include <QVariantMap>
 #include <chrono>
 #include <cstdint>
 #include <fstream>
 #include <iterator>
 #include <memory>
-#include <optional>
 #include <sstream>
+#include <string>
 
 namespace kx {
 
 namespace {
 
-const QString busName = QStringLiteral("org.freedesktop.DBus");
-const QString busPath = QStringLiteral("/org/freedesktop/DBus");
-const QString authorityName = QStringLiteral("org.freedesktop.PolicyKit1");
-const QString authorityPath = QStringLiteral("/org/freedesktop/PolicyKit1/Authority");
-const QString authorityInterface = QStringLiteral("org.freedesktop.PolicyKit1.Authority");
-const QString resultSignature = QStringLiteral("(bba{ss})");
+constexpr auto authorityName = "org.freedesktop.PolicyKit1";
+constexpr auto authorityPath = "/org/freedesktop/PolicyKit1/Authority";
+constexpr auto authorityInterface = "org.freedesktop.PolicyKit1.Authority";
 
 // The time that the bus may take to answer, and the longer time that it may take to start polkit.
 constexpr std::chrono::milliseconds patienceWithBus{1000};
@@ -37,8 +28,6 @@ constexpr std::chrono::milliseconds patienceWithStart{2000};
 
 // The time between two looks at a polkit that has a person asked.
 constexpr std::chrono::milliseconds betweenLooksAtPolkit{1000};
-
-using Details = QMap<QString, QString>;
 
 // The start time of this process, in the kernel's clock ticks since boot. It is 0 when it cannot be
 // read; polkit then looks it up itself. Together with the process number it names the process for
@@ -63,82 +52,69 @@ std::uint64_t startTime() {
     return time;
 }
 
-// The structure (sa{sv}) that names this process.
-QDBusArgument thisProcess() {
-    const QVariantMap details{{QStringLiteral("pid"), static_cast<quint32>(::getpid())},
-                              {QStringLiteral("start-time"), static_cast<quint64>(startTime())},
-                              {QStringLiteral("uid"), static_cast<qint32>(::getuid())}};
-    QDBusArgument subject;
-    subject.beginStructure();
-    subject << QStringLiteral("unix-process") << details;
-    subject.endStructure();
-    return subject;
-}
-
-QDBusArgument noDetails() {
-    QDBusArgument details;
-    details << Details();
-    return details;
-}
-
-PolkitAnswer answerOf(const QDBusMessage& reply) {
-    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != resultSignature) {
+PolkitAnswer answerOf(sd_bus_message* reply) {
+    int isAuthorized = 0;
+    int isChallenge = 0;
+    if (reply == nullptr || sd_bus_message_has_signature(reply, "(bba{ss})") <= 0 ||
+        sd_bus_message_enter_container(reply, SD_BUS_TYPE_STRUCT, "bba{ss}") <= 0 ||
+        sd_bus_message_read(reply, "bb", &isAuthorized, &isChallenge) <= 0) {
         return PolkitAnswer::unreachable;
     }
-    const auto result = reply.arguments().constFirst().value<QDBusArgument>();
-    bool isAuthorized = false;
-    bool isChallenge = false;
-    Details details;
-    result.beginStructure();
-    result >> isAuthorized >> isChallenge >> details;
-    result.endStructure();
-    if (isAuthorized) {
+    if (isAuthorized != 0) {
         return PolkitAnswer::authorized;
     }
-    return isChallenge ? PolkitAnswer::nobodyAsked : PolkitAnswer::refused;
+    return isChallenge != 0 ? PolkitAnswer::nobodyAsked : PolkitAnswer::refused;
 }
 
-// The answer; an error when there is none in time, and when the person gives up.
-QDBusMessage answerTo(SystemBus& bus, const QDBusMessage& question,
-                      std::chrono::milliseconds patience, Waiting& waiting) {
-    const QDBusPendingCall call = bus.call(question, patience);
-    waiting.until([&call] { return call.isFinished(); },
-                  localizedText("Waiting for administrator rights."));
-    return call.isFinished() ? call.reply() : QDBusMessage();
+// The finished call; one that has no reply when there is none in time, and when the person gives
+// up.
+std::unique_ptr<BusCall> answerTo(SystemBus& bus, BusMessage question,
+                                  std::chrono::milliseconds patience, Waiting& waiting) {
+    auto call = bus.call(std::move(question), patience);
+    waiting.until(
+        [&] {
+            bus.process();
+            return call->isFinished();
+        },
+        localizedText("Waiting for administrator rights."));
+    return call;
 }
-
-QDBusMessage questionToBus(const QString& method) {
-    auto question = QDBusMessage::createMethodCall(busName, busPath, busName, method);
-    question << authorityName;
-    return question;
-}
-
-void hearNothing(const QDBusMessage& /*signal*/) {}
 
 bool isPolkitOn(SystemBus& bus, Waiting& waiting) {
-    const auto has =
-        answerTo(bus, questionToBus(QStringLiteral("NameHasOwner")), patienceWithBus, waiting);
-    if (has.type() != QDBusMessage::ReplyMessage) {
+    auto question = bus.method(busService, busPath, busService, "NameHasOwner");
+    int hasOwner = 0;
+    if (question == nullptr || sd_bus_message_append(question.get(), "s", authorityName) < 0) {
         return false;
     }
-    if (has.arguments().value(0).toBool()) {
+    const auto has = answerTo(bus, std::move(question), patienceWithBus, waiting);
+    if (has->reply() == nullptr || sd_bus_message_read(has->reply(), "b", &hasOwner) <= 0) {
+        return false;
+    }
+    if (hasOwner != 0) {
         return true;
     }
-    auto start = questionToBus(QStringLiteral("StartServiceByName"));
-    start << 0U; // no flags are defined
-    return answerTo(bus, start, patienceWithStart, waiting).type() == QDBusMessage::ReplyMessage;
+    constexpr std::uint32_t noFlags = 0;
+    auto start = bus.method(busService, busPath, busService, "StartServiceByName");
+    return start != nullptr &&
+           sd_bus_message_append(start.get(), "su", authorityName, noFlags) >= 0 &&
+           answerTo(bus, std::move(start), patienceWithStart, waiting)->reply() != nullptr;
 }
 
-QDBusMessage questionToPolkit(const QString& method) {
-    return QDBusMessage::createMethodCall(authorityName, authorityPath, authorityInterface, method);
-}
-
-QDBusMessage questionAbout(const std::string& action) {
-    constexpr quint32 askNobody = 0;
-    auto question = questionToPolkit(QStringLiteral("CheckAuthorization"));
-    question << QVariant::fromValue(thisProcess()) << QString::fromStdString(action)
-             << QVariant::fromValue(noDetails()) << askNobody << QString();
-    return question;
+// About this process, which its number and its start time name for good.
+BusMessage questionAbout(const SystemBus& bus, const std::string& action) {
+    constexpr std::uint32_t askNobody = 0;
+    auto question =
+        bus.method(authorityName, authorityPath, authorityInterface, "CheckAuthorization");
+    if (question == nullptr) {
+        return nullptr;
+    }
+    const bool isWhole =
+        sd_bus_message_append(question.get(), "(sa{sv})", "unix-process", 3,             //
+                              "pid", "u", static_cast<std::uint32_t>(::getpid()),        //
+                              "start-time", "t", startTime(),                            //
+                              "uid", "i", static_cast<std::int32_t>(::getuid())) >= 0 && //
+        sd_bus_message_append(question.get(), "sa{ss}us", action.c_str(), 0, askNobody, "") >= 0;
+    return isWhole ? std::move(question) : nullptr;
 }
 
 // Looks from time to time whether polkit answers a question that needs nobody.
@@ -148,16 +124,13 @@ public:
         if (_isSilent) {
             return true;
         }
-        if (!_look.has_value()) {
+        _bus.process();
+        if (_look == nullptr) {
             if (Clock::now() >= _nextLook) {
-                auto question = QDBusMessage::createMethodCall(
-                    authorityName, authorityPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-                    QStringLiteral("Get"));
-                question << authorityInterface << QStringLiteral("BackendName");
-                _look = _bus.call(question, patienceWithPolkit);
+                _look = _bus.call(nameOfBackend(), patienceWithPolkit);
             }
         } else if (_look->isFinished()) {
-            _isSilent = _look->isError();
+            _isSilent = _look->reply() == nullptr;
             _look.reset();
             _nextLook = Clock::now() + betweenLooksAtPolkit;
         }
@@ -167,8 +140,17 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
-    SystemBus _bus{hearNothing, patienceWithBus};
-    std::optional<QDBusPendingCall> _look;
+    BusMessage nameOfBackend() const {
+        auto question =
+            _bus.method(authorityName, authorityPath, "org.freedesktop.DBus.Properties", "Get");
+        if (question != nullptr) {
+            sd_bus_message_append(question.get(), "ss", authorityInterface, "BackendName");
+        }
+        return question;
+    }
+
+    SystemBus _bus{patienceWithBus};
+    std::unique_ptr<BusCall> _look; // null between two looks
     Clock::time_point _nextLook = Clock::now() + betweenLooksAtPolkit;
     bool _isSilent = false;
 };
@@ -176,7 +158,7 @@ private:
 } // namespace
 
 bool isPolkitThere(Waiting& waiting) {
-    SystemBus bus(hearNothing, patienceWithBus);
+    SystemBus bus(patienceWithBus);
     return isPolkitOn(bus, waiting);
 }
 
@@ -185,9 +167,10 @@ std::function<bool()> watchPolkitForSilence() {
 }
 
 PolkitAnswer askPolkit(const std::string& action, Waiting& waiting) {
-    SystemBus bus(hearNothing, patienceWithBus);
+    SystemBus bus(patienceWithBus);
     return isPolkitOn(bus, waiting)
-               ? answerOf(answerTo(bus, questionAbout(action), patienceWithPolkit, waiting))
+               ? answerOf(answerTo(bus, questionAbout(bus, action), patienceWithPolkit, waiting)
+                              ->reply())
                : PolkitAnswer::unreachable;
 }
 

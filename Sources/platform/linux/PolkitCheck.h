@@ -7,7 +7,7 @@
 // The application's events are handled meanwhile, and the person can give up (support/Waiting.h).
 // A bus has one second to show that it is there; no event is handled during this second.
 //
-// Threading: the main thread only. A QCoreApplication must exist.
+// Threading: the main thread only.
 
 #pragma once
 

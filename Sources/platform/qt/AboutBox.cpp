@@ -1,6 +1,6 @@
 #include "platform/qt/AboutBox.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QCoreApplication>
 #include <QIcon>

@@ -1,7 +1,7 @@
 #include "platform/qt/AllUnitsView.h"
 
 #include "platform/qt/AllUnitsModel.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

@@ -7,8 +7,8 @@
 #include "platform/qt/AllUnitsView.h"
 #include "platform/qt/AnnouncedLabel.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/ScreenFit.h"
-#include "platform/qtcore/QtText.h"
 #include "words/QuotedText.h"
 
 #include <QClipboard>

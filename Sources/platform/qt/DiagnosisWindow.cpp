@@ -1,8 +1,8 @@
 #include "platform/qt/DiagnosisWindow.h"
 
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/ScreenFit.h"
-#include "platform/qtcore/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>

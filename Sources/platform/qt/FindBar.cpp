@@ -1,7 +1,7 @@
 #include "platform/qt/FindBar.h"
 
 #include "platform/qt/LogSearch.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>

@@ -1,6 +1,6 @@
 #include "platform/qt/FromFileModel.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <utility>
 

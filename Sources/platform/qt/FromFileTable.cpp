@@ -1,6 +1,6 @@
 #include "platform/qt/FromFileTable.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "units/UnitParameter.h"
 
 #include <QHeaderView>

@@ -4,10 +4,10 @@
 #include "platform/qt/FromFileTable.h"
 #include "platform/qt/PixelAlignedFrame.h"
 #include "platform/qt/QtButton.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/RefreshedComboBox.h"
 #include "platform/qt/ScreenFit.h"
 #include "platform/qt/SentenceLabel.h"
-#include "platform/qtcore/QtText.h"
 #include "words/QuotedText.h"
 
 #include <QCheckBox>

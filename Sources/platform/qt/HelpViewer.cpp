@@ -3,8 +3,8 @@
 #include "platform/qt/Contrast.h"
 #include "platform/qt/HelpLanguage.h"
 #include "platform/qt/PixelAlignedFrame.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/ScreenFit.h"
-#include "platform/qtcore/QtText.h"
 
 #include <QDir>
 #include <QEvent>

@@ -1,6 +1,6 @@
 #include "platform/qt/LogRowLayout.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QTextOption>
 #include <algorithm>

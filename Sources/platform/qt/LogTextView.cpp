@@ -2,7 +2,7 @@
 
 #include "platform/qt/LogMimeData.h"
 #include "platform/qt/LogTextAccessible.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QApplication>
 #include <QClipboard>

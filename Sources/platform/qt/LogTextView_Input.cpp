@@ -1,7 +1,7 @@
 // A person's actions in the log view with the mouse and the keyboard.
 
 #include "platform/qt/LogTextView.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>

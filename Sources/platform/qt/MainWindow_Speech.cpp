@@ -5,7 +5,7 @@
 #include "platform/qt/EditCommands.h"
 #include "platform/qt/MainWindow.h"
 #include "platform/qt/QtButton.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "ui_MainWindow.h"
 
 #include <QFocusEvent>

@@ -2,7 +2,7 @@
 
 #include "platform/qt/HelpLanguage.h"
 #include "platform/qt/HelpViewer.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/LocalizedText.h"
 
 #include <QDesktopServices>

@@ -1,8 +1,8 @@
 #include "platform/qt/QtPopUpButton.h"
 
 #include "platform/qt/DetailDelegate.h"
+#include "platform/qt/QtText.h"
 #include "platform/qt/UniformListView.h"
-#include "platform/qtcore/QtText.h"
 
 #include <algorithm>
 #include <functional>

@@ -1,6 +1,6 @@
 #include "platform/qt/QtTextField.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/VisibleText.h"
 
 namespace kx {

@@ -1,6 +1,6 @@
 #include "platform/qt/QtTextLabel.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 
 namespace kx {
 

@@ -1,6 +1,6 @@
 #include "platform/qt/SentenceLabel.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/LocalizedText.h"
 
 #include <QPainter>

@@ -1,6 +1,6 @@
 #include "platform/qt/TitleListModel.h"
 
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/QtText.h"
 #include "support/VisibleText.h"
 
 #include <QBrush>

@@ -1,7 +1,7 @@
 #include "platform/qt/WaitingPanel.h"
 
-#include "platform/qtcore/EventLoopWaiting.h"
-#include "platform/qtcore/QtText.h"
+#include "platform/qt/EventHandling.h"
+#include "platform/qt/QtText.h"
 #include "support/RunLoop.h"
 
 #include <QApplication>

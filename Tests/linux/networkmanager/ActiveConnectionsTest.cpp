@@ -1,5 +1,4 @@
-// The profiles that are read from NetworkManager's answer; other answers do no harm. Each answer
-// goes over a connection, because a value has its type only there.
+// The profiles that are read from NetworkManager's answer; other answers do no harm.
 
 #include "platform/linux/ActiveConnections.h"
 
@@ -7,34 +6,37 @@
 
 #include <gtest/gtest.h>
 
-#include <QDBusObjectPath>
+#include <string>
+#include <tuple>
+#include <vector>
 
 namespace kx {
 
 namespace {
 
-using Paths = QList<QDBusObjectPath>;
+using Paths = std::vector<ObjectPath>;
+using Dictionaries = std::vector<Dictionary>;
 using Profiles = std::vector<ConnectionProfile>;
 
-const QDBusObjectPath managerPath("/org/freedesktop/NetworkManager");
-const QDBusObjectPath connectionPath("/org/freedesktop/NetworkManager/ActiveConnection/2");
-const QDBusObjectPath devicePath("/org/freedesktop/NetworkManager/Devices/3");
-const QDBusObjectPath configurationPath("/org/freedesktop/NetworkManager/IP4Config/4");
+const std::string managerPath = "/org/freedesktop/NetworkManager";
+const std::string connectionPath = "/org/freedesktop/NetworkManager/ActiveConnection/2";
+const std::string devicePath = "/org/freedesktop/NetworkManager/Devices/3";
+const std::string configurationPath = "/org/freedesktop/NetworkManager/IP4Config/4";
 
-const QString managerInterface = "org.freedesktop.NetworkManager";
-const QString activeInterface = "org.freedesktop.NetworkManager.Connection.Active";
-const QString deviceInterface = "org.freedesktop.NetworkManager.Device";
-const QString ipv4Interface = "org.freedesktop.NetworkManager.IP4Config";
+const std::string managerInterface = "org.freedesktop.NetworkManager";
+const std::string activeInterface = "org.freedesktop.NetworkManager.Connection.Active";
+const std::string deviceInterface = "org.freedesktop.NetworkManager.Device";
+const std::string ipv4Interface = "org.freedesktop.NetworkManager.IP4Config";
 
 class ActiveConnections : public testing::Test {
 protected:
     ActiveConnections() {
-        objects[managerPath][managerInterface]["ActiveConnections"] = list({connectionPath});
+        objects[managerPath][managerInterface]["ActiveConnections"] = Paths{{connectionPath}};
         auto& active = connection();
         active["Uuid"] = "1234";
         active["Id"] = "Büro";
-        active["Devices"] = list({devicePath});
-        active["Ip4Config"] = QVariant::fromValue(configurationPath);
+        active["Devices"] = Paths{{devicePath}};
+        active["Ip4Config"] = ObjectPath{configurationPath};
         active["StateFlags"] = 0x5CU;
         active["Vpn"] = false;
         device()["Interface"] = "eth0";
@@ -42,15 +44,17 @@ protected:
         setAddresses({{{"address", "192.0.2.5"}, {"prefix", 24U}}});
     }
 
-    static QVariant list(const Paths& paths) { return QVariant::fromValue(paths); }
-    QVariantMap& connection() { return objects[connectionPath][activeInterface]; }
-    QVariantMap& device() { return objects[devicePath][deviceInterface]; }
+    Properties& connection() { return objects[connectionPath][activeInterface]; }
+    Properties& device() { return objects[devicePath][deviceInterface]; }
     void setAddresses(const Dictionaries& addresses) {
-        objects[configurationPath][ipv4Interface]["AddressData"] = QVariant::fromValue(addresses);
+        objects[configurationPath][ipv4Interface]["AddressData"] = addresses;
     }
 
-    Profiles read() { return readValue(QVariant::fromValue(objects)); }
-    Profiles readValue(const QVariant& value) { return activeConnections(wire.carried(value)); }
+    Profiles read() { return readValue(objects); }
+    template<class Carried>
+    Profiles readValue(const Carried& value) {
+        return activeConnections(wire.carried(value).get());
+    }
 
     // The one profile, or an empty profile.
     ConnectionProfile only() {
@@ -71,10 +75,10 @@ TEST_F(ActiveConnections, AConnectionIsAProfileWithItsDeviceAndItsAddresses) {
 }
 
 TEST_F(ActiveConnections, TheyComeInTheOrderOfTheManagersList) {
-    const QDBusObjectPath other("/org/freedesktop/NetworkManager/ActiveConnection/10");
+    const std::string other = "/org/freedesktop/NetworkManager/ActiveConnection/10";
     objects[other][activeInterface] = connection();
     objects[other][activeInterface]["Uuid"] = "5678";
-    objects[managerPath][managerInterface]["ActiveConnections"] = list({other, connectionPath});
+    objects[managerPath][managerInterface]["ActiveConnections"] = Paths{{other}, {connectionPath}};
     const auto profiles = read();
     ASSERT_EQ(profiles.size(), 2U);
     EXPECT_EQ(profiles[0].identifier, "5678");
@@ -82,26 +86,26 @@ TEST_F(ActiveConnections, TheyComeInTheOrderOfTheManagersList) {
 }
 
 TEST_F(ActiveConnections, AProfileThatIsActivatedAnewComesOnce) {
-    const QDBusObjectPath next("/org/freedesktop/NetworkManager/ActiveConnection/3");
+    const std::string next = "/org/freedesktop/NetworkManager/ActiveConnection/3";
     objects[next][activeInterface] = connection();
-    objects[managerPath][managerInterface]["ActiveConnections"] = list({next, connectionPath});
+    objects[managerPath][managerInterface]["ActiveConnections"] = Paths{{next}, {connectionPath}};
     EXPECT_EQ(read(), Profiles{ordinary});
 }
 
 TEST_F(ActiveConnections, SeveralProfilesOnOneDeviceAllCome) {
-    const QDBusObjectPath other("/org/freedesktop/NetworkManager/ActiveConnection/3");
+    const std::string other = "/org/freedesktop/NetworkManager/ActiveConnection/3";
     objects[other][activeInterface] = connection();
     objects[other][activeInterface]["Uuid"] = "5678";
-    objects[managerPath][managerInterface]["ActiveConnections"] = list({connectionPath, other});
+    objects[managerPath][managerInterface]["ActiveConnections"] = Paths{{connectionPath}, {other}};
     const auto profiles = read();
     ASSERT_EQ(profiles.size(), 2U);
     EXPECT_EQ(profiles[1].interfaceName, "eth0");
 }
 
 TEST_F(ActiveConnections, AProfileWithSeveralDevicesComesForEach) {
-    const QDBusObjectPath other("/org/freedesktop/NetworkManager/Devices/4");
+    const std::string other = "/org/freedesktop/NetworkManager/Devices/4";
     objects[other][deviceInterface]["Interface"] = "eth1";
-    connection()["Devices"] = list({devicePath, other});
+    connection()["Devices"] = Paths{{devicePath}, {other}};
     const auto profiles = read();
     ASSERT_EQ(profiles.size(), 2U);
     EXPECT_EQ(profiles[0].interfaceName, "eth0");
@@ -127,19 +131,19 @@ TEST_F(ActiveConnections, WhatNetworkManagerMadeUpIsNoProfile) {
 }
 
 TEST_F(ActiveConnections, AConnectionWithoutADeviceIsLeftOut) {
-    connection()["Devices"] = list({});
+    connection()["Devices"] = Paths();
     EXPECT_EQ(read(), Profiles());
-    connection()["Devices"] = list({QDBusObjectPath("/gone")});
+    connection()["Devices"] = Paths{{"/gone"}};
     EXPECT_EQ(read(), Profiles());
-    connection()["Devices"] = list({devicePath});
+    connection()["Devices"] = Paths{{devicePath}};
     device()["Interface"] = device()["IpInterface"] = "";
     EXPECT_EQ(read(), Profiles());
 }
 
 TEST_F(ActiveConnections, AProfileMayHaveNoAddresses) {
-    connection()["Ip4Config"] = QVariant::fromValue(QDBusObjectPath("/"));
+    connection()["Ip4Config"] = ObjectPath{"/"};
     EXPECT_EQ(only().addresses, std::vector<IPv4InterfaceAddress>());
-    connection().remove("Ip4Config");
+    connection().erase("Ip4Config");
     EXPECT_EQ(only().addresses, std::vector<IPv4InterfaceAddress>());
 }
 
@@ -167,21 +171,23 @@ TEST_F(ActiveConnections, AnIdentifierThatWouldNotBeOneInAKeyIsLeftOut) {
 }
 
 TEST_F(ActiveConnections, APropertyOfAnotherTypeCountsAsMissing) {
-    const QVariant strange[] = {
+    const Value strange[] = {
         5,
+        5U,
         true,
         "text",
-        QVariant::fromValue(QDBusObjectPath("/")),
-        QStringList{"a", "b"},
-        QByteArray("bytes"),
-        QVariantMap{{"a", 1}},
-        QVariant::fromValue(Dictionaries{{{"address", 1}}}),
-        QVariant::fromValue(QDBusVariant("inner")),
+        ObjectPath{"/"},
+        std::vector<std::string>{"a", "b"},
+        std::vector<std::uint8_t>{1, 2},
+        Paths{{"/"}},
+        Dictionary{{"a", 1}},
+        Dictionaries{{{"address", 1}}},
+        Inner{"inner"},
     };
     const auto before = objects;
     for (const auto& value : strange) {
         for (const auto& [path, interface, name] :
-             std::initializer_list<std::tuple<QDBusObjectPath, QString, QString>>{
+             std::initializer_list<std::tuple<std::string, std::string, std::string>>{
                  {managerPath, managerInterface, "ActiveConnections"},
                  {connectionPath, activeInterface, "Devices"},
                  {connectionPath, activeInterface, "Ip4Config"},
@@ -194,9 +200,9 @@ TEST_F(ActiveConnections, APropertyOfAnotherTypeCountsAsMissing) {
                  {configurationPath, ipv4Interface, "AddressData"}}) {
             objects = before;
             objects[path][interface][name] = value;
-            EXPECT_LE(read().size(), 1U) << name.toStdString();
-            objects[path][interface].remove(name);
-            EXPECT_LE(read().size(), 1U) << name.toStdString();
+            EXPECT_LE(read().size(), 1U) << name;
+            objects[path][interface].erase(name);
+            EXPECT_LE(read().size(), 1U) << name;
         }
     }
 }
@@ -205,21 +211,21 @@ TEST_F(ActiveConnections, AnObjectWithoutItsInterfaceCountsAsMissing) {
     for (const auto& path : {managerPath, connectionPath, devicePath}) {
         auto objectsBefore = objects;
         objects[path].clear();
-        EXPECT_EQ(read(), Profiles()) << path.path().toStdString();
+        EXPECT_EQ(read(), Profiles()) << path;
         objects = objectsBefore;
     }
-    objects.remove(configurationPath);
+    objects.erase(configurationPath);
     EXPECT_EQ(only().name, "Büro");
 }
 
 TEST_F(ActiveConnections, AnAnswerOfAnotherShapeHasNoProfiles) {
-    EXPECT_EQ(readValue("text"), Profiles());
+    EXPECT_EQ(readValue(std::string("text")), Profiles());
     EXPECT_EQ(readValue(5), Profiles());
-    EXPECT_EQ(readValue(QStringList{"a"}), Profiles());
-    EXPECT_EQ(readValue(QVariantMap{{"a", 1}}), Profiles());
-    EXPECT_EQ(readValue(QVariant::fromValue(PropertiesByInterface{{"a", {{"b", 1}}}})), Profiles());
-    EXPECT_EQ(readValue(QVariant::fromValue(ManagedObjects())), Profiles());
-    EXPECT_EQ(activeConnections(QDBusMessage()), Profiles());
+    EXPECT_EQ(readValue(std::vector<std::string>{"a"}), Profiles());
+    EXPECT_EQ(readValue(Dictionary{{"a", 1}}), Profiles());
+    EXPECT_EQ(readValue(PropertiesByInterface{{"a", {{"b", 1}}}}), Profiles());
+    EXPECT_EQ(readValue(ManagedObjects()), Profiles());
+    EXPECT_EQ(activeConnections(wire.carried().get()), Profiles());
 }
 
 } // namespace kx

@@ -5,7 +5,7 @@
 #include "contracts/ConnectionProfilesContract.h"
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 namespace kx {
 
@@ -17,7 +17,7 @@ class NetworkManagerTrait {
 public:
     NetworkManagerTrait() {
         _host.start();
-        _profiles.emplace();
+        _profiles.emplace(_loop);
     }
     ConnectionProfiles& profiles() { return *_profiles; }
     std::vector<ConnectionProfile> wanted() {
@@ -36,13 +36,14 @@ public:
 
 private:
     PrivateHost _host;
+    QtRunLoop _loop;
     std::optional<NetworkManagerProfiles> _profiles;
 };
 
 struct Stack {
     QtRunLoop loop;
     KernelLinks links{loop};
-    NetworkManagerProfiles profiles;
+    NetworkManagerProfiles profiles{loop};
     LinuxConfigurationStore store{loop, links, &profiles};
 };
 

@@ -3,6 +3,7 @@
 
 #include "PrivateHost.h"
 #include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +26,7 @@ class NetworkManagerForgery : public testing::Test {
 protected:
     void SetUp() override {
         host.start();
-        profiles.emplace();
+        profiles.emplace(loop);
         ASSERT_TRUE(namesBecome(both));
         forger.emplace(QDBusConnection::connectToBus(
             qEnvironmentVariable("DBUS_SYSTEM_BUS_ADDRESS"), "forger"));
@@ -72,6 +73,7 @@ protected:
 
     static const inline Names both = {"Office", "Production line"};
     PrivateHost host;
+    QtRunLoop loop;
     std::optional<NetworkManagerProfiles> profiles;
     std::optional<QDBusConnection> forger;
 };

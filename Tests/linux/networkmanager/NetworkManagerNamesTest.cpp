@@ -9,7 +9,7 @@
 #include "platform/linux/LinuxConfigurationStore.h"
 #include "platform/linux/LinuxKernelQuery.h"
 #include "platform/linux/NetworkManagerProfiles.h"
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -75,7 +75,7 @@ public:
     Titles serviceIDs;
     QtRunLoop loop;
     KernelLinks links{loop};
-    NetworkManagerProfiles profiles;
+    NetworkManagerProfiles profiles{loop};
     LinuxConfigurationStore store{loop, links, &profiles};
     LinuxKernelQuery kernelQuery{links};
     SystemConfiguration configuration{store, kernelQuery};

@@ -2,6 +2,7 @@
 
 #include "PrivateHost.h"
 #include "platform/linux/NetworkManagerProfiles.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +22,7 @@ protected:
 
     void startAndList() {
         host.start();
-        profiles.emplace();
+        profiles.emplace(loop);
         ASSERT_TRUE(namesBecome(both));
     }
     Names names() {
@@ -57,6 +58,7 @@ protected:
     static constexpr auto atOnce = 15s;
 
     PrivateHost host;
+    QtRunLoop loop;
     std::optional<NetworkManagerProfiles> profiles;
 };
 
@@ -64,7 +66,7 @@ protected:
 
 TEST_F(NetworkManagerPresence, WithoutABusThereAreNoProfiles) {
     EXPECT_LT(timeOf([&] {
-                  profiles.emplace();
+                  profiles.emplace(loop);
                   EXPECT_EQ(names(), Names());
               }),
               atOnce);
@@ -72,7 +74,7 @@ TEST_F(NetworkManagerPresence, WithoutABusThereAreNoProfiles) {
 }
 
 TEST_F(NetworkManagerPresence, ABusThatComesLaterIsFoundWhenTheListIsWanted) {
-    profiles.emplace();
+    profiles.emplace(loop);
     EXPECT_EQ(names(), Names());
     host.start();
     namesBecome(both);
@@ -80,7 +82,7 @@ TEST_F(NetworkManagerPresence, ABusThatComesLaterIsFoundWhenTheListIsWanted) {
 
 TEST_F(NetworkManagerPresence, TheFirstListOfABusThatCameLaterHasTheNames) {
     const auto firstListHasTheNames = [&] {
-        profiles.emplace();
+        profiles.emplace(loop);
         host.start();
         std::this_thread::sleep_for(1100ms); // the next try is allowed
         const bool hasTheNames = names() == both;
@@ -96,7 +98,7 @@ TEST_F(NetworkManagerPresence, TheFirstListOfABusThatCameLaterHasTheNames) {
 TEST_F(NetworkManagerPresence, WithoutNetworkManagerThereAreNoProfiles) {
     host.startBus();
     EXPECT_LT(timeOf([&] {
-                  profiles.emplace();
+                  profiles.emplace(loop);
                   EXPECT_EQ(names(), Names());
               }),
               atOnce);
@@ -104,7 +106,7 @@ TEST_F(NetworkManagerPresence, WithoutNetworkManagerThereAreNoProfiles) {
 
 TEST_F(NetworkManagerPresence, TheStartOfNetworkManagerIsHeard) {
     host.startBus();
-    profiles.emplace();
+    profiles.emplace(loop);
     EXPECT_EQ(names(), Names());
     host.startNetworkManager();
     EXPECT_TRUE(changesBring(both));
@@ -146,7 +148,7 @@ TEST_F(NetworkManagerPresence, ABusThatComesBackBringsTheNamesBack) {
 TEST_F(NetworkManagerPresence, ANetworkManagerThatHangsAtTheStartHoldsNobodyUp) {
     host.start();
     host.networkManager->hang();
-    profiles.emplace();
+    profiles.emplace(loop);
     EXPECT_LT(timeOf([&] { EXPECT_EQ(names(), Names()); }), atOnce);
     const auto again = timeOf([&] {
         for (int i = 0; i < 100; ++i) {
@@ -179,7 +181,7 @@ TEST_F(NetworkManagerPresence, ABusThatHangsHoldsNobodyUp) {
     host.start();
     host.bus->hang();
     EXPECT_LT(timeOf([&] {
-                  profiles.emplace();
+                  profiles.emplace(loop);
                   EXPECT_EQ(names(), Names());
                   EXPECT_EQ(names(), Names());
               }),
@@ -192,7 +194,7 @@ TEST_F(NetworkManagerPresence, ABusThatHangsIsLeftAloneForAWhile) {
     constexpr auto patience = 750ms;
     host.start();
     host.bus->hang();
-    profiles.emplace();
+    profiles.emplace(loop);
     auto shortest = std::chrono::milliseconds::max();
     for (int i = 0; i < 3; ++i) {
         std::this_thread::sleep_for(1100ms); // otherwise another try would be made
@@ -208,7 +210,7 @@ TEST_F(NetworkManagerPresence, ABusThatHangsWhileManyWaitForItHoldsNobodyUp) {
     auto waiting = host.fillQueueOfBus();
     EXPECT_GT(waiting.size(), 1U);
     EXPECT_LT(timeOf([&] {
-                  profiles.emplace();
+                  profiles.emplace(loop);
                   EXPECT_EQ(names(), Names());
               }),
               atOnce);
@@ -230,14 +232,14 @@ TEST_F(NetworkManagerPresence, ABusThatBeginsToHangKeepsTheNames) {
 TEST_F(NetworkManagerPresence, ItMayEndWhileABusHangs) {
     host.start();
     host.bus->hang();
-    profiles.emplace();
+    profiles.emplace(loop);
     EXPECT_LT(timeOf([&] { profiles.reset(); }), atOnce);
 }
 
 TEST_F(NetworkManagerPresence, AnAddressThatIsNoneIsNoBus) {
     for (const char* address : {"", "nonsense", "unix:path=/", "tcp:host=127.0.0.1,port=1"}) {
         qputenv("DBUS_SYSTEM_BUS_ADDRESS", address);
-        profiles.emplace();
+        profiles.emplace(loop);
         EXPECT_LT(timeOf([&] { EXPECT_EQ(names(), Names()) << address; }), atOnce);
     }
 }

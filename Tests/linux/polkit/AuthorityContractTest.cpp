@@ -1,10 +1,8 @@
 // The contract of an authority. It runs the same for a rule that lets the user run a tool, and for
 // root.
 
+#include "AuthorityFixture.h"
 #include "contracts/AuthorizationServiceContract.h"
-#include "platform/PollLoopDriver.h"
-#include "platform/linux/LinuxAuthorization.h"
-#include "platform/qtcore/EventLoopWaiting.h"
 
 namespace kx {
 
@@ -21,8 +19,9 @@ public:
     void runAWhile() { runLoopFor(_loop, std::chrono::milliseconds(300)); }
 
 private:
-    PollRunLoop _loop;
-    EventLoopWaiting _waiting;
+    PollRunLoop _loop; // tells the ends of tools, none of them during a call
+    PollRunLoop _loopOfWaiting;
+    WaitingPerson _waiting{_loopOfWaiting};
     std::unique_ptr<AuthorizationService> _service = makeAuthorizationService(_loop, _waiting);
 };
 

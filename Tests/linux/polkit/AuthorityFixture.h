@@ -8,7 +8,6 @@
 
 #include "platform/PollLoopDriver.h"
 #include "platform/linux/LinuxAuthorization.h"
-#include "platform/qtcore/EventLoopWaiting.h"
 #include "support/Authorization.h"
 
 #include <gtest/gtest.h>
@@ -25,17 +24,30 @@
 
 namespace kx {
 
-// A person at the application who gives up after a while.
-class ImpatientEventLoop final : public Waiting {
+// Runs the loop for a person at the application who gives up when told, or after a while.
+class WaitingPerson final : public Waiting {
 public:
+    explicit WaitingPerson(PollRunLoop& loop)
+        : _loop(loop) {}
+
     void giveUpAfter(std::chrono::milliseconds patience) { _patience = patience; }
+    void giveUp() { _hasGivenUp = true; }
 
     bool until(const std::function<bool()>& isDone, std::string_view /*sentence*/) override {
-        return handleEventsUntil(isDone, _patience, QEventLoop::AllEvents) == EventsEnd::done;
+        const auto end = std::chrono::steady_clock::now() + _patience;
+        while (!isDone()) {
+            if (_hasGivenUp || std::chrono::steady_clock::now() >= end) {
+                return false;
+            }
+            _loop.runOnce(std::chrono::milliseconds(10));
+        }
+        return true;
     }
 
 private:
+    PollRunLoop& _loop;
     std::chrono::milliseconds _patience = RunLoop::longestDelay;
+    bool _hasGivenUp = false;
 };
 
 class AuthorityFixture : public testing::Test {
@@ -123,8 +135,9 @@ protected:
         return runLoopUntil(loop, [this] { return !ends.empty(); });
     }
 
-    PollRunLoop loop;
-    ImpatientEventLoop waiting;
+    PollRunLoop loop; // tells the ends of tools, none of them during a call
+    PollRunLoop loopOfWaiting;
+    WaitingPerson waiting{loopOfWaiting};
     std::unique_ptr<AuthorizationService> service = makeAuthorizationService(loop, waiting);
     std::unique_ptr<AuthorizationReference> reference = service->create();
     std::vector<int> ends;

@@ -8,8 +8,6 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <QCoreApplication>
-#include <QTimer>
 #include <chrono>
 
 namespace kx {
@@ -109,7 +107,7 @@ TEST_F(AnAllowingPerson, CannotMakeTheToolReadAFile) {
 // A window is painted meanwhile.
 TEST_F(AnAllowingPerson, IsAskedWhileTheEventLoopRuns) {
     int events = 0;
-    QTimer::singleShot(0, QCoreApplication::instance(), [&] { ++events; });
+    const auto event = loopOfWaiting.callOnceAfter(std::chrono::milliseconds(0), [&] { ++events; });
     EXPECT_EQ(reference->copyRights(rightToEnter(), asking | keeping), errAuthorizationSuccess);
     EXPECT_EQ(events, 1);
 }
@@ -266,7 +264,8 @@ TEST(ASilentBus, IsAsGoodAsNone) {
     ASSERT_EQ(::listen(bus.number(), 4), 0);
     ::setenv("DBUS_SYSTEM_BUS_ADDRESS", ("unix:path=" + path).c_str(), 1);
     const auto before = std::chrono::steady_clock::now();
-    EventLoopWaiting waiting;
+    PollRunLoop loop;
+    WaitingPerson waiting(loop);
     EXPECT_FALSE(isPolkitThere(waiting));
     EXPECT_EQ(askPolkit("org.kxconfig.KXConfig.set-arp-entry", waiting), PolkitAnswer::unreachable);
     EXPECT_LT(std::chrono::steady_clock::now() - before, std::chrono::seconds(15));

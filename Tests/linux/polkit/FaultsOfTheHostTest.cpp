@@ -4,8 +4,6 @@
 #include "AuthorityFixture.h"
 #include "platform/linux/PolkitCheck.h"
 
-#include <QCoreApplication>
-#include <QTimer>
 #include <chrono>
 #include <functional>
 
@@ -23,16 +21,17 @@ protected:
 
     // Asks, and does something once the dialog is open.
     std::int32_t ask(const std::function<void()>& once) {
-        QTimer look;
+        RunLoop::Handle next;
         bool isOpen = false;
-        QObject::connect(&look, &QTimer::timeout, &look, [&] {
+        const std::function<void()> look = [&] {
             ++turns;
             if (!isOpen && !dialogs().empty()) {
                 isOpen = true;
                 once();
             }
-        });
-        look.start(10);
+            next = loopOfWaiting.callOnceAfter(10ms, look);
+        };
+        look();
         const auto begin = Clock::now();
         const auto status = reference->copyRights(rightToEnter(), asking | keeping);
         lasted = Clock::now() - begin;
@@ -64,7 +63,7 @@ TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationsPersonGivesUp) {
 }
 
 TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationIsToEnd) {
-    EXPECT_EQ(ask([] { QCoreApplication::exit(0); }), errAuthorizationCanceled);
+    EXPECT_EQ(ask([this] { waiting.giveUp(); }), errAuthorizationCanceled);
     EXPECT_LT(lasted, 5s);
     EXPECT_TRUE(runLoopUntil(loop, isTakenBack));
     EXPECT_EQ(neighbour(), "");

@@ -1,6 +1,4 @@
-#include "platform/qtcore/EventLoopWaiting.h"
-
-#include "support/RunLoop.h"
+#include "platform/qt/EventHandling.h"
 
 #include <QDeadlineTimer>
 #include <QTimer>
@@ -44,17 +42,6 @@ EventsEnd handleEventsUntil(const std::function<bool()>& isDone, std::chrono::mi
     default:
         return EventsEnd::asked;
     }
-}
-
-bool EventLoopWaiting::until(const std::function<bool()>& isDone, std::string_view /*sentence*/) {
-    const unsigned before = _timesGivenUp;
-    bool wasDone = false;
-    const auto isOver = [&] {
-        wasDone = isDone();
-        return wasDone || _timesGivenUp != before;
-    };
-    handleEventsUntil(isOver, RunLoop::longestDelay, QEventLoop::ExcludeUserInputEvents);
-    return wasDone;
 }
 
 } // namespace kx

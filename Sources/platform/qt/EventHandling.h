@@ -1,13 +1,12 @@
-// Waiting in Qt's event loop.
+// Events of the application, handled while something is waited for.
 //
 // Threading: the main thread, which needs a QCoreApplication.
 
 #pragma once
 
-#include "support/Waiting.h"
-
 #include <QEventLoop>
 #include <chrono>
+#include <functional>
 
 namespace kx {
 
@@ -21,17 +20,5 @@ enum class EventsEnd {
 // every 10 milliseconds.
 EventsEnd handleEventsUntil(const std::function<bool()>& isDone, std::chrono::milliseconds longest,
                             QEventLoop::ProcessEventsFlags flags);
-
-// Waits without a screen. The application can be asked to end.
-class EventLoopWaiting final : public Waiting {
-public:
-    bool until(const std::function<bool()>& isDone, std::string_view sentence) override;
-
-    // The person gives up what is waited for now. A later wait knows nothing of it.
-    void giveUp() { ++_timesGivenUp; }
-
-private:
-    unsigned _timesGivenUp = 0;
-};
 
 } // namespace kx

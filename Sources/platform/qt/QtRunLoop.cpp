@@ -1,4 +1,4 @@
-#include "platform/qtcore/QtRunLoop.h"
+#include "platform/qt/QtRunLoop.h"
 
 #include "support/Require.h"
 
