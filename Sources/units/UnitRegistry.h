@@ -114,8 +114,8 @@ public:
     // Every serial number once, in ascending order.
     TitleList serialNumbers() { return _serialNumbers.list(); }
 
-    // The serial number of the unit whose record `tells` says it of; of several units the lowest
-    // number, absent without one. Looks at every unit.
+    // The serial number of a unit for whose record `tells` is true; of several the lowest. Absent
+    // without one. Looks at every unit.
     template<class Tells>
     std::optional<std::string> lowestWhere(const Tells& tells) const {
         std::optional<std::string_view> lowest;
