@@ -102,7 +102,7 @@ Json jsonOfHolders(const AddressHolders& found) {
 void report(CommandRun& run, const std::vector<AddressHolders>& results) {
     TextTable table({"address", "state", "mac", "serial"});
     for (const AddressHolders& found : results) {
-        run.document()["addresses"].push_back(jsonOfHolders(found));
+        run.document().append("addresses", jsonOfHolders(found));
         const std::string address = stringForIP(found.address);
         const std::string state(nameOf(found.state));
         if (found.holders.empty()) {

@@ -117,8 +117,10 @@ void warnOfContradictions(CommandRun& run, const Discovery& discovery) {
 void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits& units) {
     Document& document = run.document();
     const std::uint32_t dropped = run.exchange().dropped();
-    for (const HeardUnit* const unit : units.all()) {
-        document["units"].push_back(jsonOfUnit(*unit, run.interfaces()));
+    if (run.wantsDocument() || run.line().has("--save")) {
+        for (const HeardUnit* const unit : units.all()) {
+            document.append("units", jsonOfUnit(*unit, run.interfaces()));
+        }
     }
     document["duplicates"] = jsonOfDuplicates(units);
     document["dropped"] = dropped;

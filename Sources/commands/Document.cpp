@@ -39,6 +39,12 @@ Document::Document(const std::optional<std::string>& command) {
     }
 }
 
+void Document::append(std::string_view key, const Json& element) {
+    std::string& list = _lists[std::string(key)];
+    list += list.empty() ? "" : ",";
+    list += textOfJson(element);
+}
+
 void Document::warn(std::string_view code, std::string_view message) {
     Json warning;
     warning["code"] = std::string(code);
@@ -54,7 +60,14 @@ std::string Document::text(int exitStatus, const std::optional<Failure>& failure
         error["message"] = failure->message;
         _json["error"] = std::move(error);
     }
-    return lineOfJson(_json);
+    std::string text;
+    for (const auto& [key, value] : _json.items()) {
+        text += text.empty() ? '{' : ',';
+        text += textOfJson(key) + ':';
+        const auto list = _lists.find(key);
+        text += list != _lists.end() ? '[' + list->second + ']' : textOfJson(value);
+    }
+    return text + "}\n";
 }
 
 Json jsonOfDuplicates(const HeardUnits& units) {

@@ -10,6 +10,8 @@
 #include "conversation/HeardUnits.h"
 #include "files/UnitJSON.h"
 
+#include <functional>
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +26,10 @@ public:
 
     Json& operator[](std::string_view key) { return _json[std::string(key)]; }
 
+    // Appends to the list of a key, which has no other elements. It is kept as a text, because
+    // thousands of units take ten times as much room as values.
+    void append(std::string_view key, const Json& element);
+
     void warn(std::string_view code, std::string_view message);
 
     // One line that ends with a line break. Characters beyond ASCII are escaped; what is no UTF-8
@@ -32,6 +38,7 @@ public:
 
 private:
     Json _json;
+    std::map<std::string, std::string, std::less<>> _lists; // elements with commas between them
 };
 
 // The two kinds of units that cannot be told apart, as one list.

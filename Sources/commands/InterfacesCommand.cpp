@@ -62,7 +62,7 @@ int runInterfaces(CommandRun& run) {
     }
     TextTable table({"name", "title", "kind", "address", "broadcast", "can-ask"});
     for (const HostInterface& interface : interfaces) {
-        run.document()["interfaces"].push_back(jsonOfInterface(interface));
+        run.document().append("interfaces", jsonOfInterface(interface));
         addRow(table, interface);
     }
     run.print(table.text(run.isBold()));

@@ -145,7 +145,7 @@ Interrupted by SIGINT, or by SIGTERM or SIGHUP. What was under way has been read
 reported. A second signal ends the program at once.
 .SH ENVIRONMENT
 .TP
-.BR LANGUAGE ", " LC_ALL ", " LANG
+.BR LANGUAGE ", " LC_ALL ", " LC_MESSAGES ", " LANG
 The language of sentences. Names, keys and the heads of tables are not translated.
 .TP
 .B NO_COLOR

@@ -24,9 +24,13 @@ void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {
     UnitList units;
     std::string text;
     for (const HeardUnit& unit : found) {
-        units.push_back(&unit);
-        run.document()["units"].push_back(jsonOfUnit(unit, run.interfaces()));
-        text += (text.empty() ? "" : "\n") + parametersOfUnit(unit, run.interfaces());
+        if (run.wantsDocument()) {
+            run.document().append("units", jsonOfUnit(unit, run.interfaces()));
+        } else if (run.line().has("--csv")) {
+            units.push_back(&unit);
+        } else {
+            text += (text.empty() ? "" : "\n") + parametersOfUnit(unit, run.interfaces());
+        }
     }
     run.print(run.line().has("--csv") ? csvOfUnits(units, run.interfaces()) : text);
 }

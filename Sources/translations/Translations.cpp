@@ -41,7 +41,9 @@ std::vector<std::string> languagesOfUser() {
     std::string_view listed = variable("LANGUAGE");
     while (!listed.empty()) {
         const std::size_t end = std::min(listed.find(':'), listed.size());
-        languages.emplace_back(listed.substr(0, end));
+        if (end > 0) {
+            languages.emplace_back(listed.substr(0, end));
+        }
         listed.remove_prefix(std::min(end + 1, listed.size()));
     }
     for (const char* const name : {"LC_ALL", "LC_MESSAGES", "LANG"}) {

@@ -26,8 +26,9 @@ std::span<const Translation> translations();
 Translation firstTranslation(const std::vector<std::string>& languages);
 
 // The languages that the user prefers, the first one before the others: those of LANGUAGE, and
-// without it the one of LC_ALL, LC_MESSAGES or LANG (gettext(3), "Locale Environment Variables" in
-// the manual of GNU gettext).
+// without it the one of LC_ALL, LC_MESSAGES or LANG ("Locale Environment Variables" in the manual
+// of GNU gettext). Other than for GNU gettext, LANGUAGE counts in the locale "C" too, as it does
+// for Qt.
 std::vector<std::string> languagesOfUser();
 
 } // namespace kx

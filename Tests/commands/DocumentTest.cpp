@@ -27,6 +27,16 @@ TEST(Document, ToldWarningsStandInTheirOrder) {
     EXPECT_EQ(json["warnings"][0]["message"], "One.");
 }
 
+TEST(Document, AppendedElementsStandInTheirPlaceAndOrder) {
+    Document document("check");
+    document.append("addresses", {{"address", "192.0.2.11"}});
+    document.append("addresses", {{"address", "caf\xE9"}});
+    EXPECT_EQ(document.text(0, {}),
+              R"({"schema":1,"command":"check","exit":0,"error":null,"warnings":[],)"
+              R"("addresses":[{"address":"192.0.2.11"},{"address":"caf\ufffd"}]})"
+              "\n");
+}
+
 TEST(Document, DuplicatesOfBothKindsAreOneList) {
     HeardUnits units;
     for (const char* hardware : {"00:00:00:00:00:01", "00:00:00:00:00:02"}) {

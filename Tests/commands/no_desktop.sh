@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The command line needs no library of a desktop and none of the window's toolkit, so that a machine
-# without a display installs it alone, and it starts at once.
+# without a display installs it alone.
 #
 # usage: Tests/commands/no_desktop.sh PROGRAM
 set -euo pipefail

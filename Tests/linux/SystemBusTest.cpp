@@ -16,6 +16,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <thread>
 #include <vector>
 
@@ -70,7 +71,11 @@ private:
             return sd_bus_reply_method_return(message, "s", ":1.1");
         }
         if (sd_bus_message_is_method_call(message, "org.freedesktop.DBus", "AddMatch") > 0) {
-            return sd_bus_reply_method_return(message, nullptr);
+            const char* rule = nullptr;
+            sd_bus_message_read(message, "s", &rule);
+            return std::string_view(rule).find("kx.Refused") == std::string_view::npos
+                       ? sd_bus_reply_method_return(message, nullptr)
+                       : sd_bus_reply_method_errorf(message, SD_BUS_ERROR_LIMITS_EXCEEDED, "full");
         }
         if (sd_bus_message_is_method_call(message, "kx.Test", "Signal") > 0) {
             sd_bus_message* signal = nullptr;
@@ -84,6 +89,9 @@ private:
         }
         if (sd_bus_message_is_method_call(message, "kx.Test", "Refuse") > 0) {
             return sd_bus_reply_method_errorf(message, SD_BUS_ERROR_FAILED, "refused");
+        }
+        if (sd_bus_message_is_method_call(message, "kx.Test", "End") > 0) {
+            return sd_bus_reply_method_errorf(message, SD_BUS_ERROR_NO_REPLY, "ended");
         }
         return 1; // no answer
     }
@@ -140,7 +148,7 @@ TEST_F(ASystemBus, IsWaitedForThoughSignalsArrive) {
 TEST_F(ASystemBus, WithoutAConnectionFinishesEachCallAtOnce) {
     SystemBus bus(20ms);
     EXPECT_EQ(bus.method("kx.Test", "/", "kx.Test", "Signal"), nullptr);
-    const auto call = bus.call(nullptr, 1s, [] { FAIL() << "it was finished before"; });
+    const auto call = bus.call(nullptr, [] { FAIL() << "it was finished before"; });
     EXPECT_TRUE(call->isFinished());
     EXPECT_EQ(call->reply(), nullptr);
     EXPECT_FALSE(call->isWithoutReply());
@@ -158,10 +166,10 @@ TEST_F(ASystemBus, CarriesCallsTheirAnswersAndSignals) {
         bus.hearSignals("kx.Test", "kx.Test", "Rang", "first");
         bool isTold = false;
         const auto call =
-            bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"), 10s, [&] { isTold = true; });
+            bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"), [&] { isTold = true; });
         EXPECT_FALSE(call->isFinished());
         EXPECT_EQ(call->reply(), nullptr);
-        bus.processUntil([&] { return isTold; });
+        bus.processUntil([&] { return isTold; }, 10s);
         EXPECT_EQ(textsIn(call->reply(), 1), std::vector<std::string>{"done"});
         EXPECT_EQ(textsIn(call->reply(), 1), std::vector<std::string>{"done"}) << "read again";
         EXPECT_EQ(heard, std::vector<std::string>{"first"}) << "it came before the answer";
@@ -169,18 +177,52 @@ TEST_F(ASystemBus, CarriesCallsTheirAnswersAndSignals) {
     host.join();
 }
 
-TEST_F(ASystemBus, TellsARefusalFromACallWhoseTimeIsOver) {
+TEST_F(ASystemBus, MayRefuseARuleAndGoesOn) {
     auto host = greetAfter(0ms);
     {
         SystemBus bus(10s);
-        const auto refused = bus.call(bus.method("kx.Test", "/", "kx.Test", "Refuse"), 10s);
-        bus.processUntil([&] { return refused->isFinished(); });
+        bus.hearSignals("kx.Test", "kx.Refused", "Rang");
+        const auto call = bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"));
+        bus.processUntil([&] { return call->isFinished(); }, 10s);
+        EXPECT_NE(call->reply(), nullptr);
+        EXPECT_TRUE(bus.isOpen());
+    }
+    host.join();
+}
+
+TEST_F(ASystemBus, TellsARefusalFromACalledProgramThatHasEnded) {
+    auto host = greetAfter(0ms);
+    {
+        SystemBus bus(10s);
+        const auto refused = bus.call(bus.method("kx.Test", "/", "kx.Test", "Refuse"));
+        const auto ended = bus.call(bus.method("kx.Test", "/", "kx.Test", "End"));
+        bus.processUntil([&] { return ended->isFinished(); }, 10s);
         EXPECT_EQ(refused->reply(), nullptr);
         EXPECT_FALSE(refused->isWithoutReply());
-        const auto silent = bus.call(bus.method("kx.Test", "/", "kx.Test", "Nothing"), 20ms);
-        bus.processUntil([&] { return silent->isFinished(); });
-        EXPECT_EQ(silent->reply(), nullptr);
-        EXPECT_TRUE(silent->isWithoutReply());
+        EXPECT_EQ(ended->reply(), nullptr);
+        EXPECT_TRUE(ended->isWithoutReply());
+    }
+    host.join();
+}
+
+TEST_F(ASystemBus, IsNotWaitedForWithoutAnEnd) {
+    auto host = greetAfter(0ms);
+    {
+        SystemBus bus(10s);
+        bus.processUntil([] { return false; }, 20ms);
+        EXPECT_TRUE(bus.isOpen());
+    }
+    host.join();
+}
+
+TEST_F(ASystemBus, HasTheAnswerForACallerWhoIsLate) {
+    auto host = greetAfter(0ms);
+    {
+        SystemBus bus(10s);
+        const auto call = bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"));
+        std::this_thread::sleep_for(200ms);
+        bus.processUntil([&] { return call->isFinished(); }, 0ms);
+        EXPECT_TRUE(call->isFinished());
     }
     host.join();
 }
@@ -188,14 +230,16 @@ TEST_F(ASystemBus, TellsARefusalFromACallWhoseTimeIsOver) {
 TEST_F(ASystemBus, ThatEndsFinishesTheCallsAndSaysSoOnce) {
     auto host = greetAfter(0ms);
     int ends = 0;
-    auto bus = std::make_unique<SystemBus>(10s, nullptr, [&ends] { ++ends; });
+    int finished = 0;
+    SystemBus bus(10s, nullptr, [&ends] { ++ends; });
     const auto call =
-        bus->call(bus->method("kx.Test", "/", "kx.Test", "Nothing"), SystemBus::endlessPatience);
-    ::shutdown(bus->descriptor(), SHUT_RDWR);
-    bus->processUntil([&] { return ends > 0; });
-    bus->process();
+        bus.call(bus.method("kx.Test", "/", "kx.Test", "Nothing"), [&finished] { ++finished; });
+    ::shutdown(bus.descriptor(), SHUT_RDWR);
+    bus.processUntil([&] { return ends > 0; }, 10s);
+    bus.process();
     EXPECT_EQ(ends, 1);
-    EXPECT_FALSE(bus->isOpen());
+    EXPECT_EQ(finished, 1);
+    EXPECT_FALSE(bus.isOpen());
     EXPECT_TRUE(call->isFinished());
     EXPECT_EQ(call->reply(), nullptr);
     host.join();
@@ -211,14 +255,27 @@ TEST_F(ASystemBus, MayBeDestroyedByWhoeverHearsItsEnd) {
     host.join();
 }
 
-TEST_F(ASystemBus, TakesACallBackThatNobodyWaitsForAnyMore) {
+TEST_F(ASystemBus, MayBeDestroyedByWhoeverHearsASignal) {
+    auto host = greetAfter(0ms);
+    std::unique_ptr<SystemBus> bus;
+    bus = std::make_unique<SystemBus>(10s, [&bus](sd_bus_message*) { bus.reset(); });
+    bus->hearSignals("kx.Test", "kx.Test", "Rang");
+    const auto call = bus->call(bus->method("kx.Test", "/", "kx.Test", "Signal"));
+    bus->processUntil([&bus] { return bus == nullptr; }, 10s);
+    EXPECT_EQ(bus, nullptr);
+    EXPECT_FALSE(call->isFinished()) << "the answer came behind the signal";
+    host.join();
+}
+
+TEST_F(ASystemBus, TellsNobodyOfACallThatWasDropped) {
     auto host = greetAfter(0ms);
     {
         SystemBus bus(10s);
-        bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"), 10s,
-                 [] { FAIL() << "it was taken back"; });
-        const auto next = bus.call(bus.method("kx.Test", "/", "kx.Test", "Refuse"), 10s);
-        bus.processUntil([&] { return next->isFinished(); });
+        bus.call(bus.method("kx.Test", "/", "kx.Test", "Signal"),
+                 [] { FAIL() << "it was dropped"; });
+        const auto next = bus.call(bus.method("kx.Test", "/", "kx.Test", "Refuse"));
+        bus.processUntil([&] { return next->isFinished(); }, 10s);
+        EXPECT_TRUE(next->isFinished());
     }
     host.join();
 }

@@ -108,7 +108,8 @@ TEST(Translations, TheUsersLanguagesAreThoseOfTheEnvironment) {
     EXPECT_EQ(languages({{"LANG", "de"}, {"LC_MESSAGES", "fr"}, {"LC_ALL", "ja"}}), Names{"ja"});
     EXPECT_EQ(languages({{"LANGUAGE", "it:de"}, {"LC_ALL", "ja"}}), Names({"it", "de"}));
     EXPECT_EQ(languages({{"LANGUAGE", ""}, {"LC_ALL", "ja"}}), Names{"ja"}) << "not set";
-    EXPECT_EQ(languages({{"LANGUAGE", "it::de:"}}), Names({"it", "", "de"}));
+    EXPECT_EQ(languages({{"LANGUAGE", "it::de:"}}), Names({"it", "de"}));
+    EXPECT_EQ(languages({{"LANGUAGE", ":"}, {"LANG", "de"}}), Names{"de"});
 }
 
 TEST(Translations, WithoutAPreferredLanguageTheTextsAreEnglish) {

@@ -52,7 +52,10 @@ const std::vector<ConnectionProfile>& NetworkManagerProfiles::activeProfiles() {
         }
     }
     if (_isFirstReading) {
-        _bus->processUntil([this] { return !_isFirstReading; });
+        _bus->processUntil(
+            [this] { return !_isFirstReading; },
+            std::chrono::ceil<std::chrono::milliseconds>(_endOfPatience - Clock::now()));
+        _isFirstReading = false; // its answer may still come
     }
     return _profiles;
 }
@@ -73,21 +76,19 @@ void NetworkManagerProfiles::connectToBus() {
     // call that is made later.
     auto question = _bus->method(busService, busPath, busService, "GetNameOwner");
     sd_bus_message_append_basic(question.get(), SD_BUS_TYPE_STRING, service);
-    _ownerAnswer = _bus->call(std::move(question), SystemBus::endlessPatience);
+    _ownerAnswer = _bus->call(std::move(question));
     for (const auto* const interface : readInterfaces) {
         _bus->hearSignals(service, propertiesInterface, "PropertiesChanged", interface);
     }
-    read(firstPatience);
-    if (_reading != nullptr) {
-        _isFirstReading = true;
-        _endOfPatience = _loop.callOnceAfter(firstPatience, [this] { _bus->process(); });
-    }
+    read();
+    _isFirstReading = _reading != nullptr;
+    _endOfPatience = Clock::now() + firstPatience;
 }
 
-void NetworkManagerProfiles::read(std::chrono::milliseconds patience) {
+void NetworkManagerProfiles::read() {
     _reading =
         _bus->call(_bus->method(service, rootPath, objectManagerInterface, "GetManagedObjects"),
-                   patience, [this] { takeAnswer(); });
+                   [this] { takeAnswer(); });
     if (_reading->isFinished()) {
         forget(); // the connection has ended
     }
@@ -106,7 +107,6 @@ void NetworkManagerProfiles::forget() {
 
 void NetworkManagerProfiles::endReading() {
     _reading.reset();
-    _endOfPatience.reset();
     _isFirstReading = _isOutdated = false;
 }
 
@@ -117,12 +117,12 @@ void NetworkManagerProfiles::takeAnswer() {
     if (sd_bus_message* const reply = answered->reply()) {
         setProfiles(activeConnections(reply));
     } else if (answered->isWithoutReply()) {
-        mustReadAgain = true; // NetworkManager hangs, or ended just now
+        mustReadAgain = true; // NetworkManager has ended
     } else {
         setProfiles({});
     }
     if (mustReadAgain && _reading == nullptr) {
-        read(SystemBus::endlessPatience);
+        read();
     }
 }
 
@@ -148,7 +148,7 @@ void NetworkManagerProfiles::hear(sd_bus_message* signal) {
     } else if (_reading != nullptr) {
         _isOutdated = _isOutdated || owner().empty() || senderOf(signal) == owner();
     } else if (!owner().empty() && senderOf(signal) == owner()) {
-        read(SystemBus::endlessPatience);
+        read();
     }
 }
 
@@ -166,7 +166,7 @@ void NetworkManagerProfiles::hearOwner(const std::string& owner) {
     forget();
     _owner = owner;
     if (_bus->isOpen() && !owner.empty()) {
-        read(SystemBus::endlessPatience);
+        read();
     }
 }
 

@@ -53,7 +53,7 @@ private:
     void hear(sd_bus_message* signal);
     void hearOwner(const std::string& owner);
     const std::string& owner(); // NetworkManager's own name on the bus; empty while it is not known
-    void read(std::chrono::milliseconds patience);
+    void read();
     void forget();
     void endReading();
     void takeAnswer();
@@ -63,10 +63,10 @@ private:
     std::unique_ptr<SystemBus> _bus;
     std::chrono::steady_clock::time_point _nextTry; // the earliest time to try to reach a bus
     RunLoop::Handle _watch;                         // of the bus
-    RunLoop::Handle _endOfPatience;                 // with the first reading
     std::unique_ptr<BusCall> _reading;              // the call that is under way, or null
-    bool _isFirstReading = false; // _reading is the first on this bus, and has a time limit
-    bool _isOutdated = false;     // the answer to _reading will be outdated
+    bool _isFirstReading = false; // _reading is the first on this bus, and is waited for
+    std::chrono::steady_clock::time_point _endOfPatience; // with the first reading
+    bool _isOutdated = false;                             // the answer to _reading will be outdated
     std::unique_ptr<BusCall> _ownerAnswer; // pending answer of the bus about the owner, or null
     std::string _owner;                    // as told last; owner() reads it
     std::vector<ConnectionProfile> _profiles;

@@ -18,6 +18,8 @@ namespace kx {
 
 namespace {
 
+using Clock = std::chrono::steady_clock;
+
 constexpr auto authorityName = "org.freedesktop.PolicyKit1";
 constexpr auto authorityPath = "/org/freedesktop/PolicyKit1/Authority";
 constexpr auto authorityInterface = "org.freedesktop.PolicyKit1.Authority";
@@ -66,15 +68,15 @@ PolkitAnswer answerOf(sd_bus_message* reply) {
     return isChallenge != 0 ? PolkitAnswer::nobodyAsked : PolkitAnswer::refused;
 }
 
-// The finished call; one that has no reply when there is none in time, and when the person gives
-// up.
+// The call. It has no reply when none has come in time, and when the person gives up.
 std::unique_ptr<BusCall> answerTo(SystemBus& bus, BusMessage question,
                                   std::chrono::milliseconds patience, Waiting& waiting) {
-    auto call = bus.call(std::move(question), patience);
+    auto call = bus.call(std::move(question));
+    const auto end = Clock::now() + patience;
     waiting.until(
         [&] {
             bus.process();
-            return call->isFinished();
+            return call->isFinished() || Clock::now() >= end;
         },
         localizedText("Waiting for administrator rights."));
     return call;
@@ -127,9 +129,10 @@ public:
         _bus.process();
         if (_look == nullptr) {
             if (Clock::now() >= _nextLook) {
-                _look = _bus.call(nameOfBackend(), patienceWithPolkit);
+                _look = _bus.call(nameOfBackend());
+                _endOfLook = Clock::now() + patienceWithPolkit;
             }
-        } else if (_look->isFinished()) {
+        } else if (_look->isFinished() || Clock::now() >= _endOfLook) {
             _isSilent = _look->reply() == nullptr;
             _look.reset();
             _nextLook = Clock::now() + betweenLooksAtPolkit;
@@ -138,8 +141,6 @@ public:
     }
 
 private:
-    using Clock = std::chrono::steady_clock;
-
     BusMessage nameOfBackend() const {
         auto question =
             _bus.method(authorityName, authorityPath, "org.freedesktop.DBus.Properties", "Get");
@@ -151,6 +152,7 @@ private:
 
     SystemBus _bus{patienceWithBus};
     std::unique_ptr<BusCall> _look; // null between two looks
+    Clock::time_point _endOfLook;
     Clock::time_point _nextLook = Clock::now() + betweenLooksAtPolkit;
     bool _isSilent = false;
 };

@@ -2,7 +2,7 @@
 
 #include <systemd/sd-bus.h>
 
-#include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <cstdlib>
 #include <utility>
@@ -23,11 +23,7 @@ const char* busAddress() {
     return address != nullptr ? address : wellKnownAddress;
 }
 
-std::uint64_t microseconds(milliseconds time) {
-    return time == SystemBus::endlessPatience
-               ? UINT64_MAX
-               : static_cast<std::uint64_t>(std::chrono::microseconds(time).count());
-}
+constexpr std::uint64_t withoutLimit = UINT64_MAX; // microseconds
 
 // Without a function of its own the connection would end when the bus refuses a rule.
 int hearNothing(sd_bus_message* /*answer*/, void* /*unused*/, sd_bus_error* /*error*/) {
@@ -93,10 +89,14 @@ SystemBus::SystemBus(milliseconds patience, std::function<void(sd_bus_message*)>
         return;
     }
     _state->bus = bus;
-    const bool isThere = sd_bus_set_address(bus, busAddress()) >= 0 &&
-                         sd_bus_set_bus_client(bus, 1) >= 0 && sd_bus_start(bus) >= 0 &&
-                         becomesReady(patience);
-    if (!isThere) {
+    const bool isStarted =
+        sd_bus_set_address(bus, busAddress()) >= 0 && sd_bus_set_bus_client(bus, 1) >= 0 &&
+        sd_bus_set_method_call_timeout(bus, withoutLimit) >= 0 && sd_bus_start(bus) >= 0;
+    const auto isReady = [bus] { return sd_bus_is_ready(bus) > 0; };
+    if (isStarted) {
+        processUntil(isReady, patience);
+    }
+    if (!isStarted || !isReady()) {
         sd_bus_close(bus);
         return;
     }
@@ -110,22 +110,6 @@ SystemBus::~SystemBus() {
     sd_bus_close(_state->bus);
 }
 
-bool SystemBus::becomesReady(milliseconds patience) {
-    const auto end = Clock::now() + patience;
-    while (isOpen()) {
-        process();
-        if (sd_bus_is_ready(_state->bus) > 0) {
-            return true;
-        }
-        const auto left = std::chrono::ceil<milliseconds>(end - Clock::now());
-        if (left.count() <= 0) {
-            return false;
-        }
-        sd_bus_wait(_state->bus, microseconds(left)); // a signal may end it early
-    }
-    return false;
-}
-
 bool SystemBus::isOpen() const {
     return sd_bus_is_open(_state->bus) > 0;
 }
@@ -136,13 +120,32 @@ int SystemBus::descriptor() const {
 
 void SystemBus::process() {
     const auto state = _state;
-    while (sd_bus_process(state->bus, nullptr) > 0) {
+    int result = 0;
+    do {
+        result = sd_bus_process(state->bus, nullptr);
+    } while (result > 0);
+    if (result < 0 && result != -EBUSY) { // which says that process() has been called from inside
+        sd_bus_close(state->bus);
     }
     if (sd_bus_is_open(state->bus) <= 0) {
         const auto ended = std::exchange(state->ended, nullptr);
         if (ended) {
             ended();
         }
+    }
+}
+
+void SystemBus::processUntil(const std::function<bool()>& isDone, milliseconds patience) {
+    const auto state = _state;
+    const auto end = Clock::now() + patience;
+    process();
+    while (!isDone() && sd_bus_is_open(state->bus) > 0) {
+        const auto left = std::chrono::ceil<std::chrono::microseconds>(end - Clock::now());
+        if (left.count() <= 0) {
+            return;
+        }
+        sd_bus_wait(state->bus, static_cast<std::uint64_t>(left.count())); // a signal may end it
+        process();
     }
 }
 
@@ -168,8 +171,7 @@ BusMessage SystemBus::method(const char* service, const char* path, const char* 
     return BusMessage(message);
 }
 
-std::unique_ptr<BusCall> SystemBus::call(BusMessage message, milliseconds patience,
-                                         std::function<void()> finished) {
+std::unique_ptr<BusCall> SystemBus::call(BusMessage message, std::function<void()> finished) {
     auto call = std::make_unique<BusCall>();
     const auto take = [](sd_bus_message* answer, void* waiting, sd_bus_error* /*error*/) {
         static_cast<BusCall*>(waiting)->finish(BusMessage(sd_bus_message_ref(answer)));
@@ -177,20 +179,11 @@ std::unique_ptr<BusCall> SystemBus::call(BusMessage message, milliseconds patien
     };
     call->_isFinished =
         message == nullptr || sd_bus_call_async(_state->bus, &call->_slot, message.get(), take,
-                                                call.get(), microseconds(patience)) < 0;
+                                                call.get(), withoutLimit) < 0;
     if (!call->_isFinished) {
         call->_finished = std::move(finished);
     }
     return call;
-}
-
-void SystemBus::processUntil(const std::function<bool()>& isDone) {
-    const auto state = _state;
-    process();
-    while (!isDone() && sd_bus_is_open(state->bus) > 0) {
-        sd_bus_wait(state->bus, UINT64_MAX);
-        process();
-    }
 }
 
 std::string_view senderOf(sd_bus_message* message) {

@@ -1,8 +1,9 @@
 // A private connection to the host's system bus, by sd-bus.
 //
-// The connection blocks the caller only in its beginning and in processUntil(). This end of the
-// connection answers no calls. What it sends is small and fits into the socket, so nothing waits
-// until the socket can be written.
+// The connection blocks the caller only in its beginning and in processUntil(). It offers no
+// methods to others. What it sends is small and fits into the socket. No call has a limit of time:
+// a caller that has waited long enough drops the call, and an answer that came in time counts
+// although the caller was late.
 //
 // Threading: one thread. Whoever makes the object calls process() when the descriptor can be read.
 // A connection that has ended does not come back: make another one.
@@ -32,7 +33,7 @@ struct EndOfBusMessage {
 };
 using BusMessage = std::unique_ptr<sd_bus_message, EndOfBusMessage>;
 
-// A call of a method that waits for its answer. Its end takes the call back.
+// A call of a method that waits for its answer. Nobody is told of an answer after the object's end.
 class BusCall {
 public:
     BusCall() = default;
@@ -46,7 +47,7 @@ public:
     // is an error.
     sd_bus_message* reply() const;
 
-    // Whether nobody has answered: the time is over, or the called program has ended.
+    // Whether the bus says that nobody will answer, because the called program has ended.
     bool isWithoutReply() const;
 
 private:
@@ -76,11 +77,15 @@ public:
     // Whether there is a connection, as far as process() has seen.
     bool isOpen() const;
 
-    // Readable when there is something to process; -1 without a connection.
+    // Readable when something has come; -1 without a connection. It is closed when the connection
+    // ends, just before `ended` is called.
     int descriptor() const;
 
-    // Attends to everything that has come, and to calls whose time is over. Never blocks.
+    // Attends to everything that has come. Never blocks.
     void process();
+
+    // The same until the condition holds, for `patience` at most, or until the connection ends.
+    void processUntil(const std::function<bool()>& isDone, std::chrono::milliseconds patience);
 
     // Asks the bus for a sender's signals with a name and, where one is given, with this text as
     // their first argument. Any connection on the bus may send such a signal to this end directly,
@@ -93,23 +98,13 @@ public:
     BusMessage method(const char* service, const char* path, const char* interface,
                       const char* name) const;
 
-    // Sends the call. `finished` is called once from process(); it may be empty, and is not called
-    // when the call is already finished afterwards, because there is no connection.
-    std::unique_ptr<BusCall> call(BusMessage message, std::chrono::milliseconds patience,
-                                  std::function<void()> finished = {});
-
-    // Processes what comes until the condition holds or the connection has ended. The condition is
-    // asked at least when the time of a call is over.
-    void processUntil(const std::function<bool()>& isDone);
-
-    // The patience for an answer that may take for ever. The bus tells when the called connection
-    // is gone.
-    static constexpr std::chrono::milliseconds endlessPatience = std::chrono::milliseconds::max();
+    // Sends the call. `finished` is called from process() when the answer has come, and when the
+    // connection ends before it; it may be empty. Without a connection the call is finished at
+    // once, and nobody is told.
+    std::unique_ptr<BusCall> call(BusMessage message, std::function<void()> finished = {});
 
 private:
     struct State;
-
-    bool becomesReady(std::chrono::milliseconds patience);
 
     std::shared_ptr<State> _state; // outlives the object while it processes
 };

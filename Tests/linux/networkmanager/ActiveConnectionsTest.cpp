@@ -8,6 +8,7 @@
 
 #include <string>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace kx {
@@ -61,6 +62,21 @@ protected:
         const auto profiles = read();
         EXPECT_EQ(profiles.size(), 1U);
         return profiles.size() == 1 ? profiles[0] : ConnectionProfile();
+    }
+
+    // A value of each type, with its signature.
+    static std::vector<std::pair<std::string, Value>> strangeValues() {
+        return {{"i", 5},
+                {"u", 5U},
+                {"b", true},
+                {"s", "text"},
+                {"o", ObjectPath{"/"}},
+                {"as", std::vector<std::string>{"a", "b"}},
+                {"ay", std::vector<std::uint8_t>{1, 2}},
+                {"ao", Paths{{"/"}}},
+                {"a{sv}", Dictionary{{"a", 1}}},
+                {"aa{sv}", Dictionaries{{{"address", 1}}}},
+                {"v", Inner{"inner"}}};
     }
 
     const ConnectionProfile ordinary{"1234", "Büro", "eth0", {{0xC0000205U, 24}}};
@@ -171,39 +187,44 @@ TEST_F(ActiveConnections, AnIdentifierThatWouldNotBeOneInAKeyIsLeftOut) {
 }
 
 TEST_F(ActiveConnections, APropertyOfAnotherTypeCountsAsMissing) {
-    const Value strange[] = {
-        5,
-        5U,
-        true,
-        "text",
-        ObjectPath{"/"},
-        std::vector<std::string>{"a", "b"},
-        std::vector<std::uint8_t>{1, 2},
-        Paths{{"/"}},
-        Dictionary{{"a", 1}},
-        Dictionaries{{{"address", 1}}},
-        Inner{"inner"},
-    };
     const auto before = objects;
-    for (const auto& value : strange) {
-        for (const auto& [path, interface, name] :
-             std::initializer_list<std::tuple<std::string, std::string, std::string>>{
-                 {managerPath, managerInterface, "ActiveConnections"},
-                 {connectionPath, activeInterface, "Devices"},
-                 {connectionPath, activeInterface, "Ip4Config"},
-                 {connectionPath, activeInterface, "Uuid"},
-                 {connectionPath, activeInterface, "Id"},
-                 {connectionPath, activeInterface, "StateFlags"},
-                 {connectionPath, activeInterface, "Vpn"},
-                 {devicePath, deviceInterface, "Interface"},
-                 {devicePath, deviceInterface, "IpInterface"},
-                 {configurationPath, ipv4Interface, "AddressData"}}) {
-            objects = before;
+    for (const auto& [path, interface, name, type] :
+         std::initializer_list<std::tuple<std::string, std::string, std::string, std::string>>{
+             {managerPath, managerInterface, "ActiveConnections", "ao"},
+             {connectionPath, activeInterface, "Devices", "ao"},
+             {connectionPath, activeInterface, "Ip4Config", "o"},
+             {connectionPath, activeInterface, "Uuid", "s"},
+             {connectionPath, activeInterface, "Id", "s"},
+             {connectionPath, activeInterface, "StateFlags", "u"},
+             {connectionPath, activeInterface, "Vpn", "b"},
+             {devicePath, deviceInterface, "IpInterface", "s"},
+             {configurationPath, ipv4Interface, "AddressData", "aa{sv}"}}) {
+        objects = before;
+        objects[path][interface].erase(name);
+        const Profiles withoutIt = read();
+        for (const auto& [otherType, value] : strangeValues()) {
             objects[path][interface][name] = value;
-            EXPECT_LE(read().size(), 1U) << name;
-            objects[path][interface].erase(name);
-            EXPECT_LE(read().size(), 1U) << name;
+            if (otherType != type) {
+                EXPECT_EQ(read(), withoutIt) << name << " as " << otherType;
+            }
         }
+    }
+}
+
+TEST_F(ActiveConnections, WhatIsNotReadMayHaveAnyType) {
+    for (const auto& [type, value] : strangeValues()) {
+        for (const auto& [path, interface] :
+             std::initializer_list<std::pair<std::string, std::string>>{
+                 {managerPath, managerInterface},
+                 {connectionPath, activeInterface},
+                 {devicePath, deviceInterface},
+                 {devicePath, deviceInterface + ".Wired"},
+                 {configurationPath, ipv4Interface},
+                 {"/org/freedesktop/NetworkManager/Settings/1", activeInterface}}) {
+            objects[path][interface]["A"] = value;
+            objects[path][interface]["Zulu"] = value;
+        }
+        EXPECT_EQ(read(), Profiles{ordinary}) << type;
     }
 }
 

@@ -1,6 +1,7 @@
 // A bus and a NetworkManager that start, end, start again and hang.
 
 #include "PrivateHost.h"
+#include "platform/PollLoopDriver.h"
 #include "platform/linux/NetworkManagerProfiles.h"
 #include "platform/qt/QtRunLoop.h"
 
@@ -227,6 +228,25 @@ TEST_F(NetworkManagerPresence, ABusThatBeginsToHangKeepsTheNames) {
     host.bus->goOn();
     PrivateHost::nmcli({"connection", "down", PrivateHost::officeID});
     namesBecome({"Production line"});
+}
+
+// As kxctl runs.
+TEST_F(NetworkManagerPresence, ThePollLoopHearsTheSame) {
+    PollRunLoop pollLoop;
+    host.start();
+    profiles.emplace(pollLoop);
+    Names told = names();
+    profiles->setChangeAction([&] { told = names(); });
+    EXPECT_EQ(told, both);
+    PrivateHost::nmcli({"connection", "down", PrivateHost::officeID});
+    EXPECT_TRUE(runLoopUntil(pollLoop, [&] { return told == Names{"Production line"}; }));
+    host.stopNetworkManager();
+    EXPECT_TRUE(runLoopUntil(pollLoop, [&] { return told.empty(); }));
+    host.startNetworkManager();
+    EXPECT_TRUE(runLoopUntil(pollLoop, [&] { return told == both; }));
+    host.stopBus();
+    EXPECT_TRUE(runLoopUntil(pollLoop, [&] { return told.empty(); }));
+    profiles.reset();
 }
 
 TEST_F(NetworkManagerPresence, ItMayEndWhileABusHangs) {

@@ -62,7 +62,7 @@ TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationsPersonGivesUp) {
     expectNothingCameOfIt();
 }
 
-TEST_F(AThinkingPerson, IsNotAskedAnyMoreWhenTheApplicationIsToEnd) {
+TEST_F(AThinkingPerson, IsNotAskedAnyMoreAfterTheDialogWasGivenUp) {
     EXPECT_EQ(ask([this] { waiting.giveUp(); }), errAuthorizationCanceled);
     EXPECT_LT(lasted, 5s);
     EXPECT_TRUE(runLoopUntil(loop, isTakenBack));
