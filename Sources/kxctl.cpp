@@ -103,7 +103,7 @@ int runOnThisHost(const kx::CommandLine& line, kx::PollRunLoop& runLoop,
                               .diagnosticSockets = diagnosticSockets,
                               .takeSignal = [&] { return orderToEnd(signalPipe); }});
     const auto watch =
-        runLoop.watchForReading(signalPipe.descriptor(), [&run] { run.takeSignals(); });
+        runLoop.watchForReading(signalPipe.descriptor(), [&run] { run.takeSignal(); });
     return run.run();
 }
 

@@ -42,8 +42,8 @@ int CommandRun::run() {
     return _line.command->run(*this);
 }
 
-void CommandRun::takeSignals() {
-    while (const auto signal = _services.takeSignal()) {
+void CommandRun::takeSignal() {
+    if (const auto signal = _services.takeSignal()) {
         _signal = *signal;
         endEarly();
     }
@@ -201,7 +201,7 @@ void CommandRun::wait(Operation& operation, std::function<std::string()> count,
     endProgress();
     // A signal from the terminal ends a program that asks there too, perhaps before the loop has
     // seen the signal.
-    takeSignals();
+    takeSignal();
 }
 
 CommandRun::Refusal CommandRun::refusalOfAddress(AddressObjection objection,

@@ -60,8 +60,9 @@ public:
     // Runs the command of the line to its end, and returns the exit status.
     int run();
 
-    // Call it when a signal has come. The operation under way is told.
-    void takeSignals();
+    // Call it when a signal has come. The operation under way is told. Has no effect when none
+    // waits.
+    void takeSignal();
 
     // --- For the functions of Commands.h ---
 

@@ -132,7 +132,7 @@ protected:
     void interruptAfter(std::chrono::milliseconds time) {
         at(time, [this] {
             signal = SIGINT;
-            command->takeSignals();
+            command->takeSignal();
         });
     }
 
