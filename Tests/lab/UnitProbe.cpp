@@ -25,7 +25,10 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr std::uint16_t ownPort = 3521;
-constexpr std::chrono::milliseconds longestWait{5000};
+// Thousands of units prepare their replies before the first one goes out, on a busy machine for
+// long.
+constexpr std::chrono::milliseconds waitForFirst{30'000};
+constexpr std::chrono::milliseconds waitForOthers{5000};
 constexpr std::chrono::milliseconds waitForMore{300};
 constexpr int receiveBuffer = 16 * 1024 * 1024;
 
@@ -103,9 +106,9 @@ int main(int argc, char* argv[]) {
     sendCommand(descriptor, argv[1], argv[2], argv[3]);
 
     const long wanted = std::strtol(argv[4], nullptr, 10);
-    const Clock::time_point patience = Clock::now() + longestWait;
-    long count = 0;
-    while (count < wanted && printNextReply(descriptor, patience)) {
+    long count = wanted > 0 && printNextReply(descriptor, Clock::now() + waitForFirst) ? 1 : 0;
+    const Clock::time_point patience = Clock::now() + waitForOthers;
+    while (count < wanted && count > 0 && printNextReply(descriptor, patience)) {
         ++count;
     }
     const Clock::time_point lookForMore = Clock::now() + waitForMore;
