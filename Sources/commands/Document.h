@@ -26,8 +26,8 @@ public:
 
     Json& operator[](std::string_view key) { return _json[std::string(key)]; }
 
-    // Appends to the list of a key, which has no other elements. It is kept as a text, because
-    // thousands of units take ten times as much room as values.
+    // Appends to the list of a key, which has no other elements. It is kept as a text, because a
+    // value takes much more room.
     void append(std::string_view key, const Json& element);
 
     void warn(std::string_view code, std::string_view message);

@@ -323,6 +323,13 @@ TEST_F(CompareCommandTest, FewerThanExpectedWeighsMoreThanADifference) {
     EXPECT_EQ(document()["compare"]["missing"].size(), 2U);
 }
 
+TEST_F(CompareCommandTest, WhatIsSavedHasTheUnitsWhetherTheDocumentIsPrintedOrNot) {
+    saveTwo();
+    EXPECT_EQ(run({"discover", "--save", secondFile}), 0);
+    EXPECT_EQ(textIn(secondFile), textIn(file));
+    EXPECT_EQ(Json::parse(textIn(secondFile))["units"].size(), 2U);
+}
+
 TEST_F(CompareCommandTest, OneFileMayBeComparedAndReplaced) {
     saveTwo();
     units.pop_back();

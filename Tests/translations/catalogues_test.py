@@ -88,6 +88,21 @@ class TheCatalogues(unittest.TestCase):
             self.assertNotRegex(translation or "", r" [:;?!](?!=)", key)
 
 
+class TheTable(unittest.TestCase):
+    def test_has_the_finished_entries_in_the_order_of_their_keys_in_bytes(self):
+        table = checks.script.table({"de": {"b": "B", "B": "\u00e4", "\u00e9": "E", "a": None}})
+        self.assertIn('entriesOf_de[] = {\n    {"B", "\u00e4"},\n    {"b", "B"},\n    {"\u00e9", "E"},\n};\n', table)
+
+    def test_escapes_what_a_literal_cannot_hold(self):
+        table = checks.script.table({"de": {'say "\\"\n': "x"}})
+        self.assertIn(r'{"say \"\\\"\n", "x"},', table)
+
+    def test_leaves_out_a_language_that_has_only_begun(self):
+        table = checks.script.table({"de": {"a": "A"}, "it": {"a": None}, "zh-Hans": {"a": "B"}})
+        self.assertNotIn("it", re.findall(r'^    \{"([^"]*)", entries', table, re.MULTILINE))
+        self.assertIn('    {"de", entriesOf_de},\n    {"zh-Hans", entriesOf_zh_Hans},\n', table)
+
+
 class TheSources(unittest.TestCase):
     def test_look_up_no_key_that_nobody_has_listed(self):
         used = set()
