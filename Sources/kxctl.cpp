@@ -51,11 +51,14 @@ std::optional<int> orderToEnd(kx::SignalPipe& signalPipe) {
     return signal == SIGHUP ? SIGTERM : signal;
 }
 
-// The texts of the system's errors are in the user's language too, where they are in UTF-8.
+// The texts of the system's errors are in the user's language too, where they are in UTF-8. Nothing
+// else of the locale changes what the program writes, and each category costs files to read.
 void takeLocaleOfUser() {
-    std::setlocale(LC_ALL, "");
-    if (std::string_view(::nl_langinfo(CODESET)) != "UTF-8") {
-        std::setlocale(LC_ALL, "C");
+    std::setlocale(LC_CTYPE, "");
+    if (std::string_view(::nl_langinfo(CODESET)) == "UTF-8") {
+        std::setlocale(LC_MESSAGES, "");
+    } else {
+        std::setlocale(LC_CTYPE, "C");
     }
 }
 
