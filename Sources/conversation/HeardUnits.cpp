@@ -5,12 +5,19 @@
 #include "units/ParameterEdit.h"
 
 #include <algorithm>
-#include <set>
 #include <utility>
 
 namespace kx {
 
 namespace {
+
+// That a unit has this internal IP address.
+struct AddressClaim {
+    std::string_view address;
+    std::string_view serialNumber;
+
+    friend auto operator<=>(const AddressClaim&, const AddressClaim&) = default;
+};
 
 std::string_view textOf(const UnitRecord& record, UnitParameter parameter) {
     return record.value(parameter).value_or(std::string_view());
@@ -89,18 +96,26 @@ std::vector<const HeardUnit*> HeardUnits::named(const UnitName& name) const {
 }
 
 std::vector<DuplicateAddress> HeardUnits::duplicateAddresses() const {
-    std::map<std::string_view, std::set<std::string_view>> numbersByAddress;
+    std::vector<AddressClaim> claims;
+    claims.reserve(_count);
     for (const HeardUnit* const unit : all()) {
-        const auto address = unit->record.value(UnitParameter::internalIPAddress);
-        if (address.has_value()) {
-            numbersByAddress[*address].insert(unit->serialNumber());
+        if (const auto address = unit->record.value(UnitParameter::internalIPAddress)) {
+            claims.push_back({.address = *address, .serialNumber = unit->serialNumber()});
         }
     }
+    std::ranges::sort(claims);
+    const auto same = std::ranges::unique(claims); // hosts with one serial number
+    claims.erase(same.begin(), same.end());
     std::vector<DuplicateAddress> duplicates;
-    for (const auto& [address, numbers] : numbersByAddress) {
-        if (numbers.size() > 1) {
-            duplicates.push_back({std::string(address), {numbers.begin(), numbers.end()}});
+    for (std::size_t index = 1; index < claims.size(); ++index) {
+        if (claims[index].address != claims[index - 1].address) {
+            continue;
         }
+        if (duplicates.empty() || duplicates.back().address != claims[index].address) {
+            duplicates.push_back({.address = std::string(claims[index].address),
+                                  .serialNumbers = {std::string(claims[index - 1].serialNumber)}});
+        }
+        duplicates.back().serialNumbers.emplace_back(claims[index].serialNumber);
     }
     return duplicates;
 }

@@ -67,6 +67,37 @@ TEST(HeardUnits, AnAddressUnderTwoSerialNumbersIsADuplicate) {
     EXPECT_TRUE(units.isDuplicated(*units.all()[1]));
 }
 
+TEST(HeardUnits, AnAddressUnderThreeSerialNumbersIsOneDuplicate) {
+    constexpr auto thirdSerial = "01 02 03 04 05 08";
+    HeardUnits units;
+    units.add(unit(thirdSerial, "", "192.0.2.1"));
+    units.add(unit(firstSerial, "", "192.0.2.1"));
+    units.add(unit("01 02 03 04 05 09", "", "192.0.2.5"));
+    units.add(unit(secondSerial, "", "192.0.2.1"));
+    units.add(unit("01 02 03 04 05 0A", "", "192.0.2.0"));
+    units.add(unit("01 02 03 04 05 0B", "", "192.0.2.0"));
+    const auto duplicates = units.duplicateAddresses();
+    ASSERT_EQ(duplicates.size(), 2U);
+    EXPECT_EQ(duplicates[0].address, "192.0.2.0");
+    EXPECT_EQ(duplicates[0].serialNumbers,
+              (std::vector<std::string>{"01 02 03 04 05 0A", "01 02 03 04 05 0B"}));
+    EXPECT_EQ(duplicates[1].address, "192.0.2.1");
+    EXPECT_EQ(duplicates[1].serialNumbers,
+              (std::vector<std::string>{firstSerial, secondSerial, thirdSerial}));
+}
+
+TEST(HeardUnits, AnAddressTwiceUnderOneSerialNumberIsNoDuplicateOfAddresses) {
+    HeardUnits units;
+    units.add(unit(firstSerial, firstHardware, "192.0.2.1"));
+    units.add(unit(firstSerial, secondHardware, "192.0.2.1"));
+    units.add(unit(secondSerial, secondHardware, "192.0.2.2"));
+    EXPECT_TRUE(units.duplicateAddresses().empty());
+    units.add(unit(secondSerial, firstHardware, "192.0.2.1"));
+    ASSERT_EQ(units.duplicateAddresses().size(), 1U);
+    EXPECT_EQ(units.duplicateAddresses()[0].serialNumbers,
+              (std::vector<std::string>{firstSerial, secondSerial}));
+}
+
 TEST(HeardUnits, UnitsThatDifferAreNoDuplicates) {
     HeardUnits units;
     units.add(unit(firstSerial, firstHardware, "192.0.2.1"));
