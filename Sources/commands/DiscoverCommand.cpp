@@ -119,7 +119,7 @@ void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits&
     const std::uint32_t dropped = run.exchange().dropped();
     if (run.wantsDocument() || run.line().has("--save")) {
         for (const HeardUnit* const unit : units.all()) {
-            document.append("units", jsonOfUnit(*unit, run.interfaces()));
+            document.appendText("units", textOfUnit(*unit, run.interfaces()));
         }
     }
     document["duplicates"] = jsonOfDuplicates(units);
@@ -141,6 +141,9 @@ void fillDocument(CommandRun& run, const Discovery& discovery, const HeardUnits&
 }
 
 void printUnits(CommandRun& run, const HeardUnits& units) {
+    if (run.wantsDocument()) {
+        return; // which holds the units already
+    }
     if (run.line().has("--csv")) {
         run.print(csvOfUnits(units.all(), run.interfaces()));
     } else if (units.count() > 0) {

@@ -39,10 +39,10 @@ Document::Document(const std::optional<std::string>& command) {
     }
 }
 
-void Document::append(std::string_view key, const Json& element) {
+void Document::appendText(std::string_view key, std::string_view element) {
     std::string& list = _lists[std::string(key)];
     list += list.empty() ? "" : ",";
-    list += textOfJson(element);
+    list += element;
 }
 
 void Document::warn(std::string_view code, std::string_view message) {
@@ -65,9 +65,13 @@ std::string Document::text(int exitStatus, const std::optional<Failure>& failure
         text += text.empty() ? '{' : ',';
         text += textOfJson(key) + ':';
         const auto list = _lists.find(key);
-        text += list != _lists.end() ? '[' + list->second + ']' : textOfJson(value);
+        if (list == _lists.end()) {
+            text += textOfJson(value);
+        } else {
+            text.append("[").append(list->second).append("]");
+        }
     }
-    return text + "}\n";
+    return text += "}\n";
 }
 
 Json jsonOfDuplicates(const HeardUnits& units) {

@@ -28,7 +28,8 @@ public:
 
     // Appends to the list of a key, which has no other elements. It is kept as a text, because a
     // value takes much more room.
-    void append(std::string_view key, const Json& element);
+    void append(std::string_view key, const Json& element) { appendText(key, textOfJson(element)); }
+    void appendText(std::string_view key, std::string_view element);
 
     void warn(std::string_view code, std::string_view message);
 

@@ -65,7 +65,7 @@ void report(CommandRun& run, const UnitRestore& restore) {
     std::string text;
     for (const RestoredUnit& unit : restore.units()) {
         if (unit.after.has_value()) {
-            run.document().append("units", jsonOfUnit(*unit.after, run.interfaces()));
+            run.document().appendText("units", textOfUnit(*unit.after, run.interfaces()));
             text += (text.empty() ? "" : "\n") + parametersOfUnit(*unit.after, run.interfaces());
         }
     }

@@ -25,7 +25,7 @@ void printUnits(CommandRun& run, const std::vector<HeardUnit>& found) {
     std::string text;
     for (const HeardUnit& unit : found) {
         if (run.wantsDocument()) {
-            run.document().append("units", jsonOfUnit(unit, run.interfaces()));
+            run.document().appendText("units", textOfUnit(unit, run.interfaces()));
         } else if (run.line().has("--csv")) {
             units.push_back(&unit);
         } else {

@@ -45,7 +45,7 @@ std::uint32_t addressOf(const std::string& text);
 
 UnitIDBytes unitIDOf(const std::string& digits);
 
-// The parameters of jsonOfRecord(). The text of a unit ID is that of its bytes.
+// The parameters that addRecord() adds. The text of a unit ID is that of its bytes.
 struct ReadRecord {
     UnitRecord record; // has a serial number
     std::optional<UnitIDBytes> unitIDBytes = {};

@@ -24,42 +24,39 @@ constexpr std::string_view outcomeEvent = "outcome";
 constexpr std::string_view bindingEvent = "arp-entry";
 constexpr std::string_view endEvent = "end";
 
-Json jsonOf(const std::optional<std::string>& text) {
-    return text.has_value() ? Json(*text) : Json(nullptr);
+void write(JSONObjectText& object, const JournalledUnit& unit, UnitParameter parameter) {
+    object.add("line", unit.line);
+    object.add("row_serial", unit.rowSerialNumber);
+    object.add("serial", unit.serialNumber);
+    object.add("internal_mac", unit.hardwareAddress.empty()
+                                   ? std::nullopt
+                                   : std::optional<std::string_view>(unit.hardwareAddress));
+    object.add("parameter", descriptionOf(parameter).identifier);
 }
 
-void write(Json& json, const JournalledUnit& unit, UnitParameter parameter) {
-    json["line"] = unit.line;
-    json["row_serial"] = unit.rowSerialNumber;
-    json["serial"] = unit.serialNumber;
-    json["internal_mac"] =
-        unit.hardwareAddress.empty() ? Json(nullptr) : Json(unit.hardwareAddress);
-    json["parameter"] = descriptionOf(parameter).identifier;
+void write(JSONObjectText& object, const JournalledCommand& command) {
+    object.add("event", commandEvent);
+    write(object, command.unit, command.parameter);
+    object.add("from", command.from);
+    object.add("from_bytes", command.fromUnitID.has_value()
+                                 ? std::optional(hexStringForData(*command.fromUnitID, ""))
+                                 : std::nullopt);
+    object.add("to", command.to);
+    object.add("command", command.command);
 }
 
-void write(Json& json, const JournalledCommand& command) {
-    json["event"] = commandEvent;
-    write(json, command.unit, command.parameter);
-    json["from"] = jsonOf(command.from);
-    json["from_bytes"] = command.fromUnitID.has_value()
-                             ? Json(hexStringForData(*command.fromUnitID, ""))
-                             : Json(nullptr);
-    json["to"] = command.to;
-    json["command"] = command.command;
+void write(JSONObjectText& object, const JournalledOutcome& outcome) {
+    object.add("event", outcomeEvent);
+    write(object, outcome.unit, outcome.parameter);
+    object.add("state", nameOfState(outcome.state));
+    object.add("shown", outcome.shown);
 }
 
-void write(Json& json, const JournalledOutcome& outcome) {
-    json["event"] = outcomeEvent;
-    write(json, outcome.unit, outcome.parameter);
-    json["state"] = nameOfState(outcome.state);
-    json["shown"] = jsonOf(outcome.shown);
-}
-
-void write(Json& json, const JournalledBinding& binding) {
-    json["event"] = bindingEvent;
-    json["address"] = binding.address;
-    json["hardware_address"] = binding.hardwareAddress;
-    json["is_made"] = binding.isMade;
+void write(JSONObjectText& object, const JournalledBinding& binding) {
+    object.add("event", bindingEvent);
+    object.add("address", binding.address);
+    object.add("hardware_address", binding.hardwareAddress);
+    object.add("is_made", binding.isMade);
 }
 
 JournalledUnit journalledUnitOf(const Json& json) {
@@ -172,33 +169,29 @@ Line takeLine(std::string_view& text) {
     return line;
 }
 
-std::string sealedEntry(const Json& json) {
-    return sealedText(textOfJson(json));
-}
-
 } // namespace
 
 std::string JournalLines::head(const JournalHead& head) {
-    Json json;
-    json["kind"] = journalKind;
-    json["schema"] = journalVersion;
-    json["started"] = head.started;
-    json["source"] = head.source;
-    return sealedEntry(json);
+    JSONObjectText object;
+    object.add("kind", journalKind);
+    object.add("schema", journalVersion);
+    object.add("started", head.started);
+    object.add("source", head.source);
+    return sealedText(object.text());
 }
 
 std::string JournalLines::entry(const JournalEntry& entry) {
-    Json json;
-    json["entry"] = ++_count;
-    std::visit([&json](const auto& value) { write(json, value); }, entry);
-    return sealedEntry(json);
+    JSONObjectText object;
+    object.add("entry", ++_count);
+    std::visit([&object](const auto& value) { write(object, value); }, entry);
+    return sealedText(object.text());
 }
 
 std::string JournalLines::end() {
-    Json json;
-    json["entry"] = ++_count;
-    json["event"] = endEvent;
-    return sealedEntry(json);
+    JSONObjectText object;
+    object.add("entry", ++_count);
+    object.add("event", endEvent);
+    return sealedText(object.text());
 }
 
 std::variant<Journal, JournalFault> readJournal(std::string_view text) {

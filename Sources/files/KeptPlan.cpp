@@ -56,11 +56,11 @@ std::string textOfKeptPlan(std::string_view table, std::span<const WantedRow> ro
     std::string_view separator = "\n";
     for (const WantedRow& row : rows) {
         if (row.seen.has_value()) {
-            Json json;
-            json["line"] = row.line;
-            json.update(jsonOfRecord(row.seen->record, row.seen->unitIDBytes));
+            JSONObjectText object;
+            object.add("line", row.line);
+            addRecord(object, row.seen->record, row.seen->unitIDBytes);
             text += separator;
-            text += textOfJson(json);
+            text += object.text();
             separator = ",\n";
         }
     }

@@ -10,12 +10,19 @@ namespace kx {
 
 namespace {
 
-Json jsonOfText(const std::optional<std::string_view>& text) {
-    return text.has_value() ? Json(std::string(*text)) : Json(nullptr);
+std::optional<std::string_view> nameOfLink(const std::vector<HostInterface>& interfaces,
+                                           std::uint32_t link) {
+    for (const HostInterface& interface : interfaces) {
+        if (link != 0 && interface.link == link) {
+            return interface.name;
+        }
+    }
+    return std::nullopt;
 }
 
-Json jsonOfNumber(const std::optional<std::string_view>& text) {
-    return text.has_value() ? Json(integerValue(*text)) : Json(nullptr);
+void addNumber(JSONObjectText& object, std::string_view key,
+               const std::optional<std::string_view>& text) {
+    object.add(key, text.has_value() ? std::optional(integerValue(*text)) : std::nullopt);
 }
 
 } // namespace
@@ -28,36 +35,33 @@ std::string lineOfJson(const Json& json) {
     return textOfJson(json) + "\n";
 }
 
-Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link) {
-    for (const HostInterface& interface : interfaces) {
-        if (link != 0 && interface.link == link) {
-            return interface.name;
-        }
-    }
-    return nullptr;
+void addRecord(JSONObjectText& object, const UnitRecord& record,
+               const std::optional<UnitIDBytes>& unitIDBytes) {
+    const auto text = [&record](UnitParameter parameter) { return record.value(parameter); };
+    object.add("serial", text(UnitParameter::serialNumber));
+    object.add("unit_id", unitIDText(record));
+    object.add("unit_id_bytes", unitIDBytes.has_value()
+                                    ? std::optional(hexStringForData(*unitIDBytes, ""))
+                                    : std::nullopt);
+    object.add("internal_ip", text(UnitParameter::internalIPAddress));
+    object.add("internal_mac", text(UnitParameter::internalMACAddress));
+    object.add("destination_ip", text(UnitParameter::destinationIPAddress));
+    object.add("destination_mac", text(UnitParameter::destinationMACAddress));
+    addNumber(object, "destination_port", text(UnitParameter::destinationPortNumber));
+    addNumber(object, "device_port", text(UnitParameter::devicePortNumber));
 }
 
-Json jsonOfRecord(const UnitRecord& record, const std::optional<UnitIDBytes>& unitIDBytes) {
-    Json json;
-    json["serial"] = jsonOfText(record.value(UnitParameter::serialNumber));
-    json["unit_id"] = jsonOfText(unitIDText(record));
-    json["unit_id_bytes"] =
-        unitIDBytes.has_value() ? Json(hexStringForData(*unitIDBytes, "")) : Json(nullptr);
-    json["internal_ip"] = jsonOfText(record.value(UnitParameter::internalIPAddress));
-    json["internal_mac"] = jsonOfText(record.value(UnitParameter::internalMACAddress));
-    json["destination_ip"] = jsonOfText(record.value(UnitParameter::destinationIPAddress));
-    json["destination_mac"] = jsonOfText(record.value(UnitParameter::destinationMACAddress));
-    json["destination_port"] = jsonOfNumber(record.value(UnitParameter::destinationPortNumber));
-    json["device_port"] = jsonOfNumber(record.value(UnitParameter::devicePortNumber));
-    return json;
+std::string textOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces) {
+    JSONObjectText object;
+    addRecord(object, unit.record, unit.unitIDBytes);
+    object.add("source_ip", stringForIP(unit.sender));
+    object.add("interface", nameOfLink(interfaces, unit.link));
+    object.add("answered_ms", unit.answered.count());
+    return object.text();
 }
 
 Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces) {
-    Json json = jsonOfRecord(unit.record, unit.unitIDBytes);
-    json["source_ip"] = stringForIP(unit.sender);
-    json["interface"] = nameOfLink(interfaces, unit.link);
-    json["answered_ms"] = unit.answered.count();
-    return json;
+    return Json::parse(textOfUnit(unit, interfaces));
 }
 
 // One unit after the other, because a hundred thousand of them take too much memory as one value.
@@ -67,7 +71,7 @@ std::string documentOfUnits(const std::vector<const HeardUnit*>& units,
     std::string_view separator = "\n";
     for (const HeardUnit* const unit : units) {
         text += separator;
-        text += textOfJson(jsonOfUnit(*unit, interfaces));
+        text += textOfUnit(*unit, interfaces);
         separator = ",\n";
     }
     return text + "\n]}\n";

@@ -7,6 +7,7 @@
 
 #include "conversation/HeardUnits.h"
 #include "conversation/HostInterface.h"
+#include "files/JSONObjectText.h"
 
 #include <nlohmann/json.hpp>
 
@@ -27,13 +28,12 @@ std::string textOfJson(const Json& json);
 // A document of any kind on one line, which ends with a line break.
 std::string lineOfJson(const Json& json);
 
-// The name of the interface with this index; null when it is none of these.
-Json nameOfLink(const std::vector<HostInterface>& interfaces, std::uint32_t link);
+// Adds the parameters of a unit; null for those that it does not tell.
+void addRecord(JSONObjectText& object, const UnitRecord& record,
+               const std::optional<UnitIDBytes>& unitIDBytes);
 
-// The parameters of a unit; null for those that it does not tell.
-Json jsonOfRecord(const UnitRecord& record, const std::optional<UnitIDBytes>& unitIDBytes);
-
-// The same, and how it was heard.
+// The same, and how it was heard, as an object.
+std::string textOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
 Json jsonOfUnit(const HeardUnit& unit, const std::vector<HostInterface>& interfaces);
 
 // A document with the keys "schema" and "units", each unit on a line of its own.

@@ -1,5 +1,7 @@
 #include "files/UnitJSON.h"
 
+#include "HostileUnits.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -43,6 +45,12 @@ TEST(UnitJSON, ZeroBytesAtTheEndOfAUnitIDAreLeftOut) {
     HeardUnit unit = jsonSample({'A', 'B', 0, 0, 0, 0});
     unit.record.setValue(UnitParameter::unitID, std::string_view("AB\0\0\0\0", 6));
     EXPECT_EQ(jsonOfUnit(unit, {})["unit_id"], "AB");
+}
+
+TEST(UnitJSON, TheTextOfAHostileUnitIsThatOfItsValue) {
+    for (const HeardUnit& unit : HostileUnits::make(2000)) {
+        EXPECT_EQ(textOfUnit(unit, oneInterface()), textOfJson(jsonOfUnit(unit, oneInterface())));
+    }
 }
 
 TEST(UnitJSON, ForeignTextsAreEscaped) {
