@@ -29,6 +29,8 @@ PROGRAMS = {
     "kxarp_tests": "Tests/linux/arp", "kxplatform_tests": "Tests/platform", "kxlinux_tests": "Tests/linux",
     "kxwindow_tests": "Tests/window", "kxnetworkmanager_tests": "Tests/linux/networkmanager",
     "kxpolkit_tests": "Tests/linux/polkit"}
+# What these programs start.
+STARTED = ["kxarp", "kxperson", "kxunits"]
 INCLUDE = re.compile(r'^#include "([^"]+)"', re.MULTILINE)
 SUITE = re.compile(r"^(?:TEST|TEST_F|TEST_P|TYPED_TEST|TYPED_TEST_P)\(\s*(\w+)", re.MULTILINE)
 
@@ -160,8 +162,8 @@ class Build:
         self.folder, self._root = folder.resolve(), pathlib.Path.cwd()
         if not (self.folder / "CMakeCache.txt").exists():
             subprocess.run(["cmake", "--preset", "dev", "-B", str(folder)], stdout=subprocess.DEVNULL, check=True)
-        subprocess.run(["cmake", "--build", str(folder), "--parallel", str(os.cpu_count()), "--target", *PROGRAMS],
-                       stdout=sys.stderr, check=True)
+        subprocess.run(["cmake", "--build", str(folder), "--parallel", str(os.cpu_count()), "--target", *PROGRAMS,
+                        *STARTED], stdout=sys.stderr, check=True)
         listing = subprocess.run(["ctest", "--test-dir", str(folder), "--show-only=json-v1"],
                                  stdout=subprocess.PIPE, check=True)
         descriptions = json.loads(listing.stdout)["tests"]
