@@ -10,10 +10,10 @@ namespace kx {
 
 namespace {
 
-// In a subnet of one or two addresses, and where no mask is known, each address is a host's.
+// In a subnet of one or two addresses each address is a host's. Where no mask is known, the address
+// of the subnet would be 0.0.0.0, which is of many.
 bool isAddressOfSubnet(std::uint32_t address, const InterfaceAddress& subnet) {
-    return broadcastAddressOf(subnet).has_value() && subnet.mask != 0 &&
-           address == (subnet.address & subnet.mask);
+    return broadcastAddressOf(subnet).has_value() && address == (subnet.address & subnet.mask);
 }
 
 bool isOutside(std::uint32_t address, const std::vector<InterfaceAddress>& subnets) {

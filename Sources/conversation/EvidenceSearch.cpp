@@ -327,11 +327,10 @@ void EvidenceSearch::compareEntries() {
 // As long as nobody answers: perhaps answers to single requests come in. They are asked with the
 // next request to everybody, so that the time between stays quiet.
 void EvidenceSearch::chooseNeighbours() {
-    std::size_t chosen = 0;
     for (const std::uint32_t address : _services.neighbours.knownAddresses(link())) {
-        if (chosen < mostNeighbours && _interface.networkOf(address) != nullptr &&
+        if (_chosenNeighbours < mostNeighbours && _interface.networkOf(address) != nullptr &&
             _hosts.try_emplace(address, Host{.port = defaultUnitPort}).second) {
-            ++chosen;
+            ++_chosenNeighbours;
         }
     }
 }

@@ -123,6 +123,7 @@ private:
     std::unique_ptr<DiagnosticSocket> _single;    // asks hosts one by one
     std::vector<std::unique_ptr<DiagnosticSocket>> _otherPorts;
     std::map<std::uint32_t, Host> _hosts; // by address
+    std::size_t _chosenNeighbours = 0;    // among them
     std::optional<HostCounters> _lastCounters;
     bool _probeLeft = false;       // a request that the listener must hear
     bool _listenerWasTold = false; // to ask

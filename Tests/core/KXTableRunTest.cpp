@@ -148,6 +148,7 @@ TEST_F(KXTableRunTest, FromTheFirstMomentItIsSaidThatUnitsAreAsked) {
     std::set<std::string> said;
     tableRun.setFollower([&] { said.insert(tableRun.heading()); });
     tableRun.open(table(1, 1));
+    EXPECT_FALSE(tableRun.meansTrouble());
     EXPECT_EQ(said, (std::set<std::string>{"", "Asking the units. 0 have answered."}));
     tableRun.setFollower({});
 }
@@ -350,6 +351,7 @@ TEST_F(KXTableRunTest, StopEndsTheSearchForHoldersToo) {
     EXPECT_EQ(tableRun.heading(), "Stopped.");
     EXPECT_FALSE(tableRun.canApply());
     EXPECT_FALSE(tableRun.canSaveReport());
+    EXPECT_EQ(ownPorts.back(), 0) << "its port is given up";
 }
 
 } // namespace kx

@@ -127,11 +127,14 @@ TEST_F(TableApplyingTest, TheProgressCountsUnitsAndTellsTheTimeThatIsLeft) {
     unit(2).lost = "U"; // it takes its time
     tableRun.apply();
     EXPECT_EQ(tableRun.heading(), "Asking the units again.");
+    std::set<std::string> headings;
     std::set<std::string> seen;
     passUntil([&] {
+        headings.insert(tableRun.heading());
         seen.insert(tableRun.progress().text);
         return tableRun.canChoose();
     });
+    EXPECT_TRUE(headings.contains("Configuring the units."));
     EXPECT_TRUE(seen.contains("0 of 12 units"));
     EXPECT_TRUE(std::ranges::any_of(
         seen, [](const std::string& text) { return isIn(text, "of 12 units, about "); }));

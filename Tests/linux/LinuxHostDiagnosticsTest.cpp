@@ -3,7 +3,9 @@
 #include "platform/linux/LinuxHostDiagnostics.h"
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
+#include <cstdint>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -81,6 +83,19 @@ TEST_F(LinuxHostDiagnosticsTest, AHostThatTellsNothingIsNoFault) {
     EXPECT_FALSE(host.counters().has_value());
     EXPECT_FALSE(host.reversePathFilter("kx0").has_value());
     EXPECT_FALSE(host.ownerOfPort(3520).has_value());
+}
+
+TEST_F(LinuxHostDiagnosticsTest, ARouteIsFoundAlsoWhereStandardInputIsClosed) {
+    constexpr std::uint32_t loopback = 0x7F000001U;
+    const int before = ::dup(STDIN_FILENO);
+    ::close(STDIN_FILENO); // its number is the next one that the system gives away
+    const auto route = LinuxHostDiagnostics().route(loopback);
+    if (before >= 0) {
+        ::dup2(before, STDIN_FILENO);
+        ::close(before);
+    }
+    ASSERT_TRUE(route.has_value());
+    EXPECT_TRUE(route->exists);
 }
 
 } // namespace kx

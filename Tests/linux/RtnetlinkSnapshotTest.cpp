@@ -166,6 +166,20 @@ TEST_F(NetworkLinks, AListThatIsInterruptedEachTimeIsNeverTakenAsWhole) {
     }
 }
 
+TEST_F(NetworkLinks, ARefusalOfTheKernelIsToldByItsNumber) {
+    for (const int refusal : {EPERM, EACCES, ENOMEM, EAFNOSUPPORT, EIO}) {
+        const RewrittenNetlink rewritten([refusal](nlmsghdr& message) {
+            if (message.nlmsg_type == RTM_NEWLINK) {
+                message.nlmsg_type = NLMSG_ERROR;
+                static_cast<nlmsgerr*>(NLMSG_DATA(&message))->error = -refusal;
+            }
+        });
+        errno = 0;
+        EXPECT_FALSE(readNetworkLinks().has_value());
+        EXPECT_EQ(errno, refusal);
+    }
+}
+
 TEST_F(NetworkLinks, RoutesThatWereInterruptedAreNotAllRoutes) {
     network.addAddress("kx0", "192.0.2.1/24");
     network.ip("route add default via 192.0.2.254 dev kx0");

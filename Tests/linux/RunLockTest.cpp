@@ -2,9 +2,11 @@
 #include "platform/linux/LinuxRunLock.h"
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <csignal>
 
 namespace kx {
@@ -78,6 +80,17 @@ TEST_F(LinuxRunLockTest, TellsWhichProcessHasItAndIsFreeWhenThatWasKilled) {
     EXPECT_EQ(refusal().holder, child.process);
     kill(child.process);
     EXPECT_NE(taken(), nullptr);
+}
+
+TEST_F(LinuxRunLockTest, WithoutADescriptorTheReasonIsTold) {
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &before), 0);
+    rlimit none = before;
+    none.rlim_cur = 0;
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    const RunLockRefusal refused = refusal();
+    ::setrlimit(RLIMIT_NOFILE, &before);
+    EXPECT_EQ(refused.error, posixError(EMFILE));
 }
 
 TEST_F(LinuxRunLockTest, IsNotGivenToOneUserWhileAnotherHasIt) {

@@ -159,6 +159,14 @@ TEST_F(HelpViewerTest, LinksAreReadableWhereADarkPaletteHasNoColourForThem) {
         << link.name().toStdString();
 }
 
+TEST_F(HelpViewerTest, TheFieldToFindATextStandsBesideTheButtonsAndAboveThePage) {
+    const auto& field = *viewer->findChild<QLineEdit*>("helpFindField");
+    const QPushButton& contents = button("helpContentsButton");
+    EXPECT_GT(field.x(), contents.geometry().right());
+    EXPECT_LE(field.geometry().bottom(), pages().y());
+    EXPECT_GT(field.geometry().bottom(), contents.y());
+}
+
 TEST_F(HelpViewerTest, FindsATextInThePageAndGoesOnAtItsOtherEnd) {
     folder.addPage("words", "<p>one two</p><p>three Two</p>");
     viewer->showPage("words", "Help");

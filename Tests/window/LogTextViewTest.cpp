@@ -203,6 +203,15 @@ TEST_F(LogTextViewTest, ALineThatBeginsFromRightToLeftStillBeginsAtTheLeft) {
     EXPECT_EQ(selected(), "שלום unit 42\nunit 42 שלום");
 }
 
+TEST_F(LogTextViewTest, WhatIsSelectedComesIntoSight) {
+    showAppended(numberedLines(500));
+    view.select(4, 0);
+    EXPECT_TRUE(view.viewport()->rect().contains(pointAt(0)));
+    const std::size_t end = view.text().size();
+    view.select(0, end);
+    EXPECT_TRUE(view.viewport()->rect().contains(pointAt(end))) << "where the caret is";
+}
+
 TEST_F(LogTextViewTest, ShowsTheColoursOfThePalette) {
     view.setText(LogText("some text\nmore text"));
     view.select(0, 9);

@@ -12,8 +12,7 @@ FromFileTable::FromFileTable(FromFileModel& model, QWidget* parent)
     : RowTableView(model, parent) {
     fitToFont();
     // A reset of the model takes the current row away without a word.
-    connect(&model, &QAbstractItemModel::modelReset, this,
-            [this] { emit currentRowDidChange(-1); });
+    connect(&model, &QAbstractItemModel::modelReset, this, &FromFileTable::currentRowDidChange);
 }
 
 QStringList FromFileTable::widestTextsOf(int column) const {
@@ -53,7 +52,7 @@ int FromFileTable::usefulWidth() const {
 
 void FromFileTable::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
     RowTableView::currentChanged(current, previous);
-    emit currentRowDidChange(current.row());
+    emit currentRowDidChange();
 }
 
 } // namespace kx

@@ -18,7 +18,7 @@ public:
     int usefulWidth() const;
 
 signals:
-    void currentRowDidChange(int row);
+    void currentRowDidChange();
 
 protected:
     QStringList widestTextsOf(int column) const override;

@@ -15,6 +15,7 @@
 #include <cerrno>
 #include <map>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -165,6 +166,18 @@ TEST_F(EvidenceSearchTest, AListenerThatMustNotSendSendsNothing) {
     EXPECT_EQ(search->evidence().listener.ownBroadcast, OwnBroadcast::heard);
 }
 
+TEST_F(EvidenceSearchTest, AListenerThatAskedMeanwhileIsToldFromOneWhoseRequestWasRefused) {
+    EXPECT_TRUE(found().listener.hasAskedNow);
+    question.ask = [this] {
+        calls.failNext(ScriptedSystemCalls::Operation::sendTo, EPERM);
+        ask();
+    };
+    EXPECT_FALSE(found().listener.hasAskedNow);
+    EXPECT_TRUE(search->evidence().listener.hasAsked);
+    question.ask = {};
+    EXPECT_FALSE(found().listener.hasAskedNow) << "it has asked, but before";
+}
+
 TEST_F(EvidenceSearchTest, OnAnotherPortTheOwnBroadcastIsSentThere) {
     listen(3522);
     EXPECT_EQ(found().listener.ownBroadcast, OwnBroadcast::heard);
@@ -191,6 +204,23 @@ TEST_F(EvidenceSearchTest, NeighboursAreAskedWhenNobodyAnswers) {
     EXPECT_EQ(causes(), std::vector<Cause>{Cause::firewallUnicastOnly});
     EXPECT_EQ(sentTo(nearAddress), 1U) << "it has answered the first one";
     EXPECT_EQ(sentTo(farAddress), 0U) << "it is not in the interface's network";
+}
+
+TEST_F(EvidenceSearchTest, OfManyNeighboursSixteenAreAsked) {
+    units.clear();
+    linkUnits.clear();
+    for (std::uint32_t number = 0; number < 20; ++number) {
+        neighbours.entries[nearAddress + number] = {.state = NeighbourState::stale,
+                                                    .hardwareAddress = "00:1A:2B:3C:4D:5E"};
+    }
+    found();
+    std::set<std::uint32_t> asked;
+    for (const Sent& each : sockets.sent) {
+        if (each.address >= nearAddress && each.address < nearAddress + 20) {
+            asked.insert(each.address);
+        }
+    }
+    EXPECT_EQ(asked.size(), 16U);
 }
 
 TEST_F(EvidenceSearchTest, NeighboursAreLeftAloneWhenUnitsAnswer) {

@@ -169,8 +169,9 @@ TEST_F(ListenerWitnessTest, RequestsOfAnotherListenerOfTheProgramAreTakenOutAndN
     EXPECT_EQ(receive(request, unitAddress, 3521), request) << "of another host";
     EXPECT_EQ(receive(textBytes("^^IdZ"), listenersAddress, 3521), textBytes("^^IdZ"))
         << "no request for parameters";
-    witness.passOverRequestsFrom(0, {});
+    witness.passOverRequestsFrom(0, own);
     EXPECT_EQ(receive(request, listenersAddress, 3521), request);
+    EXPECT_EQ(receive(request, listenersAddress, 0), request) << "RFC 768 allows port 0";
 }
 
 } // namespace kx

@@ -121,6 +121,20 @@ TEST_F(PlanRunFaultsTest, AUnitThatDoesNotAnswerForItsNewAddressIsHalf) {
     EXPECT_TRUE(bindings.entries.empty());
 }
 
+TEST_F(PlanRunFaultsTest, WhoeverAnswersForTheNewAddressInTheUnitsPlaceIsNamed) {
+    addUnits(1, 1);
+    unit(1).answersARP = false;
+    begin(planOf({row(2, 1, move(9))}));
+    for (int step = 0; step < 1000 && commands() == 0; ++step) {
+        runLoop.advanceBy(1ms);
+    }
+    foreignHosts[PlayedUnit::numberOf(octetsOf(9))] = "AA:BB:CC:DD:EE:FF";
+    finish();
+    EXPECT_EQ(states(), States{RowState::half});
+    EXPECT_EQ(reason(0).objection, RowObjection::foreignAnswer);
+    EXPECT_EQ(reason(0).others, std::vector<std::string>{"AA:BB:CC:DD:EE:FF"});
+}
+
 TEST_F(PlanRunFaultsTest, ACommandThatTheNetworkRefusesRefusesItsRow) {
     addUnits(1, 2);
     begin(planOf({row(2, 1, {})}));

@@ -29,6 +29,7 @@ TEST(ParameterNumber, SixBytesAreANumberWithTheFirstMostSignificant) {
     EXPECT_EQ(numberOfSixBytes("01 02 03 04 05 06"), 0x010203040506U);
     EXPECT_EQ(numberOfSixBytes("01:02:03:04:05:06"), 0x010203040506U);
     EXPECT_EQ(numberOfSixBytes(std::nullopt), 0U);
+    EXPECT_EQ(numberOfSixBytes(std::string_view("01 02").substr(0, 4)), 0x01U) << "half a byte";
     EXPECT_EQ(textOfSixBytes(0x010203040506U, ""), "010203040506");
 }
 

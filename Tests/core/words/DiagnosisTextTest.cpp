@@ -51,6 +51,15 @@ TEST(DiagnosisText, EachCheckHasATitleAndEvidenceInEachState) {
     }
 }
 
+TEST(DiagnosisText, AnInterfaceIsSaidToCarryDatagramsOrNotToBroadcast) {
+    const auto evidence = healthyEvidence();
+    const auto textOf = [&evidence](CheckState state) {
+        return evidenceOfCheck({.kind = CheckKind::link, .state = state}, evidence);
+    };
+    EXPECT_EQ(textOf(CheckState::ok), "The interface kx0 carries datagrams.");
+    EXPECT_EQ(textOf(CheckState::fail), "The interface kx0 cannot broadcast.");
+}
+
 TEST(DiagnosisText, NamesWhatItHasFound) {
     EXPECT_EQ(sentenceOf(Cause::noLink), "The interface kx0 has no link.");
     EXPECT_EQ(sentenceOf(Cause::firewall),

@@ -146,6 +146,11 @@ TEST_F(ActiveConnections, WhatNetworkManagerMadeUpIsNoProfile) {
     EXPECT_EQ(read(), Profiles());
 }
 
+TEST_F(ActiveConnections, AProfileWithoutANameIsLeftOut) {
+    connection()["Id"] = "";
+    EXPECT_EQ(read(), Profiles());
+}
+
 TEST_F(ActiveConnections, AConnectionWithoutADeviceIsLeftOut) {
     connection()["Devices"] = Paths();
     EXPECT_EQ(read(), Profiles());
