@@ -49,6 +49,14 @@ class NoTimeLeft(Exception):
     """The time is over before the tests are."""
 
 
+class SharedFolder(tempfile.TemporaryDirectory):
+    """A temporary folder for programs that tests run as other users, too."""
+
+    def __init__(self, **options):
+        super().__init__(**options)
+        os.chmod(self.name, 0o755)
+
+
 def run(command, seconds, **options):
     """Runs a command with all that it starts. The status, or None after so many seconds, and the output."""
     with tempfile.TemporaryFile() as output:
@@ -168,7 +176,7 @@ class Build:
                                  stdout=subprocess.PIPE, check=True)
         descriptions = json.loads(listing.stdout)["tests"]
         self.end = time.monotonic() + seconds
-        self._anew = tempfile.TemporaryDirectory()
+        self._anew = SharedFolder()
         self._programs = {name: Program(self.folder / "bin" / name, descriptions, functools.partial(
             self.link, name, {}, pathlib.Path(self._anew.name) / name), self.end) for name in PROGRAMS}
         entries = json.loads((self.folder / "compile_commands.json").read_text(encoding="utf-8"))
