@@ -1,8 +1,7 @@
 // The log view as a screen reader sees it.
 
+#include "LogTextViewFixture.h"
 #include "ScreenReader.h"
-#include "platform/qt/LogTextView.h"
-#include "platform/qt/QtText.h"
 
 #include <gtest/gtest.h>
 
@@ -124,6 +123,19 @@ TEST_F(LogAccessibilityTest, AnnouncesWhatAFrameAddedWhileAScreenReaderListens) 
                                    "removed: Ä😀 one\ntwo words\nthree\nfour and five",
                                    "inserted at 0: new",
                                }));
+}
+
+TEST_F(LogAccessibilityTest, AnnouncesTheOldestLinesThatGoAndTheLineInTheirPlace) {
+    LogText limited;
+    limited.setLimit(131'072, "Older lines are gone.");
+    limited.append(numberedLines(12'000));
+    view.setText(limited);
+    announcements().clear();
+    const ScreenReader listening(&recordAnnouncement);
+    view.append("\n" + numberedLines(7000));
+    ASSERT_GE(announcements().size(), 2U);
+    EXPECT_EQ(announcements()[0].substr(0, 23), "removed: line 0\nline 1\n");
+    EXPECT_EQ(announcements()[1], "inserted at 0: Older lines are gone.\n");
 }
 
 } // namespace kx
