@@ -98,7 +98,7 @@ std::size_t lengthInCharacters(std::string_view text) {
 
 FrontCharacter characterAtFrontOf(ByteView bytes) {
     constexpr char32_t beyondUnicode = 0x110000;
-    constexpr std::array<std::uint8_t, 5> valueBitsOfFirstByte{0, 0x7F, 0x1F, 0x0F, 0x07};
+    constexpr auto valueBitsOfFirstByte = std::to_array<std::uint8_t>({0, 0x7F, 0x1F, 0x0F, 0x07});
     const std::size_t length = sequenceLength(bytes);
     if (length == 0) {
         return {beyondUnicode + bytes[0], 1};

@@ -1,6 +1,7 @@
 // The neighbour table and the ARP probes on real links.
 
 #include "PrivateNetwork.h"
+#include "WithoutNetlink.h"
 #include "addresses/IPv4Address.h"
 #include "platform/linux/LinuxAddressProbes.h"
 #include "platform/linux/LinuxNeighbourTable.h"
@@ -73,6 +74,15 @@ TEST_F(AddressHoldersOnLinks, EntriesThatTheSystemDoesNotGiveUpAreCounted) {
         setEntry("lladdr 02:4b:58:00:00:01 nud " + std::string(word));
         EXPECT_EQ(table.entriesInUse() - before, isInUse ? 1U : 0U) << word;
     }
+}
+
+TEST_F(AddressHoldersOnLinks, WhereTheKernelCannotBeAskedNothingIsKnown) {
+    withoutNetlink([this] {
+        LinuxNeighbourTable deaf;
+        EXPECT_EQ(deaf.entriesInUse(), 0U);
+        EXPECT_TRUE(deaf.knownAddresses(link).empty());
+        EXPECT_FALSE(deaf.entry(nearAddress, link).has_value());
+    });
 }
 
 TEST_F(AddressHoldersOnLinks, AnEntryIsForgottenUnlessSomebodyHasEnteredItByHand) {

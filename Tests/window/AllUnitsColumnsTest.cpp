@@ -5,6 +5,7 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QPushButton>
+#include <QScrollBar>
 
 namespace kx {
 
@@ -48,6 +49,26 @@ protected:
 };
 
 } // namespace
+
+TEST_F(AllUnitsColumns, AllOfThemAreSeenInAWindowThatIsWideEnough) {
+    for (std::uint32_t number = 1; number <= 100; ++number) {
+        hear(heardUnit(number));
+    }
+    open();
+    AllUnitsView alone(model());
+    alone.resize(alone.wholeWidth(), 300);
+    alone.show();
+    ASSERT_TRUE(alone.verticalScrollBar()->isVisible());
+    EXPECT_EQ(alone.horizontalScrollBar()->maximum(), 0);
+    alone.resize(alone.wholeWidth() - 10, 300);
+    EXPECT_GT(alone.horizontalScrollBar()->maximum(), 0);
+}
+
+TEST_F(AllUnitsColumns, BeyondTheLastOneThereIsNoTitle) {
+    const int count = model().columnCount();
+    EXPECT_TRUE(model().headerData(count - 1, Qt::Horizontal, Qt::DisplayRole).isValid());
+    EXPECT_FALSE(model().headerData(count, Qt::Horizontal, Qt::DisplayRole).isValid());
+}
 
 TEST_F(AllUnitsColumns, AClickOnAHeadSortsAndAnotherTurnsTheOrder) {
     HeardUnit tenth = heardUnit(10);

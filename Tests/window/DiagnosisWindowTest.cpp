@@ -224,6 +224,9 @@ TEST_F(DiagnosisWindowTest, ItIsCopiedAsText) {
     QTest::mouseClick(&part<QPushButton>("copyChecksButton"), Qt::LeftButton);
     EXPECT_EQ(QApplication::clipboard()->text().toStdString(), diagnosis.text());
     EXPECT_TRUE(QApplication::clipboard()->text().contains("Link\tFine\t"));
+    EXPECT_TRUE(part<QLabel>("diagnosisHeading")
+                    .textInteractionFlags()
+                    .testFlag(Qt::TextSelectableByMouse));
 }
 
 TEST_F(DiagnosisWindowTest, HelpOpensAndEscapeClosesAndNothingGoesOn) {

@@ -54,6 +54,12 @@ TEST_F(EditCommandsTest, TheContextMenusOfBothTablesOfferCopy) {
     EXPECT_TRUE(ofParameters.contains(&control<QAction>("copyParametersAction")));
 }
 
+TEST_F(EditCommandsTest, TheLogOffersFind) {
+    launch();
+    const QList<QAction*> ofLog = control<QWidget>("logTextView").actions();
+    EXPECT_TRUE(ofLog.contains(&control<QAction>("findAction")));
+}
+
 TEST_F(EditCommandsTest, ARightClickSelectsTheRowThatCopyThenTakes) {
     launchWithTwoUnits();
     auto& table = control<QTableView>("unitParameterTableView");

@@ -62,7 +62,7 @@ void AnnouncedLabel::timerEvent(QTimerEvent* event) {
         return;
     }
     _rest.stop();
-    if (isVisible() && !text().isEmpty()) {
+    if (isVisible()) {
         QAccessibleEvent appeared(this, QAccessible::ObjectShow);
         QAccessible::updateAccessibility(&appeared);
     }

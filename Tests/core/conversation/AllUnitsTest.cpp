@@ -107,6 +107,9 @@ TEST_F(AllUnitsTest, AUnitThatAnswersAgainKeepsItsNumberAndHasItsNewValues) {
     EXPECT_EQ(units.row(0).text(UnitParameter::devicePortNumber), "10001");
     EXPECT_EQ(units.row(0).sender, 0xC0000263U);
     EXPECT_EQ(units.row(0).heard, std::chrono::system_clock::time_point(1500ms));
+    now = 2500ms;
+    units.unitDidAnswer(sampleSerial(1), 0xC0000263U, 2);
+    EXPECT_EQ(units.row(0).heard, std::chrono::system_clock::time_point(2500ms));
 }
 
 TEST_F(AllUnitsTest, ARecordWithoutASerialNumberIsNoUnit) {

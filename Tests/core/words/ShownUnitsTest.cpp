@@ -57,6 +57,15 @@ TEST_F(ShownUnitsTest, UnitsStandInTheOrderOfTheirSerialNumbers) {
     EXPECT_EQ(numbers(), (Numbers{0, 1, 2, 3}));
 }
 
+TEST_F(ShownUnitsTest, UnitsThatAreHeardTogetherComeInAtTheirPlaces) {
+    hear(5);
+    EXPECT_EQ(numbers(), Numbers{5});
+    for (const std::uint32_t number : {9U, 7U, 3U, 8U}) {
+        hear(number);
+    }
+    EXPECT_EQ(numbers(), (Numbers{3, 5, 7, 8, 9}));
+}
+
 TEST_F(ShownUnitsTest, AddressesAreSortedAsSuchInEitherDirection) {
     for (const std::uint32_t number : {100U, 9U, 10U}) {
         hear(number);

@@ -125,4 +125,15 @@ TEST(UnitPlanText, AUnitThatOnlyLacksItsARPAnswerHasTakenAllValues) {
                                 "02:4B:58:00:00:09 answers ARP requests for it.");
 }
 
+TEST(UnitPlanText, TheTimeThatIsLeftFollowsFromTheUnitsThatHaveEnded) {
+    using std::chrono::seconds;
+    EXPECT_EQ(textOfTimeLeft(seconds(10), 0, 20), "");
+    EXPECT_EQ(textOfTimeLeft(seconds(10), 5, 20), "about 31 s left");
+    EXPECT_EQ(textOfTimeLeft(seconds(10), 19, 20), "about 1 s left");
+    EXPECT_EQ(textOfTimeLeft(seconds(89), 1, 2), "about 90 s left");
+    EXPECT_EQ(textOfTimeLeft(seconds(90), 1, 2), "about 2 min left");
+    EXPECT_EQ(textOfTimeLeft(seconds(149), 1, 2), "about 3 min left");
+    EXPECT_EQ(textOfTimeLeft(seconds(10), 20, 20), "");
+}
+
 } // namespace kx
