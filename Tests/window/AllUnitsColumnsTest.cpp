@@ -122,6 +122,14 @@ TEST_F(AllUnitsColumns, ColumnsAreHiddenAndShownByTheMenuOfAButton) {
     EXPECT_EQ(shown().size(), unitColumnCount);
 }
 
+TEST_F(AllUnitsColumns, TheKeyboardStaysInItsColumnWhenAnotherOneIsHidden) {
+    openFour();
+    goTo(UnitColumn::state);
+    const QModelIndex before = table().currentIndex();
+    chooseItem("Unit ID");
+    EXPECT_EQ(table().currentIndex(), before);
+}
+
 TEST_F(AllUnitsColumns, TheLastColumnStays) {
     openFour();
     for (const UnitColumn column : table().shownColumns()) {

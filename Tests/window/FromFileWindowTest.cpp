@@ -60,6 +60,7 @@ TEST_F(FromFileWindowTest, TheChosenFileIsShownAsAPlan) {
     ASSERT_TRUE(QTest::qWaitFor([] { return panel() != nullptr; }));
     choose(table(1, 2));
     EXPECT_TRUE(control<QProgressBar>("fromFileProgress").isVisible());
+    EXPECT_GT(control<QProgressBar>("fromFileProgress").y(), shownTable().geometry().bottom());
     EXPECT_TRUE(button("fromFileStopButton").isEnabled());
     settle();
     EXPECT_EQ(label("fromFileName"), folder + "/rack.csv");

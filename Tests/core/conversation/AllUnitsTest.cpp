@@ -210,6 +210,17 @@ TEST_F(AllUnitsTest, TwoUnitsOfOneAddressAreMarked) {
     EXPECT_EQ(states(), (States{answered, answered, answered})) << "it has moved away";
 }
 
+TEST_F(AllUnitsTest, NoHardwareAddressIsNotOneOfZeros) {
+    HeardUnit without = heardUnit(1);
+    without.record.removeValue(UnitParameter::internalMACAddress);
+    units.unitDidTell(without);
+    HeardUnit zeros = heardUnit(2);
+    zeros.record.setValue(UnitParameter::internalMACAddress, "00:00:00:00:00:00");
+    zeros.record.setValue(UnitParameter::internalIPAddress, "192.0.2.1");
+    units.unitDidTell(zeros);
+    EXPECT_EQ(states(), (States{sharesAddress, sharesAddress}));
+}
+
 TEST_F(AllUnitsTest, TwoHostsOfOneSerialNumberAreTwoUnitsThatAreMarked) {
     hear(1);
     units.unitDidTell(impostor());

@@ -67,7 +67,7 @@ TEST_F(SpreadsheetText, MarksOfTheSpreadsheetStandInThePlaceOfAValue) {
          {"#REF!", "#NAME?", "#N/A", "#NV", "#DIV/0!", "#WERT!", "#ÜBERLAUF!", "Err:508"}) {
         EXPECT_EQ(sightOfSpreadsheet(cell), spreadsheetError) << cell;
     }
-    for (const char* cell : {"#", "##", "#1", "#A!", "A#REF!", "Err:", "Err:A", ""}) {
+    for (const char* cell : {"#", "##", "#1", "#A!", "#RACK7", "A#REF!", "Err:", "Err:A", ""}) {
         EXPECT_EQ(sightOfSpreadsheet(cell), std::nullopt) << cell;
     }
 }
