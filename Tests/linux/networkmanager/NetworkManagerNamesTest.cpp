@@ -151,6 +151,7 @@ TEST_F(NetworkManagerNames, AnAddressThatTheKernelHasLostIsLostThoughItsProfileI
                                  .address = addressOfInterface(sources->configuration, "kx0")};
     EXPECT_EQ(faultOfInterface(sources->configuration, chosen, true), std::nullopt);
     EXPECT_TRUE(broadcastCanLeave(sources->configuration, "kx0", ipForString("192.0.2.255")));
+    host.networkManager->hang(); // it would hear of it, and take the address out of the profile
     host.network.ip("address flush dev kx0");
     EXPECT_EQ(sources->choice("Office (kx0)"), "192.0.2.5/255.255.255.0");
     EXPECT_EQ(faultOfInterface(sources->configuration, chosen, true),
