@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 namespace {
 
 // Enough to see whether answers to single requests come in.
-constexpr std::size_t mostNeighbours = 16;
+constexpr std::size_t mostNeighbours = 32;
 
 // Enough to find a wrong entry among the units of a rack, and soon done.
 constexpr std::size_t mostComparedUnits = 256;
